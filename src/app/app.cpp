@@ -1,0 +1,26 @@
+#include "app/app.h"
+
+namespace app {
+
+void setDocumentModified(App& app, bool modified) {
+    app.document.bModified = modified;
+    app.mainFrm.panels[documentPanel] = modified ? "Document Modified" : "Document Saved";
+}
+
+void showRecordCount(App& app, const core::RecordsList& list) {
+    app.mainFrm.panels[recordsPanel] = std::to_string(list.count() - 1) + " records.";
+}
+
+void inform(App& app, const std::string& text) {
+    app.platform.msgBox(text, platform::Icon::Information, title);
+}
+
+void warn(App& app, const std::string& text) {
+    app.platform.msgBox(text, platform::Icon::Exclamation, title);
+}
+
+bool askYesNo(App& app, const std::string& text, platform::Icon icon) {
+    return app.platform.msgBox(text, icon, title, platform::Buttons::YesNo) == platform::Answer::Yes;
+}
+
+} // namespace app

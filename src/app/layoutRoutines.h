@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace app {
+
+// What the layout page does for other subsystems; declared here and defined in layout/ and entry/, which
+// build on them.
+
+// Shows the current record on the layout page anew, when that page is in front.
+void refreshShownRecord(App& app);
+
+} // namespace app

@@ -1,0 +1,75 @@
+#include "app/windowState.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace app {
+
+namespace {
+
+// What follows the document state alone.
+constexpr std::string_view documentControls[] = {
+    "Save",       "Print",   "PageSetup", "Search",       "Totals",           "Formulas",
+    "Properties", "Design",  "mnuClone",  "mnuEmail",     "mnuCleanDatabase", "mnuSave",
+    "mnuSaveAs",  "mnuEdit", "mnuPrint",  "mnuPageSetup", "mnuTools",         "mnuOptions"};
+
+constexpr std::string_view layoutPrints[] = {"All_As_Layouts", "Selected_As_Layouts"};
+constexpr std::string_view multiplePrints[] = {
+    "Print_All_As_Multiple_Layouts", "Print_Selected_Multiple_Layouts", "Multiple_Layout_Preview_All",
+    "Multiple_Layout_Preview_Selected"};
+
+} // namespace
+
+void enableControls(App& app, bool bEnable) {
+    MainFrm& mainFrm = app.mainFrm;
+    const core::Document& document = app.document;
+    for (const std::string_view key : documentControls) mainFrm.control(key).Enabled = bEnable;
+    mainFrm.SSTab1Enabled = bEnable;
+
+    const bool standard = !document.bInvoiceStyle;
+    const bool itemView = document.bInvoiceStyle && document.bInvoiceView;
+    mainFrm.control("Delete").Enabled = standard ? bEnable : !itemView;
+    for (const std::string_view key : layoutPrints) mainFrm.control(key).Enabled = standard || !itemView;
+    for (const std::string_view key : multiplePrints) mainFrm.control(key).Enabled = standard;
+    mainFrm.control("mnuDuplicate").Enabled = standard;
+    mainFrm.invoiceFrameVisible = document.bInvoiceStyle;
+    if (!bEnable) mainFrm.Caption = title;
+}
+
+std::string fileSizeText(unsigned long long bytes) {
+    const std::string digits = std::to_string(bytes);
+    if (bytes >= 10'000'000) return digits.substr(0, 2) + " MB";
+    if (bytes >= 1'000'000) return digits.substr(0, 1) + " MB";
+    if (bytes >= 100'000) return digits.substr(0, 3) + " KB";
+    if (bytes >= 10'000) return digits.substr(0, 2) + " KB";
+    if (bytes >= 1'000) return digits.substr(0, 1) + " KB";
+    return digits + " bytes.";
+}
+
+void showFileSize(App& app) {
+    std::error_code error;
+    const auto bytes = std::filesystem::file_size(app.document.currentFile, error);
+    if (!error) app.mainFrm.panels[fileSizePanel] = "Filesize: " + fileSizeText(bytes);
+}
+
+void showCaption(App& app) {
+    app.mainFrm.Caption = title;
+    if (!app.document.currentFile.empty()) app.mainFrm.Caption += " - " + app.document.currentFile;
+}
+
+void enableTabButtons(App& app) {
+    const bool onReport = app.mainFrm.SSTab1 == reportTab;
+    for (const std::string_view key : {"Totals", "Properties", "Delete"})
+        app.mainFrm.control(key).Enabled = onReport;
+}
+
+void showReportTab(App& app) {
+    if (app.mainFrm.SSTab1 == reportTab) return;
+    app.mainFrm.SSTab1 = reportTab;
+    app.mainFrm.iPrintMode = printReport;
+    app.mainFrm.theListView->MultiSelect = true;
+    app.mainFrm.invoiceFrameVisible = app.document.bInvoiceStyle;
+    enableTabButtons(app);
+}
+
+} // namespace app

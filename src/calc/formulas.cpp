@@ -1,0 +1,124 @@
+#include "calc/formulas.h"
+
+#include "calc/evaluator.h"
+#include "core/currency.h"
+#include "core/format.h"
+#include "core/number.h"
+#include "core/runTimeError.h"
+#include "core/text.h"
+
+namespace calc {
+
+using core::CellText;
+using core::Column;
+using core::Item;
+using core::RecordsList;
+
+Formula::Formula(std::string_view text) : entry(core::rtrim(text)) {
+    const std::vector<std::string_view> parts = core::split(entry, ',');
+    name = parts[0];
+    if (parts.size() > 1) expression = core::rtrim(parts[1]);
+}
+
+std::vector<std::string_view> Formula::tokens() const {
+    return core::split(expression, ' ');
+}
+
+void SortFormulas(std::vector<std::string>& formulas) {
+    for (std::size_t i = formulas.size(); i-- > 0;) {
+        for (std::size_t j = 1; j <= i; ++j) {
+            // The name is taken afresh each time, since an exchange has brought another entry here.
+            const std::string name = formulas[i].substr(0, formulas[i].find(','));
+            if (formulas[j - 1].find(name) != std::string::npos) std::swap(formulas[j - 1], formulas[i]);
+        }
+    }
+}
+
+std::string resultText(double result, bool bDecimal) {
+    std::string text = core::numberText(result);
+    if (bDecimal || text.find('.') != std::string::npos) return core::format(result, core::Mask::Money);
+    return text;
+}
+
+void reportCalculationError(app::App& app) {
+    app.mainFrm.bCalcError = true;
+    app::warn(app, "An error has occured during one of your calculations.  It appears that an expression is "
+                   "incorrectly defined.  Please check your syntax.");
+}
+
+RowCalculator::RowCalculator(app::App& app, RecordsList& list) : app_(app) {
+    for (const auto& entry : app.document.formulas) {
+        const Formula formula(entry.item);
+        Prepared prepared;
+        prepared.name = formula.name;
+        prepared.isUndefined = formula.isUndefined();
+        prepared.target = list.columns.find(formula.name);
+        for (const std::string_view text : formula.tokens()) {
+            Token token;
+            token.text = text;
+            if (const Column* column = list.columns.find(text)) {
+                token.subItem = column->Index - 1;
+                token.isIndex = column->Index == 1;
+                token.isCurrency = column->isType(core::ColumnType::Currency);
+            }
+            prepared.tokens.push_back(token);
+        }
+        formulas_.push_back(std::move(prepared));
+    }
+}
+
+bool RowCalculator::calculate(Item& row) {
+    // Errors end in the message from the first evaluation on; before it they are the program's end.
+    bool armed = false;
+    for (const Prepared& formula : formulas_) {
+        try {
+            if (formula.target == nullptr)
+                core::raise(core::errors::elementNotFound, std::string(formula.name));
+            CellText& cell = RecordsList::cell(row, *formula.target);
+            if (formula.isUndefined) {
+                cell = undefined;
+                continue;
+            }
+            joinTokens(formula, row);
+            armed = true;
+            evaluateInto(cell);
+        } catch (const core::RunTimeError&) {
+            if (!armed) throw;
+            reportCalculationError(app_);
+            return false;
+        }
+    }
+    return true;
+}
+
+void RowCalculator::joinTokens(const Prepared& formula, const Item& row) {
+    bDecimal_ = false;
+    joined_.clear();
+    for (const Token& token : formula.tokens) {
+        if (token.subItem == 0 && !token.isIndex) {
+            joined_ += token.text;
+            continue;
+        }
+        if (token.isCurrency) bDecimal_ = true;
+        const std::string_view operand =
+            core::trim(token.isIndex ? row.Text.view() : row.subItem(token.subItem).view());
+        if (operand.find('.') != std::string_view::npos) bDecimal_ = true;
+        // A cell that is no number leaves the column's name, which is worth 0.
+        if (core::isNumeric(operand))
+            joined_ += core::Currency::parse(operand).text();
+        else
+            joined_ += token.text;
+    }
+}
+
+void RowCalculator::evaluateInto(CellText& cell) {
+    const double result = evaluate(joined_);
+    if (joined_.find('.') != std::string::npos) bDecimal_ = true;
+    cell = resultText(result, bDecimal_);
+}
+
+void CalculateRow(app::App& app, int rowIndex, RecordsList& list) {
+    RowCalculator(app, list).calculate(list.at(rowIndex));
+}
+
+} // namespace calc

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "app/app.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace calc {
+
+// The word that stands for a missing expression, and in the cells that such a column has.
+constexpr std::string_view undefined = "Undefined";
+
+// One entry of the document's formulas: "Name,Expression". What stands behind a second comma does
+// not count.
+struct Formula {
+    explicit Formula(std::string_view entry);
+
+    std::string_view entry; // right-trimmed
+    std::string_view name;
+    std::string_view expression; // right-trimmed
+    std::vector<std::string_view> tokens() const;
+    bool isUndefined() const { return entry.find(undefined) != std::string_view::npos; }
+};
+
+// Brings the formulas into the order of evaluation. It is one exchange pass and no full sort by
+// dependency; files depend on the order that it gives.
+void SortFormulas(std::vector<std::string>& formulas);
+
+// The cell of a result: money as soon as a fraction or a currency is in it, else the plain number.
+std::string resultText(double result, bool bDecimal);
+
+// Works out every formula for one record at a time. The columns and the tokens are looked up once,
+// in the order and with the errors that looking them up record by record has.
+class RowCalculator {
+public:
+    RowCalculator(app::App& app, core::RecordsList& list);
+
+    // Writes the results into the row's cells. False, after the message, when a formula failed: its
+    // cell stays as it was and the formulas behind it are not worked out. A formula for a column that
+    // is not there raises elementNotFound as long as nothing has been evaluated in the row.
+    bool calculate(core::Item& row);
+
+private:
+    struct Token {
+        std::string_view text;
+        int subItem = 0; // of the column that it names; 0 for none
+        bool isCurrency = false;
+        bool isIndex = false; // names the hidden column, whose cell is the sort key
+    };
+    struct Prepared {
+        std::string_view name;
+        bool isUndefined = false;
+        const core::Column* target = nullptr;
+        std::vector<Token> tokens;
+    };
+
+    void joinTokens(const Prepared& formula, const core::Item& row);
+    void evaluateInto(core::CellText& cell);
+
+    app::App& app_;
+    std::vector<Prepared> formulas_;
+    std::string joined_;
+    bool bDecimal_ = false; // the result is shown as money
+};
+
+// One row of a standard database; the flag bCalcError is set when it failed.
+void CalculateRow(app::App& app, int rowIndex, core::RecordsList& list);
+
+// Tells that an expression is wrong, and remembers it for a recalculation of all rows.
+void reportCalculationError(app::App& app);
+
+} // namespace calc

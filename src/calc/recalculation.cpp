@@ -1,0 +1,78 @@
+#include "calc/recalculation.h"
+
+#include "app/hourglass.h"
+#include "app/invoiceRoutines.h"
+#include "app/layoutRoutines.h"
+#include "calc/formulas.h"
+#include "core/number.h"
+#include "core/totalsRow.h"
+
+namespace calc {
+
+namespace {
+
+using app::App;
+using core::Item;
+using core::RecordsList;
+
+// Shows the percentage, and paints it when it has gone up by enough to be seen: painting each of
+// thousands of rows would take longer than the calculation.
+class Progress {
+public:
+    Progress(App& app, int count) : app_(app), count_(count) {}
+
+    void show(int index) {
+        const int percent = static_cast<int>(core::roundHalfEven(100.0 * index / count_));
+        if (percent == shown_) return;
+        shown_ = percent;
+        app_.mainFrm.panels[app::calculationPanel] =
+            "Recalculating... " + std::to_string(percent) + " percent.";
+        if (percent < painted_ + paintStep) return;
+        painted_ = percent;
+        app_.platform.paintStatus();
+    }
+
+private:
+    static constexpr int paintStep = 4; // percent
+
+    App& app_;
+    int count_;
+    int shown_ = -1;
+    int painted_ = -paintStep;
+};
+
+} // namespace
+
+void RecalculateAll(App& app, RecordsList& list) {
+    core::resetTotalsRow(list);
+    Progress progress(app, list.count());
+    RowCalculator calculator(app, list);
+    const core::TotalsRowUpdater totals(app.document, list);
+    for (int index = 1; index <= list.count(); ++index) {
+        Item& row = list.at(index);
+        if (row.isTotals()) continue;
+        progress.show(index);
+        if (app.document.bInvoiceStyle)
+            app::calculateInvoice(app, list, index);
+        else
+            calculator.calculate(row);
+        if (app.mainFrm.bCalcError) {
+            app.mainFrm.bCalcError = false;
+            app::warn(app,
+                      "During a recalculate all rows event your columns were not able to be recalculated due "
+                      "to a syntax error with one of your defined expressions.");
+            return;
+        }
+        totals.update(core::TotalsMode::Add, row);
+    }
+    app.mainFrm.panels[app::calculationPanel] = "Done.";
+}
+
+void recalculateAfterDialog(App& app) {
+    const app::Hourglass hourglass(app);
+    RecalculateAll(app, app.document.LV);
+    app::refreshShownRecord(app);
+    app::rebuildInvoiceView(app);
+}
+
+} // namespace calc

@@ -1,0 +1,157 @@
+#include "entry/editRecord.h"
+
+#include "calc/formulas.h"
+#include "calc/serialNumbers.h"
+#include "core/format.h"
+#include "core/number.h"
+#include "core/runTimeError.h"
+#include "core/totalsRow.h"
+
+#include <limits>
+
+namespace entry {
+
+namespace {
+
+using app::App;
+using core::Column;
+using core::ColumnType;
+using core::Document;
+using core::Item;
+using core::RecordsList;
+
+bool worksOnResults(const App& app) {
+    return app.mainFrm.theListView == &app.document.searchLV;
+}
+
+// Below two records the count and the slider keep what they showed. It is wanted so.
+void showCount(App& app) {
+    const RecordsList& records = app.document.LV;
+    if (records.count() < 3) return;
+    app::showRecordCount(app, records);
+    app.mainFrm.Slider1.Max = records.count() - 1;
+}
+
+Item* recordToUpdate(App& app) {
+    RecordsList& records = app.document.LV;
+    if (!worksOnResults(app)) return records.selectedItem();
+    const Item* result = app.document.searchLV.selectedItem();
+    return result == nullptr ? nullptr : records.find(result->Key);
+}
+
+Item& addRecord(App& app) {
+    Document& document = app.document;
+    const std::string key = document.nextKey();
+    document.LV.add(key);
+    showCount(app);
+    core::moveTotals(document.LV);
+    return document.LV.byKey(key);
+}
+
+void writeCells(App& app, Item& record, const std::vector<BoxText>& boxes, bool bUpdate) {
+    Document& document = app.document;
+    for (const BoxText& box : boxes) {
+        const Column& column = document.LV.columns[box.Tag];
+        RecordsList::cell(record, column) = cellText(column.type(), box.Text);
+        if (column.isType(ColumnType::Number) && !box.Text.empty() && !bUpdate)
+            calc::advanceSerial(document, box.Tag);
+    }
+}
+
+void copyToResult(App& app, const Item& record) {
+    if (!worksOnResults(app)) return;
+    if (Item* result = app.document.searchLV.selectedItem()) result->cells = record.cells;
+}
+
+} // namespace
+
+std::string cellText(ColumnType type, std::string_view text) {
+    if (type == ColumnType::Currency) return text.empty() ? "$.00" : core::format(text, core::Mask::Money);
+    if (type == ColumnType::Number && text.empty()) return "0";
+    return std::string(text);
+}
+
+Item* EditRecord(App& app, bool bUpdate, const std::vector<BoxText>& theFields,
+                 const std::vector<BoxText>& pictures) {
+    Document& document = app.document;
+    RecordsList& records = document.LV;
+    // Looked up before anything is written, so that a name that is no column leaves the record whole.
+    for (const std::vector<BoxText>* boxes : {&theFields, &pictures})
+        for (const BoxText& box : *boxes) static_cast<void>(records.columns[box.Tag]);
+    records.MultiSelect = false;
+    Item* record = nullptr;
+    if (bUpdate) {
+        record = recordToUpdate(app);
+        if (record == nullptr || record->isTotals()) return nullptr;
+        core::UpdateTotalsRow(document, core::TotalsMode::Subtract, records, records.indexOf(*record));
+    } else {
+        record = &addRecord(app);
+    }
+    records.MultiSelect = false; // moveTotals has switched it on
+    writeCells(app, *record, theFields, bUpdate);
+    for (const BoxText& picture : pictures)
+        RecordsList::cell(*record, records.columns[picture.Tag]) = picture.Text;
+    calc::CalculateRow(app, records.indexOf(*record), records);
+    core::UpdateTotalsRow(document, core::TotalsMode::Add, records, records.indexOf(*record));
+    records.setSelectedItem(record);
+    copyToResult(app, *record);
+    app::setDocumentModified(app, true);
+    records.MultiSelect = false;
+    return record;
+}
+
+bool deleteRecords(App& app) {
+    RecordsList& records = app.document.LV;
+    const Item* focused = records.selectedItem();
+    if (focused == nullptr || focused->isTotals()) return false;
+    if (app.mainFrm.bConfirmDelete) {
+        const platform::Answer answer = app.platform.msgBox("Are you sure?", platform::Icon::Exclamation,
+                                                            "Confirm Deletion", platform::Buttons::YesNo);
+        if (answer != platform::Answer::Yes) return false;
+    }
+    const core::TotalsRowUpdater totals(app.document, records);
+    records.removeIf([&](const Item& item) {
+        if (!item.Selected || item.isTotals()) return false;
+        totals.update(core::TotalsMode::Subtract, item);
+        return true;
+    });
+    showCount(app);
+    app::setDocumentModified(app, true);
+    return true;
+}
+
+void duplicateRecord(App& app, Item& source, int copies) {
+    Document& document = app.document;
+    RecordsList& records = document.LV;
+    if (copies > std::numeric_limits<std::int16_t>::max() - document.iLastKey)
+        core::raise(core::errors::overflow, "record keys");
+    std::vector<Item*> added;
+    for (int copy = 0; copy < copies; ++copy) {
+        Item& item = records.add(document.nextKey());
+        item.cells = source.cells;
+        added.push_back(&item);
+    }
+    if (!added.empty()) {
+        core::moveTotals(records);
+        const core::TotalsRowUpdater totals(document, records);
+        for (const Item* item : added) totals.update(core::TotalsMode::Add, *item);
+        // The source stays the selected record; moveTotals has chosen the last one.
+        added.back()->Selected = false;
+        records.setSelectedItem(&source);
+        showCount(app);
+    }
+    app::setDocumentModified(app, true);
+}
+
+void mnuDuplicate_Click(App& app) {
+    RecordsList& records = app.document.LV;
+    Item* source = records.selectedItem();
+    if (source == nullptr || source->isTotals()) {
+        app::inform(app, "You cannot duplicate the totals row.");
+        return;
+    }
+    const std::string answer = app.platform.inputBox("How many copies?", "Duplicate Record", "");
+    duplicateRecord(app, *source, core::toInt16(core::val(answer)));
+}
+
+} // namespace entry

@@ -1,0 +1,48 @@
+#include "entry/masks.h"
+
+#include "core/number.h"
+#include "core/text.h"
+
+#include <algorithm>
+
+namespace entry {
+
+void completeCurrencyText(app::App& app, EntryBox& box) {
+    if (app.document.LV.columns[box.Tag].isType(core::ColumnType::Number)) return;
+    const std::string_view trimmed = core::trim(box.Text);
+    if (trimmed.empty()) return;
+    if (!core::isNumeric(box.Text)) {
+        app.platform.msgBox("You entered a non numeric value.", platform::Icon::Exclamation, "Verify Data");
+        return;
+    }
+    if (box.Text.find('.') != std::string::npos) return;
+    const std::size_t size = core::length(box.Text);
+    // Measured on the trimmed text, cut from the text as it stands.
+    if (core::length(trimmed) < 3)
+        box.Text += ".00";
+    else
+        box.Text = std::string(core::left(box.Text, size - 2)) + "." + std::string(core::right(box.Text, 2));
+}
+
+void insertDateSlashes(EntryBox& box) {
+    for (const std::size_t place : {2U, 5U}) {
+        if (core::length(box.Text) != place) continue;
+        box.Text += "/";
+        box.SelStart = static_cast<int>(place) + 1;
+    }
+}
+
+core::Item* findItemContaining(app::App& app, std::string_view text, int startRow) {
+    core::RecordsList& list = *app.mainFrm.theListView;
+    const std::string wanted = core::upper(core::trim(text));
+    for (int row = std::max(startRow, 1); row <= list.count(); ++row) {
+        core::Item& item = list.at(row);
+        const bool found = std::ranges::any_of(item.cells, [&](const core::CellText& cell) {
+            return core::upper(core::trim(cell)).find(wanted) != std::string::npos;
+        });
+        if (found) return &item;
+    }
+    return nullptr;
+}
+
+} // namespace entry

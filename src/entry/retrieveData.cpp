@@ -1,0 +1,68 @@
+#include "entry/retrieveData.h"
+
+#include "app/layoutRoutines.h"
+
+#include "core/text.h"
+#include "platform/zip.h"
+
+#include <filesystem>
+
+namespace entry {
+
+namespace {
+
+using app::App;
+using core::Column;
+using core::Item;
+using core::RecordsList;
+
+// The record on view, or nothing in a list of the Totals row alone.
+const Item* currentRecord(const App& app) {
+    const RecordsList& list = *app.mainFrm.theListView;
+    return list.count() < 2 ? nullptr : list.selectedItem();
+}
+
+} // namespace
+
+std::string shownText(const Column& column, std::string_view cell) {
+    return std::string(column.isType(core::ColumnType::Text) ? cell : core::trim(cell));
+}
+
+void retrieveFields(App& app) {
+    const Item* record = currentRecord(app);
+    if (record == nullptr) return;
+    app.document.layout.layoutField.forEach([&](core::LayoutField& field) {
+        // A field whose column has been removed shows nothing.
+        const Column* column = app.document.LV.columns.find(field.Tag);
+        field.Text = column == nullptr || column->Index == 1
+                         ? std::string()
+                         : shownText(*column, RecordsList::cell(*record, *column));
+    });
+}
+
+void retrievePictures(App& app) {
+    const Item* record = currentRecord(app);
+    if (record == nullptr) return;
+    const std::filesystem::path folder = app.platform.tempFolder();
+    platform::Zip Zip;
+    Zip.SetBaseFolder(folder);
+    Zip.OpenArchive(app.document.currentFile);
+    app.document.layout.imgHolder.forEach([&](core::ImgHolder& holder) {
+        const Column* column = app.document.LV.columns.find(holder.Tag);
+        if (column == nullptr || column->Index == 1) return;
+        const std::string name = RecordsList::cell(*record, *column).str();
+        holder.ToolTipText = name;
+        holder.viewImage.path.clear();
+        if (!platform::isSafeEntryName(name)) return;
+        const std::filesystem::path file = folder / name;
+        if (!std::filesystem::exists(file)) Zip.ExtractFile(name);
+        if (std::filesystem::exists(file)) holder.viewImage.path = file.string();
+    });
+    Zip.CloseArchive();
+}
+
+} // namespace entry
+
+void app::refreshShownRecord(App& app) {
+    if (app.mainFrm.SSTab1 == app::layoutTab) entry::retrieveFields(app);
+}

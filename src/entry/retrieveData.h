@@ -1,0 +1,15 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace entry {
+
+// Show the current record of theListView in the layout's fields, and its pictures in the picture
+// boxes. A picture is unpacked into the work folder once per open.
+void retrieveFields(app::App& app);
+void retrievePictures(app::App& app);
+
+// The cell as a text box shows it: text as it stands, all else trimmed.
+std::string shownText(const core::Column& column, std::string_view cell);
+
+} // namespace entry

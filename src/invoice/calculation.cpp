@@ -1,0 +1,194 @@
+#include "invoice/calculation.h"
+
+#include "app/invoiceRoutines.h"
+#include "calc/evaluator.h"
+#include "calc/formulas.h"
+#include "core/currency.h"
+#include "core/number.h"
+#include "core/runTimeError.h"
+#include "core/text.h"
+#include "invoice/views.h"
+
+#include <algorithm>
+
+namespace invoice {
+
+namespace {
+
+using calc::Formula;
+using core::CellText;
+using core::Column;
+using core::Currency;
+using core::Item;
+using core::RecordsList;
+
+constexpr char itemSeparator = '@';
+
+bool hasPoint(std::string_view text) {
+    return text.find('.') != std::string_view::npos;
+}
+
+bool isMultiValue(std::string_view cell) {
+    return cell.find(itemSeparator) != std::string_view::npos;
+}
+
+const Column* columnOf(const RecordsList& list, std::string_view token) {
+    const Column* column = list.columns.find(token);
+    return column == nullptr || column->Index == 1 ? nullptr : column;
+}
+
+CellText& targetCell(RecordsList& list, Item& record, const Formula& formula) {
+    return RecordsList::cell(record, list.columns[formula.name]);
+}
+
+int itemRows(const Item& record) {
+    std::ptrdiff_t rows = 0;
+    for (const CellText& cell : record.cells)
+        rows = std::max(rows, std::ranges::count(cell.view(), itemSeparator));
+    return static_cast<int>(rows);
+}
+
+// The handler that the first evaluation of a routine arms.
+template <typename Routine>
+void guarded(app::App& app, const bool& armed, Routine&& routine) {
+    try {
+        routine();
+    } catch (const core::RunTimeError&) {
+        if (!armed) throw;
+        calc::reportCalculationError(app);
+    }
+}
+
+// The value of one token in one item row; an empty or absent value counts as 0.
+std::string itemValue(std::string_view cell, int row) {
+    const std::vector<std::string_view> parts = core::split(core::trim(cell), itemSeparator);
+    const auto place = static_cast<std::size_t>(row);
+    if (place >= parts.size() || parts[place].empty()) return "0";
+    return Currency::parse(parts[place]).text();
+}
+
+void calculateItemRows(RecordsList& list, Item& record, const Formula& formula, int rows, bool& armed) {
+    CellText& cell = targetCell(list, record, formula);
+    cell = "";
+    bool bDecimal = false; // once a row has brought a point in, the rows after it are money too
+    std::string joined;
+    for (int row = 0; row < rows; ++row) {
+        joined.clear();
+        for (const std::string_view token : formula.tokens()) {
+            const Column* column = columnOf(list, token);
+            if (column == nullptr) {
+                joined += token;
+                continue;
+            }
+            const std::string_view operand = RecordsList::cell(record, *column);
+            if (column->isType(core::ColumnType::Currency) || hasPoint(operand)) bDecimal = true;
+            joined += itemValue(operand, row);
+        }
+        armed = true;
+        const double result = calc::evaluate(joined);
+        if (hasPoint(joined)) bDecimal = true;
+        const std::string text = calc::resultText(result, bDecimal);
+        cell = cell.str() + text + itemSeparator;
+    }
+}
+
+} // namespace
+
+void RecalculateInvoice(app::App& app, int rowIndex, RecordsList& list) {
+    Item& record = list.at(rowIndex);
+    const ItemColumns items(app.document);
+    const int rows = itemRows(record);
+    bool armed = false;
+    // Set by the first formula that refers to a cell of one value, and never cleared: all later line
+    // calculations of the invoice are skipped with it. It is wanted so.
+    bool bSkip = false;
+    guarded(app, armed, [&] {
+        for (const auto& entry : app.document.formulas) {
+            const Formula formula(entry.item);
+            if (!items.contains(formula.name)) continue;
+            for (const std::string_view token : formula.tokens())
+                if (const Column* column = columnOf(list, token))
+                    if (!isMultiValue(RecordsList::cell(record, *column))) bSkip = true;
+            if (bSkip) continue;
+            if (formula.isUndefined())
+                targetCell(list, record, formula) = calc::undefined;
+            else
+                calculateItemRows(list, record, formula, rows, armed);
+        }
+    });
+}
+
+void RecalculateSegmentedTotals(app::App& app, int rowIndex, RecordsList& list) {
+    Item& record = list.at(rowIndex);
+    const ItemColumns items(app.document);
+    Currency sum; // kept from entry to entry: a formula of several tokens writes what the last left
+    for (const auto& entry : app.document.formulas) {
+        const Formula formula(entry.item);
+        CellText& cell = targetCell(list, record, formula);
+        if (formula.isUndefined()) {
+            cell = calc::undefined;
+            continue;
+        }
+        if (items.contains(formula.name)) continue;
+        bool bDecimal = false;
+        const std::vector<std::string_view> tokens = formula.tokens();
+        if (tokens.size() == 1) {
+            sum = Currency();
+            const std::string values = RecordsList::cell(record, list.columns[tokens[0]]).str();
+            std::vector<std::string_view> parts = core::split(values, itemSeparator);
+            parts.pop_back(); // what stands behind the last separator is no value
+            for (const std::string_view part : parts) {
+                if (hasPoint(part)) bDecimal = true;
+                if (!part.empty()) sum = sum + Currency::parse(part);
+            }
+        }
+        const std::string text = sum.text();
+        cell = bDecimal || hasPoint(text) ? calc::resultText(sum.toDouble(), true) : text;
+    }
+}
+
+void RecalculateNormalInvoiceColumns(app::App& app, int rowIndex, RecordsList& list) {
+    Item& record = list.at(rowIndex);
+    const ItemColumns items(app.document);
+    bool armed = false;
+    guarded(app, armed, [&] {
+        for (const auto& entry : app.document.formulas) {
+            const Formula formula(entry.item);
+            const std::vector<std::string_view> tokens = formula.tokens();
+            const bool refersToItems = std::ranges::any_of(tokens, [&](std::string_view token) {
+                const Column* column = columnOf(list, token);
+                return column != nullptr && items.contains(column->Text);
+            });
+            if (items.contains(formula.name) || refersToItems) continue;
+            CellText& cell = targetCell(list, record, formula);
+            if (formula.isUndefined()) {
+                cell = calc::undefined;
+                continue;
+            }
+            bool bDecimal = false;
+            std::string joined;
+            for (const std::string_view token : tokens) {
+                const Column* column = columnOf(list, token);
+                const std::string_view operand =
+                    column == nullptr ? std::string_view() : core::trim(RecordsList::cell(record, *column));
+                if (column != nullptr && column->isType(core::ColumnType::Currency)) bDecimal = true;
+                if (hasPoint(operand)) bDecimal = true;
+                if (core::isNumeric(operand))
+                    joined += Currency::parse(operand).text();
+                else
+                    joined += token;
+            }
+            armed = true;
+            const double result = calc::evaluate(joined);
+            cell = calc::resultText(result, bDecimal || hasPoint(joined));
+        }
+    });
+}
+
+} // namespace invoice
+
+void app::calculateInvoice(App& app, core::RecordsList& list, int rowIndex) {
+    invoice::RecalculateInvoice(app, rowIndex, list);
+    invoice::RecalculateSegmentedTotals(app, rowIndex, list);
+    invoice::RecalculateNormalInvoiceColumns(app, rowIndex, list);
+}

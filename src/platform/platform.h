@@ -1,0 +1,83 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+enum class Icon { None, Information, Exclamation, Question, Critical };
+enum class Buttons { Ok, YesNo };
+enum class Answer { Ok, Yes, No, Cancel };
+enum class MousePointer { Default = 0, Hourglass = 11 };
+
+struct FileDialog {
+    std::string title;
+    std::string fileName; // proposed
+    std::string filter;   // "Database (*.fwk)|*.fwk|All Files (*.*)|*.*"
+};
+
+// The filter of every dialog that asks for a database.
+constexpr std::string_view databaseFilter = "Database (*.fwk)|*.fwk|All Files (*.*)|*.*";
+
+struct Paper {
+    std::string name;
+    int code = 0;
+};
+
+// The printer that page sizes come from. Width and Height in twips, turned for landscape.
+struct PageSize {
+    long Width = 0, Height = 0;
+};
+
+// What stands between the logic and the machine. The window and the command-line tool each have an
+// implementation; tests have a scripted one.
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    // --- questions and messages ---
+    virtual Answer msgBox(const std::string& text, Icon icon, const std::string& caption,
+                          Buttons buttons = Buttons::Ok) = 0;
+    // Cancel answers with the empty text.
+    virtual std::string inputBox(const std::string& prompt, const std::string& title,
+                                 const std::string& proposed) = 0;
+    // Nothing when the user cancelled.
+    virtual std::optional<std::string> showOpen(const FileDialog& dialog) = 0;
+    virtual std::optional<std::string> showSave(const FileDialog& dialog) = 0;
+    // Asks for a file that need not exist.
+    virtual std::optional<std::string> showNew(const FileDialog& dialog) { return showSave(dialog); }
+    // Shows the form with that name as a modal dialog ("disclaimFrm", "entryFrm", ...).
+    virtual void showForm(std::string_view name) = 0;
+
+    // --- the screen ---
+    virtual void setMousePointer(MousePointer pointer) = 0;
+    // Paints the status bar at once, for commands that keep the window busy.
+    virtual void paintStatus() = 0;
+    // Opens a file or an address with the user's default program.
+    virtual void openLink(const std::string& target) = 0;
+
+    // --- the printer ---
+    // Raises when there is no printer at all. The window always has one: its own "Print to PDF".
+    virtual std::string printerDeviceName() { return "Print to PDF"; }
+
+    // --- the work folder, App.Path ---
+    virtual std::filesystem::path workFolder() = 0;
+    virtual std::filesystem::path tempFolder() = 0;
+    virtual void clearWorkFiles() = 0; // the images in Temp, and data.dat
+    // False for a front end that keeps no unpacked text beside the program.
+    virtual bool keepsDataFile() const = 0;
+
+    // --- settings, section "StartUp" ---
+    virtual std::string getSetting(const std::string& key, const std::string& byDefault) = 0;
+    virtual void saveSetting(const std::string& key, const std::string& value) = 0;
+    virtual void flushSettings() = 0;
+
+    // --- the clock ---
+    virtual std::chrono::year_month_day today() = 0;
+};
+
+} // namespace platform

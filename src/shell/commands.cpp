@@ -1,0 +1,216 @@
+#include "shell/commands.h"
+
+#include "core/runTimeError.h"
+#include "shell/mainWindow.h"
+#include "shell/menuCommands.h"
+#include "storage/openFile.h"
+#include "storage/saveFile.h"
+
+#include <algorithm>
+#include <array>
+
+namespace shell {
+
+using app::App;
+
+namespace {
+
+// A command without a routine belongs to a subsystem that is not there yet; it shows disabled.
+const std::function<void(App&)> notYet;
+
+std::function<void(App&)> toggling(const char* key, bool app::MainFrm::*variable) {
+    return [=](App& app) {
+        app.mainFrm.*variable = !(app.mainFrm.*variable);
+        app.mainFrm.control(key).Value = app.mainFrm.*variable;
+    };
+}
+
+void open(App& app) {
+    storage::OpenFile(app, false);
+}
+void save(App& app) {
+    storage::SaveFile(app, false, false);
+}
+
+std::vector<Command> toolbarCommands() {
+    return {
+        {"New", "New", "New Database", "new", false, notYet},
+        {"Open", "Open", "Open Database", "open", false, open},
+        {"Save", "Save", "Save Database", "save", false, save},
+        {"Print", "Print", "Print Database", "print", false, notYet},
+        {"PageSetup", "Page Setup", "Page Setup", "pageSetup", false, notYet},
+        {"Search", "Search", "Search Database", "search", true, notYet},
+        {"Totals", "Totals", "Display Totals For Selected Items", "totals", true, toggleSelectedTotals},
+        {"Formulas", "Expressions", "Define Expressions", "formulas", false, notYet},
+        {"Properties", "Properties", "Database Properties", "properties", false, notYet},
+        {"Design", "Design", "Switch Layout To Design Mode", "design", true, notYet},
+        {"Delete", "Delete", "Delete Row", "delete", false, notYet},
+        {"Help", "Help", "Help", "help", false, notYet},
+        {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false, notYet},
+        {"All_As_Report", "Print all records as report.", "", "reportAll", false, notYet},
+        {"Selected_As_Report", "Print selected items as report.", "", "reportSelected", false, notYet},
+        {"All_As_Layouts", "Print all records as layouts.", "", "layoutsAll", false, notYet},
+        {"Selected_As_Layouts", "Print selected items as layouts.", "", "layoutsSelected", false, notYet},
+        {"Print_All_As_Multiple_Layouts", "Print all records as multiple layouts per page.", "",
+         "multiLayoutsAll", false, notYet},
+        {"Print_Selected_Multiple_Layouts", "Print selected items as multiple layouts per page.", "",
+         "multiLayoutsSelected", false, notYet},
+        {"Multiple_Layout_Preview_All", "Preview of all records using multiple layouts.", "", "previewAll",
+         false, notYet},
+        {"Multiple_Layout_Preview_Selected", "Preview of selected records using multiple layouts.", "",
+         "previewSelected", false, notYet},
+    };
+}
+
+std::vector<Command> menuCommands() {
+    using app::MainFrm;
+    return {
+        {"mnuNew", "&New", "", "new", false, notYet},
+        {"mnuOpen", "&Open", "", "open", false, open},
+        {"mnuSave", "&Save", "", "save", false, save},
+        {"mnuSaveAs", "Save &As", "", "saveAs", false, [](App& app) { storage::SaveFile(app, true, false); }},
+        {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, notYet},
+        {"mnuPrint", "&Print", "", "print", false, notYet},
+        {"mnuPageSetup", "Page Setup", "", "pageSetup", false, notYet},
+        {"mnuCleanDatabase", "&Clean Database", "", "clean", false, notYet},
+        {"mnuClone", "C&lone Database To..", "", "clone", false,
+         [](App& app) { storage::SaveFile(app, false, true); }},
+        {"mnuEmail", "Send Database File To...", "", "mail", false, notYet},
+        {"mnuFile1", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile1"); }},
+        {"mnuFile2", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile2"); }},
+        {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
+        {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
+        {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, notYet},
+        {"mnuReplace", "&Find And Replace", "", "replace", false, notYet},
+        {"mnuSearch", "&Search", "", "search", false, notYet},
+        {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, pressTotals},
+        {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, notYet},
+        {"mnuDatabaseProperties", "Database &Properties", "", "properties", false, notYet},
+        {"mnuTotalColumns", "Choose Columns To Total", "", "totalColumns", false, notYet},
+        {"mnuSerialAdjust", "&Adjust Serial Number Increment", "", "serial", false, notYet},
+        {"mnuConfirmDelete", "&Confirm Delete", "", "", true,
+         toggling("mnuConfirmDelete", &MainFrm::bConfirmDelete)},
+        {"mnuSavePrompt", "&Prompt For Save On Exit", "", "", true,
+         toggling("mnuSavePrompt", &MainFrm::bSavePrompt)},
+        {"mnuCalcHighlight", "&Highlight Calculation Boxes", "", "", true, notYet},
+        {"mnuDatabaseLock", "&Lock Or Unlock Database Design", "", "lock", false, notYet},
+        {"mnuLayoutDoubleClick", "&Go To Layout Upon Double-Click", "", "", true,
+         toggling("mnuLayoutDoubleClick", &MainFrm::bLayoutDblClick)},
+        {"mnuAutoLoad", "&Auto-Load Previously Opened File", "", "", true,
+         toggling("mnuAutoLoad", &MainFrm::bAutoLoad)},
+        {"mnuContents", "&Contents", "", "help", false, notYet},
+        {"mnuDisclaimer", "&Disclaimer", "", "disclaimer", false,
+         [](App& app) { app.platform.showForm("disclaimFrm"); }},
+        {"mnuWebpage", "&Visit FWK Homepage", "", "home", false, visitHomepage()},
+        {"mnuAbout", "&About Ferrowick", "", "about", false, showAbout},
+    };
+}
+
+const std::map<std::string_view, Command>& allCommands() {
+    static const std::map<std::string_view, Command> commands = [] {
+        std::map<std::string_view, Command> all;
+        for (const auto& table : {toolbarCommands(), menuCommands()})
+            for (const Command& entry : table) all.emplace(entry.key, entry);
+        return all;
+    }();
+    return commands;
+}
+
+// The menu that a command stands in follows the document too: a disabled menu disables its items.
+std::string_view menuOf(std::string_view key) {
+    for (const Menu& menu : menuBar())
+        if (std::ranges::find(menu.items, key) != menu.items.end()) return menu.key;
+    return {};
+}
+
+bool isControlEnabled(const App& app, std::string_view key) {
+    const auto control = app.mainFrm.controls.find(key);
+    return control == app.mainFrm.controls.end() || control->second.Enabled;
+}
+
+} // namespace
+
+const Command& command(std::string_view key) {
+    const auto found = allCommands().find(key);
+    if (found == allCommands().end()) core::raise(core::errors::elementNotFound, std::string(key));
+    return found->second;
+}
+
+bool hasCommand(std::string_view key) {
+    return allCommands().contains(key);
+}
+
+bool isCommandEnabled(const App& app, std::string_view key) {
+    if (!command(key).run) return false;
+    const std::string_view menu = menuOf(key);
+    return isControlEnabled(app, key) && (menu.empty() || isControlEnabled(app, menu));
+}
+
+void runCommand(App& app, std::string_view key) {
+    if (isCommandEnabled(app, key)) command(key).run(app);
+}
+
+std::span<const std::string_view> toolbarKeys() {
+    static constexpr std::array<std::string_view, 17> keys = {
+        "New", "Open",     "Save",       "-",      "Print", "PageSetup", "-", "Search", "Totals",
+        "-",   "Formulas", "Properties", "Design", "-",     "Delete",    "-", "Help"};
+    return keys;
+}
+
+std::span<const std::string_view> buttonMenuKeys(std::string_view buttonKey) {
+    static constexpr std::array<std::string_view, 1> saveKeys = {"SaveSearch"};
+    static constexpr std::array<std::string_view, 11> printKeys = {"All_As_Report",
+                                                                   "Selected_As_Report",
+                                                                   "-",
+                                                                   "All_As_Layouts",
+                                                                   "Selected_As_Layouts",
+                                                                   "-",
+                                                                   "Print_All_As_Multiple_Layouts",
+                                                                   "Print_Selected_Multiple_Layouts",
+                                                                   "-",
+                                                                   "Multiple_Layout_Preview_All",
+                                                                   "Multiple_Layout_Preview_Selected"};
+    if (buttonKey == "Save") return saveKeys;
+    if (buttonKey == "Print") return printKeys;
+    return {};
+}
+
+std::span<const Menu> menuBar() {
+    static const std::vector<Menu> menus = {
+        {"mnuFile",
+         "&File",
+         {"mnuNew",
+          "mnuOpen",
+          "mnuSave",
+          "mnuSaveAs",
+          "-",
+          "mnuSaveSearch",
+          "-",
+          "mnuPrint",
+          "mnuPageSetup",
+          "-",
+          "mnuCleanDatabase",
+          "-",
+          "mnuClone",
+          "-",
+          "mnuEmail",
+          "-",
+          "mnuFile1",
+          "mnuFile2",
+          "mnuFile3",
+          "-",
+          "mnuExit"}},
+        {"mnuEdit", "&Edit", {"mnuDuplicate", "-", "mnuReplace"}},
+        {"mnuTools",
+         "&Tools",
+         {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "-",
+          "mnuTotalColumns", "-", "mnuSerialAdjust"}},
+        {"mnuOptions",
+         "&Options",
+         {"mnuConfirmDelete", "mnuSavePrompt", "-", "mnuCalcHighlight", "mnuDatabaseLock", "-",
+          "mnuLayoutDoubleClick", "mnuAutoLoad"}},
+        {"mnuHelp", "&Help", {"mnuContents", "-", "mnuDisclaimer", "mnuWebpage", "mnuAbout"}}};
+    return menus;
+}
+
+} // namespace shell

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/app.h"
+
+#include <functional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace shell {
+
+// One command of the main window, for a toolbar button or a menu item.
+struct Command {
+    std::string_view key;     // "Save" for a button, "mnuSave" for a menu item
+    std::string_view caption; // menu caption with its mnemonic
+    std::string_view tip;     // toolbar tip
+    std::string_view icon;    // name in the icon family
+    bool checkable = false;
+    std::function<void(app::App&)> run; // empty: the subsystem is not there yet
+};
+
+const Command& command(std::string_view key); // raises elementNotFound
+bool hasCommand(std::string_view key);
+
+// What a view asks: the command is built, and the window's state allows it.
+bool isCommandEnabled(const app::App& app, std::string_view key);
+
+// Carries a command out, if it is enabled.
+void runCommand(app::App& app, std::string_view key);
+
+// The buttons of the main toolbar in their order; "-" is a separator.
+std::span<const std::string_view> toolbarKeys();
+// The entries of the drop-down menus of the buttons "Save" and "Print".
+std::span<const std::string_view> buttonMenuKeys(std::string_view buttonKey);
+
+struct Menu {
+    std::string_view key;                // "mnuFile"
+    std::string_view caption;            // "&File"
+    std::vector<std::string_view> items; // command keys; "-" is a separator
+};
+std::span<const Menu> menuBar();
+
+} // namespace shell

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/app.h"
+#include "calc/selectedTotals.h"
+#include "core/sorting.h"
+
+namespace shell {
+
+// The key code of Ctrl in the list's key events.
+constexpr int ctrlKey = 17;
+
+// The events of the three lists on the report tab (LV, iLV, searchLV). The view has already put the
+// list's Selected flags and SelectedItem right.
+using calc::collectSelected;
+using calc::list_Click;
+void list_ColumnClick(app::App& app, core::RecordsList& list, int columnIndex);
+void list_DblClick(app::App& app, core::RecordsList& list);
+void list_KeyDown(app::App& app, int keyCode);
+void list_KeyUp(app::App& app);
+
+// The list that the report tab shows now.
+core::RecordsList& visibleList(app::App& app);
+
+} // namespace shell

@@ -1,0 +1,113 @@
+#include "shell/mainWindow.h"
+
+#include "app/invoiceRoutines.h"
+#include "shell/printerCheck.h"
+#include "shell/settings.h"
+#include "storage/openFile.h"
+#include "storage/saveFile.h"
+
+namespace shell {
+
+using app::App;
+using core::Document;
+using core::RecordsList;
+
+namespace {
+
+void showStartTexts(App& app) {
+    app.mainFrm.panels[app::calculationPanel] = "Calculation Status:";
+    app.mainFrm.panels[app::fileSizePanel] = "Filesize:";
+    app.mainFrm.panels[app::documentPanel] = "No Open Document";
+    app.mainFrm.panels[app::stylePanel] = "Database Style:";
+    app::showCaption(app);
+}
+
+// On the layout page of an invoice database the record is the one behind the selected row. False when
+// there is none to show.
+bool selectInvoice(App& app) {
+    Document& document = app.document;
+    const bool results = document.searchLV.Visible;
+    const RecordsList& shown = results ? document.searchLV : document.iLV;
+    if (shown.count() < 2) return !results;
+    if (const core::Item* row = shown.selectedItem())
+        if (core::Item* record = document.LV.find(row->Text)) document.LV.setSelectedItem(record);
+    return true;
+}
+
+void arriveAtLayout(App& app) {
+    app.mainFrm.iPrintMode = app::printLayout;
+    app.mainFrm.theListView->MultiSelect = false;
+    if (app.document.bInvoiceStyle && !selectInvoice(app)) app::showReportTab(app);
+}
+
+} // namespace
+
+void Form_Load(App& app, std::string_view Command, const std::function<void()>& show) {
+    showStartTexts(app);
+    readSettings(app);
+    if (!app.mainFrm.bDisclaimerSeen) {
+        app.platform.showForm("disclaimFrm");
+        app.mainFrm.bDisclaimerSeen = true;
+    }
+    app.mainFrm.iPrintMode = app::printReport;
+    app.mainFrm.theListView = &app.document.LV;
+    show();
+    std::string& currentFile = app.document.currentFile;
+    currentFile = Command.empty()
+                      ? app.platform.getSetting("defaultFile", "")
+                      : std::string(Command.substr(1, std::max<std::size_t>(Command.size(), 2) - 2));
+    app::enableControls(app, false);
+    // A first start with "auto-load" on has nothing to load and nothing to say about it.
+    if (!currentFile.empty() && (app.mainFrm.bAutoLoad || !Command.empty()))
+        storage::OpenFile(app, true);
+    else
+        currentFile.clear();
+}
+
+std::string commandLineFor(std::string_view path) {
+    if (path.empty()) return {};
+    if (path.size() > 1 && path.front() == '"' && path.back() == '"') return std::string(path);
+    return '"' + std::string(path) + '"';
+}
+
+void Form_QueryUnload(App& app) {
+    writeSettings(app);
+    if (app.document.bModified && app.mainFrm.bSavePrompt) {
+        const platform::Answer answer = app.platform.msgBox(
+            "Save current document?", platform::Icon::Question, app::title, platform::Buttons::YesNo);
+        if (answer != platform::Answer::No) storage::SaveFile(app, false, false);
+    }
+    app.mainFrm.unloaded = true;
+}
+
+void SSTab1_Click(App& app, int tab) {
+    if (tab != app::reportTab && !hasPrinter(app)) return;
+    if (tab == app::reportTab) {
+        app::showReportTab(app);
+        return;
+    }
+    app.mainFrm.SSTab1 = tab;
+    app.mainFrm.invoiceFrameVisible = false;
+    if (tab == app::layoutTab) arriveAtLayout(app);
+    app::enableTabButtons(app);
+}
+
+void viewOpt_Click(App& app, int index) {
+    Document& document = app.document;
+    const bool items = index == 0;
+    // What is left behind is the other view, so its columns' places are what iLV shows now.
+    core::NamedCollection& leaving = items ? document.invoiceCols : document.itemLevelCols;
+    document.bInvoiceView = items;
+    app.mainFrm.viewOpt = index;
+    leaving.clear();
+    for (const core::Column& column : document.iLV.columns) leaving.add(std::to_string(column.Position));
+    app.mainFrm.control("Search").Value = false;
+    document.searchLV.Visible = false;
+    app::rebuildInvoiceView(app);
+    app::enableControls(app, true);
+    document.printedCols.clear();
+    for (const auto& column : items ? document.prnItemCols : document.prnInvoiceCols)
+        document.printedCols.add(column.item, column.item);
+}
+
+} // namespace shell

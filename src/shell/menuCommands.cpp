@@ -1,0 +1,42 @@
+#include "shell/menuCommands.h"
+
+#include "storage/openFile.h"
+
+#ifndef FERROWICK_HOMEPAGE
+#define FERROWICK_HOMEPAGE ""
+#endif
+
+namespace shell {
+
+using app::App;
+
+void openRecentFile(App& app, std::string_view key) {
+    const std::string path = app.mainFrm.control(key).Caption;
+    if (path.empty()) return;
+    app.document.currentFile = path;
+    storage::OpenFile(app, true);
+}
+
+void toggleSelectedTotals(App& app) {
+    app::Control& button = app.mainFrm.control("Totals");
+    button.Value = !button.Value;
+    app.document.LV3.Visible = button.Value;
+}
+
+void pressTotals(App& app) {
+    if (app.mainFrm.control("Totals").Enabled) toggleSelectedTotals(app);
+}
+
+void showAbout(App& app) {
+    const std::string text = std::string(app::title) + "\nVersion " + FERROWICK_VERSION +
+                             "\n\nA small database of your own, without learning one.\n"
+                             "Free software under the MIT licence. It comes with no warranty.";
+    app.platform.msgBox(text, platform::Icon::Information, std::string("About ") + app::title);
+}
+
+std::function<void(App&)> visitHomepage() {
+    if (std::string_view(FERROWICK_HOMEPAGE).empty()) return {};
+    return [](App& app) { app.platform.openLink(FERROWICK_HOMEPAGE); };
+}
+
+} // namespace shell

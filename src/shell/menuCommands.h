@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/app.h"
+
+#include <functional>
+#include <string_view>
+
+namespace shell {
+
+// The small commands of the menus that no subsystem owns.
+
+// Opens the file that a recent-file entry names. Nobody asks about unsaved changes: it is wanted so.
+void openRecentFile(app::App& app, std::string_view key);
+
+// The button "Totals" has been pressed or released.
+void toggleSelectedTotals(app::App& app);
+// The menu item presses the button.
+void pressTotals(app::App& app);
+
+void showAbout(app::App& app);
+
+// Empty in a build that knows no home page.
+std::function<void(app::App&)> visitHomepage();
+
+} // namespace shell

@@ -1,0 +1,105 @@
+#include "storage/newDatabase.h"
+
+#include "app/invoiceRoutines.h"
+#include "app/windowState.h"
+#include "calc/selectedTotals.h"
+#include "core/runTimeError.h"
+#include "platform/zip.h"
+#include "storage/saveFile.h"
+#include "storage/workFiles.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace storage {
+
+namespace {
+
+using app::App;
+using core::Document;
+
+std::optional<std::string> askForName(App& app) {
+    app.mainFrm.bDatabaseTypeChosen = false;
+    app.platform.showForm("databaseTypeFrm");
+    if (!app.mainFrm.bDatabaseTypeChosen) return std::nullopt;
+    // An open dialog, not a save dialog: the name need not exist.
+    return app.platform.showNew({"Specify Name For New Database", "", std::string(platform::databaseFilter)});
+}
+
+void offerToSave(App& app) {
+    const std::string& currentFile = app.document.currentFile;
+    if (currentFile.empty() || !app.document.bModified) return;
+    const platform::Answer answer = app.platform.msgBox(
+        "Save current file " + currentFile + "?", platform::Icon::None, app::title, platform::Buttons::YesNo);
+    if (answer != platform::Answer::No) SaveFile(app, false, false);
+}
+
+void clearDocument(App& app) {
+    Document& document = app.document;
+    document.iLV.Visible = document.bInvoiceStyle;
+    document.clear();
+    document.searchLV.Visible = false;
+    document.searchLV.clear();
+    app.mainFrm.control("Search").Value = false;
+    app.mainFrm.theListView = &document.LV;
+    app.mainFrm.iFieldFocus = 0;
+    app.mainFrm.selectedRows.clear();
+}
+
+void make(App& app, const std::string& path, bool bStartUp) {
+    app::showReportTab(app);
+    offerToSave(app);
+    clearDocument(app);
+    if (path.empty()) return;
+    if (fileExists(path) && !app::askYesNo(app, "Overwrite Existing File?", platform::Icon::Critical)) {
+        // The document is cleared already, and currentFile still names the old file. It is wanted so.
+        if (bStartUp) app::enableControls(app, false);
+        return;
+    }
+    createEmptyArchive(app, path);
+    app.mainFrm.panels[app::fileSizePanel].clear();
+    app.mainFrm.panels[app::documentPanel].clear();
+    app.platform.showForm("designFrm");
+    finishNewDatabase(app);
+    app::enableControls(app, true);
+}
+
+} // namespace
+
+void createEmptyArchive(App& app, const std::string& path) {
+    platform::Zip Zip;
+    Zip.CreateArchive(path, "");
+    Zip.CloseArchive();
+    app.document.currentFile = path;
+    app::showCaption(app);
+}
+
+void finishNewDatabase(App& app) {
+    Document& document = app.document;
+    core::addTotalsRow(document.LV);
+    calc::RefreshSelectedTotals(app);
+    document.layoutOptions = {};
+    document.layout.unloadAll();
+    app.mainFrm.guideLines = 0;
+    document.reportData = {};
+    document.iLastKey = 0;
+    app.mainFrm.panels[app::stylePanel] =
+        document.bInvoiceStyle ? "Database Style: Invoice" : "Database Style: Standard";
+    document.iLV.Visible = document.bInvoiceStyle;
+    document.bInvoiceView = false;
+    app.mainFrm.viewOpt = 1;
+    app::rebuildInvoiceView(app);
+}
+
+void newDatabase(App& app, bool bStartUp) {
+    const std::optional<std::string> path = askForName(app);
+    if (!path) return;
+    try {
+        make(app, *path, bStartUp);
+    } catch (const core::RunTimeError&) {
+        // The routine ends without a word. It is wanted so.
+        app::showCaption(app);
+    }
+}
+
+} // namespace storage

@@ -1,0 +1,158 @@
+#include "storage/openFile.h"
+
+#include "app/invoiceRoutines.h"
+#include "app/windowState.h"
+#include "calc/selectedTotals.h"
+#include "core/runTimeError.h"
+#include "platform/zip.h"
+#include "storage/dataReader.h"
+#include "storage/workFiles.h"
+
+#include <filesystem>
+
+namespace storage {
+
+namespace {
+
+using app::App;
+using core::Document;
+
+// The file to open, or nothing when there is none: the user cancelled, or it is not there.
+std::optional<std::string> chooseFile(App& app, bool StartUp) {
+    std::string path = app.document.currentFile;
+    if (!StartUp) {
+        const std::optional<std::string> chosen =
+            app.platform.showOpen({"Open Database", "", std::string(platform::databaseFilter)});
+        if (!chosen) {
+            if (app.document.currentFile.empty()) app::enableControls(app, false);
+            return std::nullopt;
+        }
+        path = *chosen;
+    }
+    if (fileExists(path)) return path;
+    app::inform(app, StartUp ? "Previously opened file could not be found." : "File does not exist!");
+    app.document.currentFile.clear();
+    return std::nullopt;
+}
+
+void extractClipArt(App& app) {
+    if (!app.platform.keepsDataFile() || app.document.layout.clipPic.count() == 0) return;
+    platform::Zip Zip;
+    Zip.SetBaseFolder(app.platform.tempFolder());
+    Zip.OpenArchive(app.document.currentFile);
+    // An entry that is not there passes silently: a clone names clip art that it does not have.
+    app.document.layout.clipPic.forEach([&](core::ClipPic& clip) {
+        Zip.ExtractFile(clip.Tag);
+        const std::filesystem::path file = app.platform.tempFolder() / clip.Tag;
+        clip.clipImage.path = platform::isSafeEntryName(clip.Tag) && fileExists(file) ? file.string() : "";
+    });
+    Zip.CloseArchive();
+}
+
+void showInvoiceLists(App& app) {
+    Document& document = app.document;
+    document.iLV.Visible = document.bInvoiceStyle;
+    if (!document.bInvoiceStyle) return;
+    document.printedCols.clear();
+    for (const auto& column : document.bInvoiceView ? document.prnItemCols : document.prnInvoiceCols)
+        document.printedCols.add(column.item, column.item);
+    app.mainFrm.viewOpt = document.bInvoiceView ? 0 : 1;
+    if (!document.iLV.empty()) calc::list_Click(app, document.iLV);
+}
+
+void alignFields(Document& document) {
+    document.layout.layoutField.forEach([&](core::LayoutField& field) {
+        // A field of a column that is gone keeps the left alignment.
+        const core::Column* column = document.LV.columns.find(field.Tag);
+        field.align =
+            column != nullptr && column->isNumeric() ? core::Alignment::Right : core::Alignment::Left;
+    });
+}
+
+// A plain shift: the same file can stand in the list twice or three times.
+void rememberFile(App& app, bool StartUp) {
+    app::MainFrm& mainFrm = app.mainFrm;
+    std::string& first = mainFrm.control("mnuFile1").Caption;
+    if (StartUp) {
+        if (first.empty()) first = app.document.currentFile;
+        return;
+    }
+    mainFrm.control("mnuFile3").Caption = mainFrm.control("mnuFile2").Caption;
+    mainFrm.control("mnuFile2").Caption = first;
+    first = app.document.currentFile;
+}
+
+void showOpened(App& app, bool StartUp) {
+    Document& document = app.document;
+    app::MainFrm& mainFrm = app.mainFrm;
+    calc::RefreshSelectedTotals(app);
+    // Below two records the slider and the count keep what they showed. It is wanted so.
+    if (document.LV.count() >= 3) {
+        mainFrm.Slider1.Max = document.LV.count() - 1;
+        app::showRecordCount(app, document.LV);
+    }
+    app::enableControls(app, true);
+    if (!document.LV.empty() && document.LV.selectedItem() == nullptr)
+        document.LV.setSelectedItem(&document.LV.at(1));
+    calc::list_Click(app, document.LV);
+    mainFrm.panels[app::documentPanel] = "Document Opened";
+    mainFrm.panels[app::stylePanel] =
+        document.bInvoiceStyle ? "Database Style: Invoice" : "Database Style: Standard";
+    app::showFileSize(app);
+    showInvoiceLists(app);
+    alignFields(document);
+    rememberFile(app, StartUp);
+    mainFrm.theListView = &document.LV;
+}
+
+void takeOver(App& app, const std::string& path) {
+    app.document.currentFile = path;
+    app::showCaption(app);
+    app::showReportTab(app);
+    app.mainFrm.guideLines = 0;
+    app.mainFrm.iFieldFocus = 0;
+    app.document.searchLV.Visible = false;
+    app.document.searchLV.clear();
+    app.mainFrm.control("Search").Value = false;
+    app.mainFrm.theListView = &app.document.LV;
+    app.mainFrm.selectedRows.clear();
+}
+
+} // namespace
+
+void readArchive(App& app, const std::string& path) {
+    // A database of the most records and columns, each cell a long line, stays far below it.
+    constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
+    Document& document = app.document;
+    document.layout.unloadAll();
+    document.bInvoiceStyle = false;
+    document.clear();
+    app.platform.clearWorkFiles();
+    platform::Zip Zip;
+    Zip.OpenArchive(path);
+    std::optional<std::string> text = Zip.readEntry("data.dat", mostBytes);
+    Zip.CloseArchive();
+    if (!text) core::raise(core::errors::fileNotFound, "data.dat is not in the archive");
+    if (app.platform.keepsDataFile()) writeWorkFile(app.platform.workFolder() / "data.dat", *text);
+    readDataFile(*std::move(text), document);
+    if (document.LV.empty()) core::addTotalsRow(document.LV);
+    app::rebuildInvoiceView(app);
+}
+
+void OpenFile(App& app, bool StartUp) {
+    const std::optional<std::string> path = chooseFile(app, StartUp);
+    if (!path) return;
+    try {
+        takeOver(app, *path);
+        readArchive(app, *path);
+        extractClipArt(app);
+        showOpened(app, StartUp);
+    } catch (const std::exception&) {
+        // A file that cannot be opened ends in the empty window, without a message.
+        app.document.currentFile.clear();
+        app::enableControls(app, false);
+        app.mainFrm.theListView = &app.document.LV;
+    }
+}
+
+} // namespace storage

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace storage {
+
+// Opens a database into the document. With StartUp currentFile already names it; without, the user
+// picks it. No result: success shows as a filled window with currentFile set, failure as an empty
+// one, without a message. The document that was open is given up before the new one is known to be
+// readable, and nobody asks about its changes: that question belongs to the callers that ask it.
+void OpenFile(app::App& app, bool StartUp);
+
+// What OpenFile does for a front end that must tell why a file cannot be opened: reads the archive
+// into the cleared document and lets the error through.
+void readArchive(app::App& app, const std::string& path);
+
+} // namespace storage

@@ -1,0 +1,44 @@
+#include "storage/recovery.h"
+
+#include "platform/zip.h"
+#include "storage/dataWriter.h"
+#include "storage/workFiles.h"
+
+#include <filesystem>
+
+namespace storage {
+
+namespace {
+
+std::filesystem::path freePath(const std::filesystem::path& folder, const std::string& stem) {
+    for (int number = 1;; ++number) {
+        std::filesystem::path path = folder / (stem + " (recovered " + std::to_string(number) + ").fwk");
+        if (!std::filesystem::exists(path)) return path;
+    }
+}
+
+} // namespace
+
+std::optional<std::string> keepRecoveryCopy(app::App& app) noexcept {
+    try {
+        const std::string& currentFile = app.document.currentFile;
+        if (currentFile.empty() && app.document.LV.columns.count() < 2) return std::nullopt;
+        const std::filesystem::path folder = app.platform.workFolder() / "Recovered";
+        std::filesystem::create_directories(folder);
+        const std::string stem = std::filesystem::path(currentFile).stem().string();
+        const std::string target = freePath(folder, stem.empty() ? "Untitled" : stem).string();
+        const std::string bytes = encodeDataFile(writeDataFile(app.document, false));
+        platform::Zip Zip;
+        if (fileExists(currentFile))
+            Zip.OpenArchive(currentFile);
+        else
+            Zip.CreateArchive(target, "");
+        Zip.addBuffer("data.dat", bytes, "Main Data File");
+        Zip.CloseArchiveAs(target);
+        return target;
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace storage

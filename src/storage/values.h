@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace storage {
+
+// The fields of one line or section, split at the separator, and their conversions. A field that is
+// not there raises subscriptOutOfRange, one that does not convert typeMismatch or overflow.
+class Elements {
+public:
+    explicit Elements(std::string_view line);
+
+    std::size_t count() const { return parts_.size(); } // with what stands behind the last separator
+    std::string_view text(std::size_t number) const;
+    float single(std::size_t number) const;
+    std::int16_t integer(std::size_t number) const;
+    std::int32_t colour(std::size_t number) const;
+    bool boolean(std::size_t number) const;
+
+private:
+    std::vector<std::string_view> parts_;
+};
+
+bool booleanOf(std::string_view text);
+std::string_view booleanText(bool value);
+
+// Bytes of the file as UTF-8: with a byte order mark they are that already, without one they are
+// Windows-1252. Malformed UTF-8 is mended, so that all text in memory is well formed.
+std::string decodeDataFile(std::string bytes);
+
+} // namespace storage

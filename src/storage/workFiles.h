@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace storage {
+
+bool fileExists(const std::filesystem::path& path);
+
+// Writes a file of the work folder. Raises diskFull or pathAccess.
+void writeWorkFile(const std::filesystem::path& path, std::string_view bytes);
+
+} // namespace storage

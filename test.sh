@@ -1,0 +1,118 @@
+#!/usr/bin/env bash
+# Builds Ferrowick and runs all its tests: as released, then with the address and undefined-behaviour
+# sanitizers; then checks the formatting and fuzzes the reader for a while.
+#   ./test.sh [--quick] [--tidy]
+# --quick  the released build and its tests alone
+# --tidy   clang-tidy too
+# The last line is "N passed, N failed"; a step that is no test counts as one failure when it fails.
+set -uo pipefail
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")" || exit 1
+
+quick=false
+tidy=false
+fuzz_seconds=20
+for argument in "$@"; do
+    case $argument in
+    --quick) quick=true ;;
+    --tidy) tidy=true ;;
+    *)
+        echo "usage: ./test.sh [--quick] [--tidy]" >&2
+        exit 2
+        ;;
+    esac
+done
+
+logs=build/test-logs
+mkdir -p "$logs"
+passed=0
+failed=0
+summary=()
+closing=()
+
+note() { summary+=("$(printf '%-34s %s' "$1" "$2")"); }
+heading() { printf '\n== %s\n' "$1"; }
+
+# A step that is no test: its output is shown as it comes.
+step() {
+    local name=$1 start=$SECONDS
+    shift
+    heading "$name"
+    if "$@"; then
+        note "$name" "ok, $((SECONDS - start)) s"
+    else
+        note "$name" "FAILED"
+        failed=$((failed + 1))
+        return 1
+    fi
+}
+
+build() {
+    cmake --preset "$1" --log-level=WARNING && cmake --build --preset "$1" -- -j2 "${quiet[@]}"
+}
+
+# The counts come from ctest's closing line, "100% tests passed, 0 tests failed out of 123".
+tests() {
+    local preset=$1 log=$logs/$1.log start=$SECONDS line broken total
+    heading "tests, $preset"
+    ctest --preset "$preset" -j2 --no-tests=error --timeout 300 | tee "$log"
+    line=$(grep -E 'tests passed, [0-9]+ tests? failed out of [0-9]+' "$log" | tail -n 1)
+    if [[ $line =~ ,\ ([0-9]+)\ tests?\ failed\ out\ of\ ([0-9]+) ]]; then
+        broken=${BASH_REMATCH[1]}
+        total=${BASH_REMATCH[2]}
+        passed=$((passed + total - broken))
+        failed=$((failed + broken))
+        closing+=("$preset:" "$(sed -n '/tests passed, /,$p' "$log")")
+        note "tests, $preset" "$((total - broken)) of $total passed, $((SECONDS - start)) s"
+    else
+        failed=$((failed + 1))
+        note "tests, $preset" "FAILED: ctest did not come to its end"
+    fi
+}
+
+check_format() {
+    find src tests bench fuzz \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 clang-format-14 --dry-run -Werror
+}
+
+# Starts from the databases of the tests. An input that breaks the program stays in build/fuzz/found-*.
+fuzz() {
+    build fuzz && cmake --build --preset fuzz --target fuzz_corpus -- "${quiet[@]}" || return 1
+    local target
+    for target in reader archive; do
+        mkdir -p "build/fuzz/grown-$target"
+        "build/fuzz/fuzz/fuzz_$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
+            -print_final_stats=1 -verbosity=0 -artifact_prefix="build/fuzz/found-$target-" \
+            "build/fuzz/grown-$target" "build/fuzz/corpus-$target" || return 1
+    done
+}
+
+finish() {
+    local line
+    heading "Summary"
+    for line in "${closing[@]}"; do echo "$line"; done
+    echo
+    for line in "${summary[@]}"; do echo "$line"; done
+    echo
+    echo "$passed passed, $failed failed"
+    ((failed == 0)) || exit 1
+    exit 0
+}
+
+quiet=(--quiet)
+[[ ! -t 1 ]] || quiet=()
+
+packages=(build run test)
+$tidy && packages+=(tidy)
+step "packages" scripts/install-packages.sh "${packages[@]}" || finish
+
+step "build, release" build release && tests release
+if ! $quick; then
+    step "build, sanitized" build sanitized && tests sanitized
+    step "formatting" check_format
+    if command -v clang++-14 >/dev/null; then
+        step "fuzzing" fuzz
+    else
+        note "fuzzing" "skipped, there is no clang++-14"
+    fi
+fi
+if $tidy; then step "clang-tidy" scripts/tidy.sh build/release; fi
+finish

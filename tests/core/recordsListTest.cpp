@@ -1,0 +1,259 @@
+#include "core/document.h"
+#include "core/runTimeError.h"
+#include "core/sorting.h"
+#include "core/totalsRow.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace core;
+
+namespace {
+
+struct Fixture : testing::Test {
+    Document document;
+    RecordsList& list = document.LV;
+
+    void addColumn(const char* name, const char* tag) { list.columns.add(name, name).setTypeFromFile(tag); }
+    Item& addRecord(std::initializer_list<const char*> cells) {
+        Item& item = list.add(document.nextKey());
+        std::size_t i = 0;
+        for (const char* cell : cells) item.cells.at(i++) = cell;
+        return item;
+    }
+    std::string column(int subItem) {
+        std::string all;
+        list.forEach([&](const Item& item) { all += item.subItem(subItem).str() + ";"; });
+        return all;
+    }
+    std::string totalsText() {
+        std::string all;
+        for (const CellText& cell : list.totals()->cells) all += cell.str() + ";";
+        return all;
+    }
+};
+
+using RecordsListTest = Fixture;
+using SortingTest = Fixture;
+using TotalsRowTest = Fixture;
+
+} // namespace
+
+TEST(CellText, keepsTextsOfEveryLengthThroughCopiesAndMoves) {
+    for (std::size_t size = 0; size < 40; ++size) {
+        const std::string text(size, 'x');
+        CellText cell(text);
+        CellText copy(cell);
+        CellText moved(std::move(cell));
+        EXPECT_EQ(copy, text) << size;
+        EXPECT_EQ(moved, text) << size;
+        copy = "other text, longer than fits";
+        moved = copy;
+        EXPECT_EQ(moved.view(), "other text, longer than fits");
+        copy = text;
+        EXPECT_EQ(copy, text);
+        EXPECT_EQ(copy.empty(), size == 0);
+    }
+    CellText self("a text that needs a block of its own");
+    self = self.view().substr(2, 20);
+    EXPECT_EQ(self, "text that needs a bl");
+}
+
+TEST(ColumnHeaders, findsByNameInAnyCaseAndRefusesASecond) {
+    ColumnHeaders columns;
+    columns.add("Index", "Index", 0);
+    columns.add("Größe", "Größe");
+    EXPECT_EQ(columns.find("GRÖSSE"), nullptr);
+    ASSERT_NE(columns.find("GRÖßE"), nullptr);
+    EXPECT_THROW(columns.add("größe", "größe"), RunTimeError);
+    EXPECT_THROW(columns["Weight"], RunTimeError);
+    EXPECT_THROW(columns.at(3), RunTimeError);
+    columns.rename(2, "Size");
+    EXPECT_EQ(columns.find("Größe"), nullptr);
+    EXPECT_EQ(columns["size"].Index, 2);
+}
+
+TEST(ColumnHeaders, positions) {
+    struct Case {
+        std::vector<int> asked;
+        std::vector<int> order; // table indexes as shown
+    };
+    const Case cases[] = {
+        {{1, 2, 3, 4}, {1, 2, 3, 4}}, {{4, 3, 2, 1}, {4, 3, 2, 1}},  {{2, 3, 1, 4}, {3, 1, 2, 4}},
+        {{1, 4}, {1, 3, 4, 2}},       {{9, 1, 1, -5}, {4, 3, 2, 1}}, {{}, {1, 2, 3, 4}},
+    };
+    for (const Case& c : cases) {
+        ColumnHeaders columns;
+        for (const char* name : {"Index", "A", "B", "C"}) columns.add(name, name);
+        columns.setPositions(c.asked);
+        EXPECT_EQ(columns.displayOrder(), c.order) << testing::PrintToString(c.asked);
+    }
+    ColumnHeaders columns;
+    columns.add("Index", "Index");
+    EXPECT_THROW(columns.setPositions({1, 2}), RunTimeError);
+    columns.add("A", "A");
+    columns.add("B", "B");
+    columns.remove(2);
+    EXPECT_EQ(columns.displayOrder(), (std::vector<int>{1, 2}));
+}
+
+TEST(NamedCollection, keysAreUniqueInAnyCase) {
+    NamedCollection collection;
+    collection.add("Price", "Price");
+    EXPECT_THROW(collection.add("x", "PRICE"), RunTimeError);
+    collection.add("1");
+    collection.add("1");
+    EXPECT_EQ(collection.count(), 3U);
+    ASSERT_NE(collection.find("price"), nullptr);
+    EXPECT_TRUE(collection.removeItem("Price"));
+    EXPECT_FALSE(collection.removeItem("Price"));
+    collection.add("Price", "price");
+}
+
+TEST(Document, theCounterOfKeysEndsAt32767AndStaysThere) {
+    Document document;
+    document.iLastKey = 32766;
+    EXPECT_EQ(document.nextKey(), "i32767");
+    EXPECT_THROW(document.nextKey(), RunTimeError);
+    EXPECT_EQ(document.iLastKey, 32767);
+}
+
+TEST_F(RecordsListTest, keysAndIndexesFollowTheItems) {
+    addColumn("A", "3");
+    for (const char* cell : {"x", "y", "z"}) addRecord({cell});
+    addTotalsRow(list);
+    EXPECT_EQ(list.find("I2"), &list.at(2));
+    list.remove(list.at(1));
+    EXPECT_EQ(list.indexOf(list.byKey("i2")), 1);
+    EXPECT_EQ(list.find("i1"), nullptr);
+    EXPECT_EQ(list.add("i9").cells.size(), 1U);
+    EXPECT_EQ(list.indexOf(list.byKey("i9")), 4);
+    EXPECT_THROW(list.byKey("i77"), RunTimeError);
+    EXPECT_EQ(list.removeIf([](const Item& item) { return !item.isTotals(); }), 3);
+    EXPECT_EQ(list.find("i9"), nullptr);
+    EXPECT_EQ(list.totals(), &list.at(1));
+}
+
+TEST_F(RecordsListTest, withoutMultiSelectOneItemTakesTheSelection) {
+    addColumn("A", "3");
+    for (const char* cell : {"x", "y"}) addRecord({cell});
+    list.setSelectedItem(&list.at(1));
+    list.setSelectedItem(&list.at(2));
+    EXPECT_TRUE(list.at(1).Selected);
+    list.MultiSelect = false;
+    list.setSelectedItem(&list.at(2));
+    EXPECT_FALSE(list.at(1).Selected);
+    EXPECT_TRUE(list.at(2).Selected);
+}
+
+TEST_F(RecordsListTest, moveTotalsPutsTheRowLastAndSelectsTheOneBeforeIt) {
+    addColumn("A", "3");
+    addColumn("B", "3");
+    addTotalsRow(list).cells[0] = "12";
+    addRecord({"x", "y"});
+    moveTotals(list);
+    EXPECT_TRUE(list.at(2).isTotals());
+    EXPECT_EQ(list.at(2).Text, "Totals");
+    EXPECT_EQ(totalsText(), "12;------;");
+    EXPECT_EQ(list.selectedItem(), &list.at(1));
+    EXPECT_TRUE(list.MultiSelect);
+    list.totals()->cells[0] = "1|2"; // travels as text, so what follows shifts
+    moveTotals(list);
+    EXPECT_EQ(totalsText(), "1;2;");
+}
+
+TEST_F(SortingTest, keysOfTheTypes) {
+    struct Case {
+        ColumnType type;
+        const char* cell;
+        std::string key;
+    };
+    const Case cases[] = {
+        {ColumnType::Date, "05/04/2001", "20010504"},
+        {ColumnType::Date, "", ""},
+        {ColumnType::Date, "5/4/2001", "20015//2"},
+        {ColumnType::Number, "42", std::string(20, ' ') + "42"},
+        {ColumnType::Currency, "é", std::string(21, ' ') + "é"},
+        {ColumnType::Number, "1234567890123456789012345", "1234567890123456789012345"},
+    };
+    for (const Case& c : cases) EXPECT_EQ(sortKeyOf(c.cell, c.type), c.key) << c.cell;
+}
+
+TEST_F(SortingTest, theFirstClickSortsDownwardsAndEachClickTurnsRound) {
+    addColumn("Name", "3");
+    addColumn("No", "4");
+    addRecord({"b", "10"});
+    addRecord({"A", "9"});
+    addRecord({"c", "100"});
+    sortByColumnKey(list, list.columns["Name"]);
+    EXPECT_EQ(column(1), "c;b;A;");
+    sortByColumnKey(list, list.columns["No"]); // another column turns the order round too
+    EXPECT_EQ(column(2), "9;10;100;");
+    sortByHiddenColumn(list, list.columns["No"]);
+    EXPECT_EQ(column(2), "100;10;9;");
+    EXPECT_EQ(list.at(1).cells.size(), 2U);
+}
+
+TEST_F(SortingTest, isStableInBothDirectionsAndIgnoresCase) {
+    addColumn("Name", "3");
+    addColumn("No", "3");
+    for (const char* no : {"1", "2", "3", "4"}) addRecord({no[0] % 2 == 0 ? "äb" : "ÄB", no});
+    sortByColumnKey(list, list.columns["Name"]);
+    EXPECT_EQ(column(2), "1;2;3;4;");
+    sortByColumnKey(list, list.columns["Name"]);
+    EXPECT_EQ(column(2), "1;2;3;4;");
+}
+
+TEST_F(SortingTest, agreesWithAPlainSortOnManyTexts) {
+    addColumn("Name", "3");
+    std::mt19937 random(7);
+    std::vector<std::string> texts;
+    for (int i = 0; i < 500; ++i) {
+        std::string text;
+        for (unsigned size = random() % 12; size > 0; --size) text += static_cast<char>('A' + random() % 3);
+        texts.push_back(text);
+        addRecord({text.c_str()});
+    }
+    list.SortOrder = 1;
+    sortByColumnKey(list, list.columns["Name"]);
+    std::ranges::sort(texts);
+    std::string expected;
+    for (const std::string& text : texts) expected += text + ";";
+    EXPECT_EQ(column(1), expected);
+}
+
+TEST_F(TotalsRowTest, sumsAndFormsOfTheSums) {
+    addColumn("Price", "2");
+    addColumn("Qty", "4");
+    addColumn("Value", "5");
+    addColumn("Name", "3");
+    for (const char* name : {"Price", "Qty", "Value", "Name"}) document.totaledCols.add(name, name);
+    addRecord({"$1,234.50", "2", "3", "x"});
+    addRecord({"$.50", "1,234", "4.50", "y"});
+    addRecord({"2@3@", "1", "1", "z"});
+    addTotalsRow(list);
+    const auto add = [&](int row) { UpdateTotalsRow(document, TotalsMode::Add, list, row); };
+    add(1);
+    // The Number column stands behind a Currency column and is shown as money with it.
+    EXPECT_EQ(totalsText(), "$1,234.50;$2.00;3;------;");
+    add(2);
+    EXPECT_EQ(totalsText(), "$1,235.00;$1,236.00;$7.50;------;");
+    add(3);
+    EXPECT_EQ(totalsText(), "-----;1237;8.5;------;");
+    add(0);
+    UpdateTotalsRow(document, TotalsMode::Subtract, list, 1);
+    EXPECT_EQ(totalsText(), "-$1,234.50;$1,235.00;5.5;------;");
+}
+
+TEST_F(TotalsRowTest, withoutMoneyACommaEndsTheNumber) {
+    addColumn("Qty", "4");
+    document.totaledCols.add("Qty", "Qty");
+    document.totaledCols.add("Gone", "Gone");
+    addRecord({"1,234"});
+    addTotalsRow(list);
+    UpdateTotalsRow(document, TotalsMode::Add, list, 1);
+    EXPECT_EQ(totalsText(), "1;");
+    UpdateTotalsRow(document, TotalsMode::Subtract, list, 1);
+    EXPECT_EQ(totalsText(), "0;");
+}

@@ -1,0 +1,290 @@
+#include "archiveFixture.h"
+
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <random>
+#include <sys/file.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+namespace errors = core::errors;
+using platform::Zip;
+
+namespace {
+
+// All that a save must not touch in an entry, the packed bytes among it.
+struct Packed {
+    std::string name, comment, bytes;
+    time_t date;
+    zip_uint32_t crc;
+    zip_uint16_t method;
+    bool operator==(const Packed&) const = default;
+};
+
+std::vector<Packed> packedEntries(const fs::path& file) {
+    std::vector<Packed> result;
+    zip_t* zip = zip_open(file.c_str(), ZIP_RDONLY | ZIP_CHECKCONS, nullptr);
+    if (!zip) return result;
+    for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(zip_get_num_entries(zip, 0)); ++i) {
+        zip_stat_t status;
+        zip_stat_index(zip, i, 0, &status);
+        std::string bytes(status.comp_size, '\0');
+        zip_file_t* entry = zip_fopen_index(zip, i, ZIP_FL_COMPRESSED);
+        zip_fread(entry, bytes.data(), bytes.size());
+        zip_fclose(entry);
+        zip_uint32_t length = 0;
+        const char* comment = zip_file_get_comment(zip, i, &length, 0);
+        result.push_back({status.name, std::string(comment ? comment : "", length), bytes, status.mtime,
+                          status.crc, status.comp_method});
+    }
+    zip_discard(zip);
+    return result;
+}
+
+// Bytes that deflate cannot make smaller.
+std::string noise(std::size_t count) {
+    std::mt19937 random(7);
+    std::string bytes(count, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    return bytes;
+}
+
+class ZipTest : public ArchiveTest {};
+
+TEST_F(ZipTest, ReplacingTheDataLeavesAllElseAsItWas) {
+    writeBytes(archive, readBytes(TEST_DATA_DIR "/books.fwk"));
+    std::vector<Packed> before = packedEntries(archive);
+    ASSERT_EQ(before.size(), 7U);
+    const std::string text = dataOf(archive) + "one more line\r\n";
+    writeBytes(folder / "data.dat", text);
+    Zip Zip;
+    Zip.SetBaseFolder(folder);
+    Zip.OpenArchive(archive);
+    Zip.AddFile("data.dat", "Main Data File");
+    Zip.AddFile("data.dat", "given up");
+    Zip.AddFile("data.dat", "Main Data File");
+    Zip.CloseArchive();
+
+    std::vector<Packed> after = packedEntries(archive);
+    ASSERT_EQ(after.size(), before.size());
+    EXPECT_EQ(after[0].name, "data.dat");
+    EXPECT_EQ(after[0].comment, "Main Data File");
+    EXPECT_EQ(after[0].method, ZIP_CM_DEFLATE);
+    EXPECT_EQ(dataOf(archive), text);
+    const std::string file = readBytes(archive);
+    EXPECT_EQ(file[file.find("PK\1\2") + 8] & 6, 0) << "not packed at the usual level";
+    after[0] = before[0];
+    EXPECT_TRUE(after == before);
+}
+
+TEST_F(ZipTest, AddsListsDeletesAndExtracts) {
+    const fs::path elsewhere = folder / "elsewhere";
+    fs::create_directory(elsewhere);
+    writeBytes(elsewhere / "b\xC3\xBCro.jpg", "picture");
+    Zip Zip;
+    Zip.SetBaseFolder(folder);
+    Zip.CreateArchive(archive, "");
+    Zip.AddFile(elsewhere / "b\xC3\xBCro.jpg", "Clip Art");
+    Zip.addBuffer("empty.jpg", "", "");
+    Zip.addBuffer("last.gif", "gif", "");
+    Zip.CloseArchive();
+
+    Zip.OpenArchive(archive);
+    ASSERT_EQ(Zip.FileCount(), 3);
+    EXPECT_EQ(Zip.FileNameAt(0), "b\xC3\xBCro.jpg");
+    EXPECT_EQ(Zip.commentAt(0), "Clip Art");
+    EXPECT_EQ(Zip.sizeAt(0), 7U);
+    EXPECT_EQ(Zip.readEntry("empty.jpg", 10), "");
+    Zip.ExtractFile("b\xC3\xBCro.jpg");
+    Zip.ExtractFile("absent.jpg");
+    EXPECT_EQ(readBytes(folder / "b\xC3\xBCro.jpg"), "picture");
+    Zip.DeleteFile("empty.jpg");
+    Zip.DeleteFile("absent.jpg");
+    EXPECT_EQ(Zip.FileCount(), 2);
+    EXPECT_EQ(Zip.FileNameAt(1), "last.gif");
+    EXPECT_EQ(errorOf([&] { (void)Zip.FileNameAt(2); }), errors::subscriptOutOfRange);
+    EXPECT_FALSE(Zip.contains("empty.jpg"));
+    Zip.CloseArchive();
+    EXPECT_EQ(packedEntries(archive).size(), 2U);
+
+    Zip.OpenArchive(archive);
+    Zip.DeleteFile("last.gif");
+    Zip.DeleteFile("b\xC3\xBCro.jpg");
+    Zip.CloseArchive();
+    Zip.OpenArchive(archive);
+    EXPECT_EQ(Zip.FileCount(), 0) << "the last entry's end is not the archive's";
+    Zip.addBuffer("data.dat", "again", "");
+    Zip.CloseArchive();
+    EXPECT_EQ(dataOf(archive), "again");
+}
+
+TEST_F(ZipTest, NamesOfOlderToolsAreFoundAsTheyAreListed) {
+    make({{"xxx.jpg", "old"}, {"data.dat", "text"}});
+    patchText("xxx.jpg", "x\x81x.jpg"); // u umlaut in the code page of the first zip programs
+    Zip Zip;
+    Zip.OpenArchive(archive);
+    ASSERT_EQ(Zip.FileNameAt(0), "x\xC3\xBCx.jpg");
+    EXPECT_EQ(Zip.readEntry(Zip.FileNameAt(0), 10), "old");
+    Zip.DeleteFile(Zip.FileNameAt(0));
+    EXPECT_EQ(Zip.FileCount(), 1);
+}
+
+TEST_F(ZipTest, WritesOnlyWhatItShould) {
+    make({{"data.dat", "old"}});
+    const std::string before = readBytes(archive);
+    struct stat first {
+    }, second{};
+    ::stat(archive.c_str(), &first);
+    {
+        Zip Zip;
+        Zip.OpenArchive(archive);
+        Zip.DeleteFile("absent.jpg");
+        Zip.CloseArchive();
+        ::stat(archive.c_str(), &second);
+        EXPECT_EQ(first.st_ino, second.st_ino) << "closed without a change";
+        Zip.OpenArchive(archive);
+        Zip.addBuffer("data.dat", "given up", "");
+    }
+    EXPECT_EQ(readBytes(archive), before) << "not closed";
+
+    const fs::path copy = folder / "copy.fwk";
+    Zip Zip;
+    Zip.OpenArchive(archive);
+    Zip.CloseArchiveAs(copy);
+    EXPECT_EQ(readBytes(copy), before);
+    Zip.OpenArchive(archive);
+    Zip.addBuffer("data.dat", "new", "");
+    Zip.CloseArchiveAs(copy);
+    EXPECT_EQ(readBytes(archive), before);
+    EXPECT_EQ(dataOf(copy), "new");
+}
+
+TEST_F(ZipTest, KeepsPermissionsOwnerAndLink) {
+    make({{"data.dat", "old"}});
+    ::chmod(archive.c_str(), 0640);
+    const bool given = ::chown(archive.c_str(), 12345, 12345) == 0; // only the superuser can
+    const fs::path real = folder / "real" / "b.fwk";
+    fs::create_directory(real.parent_path());
+    fs::rename(archive, real);
+    fs::create_symlink("real/b.fwk", archive);
+    replaceData("new");
+    EXPECT_TRUE(fs::is_symlink(archive));
+    EXPECT_EQ(dataOf(real), "new");
+    struct stat status {};
+    ::stat(real.c_str(), &status);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+    EXPECT_TRUE(!given || status.st_uid == 12345U);
+
+    const mode_t mask = ::umask(027);
+    Zip Zip;
+    Zip.CreateArchive(folder / "fresh.fwk");
+    Zip.CloseArchive();
+    ::umask(mask);
+    ::stat((folder / "fresh.fwk").c_str(), &status);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+}
+
+TEST_F(ZipTest, RefusesToWrite) {
+    const std::string before = (make({{"data.dat", "old"}}), readBytes(archive));
+    ::chmod(archive.c_str(), 0444);
+    EXPECT_EQ(errorOf([&] { replaceData("new"); }), errors::pathAccess) << "read-only file";
+    ::chmod(archive.c_str(), 0644);
+    EXPECT_EQ(readBytes(archive), before);
+    EXPECT_EQ(filesIn(folder).size(), 1U);
+
+    Zip Zip;
+    Zip.OpenArchive(archive);
+    Zip.addBuffer("data.dat", "new", "");
+    fs::remove(archive);
+    EXPECT_EQ(errorOf([&] { Zip.CloseArchive(); }), errors::fileNotFound) << "vanished while open";
+    EXPECT_TRUE(filesIn(folder).empty());
+    Zip.CreateArchive(folder / "gone" / "b.fwk");
+    EXPECT_EQ(errorOf([&] { Zip.CloseArchive(); }), errors::fileNotFound) << "no such folder";
+    EXPECT_EQ(errorOf([&] { Zip.CloseArchive(); }), errors::badFileName) << "closed by the failure";
+
+    Zip.CreateArchive(archive);
+    EXPECT_EQ(errorOf([&] { Zip.AddFile(folder / "absent.jpg", ""); }), errors::fileNotFound);
+    EXPECT_EQ(errorOf([&] { Zip.AddFile(folder, ""); }), errors::pathAccess);
+    writeBytes(folder / "a\\b.jpg", "x");
+    EXPECT_EQ(errorOf([&] { Zip.AddFile(folder / "a\\b.jpg", ""); }), errors::badFileName);
+    EXPECT_EQ(errorOf([&] { Zip.addBuffer("../x.jpg", "x", ""); }), errors::badFileName);
+}
+
+TEST_F(ZipTest, FullDiskLeavesTheArchive) {
+    make({{"data.dat", "old"}, {"a.jpg", noise(40000)}});
+    const std::string before = readBytes(archive);
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit narrow{60000, limit.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &narrow);
+    EXPECT_EQ(errorOf([&] { replaceData(noise(100000)); }), errors::diskFull);
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_EQ(readBytes(archive), before);
+    EXPECT_EQ(filesIn(folder).size(), 1U);
+
+    const fs::path disk = folder / "disk";
+    fs::create_directory(disk);
+    if (::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=128k") != 0) GTEST_SKIP() << "may not mount";
+    fs::rename(archive, folder / "kept.fwk");
+    archive = disk / "a.fwk";
+    fs::copy_file(folder / "kept.fwk", archive);
+    EXPECT_EQ(errorOf([&] { replaceData(noise(100000)); }), errors::diskFull);
+    EXPECT_EQ(readBytes(archive), before);
+    EXPECT_EQ(filesIn(disk).size(), 1U);
+    ::mount("tmpfs", disk.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "");
+    EXPECT_EQ(errorOf([&] { replaceData("new"); }), errors::pathAccess) << "read-only disk";
+    ::umount(disk.c_str());
+}
+
+TEST_F(ZipTest, RemovesWhatKilledWritersLeftAndNothingElse) {
+    make({{"data.dat", "old"}});
+    const std::vector<std::pair<std::string, bool>> cases = {
+        {".a.fwk.abc123.saving", false}, // old, no writer
+        {".a.fwk.abc124.saving", true},  // young
+        {".a.fwk.abc125.saving", true},  // its writer lives
+        {".a.fwk.abc12.saving", true},   // not a name of ours
+        {".a.fwk.ABC126.saving", true},  {".b.fwk.abc123.saving", true}, {"a.fwk.abc123.saving", true}};
+    for (const auto& [name, stays] : cases) {
+        writeBytes(folder / name, "x");
+        if (name != ".a.fwk.abc124.saving")
+            fs::last_write_time(folder / name, fs::file_time_type::clock::now() - std::chrono::hours(1));
+    }
+    const int writer = ::open((folder / ".a.fwk.abc125.saving").c_str(), O_RDWR | O_CLOEXEC);
+    ::flock(writer, LOCK_EX);
+    replaceData("new");
+    ::close(writer);
+    for (const auto& [name, stays] : cases) EXPECT_EQ(fs::exists(folder / name), stays) << name;
+}
+
+// A writer that is killed at any moment leaves the old archive or the new one.
+TEST_F(ZipTest, SurvivesBeingKilled) {
+    const std::string picture = noise(50000);
+    const std::string texts[] = {noise(60000) + "A", noise(90000) + "B"};
+    make({{"data.dat", texts[0]}, {"a.jpg", picture}});
+    std::mt19937 random(std::random_device{}());
+    int changes = 0;
+    std::string last = texts[0];
+    for (int round = 0; round < 60; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0)
+            for (int i = 0;; ++i) replaceData(texts[i % 2]);
+        std::this_thread::sleep_for(
+            std::chrono::microseconds(std::uniform_int_distribution(0, 30000)(random)));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const std::string found = dataOf(archive);
+        ASSERT_TRUE(found == texts[0] || found == texts[1]) << "round " << round;
+        ASSERT_EQ(dataOf(archive, "a.jpg"), picture) << "round " << round;
+        changes += found != last;
+        last = found;
+    }
+    EXPECT_GT(changes, 5) << "the children were killed before they wrote anything";
+}
+
+} // namespace
