@@ -1,6 +1,6 @@
 #include "core/currency.h"
 
-#include "core/decimal.h"
+#include "core/number.h"
 #include "core/runTimeError.h"
 
 #include <limits>
@@ -11,10 +11,18 @@ namespace {
 
 constexpr int places = 4;
 constexpr int mostDigits = 19; // of the number of ten thousandths
+constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
 
 } // namespace
 
 Currency Currency::parse(std::string_view text) {
+    if (const std::optional<PlainNumber> plain = readPlainNumber(text)) {
+        const std::optional<std::uint64_t> units = plain->digitsWith(places, Rounding::HalfEven);
+        if (units && *units <= largest) {
+            const auto value = static_cast<std::int64_t>(*units);
+            return Currency(plain->negative ? -value : value);
+        }
+    }
     const std::optional<Decimal> read = readDecimal(text);
     if (!read) raise(errors::typeMismatch, "\"" + std::string(text) + "\" is no amount");
     const Decimal number = rounded(*read, places, Rounding::HalfEven);
@@ -28,7 +36,6 @@ Currency Currency::parse(std::string_view text) {
         magnitude = magnitude * 10 +
                     (place < number.digits.size() ? static_cast<unsigned>(number.digits[place] - '0') : 0U);
     }
-    constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
     if (magnitude > largest + (number.negative ? 1 : 0)) raise(errors::overflow, std::string(text));
     return Currency(static_cast<std::int64_t>(number.negative ? ~magnitude + 1 : magnitude));
 }

@@ -5,7 +5,8 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
+#include <charconv>
+#include <cstdint>
 
 namespace core {
 
@@ -14,7 +15,9 @@ namespace {
 constexpr std::array<std::string_view, 12> monthNames = {"JANUARY",   "FEBRUARY", "MARCH",    "APRIL",
                                                          "MAY",       "JUNE",     "JULY",     "AUGUST",
                                                          "SEPTEMBER", "OCTOBER",  "NOVEMBER", "DECEMBER"};
-constexpr std::size_t mostTokens = 16;
+constexpr std::size_t shortName = 3;
+constexpr std::string_view marks = "/-,:";
+constexpr std::size_t mostTokens = 12; // "5 - Jan - 2004 10 : 30 : 15 PM" has eleven
 constexpr std::size_t mostDigits = 4;
 
 bool isDigit(char c) {
@@ -25,71 +28,84 @@ bool isLetter(char c) {
 }
 
 struct Token {
-    enum Kind { Number, Word, Mark } kind = Mark;
-    std::string text;
-    int value = 0;
-    bool afterBlank = false;
+    enum Kind : char { Number, Month, HalfOfDay, Mark } kind = Mark;
+    char mark = '\0';
+    std::int16_t value = 0;  // of a number, or of the month
+    std::int16_t digits = 0; // of a number
 
-    bool isMark(char c) const { return kind == Mark && text[0] == c; }
-    bool isWord(std::string_view word) const { return kind == Word && text == word; }
+    bool isMark(char c) const { return kind == Mark && mark == c; }
+    bool isYear() const { return digits > 2; }
 };
 
-std::optional<std::vector<Token>> tokensOf(std::string_view text) {
-    std::vector<Token> tokens;
-    bool blank = false;
-    for (std::size_t at = 0; at < text.size();) {
-        if (text[at] == ' ') {
-            blank = true;
-            ++at;
-            continue;
-        }
-        if (tokens.size() == mostTokens) return std::nullopt;
-        Token token;
-        token.afterBlank = blank;
-        blank = false;
-        const std::size_t from = at;
-        if (isDigit(text[at])) {
-            token.kind = Token::Number;
-            for (; at < text.size() && isDigit(text[at]); ++at) {
-                if (at - from >= mostDigits) return std::nullopt;
-                token.value = token.value * 10 + (text[at] - '0');
+// Reads the parts of a date into a place of fixed size: a search asks for every cell.
+class Tokens {
+public:
+    // False at the first part that no date has.
+    bool read(std::string_view text) {
+        for (std::size_t at = 0; at < text.size();) {
+            if (text[at] == ' ') {
+                ++at;
+                continue;
             }
-        } else if (isLetter(text[at])) {
-            token.kind = Token::Word;
-            while (at < text.size() && isLetter(text[at])) ++at;
-        } else if (text[at] == '/' || text[at] == '-' || text[at] == ',' || text[at] == ':' ||
-                   text[at] == '.') {
-            ++at;
-        } else {
-            return std::nullopt;
+            if (count_ == tokens_.size()) return false;
+            const std::string_view rest = text.substr(at);
+            const std::size_t size = take(tokens_[count_++], rest);
+            if (size == 0) return false;
+            at += size;
         }
-        token.text = upper(text.substr(from, at - from));
-        tokens.push_back(std::move(token));
+        return count_ > 0;
     }
-    return tokens;
-}
+    std::size_t size() const { return count_; }
+    const Token& operator[](std::size_t index) const { return tokens_[index]; }
 
-std::optional<int> monthOf(const Token& token) {
-    if (token.kind != Token::Word || token.text.size() < 3) return std::nullopt;
-    for (std::size_t i = 0; i < monthNames.size(); ++i)
-        if (token.text == monthNames[i] || token.text == monthNames[i].substr(0, 3))
-            return static_cast<int>(i) + 1;
-    return std::nullopt;
-}
+private:
+    template <typename Is>
+    static std::size_t run(std::string_view text, Is is) {
+        return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), is) - text.begin());
+    }
+
+    static std::size_t take(Token& token, std::string_view text) {
+        if (const std::size_t digits = run(text, isDigit)) {
+            token.kind = Token::Number;
+            if (digits > mostDigits) return 0;
+            token.digits = static_cast<std::int16_t>(digits);
+            std::from_chars(text.data(), text.data() + digits, token.value);
+            return digits;
+        }
+        if (const std::size_t letters = run(text, isLetter))
+            return isWord(token, text.substr(0, letters)) ? letters : 0;
+        token.mark = text.front();
+        return marks.find(token.mark) == std::string_view::npos ? 0 : 1;
+    }
+
+    static bool isWord(Token& token, std::string_view word) {
+        if (equalsNoCase(word, "AM") || equalsNoCase(word, "PM")) {
+            token.kind = Token::HalfOfDay;
+            return true;
+        }
+        const auto* const month = std::ranges::find_if(monthNames, [&](std::string_view name) {
+            return equalsNoCase(word, word.size() == shortName ? name.substr(0, shortName) : name);
+        });
+        token.kind = Token::Month;
+        token.value = static_cast<std::int16_t>(month - monthNames.begin() + 1);
+        return month != monthNames.end();
+    }
+
+    std::array<Token, mostTokens> tokens_;
+    std::size_t count_ = 0;
+};
 
 class DateReader {
 public:
-    DateReader(std::vector<Token> tokens, std::chrono::year_month_day today)
-        : tokens_(std::move(tokens)), today_(today) {}
+    DateReader(const Tokens& tokens, std::chrono::year_month_day today) : tokens_(tokens), today_(today) {}
 
     std::optional<DayValue> read() {
-        if (tokens_.empty()) return std::nullopt;
-        const std::size_t all = tokens_.size();
-        std::optional<std::size_t> time = timeStart();
-        if (time && !readTime(*time)) return std::nullopt;
-        end_ = time.value_or(all);
+        const std::optional<std::size_t> time = timeStart();
+        if (time && !isTime(*time)) return std::nullopt;
+        end_ = time.value_or(tokens_.size());
         if (end_ == 0) return 0; // a time alone
-        return readDay();
+        if (!readParts()) return std::nullopt;
+        return month_ ? withMonthName() : inNumbers();
     }
 
 private:
@@ -97,93 +113,88 @@ private:
     std::optional<std::size_t> timeStart() const {
         for (std::size_t i = 0; i + 1 < tokens_.size(); ++i) {
             const Token& next = tokens_[i + 1];
-            if (tokens_[i].kind == Token::Number &&
-                (next.isMark(':') || next.isWord("AM") || next.isWord("PM")))
+            if (tokens_[i].kind == Token::Number && (next.isMark(':') || next.kind == Token::HalfOfDay))
                 return i;
         }
         return std::nullopt;
     }
 
-    bool readTime(std::size_t at) const {
-        std::vector<int> parts;
-        while (at < tokens_.size() && tokens_[at].kind == Token::Number) {
-            parts.push_back(tokens_[at++].value);
-            if (at == tokens_.size() || !tokens_[at].isMark(':')) break;
-            if (++at == tokens_.size()) return false;
+    bool isTime(std::size_t at) const {
+        const int hour = tokens_[at++].value;
+        for (int parts = 1; at < tokens_.size() && tokens_[at].isMark(':'); ++parts, at += 2) {
+            if (parts == 3 || at + 1 == tokens_.size()) return false;
+            const Token& part = tokens_[at + 1];
+            if (part.kind != Token::Number || part.value > 59) return false;
         }
-        const bool half = at < tokens_.size() && (tokens_[at].isWord("AM") || tokens_[at].isWord("PM"));
+        const bool half = at < tokens_.size() && tokens_[at].kind == Token::HalfOfDay;
         if (half) ++at;
-        if (at != tokens_.size() || parts.empty() || parts.size() > 3) return false;
-        if (parts[0] > (half ? 12 : 23) || (half && parts[0] == 0)) return false;
-        return std::all_of(parts.begin() + 1, parts.end(), [](int part) { return part < 60; });
+        return at == tokens_.size() && (half ? hour >= 1 && hour <= 12 : hour <= 23);
     }
 
-    std::optional<DayValue> readDay() {
-        std::vector<Token> numbers;
-        std::optional<int> month;
-        std::size_t monthPlace = 0;
+    // Takes up to three numbers and one month name, in their order.
+    bool readParts() {
         for (std::size_t i = 0; i < end_; ++i) {
             const Token& token = tokens_[i];
+            const bool adjoins = i > 0 && tokens_[i - 1].kind == Token::Number;
             if (token.kind == Token::Number) {
-                if (i > 0 && tokens_[i - 1].kind == Token::Number && !month) return std::nullopt;
-                numbers.push_back(token);
-            } else if (token.kind == Token::Word) {
-                if (month || !(month = monthOf(token))) return std::nullopt;
-                monthPlace = numbers.size();
+                if (count_ == numbers_.size() || (adjoins && !month_)) return false;
+                numbers_[count_++] = token;
+            } else if (token.kind == Token::Month) {
+                if (month_) return false;
+                month_ = token.value;
+                numbersAheadOfMonth_ = count_;
             } else if (!isSeparator(i)) {
-                return std::nullopt;
+                return false;
             }
         }
-        return month ? withMonthName(*month, monthPlace, numbers) : inNumbers(numbers);
+        return true;
     }
 
     // A separator stands between two parts; a comma may do so anywhere but at the ends.
     bool isSeparator(std::size_t at) const {
+        if (tokens_[at].kind != Token::Mark || tokens_[at].mark == ':') return false;
         if (at == 0 || at + 1 >= end_) return false;
-        if (tokens_[at].isMark(':') || tokens_[at].isMark('.')) return false;
         return tokens_[at - 1].kind != Token::Mark && tokens_[at + 1].kind != Token::Mark;
     }
 
-    std::optional<DayValue> withMonthName(int month, std::size_t place,
-                                          const std::vector<Token>& numbers) const {
-        const int thisYear = static_cast<int>(today_.year());
-        if (numbers.size() == 2) {
-            if (place == 2) return std::nullopt;
-            if (isYear(numbers[0]))
-                return place == 1 ? std::nullopt : dayNumber(fullYear(numbers[0]), month, numbers[1].value);
-            return dayNumber(fullYear(numbers[1]), month, numbers[0].value);
+    // "Jan 5", "Jan 2004", "Jan 5 2004", "5 Jan 2004", "2004 Jan 5".
+    std::optional<DayValue> withMonthName() const {
+        const Token& first = numbers_[0];
+        if (count_ == 1) {
+            if (first.isYear() || first.value > 31) return dayNumber(fullYear(first), *month_, 1);
+            return dayNumber(static_cast<int>(today_.year()), *month_, first.value);
         }
-        if (numbers.size() != 1) return std::nullopt;
-        if (isYear(numbers[0]) || numbers[0].value > 31) return dayNumber(fullYear(numbers[0]), month, 1);
-        return dayNumber(thisYear, month, numbers[0].value);
+        if (count_ != 2 || numbersAheadOfMonth_ == 2) return std::nullopt;
+        const Token& second = numbers_[1];
+        if (numbersAheadOfMonth_ == 1 && first.isYear())
+            return dayNumber(fullYear(first), *month_, second.value);
+        return dayNumber(fullYear(second), *month_, first.value);
     }
 
-    std::optional<DayValue> inNumbers(const std::vector<Token>& numbers) const {
-        if (numbers.size() < 2 || numbers.size() > 3 || !sameSeparators()) return std::nullopt;
-        const int first = numbers[0].value;
-        const int second = numbers[1].value;
-        if (numbers.size() == 2) {
-            if (isYear(numbers[1])) return dayNumber(fullYear(numbers[1]), first, 1);
-            return monthFirst(static_cast<int>(today_.year()), first, second);
+    std::optional<DayValue> inNumbers() const {
+        if (count_ < 2 || !sameSeparators()) return std::nullopt;
+        const Token& first = numbers_[0];
+        const Token& second = numbers_[1];
+        if (count_ == 3) {
+            if (first.isYear()) return dayNumber(fullYear(first), second.value, numbers_[2].value);
+            return monthFirst(fullYear(numbers_[2]), first.value, second.value);
         }
-        if (isYear(numbers[0])) return dayNumber(fullYear(numbers[0]), second, numbers[2].value);
-        return monthFirst(fullYear(numbers[2]), first, second);
+        if (second.isYear()) return dayNumber(fullYear(second), first.value, 1);
+        return monthFirst(static_cast<int>(today_.year()), first.value, second.value);
     }
 
     bool sameSeparators() const {
         char mark = '\0';
         for (std::size_t i = 0; i < end_; ++i) {
             if (tokens_[i].kind != Token::Mark) continue;
-            if (mark != '\0' && mark != tokens_[i].text[0]) return false;
-            mark = tokens_[i].text[0];
+            if (mark != '\0' && mark != tokens_[i].mark) return false;
+            mark = tokens_[i].mark;
         }
         return mark == '/' || mark == '-';
     }
 
-    static bool isYear(const Token& token) { return token.text.size() > 2; }
-
     static int fullYear(const Token& token) {
-        if (isYear(token)) return token.value;
+        if (token.isYear()) return token.value;
         return token.value + (token.value < 30 ? 2000 : 1900);
     }
 
@@ -202,9 +213,13 @@ private:
         return (sys_days(date) - dayZero).count();
     }
 
-    std::vector<Token> tokens_;
+    const Tokens& tokens_;
     std::chrono::year_month_day today_;
     std::size_t end_ = 0; // of the tokens ahead of the time
+    std::array<Token, 3> numbers_;
+    std::size_t count_ = 0;
+    std::optional<int> month_;
+    std::size_t numbersAheadOfMonth_ = 0;
 };
 
 } // namespace
@@ -213,16 +228,16 @@ std::optional<DayValue> dateValue(std::string_view text, std::chrono::year_month
     const std::string_view trimmed = trim(text);
     // Most texts that are asked about are no dates; few of those hold a digit.
     if (trimmed.size() > 40 || std::ranges::none_of(trimmed, isDigit)) return std::nullopt;
-    std::optional<std::vector<Token>> tokens = tokensOf(trimmed);
-    if (!tokens) return std::nullopt;
-    return DateReader(*std::move(tokens), today).read();
+    Tokens tokens;
+    if (!tokens.read(trimmed)) return std::nullopt;
+    return DateReader(tokens, today).read();
 }
 
 bool isDate(std::string_view text, std::chrono::year_month_day today) {
     return dateValue(text, today).has_value();
 }
 
-DayValue DateValue(std::string_view text, std::chrono::year_month_day today) {
+DayValue dateValueOrRaise(std::string_view text, std::chrono::year_month_day today) {
     const std::optional<DayValue> day = dateValue(text, today);
     if (!day) raise(errors::typeMismatch, "\"" + std::string(text) + "\" is no date");
     return *day;

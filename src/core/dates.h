@@ -12,13 +12,13 @@ namespace core {
 // a year in front, no year at all (this year), a time behind the date or alone. When the month cannot
 // be one, day and month change places. A plain number is no date.
 
-// A day as a number that orders and compares; a time alone is day 0.
+// Days since 12/30/1899, which is what a time alone counts as.
 using DayValue = long;
 
 bool isDate(std::string_view text, std::chrono::year_month_day today);
 std::optional<DayValue> dateValue(std::string_view text, std::chrono::year_month_day today);
 // Raises typeMismatch for a text that is no date.
-DayValue DateValue(std::string_view text, std::chrono::year_month_day today);
+DayValue dateValueOrRaise(std::string_view text, std::chrono::year_month_day today);
 
 // As cells hold it: mm/dd/yyyy.
 std::string formatDate(int year, unsigned month, unsigned day);

@@ -18,10 +18,17 @@ constexpr std::array<char32_t, 32> windowsBlock = {
 constexpr char32_t replacement = 0xFFFD;
 
 std::optional<unsigned char> windowsByte(char32_t c) {
+    if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<unsigned char>(c);
     const auto place = std::ranges::find(windowsBlock, c);
     if (place != windowsBlock.end()) return static_cast<unsigned char>(0x80 + (place - windowsBlock.begin()));
-    if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<unsigned char>(c);
     return std::nullopt;
+}
+
+// Takes the ASCII characters at an offset over as they are: nearly all text is made of them.
+void takeAscii(std::string& out, std::string_view text, std::size_t& offset) {
+    const std::string_view run = text.substr(offset, asciiLength(text.substr(offset)));
+    out.append(run);
+    offset += run.size();
 }
 
 bool isWellFormed(char32_t c, std::size_t size) {
@@ -34,7 +41,7 @@ bool isWellFormed(char32_t c, std::size_t size) {
 } // namespace
 
 bool isAscii(std::string_view bytes) {
-    return std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return asciiLength(bytes) == bytes.size();
 }
 
 bool hasUtf8Mark(std::string_view bytes) {
@@ -44,12 +51,10 @@ bool hasUtf8Mark(std::string_view bytes) {
 std::string fromWindows1252(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 8);
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x80)
-            text.push_back(c);
-        else
-            appendCodePoint(text, byte < 0xA0 ? windowsBlock[byte - 0x80U] : byte);
+    std::size_t offset = 0;
+    for (takeAscii(text, bytes, offset); offset < bytes.size(); takeAscii(text, bytes, offset)) {
+        const auto byte = static_cast<unsigned char>(bytes[offset++]);
+        appendCodePoint(text, byte < 0xA0 ? windowsBlock[byte - 0x80U] : byte);
     }
     return text;
 }
@@ -57,7 +62,8 @@ std::string fromWindows1252(std::string_view bytes) {
 std::optional<std::string> toWindows1252(std::string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
-    for (std::size_t offset = 0; offset < text.size();) {
+    std::size_t offset = 0;
+    for (takeAscii(bytes, text, offset); offset < text.size(); takeAscii(bytes, text, offset)) {
         const std::optional<unsigned char> byte = windowsByte(nextCodePoint(text, offset));
         if (!byte) return std::nullopt;
         bytes.push_back(static_cast<char>(*byte));
@@ -68,7 +74,8 @@ std::optional<std::string> toWindows1252(std::string_view text) {
 std::string sanitizeUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
-    for (std::size_t offset = 0; offset < bytes.size();) {
+    std::size_t offset = 0;
+    for (takeAscii(text, bytes, offset); offset < bytes.size(); takeAscii(text, bytes, offset)) {
         const std::size_t from = offset;
         const char32_t c = nextCodePoint(bytes, offset);
         if (isWellFormed(c, offset - from))

@@ -1,16 +1,16 @@
 #include "core/format.h"
 
-#include "core/decimal.h"
 #include "core/number.h"
 
-#include <cstdlib>
+#include <array>
 
 namespace core {
 
 namespace {
 
-// A number of a hundred digits is no amount; it is shown in its default form.
-constexpr int mostDigits = 100;
+// More digits than any double has ahead of its point: no amount, and a text of any length could ask for
+// them with an exponent.
+constexpr int mostDigits = 309;
 
 struct Shape {
     bool dollar = false;
@@ -54,12 +54,34 @@ std::string formatDecimal(const Decimal& exact, const Shape& shape) {
     return text;
 }
 
+// Written from the end, digits with so many places as the shape has.
+std::string formatDigits(std::uint64_t digits, bool negative, const Shape& shape) {
+    std::array<char, 32> buffer; // 20 digits, 6 commas, a point, a dollar sign, a minus sign
+    char* const end = buffer.data() + buffer.size();
+    char* at = end;
+    const bool isZero = digits == 0;
+    for (int place = 0; place < shape.places; ++place, digits /= 10)
+        *--at = static_cast<char>('0' + digits % 10);
+    if (shape.places > 0) *--at = '.';
+    for (int place = 0; digits > 0; ++place, digits /= 10) {
+        if (shape.commas && place > 0 && place % 3 == 0) *--at = ',';
+        *--at = static_cast<char>('0' + digits % 10);
+    }
+    if (shape.dollar) *--at = '$';
+    if (negative && !isZero) *--at = '-';
+    return std::string(at, end);
+}
+
 } // namespace
 
 std::string format(std::string_view text, Mask mask) {
+    const Shape shape = shapeOf(mask);
+    if (const std::optional<PlainNumber> plain = readPlainNumber(text))
+        if (const auto digits = plain->digitsWith(shape.places, Rounding::HalfAwayFromZero))
+            return formatDigits(*digits, plain->negative, shape);
     const std::optional<Decimal> number = readDecimal(text);
-    if (!number || std::abs(number->point) > mostDigits) return std::string(text);
-    return formatDecimal(*number, shapeOf(mask));
+    if (!number || number->point > mostDigits) return std::string(text);
+    return formatDecimal(*number, shape);
 }
 
 std::string format(double value, Mask mask) {

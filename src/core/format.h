@@ -19,7 +19,7 @@ enum class Mask {
 // A half is rounded away from zero, on the decimal digits of the value. A minus sign stands in front
 // of the dollar sign; what is rounded to zero has none.
 std::string format(double value, Mask mask);
-// A text that is no number comes back as it stands.
+// A text that is no number, or one of more than 309 digits, comes back as it stands.
 std::string format(std::string_view text, Mask mask);
 
 } // namespace core

@@ -1,12 +1,15 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace core {
 
 namespace {
 
 constexpr char32_t highestAscii = 0x7F;
+constexpr char32_t behindUnicode = 0x110000;
 
 std::size_t sequenceLength(unsigned char lead) {
     if (lead >= 0xC2 && lead <= 0xDF) return 2;
@@ -74,21 +77,41 @@ char32_t upperGreek(char32_t c) {
 char32_t upperCyrillic(char32_t c) {
     if (isWithin(c, 0x430, 0x44F)) return c - 0x20;
     if (isWithin(c, 0x450, 0x45F)) return c - 0x50;
-    return c;
+    const bool oddIsLower =
+        isWithin(c, 0x460, 0x481) || isWithin(c, 0x48A, 0x4BF) || isWithin(c, 0x4D0, 0x52F);
+    if (oddIsLower) return c & ~char32_t{1};
+    if (c == 0x4CF) return 0x4C0;
+    return isWithin(c, 0x4C1, 0x4CE) && c % 2 == 0 ? c - 1 : c;
 }
 
 char32_t upperOf(char32_t c) {
     if (c < 0x180) return upperLatin(c);
     if (c < 0x400) return upperGreek(c);
-    if (c < 0x460) return upperCyrillic(c);
+    if (c < 0x530) return upperCyrillic(c);
     return c;
 }
 
-bool isAsciiText(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) <= highestAscii; });
+// The upper-cased character at an offset, as a number that orders like its bytes.
+char32_t nextUpper(std::string_view text, std::size_t& offset) {
+    const auto lead = static_cast<unsigned char>(text[offset]);
+    if (lead <= highestAscii) return static_cast<unsigned char>(upperAscii(text[offset++]));
+    const std::size_t from = offset;
+    const char32_t c = nextCodePoint(text, offset);
+    // A stray byte is no letter: it must not pass for the letter of the same number.
+    return offset - from == 1 ? behindUnicode + lead : upperOf(c);
 }
 
 } // namespace
+
+std::size_t asciiLength(std::string_view text) {
+    std::size_t at = 0;
+    for (std::uint64_t eight = 0; at + sizeof eight <= text.size(); at += sizeof eight) {
+        std::memcpy(&eight, text.data() + at, sizeof eight);
+        if ((eight & 0x8080808080808080U) != 0) break;
+    }
+    while (at < text.size() && static_cast<unsigned char>(text[at]) <= highestAscii) ++at;
+    return at;
+}
 
 std::string_view ltrim(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
@@ -136,29 +159,49 @@ void appendCodePoint(std::string& out, char32_t c) {
 }
 
 void appendUpper(std::string& out, std::string_view text) {
-    if (isAsciiText(text)) {
-        const std::size_t from = out.size();
-        out.resize(from + text.size());
-        std::ranges::transform(text, out.begin() + static_cast<std::ptrdiff_t>(from), upperAscii);
-        return;
+    const std::size_t from = out.size();
+    const std::size_t ascii = from + asciiLength(text);
+    out.append(text);
+    for (std::size_t offset = from; offset < ascii; ++offset) out[offset] = upperAscii(out[offset]);
+    // All letters with an upper case have two bytes, and so has that.
+    for (std::size_t offset = ascii; offset < out.size();) {
+        const std::size_t start = offset;
+        const char32_t letter = nextUpper(out, offset);
+        if (offset - start == 2) {
+            out[start] = static_cast<char>(0xC0 | letter >> 6);
+            out[start + 1] = static_cast<char>(0x80 | (letter & 0x3F));
+        } else if (letter <= highestAscii) {
+            out[start] = static_cast<char>(letter);
+        }
     }
-    for (std::size_t offset = 0; offset < text.size();) {
-        if (characterLength(text, offset) == 1)
-            out.push_back(upperAscii(text[offset++]));
-        else
-            appendCodePoint(out, upperOf(nextCodePoint(text, offset)));
-    }
+}
+
+void upperInto(std::string& out, std::string_view text) {
+    out.clear();
+    appendUpper(out, text);
 }
 
 std::string upper(std::string_view text) {
     std::string out;
+    out.reserve(text.size());
     appendUpper(out, text);
     return out;
 }
 
+int compareNoCase(std::string_view a, std::string_view b) {
+    std::size_t atA = 0;
+    std::size_t atB = 0;
+    while (atA < a.size() && atB < b.size()) {
+        const char32_t inA = nextUpper(a, atA);
+        const char32_t inB = nextUpper(b, atB);
+        if (inA != inB) return inA < inB ? -1 : 1;
+    }
+    if (atA < a.size()) return 1;
+    return atB < b.size() ? -1 : 0;
+}
+
 bool equalsNoCase(std::string_view a, std::string_view b) {
-    if (isAsciiText(a) && isAsciiText(b)) return std::ranges::equal(a, b, {}, upperAscii, upperAscii);
-    return upper(a) == upper(b);
+    return a.size() == b.size() && compareNoCase(a, b) == 0;
 }
 
 std::vector<std::string_view> split(std::string_view text, char separator) {
@@ -174,9 +217,10 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
 }
 
 std::size_t length(std::string_view text) {
-    if (isAsciiText(text)) return text.size();
-    std::size_t characters = 0;
-    for (std::size_t offset = 0; offset < text.size(); offset += characterLength(text, offset)) ++characters;
+    const std::size_t ascii = asciiLength(text);
+    std::size_t characters = ascii;
+    for (std::size_t offset = ascii; offset < text.size(); offset += characterLength(text, offset))
+        ++characters;
     return characters;
 }
 
