@@ -8,6 +8,7 @@
 #include "storage/lineReader.h"
 #include "storage/values.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -60,8 +61,8 @@ private:
             const std::string_view line = lines_.next();
             if (line.substr(0, markerSize) == beginData) return;
             const std::string_view marker = line.substr(0, markerSize);
-            const std::string_view value =
-                line.size() > markerSize ? line.substr(markerSize) : std::string_view();
+            // A view into the line even when it is empty: a lock value may go on from there.
+            const std::string_view value = line.substr(std::min(line.size(), markerSize));
             if (!readSection(marker, value)) report("unknown section");
         }
     }

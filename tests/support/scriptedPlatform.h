@@ -1,0 +1,97 @@
+#pragma once
+
+#include "platform/platform.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkdtemp
+
+// A machine that answers from a script and remembers what it was asked.
+class ScriptedPlatform : public platform::Platform {
+public:
+    struct Message {
+        std::string text;
+        platform::Icon icon;
+        std::string caption;
+    };
+
+    ScriptedPlatform() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "ferrowick-test-XXXXXX").string();
+        folder = mkdtemp(pattern.data());
+        std::filesystem::create_directories(folder / "work" / "Temp");
+    }
+    ~ScriptedPlatform() override {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    }
+    ScriptedPlatform(const ScriptedPlatform&) = delete;
+    ScriptedPlatform& operator=(const ScriptedPlatform&) = delete;
+
+    // What the script says. An empty queue answers No, or cancels.
+    std::deque<platform::Answer> answers;
+    std::deque<std::string> inputs;
+    std::deque<std::string> files;
+    std::function<void(std::string_view)> onForm;
+
+    // What was asked.
+    std::vector<Message> messages;
+    std::vector<std::string> forms;
+    std::vector<std::string> links;
+    std::vector<platform::FileDialog> dialogs;
+    int paints = 0;
+    std::map<std::string, std::string> settings;
+    std::filesystem::path folder; // for the test's own files; removed at the end
+    std::chrono::year_month_day day{std::chrono::year(2026) / 3 / 14};
+
+    std::string lastMessage() const { return messages.empty() ? std::string() : messages.back().text; }
+
+    platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
+                            platform::Buttons buttons) override {
+        messages.push_back({text, icon, caption});
+        if (buttons == platform::Buttons::Ok) return platform::Answer::Ok;
+        return take(answers).value_or(platform::Answer::No);
+    }
+    std::string inputBox(const std::string& prompt, const std::string& title, const std::string&) override {
+        messages.push_back({prompt, platform::Icon::None, title});
+        return take(inputs).value_or("");
+    }
+    std::optional<std::string> showOpen(const platform::FileDialog& dialog) override { return answer(dialog); }
+    std::optional<std::string> showSave(const platform::FileDialog& dialog) override { return answer(dialog); }
+    void showForm(std::string_view name) override {
+        forms.emplace_back(name);
+        if (onForm) onForm(name);
+    }
+    void setMousePointer(platform::MousePointer) override {}
+    void paintStatus() override { ++paints; }
+    void openLink(const std::string& target) override { links.push_back(target); }
+    std::filesystem::path workFolder() override { return folder / "work"; }
+    std::filesystem::path tempFolder() override { return folder / "work" / "Temp"; }
+    void clearWorkFiles() override {
+        for (const auto& entry : std::filesystem::directory_iterator(tempFolder())) std::filesystem::remove(entry);
+        std::filesystem::remove(workFolder() / "data.dat");
+    }
+    bool keepsDataFile() const override { return true; }
+    std::string getSetting(const std::string& key, const std::string& byDefault) override {
+        const auto found = settings.find(key);
+        return found == settings.end() ? byDefault : found->second;
+    }
+    void saveSetting(const std::string& key, const std::string& value) override { settings[key] = value; }
+    void flushSettings() override {}
+    std::chrono::year_month_day today() override { return day; }
+
+private:
+    template <typename Value> static std::optional<Value> take(std::deque<Value>& queue) {
+        if (queue.empty()) return std::nullopt;
+        Value value = queue.front();
+        queue.pop_front();
+        return value;
+    }
+    std::optional<std::string> answer(const platform::FileDialog& dialog) {
+        dialogs.push_back(dialog);
+        return take(files);
+    }
+};
