@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace CLI {
+class App;
+}
+
+namespace cli {
+
+// Exit codes that scripts depend on.
+constexpr int done = 0;
+constexpr int failed = 1;
+constexpr int wrongCommandLine = 2;
+
+// What a command does once its arguments are known; answers the exit code. Refusals and failures are
+// raised as Failure.
+using Run = std::function<int()>;
+
+// One command of the tool. setUp declares the arguments; they are stored by the time Run is called.
+struct Command {
+    const char* name;
+    const char* summary;
+    Run (*setUp)(CLI::App& command);
+};
+
+Run setUpInfo(CLI::App& command);
+Run setUpRecords(CLI::App& command);
+Run setUpCheck(CLI::App& command);
+Run setUpSort(CLI::App& command);
+Run setUpClone(CLI::App& command);
+Run setUpSaveAs(CLI::App& command);
+
+// Arguments that many commands share.
+void addFileArgument(CLI::App& command, std::string& file);
+void addYesFlag(CLI::App& command, bool& yes, const char* description);
+
+} // namespace cli

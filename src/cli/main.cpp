@@ -1,0 +1,74 @@
+#include "cli/command.h"
+#include "cli/output.h"
+#include "cli/session.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <map>
+
+namespace cli {
+
+namespace {
+
+constexpr Command commands[] = {
+    {"info", "Tells what a database is", setUpInfo},
+    {"records", "Prints the records and the Totals row", setUpRecords},
+    {"check", "Tells what is wrong with a database, one finding a line", setUpCheck},
+    {"sort", "Sorts the records by a column and stores that order", setUpSort},
+    {"clone", "Makes a database of the same design without records", setUpClone},
+    {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
+};
+
+constexpr const char* exitCodes =
+    "Exit code: 0 done; 1 refused or failed, a line on standard error says why; "
+    "2 the command line is wrong.";
+
+int tellWrongCommandLine(const CLI::App& program, const CLI::ParseError& error) {
+    std::cerr << "fwk: " << error.what() << "\n\n" << program.help();
+    return wrongCommandLine;
+}
+
+int runProgram(int argc, char** argv) {
+    CLI::App program("Works on Ferrowick databases from the command line.", "fwk");
+    program.set_version_flag("--version", "fwk " FERROWICK_VERSION);
+    program.require_subcommand(1);
+    program.footer(exitCodes);
+    program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    program.get_formatter()->label("Subcommands", "Commands");
+    std::map<const CLI::App*, Run> runs;
+    for (const Command& command : commands) {
+        CLI::App* subcommand = program.add_subcommand(command.name, command.summary);
+        runs[subcommand] = command.setUp(*subcommand);
+    }
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::Success& help) {
+        return program.exit(help);
+    } catch (const CLI::ParseError& error) {
+        return tellWrongCommandLine(program, error);
+    }
+    return runs[program.get_subcommands().front()]();
+}
+
+} // namespace
+
+void addFileArgument(CLI::App& command, std::string& file) {
+    command.add_option("FILE", file, "The database")->required();
+}
+
+void addYesFlag(CLI::App& command, bool& yes, const char* description) {
+    command.add_flag("--yes", yes, description);
+}
+
+} // namespace cli
+
+int main(int argc, char** argv) {
+    try {
+        return cli::runProgram(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::cerr << "fwk: out of memory\n";
+    } catch (const std::exception& error) {
+        std::cerr << "fwk: " << cli::printable(error.what()) << '\n';
+    }
+    return cli::failed;
+}

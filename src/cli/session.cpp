@@ -1,0 +1,118 @@
+#include "cli/session.h"
+
+#include "storage/openFile.h"
+#include "storage/saveFile.h"
+
+#include <filesystem>
+#include <iostream>
+#include <limits>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool isSameFile(const std::string& a, const std::string& b) {
+    std::error_code error;
+    const fs::path first = fs::weakly_canonical(a, error);
+    return !error && first == fs::weakly_canonical(b, error) && !error;
+}
+
+// The save routine says that it failed, but not why; what it ran into is still there to be seen.
+std::string whyNotWritten(const std::string& target) {
+    const fs::path folder = fs::path(target).parent_path();
+    const char* place = folder.empty() ? "." : folder.c_str();
+    struct stat status {};
+    if (::stat(place, &status) != 0 || !S_ISDIR(status.st_mode)) return "its folder does not exist";
+    if (::stat(target.c_str(), &status) == 0) {
+        if (S_ISDIR(status.st_mode)) return "it is a folder";
+        const bool writable = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+        if (!writable || ::access(target.c_str(), W_OK) != 0) return "it is read-only";
+    }
+    if (::access(place, W_OK) != 0) return "its folder is read-only";
+    return "writing failed; the disk may be full";
+}
+
+// The end of the process gives the document back at once; to free its cells one by one would take a
+// good part of the time that reading them takes.
+app::App& untilTheEnd(std::unique_ptr<app::App> app) {
+    static auto* const kept = new std::vector<std::unique_ptr<app::App>>;
+    kept->push_back(std::move(app));
+    return *kept->back();
+}
+
+} // namespace
+
+Session::Session(std::string databaseFile)
+    : file(std::move(databaseFile)), platform(std::cerr),
+      app(untilTheEnd(std::make_unique<app::App>(platform))) {}
+
+void Session::open() {
+    try {
+        app.document.currentFile = file;
+        storage::readArchive(app, file);
+    } catch (const core::RunTimeError& error) {
+        throw Failure(file, whyNotOpened(error));
+    }
+}
+
+std::string Session::whyNotOpened(const core::RunTimeError& error) const {
+    constexpr auto mostRecords = std::numeric_limits<decltype(app.document.iLastKey)>::max();
+    if (error.number == core::errors::overflow && app.document.iLastKey == mostRecords)
+        return "it has more than " + std::to_string(mostRecords) + " records";
+    // The line begins with the name of the file anyway, so that "File not found: a.fwk (No such file)"
+    // becomes "File not found (No such file)".
+    std::string reason = error.what();
+    const std::size_t place = file.empty() ? std::string::npos : reason.find(": " + file);
+    if (place == std::string::npos) return reason;
+    const std::string rest = reason.substr(place + 2 + file.size());
+    const bool joins = rest.empty() || rest.starts_with(" (");
+    return reason.substr(0, place) + (joins ? "" : ":") + rest;
+}
+
+void Session::save() {
+    run(file, false, false);
+}
+
+void Session::saveAs(const std::string& target) {
+    run(target, true, false);
+}
+
+void Session::clone(const std::string& target) {
+    run(target, false, true);
+}
+
+void Session::run(const std::string& target, bool bSaveAs, bool bClone) {
+    const int messages = platform.exclamations();
+    const int refusals = platform.refusedQuestions();
+    // The routine compares names as texts; a file has more than one of them.
+    platform.setSaveName(bSaveAs && isSameFile(target, file) ? app.document.currentFile : target);
+    storage::SaveFile(app, bSaveAs, bClone);
+    if (platform.refusedQuestions() != refusals)
+        throw Failure(target, "it exists already, --yes overwrites it");
+    if (platform.exclamations() != messages)
+        throw Failure(target, "could not be saved: " + whyNotWritten(target));
+}
+
+core::Column& Session::column(std::string_view name) {
+    core::Column* column = app.document.LV.columns.find(name);
+    if (column == nullptr || column->Index == 1)
+        throw Failure(file, "no column \"" + std::string(name) + "\"");
+    return *column;
+}
+
+std::vector<const core::Column*> Session::columns(const std::vector<std::string>& names) {
+    std::vector<const core::Column*> chosen;
+    chosen.reserve(names.size());
+    for (const std::string& name : names) chosen.push_back(&column(name));
+    if (!names.empty()) return chosen;
+    for (const core::Column& column : app.document.LV.columns)
+        if (column.Index != 1) chosen.push_back(&column);
+    return chosen;
+}
+
+} // namespace cli

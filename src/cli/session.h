@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/app.h"
+#include "core/runTimeError.h"
+#include "platform/headlessPlatform.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+// A command was refused or failed. The text is the line that says what and why.
+class Failure : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+    Failure(const std::string& file, const std::string& reason) : std::runtime_error(file + ": " + reason) {}
+};
+
+// One run of a command on one database: the program without its window.
+class Session {
+public:
+    // The file as the user wrote it, so that messages speak of it in his words.
+    explicit Session(std::string databaseFile);
+
+    // Reads the database. Raises Failure with the reason when it cannot be opened.
+    void open();
+    // The reason in the user's words, for an error that reading the database ended in.
+    std::string whyNotOpened(const core::RunTimeError& error) const;
+    // Saves through the window's own routine. A failure leaves the file as it was and raises Failure.
+    void save();
+    void saveAs(const std::string& target);
+    void clone(const std::string& target);
+
+    // A column of the database; raises Failure when there is none of that name. The hidden column is
+    // no column to the user.
+    core::Column& column(std::string_view name);
+    // The columns of the database in the order of the table, or the named ones in the order told.
+    std::vector<const core::Column*> columns(const std::vector<std::string>& names);
+
+    const std::string file;
+    platform::HeadlessPlatform platform;
+    app::App& app;
+
+private:
+    void run(const std::string& target, bool bSaveAs, bool bClone);
+};
+
+} // namespace cli
