@@ -1,0 +1,57 @@
+#include "gui/commandLine.h"
+#include "gui/icon.h"
+#include "gui/mainFrmView.h"
+#include "gui/palette.h"
+#include "gui/picture.h"
+#include "gui/qtText.h"
+#include "shell/mainWindow.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <iostream>
+
+namespace {
+
+int showWindow(const gui::CommandLine& line) {
+    gui::QtPlatform platform;
+    app::App app(platform);
+    gui::MainFrmView window(app, platform);
+    // Not with the last window: the disclaimer of the first start closes before the window opens.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&window, &gui::MainFrmView::closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    window.load(shell::commandLineFor(gui::fromQt(line.file)));
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const gui::CommandLine line = gui::parseCommandLine(argc, argv);
+    const QString program = argc > 0 ? QFileInfo(QString::fromLocal8Bit(argv[0])).fileName() : QString();
+    if (line.help || line.version) {
+        std::cout << gui::fromQt(line.help ? gui::helpText(program) : gui::versionText());
+        return 0;
+    }
+    if (!line.error.isEmpty()) {
+        std::cerr << "ferrowick: " << gui::fromQt(line.error) << "\nTry " << gui::fromQt(program)
+                  << " --help.\n";
+        return 2;
+    }
+    const bool picture = !line.picture.isEmpty();
+    if (picture) {
+        // Both are read when the application object is made. What Qt has to say about the missing display
+        // would only stand among the lines of a script.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(line.scale));
+    }
+    const QApplication application(argc, argv);
+    // No display name beside it: Qt would add that to captions that begin with the title already.
+    QCoreApplication::setApplicationName(QStringLiteral("ferrowick"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(FERROWICK_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("ferrowick"));
+    QApplication::setWindowIcon(gui::programIcon());
+    if (line.dark) gui::useDarkColours();
+    return picture ? gui::drawPicture(line) : showWindow(line);
+}

@@ -1,0 +1,137 @@
+#include "gui/mainFrmView.h"
+
+#include "gui/disclaimFrmView.h"
+#include "gui/icon.h"
+#include "gui/qtText.h"
+#include "shell/mainWindow.h"
+#include "storage/openFile.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QTabBar>
+
+#include <array>
+
+namespace gui {
+
+namespace {
+
+constexpr QSize firstSize(1100, 720);
+
+QWidget* notBuiltPage(const QString& name, const QString& text) {
+    auto* label = new QLabel(text);
+    label->setObjectName(name);
+    label->setAlignment(Qt::AlignCenter);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+// The one database among what is dragged over the window.
+QString droppedDatabase(const QMimeData* data) {
+    const QList<QUrl> urls = data->urls();
+    if (urls.size() != 1 || !urls.constFirst().isLocalFile()) return {};
+    const QString path = urls.constFirst().toLocalFile();
+    return path.endsWith(QLatin1String(".fwk"), Qt::CaseInsensitive) ? path : QString();
+}
+
+} // namespace
+
+MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
+    : QMainWindow(parent), app_(app), platform_(platform), events_(app, [this] { refresh(); }),
+      actions_(new CommandActions(app, events_, this)), tabs_(new QTabWidget),
+      report_(new ReportPage(app, events_, *actions_)), status_(new StatusPanels(app)) {
+    setObjectName(QStringLiteral("MainFrm"));
+    setWindowIcon(programIcon());
+    setAcceptDrops(true);
+    actions_->addMenuBar(*this);
+    actions_->addToolbar(*this);
+    makeTabs();
+    setStatusBar(status_);
+    resize(firstSize);
+    restoreGeometry(platform_.windowGeometry());
+    resize(size().boundedTo(screen()->availableSize())); // it may have been another screen, or another scale
+
+    platform_.attach({this, [this] { refresh(); },
+                      [this] {
+                          status_->refresh();
+                          status_->repaint();
+                      },
+                      [this] { return app_.document.currentFile; }});
+    platform_.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
+}
+
+MainFrmView::~MainFrmView() {
+    platform_.attach({});
+}
+
+void MainFrmView::makeTabs() {
+    tabs_->setObjectName(QStringLiteral("SSTab1"));
+    tabs_->setDocumentMode(true);
+    tabs_->addTab(report_, tr("Report"));
+    tabs_->addTab(
+        notBuiltPage(QStringLiteral("layoutPage"), tr("The layout page is not available in this version.")),
+        tr("Layout"));
+    tabs_->addTab(notBuiltPage(QStringLiteral("previewPage"),
+                               tr("The print preview is not available in this version.")),
+                  tr("Print Preview"));
+    connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+        if (!refreshing_) events_.run([&] { shell::SSTab1_Click(app_, tab); });
+    });
+    setCentralWidget(tabs_);
+}
+
+void MainFrmView::load(const std::string& Command) {
+    events_.run([&] {
+        shell::Form_Load(app_, Command, [this] {
+            refresh();
+            show();
+        });
+    });
+}
+
+void MainFrmView::refresh() {
+    if (refreshing_) return;
+    const QScopedValueRollback guard(refreshing_, true);
+    setWindowTitle(toQt(app_.mainFrm.Caption));
+    actions_->refresh();
+    tabs_->tabBar()->setEnabled(app_.mainFrm.SSTab1Enabled);
+    tabs_->setCurrentIndex(app_.mainFrm.SSTab1);
+    report_->refresh();
+    status_->refresh();
+    if (app_.mainFrm.unloaded) close();
+}
+
+// Whichever way the window is closed: the menu's Exit has done the handler's part already.
+void MainFrmView::closeEvent(QCloseEvent* event) {
+    if (!app_.mainFrm.unloaded) events_.run([&] { shell::Form_QueryUnload(app_); });
+    platform_.saveWindowGeometry(saveGeometry());
+    event->accept();
+    emit closed();
+}
+
+void MainFrmView::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // The date in the status bar may have become another one.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) status_->refresh();
+}
+
+void MainFrmView::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedDatabase(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+// Like an entry of the recent files: nobody asks about unsaved changes.
+void MainFrmView::dropEvent(QDropEvent* event) {
+    const QString path = droppedDatabase(event->mimeData());
+    if (path.isEmpty()) return;
+    event->acceptProposedAction();
+    events_.run([&] {
+        app_.document.currentFile = fromQt(path);
+        storage::OpenFile(app_, true);
+    });
+}
+
+} // namespace gui

@@ -1,0 +1,67 @@
+#include "gui/messageBox.h"
+
+#include "gui/qtText.h"
+
+#include <QKeyEvent>
+
+namespace gui {
+
+namespace {
+
+QMessageBox::Icon qtIcon(platform::Icon icon) {
+    switch (icon) {
+    case platform::Icon::Information:
+        return QMessageBox::Information;
+    case platform::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case platform::Icon::Question:
+        return QMessageBox::Question;
+    case platform::Icon::Critical:
+        return QMessageBox::Critical;
+    case platform::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon icon,
+                       const std::string& caption, platform::Buttons buttons)
+    : QMessageBox(parent) {
+    setObjectName(QStringLiteral("msgBox"));
+    setWindowTitle(toQt(caption));
+    setIcon(qtIcon(icon));
+    // Texts hold file names and cells, which must not be taken for markup.
+    setTextFormat(Qt::PlainText);
+    setText(toQt(text));
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    setStandardButtons(buttons == platform::Buttons::YesNo ? Yes | No : Ok);
+}
+
+platform::Answer MessageBox::ask() {
+    const int answer = exec();
+    if (dismissed_ && standardButtons() != QMessageBox::Ok) return platform::Answer::Cancel;
+    switch (answer) {
+    case QMessageBox::Yes:
+        return platform::Answer::Yes;
+    case QMessageBox::No:
+        return platform::Answer::No;
+    default:
+        return platform::Answer::Ok;
+    }
+}
+
+// Qt takes a question that is waved away for a No, and a No may throw away what is not saved. So the
+// handlers are told that there was no answer.
+void MessageBox::closeEvent(QCloseEvent* event) {
+    dismissed_ = true;
+    QMessageBox::closeEvent(event);
+}
+
+void MessageBox::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel)) dismissed_ = true;
+    QMessageBox::keyPressEvent(event);
+}
+
+} // namespace gui

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/recordsList.h"
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+namespace gui {
+
+// A records list as a table for Qt. Cells are read when they are drawn; nothing is copied but the
+// number of rows and the look of the columns, so that a list that a handler has changed in the
+// meantime does no harm until refreshed() or reload() has been called.
+// Section s is the column with Index s + 2: the hidden column Index never shows.
+class RecordsModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    explicit RecordsModel(const core::RecordsList& list, QObject* parent = nullptr);
+
+    static int columnIndex(int section) { return section + 2; }
+    static int section(const core::Column& column) { return column.Index - 2; }
+
+    // The rows or columns are other ones than those that Qt knows.
+    bool isStale() const;
+    void reload();
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Shown {
+        std::string text;
+        std::string icon;
+        core::Alignment align;
+        bool operator==(const Shown&) const = default;
+    };
+    std::vector<Shown> columnsNow() const;
+    const core::Item* item(int row) const;
+
+    const core::RecordsList& list_;
+    std::vector<Shown> columns_;
+    int rows_ = 0;
+    std::uint64_t arrangement_ = 0;
+};
+
+} // namespace gui

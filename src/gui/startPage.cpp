@@ -1,0 +1,97 @@
+#include "gui/startPage.h"
+
+#include "gui/icon.h"
+#include "gui/qtText.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <set>
+
+namespace gui {
+
+namespace {
+
+constexpr int pictureSize = 72;
+
+QLabel* centred(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
+} // namespace
+
+StartPage::StartPage(CommandActions& actions, QWidget* parent) : QWidget(parent), actions_(actions) {
+    setObjectName(QStringLiteral("startPage"));
+    auto* picture = new QLabel;
+    picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
+    picture->setAlignment(Qt::AlignCenter);
+    auto* title = centred(tr("No database is open"));
+    QFont font = title->font();
+    font.setPointSizeF(font.pointSizeF() * 1.5);
+    title->setFont(font);
+    auto* text = centred(tr("Open a database, or drop its file on this window.\n"
+                            "A database is one file; its name ends in .fwk."));
+    text->setForegroundRole(QPalette::PlaceholderText);
+
+    new_ = addButton("mnuNew", tr("New"));
+    open_ = addButton("mnuOpen", tr("Open..."));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(new_);
+    buttons->addWidget(open_);
+    buttons->addStretch();
+
+    recentTitle_ = centred(tr("Recent files"));
+    recentTitle_->setForegroundRole(QPalette::PlaceholderText);
+    auto* column = new QVBoxLayout(this);
+    column->addStretch(2);
+    column->addWidget(picture);
+    column->addSpacing(8);
+    column->addWidget(title);
+    column->addWidget(text);
+    column->addSpacing(16);
+    column->addLayout(buttons);
+    column->addSpacing(20);
+    column->addWidget(recentTitle_);
+    for (std::size_t i = 0; i < recent_.size(); ++i) {
+        recent_[i] = addButton(recentKeys[i], {});
+        recent_[i]->setFlat(true);
+        column->addWidget(recent_[i], 0, Qt::AlignHCenter);
+    }
+    column->addStretch(3);
+}
+
+QPushButton* StartPage::addButton(const char* key, const QString& text) {
+    QAction* action = actions_.action(key);
+    auto* button = new QPushButton(action->icon(), text);
+    button->setObjectName(QStringLiteral("start_") + QLatin1String(key));
+    connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    return button;
+}
+
+void StartPage::refresh() {
+    new_->setEnabled(actions_.action("mnuNew")->isEnabled());
+    open_->setEnabled(actions_.action("mnuOpen")->isEnabled());
+    std::set<QString> shown; // the list of recent files may name one twice
+    for (std::size_t i = 0; i < recent_.size(); ++i) {
+        const QString path = actions_.action(recentKeys[i])->data().toString();
+        const bool first = !path.isEmpty() && shown.insert(path).second;
+        recent_[i]->setVisible(first);
+        if (!first) continue;
+        const QFileInfo file(path);
+        QString folder = file.path();
+        if (folder.startsWith(QDir::homePath())) folder.replace(0, QDir::homePath().size(), QLatin1Char('~'));
+        recent_[i]->setText(withoutMnemonics(
+            QStringLiteral("%1  -  %2")
+                .arg(file.fileName(), fontMetrics().elidedText(folder, Qt::ElideMiddle, width() / 2))));
+        recent_[i]->setToolTip(path);
+    }
+    recentTitle_->setVisible(!shown.empty());
+}
+
+} // namespace gui

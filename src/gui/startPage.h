@@ -1,0 +1,33 @@
+#pragma once
+
+#include "gui/commandActions.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+
+namespace gui {
+
+// What the report tab shows as long as no database is open: how to begin.
+class StartPage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit StartPage(CommandActions& actions, QWidget* parent = nullptr);
+
+    void refresh();
+
+private:
+    QPushButton* addButton(const char* key, const QString& text);
+
+    static constexpr std::array<const char*, 3> recentKeys = {"mnuFile1", "mnuFile2", "mnuFile3"};
+
+    CommandActions& actions_;
+    QPushButton* new_;
+    QPushButton* open_;
+    QLabel* recentTitle_;
+    std::array<QPushButton*, recentKeys.size()> recent_{};
+};
+
+} // namespace gui

@@ -1,0 +1,61 @@
+#include "gui/statusPanels.h"
+
+#include "gui/qtText.h"
+
+#include <QDate>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QStyle>
+
+namespace gui {
+
+// One panel. A text that is too long is cut with dots, and the tip has all of it.
+class StatusPanels::Panel final : public QLabel {
+public:
+    explicit Panel(int number) {
+        setObjectName(QStringLiteral("SB1_%1").arg(number));
+        setTextFormat(Qt::PlainText);
+        setIndent(fontMetrics().averageCharWidth() / 2);
+    }
+
+    QSize minimumSizeHint() const override {
+        return {fontMetrics().averageCharWidth() * 6, QLabel::minimumSizeHint().height()};
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QRect room = contentsRect().adjusted(indent(), 0, -indent(), 0);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+        setToolTip(shown == text() ? QString() : text());
+        style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+                              foregroundRole());
+    }
+};
+
+namespace {
+
+// How the panels share the width, by the longest texts that they show.
+constexpr std::array<int, 6> shares = {14, 10, 26, 16, 18, 22};
+
+} // namespace
+
+StatusPanels::StatusPanels(app::App& app, QWidget* parent) : QStatusBar(parent), app_(app) {
+    setObjectName(QStringLiteral("SB1"));
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        panels_[i] = new Panel(static_cast<int>(i) + 1);
+        panels_[i]->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        addWidget(panels_[i], shares[i]);
+    }
+}
+
+void StatusPanels::refresh() {
+    for (std::size_t i = 0; i < panels_.size(); ++i) panels_[i]->setText(toQt(app_.mainFrm.panels[i + 1]));
+    const auto today = app_.platform.today();
+    const QDate date(static_cast<int>(today.year()), static_cast<int>(static_cast<unsigned>(today.month())),
+                     static_cast<int>(static_cast<unsigned>(today.day())));
+    panels_[app::datePanel - 1]->setText(QLocale().toString(date, QLocale::ShortFormat));
+}
+
+} // namespace gui

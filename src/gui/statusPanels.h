@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/app.h"
+
+#include <QStatusBar>
+
+#include <array>
+
+namespace gui {
+
+// The six panels of the status bar.
+class StatusPanels : public QStatusBar {
+    Q_OBJECT
+
+public:
+    explicit StatusPanels(app::App& app, QWidget* parent = nullptr);
+
+    void refresh();
+
+private:
+    class Panel;
+
+    app::App& app_;
+    std::array<Panel*, 6> panels_{};
+};
+
+} // namespace gui

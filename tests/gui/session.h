@@ -1,0 +1,127 @@
+#pragma once
+
+#include "gui/mainFrmView.h"
+#include "gui/qtText.h"
+#include "gui/recordsView.h"
+#include "shell/mainWindow.h"
+
+#include <QHeaderView>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <deque>
+
+// The platform of the window, but its dialogs are answered by the test.
+class ScriptedPlatform : public gui::QtPlatform {
+public:
+    struct Message {
+        QString text, caption;
+        platform::Icon icon;
+    };
+    std::vector<Message> messages;
+    std::deque<platform::Answer> answers; // Ok when there is none left
+    std::optional<std::string> chosenFile;
+    QStringList forms;
+
+    platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
+                            platform::Buttons) override {
+        messages.push_back({gui::toQt(text), gui::toQt(caption), icon});
+        if (answers.empty()) return platform::Answer::Ok;
+        const platform::Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    std::optional<std::string> showOpen(const platform::FileDialog&) override { return chosenFile; }
+    std::optional<std::string> showSave(const platform::FileDialog&) override { return chosenFile; }
+    void showForm(std::string_view name) override { forms << gui::toQt(name); }
+};
+
+// One run of the program, with the user's folders of the test.
+struct Session {
+    ScriptedPlatform platform;
+    app::App app{platform};
+    gui::MainFrmView window{app, platform};
+
+    explicit Session(const QString& file = {}) {
+        window.load(shell::commandLineFor(gui::fromQt(file)));
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+    }
+
+    template <typename Widget>
+    Widget* find(const char* name) {
+        auto* found = window.findChild<Widget*>(QLatin1String(name));
+        if (found == nullptr) qFatal("no %s", name);
+        return found;
+    }
+    QAction* action(const char* key) { return find<QAction>(key); }
+    QString panel(int number) {
+        return find<QLabel>(qPrintable(QStringLiteral("SB1_%1").arg(number)))->text();
+    }
+    gui::RecordsView* list(const char* name = "LV") { return find<gui::RecordsView>(name); }
+    core::RecordsList& LV() { return app.document.LV; }
+
+    int section(const char* column, const char* listName = "LV") {
+        const QAbstractItemModel* model = list(listName)->model();
+        for (int s = 0; s < model->columnCount(); ++s)
+            if (model->headerData(s, Qt::Horizontal, Qt::DisplayRole).toString() == QLatin1String(column))
+                return s;
+        qFatal("no column %s", column);
+    }
+    QString cell(int row, const char* column, const char* listName = "LV") {
+        return list(listName)->model()->index(row, section(column, listName)).data().toString();
+    }
+    int rows(const char* listName = "LV") { return list(listName)->model()->rowCount(); }
+
+    QPoint headerPlace(int section) {
+        const QHeaderView* header = list()->header();
+        return {header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
+                header->height() / 2};
+    }
+    void clickHeader(const char* column) {
+        QTest::mouseClick(list()->header()->viewport(), Qt::LeftButton, {}, headerPlace(section(column)));
+    }
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}, const char* listName = "LV") {
+        gui::RecordsView* view = list(listName);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers,
+                          view->visualRect(view->model()->index(row, 0)).center());
+    }
+    void dragHeader(QPoint from, QPoint to) {
+        QWidget* header = list()->header()->viewport();
+        QTest::mousePress(header, Qt::LeftButton, {}, from);
+        for (int step = 1; step <= 8; ++step) QTest::mouseMove(header, from + (to - from) * step / 8);
+        QTest::mouseRelease(header, Qt::LeftButton, {}, to);
+    }
+    QList<int> selectedRows() {
+        QList<int> rows;
+        for (const QModelIndex& index : list()->selectionModel()->selectedRows()) rows << index.row();
+        std::ranges::sort(rows);
+        return rows;
+    }
+};
+
+// Folders of the test's own, for the user's and for copies of the samples.
+class Folders {
+public:
+    Folders() {
+        for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+            qputenv(variable, QFile::encodeName(folder_.filePath(QLatin1String(variable))));
+    }
+    // Settings that hold nothing but that the disclaimer has been seen.
+    static void forgetSettings() {
+        std::filesystem::remove(platform::SettingsFile::defaultFile());
+        platform::SettingsFile settings;
+        settings.SaveSetting("StartUp", "Disclaimer", "True");
+        QVERIFY(settings.flush());
+    }
+    QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+    QString sample(const char* name) const {
+        QString copy = path(name);
+        QFile::remove(copy);
+        QFile::copy(QStringLiteral(TEST_DATA_DIR "/") + QLatin1String(name), copy);
+        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+        return copy;
+    }
+
+private:
+    QTemporaryDir folder_;
+};
