@@ -26,18 +26,19 @@ fi
 
 # Without the tests and the benchmarks the build is quick.
 if [[ ! -f $build/build.ninja ]]; then
-    cmake -S "$project" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DFERROWICK_TESTS=OFF --log-level=WARNING
+    cmake -S "$project" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DFERROWICK_TESTS=OFF --log-level=WARNING \
+        >/dev/null
 fi
+[[ -x $build/src/fwk ]] || echo "Building in $build"
 if [[ -t 1 ]]; then
     cmake --build "$build" --target ferrowick fwk
-else
-    echo "Building in $build"
-    cmake --build "$build" --target ferrowick fwk -- --quiet
+elif ! cmake --build "$build" --target ferrowick fwk >"$build/build.log" 2>&1; then
+    cat "$build/build.log" >&2
+    exit 1
 fi
 
-program() { find "$build/src" -name "$1" -type f -perm -u+x -print -quit; }
-fwk=$(program fwk)
-ferrowick=$(program ferrowick)
+fwk=$build/src/fwk
+ferrowick=$build/src/gui/ferrowick
 
 # A window tells nothing about a file that it cannot open; this line does.
 "$fwk" info "$file" >/dev/null || exit 1
@@ -53,9 +54,5 @@ echo
 "$fwk" records "$file" | sed -n '1,12p'
 echo
 picture=$build/main-window.png
-# Settings and work folder of its own: a picture must not change what the user finds next time.
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-XDG_CONFIG_HOME=$scratch XDG_DATA_HOME=$scratch QT_QPA_PLATFORM=offscreen \
-    "$ferrowick" --picture "$picture" "$file"
+QT_QPA_PLATFORM=offscreen "$ferrowick" --picture "$picture" "$file"
 echo "The main window, drawn offscreen: $picture"

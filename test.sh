@@ -80,7 +80,7 @@ fuzz() {
     for target in reader archive; do
         mkdir -p "build/fuzz/grown-$target"
         "build/fuzz/fuzz/fuzz_$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
-            -print_final_stats=1 -verbosity=0 -artifact_prefix="build/fuzz/found-$target-" \
+            -print_final_stats=1 -verbosity=0 -dict=fuzz/reader.dict -artifact_prefix="build/fuzz/found-$target-" \
             "build/fuzz/grown-$target" "build/fuzz/corpus-$target" || return 1
     done
 }

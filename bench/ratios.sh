@@ -1,0 +1,75 @@
+#!/usr/bin/env bash
+# Compares whole processes with what other programs need for the same data, and tells whether each ratio is
+# within its limit: bench/ratios.sh [BUILD] [RUNS]
+# BUILD is a built release folder (default build/release), RUNS how often each is timed (default 20).
+# Times are medians; a machine that does other work meanwhile makes them worthless.
+set -euo pipefail
+
+project=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/..
+build=$(readlink -f "${1:-$project/build/release}")
+runs=${2:-20}
+
+"$project/scripts/install-packages.sh" bench
+fwk=$build/src/fwk
+for program in "$fwk" "$build/bench/make_big_database" "$build/bench/document_memory"; do
+    if [[ ! -x $program ]]; then
+        echo "ratios.sh: $program is not built; run: cmake --preset release && cmake --build --preset release" >&2
+        exit 2
+    fi
+done
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+cd "$scratch"
+failed=0
+
+# The median in milliseconds. Further arguments go to hyperfine.
+median() {
+    local command=$1
+    shift
+    hyperfine --shell=none --warmup 2 --runs "$runs" --style none --export-csv time.csv "$@" "$command" >/dev/null 2>error.txt ||
+        { cat error.txt >&2 && exit 1; }
+    awk -F, 'NR == 2 { printf "%.1f", $(NF - 4) * 1000 }' time.csv
+}
+
+row() {
+    local what=$1 ours=$2 theirs=$3 limit=$4 unit=$5
+    local verdict
+    verdict=$(awk -v a="$ours" -v b="$theirs" -v limit="$limit" 'BEGIN { print (a <= b * limit) ? "PASS" : "FAIL" }')
+    [[ $verdict == PASS ]] || failed=1
+    awk -v what="$what" -v a="$ours" -v b="$theirs" -v limit="$limit" -v unit="$unit" -v verdict="$verdict" \
+        'BEGIN { printf "%-46s %8.1f %-2s %8.1f %-2s %6.2f  <= %-4s %s\n", what, a, unit, b, unit, a / b, limit, verdict }'
+}
+
+measure() {
+    local name=$1 file=$2
+    local info bytes resident peak save open
+    unzip -qo "$file" data.dat
+    "$fwk" records "$file" --csv >table.csv
+    bytes=$(stat -c %s data.dat)
+
+    info=$(median "$fwk info $file")
+    row "$name: info / unzip -p" "$info" "$(median "unzip -p $file data.dat")" 2.5 ms
+    row "$name: info / sqlite3 importing CSV" "$info" \
+        "$(median "sqlite3 :memory: '.import --csv table.csv records'")" 1 ms
+    # Over itself it is a plain save. What the same process needs without the save is no part of it.
+    save=$(median "$fwk save-as $file $file --yes")
+    open=$info
+    row "$name: open and save / zip -6" "$save" "$(median "zip -6 -q packed.zip data.dat" --prepare "rm -f packed.zip")" 1.2 ms
+    row "$name: save alone / zip -6" "$(awk -v a="$save" -v b="$open" 'BEGIN { print a - b }')" \
+        "$(median "zip -6 -q packed.zip data.dat" --prepare "rm -f packed.zip")" 1.2 ms
+
+    read -r resident peak < <("$build/bench/document_memory" "$file")
+    row "$name: open document / data.dat" "$(awk -v a="$resident" 'BEGIN { print a / 1e6 }')" \
+        "$(awk -v a="$bytes" 'BEGIN { print a / 1e6 }')" 6 MB
+    printf '%-46s %8.1f MB\n' "$name: most memory while opening" "$(awk -v a="$peak" 'BEGIN { print a / 1e6 }')"
+}
+
+cp "$project/tests/data/packages-32000.fwk" packages.fwk
+chmod u+w packages.fwk
+"$build/bench/make_big_database" largest.fwk
+
+printf '%-46s %11s %11s %6s  %-7s\n' "" Ferrowick other ratio limit
+measure "32000 x 10" packages.fwk
+measure "32767 x 50" largest.fwk
+exit $failed

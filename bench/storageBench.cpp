@@ -1,0 +1,68 @@
+#include "databases.h"
+
+#include "storage/dataReader.h"
+#include "storage/dataWriter.h"
+#include "storage/openFile.h"
+#include "storage/saveFile.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+void bothDatabases(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Unit(benchmark::kMillisecond)->ArgName("database");
+    for (const int database : {bench::packages, bench::largest}) benchmark->Arg(database);
+}
+
+int databaseOf(benchmark::State& state) {
+    const auto database = static_cast<int>(state.range(0));
+    state.SetLabel(bench::databaseName(database));
+    return database;
+}
+
+void countBytes(benchmark::State& state, int database) {
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                            static_cast<std::int64_t>(bench::dataFileOf(database).size()));
+}
+
+void readText(benchmark::State& state) {
+    const int database = databaseOf(state);
+    const std::string& text = bench::dataFileOf(database);
+    for (auto _ : state) {
+        core::Document document;
+        storage::readDataFile(text, document);
+        benchmark::DoNotOptimize(document.LV.count());
+    }
+    countBytes(state, database);
+}
+BENCHMARK(readText)->Apply(bothDatabases);
+
+void writeText(benchmark::State& state) {
+    const int database = databaseOf(state);
+    bench::OpenDatabase open(database);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(storage::encodeDataFile(storage::writeDataFile(open.app.document, false)));
+    countBytes(state, database);
+}
+BENCHMARK(writeText)->Apply(bothDatabases);
+
+void openArchive(benchmark::State& state) {
+    const int database = databaseOf(state);
+    const std::string& path = bench::databasePath(database);
+    platform::HeadlessPlatform machine(std::cerr);
+    app::App app(machine);
+    for (auto _ : state) storage::readArchive(app, path);
+    countBytes(state, database);
+}
+BENCHMARK(openArchive)->Apply(bothDatabases);
+
+void saveArchive(benchmark::State& state) {
+    const int database = databaseOf(state);
+    bench::OpenDatabase open(database);
+    for (auto _ : state) storage::SaveFile(open.app, false, false);
+    if (open.machine.exclamations() > 0) state.SkipWithError("the save has failed");
+    countBytes(state, database);
+}
+BENCHMARK(saveArchive)->Apply(bothDatabases);
+
+} // namespace
