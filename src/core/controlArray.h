@@ -3,6 +3,8 @@
 #include "core/runTimeError.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -31,7 +33,9 @@ public:
         }
         return expected;
     }
+    // Raises overflow beyond the highest Index there is, 32,767.
     Object& load(int index) {
+        if (index > std::numeric_limits<std::int16_t>::max()) raise(errors::overflow, "objects of one kind");
         const auto spot = position(index);
         if (index < 1 || (spot != objects_.end() && (*spot)->Index == index))
             raise(errors::subscriptOutOfRange, "object " + std::to_string(index));

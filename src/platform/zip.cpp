@@ -25,7 +25,8 @@ namespace {
 // Large enough that the calls do not count, small enough that what was just unpacked is still in the
 // processor's cache when its checksum is taken.
 constexpr std::size_t chunkBytes = 128 * 1024;
-constexpr unsigned compressionLevel = 6;
+// One below zlib's usual level: a third less time for files that are about one part in a hundred larger.
+constexpr unsigned compressionLevel = 5;
 constexpr std::size_t maxCommentBytes = 0xffff;
 
 [[noreturn]] void raiseZipError(zip_error_t& error, const std::string& detail) {

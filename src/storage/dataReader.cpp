@@ -27,7 +27,7 @@ constexpr std::size_t mostColumns = 1000;
 
 // The elements of a list line. Each ends in a separator, so what stands behind the last one is none.
 std::vector<std::string_view> elementsOf(std::string_view value) {
-    std::vector<std::string_view> parts = core::split(value, '|');
+    std::vector<std::string_view> parts = splitLine(value);
     parts.pop_back();
     return parts;
 }

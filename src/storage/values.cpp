@@ -5,6 +5,7 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -20,7 +21,13 @@ double numberOf(std::string_view text) {
 
 } // namespace
 
-Elements::Elements(std::string_view line) : parts_(core::split(line, '|')) {}
+std::vector<std::string_view> splitLine(std::string_view line) {
+    constexpr std::ptrdiff_t mostElements = std::numeric_limits<std::int16_t>::max();
+    if (std::ranges::count(line, '|') > mostElements) core::raise(core::errors::overflow, "elements of a line");
+    return core::split(line, '|');
+}
+
+Elements::Elements(std::string_view line) : parts_(splitLine(line)) {}
 
 std::string_view Elements::text(std::size_t number) const {
     if (number >= parts_.size())

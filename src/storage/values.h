@@ -7,6 +7,10 @@
 
 namespace storage {
 
+// The pieces of a line between its separators. Raises overflow beyond 32,767 of them: no database has
+// so many of anything, and each takes far more memory than its byte in the file.
+std::vector<std::string_view> splitLine(std::string_view line);
+
 // The fields of one line or section, split at the separator, and their conversions. A field that is
 // not there raises subscriptOutOfRange, one that does not convert typeMismatch or overflow.
 class Elements {
