@@ -1,8 +1,10 @@
 #include "shell/commands.h"
 
 #include "core/runTimeError.h"
+#include "entry/editRecord.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
+#include "storage/newDatabase.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 
@@ -25,6 +27,13 @@ std::function<void(App&)> toggling(const char* key, bool app::MainFrm::*variable
     };
 }
 
+std::function<void(App&)> showing(const char* form) {
+    return [=](App& app) { app.platform.showForm(form); };
+}
+
+void newDatabase(App& app) {
+    storage::newDatabase(app, false);
+}
 void open(App& app) {
     storage::OpenFile(app, false);
 }
@@ -34,17 +43,17 @@ void save(App& app) {
 
 std::vector<Command> toolbarCommands() {
     return {
-        {"New", "New", "New Database", "new", false, notYet},
+        {"New", "New", "New Database", "new", false, newDatabase},
         {"Open", "Open", "Open Database", "open", false, open},
         {"Save", "Save", "Save Database", "save", false, save},
         {"Print", "Print", "Print Database", "print", false, notYet},
         {"PageSetup", "Page Setup", "Page Setup", "pageSetup", false, notYet},
         {"Search", "Search", "Search Database", "search", true, notYet},
         {"Totals", "Totals", "Display Totals For Selected Items", "totals", true, toggleSelectedTotals},
-        {"Formulas", "Expressions", "Define Expressions", "formulas", false, notYet},
-        {"Properties", "Properties", "Database Properties", "properties", false, notYet},
+        {"Formulas", "Expressions", "Define Expressions", "formulas", false, showing("formulateFrm")},
+        {"Properties", "Properties", "Database Properties", "properties", false, showProperties},
         {"Design", "Design", "Switch Layout To Design Mode", "design", true, notYet},
-        {"Delete", "Delete", "Delete Row", "delete", false, notYet},
+        {"Delete", "Delete", "Delete Row", "delete", false, deleteRow},
         {"Help", "Help", "Help", "help", false, notYet},
         {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false, notYet},
         {"All_As_Report", "Print all records as report.", "", "reportAll", false, notYet},
@@ -65,7 +74,7 @@ std::vector<Command> toolbarCommands() {
 std::vector<Command> menuCommands() {
     using app::MainFrm;
     return {
-        {"mnuNew", "&New", "", "new", false, notYet},
+        {"mnuNew", "&New", "", "new", false, newDatabase},
         {"mnuOpen", "&Open", "", "open", false, open},
         {"mnuSave", "&Save", "", "save", false, save},
         {"mnuSaveAs", "Save &As", "", "saveAs", false, [](App& app) { storage::SaveFile(app, true, false); }},
@@ -80,14 +89,15 @@ std::vector<Command> menuCommands() {
         {"mnuFile2", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile2"); }},
         {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
         {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
-        {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, notYet},
+        {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, notYet},
         {"mnuSearch", "&Search", "", "search", false, notYet},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, pressTotals},
-        {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, notYet},
-        {"mnuDatabaseProperties", "Database &Properties", "", "properties", false, notYet},
-        {"mnuTotalColumns", "Choose Columns To Total", "", "totalColumns", false, notYet},
-        {"mnuSerialAdjust", "&Adjust Serial Number Increment", "", "serial", false, notYet},
+        {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false,
+         [](App& app) { runCommand(app, "Formulas"); }},
+        {"mnuDatabaseProperties", "Database &Properties", "", "properties", false, showing("designFrm")},
+        {"mnuTotalColumns", "Choose Columns To Total", "", "totalColumns", false, showing("TotalsFrm")},
+        {"mnuSerialAdjust", "&Adjust Serial Number Increment", "", "serial", false, showing("serialFrm")},
         {"mnuConfirmDelete", "&Confirm Delete", "", "", true,
          toggling("mnuConfirmDelete", &MainFrm::bConfirmDelete)},
         {"mnuSavePrompt", "&Prompt For Save On Exit", "", "", true,
@@ -99,8 +109,7 @@ std::vector<Command> menuCommands() {
         {"mnuAutoLoad", "&Auto-Load Previously Opened File", "", "", true,
          toggling("mnuAutoLoad", &MainFrm::bAutoLoad)},
         {"mnuContents", "&Contents", "", "help", false, notYet},
-        {"mnuDisclaimer", "&Disclaimer", "", "disclaimer", false,
-         [](App& app) { app.platform.showForm("disclaimFrm"); }},
+        {"mnuDisclaimer", "&Disclaimer", "", "disclaimer", false, showing("disclaimFrm")},
         {"mnuWebpage", "&Visit FWK Homepage", "", "home", false, visitHomepage()},
         {"mnuAbout", "&About Ferrowick", "", "about", false, showAbout},
     };
@@ -142,6 +151,7 @@ bool hasCommand(std::string_view key) {
 
 bool isCommandEnabled(const App& app, std::string_view key) {
     if (!command(key).run) return false;
+    if (key == "Delete" && app.document.bInvoiceStyle) return false; // deleting invoices is not there yet
     const std::string_view menu = menuOf(key);
     return isControlEnabled(app, key) && (menu.empty() || isControlEnabled(app, menu));
 }

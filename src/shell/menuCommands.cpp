@@ -1,5 +1,7 @@
 #include "shell/menuCommands.h"
 
+#include "entry/editRecord.h"
+#include "lock/designLock.h"
 #include "storage/openFile.h"
 
 #ifndef FERROWICK_HOMEPAGE
@@ -25,6 +27,15 @@ void toggleSelectedTotals(App& app) {
 
 void pressTotals(App& app) {
     if (app.mainFrm.control("Totals").Enabled) toggleSelectedTotals(app);
+}
+
+void showProperties(App& app) {
+    if (!lock::isDesignLocked(app)) app.platform.showForm("designFrm");
+}
+
+void deleteRow(App& app) {
+    if (app.mainFrm.SSTab1 != 0 || app.document.searchLV.Visible || app.document.bInvoiceStyle) return;
+    entry::deleteRecords(app);
 }
 
 void showAbout(App& app) {

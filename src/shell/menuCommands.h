@@ -17,6 +17,12 @@ void toggleSelectedTotals(app::App& app);
 // The menu item presses the button.
 void pressTotals(app::App& app);
 
+// The button "Properties". The menu item goes to the dialog without asking for the lock: it is wanted so.
+void showProperties(app::App& app);
+
+// The button "Delete": the selected records, where the records are on view.
+void deleteRow(app::App& app);
+
 void showAbout(app::App& app);
 
 // Empty in a build that knows no home page.
