@@ -10,4 +10,7 @@ namespace app {
 // Shows the current record on the layout page anew, when that page is in front.
 void refreshShownRecord(App& app);
 
+// Shows the current record of theListView in the layout's fields, and in its picture boxes.
+void showRecord(App& app);
+
 } // namespace app

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/layoutPage.h"
 #include "core/recordsList.h"
 
 #include <array>
@@ -53,8 +54,9 @@ struct MainFrm {
     bool bCtrlDown = false;
     int iPrintMode = printReport;
     int iFieldFocus = 0;     // Index of the layout field that last had the focus
-    int guideLines = 0;      // number of guides on the sheet
     bool bCalcError = false; // a calculation has failed; a recalculation of all rows reads and clears it
+
+    LayoutPage layoutPage;
 
     // The user's settings.
     bool bConfirmDelete = true;

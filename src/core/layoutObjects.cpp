@@ -12,4 +12,9 @@ void LayoutObjects::unloadAll() {
     clipPic.unloadAll();
 }
 
+int LayoutObjects::count() const {
+    return layoutField.count() + tLabel.count() + pbLine.count() + vLine.count() + pBox.count() +
+           imgHolder.count() + clipPic.count();
+}
+
 } // namespace core

@@ -103,6 +103,7 @@ struct LayoutObjects {
     ControlArray<ClipPic> clipPic{layoutTemplate<ClipPic>(2175, 1815)};
 
     void unloadAll();
+    int count() const; // of all families
 };
 
 } // namespace core

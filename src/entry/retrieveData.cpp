@@ -3,6 +3,7 @@
 #include "app/layoutRoutines.h"
 
 #include "core/text.h"
+#include "layout/images.h"
 #include "platform/zip.h"
 
 #include <filesystem>
@@ -42,7 +43,7 @@ void retrieveFields(App& app) {
 
 void retrievePictures(App& app) {
     const Item* record = currentRecord(app);
-    if (record == nullptr) return;
+    if (record == nullptr || app.document.layout.imgHolder.count() == 0) return;
     const std::filesystem::path folder = app.platform.tempFolder();
     platform::Zip Zip;
     Zip.SetBaseFolder(folder);
@@ -52,11 +53,13 @@ void retrievePictures(App& app) {
         if (column == nullptr || column->Index == 1) return;
         const std::string name = RecordsList::cell(*record, *column).str();
         holder.ToolTipText = name;
-        holder.viewImage.path.clear();
-        if (!platform::isSafeEntryName(name)) return;
+        if (name.empty() || !platform::isSafeEntryName(name)) {
+            layout::fitImage(app, holder, holder.viewImage, {});
+            return;
+        }
         const std::filesystem::path file = folder / name;
         if (!std::filesystem::exists(file)) Zip.ExtractFile(name);
-        if (std::filesystem::exists(file)) holder.viewImage.path = file.string();
+        layout::fitImage(app, holder, holder.viewImage, file);
     });
     Zip.CloseArchive();
 }
@@ -65,4 +68,9 @@ void retrievePictures(App& app) {
 
 void app::refreshShownRecord(App& app) {
     if (app.mainFrm.SSTab1 == app::layoutTab) entry::retrieveFields(app);
+}
+
+void app::showRecord(App& app) {
+    entry::retrieveFields(app);
+    if (!app.document.bInvoiceStyle) entry::retrievePictures(app);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -23,14 +24,16 @@ struct FileDialog {
 // The filter of every dialog that asks for a database.
 constexpr std::string_view databaseFilter = "Database (*.fwk)|*.fwk|All Files (*.*)|*.*";
 
-struct Paper {
-    std::string name;
-    int code = 0;
+// Of a page or a picture, in twips.
+struct Extent {
+    long Width = 0, Height = 0;
 };
 
-// The printer that page sizes come from. Width and Height in twips, turned for landscape.
-struct PageSize {
-    long Width = 0, Height = 0;
+struct FontChoice {
+    std::string FontName;
+    float FontSize = 0; // points
+    bool FontBold = false, FontItalic = false, FontUnderline = false, FontStrikethru = false;
+    std::int32_t ForeColor = 0; // 0x00BBGGRR
 };
 
 // What stands between the logic and the machine. The window and the command-line tool each have an
@@ -50,6 +53,8 @@ public:
     virtual std::optional<std::string> showSave(const FileDialog& dialog) = 0;
     // Asks for a file that need not exist.
     virtual std::optional<std::string> showNew(const FileDialog& dialog) { return showSave(dialog); }
+    // Nothing when the user cancelled.
+    virtual std::optional<FontChoice> showFont(const FontChoice&) { return std::nullopt; }
     // Shows the form with that name as a modal dialog ("disclaimFrm", "entryFrm", ...).
     virtual void showForm(std::string_view name) = 0;
 
@@ -63,6 +68,19 @@ public:
     // --- the printer ---
     // Raises when there is no printer at all. The window always has one: its own "Print to PDF".
     virtual std::string printerDeviceName() { return "Print to PDF"; }
+    // A paper of the printer, upright; nothing for a code that it does not know.
+    virtual std::optional<Extent> paperExtent(int code);
+
+    // --- pictures ---
+    // The natural size of a JPEG or GIF file; nothing for a file that is absent, damaged, or so large
+    // that it could not be shown in reasonable memory.
+    virtual std::optional<Extent> pictureExtent(const std::filesystem::path&) { return std::nullopt; }
+    // Writes the picture of the clipboard into a bitmap file. False when the clipboard holds a text or
+    // an address, or no picture.
+    virtual bool saveClipboardPicture(const std::filesystem::path&) { return false; }
+    // Raises when it cannot be done. Quality from 0 to 100.
+    virtual void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
+                               int quality);
 
     // --- the work folder, App.Path ---
     virtual std::filesystem::path workFolder() = 0;

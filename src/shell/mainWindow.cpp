@@ -1,6 +1,7 @@
 #include "shell/mainWindow.h"
 
 #include "app/invoiceRoutines.h"
+#include "layout/sheet.h"
 #include "shell/printerCheck.h"
 #include "shell/settings.h"
 #include "storage/openFile.h"
@@ -37,7 +38,11 @@ bool selectInvoice(App& app) {
 void arriveAtLayout(App& app) {
     app.mainFrm.iPrintMode = app::printLayout;
     app.mainFrm.theListView->MultiSelect = false;
-    if (app.document.bInvoiceStyle && !selectInvoice(app)) app::showReportTab(app);
+    if (app.document.bInvoiceStyle && !selectInvoice(app)) {
+        app::showReportTab(app);
+        return;
+    }
+    layout::InitLayout(app, layout::isDesignMode(app));
 }
 
 } // namespace

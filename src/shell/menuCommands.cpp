@@ -1,7 +1,10 @@
 #include "shell/menuCommands.h"
 
 #include "entry/editRecord.h"
+#include "layout/sheet.h"
 #include "lock/designLock.h"
+#include "shell/mainWindow.h"
+#include "shell/printerCheck.h"
 #include "storage/openFile.h"
 
 #ifndef FERROWICK_HOMEPAGE
@@ -30,7 +33,30 @@ void pressTotals(App& app) {
 }
 
 void showProperties(App& app) {
-    if (!lock::isDesignLocked(app)) app.platform.showForm("designFrm");
+    if (!lock::isDesignLocked(app)) showDatabaseProperties(app);
+}
+
+void showDatabaseProperties(App& app) {
+    app.platform.showForm("designFrm");
+    layout::refreshLayoutButtonMenus(app);
+}
+
+void pressDesign(App& app) {
+    app::Control& button = app.mainFrm.control("Design");
+    if (lock::isDesignLocked(app) || !hasPrinter(app)) {
+        button.Value = false;
+        return;
+    }
+    button.Value = !button.Value;
+    layout::refreshLayoutMode(app);
+    if (app.mainFrm.SSTab1 != app::layoutTab) SSTab1_Click(app, app::layoutTab);
+    app::setDocumentModified(app, true);
+}
+
+void toggleCalcHighlight(App& app) {
+    app.mainFrm.bHighlightCalc = !app.mainFrm.bHighlightCalc;
+    app.mainFrm.control("mnuCalcHighlight").Value = app.mainFrm.bHighlightCalc;
+    layout::InitLayout(app, layout::isDesignMode(app));
 }
 
 void deleteRow(App& app) {

@@ -19,6 +19,11 @@ void pressTotals(app::App& app);
 
 // The button "Properties". The menu item goes to the dialog without asking for the lock: it is wanted so.
 void showProperties(app::App& app);
+void showDatabaseProperties(app::App& app);
+
+// The button "Design" has been pressed or released.
+void pressDesign(app::App& app);
+void toggleCalcHighlight(app::App& app);
 
 // The button "Delete": the selected records, where the records are on view.
 void deleteRow(app::App& app);

@@ -3,14 +3,18 @@
 #include "core/number.h"
 #include "storage/values.h"
 
+#include <type_traits>
+
 namespace storage {
 
 namespace {
 
+// Every object stands in front of those of earlier lines, but for boxes: each goes behind all others.
 template <typename Object>
-Object& loadNext(core::ControlArray<Object>& family) {
+Object& loadNext(core::LayoutObjects& layout, core::ControlArray<Object>& family) {
     Object& object = family.load(family.upperBound() + 1);
     object.Visible = true;
+    object.zOrder = std::is_same_v<Object, core::BoxObject> ? -object.Index : layout.count();
     return object;
 }
 
@@ -44,7 +48,7 @@ void readField(const Elements& fields, core::LayoutObjects& layout) {
     const Place place(fields, 2);
     const core::ObjectFont font = fontOf(fields, 6);
     const std::int32_t colour = fields.colour(11);
-    core::LayoutField& field = loadNext(layout.layoutField);
+    core::LayoutField& field = loadNext(layout, layout.layoutField);
     place.putInto(field);
     static_cast<core::ObjectFont&>(field) = font;
     field.Tag = fields.text(1);
@@ -58,7 +62,7 @@ void readLabel(const Elements& fields, core::LayoutObjects& layout) {
     const std::int32_t colour = fields.colour(11);
     const bool hasLink = fields.count() == elementsWithLink;
     const std::int16_t alignment = hasLink ? fields.integer(13) : std::int16_t{0};
-    core::Label& label = loadNext(layout.tLabel);
+    core::Label& label = loadNext(layout, layout.tLabel);
     place.putInto(label);
     static_cast<core::ObjectFont&>(label) = font;
     label.Text = fields.text(1);
@@ -68,9 +72,10 @@ void readLabel(const Elements& fields, core::LayoutObjects& layout) {
     if (alignment >= 0 && alignment <= 2) label.align = static_cast<core::Alignment>(alignment);
 }
 
-void readLine(const Elements& fields, core::ControlArray<core::LineObject>& family) {
+void readLine(const Elements& fields, core::LayoutObjects& layout,
+              core::ControlArray<core::LineObject>& family) {
     const Place place(fields, 1);
-    core::LineObject& line = loadNext(family);
+    core::LineObject& line = loadNext(layout, family);
     place.putInto(line);
     // Nothing is drawn in it, so a colour that is none does no harm.
     if (fields.count() > 5) line.fileBackColor = core::toInt32(core::val(fields.text(5)));
@@ -80,7 +85,7 @@ void readBox(const Elements& fields, core::LayoutObjects& layout) {
     const Place place(fields, 1);
     const std::int32_t colour = fields.colour(5);
     const std::int16_t drawWidth = fields.integer(6);
-    core::BoxObject& box = loadNext(layout.pBox);
+    core::BoxObject& box = loadNext(layout, layout.pBox);
     place.putInto(box);
     box.ForeColor = colour;
     box.DrawWidth = drawWidth;
@@ -88,7 +93,7 @@ void readBox(const Elements& fields, core::LayoutObjects& layout) {
 
 void readPicture(const Elements& fields, core::LayoutObjects& layout) {
     const Place place(fields, 2);
-    core::ImgHolder& holder = loadNext(layout.imgHolder);
+    core::ImgHolder& holder = loadNext(layout, layout.imgHolder);
     place.putInto(holder);
     holder.Tag = fields.text(1);
     holder.viewImage.Width = holder.Width;
@@ -97,7 +102,7 @@ void readPicture(const Elements& fields, core::LayoutObjects& layout) {
 
 void readClipArt(const Elements& fields, core::LayoutObjects& layout) {
     const Place place(fields, 2);
-    core::ClipPic& clip = loadNext(layout.clipPic);
+    core::ClipPic& clip = loadNext(layout, layout.clipPic);
     place.putInto(clip);
     clip.Tag = fields.text(1);
     clip.clipImage.Width = clip.Width;
@@ -142,9 +147,9 @@ bool readLayoutLine(std::string_view line, core::LayoutObjects& layout) {
     else if (word == "L")
         readLabel(fields, layout);
     else if (word == "LN")
-        readLine(fields, layout.pbLine);
+        readLine(fields, layout, layout.pbLine);
     else if (word == "VLN")
-        readLine(fields, layout.vLine);
+        readLine(fields, layout, layout.vLine);
     else if (word == "B")
         readBox(fields, layout);
     else if (word == "P")

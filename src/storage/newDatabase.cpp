@@ -4,6 +4,8 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "layout/rulers.h"
+#include "layout/sheet.h"
 #include "platform/zip.h"
 #include "storage/saveFile.h"
 #include "storage/workFiles.h"
@@ -79,8 +81,8 @@ void finishNewDatabase(App& app) {
     core::addTotalsRow(document.LV);
     calc::RefreshSelectedTotals(app);
     document.layoutOptions = {};
-    document.layout.unloadAll();
-    app.mainFrm.guideLines = 0;
+    layout::unloadObjects(app);
+    layout::clearGuides(app);
     document.reportData = {};
     document.iLastKey = 0;
     app.mainFrm.panels[app::stylePanel] =

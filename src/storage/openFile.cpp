@@ -4,6 +4,9 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "layout/images.h"
+#include "layout/rulers.h"
+#include "layout/sheet.h"
 #include "platform/zip.h"
 #include "storage/dataReader.h"
 #include "storage/workFiles.h"
@@ -43,8 +46,9 @@ void extractClipArt(App& app) {
     // An entry that is not there passes silently: a clone names clip art that it does not have.
     app.document.layout.clipPic.forEach([&](core::ClipPic& clip) {
         Zip.ExtractFile(clip.Tag);
-        const std::filesystem::path file = app.platform.tempFolder() / clip.Tag;
-        clip.clipImage.path = platform::isSafeEntryName(clip.Tag) && fileExists(file) ? file.string() : "";
+        const bool isSafe = platform::isSafeEntryName(clip.Tag);
+        layout::fitImage(app, clip, clip.clipImage,
+                         isSafe ? app.platform.tempFolder() / clip.Tag : std::filesystem::path());
     });
     Zip.CloseArchive();
 }
@@ -109,7 +113,7 @@ void takeOver(App& app, const std::string& path) {
     app.document.currentFile = path;
     app::showCaption(app);
     app::showReportTab(app);
-    app.mainFrm.guideLines = 0;
+    layout::clearGuides(app);
     app.mainFrm.iFieldFocus = 0;
     app.document.searchLV.Visible = false;
     app.document.searchLV.clear();
@@ -124,7 +128,7 @@ void readArchive(App& app, const std::string& path) {
     // A database of the most records and columns, each cell a long line, stays far below it.
     constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
     Document& document = app.document;
-    document.layout.unloadAll();
+    layout::unloadObjects(app);
     document.bInvoiceStyle = false;
     document.clear();
     app.platform.clearWorkFiles();

@@ -1,0 +1,78 @@
+#include "entry/fieldEvents.h"
+
+#include "core/number.h"
+#include "core/text.h"
+#include "entry/masks.h"
+
+namespace entry {
+
+using app::App;
+using core::Column;
+using core::ColumnType;
+using core::LayoutField;
+
+namespace {
+
+bool isBrowsing(App& app) {
+    return !app.mainFrm.control("Design").Value;
+}
+
+const Column* columnOf(const App& app, const LayoutField* field) {
+    return field == nullptr ? nullptr : app.document.LV.columns.find(field->Tag);
+}
+
+} // namespace
+
+void layoutField_GotFocus(App& app, int index) {
+    if (isBrowsing(app)) app.mainFrm.iFieldFocus = index;
+}
+
+void layoutField_LostFocus(App& app, int index) {
+    if (!isBrowsing(app) || app.document.bInvoiceStyle) return;
+    LayoutField* field = app.document.layout.layoutField.find(index);
+    const Column* column = columnOf(app, field);
+    if (column == nullptr || !column->isNumeric()) return;
+    if (!core::isNumeric(field->Text)) {
+        field->Text = "0";
+        return;
+    }
+    if (!column->isType(ColumnType::Currency)) return;
+    EntryBox box{field->Tag, field->Text};
+    completeCurrencyText(app, box);
+    field->Text = box.Text;
+}
+
+void layoutField_KeyDown(App& app, int KeyCode) {
+    if (KeyCode == backspaceKey) app.mainFrm.layoutPage.bFieldChanged = true;
+}
+
+bool layoutField_KeyPress(App& app, int index, char32_t character) {
+    if (character == enterKey) {
+        app::inform(app, "Please allow your text to wrap automatically.");
+        return false;
+    }
+    const Column* column = columnOf(app, app.document.layout.layoutField.find(index));
+    if (column == nullptr || !column->isNumeric() || character == U'.') return true;
+    std::string text;
+    core::appendCodePoint(text, character);
+    return core::isNumeric(text);
+}
+
+int layoutField_Change(App& app, int index, std::string_view text) {
+    LayoutField* field = app.document.layout.layoutField.find(index);
+    if (field == nullptr || !isBrowsing(app)) return -1;
+    field->Text = text;
+    bool& bFieldChanged = app.mainFrm.layoutPage.bFieldChanged;
+    if (bFieldChanged) {
+        bFieldChanged = false;
+        return -1;
+    }
+    const Column* column = columnOf(app, field);
+    if (column == nullptr || !column->isType(ColumnType::Date)) return -1;
+    EntryBox box{field->Tag, field->Text, -1};
+    insertDateSlashes(box);
+    field->Text = box.Text;
+    return box.SelStart;
+}
+
+} // namespace entry

@@ -1,0 +1,177 @@
+#include "entry/navBar.h"
+
+#include "app/layoutRoutines.h"
+#include "calc/serialNumbers.h"
+#include "entry/editRecord.h"
+#include "entry/fieldEvents.h"
+#include "layout/images.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <map>
+
+namespace entry {
+
+using app::App;
+using core::Document;
+using core::Item;
+using core::RecordsList;
+
+namespace {
+
+// In an invoice database the rows found are those of the invoice list; the record is the one in LV.
+void selectRow(App& app, int row) {
+    Document& document = app.document;
+    RecordsList& list = *app.mainFrm.theListView;
+    Item& item = list.at(row);
+    list.setSelectedItem(&item);
+    app.mainFrm.Slider1.Value = std::min(row, app.mainFrm.Slider1.Max);
+    if (document.bInvoiceStyle && document.searchLV.Visible)
+        if (Item* record = document.LV.find(item.Text)) document.LV.setSelectedItem(record);
+}
+
+int currentRow(const App& app) {
+    const RecordsList& list = *app.mainFrm.theListView;
+    const Item* item = list.selectedItem();
+    return item == nullptr ? 1 : list.indexOf(*item);
+}
+
+void goFirst(App& app) {
+    if (!app.mainFrm.theListView->empty()) selectRow(app, 1);
+    app::showRecord(app);
+}
+
+void goBack(App& app) {
+    const int row = currentRow(app);
+    if (row > 1) selectRow(app, row - 1);
+    app::showRecord(app);
+}
+
+// The Totals row, the last one, is never reached.
+void goNext(App& app) {
+    const int row = currentRow(app);
+    if (row + 1 <= app.mainFrm.theListView->count() - 1) selectRow(app, row + 1);
+    app::showRecord(app);
+}
+
+void goLast(App& app) {
+    const int count = app.mainFrm.theListView->count();
+    if (count > 1) selectRow(app, count - 1);
+    app::showRecord(app);
+}
+
+void clearPictures(App& app) {
+    app.document.layout.imgHolder.forEach([](core::ImgHolder& holder) {
+        holder.viewImage.path.clear();
+        holder.ToolTipText.clear();
+    });
+}
+
+void newRecord(App& app) {
+    app.document.layout.layoutField.forEach([&](core::LayoutField& field) {
+        field.Text = calc::proposedValue(app, field.Tag).value_or(std::string());
+    });
+    clearPictures(app);
+}
+
+bool isTotalsRowSelected(App& app) {
+    const RecordsList& list = *app.mainFrm.theListView;
+    const Item* item = list.selectedItem();
+    return item == nullptr || item->isTotals();
+}
+
+// A damaged file can have objects of a column that is not there.
+bool isColumn(const App& app, const std::string& name) {
+    const core::Column* column = app.document.LV.columns.find(name);
+    return column != nullptr && column->Index != 1;
+}
+
+// The sheet's pictures as cells. One that came from the clipboard is stored now.
+std::vector<BoxText> pictureTexts(App& app) {
+    std::vector<BoxText> texts;
+    app.document.layout.imgHolder.forEach([&](core::ImgHolder& holder) {
+        if (!isColumn(app, holder.Tag)) return;
+        if (holder.ToolTipText == layout::clipboardMark)
+            holder.ToolTipText = layout::storeClipboardImage(app, holder.viewImage);
+        texts.push_back({holder.Tag, holder.ToolTipText});
+    });
+    return texts;
+}
+
+void writeSheet(App& app, bool bUpdate) {
+    if (bUpdate && isTotalsRowSelected(app)) return;
+    // The field that is being typed in has kept the focus; it gets its check and format all the same.
+    if (app.mainFrm.iFieldFocus != 0) layoutField_LostFocus(app, app.mainFrm.iFieldFocus);
+    std::vector<BoxText> fields;
+    app.document.layout.layoutField.forEach([&](const core::LayoutField& field) {
+        if (isColumn(app, field.Tag)) fields.push_back({field.Tag, field.Text});
+    });
+    EditRecord(app, bUpdate, fields, pictureTexts(app));
+}
+
+void addSheet(App& app) {
+    writeSheet(app, false);
+    newRecord(app);
+}
+
+void updateSheet(App& app) {
+    writeSheet(app, true);
+    app::showRecord(app);
+}
+
+void deleteShown(App& app) {
+    if (!deleteRecords(app)) return;
+    app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
+    clearPictures(app);
+    app::showRecord(app);
+}
+
+const std::map<std::string_view, std::function<void(App&)>>& routines() {
+    static const std::map<std::string_view, std::function<void(App&)>> all = {
+        {"New", newRecord}, {"Add", addSheet}, {"Update", updateSheet}, {"Delete", deleteShown},
+        {"First", goFirst}, {"Back", goBack},  {"Next", goNext},        {"Last", goLast},
+    };
+    return all;
+}
+
+bool changesRecords(std::string_view key) {
+    return key == "New" || key == "Add" || key == "Update" || key == "Delete";
+}
+
+} // namespace
+
+std::span<const NavButton> navButtons() {
+    static constexpr std::array<NavButton, 8> buttons = {{
+        {"New", "Create New Record", "recordNew"},
+        {"Add", "Add Record", "recordAdd"},
+        {"Update", "Update Record", "recordUpdate"},
+        {"Delete", "Delete Record", "recordDelete"},
+        {"First", "Go To First Record", "first"},
+        {"Back", "View Previous Record", "back"},
+        {"Next", "View Next Record", "next"},
+        {"Last", "Go To Last Record", "last"},
+    }};
+    return buttons;
+}
+
+bool isNavButtonEnabled(const App& app, std::string_view key) {
+    if (app.document.bInvoiceStyle && changesRecords(key)) return false; // writing invoices is not there yet
+    const auto control = app.mainFrm.controls.find("layoutNavBar." + std::string(key));
+    return control == app.mainFrm.controls.end() || control->second.Enabled;
+}
+
+void layoutNavBar_ButtonClick(App& app, std::string_view key) {
+    const auto routine = routines().find(key);
+    if (routine != routines().end() && isNavButtonEnabled(app, key)) routine->second(app);
+}
+
+void Slider1_Change(App& app, int value) {
+    RecordsList& list = *app.mainFrm.theListView;
+    app.mainFrm.Slider1.Value = value;
+    if (list.count() < 2) return;
+    list.setSelectedItem(&list.at(std::clamp(value, 1, list.count())));
+    app::showRecord(app);
+}
+
+} // namespace entry

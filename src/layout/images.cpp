@@ -1,0 +1,158 @@
+#include "layout/images.h"
+
+#include "core/runTimeError.h"
+#include "core/text.h"
+#include "layout/sheet.h"
+#include "platform/zip.h"
+
+#include <random>
+
+namespace layout {
+
+namespace fs = std::filesystem;
+
+using app::App;
+using core::FittedImage;
+using core::LayoutObject;
+
+namespace {
+
+constexpr std::string_view imageFilter = "Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif";
+
+// The two directions leave a different rest, and it is wanted so.
+void scaleInto(const LayoutObject& holder, FittedImage& image, float width, float height) {
+    image.Stretch = true;
+    image.Height = holder.Height - 2;
+    image.Width = (holder.Height - 2) / height * width;
+    if (image.Width <= holder.Width - 2) return;
+    image.Width = holder.Width - 1;
+    image.Height = (holder.Width - 1) / width * height;
+}
+
+void fit(const LayoutObject& holder, FittedImage& image, platform::Extent natural) {
+    const auto width = static_cast<float>(natural.Width);
+    const auto height = static_cast<float>(natural.Height);
+    image.Stretch = false;
+    image.Width = width;
+    image.Height = height;
+    if (height >= holder.Height || width >= holder.Width) scaleInto(holder, image, width, height);
+    image.Left = (holder.Width - image.Width) / 2;
+    image.Top = (holder.Height - image.Height) / 2;
+    image.Visible = true;
+}
+
+// The chosen file, or nothing after the message. A cancelled dialog has chosen nothing, which is no
+// image either: it is wanted so.
+std::optional<fs::path> chooseImage(App& app, const char* title) {
+    const std::string chosen =
+        app.platform.showOpen({title, "", std::string(imageFilter)}).value_or(std::string());
+    const std::string ending = core::upper(core::right(chosen, 3));
+    if (ending == "GIF" || ending == "JPG") return fs::path(chosen);
+    app::inform(app, "You selected a file other than a GIF or JPEG.  Please try again.");
+    return std::nullopt;
+}
+
+void addToArchive(App& app, const fs::path& file, const std::string& comment) {
+    platform::Zip Zip;
+    Zip.OpenArchive(app.document.currentFile);
+    Zip.AddFile(file, comment);
+    Zip.CloseArchive();
+}
+
+bool archiveHas(App& app, const std::string& name) {
+    platform::Zip Zip;
+    Zip.OpenArchive(app.document.currentFile);
+    const bool found = Zip.contains(name);
+    Zip.CloseArchive();
+    return found;
+}
+
+int randomNumber() {
+    static std::mt19937 engine{std::random_device{}()};
+    return std::uniform_int_distribution<int>(1, 10000)(engine);
+}
+
+// A clipboard image has a file of its own from the start, since the clipboard may have changed by the
+// time it is stored.
+bool takeClipboardImage(App& app, const LayoutObject& holder, FittedImage& image, const std::string& name) {
+    const fs::path file = app.platform.tempFolder() / name;
+    if (!app.platform.saveClipboardPicture(file)) return false;
+    fitImage(app, holder, image, file);
+    return true;
+}
+
+} // namespace
+
+void fitImage(App& app, const LayoutObject& holder, FittedImage& image, const fs::path& path) {
+    image.path.clear();
+    std::error_code ignored;
+    if (path.empty() || !fs::is_regular_file(path, ignored)) return;
+    const std::optional<platform::Extent> natural = app.platform.pictureExtent(path);
+    if (!natural || natural->Width <= 0 || natural->Height <= 0) return;
+    image.path = path.string();
+    fit(holder, image, *natural);
+}
+
+void imgHolder_DblClick(App& app, int index) {
+    core::ImgHolder* holder = app.document.layout.imgHolder.find(index);
+    if (holder == nullptr || isDesignMode(app)) return;
+    const std::optional<fs::path> file = chooseImage(app, "Select image for picture box.");
+    if (!file) return;
+    fitImage(app, *holder, holder->viewImage, *file);
+    holder->ToolTipText = file->filename().string();
+    addToArchive(app, *file, "");
+    // An unpacked image of that name is another one from now on.
+    const fs::path unpacked = app.platform.tempFolder() / file->filename();
+    std::error_code error;
+    if (!fs::equivalent(*file, unpacked, error)) fs::remove(unpacked, error);
+}
+
+void selectClipArt(App& app, int iIndex) {
+    core::ClipPic* clip = app.document.layout.clipPic.find(iIndex);
+    if (clip == nullptr || !isDesignMode(app)) return;
+    const std::optional<fs::path> file = chooseImage(app, "Select image for clip art.");
+    if (!file) return;
+    fitImage(app, *clip, clip->clipImage, *file);
+    clip->Tag = file->filename().string();
+    const fs::path copy = app.platform.tempFolder() / clip->Tag;
+    std::error_code error;
+    if (!fs::equivalent(*file, copy, error)) fs::copy_file(*file, copy, fs::copy_options::overwrite_existing);
+    addToArchive(app, *file, "Clip Art");
+}
+
+std::string storeClipboardImage(App& app, const FittedImage& image) {
+    for (;;) {
+        const std::string number = std::to_string(randomNumber());
+        const std::string bmpName = "cb" + number + ".bmp";
+        const std::string jpgName = "cb" + number + ".jpg";
+        // The names that are taken would be those of the .jpg files; it is the other that is asked for,
+        // and it is wanted so.
+        if (archiveHas(app, bmpName)) continue;
+        const fs::path jpeg = app.platform.tempFolder() / jpgName;
+        app.platform.convertToJpeg(image.path, jpeg, 75);
+        addToArchive(app, jpeg, "");
+        return jpgName;
+    }
+}
+
+void mnuImportImage_Click(App& app) {
+    const core::ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    core::LayoutObjects& objects = app.document.layout;
+    try {
+        if (selected.family == core::Family::imgHolder) {
+            core::ImgHolder* holder = objects.imgHolder.find(selected.Index);
+            const std::string name = "clipboard-" + std::to_string(selected.Index) + ".bmp";
+            if (holder != nullptr && takeClipboardImage(app, *holder, holder->viewImage, name))
+                holder->ToolTipText = clipboardMark;
+        } else if (selected.family == core::Family::clipPic) {
+            core::ClipPic* clip = objects.clipPic.find(selected.Index);
+            if (clip != nullptr && takeClipboardImage(app, *clip, clip->clipImage, "clipboard.bmp")) {
+                clip->Tag = storeClipboardImage(app, clip->clipImage);
+                clip->clipImage.path = (app.platform.tempFolder() / clip->Tag).string();
+            }
+        }
+    } catch (const core::RunTimeError&) { // NOLINT(bugprone-empty-catch): ends without a word, as wanted
+    }
+}
+
+} // namespace layout

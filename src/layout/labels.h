@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/app.h"
+
+#include <string>
+#include <string_view>
+
+namespace layout {
+
+// The back colour that shows a selected label: the system's, which the view knows.
+constexpr std::int32_t selectedLabelColor = static_cast<std::int32_t>(0x80000000);
+
+// A label is locked until it is opened by a double click in design mode.
+void tLabel_DblClick(app::App& app, int index);
+void tLabel_LostFocus(app::App& app, int index);
+void tLabel_Change(app::App& app, int index, std::string_view text);
+// False when the key is not to reach the label: a line break.
+bool tLabel_KeyPress(app::App& app, int KeyAscii);
+
+// Asks for the link of the selected label.
+void setLabelLink(app::App& app);
+// Opens web and mail addresses. Anything else does nothing: a database may come by mail, and a click
+// must not start a program.
+void followLink(app::App& app, std::string_view target);
+
+} // namespace layout

@@ -1,0 +1,209 @@
+#include "layout/objects.h"
+
+#include "core/number.h"
+#include "core/text.h"
+#include "layout/labels.h"
+#include "layout/selection.h"
+#include "layout/sheet.h"
+
+namespace layout {
+
+using app::App;
+using core::Family;
+using core::LayoutObject;
+using core::ObjectRef;
+
+namespace {
+
+// The lowest free Index, the common place, in front.
+template <typename Object>
+Object& add(App& app, core::ControlArray<Object>& family) {
+    constexpr double twipsPerInch = 1440;
+    Object& object = family.load(family.lowestFreeIndex());
+    object.Visible = true;
+    object.Left = static_cast<float>(app.document.layoutOptions.layoutLeftMargin * twipsPerInch);
+    object.Top = static_cast<float>(app.mainFrm.layoutPage.layoutVScroll.Value) + object.Height;
+    core::bringToFront(app.document.layout, object);
+    return object;
+}
+
+void selectNew(App& app, ObjectRef object) {
+    select(app, object);
+    placeHandle(app, object);
+}
+
+template <typename Object>
+bool hasColumn(const core::ControlArray<Object>& family, const std::string& key) {
+    bool found = false;
+    family.forEach([&](const Object& object) { found = found || object.Tag == key; });
+    return found;
+}
+
+// Ship_To_Name reads Ship To Name.
+std::string spokenName(const std::string& tag) {
+    if (tag.find('_') == std::string::npos) return tag;
+    return std::string(core::trim(core::replaceAll(tag, "_", " ")));
+}
+
+core::LayoutField* selectedField(App& app) {
+    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    return selected.family == Family::layoutField ? app.document.layout.layoutField.find(selected.Index)
+                                                  : nullptr;
+}
+
+// The selected object, and the copies of a repeated field behind it.
+template <typename Visitor>
+void forSelectedGroup(App& app, Visitor&& visit) {
+    core::LayoutObjects& layout = app.document.layout;
+    core::LayoutField* field = selectedField(app);
+    if (field == nullptr || !isRepeatedField(layout, *field)) {
+        visit(app.mainFrm.layoutPage.selectedObject);
+        return;
+    }
+    const std::string tag = field->Tag;
+    std::vector<int> group;
+    layout.layoutField.forEach([&](const core::LayoutField& each) {
+        if (each.Tag == tag) group.push_back(each.Index);
+    });
+    for (const int index : group) visit(ObjectRef{Family::layoutField, index});
+}
+
+void setFont(App& app, ObjectRef object, const platform::FontChoice& choice) {
+    core::ObjectFont* font = findFont(app.document.layout, object);
+    if (font == nullptr) return;
+    font->FontName = choice.FontName;
+    font->FontSize = choice.FontSize;
+    font->FontBold = choice.FontBold;
+    font->FontItalic = choice.FontItalic;
+    font->FontUnderline = choice.FontUnderline;
+    font->FontStrikethru = choice.FontStrikethru;
+    *findForeColor(app.document.layout, object) = choice.ForeColor;
+}
+
+} // namespace
+
+void addFieldBox(App& app, const std::string& key) {
+    core::LayoutObjects& layout = app.document.layout;
+    if (hasColumn(layout.layoutField, key)) {
+        app::inform(app, "Field already added!");
+        return;
+    }
+    core::LayoutField& field = add(app, layout.layoutField);
+    field.Tag = key;
+    field.Text = key;
+    field.BackColor = fieldBackColor(app, field);
+    field.align = app.document.isNumericColumn(key) ? core::Alignment::Right : core::Alignment::Left;
+    app.mainFrm.layoutPage.Handle.bLocked = false;
+    selectNew(app, {Family::layoutField, field.Index});
+}
+
+void addPictureField(App& app, const std::string& key) {
+    core::LayoutObjects& layout = app.document.layout;
+    if (hasColumn(layout.imgHolder, key)) {
+        app::inform(app, "Field already added.");
+        return;
+    }
+    core::ImgHolder& holder = add(app, layout.imgHolder);
+    holder.Tag = key;
+    app.mainFrm.layoutPage.Handle.bLocked = false;
+    selectNew(app, {Family::imgHolder, holder.Index});
+}
+
+void addClipArt(App& app) {
+    core::ClipPic& clip = add(app, app.document.layout.clipPic);
+    clip.BorderStyle = 1;
+    selectNew(app, {Family::clipPic, clip.Index});
+}
+
+void addLabel(App& app, bool bAutoName) {
+    core::LayoutObjects& layout = app.document.layout;
+    core::Label& label = add(app, layout.tLabel);
+    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    if (selected.family == Family::tLabel)
+        if (core::Label* old = layout.tLabel.find(selected.Index)) old->BackColor = core::white;
+    const bool isBound = selected.family == Family::layoutField || selected.family == Family::imgHolder;
+    const LayoutObject* bound = isBound ? findObject(layout, selected) : nullptr;
+    if (bAutoName && bound != nullptr) {
+        label.Text = spokenName(bound->Tag);
+        label.FontBold = true;
+    }
+    label.Locked = true;
+    selectNew(app, {Family::tLabel, label.Index});
+}
+
+void addBox(App& app) {
+    selectNew(app, {Family::pBox, add(app, app.document.layout.pBox).Index});
+}
+
+void addHorizontalLine(App& app) {
+    selectNew(app, {Family::pbLine, add(app, app.document.layout.pbLine).Index});
+}
+
+void addVerticalLine(App& app) {
+    selectNew(app, {Family::vLine, add(app, app.document.layout.vLine).Index});
+}
+
+void deleteSelectedObject(App& app) {
+    core::LayoutObjects& layout = app.document.layout;
+    forSelectedGroup(app, [&](ObjectRef object) {
+        visitFamily(layout, object.family, [&](auto& family) { family.unload(object.Index); });
+    });
+    app.mainFrm.layoutPage.bEditingLabel = false;
+    selectNothing(app);
+}
+
+void nuke(App& app) {
+    const platform::Answer answer = app.platform.msgBox(
+        "Are you sure?", platform::Icon::None, "Erase Layout Confirmation", platform::Buttons::YesNo);
+    if (answer == platform::Answer::Yes) eraseLayout(app);
+}
+
+void eraseLayout(App& app) {
+    unloadObjects(app);
+}
+
+void flipFontStyle(App& app, FontStyle style) {
+    core::ObjectFont* font = findFont(app.document.layout, app.mainFrm.layoutPage.selectedObject);
+    if (font == nullptr) return;
+    bool& property = style == FontStyle::Bold     ? font->FontBold
+                     : style == FontStyle::Italic ? font->FontItalic
+                                                  : font->FontUnderline;
+    property = !property;
+}
+
+void setObjectFont(App& app) {
+    core::LayoutObjects& layout = app.document.layout;
+    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const core::ObjectFont* font = findFont(layout, selected);
+    if (font == nullptr) return;
+    const std::optional<platform::FontChoice> choice =
+        app.platform.showFont({font->FontName, font->FontSize, font->FontBold, font->FontItalic,
+                               font->FontUnderline, font->FontStrikethru, *findForeColor(layout, selected)});
+    if (!choice) return;
+    forSelectedGroup(app, [&](ObjectRef object) { setFont(app, object, *choice); });
+}
+
+void sendToFront(App& app) {
+    core::LayoutObjects& layout = app.document.layout;
+    forSelectedGroup(app, [&](ObjectRef object) {
+        if (LayoutObject* each = findObject(layout, object)) core::bringToFront(layout, *each);
+    });
+}
+
+void sendToBack(App& app) {
+    core::LayoutObjects& layout = app.document.layout;
+    forSelectedGroup(app, [&](ObjectRef object) {
+        if (LayoutObject* each = findObject(layout, object)) core::sendToBack(layout, *each);
+    });
+}
+
+void pBox_DblClick(App& app, int index) {
+    core::BoxObject* box = app.document.layout.pBox.find(index);
+    if (box == nullptr) return;
+    const std::string answer =
+        app.platform.inputBox("Enter value from 1 to 10 for border width.", "Border Width Setting", "1");
+    const double width = core::roundHalfEven(core::val(answer));
+    if (width >= 1 && width <= 10) box->DrawWidth = static_cast<int>(width);
+}
+
+} // namespace layout

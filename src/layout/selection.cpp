@@ -1,0 +1,165 @@
+#include "layout/selection.h"
+
+#include "layout/dragging.h"
+#include "layout/labels.h"
+#include "layout/objects.h"
+#include "layout/sheet.h"
+
+#include "core/number.h"
+
+namespace layout {
+
+using app::App;
+using app::LayoutPage;
+using core::Family;
+using core::LayoutObject;
+using core::ObjectRef;
+
+namespace {
+
+bool isPicture(Family family) {
+    return family == Family::imgHolder || family == Family::clipPic;
+}
+
+bool isText(Family family) {
+    return family == Family::layoutField || family == Family::tLabel;
+}
+
+void whitenSelectedLabel(App& app) {
+    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    if (selected.family != Family::tLabel) return;
+    if (core::Label* label = app.document.layout.tLabel.find(selected.Index)) label->BackColor = core::white;
+}
+
+bool startsDrag(const App& app, ObjectRef object, MouseButton button) {
+    if (isText(object.family) && button == MouseButton::Middle) return false;
+    return object.family != Family::tLabel || !app.mainFrm.layoutPage.bEditingLabel;
+}
+
+// Ctrl and an arrow move by a grid step without aligning to the grid, and locks do not count: it is wanted
+// so.
+void moveByKey(App& app, int KeyCode) {
+    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutObject* object = findObject(app.document.layout, page.selectedObject);
+    if (object == nullptr) return;
+    const float stepX = app.mainFrm.bSnapToGrid ? app::gridStep : page.TwipsPerPixelX;
+    const float stepY = app.mainFrm.bSnapToGrid ? app::gridStep : page.TwipsPerPixelY;
+    if (KeyCode == keyRight) object->Left += stepX;
+    if (KeyCode == keyLeft) object->Left -= stepX;
+    if (KeyCode == keyDown) object->Top += stepY;
+    if (KeyCode == keyUp) object->Top -= stepY;
+    if (page.selectedObject.family == Family::layoutField)
+        stackCopies(app, *app.document.layout.layoutField.find(page.selectedObject.Index), false);
+}
+
+} // namespace
+
+bool isLocked(const App& app, ObjectRef object) {
+    return object.isObject() && app.document.locks.contains(object.name());
+}
+
+void refreshLockIndicator(App& app) {
+    const bool locked = isLocked(app, app.mainFrm.layoutPage.selectedObject);
+    app.mainFrm.layoutPage.Handle.bLocked = locked;
+    app.mainFrm.control("layoutToolbar.Lock").Value = locked;
+}
+
+void toggleObjectLock(App& app) {
+    LayoutPage& page = app.mainFrm.layoutPage;
+    if (!page.selectedObject.isObject()) return;
+    const std::string name = page.selectedObject.name();
+    if (app.document.locks.removeItem(name)) {
+        page.Handle.bLocked = false;
+        return;
+    }
+    page.Handle.bLocked = true;
+    app.document.locks.add(name, name);
+}
+
+void placeHandle(App& app, ObjectRef object) {
+    LayoutPage& page = app.mainFrm.layoutPage;
+    const LayoutObject* placed = findObject(app.document.layout, object);
+    page.Handle.Left =
+        placed != nullptr ? placed->Left + placed->Width : page.layoutPic2.Left + page.layoutPic2.Width;
+    page.Handle.Top =
+        placed != nullptr ? placed->Top + placed->Height : page.layoutPic2.Top + page.layoutPic2.Height;
+    page.Handle.Visible = true;
+}
+
+void select(App& app, ObjectRef object) {
+    app.mainFrm.layoutPage.selectedObject = object;
+}
+
+void selectNothing(App& app) {
+    app.mainFrm.layoutPage.selectedObject = {};
+    app.mainFrm.layoutPage.Handle.Visible = false;
+}
+
+void object_MouseDown(App& app, ObjectRef object, MouseButton button, int X, int Y, long pointerX,
+                      long pointerY) {
+    if (!isDesignMode(app) || !startsDrag(app, object, button)) return;
+    if (object.family == Family::pbLine || object.family == Family::vLine) select(app, object);
+    // A locked object stays where it is, and its grip is put where it belongs all the same.
+    if (!beginMove(app, object, X, Y, pointerX, pointerY)) placeHandle(app, object);
+}
+
+bool object_MouseUp(App& app, ObjectRef object, MouseButton button) {
+    if (isText(object.family)) {
+        if (!isDesignMode(app)) return false;
+        if (button == MouseButton::Left) endDrag(app);
+        if (button == MouseButton::Middle) setObjectFont(app);
+        return false;
+    }
+    endDrag(app);
+    if (!isPicture(object.family)) return false;
+    select(app, object);
+    return button == MouseButton::Right;
+}
+
+void object_Click(App& app, ObjectRef object) {
+    whitenSelectedLabel(app);
+    select(app, object);
+    if (object.family == Family::tLabel) {
+        core::Label* label = app.document.layout.tLabel.find(object.Index);
+        if (label == nullptr) return;
+        if (isDesignMode(app))
+            label->BackColor = selectedLabelColor;
+        else
+            followLink(app, label->Tag);
+    }
+    refreshLockIndicator(app);
+}
+
+void Handle_MouseDown(App& app, long pointerX, long pointerY) {
+    beginResize(app, app.mainFrm.layoutPage.selectedObject, pointerX, pointerY);
+}
+
+void Handle_MouseUp(App& app) {
+    endDrag(app);
+}
+
+bool Form_KeyDown(App& app, int KeyCode, int Shift) {
+    const bool designing = app.mainFrm.SSTab1 == app::layoutTab && isDesignMode(app);
+    bool used = false;
+    if (KeyCode == keyDelete && designing) {
+        const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+        const core::Label* label =
+            selected.family == Family::tLabel ? app.document.layout.tLabel.find(selected.Index) : nullptr;
+        const bool isTypedIn = label != nullptr && !label->Locked;
+        if (!isTypedIn) {
+            deleteSelectedObject(app);
+            used = true;
+        }
+    }
+    if (!designing) return used;
+    if (Shift == ctrlShift && KeyCode >= keyLeft && KeyCode <= keyDown &&
+        app.mainFrm.layoutPage.selectedObject.isObject()) {
+        moveByKey(app, KeyCode);
+        used = true;
+    }
+    // For every key, whether or not anything has moved: it is wanted so.
+    placeHandle(app, app.mainFrm.layoutPage.selectedObject);
+    return used;
+}
+
+} // namespace layout

@@ -1,0 +1,112 @@
+#include "layout/toolbar.h"
+
+#include "core/runTimeError.h"
+#include "layout/labels.h"
+#include "layout/objects.h"
+#include "layout/selection.h"
+
+#include <array>
+#include <functional>
+#include <map>
+
+namespace layout {
+
+using app::App;
+
+namespace {
+
+void toggleSnap(App& app) {
+    app::Control& button = app.mainFrm.control("layoutToolbar.Snap");
+    button.Value = !button.Value;
+    app.mainFrm.bSnapToGrid = button.Value;
+}
+
+// A new object is not locked, whatever its name was locked for before: the grip says so until it is clicked.
+std::function<void(App&)> adding(void (*add)(App&)) {
+    return [add](App& app) {
+        app.mainFrm.layoutPage.Handle.bLocked = false;
+        add(app);
+    };
+}
+
+void pressLock(App& app) {
+    toggleObjectLock(app);
+    app.mainFrm.control("layoutToolbar.Lock").Value = isLocked(app, app.mainFrm.layoutPage.selectedObject);
+}
+
+const std::map<std::string_view, std::function<void(App&)>>& routines() {
+    static const std::map<std::string_view, std::function<void(App&)>> all = {
+        {"Nuke", nuke},
+        {"Delete", deleteSelectedObject},
+        {"Snap", toggleSnap},
+        {"Line", adding(addHorizontalLine)},
+        {"vLine", adding(addVerticalLine)},
+        {"Box", adding(addBox)},
+        {"ClipArt", adding(addClipArt)},
+        {"Label", adding([](App& app) { addLabel(app, false); })},
+        {"Link", setLabelLink},
+        {"Lock", pressLock},
+        {"Bold", [](App& app) { flipFontStyle(app, FontStyle::Bold); }},
+        {"Italic", [](App& app) { flipFontStyle(app, FontStyle::Italic); }},
+        {"Underline", [](App& app) { flipFontStyle(app, FontStyle::Underline); }},
+        {"Font", setObjectFont},
+        {"SendFront", sendToFront},
+        {"SendBack", sendToBack},
+    };
+    return all;
+}
+
+} // namespace
+
+std::span<const ToolbarButton> toolbarButtons() {
+    static constexpr std::array<ToolbarButton, 24> buttons = {{
+        {"Nuke", "Erase Layout", "nuke"},
+        {"Delete", "Delete Selected Object", "deleteObject"},
+        {"Snap", "Snap To Grid", "snap", true},
+        {"-", "", ""},
+        {"Line", "Add Horizontal Line To Layout.", "line"},
+        {"vLine", "Add Vertical Line To Layout.", "vLine"},
+        {"Box", "Add Box To Layout.", "box"},
+        {"ClipArt", "Add a static clip art image to layout.", "clipArt"},
+        {"-", "", ""},
+        {"Label", "Add Label", "label", false, true},
+        {"Link", "Create Link From Label.", "link"},
+        {"Lock", "Lock Selected Object.", "lockObject", true},
+        {"-", "", ""},
+        {"Field", "Add Entry Box", "field", false, true},
+        {"Rows", "Create Item Rows", "rows"},
+        {"Picture", "Add Picture", "pictureField", false, true},
+        {"-", "", ""},
+        {"Bold", "Bold", "bold"},
+        {"Italic", "Italic", "italic"},
+        {"Underline", "Underline", "underline"},
+        {"Font", "Set Font", "font"},
+        {"-", "", ""},
+        {"SendFront", "Bring To Front", "sendFront"},
+        {"SendBack", "Send To Back", "sendBack"},
+    }};
+    return buttons;
+}
+
+void layoutToolbar_ButtonClick(App& app, std::string_view key) {
+    const auto routine = routines().find(key);
+    if (routine != routines().end()) routine->second(app);
+}
+
+bool isButtonEnabled(const App& app, std::string_view key) {
+    const bool hasMenuAlone = key == "Field" || key == "Picture";
+    if (!hasMenuAlone && !routines().contains(key)) return false;
+    const auto control = app.mainFrm.controls.find("layoutToolbar." + std::string(key));
+    return control == app.mainFrm.controls.end() || control->second.Enabled;
+}
+
+void layoutToolbar_ButtonMenuClick(App& app, std::string_view key) {
+    if (key == "AutoLabel")
+        addLabel(app, true);
+    else if (app.document.LV.columns[key].isType(core::ColumnType::Picture))
+        addPictureField(app, std::string(key));
+    else
+        addFieldBox(app, std::string(key));
+}
+
+} // namespace layout

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace platform {
+
+// A paper by its code, as printers number them. Lengths in twips, upright.
+struct PaperSize {
+    int code;
+    std::string_view name;
+    long Width, Height;
+};
+
+std::span<const PaperSize> papers();
+// nullptr for a code that stands for no known paper.
+const PaperSize* findPaper(int code);
+
+} // namespace platform
