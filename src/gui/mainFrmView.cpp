@@ -43,7 +43,8 @@ QString droppedDatabase(const QMimeData* data) {
 MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     : QMainWindow(parent), app_(app), platform_(platform), events_(app, [this] { refresh(); }),
       actions_(new CommandActions(app, events_, this)), tabs_(new QTabWidget),
-      report_(new ReportPage(app, events_, *actions_)), status_(new StatusPanels(app)) {
+      report_(new ReportPage(app, events_, *actions_)), layout_(new LayoutPageView(app, events_)),
+      status_(new StatusPanels(app)) {
     setObjectName(QStringLiteral("MainFrm"));
     setWindowIcon(programIcon());
     setAcceptDrops(true);
@@ -72,9 +73,7 @@ void MainFrmView::makeTabs() {
     tabs_->setObjectName(QStringLiteral("SSTab1"));
     tabs_->setDocumentMode(true);
     tabs_->addTab(report_, tr("Report"));
-    tabs_->addTab(
-        notBuiltPage(QStringLiteral("layoutPage"), tr("The layout page is not available in this version.")),
-        tr("Layout"));
+    tabs_->addTab(layout_, tr("Layout"));
     tabs_->addTab(notBuiltPage(QStringLiteral("previewPage"),
                                tr("The print preview is not available in this version.")),
                   tr("Print Preview"));
@@ -101,6 +100,7 @@ void MainFrmView::refresh() {
     tabs_->tabBar()->setEnabled(app_.mainFrm.SSTab1Enabled);
     tabs_->setCurrentIndex(app_.mainFrm.SSTab1);
     report_->refresh();
+    if (app_.mainFrm.SSTab1 == app::layoutTab) layout_->refresh();
     status_->refresh();
     if (app_.mainFrm.unloaded) close();
 }

@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "gui/commandActions.h"
 #include "gui/eventBoundary.h"
+#include "gui/layoutPageView.h"
 #include "gui/qtPlatform.h"
 #include "gui/reportPage.h"
 #include "gui/statusPanels.h"
@@ -45,6 +46,7 @@ private:
     CommandActions* actions_;
     QTabWidget* tabs_;
     ReportPage* report_;
+    LayoutPageView* layout_;
     StatusPanels* status_;
     bool refreshing_ = false;
 };

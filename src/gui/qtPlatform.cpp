@@ -1,17 +1,23 @@
 #include "gui/qtPlatform.h"
 
 #include "core/runTimeError.h"
+#include "gui/fontDialog.h"
 #include "gui/messageBox.h"
+#include "gui/pictures.h"
 #include "gui/qtText.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDate>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QImage>
 #include <QInputDialog>
+#include <QMimeData>
+#include <QPainter>
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
@@ -167,6 +173,41 @@ void QtPlatform::openLink(const std::string& target) {
     const QString link = toQt(target);
     QDesktopServices::openUrl(QFileInfo::exists(link) ? QUrl::fromLocalFile(link)
                                                       : QUrl::fromUserInput(link));
+}
+
+std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontChoice& present) {
+    const ModalScope scope(*this);
+    FontDialog dialog(present, dialogParent());
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.choice();
+}
+
+std::optional<platform::Extent> QtPlatform::pictureExtent(const std::filesystem::path& path) {
+    constexpr long twipsPerPixel = 15; // of the 96 dots per inch that pictures are measured by
+    const std::optional<QSize> size = pictureSize(toQt(path.string()));
+    if (!size) return std::nullopt;
+    return platform::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
+}
+
+bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    if (content == nullptr || content->hasText() || content->hasUrls() || !content->hasImage()) return false;
+    const QImage image = QGuiApplication::clipboard()->image();
+    return !image.isNull() && image.save(toQt(path.string()), "BMP");
+}
+
+void QtPlatform::convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
+                               int quality) {
+    QImage image(toQt(bitmap.string()));
+    if (image.hasAlphaChannel()) {
+        // A JPEG has no transparency; what shines through is the paper.
+        QImage opaque(image.size(), QImage::Format_RGB32);
+        opaque.fill(Qt::white);
+        QPainter(&opaque).drawImage(0, 0, image);
+        image = opaque;
+    }
+    if (image.isNull() || !image.save(toQt(jpeg.string()), "JPEG", quality))
+        core::raise(core::errors::pathAccess, jpeg.string());
 }
 
 void QtPlatform::clearWorkFiles() {

@@ -47,6 +47,12 @@ public:
     void setMousePointer(platform::MousePointer pointer) override;
     void paintStatus() override;
     void openLink(const std::string& target) override;
+    std::optional<platform::FontChoice> showFont(const platform::FontChoice& present) override;
+
+    std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) override;
+    bool saveClipboardPicture(const std::filesystem::path& path) override;
+    void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
+                       int quality) override;
 
     std::filesystem::path workFolder() override { return workFolder_.path(); }
     std::filesystem::path tempFolder() override { return workFolder_.temp(); }

@@ -9,12 +9,14 @@ namespace storage {
 
 namespace {
 
-// Every object stands in front of those of earlier lines, but for boxes: each goes behind all others.
+// Every object stands behind those of earlier lines, so a label's empty end never covers the field beside it;
+// a box goes behind all others.
 template <typename Object>
 Object& loadNext(core::LayoutObjects& layout, core::ControlArray<Object>& family) {
     Object& object = family.load(family.upperBound() + 1);
     object.Visible = true;
-    object.zOrder = std::is_same_v<Object, core::BoxObject> ? -object.Index : layout.count();
+    constexpr int behindAll = 1'000'000;
+    object.zOrder = -layout.count() - (std::is_same_v<Object, core::BoxObject> ? behindAll : 0);
     return object;
 }
 

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/app.h"
+#include "gui/eventBoundary.h"
+#include "gui/sheetView.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QToolBar>
+
+namespace gui {
+
+// The layout tab: the bar that is in use, the sheet, and its scroll bars.
+class LayoutPageView : public QWidget {
+    Q_OBJECT
+
+public:
+    LayoutPageView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
+
+    void refresh();
+
+private:
+    QWidget* makeNavBar();
+    QToolBar* makeToolbar();
+    void addMenu(QToolBar& bar, QAction& action, std::string_view key);
+    QScrollBar* makeScrollBar(Qt::Orientation orientation);
+    void fillMenu(QMenu& menu, const std::vector<std::string>& columns);
+    void refreshBars();
+    void refreshScrollBar(QScrollBar& bar, const app::LayoutPage::ScrollBar& state, int visible);
+
+    app::App& app_;
+    EventBoundary& events_;
+    QStackedWidget* bars_;
+    QToolBar* layoutNavBar_ = nullptr;
+    QToolBar* layoutToolbar_ = nullptr;
+    QSlider* Slider1_ = nullptr;
+    QLabel* position_ = nullptr;
+    QLabel* marginLbl_;
+    QPushButton* clearRulesBtn_;
+    SheetView* sheet_;
+    QScrollBar* layoutHScroll_;
+    QScrollBar* layoutVScroll_;
+    QMenu* fieldMenu_ = nullptr;
+    QMenu* pictureMenu_ = nullptr;
+    bool refreshing_ = false;
+};
+
+} // namespace gui

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "app/app.h"
+#include "gui/eventBoundary.h"
+#include "gui/rulerView.h"
+#include "gui/sheetObjects.h"
+#include "gui/sheetPaper.h"
+
+#include <QScrollBar>
+#include <QWidget>
+
+namespace gui {
+
+// The viewport of the layout page, layoutPic1: the sheet with its objects and the grip, the rulers over its
+// edges. It turns the mouse into twips and hands the events over; it decides nothing.
+class SheetView : public QWidget {
+    Q_OBJECT
+
+public:
+    SheetView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
+
+    void refresh();
+    qreal pixelsPerTwip() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+signals:
+    void scrolled(int horizontal, int vertical); // by the wheel, in twips
+
+private:
+    bool objectEvent(core::ObjectRef object, QEvent* event);
+    bool designEvent(core::ObjectRef object, QEvent* event);
+    bool browseEvent(core::ObjectRef object, QEvent* event);
+    bool gripEvent(QEvent* event);
+    bool keyEvent(QEvent* event);
+    void press(core::ObjectRef object, QMouseEvent& mouse);
+    void release(core::ObjectRef object, QMouseEvent& mouse);
+    void doubleClick(core::ObjectRef object);
+    void showImportMenu(QPoint place);
+    bool isLabelOpen(core::ObjectRef object) const;
+    // A place on the screen, in twips on the sheet.
+    QPoint sheetTwips(QPointF global) const;
+    void placeGrip();
+
+    app::App& app_;
+    EventBoundary& events_;
+    SheetPaper* paper_;
+    SheetObjects* objects_;
+    QWidget* grip_;
+    RulerView* ruler1_;
+    RulerView* ruler2_;
+    QWidget* corner_; // Shape1
+    bool pressed_ = false;
+    bool refreshing_ = false;
+};
+
+} // namespace gui

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/layoutObjects.h"
+
+#include <QTextEdit>
+
+#include <functional>
+
+namespace gui {
+
+// A field or a label of the sheet: a block of wrapping text without line breaks.
+class TextBox : public QTextEdit {
+    Q_OBJECT
+
+public:
+    explicit TextBox(QWidget* parent);
+
+    // What the keys go through ahead of the text. A typed character that is answered with false is dropped.
+    std::function<void(int keyCode)> keyDown;
+    std::function<bool(char32_t character)> keyPress;
+    std::function<void(const QString& text)> changed; // by the user
+    std::function<void()> gotFocus, lostFocus;
+
+    struct Look {
+        QString text;
+        core::ObjectFont font;
+        std::int32_t foreColor = 0, backColor = 0;
+        core::Alignment align = core::Alignment::Left;
+        bool frame = false;
+        bool locked = true;
+    };
+    void show(const Look& look);
+    void setCaret(int position); // in characters
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void showText(const QString& text);
+    QString allowed(const QString& typed) const;
+
+    bool showing_ = false;
+    QString text_;
+};
+
+// A font of the document, or the nearest one there is.
+QFont toQtFont(const core::ObjectFont& font);
+QColor toQtColor(std::int32_t colour); // 0x00BBGGRR
+
+} // namespace gui
