@@ -6,6 +6,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/totalsRow.h"
+#include "entry/invoiceRecords.h"
 
 #include <limits>
 
@@ -109,6 +110,7 @@ bool deleteRecords(App& app) {
                                                             "Confirm Deletion", platform::Buttons::YesNo);
         if (answer != platform::Answer::Yes) return false;
     }
+    const std::string key = focused->Key.str();
     const core::TotalsRowUpdater totals(app.document, records);
     records.removeIf([&](const Item& item) {
         if (!item.Selected || item.isTotals()) return false;
@@ -117,6 +119,7 @@ bool deleteRecords(App& app) {
     });
     showCount(app);
     app::setDocumentModified(app, true);
+    if (app.document.bInvoiceStyle) removeInvoiceRows(app, key);
     return true;
 }
 

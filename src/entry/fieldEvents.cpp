@@ -2,7 +2,10 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "entry/invoiceRecords.h"
 #include "entry/masks.h"
+#include "entry/retrieveData.h"
+#include "layout/sheet.h"
 
 namespace entry {
 
@@ -24,7 +27,18 @@ const Column* columnOf(const App& app, const LayoutField* field) {
 } // namespace
 
 void layoutField_GotFocus(App& app, int index) {
-    if (isBrowsing(app)) app.mainFrm.iFieldFocus = index;
+    if (!isBrowsing(app)) return;
+    app.mainFrm.iFieldFocus = index;
+    if (!app.document.bInvoiceStyle) return;
+    // Each arrival in a single or a calculated field stores the whole sheet and works it out: this is how the
+    // sums of an invoice keep up with typing.
+    const LayoutField* field = app.document.layout.layoutField.find(index);
+    const Column* column = columnOf(app, field);
+    if (column == nullptr) return;
+    const bool isCalculated = column->isType(ColumnType::Calculation);
+    if (!isCalculated && layout::isRepeatedField(app.document.layout, *field)) return;
+    editInvoiceRecord(app, true);
+    retrieveFields(app);
 }
 
 void layoutField_LostFocus(App& app, int index) {

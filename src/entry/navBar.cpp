@@ -4,6 +4,8 @@
 #include "calc/serialNumbers.h"
 #include "entry/editRecord.h"
 #include "entry/fieldEvents.h"
+#include "entry/invoiceRecords.h"
+#include "invoice/records.h"
 #include "layout/images.h"
 
 #include <algorithm>
@@ -69,10 +71,17 @@ void clearPictures(App& app) {
 }
 
 void newRecord(App& app) {
-    app.document.layout.layoutField.forEach([&](core::LayoutField& field) {
+    Document& document = app.document;
+    document.layout.layoutField.forEach([&](core::LayoutField& field) {
         field.Text = calc::proposedValue(app, field.Tag).value_or(std::string());
+        // A new invoice is in the list at once, so its number is used up at once.
+        Item* serial = document.SerialsLV.findText(field.Tag);
+        if (document.bInvoiceStyle && serial != nullptr) serial->subItem(1) = field.Text;
     });
     clearPictures(app);
+    if (!document.bInvoiceStyle) return;
+    invoice::addInvoiceRecord(app);
+    app.mainFrm.layoutPage.layoutPic2.Visible = true;
 }
 
 bool isTotalsRowSelected(App& app) {
@@ -111,12 +120,20 @@ void writeSheet(App& app, bool bUpdate) {
 }
 
 void addSheet(App& app) {
+    if (app.document.bInvoiceStyle) {
+        editInvoiceRecord(app, true);
+        app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
+        return;
+    }
     writeSheet(app, false);
     newRecord(app);
 }
 
 void updateSheet(App& app) {
-    writeSheet(app, true);
+    if (app.document.bInvoiceStyle)
+        editInvoiceRecord(app, true);
+    else
+        writeSheet(app, true);
     app::showRecord(app);
 }
 
@@ -133,10 +150,6 @@ const std::map<std::string_view, std::function<void(App&)>>& routines() {
         {"First", goFirst}, {"Back", goBack},  {"Next", goNext},        {"Last", goLast},
     };
     return all;
-}
-
-bool changesRecords(std::string_view key) {
-    return key == "New" || key == "Add" || key == "Update" || key == "Delete";
 }
 
 } // namespace
@@ -156,7 +169,6 @@ std::span<const NavButton> navButtons() {
 }
 
 bool isNavButtonEnabled(const App& app, std::string_view key) {
-    if (app.document.bInvoiceStyle && changesRecords(key)) return false; // writing invoices is not there yet
     const auto control = app.mainFrm.controls.find("layoutNavBar." + std::string(key));
     return control == app.mainFrm.controls.end() || control->second.Enabled;
 }

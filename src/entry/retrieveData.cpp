@@ -3,6 +3,7 @@
 #include "app/layoutRoutines.h"
 
 #include "core/text.h"
+#include "invoice/records.h"
 #include "layout/images.h"
 #include "platform/zip.h"
 
@@ -30,6 +31,10 @@ std::string shownText(const Column& column, std::string_view cell) {
 }
 
 void retrieveFields(App& app) {
+    if (app.document.bInvoiceStyle) {
+        invoice::retrieveInvoiceRecord(app);
+        return;
+    }
     const Item* record = currentRecord(app);
     if (record == nullptr) return;
     app.document.layout.layoutField.forEach([&](core::LayoutField& field) {

@@ -46,6 +46,7 @@ const std::map<std::string_view, std::function<void(App&)>>& routines() {
         {"Label", adding([](App& app) { addLabel(app, false); })},
         {"Link", setLabelLink},
         {"Lock", pressLock},
+        {"Rows", [](App& app) { app.platform.showForm("repeatFrm"); }},
         {"Bold", [](App& app) { flipFontStyle(app, FontStyle::Bold); }},
         {"Italic", [](App& app) { flipFontStyle(app, FontStyle::Italic); }},
         {"Underline", [](App& app) { flipFontStyle(app, FontStyle::Underline); }},

@@ -151,7 +151,6 @@ bool hasCommand(std::string_view key) {
 
 bool isCommandEnabled(const App& app, std::string_view key) {
     if (!command(key).run) return false;
-    if (key == "Delete" && app.document.bInvoiceStyle) return false; // deleting invoices is not there yet
     const std::string_view menu = menuOf(key);
     return isControlEnabled(app, key) && (menu.empty() || isControlEnabled(app, menu));
 }

@@ -1,6 +1,7 @@
 #include "shell/menuCommands.h"
 
 #include "entry/editRecord.h"
+#include "entry/invoiceRecords.h"
 #include "layout/sheet.h"
 #include "lock/designLock.h"
 #include "shell/mainWindow.h"
@@ -60,8 +61,11 @@ void toggleCalcHighlight(App& app) {
 }
 
 void deleteRow(App& app) {
-    if (app.mainFrm.SSTab1 != 0 || app.document.searchLV.Visible || app.document.bInvoiceStyle) return;
-    entry::deleteRecords(app);
+    if (app.mainFrm.SSTab1 != app::reportTab || app.document.searchLV.Visible) return;
+    if (!app.document.bInvoiceStyle)
+        entry::deleteRecords(app);
+    else if (!app.document.bInvoiceView)
+        entry::deleteInvoices(app);
 }
 
 void showAbout(App& app) {

@@ -1,0 +1,154 @@
+#include "entry/invoiceRecords.h"
+
+#include "app/invoiceRoutines.h"
+#include "core/format.h"
+#include "core/text.h"
+#include "core/totalsRow.h"
+#include "invoice/calculation.h"
+#include "invoice/records.h"
+#include "invoice/views.h"
+
+#include <set>
+
+namespace entry {
+
+namespace {
+
+using app::App;
+using core::Column;
+using core::ColumnType;
+using core::Document;
+using core::Item;
+using core::LayoutField;
+using core::RecordsList;
+
+constexpr char itemSeparator = '@';
+
+// The last two digits of an amount typed without a point are cents.
+std::string withCents(const std::string& text) {
+    if (text.find('.') != std::string::npos) return text;
+    if (core::length(core::trim(text)) <= 2) return text + ".00";
+    const std::size_t size = core::length(text);
+    return std::string(core::left(text, size - 2)) + "." + std::string(core::right(text, 2));
+}
+
+std::string filledCell(const Column& column, const std::string& text) {
+    return column.isType(ColumnType::Currency) ? core::format(withCents(text), core::Mask::InvoiceMoney)
+                                               : text;
+}
+
+std::string singleCell(const Column& column, const std::string& text) {
+    if (!text.empty()) return filledCell(column, text);
+    if (column.isType(ColumnType::Currency)) return "$.00";
+    return column.isType(ColumnType::Number) ? "0" : "";
+}
+
+// An empty box of an item row leaves an empty slot.
+std::string itemValue(const Column& column, const std::string& text) {
+    return text.empty() ? std::string() : filledCell(column, text);
+}
+
+Item* invoiceToUpdate(App& app) {
+    Document& document = app.document;
+    if (app.mainFrm.theListView != &document.searchLV) return document.LV.selectedItem();
+    const Item* result = document.searchLV.selectedItem();
+    if (result == nullptr) return nullptr;
+    return document.LV.find(result->Key.empty() ? result->Text : result->Key);
+}
+
+void writeCells(App& app, Item& record, bool bUpdate) {
+    Document& document = app.document;
+    const invoice::ItemColumns items(document);
+    std::set<std::string, std::less<>> begun; // groups that have their first value
+    document.layout.layoutField.forEach([&](const LayoutField& field) {
+        const Column* column = document.LV.columns.find(field.Tag);
+        if (column == nullptr || column->Index == 1) return;
+        core::CellText& cell = RecordsList::cell(record, *column);
+        if (!items.contains(field.Tag)) {
+            cell = singleCell(*column, field.Text);
+            return;
+        }
+        const bool isFirst = begun.insert(field.Tag).second;
+        const std::string before = isFirst && bUpdate ? std::string() : cell.str();
+        cell = before + itemValue(*column, field.Text) + itemSeparator;
+    });
+}
+
+void copyRow(const RecordsList& from, const Item& source, const RecordsList& to, Item& target) {
+    for (const Column& column : to.columns) {
+        if (column.Index == 1) continue;
+        const Column* same = from.columns.find(column.Text);
+        if (same != nullptr) RecordsList::cell(target, column) = RecordsList::cell(source, *same).str();
+    }
+}
+
+// The rows of the results that came from the record show what the view shows now.
+void refreshResults(App& app) {
+    Document& document = app.document;
+    if (app.mainFrm.theListView != &document.searchLV) return;
+    const Item* selected = document.searchLV.selectedItem();
+    if (selected == nullptr) return;
+    const std::string key = selected->Text.str();
+    Item* row = document.searchLV.findText(key);
+    const Item* source = document.iLV.findText(key);
+    while (row != nullptr && source != nullptr) {
+        copyRow(document.iLV, *source, document.searchLV, *row);
+        if (!document.bInvoiceView) return;
+        const int nextRow = document.searchLV.indexOf(*row) + 1;
+        const int nextSource = document.iLV.indexOf(*source) + 1;
+        row = nextRow <= document.searchLV.count() ? document.searchLV.findText(key, nextRow) : nullptr;
+        source = nextSource <= document.iLV.count() ? document.iLV.findText(key, nextSource) : nullptr;
+    }
+}
+
+} // namespace
+
+void editInvoiceRecord(App& app, bool bUpdate) {
+    RecordsList& records = app.document.LV;
+    records.MultiSelect = false;
+    Item* record = bUpdate ? invoiceToUpdate(app) : &invoice::addInvoiceRecord(app);
+    if (record == nullptr || record->isTotals()) return;
+    if (bUpdate)
+        core::UpdateTotalsRow(app.document, core::TotalsMode::Subtract, records, records.indexOf(*record));
+    writeCells(app, *record, bUpdate);
+    app::calculateInvoice(app, records, records.indexOf(*record));
+    core::UpdateTotalsRow(app.document, core::TotalsMode::Add, records, records.indexOf(*record));
+    records.setSelectedItem(record);
+    app::setDocumentModified(app, true);
+    records.MultiSelect = false;
+    app::rebuildInvoiceView(app);
+    refreshResults(app);
+}
+
+bool deleteInvoices(App& app) {
+    Document& document = app.document;
+    if (document.iLV.empty()) return false;
+    if (app.mainFrm.bConfirmDelete) {
+        const platform::Answer answer = app.platform.msgBox("Are you sure?", platform::Icon::Exclamation,
+                                                            "Confirm Deletion", platform::Buttons::YesNo);
+        if (answer != platform::Answer::Yes) return false;
+    }
+    std::set<std::string, std::less<>> gone;
+    document.iLV.forEach([&](Item& row) {
+        if (!row.Selected || row.Text == core::totalsKey) return;
+        gone.insert(row.Text.str());
+        row.Selected = false;
+    });
+    document.LV.removeIf([&](const Item& record) { return !record.isTotals() && gone.contains(record.Key.view()); });
+    app::setDocumentModified(app, true);
+    app::rebuildInvoiceView(app);
+    if (document.LV.count() >= 3) {
+        app::showRecordCount(app, document.iLV);
+        app.mainFrm.Slider1.Max = document.iLV.count() - 1;
+    }
+    return true;
+}
+
+void removeInvoiceRows(App& app, const std::string& key) {
+    RecordsList& results = app.document.searchLV;
+    if (results.Visible)
+        results.removeIf([&](const Item& row) { return !row.isTotals() && row.Text == key; });
+    app::rebuildInvoiceView(app);
+}
+
+} // namespace entry
