@@ -3,6 +3,7 @@
 #include "gui/disclaimFrmView.h"
 #include "gui/icon.h"
 #include "gui/qtText.h"
+#include "gui/repeatFrmView.h"
 #include "shell/mainWindow.h"
 #include "storage/openFile.h"
 
@@ -62,6 +63,8 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
                           status_->repaint();
                       },
                       [this] { return app_.document.currentFile; }});
+    platform_.registerForm("repeatFrm",
+                           [this](QWidget* owner) { repeatFrmView(app_, events_, owner).exec(); });
     platform_.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
 }
 
