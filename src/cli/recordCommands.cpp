@@ -7,6 +7,7 @@
 #include "shell/listEvents.h"
 
 #include <CLI/CLI.hpp>
+#include <optional>
 
 namespace cli {
 
@@ -81,8 +82,10 @@ int sortRecords(const Options& options) {
     return done;
 }
 
+// What the window's box would read as another number than the one that is meant ("1,000" as 1) is refused.
 std::string whatIsWrongWithCopies(const std::string& copies) {
-    if (core::isNumeric(copies) && core::val(copies) >= 0) return {};
+    const std::optional<double> number = core::toDouble(copies);
+    if (number && *number >= 0 && *number == core::val(copies)) return {};
     return "\"" + copies + "\" is no number of copies";
 }
 

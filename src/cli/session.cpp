@@ -142,7 +142,9 @@ core::Item& Session::record(const std::string& key) {
 std::string Session::typed(const std::string& argument) const {
     if (argument.find_first_of("\r\n") != std::string::npos)
         throw Failure(file, "\"" + argument + "\" is more than one line");
-    return core::sanitizeUtf8(argument);
+    if (core::sanitizeUtf8(argument) != argument)
+        throw Failure(file, "\"" + core::sanitizeUtf8(argument) + "\" is not UTF-8");
+    return argument;
 }
 
 std::string Session::typedInList(const std::string& argument) const {
