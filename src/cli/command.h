@@ -29,6 +29,16 @@ struct Command {
 Run setUpInfo(CLI::App& command);
 Run setUpRecords(CLI::App& command);
 Run setUpCheck(CLI::App& command);
+Run setUpNew(CLI::App& command);
+Run setUpColumn(CLI::App& command);
+Run setUpExpression(CLI::App& command);
+Run setUpTotal(CLI::App& command);
+Run setUpRecalculate(CLI::App& command);
+Run setUpSerial(CLI::App& command);
+Run setUpAdd(CLI::App& command);
+Run setUpUpdate(CLI::App& command);
+Run setUpDelete(CLI::App& command);
+Run setUpDuplicate(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);

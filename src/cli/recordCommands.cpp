@@ -1,33 +1,134 @@
 #include "cli/command.h"
+#include "cli/output.h"
+#include "cli/recordEntry.h"
 #include "cli/session.h"
+#include "core/number.h"
+#include "entry/editRecord.h"
 #include "shell/listEvents.h"
 
 #include <CLI/CLI.hpp>
+#include <optional>
 
 namespace cli {
 
 namespace {
 
-struct SortOptions {
-    std::string file, column;
+struct Options {
+    std::string file, key, copies, column;
+    std::vector<std::string> keys, cells;
     bool descending = false;
 };
 
-int sortRecords(const SortOptions& options) {
+// An invoice is written by routines of its own.
+void requireStandard(const Session& session, const char* whatCannotBe) {
+    if (session.app.document.bInvoiceStyle)
+        throw Failure(session.file, std::string("invoices cannot be ") + whatCannotBe + " yet");
+}
+
+int add(const Options& options) {
+    Session session(options.file);
+    session.open();
+    requireStandard(session, "added");
+    const core::Item& added = addRecord(session, cellValues(session, options.cells));
+    const std::string key = added.Key.str();
+    session.save();
+    writeOut(key + "\n");
+    return done;
+}
+
+int update(const Options& options) {
+    Session session(options.file);
+    session.open();
+    requireStandard(session, "updated");
+    core::Item& record = session.record(options.key);
+    updateRecord(session, record, cellValues(session, options.cells));
+    session.save();
+    return done;
+}
+
+int deleteRecords(const Options& options) {
+    Session session(options.file);
+    session.open();
+    requireStandard(session, "deleted");
+    core::RecordsList& records = session.app.document.LV;
+    records.clearSelection();
+    records.setSelectedItem(&session.record(options.keys.front()));
+    for (const std::string& key : options.keys) session.record(key).Selected = true;
+    session.app.mainFrm.bConfirmDelete = false;
+    session.change([&] { entry::deleteRecords(session.app); });
+    session.save();
+    return done;
+}
+
+int duplicate(const Options& options) {
+    Session session(options.file);
+    session.open();
+    core::Item& source = session.record(options.key);
+    session.change(
+        [&] { entry::duplicateRecord(session.app, source, core::toInt16(core::val(options.copies))); });
+    session.save();
+    return done;
+}
+
+int sortRecords(const Options& options) {
     Session session(options.file);
     session.open();
     core::RecordsList& list = session.app.document.LV;
     // A click on a header turns the order round, whatever it was.
     list.SortOrder = options.descending ? 0 : 1;
-    shell::list_ColumnClick(session.app, list, session.column(options.column).Index);
+    const int index = session.column(options.column).Index;
+    session.change([&] { shell::list_ColumnClick(session.app, list, index); });
     session.save();
     return done;
 }
 
+// What the window's box would read as another number than the one that is meant ("1,000" as 1) is refused.
+std::string whatIsWrongWithCopies(const std::string& copies) {
+    const std::optional<double> number = core::toDouble(copies);
+    if (number && *number >= 0 && *number == core::val(copies)) return {};
+    return "\"" + copies + "\" is no number of copies";
+}
+
+CLI::Option* addCellsArgument(CLI::App& command, Options& options, const char* description) {
+    return command.add_option("CELL", options.cells, description)->option_text("NAME=VALUE ...");
+}
+
 } // namespace
 
+Run setUpAdd(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    addCellsArgument(command, *options, "What the record is to hold; the others start as in a new record");
+    return [options] { return add(*options); };
+}
+
+Run setUpUpdate(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    command.add_option("KEY", options->key, "The record, as \"records\" shows it")->required();
+    addCellsArgument(command, *options, "The new values; the other cells stay")->required();
+    return [options] { return update(*options); };
+}
+
+Run setUpDelete(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    command.add_option("KEY", options->keys, "The records, as \"records\" shows them")->required();
+    return [options] { return deleteRecords(*options); };
+}
+
+Run setUpDuplicate(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    command.add_option("KEY", options->key, "The record, as \"records\" shows it")->required();
+    command.add_option("COPIES", options->copies, "How many copies")
+        ->required()
+        ->check(whatIsWrongWithCopies);
+    return [options] { return duplicate(*options); };
+}
+
 Run setUpSort(CLI::App& command) {
-    const auto options = std::make_shared<SortOptions>();
+    const auto options = std::make_shared<Options>();
     addFileArgument(command, options->file);
     command.add_option("COLUMN", options->column, "The column to sort by")->required();
     command.add_flag("--descending", options->descending, "From the highest to the lowest");

@@ -1,5 +1,6 @@
 #include "cli/session.h"
 
+#include "core/encoding.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 
@@ -74,6 +75,21 @@ std::string Session::whyNotOpened(const core::RunTimeError& error) const {
     return reason.substr(0, place) + (joins ? "" : ":") + rest;
 }
 
+void Session::change(const std::function<void()>& routine) const {
+    try {
+        routine();
+    } catch (const core::RunTimeError& error) {
+        throw Failure(file, error.what());
+    }
+}
+
+void Session::changeAndCalculate(const std::function<void()>& routine) const {
+    const int messages = platform.exclamations();
+    change(routine);
+    if (platform.exclamations() != messages)
+        throw Failure(file, "the calculation failed, so that nothing is saved");
+}
+
 void Session::save() {
     run(file, false, false);
 }
@@ -87,10 +103,12 @@ void Session::clone(const std::string& target) {
 }
 
 void Session::run(const std::string& target, bool bSaveAs, bool bClone) {
+    if (target.empty()) throw Failure("a database needs a file name");
     const int messages = platform.exclamations();
     const int refusals = platform.refusedQuestions();
     // The routine compares names as texts; a file has more than one of them.
-    platform.setSaveName(bSaveAs && isSameFile(target, file) ? app.document.currentFile : target);
+    const std::string& current = app.document.currentFile;
+    platform.setSaveName(bSaveAs && isSameFile(target, current) ? current : target);
     storage::SaveFile(app, bSaveAs, bClone);
     if (platform.refusedQuestions() != refusals)
         throw Failure(target, "it exists already, --yes overwrites it");
@@ -113,6 +131,27 @@ std::vector<const core::Column*> Session::columns(const std::vector<std::string>
     for (const core::Column& column : app.document.LV.columns)
         if (column.Index != 1) chosen.push_back(&column);
     return chosen;
+}
+
+core::Item& Session::record(const std::string& key) {
+    core::Item* record = app.document.LV.find(key);
+    if (record == nullptr || record->isTotals()) throw Failure(file, "no record \"" + key + "\"");
+    return *record;
+}
+
+std::string Session::typed(const std::string& argument) const {
+    if (argument.find_first_of("\r\n") != std::string::npos)
+        throw Failure(file, "\"" + argument + "\" is more than one line");
+    if (core::sanitizeUtf8(argument) != argument)
+        throw Failure(file, "\"" + core::sanitizeUtf8(argument) + "\" is not UTF-8");
+    return argument;
+}
+
+std::string Session::typedInList(const std::string& argument) const {
+    if (argument.find('|') != std::string::npos)
+        throw Failure(file,
+                      "\"" + argument + "\" holds a \"|\", which divides names and expressions in the file");
+    return typed(argument);
 }
 
 } // namespace cli

@@ -4,6 +4,7 @@
 #include "core/runTimeError.h"
 #include "platform/headlessPlatform.h"
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -27,6 +28,10 @@ public:
     void open();
     // The reason in the user's words, for an error that reading the database ended in.
     std::string whyNotOpened(const core::RunTimeError& error) const;
+    // Runs a routine of the window. The error that would end the window is the failure of the command.
+    void change(const std::function<void()>& routine) const;
+    // The same for a routine that calculates: it tells by a message alone that an expression is wrong.
+    void changeAndCalculate(const std::function<void()>& routine) const;
     // Saves through the window's own routine. A failure leaves the file as it was and raises Failure.
     void save();
     void saveAs(const std::string& target);
@@ -37,6 +42,14 @@ public:
     core::Column& column(std::string_view name);
     // The columns of the database in the order of the table, or the named ones in the order told.
     std::vector<const core::Column*> columns(const std::vector<std::string>& names);
+    // A record by its key; raises Failure when there is none. The Totals row is no record to the user.
+    core::Item& record(const std::string& key);
+    // An argument that stands for what is typed into a box of the window. Raises Failure for a line end,
+    // which no such box takes and which would tear the file's lines.
+    std::string typed(const std::string& argument) const;
+    // The same for what stands in a list of the file, which a separator would tear: a column's name and
+    // an expression.
+    std::string typedInList(const std::string& argument) const;
 
     const std::string file;
     platform::HeadlessPlatform platform;

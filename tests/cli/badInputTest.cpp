@@ -12,8 +12,8 @@ constexpr const char* commands[] = {"info %", "info % --json", "records %", "rec
 
 class BadInput : public FwkTest {
 protected:
-    // Whatever the file is, no command crashes on it or changes anything by reading it; sort, save-as and
-    // clone either do their work or fail, and then leave all as it was.
+    // Whatever the file is, no command crashes on it or changes anything by reading it; those that
+    // change or copy it either do their work or fail, and then leave all as it was.
     void useAll(const std::string& name, const char* what) {
         const auto before = state();
         for (const std::string command : commands) {
@@ -21,7 +21,10 @@ protected:
             expectEnd(outcome, what + std::string(", ") + command);
             EXPECT_EQ(state(), before) << what << ", " << command;
         }
-        for (const char* command : {"sort % A", "save-as % copy.fwk", "clone % clone.fwk"}) {
+        for (const char* command :
+             {"sort % A", "save-as % copy.fwk", "clone % clone.fwk", "recalculate %", "total %",
+              "column add % Added:Number --auto", "add % Name=x", "update % i1 Name=y", "duplicate % i1 2",
+              "delete % i1", "column remove % Name --yes"}) {
             const auto start = state();
             const std::string line = command;
             const Outcome outcome = run(std::string(line).replace(line.find('%'), 1, name));

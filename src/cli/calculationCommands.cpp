@@ -1,0 +1,139 @@
+#include "calc/TotalsFrm.h"
+#include "calc/formulateFrm.h"
+#include "calc/recalculation.h"
+#include "calc/serialFrm.h"
+#include "cli/command.h"
+#include "cli/output.h"
+#include "cli/session.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <optional>
+
+namespace cli {
+
+namespace {
+
+struct Options {
+    std::string file, column, value;
+    std::optional<std::string> expression;
+    std::vector<std::string> columns;
+};
+
+int rowOf(Session& session, const calc::formulateFrm& form, const std::string& column) {
+    const std::string& name = session.column(column).Text;
+    const auto row = std::ranges::find(form.colList, name, &calc::formulateFrm::Row::Name);
+    if (row == form.colList.end())
+        throw Failure(session.file, "the column \"" + name + "\" is no calculation column");
+    return static_cast<int>(row - form.colList.begin());
+}
+
+int printExpression(const Options& options) {
+    Session session(options.file);
+    session.open();
+    const calc::formulateFrm form(session.app);
+    const int row = rowOf(session, form, options.column);
+    writeOut(form.colList[static_cast<std::size_t>(row)].Formula + "\n");
+    return done;
+}
+
+// The buttons of the window can build anything that they have; what is wrong with an expression shows
+// when it is worked out.
+int setExpression(const Options& options) {
+    Session session(options.file);
+    session.open();
+    session.changeAndCalculate([&] {
+        calc::formulateFrm form(session.app);
+        form.colList_Click(rowOf(session, form, options.column));
+        form.expTxt = session.typedInList(*options.expression);
+        form.addCalcBtn_Click();
+        form.donebtn_Click();
+    });
+    session.save();
+    return done;
+}
+
+int chooseTotals(const Options& options) {
+    Session session(options.file);
+    session.open();
+    session.changeAndCalculate([&] {
+        calc::TotalsFrm form(session.app);
+        for (calc::TotalsFrm::Row& row : form.LV) row.Checked = false;
+        for (const std::string& column : options.columns) {
+            const std::string& name = session.column(column).Text;
+            const auto row = std::ranges::find(form.LV, name, &calc::TotalsFrm::Row::Text);
+            if (row == form.LV.end())
+                throw Failure(session.file, "the column \"" + name + "\" cannot be totalled");
+            row->Checked = true;
+        }
+        form.OKButton_Click();
+    });
+    session.save();
+    return done;
+}
+
+int recalculate(const Options& options) {
+    Session session(options.file);
+    session.open();
+    session.changeAndCalculate([&] { calc::recalculateAfterDialog(session.app); });
+    session.save();
+    return done;
+}
+
+int setSerial(const Options& options) {
+    Session session(options.file);
+    session.open();
+    const std::string name = session.column(options.column).Text;
+    session.change([&] {
+        calc::serialFrm form(session.app);
+        const auto entry = std::ranges::find(form.List1, name);
+        if (entry == form.List1.end())
+            throw Failure(session.file, "the column \"" + name + "\" has no serial numbers");
+        form.List1_Click(static_cast<int>(entry - form.List1.begin()));
+        form.Text1 = session.typed(options.value);
+        form.setBtn_Click();
+        const core::Item* serial = session.app.document.SerialsLV.findText(name);
+        if (serial == nullptr || serial->subItem(1) != form.Text1)
+            throw Failure(session.file, "the serial number of \"" + name + "\" is not set");
+    });
+    session.save();
+    return done;
+}
+
+void addColumnArgument(CLI::App& command, Options& options) {
+    command.add_option("COLUMN", options.column, "The column")->required();
+}
+
+} // namespace
+
+Run setUpExpression(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    addColumnArgument(command, *options);
+    command.add_option("EXPRESSION", options->expression,
+                       "The new expression, blanks around every operator; the empty text clears it");
+    return [options] { return options->expression ? setExpression(*options) : printExpression(*options); };
+}
+
+Run setUpTotal(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    command.add_option("COLUMN", options->columns, "The columns to total; no other column is");
+    return [options] { return chooseTotals(*options); };
+}
+
+Run setUpRecalculate(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    return [options] { return recalculate(*options); };
+}
+
+Run setUpSerial(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    addColumnArgument(command, *options);
+    command.add_option("VALUE", options->value, "The number that was stored last")->required();
+    return [options] { return setSerial(*options); };
+}
+
+} // namespace cli
