@@ -23,7 +23,8 @@ double numberOf(std::string_view text) {
 
 std::vector<std::string_view> splitLine(std::string_view line) {
     constexpr std::ptrdiff_t mostElements = std::numeric_limits<std::int16_t>::max();
-    if (std::ranges::count(line, '|') > mostElements) core::raise(core::errors::overflow, "elements of a line");
+    if (std::ranges::count(line, '|') > mostElements)
+        core::raise(core::errors::overflow, "elements of a line");
     return core::split(line, '|');
 }
 
