@@ -79,8 +79,10 @@ void readLine(const Elements& fields, core::LayoutObjects& layout,
     const Place place(fields, 1);
     core::LineObject& line = loadNext(layout, family);
     place.putInto(line);
+    if (fields.count() <= 5) return;
     // Nothing is drawn in it, so a colour that is none does no harm.
-    if (fields.count() > 5) line.fileBackColor = core::toInt32(core::val(fields.text(5)));
+    const double colour = core::val(fields.text(5));
+    if (colour >= INT32_MIN && colour <= INT32_MAX) line.fileBackColor = core::toInt32(colour);
 }
 
 void readBox(const Elements& fields, core::LayoutObjects& layout) {
@@ -98,6 +100,7 @@ void readPicture(const Elements& fields, core::LayoutObjects& layout) {
     core::ImgHolder& holder = loadNext(layout, layout.imgHolder);
     place.putInto(holder);
     holder.Tag = fields.text(1);
+    if (fields.count() > 6) holder.ToolTipText = fields.text(6); // what stands behind the last separator
     holder.viewImage.Width = holder.Width;
     holder.viewImage.Height = holder.Height;
 }

@@ -69,11 +69,13 @@ void make(App& app, const std::string& path, bool bStartUp) {
 } // namespace
 
 void createEmptyArchive(App& app, const std::string& path) {
+    // Named first: when the archive cannot be made, the next save must not write the emptied document
+    // into the file that was open before.
+    app.document.currentFile = path;
+    app::showCaption(app);
     platform::Zip Zip;
     Zip.CreateArchive(path, "");
     Zip.CloseArchive();
-    app.document.currentFile = path;
-    app::showCaption(app);
 }
 
 void finishNewDatabase(App& app) {
@@ -100,7 +102,6 @@ void newDatabase(App& app, bool bStartUp) {
         make(app, *path, bStartUp);
     } catch (const core::RunTimeError&) {
         // The routine ends without a word. It is wanted so.
-        app::showCaption(app);
     }
 }
 

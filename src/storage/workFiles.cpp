@@ -1,10 +1,9 @@
 #include "storage/workFiles.h"
 
-#include "core/runTimeError.h"
+#include "platform/fileHandle.h"
 
 #include <cerrno>
-#include <cstdio>
-#include <memory>
+#include <fcntl.h>
 
 namespace storage {
 
@@ -17,10 +16,10 @@ bool fileExists(const std::filesystem::path& path) {
 void writeWorkFile(const std::filesystem::path& path, std::string_view bytes) {
     std::error_code ignored;
     std::filesystem::remove(path, ignored); // never through a link that lies in its place
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "wbxe"), std::fclose);
-    if (!file) core::raise(core::errors::pathAccess, path.string());
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    if (!written || std::fflush(file.get()) != 0) core::raise(core::errors::diskFull, path.string());
+    const platform::FileHandle file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!file.isOpen()) platform::raiseSystemError(errno, path.string());
+    if (const int failure = platform::writeAt(file.get(), bytes.data(), bytes.size(), 0))
+        platform::raiseSystemError(failure, path.string());
 }
 
 } // namespace storage

@@ -7,7 +7,7 @@ namespace storage {
 
 bool fileExists(const std::filesystem::path& path);
 
-// Writes a file of the work folder. Raises diskFull or pathAccess.
+// Writes a file of the work folder. Raises diskFull, pathAccess, fileNotFound (no such folder), deviceIO.
 void writeWorkFile(const std::filesystem::path& path, std::string_view bytes);
 
 } // namespace storage

@@ -1,0 +1,305 @@
+#include "databases.h"
+#include "raised.h"
+#include "storage/dataReader.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace errors = core::errors;
+using core::Document;
+using Texts = std::vector<std::string>;
+
+class ReaderTest : public testing::Test {
+protected:
+    Document document;
+    DataFile data;
+
+    void read() { storage::readDataFile(data.text(), document); }
+    // The data of the fixture with those section lines.
+    void readMore(const std::string& lines) {
+        data.more = lines;
+        document.clear();
+        read();
+    }
+    std::string keys() const {
+        std::string all;
+        document.LV.forEach([&](const core::Item& item) { all += item.Key.str() + ";"; });
+        return all;
+    }
+    static Texts keysOf(const core::NamedCollection& items) {
+        Texts keys;
+        for (const auto& entry : items) keys.push_back(entry.key);
+        return keys;
+    }
+};
+
+TEST_F(ReaderTest, pageValuesStandInTwoOrders) {
+    data.more = "[Report Data   ]1.5|2.5|.25|4|5|2|A title, with comma|True|\r\n";
+    std::string text = data.text();
+    const std::string usual = "4|6|1|1|1|1|1|1|0.15|";
+    text.replace(text.find(usual), usual.size(), "3.5|7|0.1|0.2|0.3|0.4|256|2|1E-2|");
+    storage::readDataFile(text, document);
+    const core::LayoutOptions& layout = document.layoutOptions;
+    EXPECT_FLOAT_EQ(layout.customPaperLength, 3.5F);
+    EXPECT_FLOAT_EQ(layout.customPaperHeight, 7);
+    EXPECT_FLOAT_EQ(layout.layoutLeftMargin, 0.1F);
+    EXPECT_FLOAT_EQ(layout.layoutTopMargin, 0.2F);
+    EXPECT_FLOAT_EQ(layout.layoutBottomMargin, 0.3F);
+    EXPECT_FLOAT_EQ(layout.layoutRightMargin, 0.4F);
+    EXPECT_EQ(layout.layoutPaperSize, core::customPaper);
+    EXPECT_EQ(layout.layoutOrientation, core::landscape);
+    EXPECT_FLOAT_EQ(layout.layoutSpacing, 0.01F);
+    const core::ReportData& report = document.reportData;
+    EXPECT_FLOAT_EQ(report.reportLeftMargin, 1.5F);
+    EXPECT_FLOAT_EQ(report.reportRightMargin, 2.5F);
+    EXPECT_FLOAT_EQ(report.reportTopMargin, 0.25F);
+    EXPECT_FLOAT_EQ(report.reportBottomMargin, 4);
+    EXPECT_EQ(report.reportPaperSize, core::legalPaper);
+    EXPECT_EQ(report.reportOrientation, core::landscape);
+    EXPECT_EQ(report.reportTitle, "A title, with comma");
+    EXPECT_TRUE(report.bReportBoldHeaders);
+}
+
+TEST_F(ReaderTest, theBoldFlagIsReadFromExactlyNineElements) {
+    const struct {
+        const char* value;
+        bool before, after;
+        const char* title;
+    } cases[] = {
+        {"1|1|1|1|1|1|Title|True|", false, true, "Title"},
+        {"1|1|1|1|1|1|Title|False|", true, false, "Title"},
+        {"1|1|1|1|1|1|Title|-1|", false, true, "Title"},
+        {"1|1|1|1|1|1|A|B|True|", false, false, "A"}, // a title with a separator is cut
+        {"1|1|1|1|1|1|A|B|False|", true, true, "A"},
+        {"1|1|1|1|1|1|Title|False", true, true, "Title"}, // no separator at the end
+        {"1|1|1|1|1|1|Title|", true, true, "Title"},      // a file from before the flag
+        {"1|1|1|1|1|1||True|", false, true, ""},
+    };
+    for (const auto& c : cases) {
+        document.reportData.bReportBoldHeaders = c.before;
+        readMore(std::string("[Report Data   ]") + c.value + "\r\n");
+        EXPECT_EQ(document.reportData.bReportBoldHeaders, c.after) << c.value;
+        EXPECT_EQ(document.reportData.reportTitle, c.title) << c.value;
+    }
+}
+
+TEST_F(ReaderTest, listsTakeItemAndKeyAsEachOfThemIsLookedUp) {
+    const struct {
+        const char* marker;
+        const char* value;
+        core::NamedCollection Document::*list;
+        Texts items, keys;
+    } cases[] = {
+        {"[Formulas      ]",
+         "Sum,Qty * ( Price , 2 )|Half,Sum / 2|",
+         &Document::formulas,
+         {"Sum,Qty * ( Price , 2 )", "Half,Sum / 2"},
+         {"Sum", "Half"}},
+        {"[Formulas      ]", "Bare|", &Document::formulas, {"Bare"}, {"Bare"}},
+        {"[InvoiceCols   ]", "1|3|3|", &Document::invoiceCols, {"1", "3", "3"}, {"", "", ""}},
+        {"[ItemLevelCols ]", "2|2|", &Document::itemLevelCols, {"2", "2"}, {"", ""}},
+        {"[Printed Cols  ]", "A b|C|", &Document::printedCols, {"A b", "C"}, {"A b", "C"}},
+        {"[PrnInvoiceCols]", "A|", &Document::prnInvoiceCols, {"A"}, {"A"}},
+        {"[PrnItemCols   ]", "A|", &Document::prnItemCols, {"A"}, {"A"}},
+        {"[Totaled Cols  ]", "Qty|Price|", &Document::totaledCols, {"Qty", "Price"}, {"Qty", "Price"}},
+        {"[Optioned Cols ]", "Qty|", &Document::optionedCols, {"Qty"}, {"Qty"}},
+        {"[Locks         ]",
+         "pBox,1|pBox,12|",
+         &Document::locks,
+         {"pBox,1", "pBox,12"},
+         {"pBox,1", "pBox,12"}},
+        {"[Locks         ]", "", &Document::locks, {}, {}},
+        // What stands behind the last separator is no element.
+        {"[Totaled Cols  ]", "Qty|Price", &Document::totaledCols, {"Qty"}, {"Qty"}},
+        {"[Totaled Cols  ]", "Qty", &Document::totaledCols, {}, {}},
+    };
+    for (const auto& c : cases) {
+        readMore(std::string(c.marker) + c.value + "\r\n");
+        EXPECT_EQ((document.*c.list).items(), c.items) << c.marker << c.value;
+        EXPECT_EQ(keysOf(document.*c.list), c.keys) << c.marker << c.value;
+    }
+}
+
+TEST_F(ReaderTest, aKeyThatComesTwiceEndsTheReading) {
+    for (const char* lines :
+         {"[Formulas      ]Sum,Qty|SUM,Price|", "[Printed Cols  ]Qty|qty|", "[PrnInvoiceCols]Qty|Qty|",
+          "[PrnItemCols   ]Qty|Qty|", "[Totaled Cols  ]Qty|Qty|", "[Optioned Cols ]Qty|QTY|",
+          "[Locks         ]pBox,1|pbox,1|", "[Totaled Cols  ]Qty|\r\n[Totaled Cols  ]Qty|"})
+        EXPECT_EQ(raisedBy([&] { readMore(lines + std::string("\r\n")); }), errors::keyInUse) << lines;
+    EXPECT_EQ(raisedBy([&] { readMore("[Increments    ]Qty,1|QTY,2|\r\n"); }), errors::keyNotUnique);
+    EXPECT_EQ(raisedBy([&] { readMore("[Increments    ]Qty|\r\n"); }), errors::subscriptOutOfRange);
+    // The hidden column has taken its name already.
+    data.names = "Name|index|Price|";
+    EXPECT_EQ(raisedBy([&] { readMore(""); }), errors::keyNotUnique);
+}
+
+TEST_F(ReaderTest, serialCounters) {
+    readMore("[Increments    ]No,42|Long name, with comma,7|Empty,|\r\n");
+    EXPECT_EQ(Program::cells(document.SerialsLV), "42|; with comma|;|;");
+    EXPECT_EQ(document.SerialsLV.byKey("no").Text, "No");
+}
+
+TEST_F(ReaderTest, styleViewAndLock) {
+    const struct {
+        const char* lines;
+        bool invoice, items;
+        std::string lock;
+    } cases[] = {
+        {"", false, false, ""},
+        {"[DatabaseStyle ]True\r\n[InvoiceView   ]True\r\n[Lock          ]\r\n", true, true, ""},
+        {"[DatabaseStyle ]-1\r\n[InvoiceView   ]0\r\n", true, false, ""},
+        {"[Lock          ]  a|b,c \r\n[DatabaseStyle ]True\r\n", true, false, "  a|b,c "},
+        // A scrambled password can hold line ends.
+        {"[Lock          ]a\rb\r\n", false, false, "a\rb"},
+        {"[Lock          ]a\r\nb\n\x01\r\r\n[InvoiceView   ]True\r\n", false, true, "a\r\nb\n\x01\r"},
+    };
+    for (const auto& c : cases) {
+        document.bInvoiceStyle = document.bInvoiceView = false;
+        readMore(c.lines);
+        EXPECT_EQ(document.bInvoiceStyle, c.invoice) << c.lines;
+        EXPECT_EQ(document.bInvoiceView, c.items) << c.lines;
+        EXPECT_EQ(document.lockPassword, c.lock) << c.lines;
+    }
+    EXPECT_EQ(raisedBy([&] { readMore("[DatabaseStyle ]Invoice\r\n"); }), errors::typeMismatch);
+}
+
+TEST_F(ReaderTest, sectionsComeInAnyOrderAmongUnknownOnes) {
+    data.layout = "X|new kind|\r\n[Locks         ]pBox,9|\r\nC|a.gif|1|2|3|4|\r\n";
+    std::vector<std::pair<int, std::string>> findings;
+    const storage::ReadObserver observer{
+        [&](int line, std::string_view what) { findings.emplace_back(line, what); }};
+    const std::string text = "anything\r\n" + data.layout +
+                             "[LayoutEnd]\r\n[Column Spots  ]1|3|2|\r\n\r\n[future thing  ]Qty|\r\n"
+                             "[Totaled Cols ]Name|\r\n[Column Widths ]100|wide|\r\n[Column Types  ]4|3|\r\n"
+                             "[Column Names  ]Qty|Name|\r\n[Begin Data    ] behind it\r\n1|a|\r\n2|b|\r\n";
+    storage::readDataFile(text, document, &observer);
+    EXPECT_EQ(Program::cells(document.LV), "1|a|;2|b|;");
+    EXPECT_EQ(document.LV.columns["Name"].Position, 2);
+    EXPECT_EQ(document.LV.columns["Qty"].Width, 100);
+    EXPECT_EQ(document.LV.columns["Name"].Width, 0);
+    EXPECT_TRUE(document.locks.empty()) << "a section inside the layout block is none";
+    EXPECT_TRUE(document.totaledCols.empty()) << "a marker has sixteen characters";
+    EXPECT_EQ(document.layout.clipPic.count(), 1);
+    const std::vector<std::pair<int, std::string>> expected = {{2, "unknown layout line"},
+                                                               {3, "unknown layout line"},
+                                                               {7, "unknown section"},
+                                                               {8, "unknown section"},
+                                                               {9, "unknown section"}};
+    EXPECT_EQ(findings, expected);
+}
+
+TEST_F(ReaderTest, columnsTakeAlignmentAndIconFromTheirType) {
+    data.names = "D|C|T|N|K|P|Six|None|";
+    data.types = "1|2|3|4|5|7|6||";
+    data.widths = "700|1,440|.5|0|-1|12 34|9x|1440|";
+    data.spots = "1|9|8|7|6|5|4|3|2|";
+    data.rows = "";
+    read();
+    const struct {
+        const char* name;
+        core::Alignment align;
+        const char* icon;
+        float width;
+        int position;
+    } cases[] = {
+        {"D", core::Alignment::Right, "", 700, 9},  {"C", core::Alignment::Right, "", 1, 8},
+        {"T", core::Alignment::Left, "", 0.5F, 7},  {"N", core::Alignment::Right, "", 0, 6},
+        {"K", core::Alignment::Right, "", -1, 5},   {"P", core::Alignment::Left, "Picture", 1234, 4},
+        {"Six", core::Alignment::Left, "", 9, 3},   {"None", core::Alignment::Left, "", 1440, 2},
+        {"Index", core::Alignment::Left, "", 0, 1},
+    };
+    for (const auto& c : cases) {
+        const core::Column& column = document.LV.columns[c.name];
+        EXPECT_EQ(column.align, c.align) << c.name;
+        EXPECT_EQ(column.Icon, c.icon) << c.name;
+        EXPECT_FLOAT_EQ(column.Width, c.width) << c.name;
+        EXPECT_EQ(column.Position, c.position) << c.name;
+    }
+}
+
+TEST_F(ReaderTest, positionsThatAreMissingOrTooMany) {
+    data.spots = "1|3|";
+    readMore("");
+    EXPECT_EQ(document.LV.columns.displayOrder(), (std::vector<int>{1, 3, 2, 4}));
+    data.spots = "";
+    readMore("");
+    EXPECT_EQ(document.LV.columns.displayOrder(), (std::vector<int>{1, 2, 3, 4}));
+    data.spots = "1|2|3|4|5|";
+    EXPECT_EQ(raisedBy([&] { readMore(""); }), errors::indexOutOfBounds);
+    EXPECT_EQ(document.LV.count(), 3) << "what was read so far stays";
+}
+
+TEST_F(ReaderTest, rows) {
+    const struct {
+        const char* what;
+        std::string rows;
+        const char* cells;
+        const char* keys;
+    } cases[] = {
+        {"the last line is the Totals row, whatever it holds", "a|1|2|\r\nb|3|4|\r\n", "a|1|2|;b|3|4|;",
+         "i1;Totals;"},
+        {"a single line too", "a|1|2|\r\n", "a|1|2|;", "Totals;"},
+        {"no line", "", "", ""},
+        {"no end of the last line", "a|1|2|\r\nb|3|4|", "a|1|2|;b|3|4|;", "i1;Totals;"},
+        {"blank lines anywhere", "\r\na|1|2|\r\n\r\n\r\nb|3|4|\r\n\r\n\r\n", "a|1|2|;b|3|4|;", "i1;Totals;"},
+        {"a line of blanks is a row", "   \r\na|1|2|\r\n", "|||;a|1|2|;", "i1;Totals;"},
+        {"only Text keeps its blanks", " a |  1 | $2.00 |\r\n-|-|-|\r\n", " a |1|$2.00|;-|-|-|;",
+         "i1;Totals;"},
+        {"other white space stays", "a|\t1\t|2|\r\n-|-|-|\r\n", "a|\t1\t|2|;-|-|-|;", "i1;Totals;"},
+        {"cells too few", "a|\r\nb|1|\r\n|\r\n-|\r\n", "a|||;b|1||;|||;-|||;", "i1;i2;i3;Totals;"},
+        {"cells too many", "a|1|2|3|4|\r\n-|-|-|-|\r\n", "a|1|2|;-|-|-|;", "i1;Totals;"},
+        {"text behind the last separator", "a|1|2|x\r\nb|1\r\nc\r\n-|-|-|\r\n", "a|1|2|;b|||;|||;-|-|-|;",
+         "i1;i2;i3;Totals;"},
+        {"a separator in a cell shifts what follows", "a|b|1|2|\r\n-|-|-|\r\n", "a|b|1|;-|-|-|;",
+         "i1;Totals;"},
+        {"a line feed in a cell", "a\nb|1|2|\r\n-|-|-|\r\n", "a\nb|1|2|;-|-|-|;", "i1;Totals;"},
+    };
+    for (const auto& c : cases) {
+        data.rows = c.rows;
+        document.iLastKey = 99;
+        readMore("");
+        EXPECT_EQ(Program::cells(document.LV), c.cells) << c.what;
+        EXPECT_EQ(keys(), c.keys) << c.what;
+    }
+}
+
+TEST_F(ReaderTest, linesOfOtherSystems) {
+    const std::string text = data.text();
+    for (const std::string lineEnd : {"\n", "\r"}) {
+        std::string other = text;
+        for (std::size_t at = other.find("\r\n"); at != std::string::npos; at = other.find("\r\n", at))
+            other.replace(at, 2, lineEnd);
+        document.clear();
+        storage::readDataFile(other, document);
+        EXPECT_EQ(Program::cells(document.LV), "Bolt|12|$1.50|;Nut|7|$.25|;------|------|------|;");
+        EXPECT_EQ(document.LV.columns.count(), 4);
+    }
+}
+
+TEST_F(ReaderTest, withoutColumnsThereAreNoCells) {
+    data.names = data.types = data.widths = "";
+    data.spots = "1|";
+    data.rows = "\r\n\r\n";
+    read();
+    EXPECT_EQ(document.LV.columns.count(), 1);
+    EXPECT_TRUE(document.LV.empty()) << "the rows are blank lines";
+}
+
+TEST_F(ReaderTest, theCounterStartsAnewAndEndsTheReadingWhenItIsUsedUp) {
+    const auto rowsOf = [](int count) {
+        std::string rows;
+        for (int i = 0; i < count; ++i) rows += "a|1|2|\r\n";
+        return rows;
+    };
+    document.iLastKey = 77;
+    data.rows = rowsOf(32'767) + "-|-|-|\r\n";
+    read();
+    EXPECT_EQ(document.iLastKey, 32'767);
+    EXPECT_EQ(document.LV.count(), 32'768);
+    data.rows = rowsOf(32'768) + "-|-|-|\r\n";
+    EXPECT_EQ(raisedBy([&] { readMore(""); }), errors::overflow);
+    EXPECT_EQ(document.LV.count(), 32'767);
+}
+
+} // namespace

@@ -1,0 +1,205 @@
+#include "databases.h"
+#include "storage/dataReader.h"
+#include "storage/dataWriter.h"
+#include "storage/values.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using core::Document;
+
+// A document in which every section has something to say.
+void fill(Document& document) {
+    const char* columns[][2] = {{"Name", "3"}, {"Qty", "4"}, {"Photo", "7"}};
+    for (const auto& [name, type] : columns) document.LV.columns.add(name, name).setTypeFromFile(type);
+    document.LV.columns.at(2).Width = 1234.5F;
+    document.LV.columns.setPosition(4, 2);
+    core::Label& label = document.layout.tLabel.load(2);
+    label.Text = "Hello";
+    label.Tag = "http://example.org";
+    label.align = core::Alignment::Centre;
+    document.layout.clipPic.load(1).Tag = "a.gif";
+    document.layoutOptions.layoutLeftMargin = 0.1F;
+    document.layoutOptions.layoutTopMargin = 0.2F;
+    document.layoutOptions.layoutBottomMargin = 0.3F;
+    document.layoutOptions.layoutRightMargin = 0.4F;
+    document.layoutOptions.layoutPaperSize = core::customPaper;
+    document.reportData = {1.5F, 2.5F, 3.5F, 4.5F, core::legalPaper, core::landscape, "A | title", true};
+    document.formulas.add("Qty,2 * ( 3 )", "Qty");
+    document.printedCols.add("Name", "Name");
+    document.prnInvoiceCols.add("Qty", "Qty");
+    document.prnItemCols.add("Photo", "Photo");
+    document.totaledCols.add("Qty", "Qty");
+    document.optionedCols.add("Qty", "Qty");
+    document.locks.add("tLabel,2", "tLabel,2");
+    document.locks.add("pBox,1", "pBox,1");
+    document.SerialsLV.add("Qty", "Qty").subItem(1) = "42";
+    document.invoiceCols.add("7");
+    document.itemLevelCols.add("9");
+    document.lockPassword = "\x01 x|";
+    const char* rows[][3] = {{" a ", " 1 ", " p.jpg "}, {"", "", ""}, {"x|y", "2", ""}};
+    for (const auto& row : rows) {
+        core::Item& item = document.LV.add(document.nextKey(), "scratch");
+        for (std::size_t i = 0; i < 3; ++i) item.cells[i] = row[i];
+    }
+    core::addTotalsRow(document.LV).cells[1] = "3";
+}
+
+constexpr const char* design = "[LayoutStart]\r\n"
+                               "L|Hello|0|0|1695|195|False|False|False|MS Sans Serif|8.25|0|"
+                               "http://example.org|2|\r\n"
+                               "C|a.gif|0|0|2175|1815|\r\n"
+                               "[LayoutEnd]\r\n"
+                               "[Layout Options]4|6|0.1|0.2|0.3|0.4|256|1|0.15|\r\n"
+                               "[Column Names  ]Name|Qty|Photo|\r\n"
+                               "[Column Types  ]3|4|7|\r\n"
+                               "[Column Widths ]1234.5|1440|1440|\r\n"
+                               "[Column Spots  ]1|3|4|2|\r\n"
+                               "[InvoiceCols   ]\r\n"
+                               "[ItemLevelCols ]9|\r\n"
+                               "[Printed Cols  ]Name|\r\n"
+                               "[PrnInvoiceCols]Qty|\r\n"
+                               "[PrnItemCols   ]Photo|\r\n"
+                               "[Report Data   ]1.5|2.5|3.5|4.5|5|2|A | title|True|\r\n"
+                               "[Formulas      ]Qty,2 * ( 3 )|\r\n"
+                               "[Totaled Cols  ]Qty|\r\n"
+                               "[Optioned Cols ]Qty|\r\n"
+                               "[Increments    ]Qty,%|\r\n"
+                               "[Locks         ]tLabel,2|pBox,1|\r\n"
+                               "[DatabaseStyle ]False\r\n"
+                               "[InvoiceView   ]False\r\n"
+                               "[Lock          ]\x01 x|\r\n"
+                               "[Begin Data    ]\r\n";
+
+std::string designWith(const char* counter) {
+    std::string text = design;
+    return text.replace(text.find('%'), 1, counter);
+}
+
+TEST(Writer, everySectionInItsOrder) {
+    Document document;
+    fill(document);
+    EXPECT_EQ(storage::writeDataFile(document, false),
+              designWith("42") + " a |1|p.jpg|\r\n|||\r\nx|y|2||\r\n------|3|------|\r\n");
+}
+
+TEST(Writer, aCloneHasNoRowAndItsCountersStartAtZero) {
+    Document document;
+    fill(document);
+    EXPECT_EQ(storage::writeDataFile(document, true), designWith("0"));
+    EXPECT_EQ(document.SerialsLV.at(1).subItem(1), "42") << "the open document keeps counting";
+    EXPECT_EQ(document.LV.count(), 4);
+}
+
+TEST(Writer, anEmptyDocument) {
+    Document document;
+    core::addTotalsRow(document.LV);
+    const std::string text = storage::writeDataFile(document, false);
+    EXPECT_NE(text.find("[Column Names  ]\r\n[Column Types  ]\r\n[Column Widths ]\r\n[Column Spots  ]1|\r\n"),
+              std::string::npos);
+    EXPECT_TRUE(text.ends_with("[Begin Data    ]\r\n\r\n"));
+    Document again;
+    storage::readDataFile(text, again);
+    EXPECT_TRUE(again.LV.empty());
+    EXPECT_EQ(storage::writeDataFile(again, false), text.substr(0, text.size() - 2));
+}
+
+TEST(Writer, theListOfTheInvoiceViewGivesItsWidthsAndPositions) {
+    for (const bool items : {false, true}) {
+        Document document;
+        fill(document);
+        document.bInvoiceStyle = true;
+        document.bInvoiceView = items;
+        core::ColumnHeaders& shown = document.iLV.columns;
+        shown.add("Index", "Index", 77);
+        shown.add("Qty", "Qty", 500);
+        shown.add("NAME", "NAME", 600.25F);
+        shown.setPosition(3, 2);
+        const std::string text = storage::writeDataFile(document, false);
+        const auto has = [&](const char* line) { return text.find(line) != std::string::npos; };
+        EXPECT_TRUE(has("[Column Widths ]600.25|500|1440|\r\n"));
+        EXPECT_TRUE(has("[Column Spots  ]1|3|4|2|\r\n")) << "positions are not taken over";
+        EXPECT_EQ(document.LV.columns.at(1).Width, 0) << "the hidden column stays hidden";
+        EXPECT_EQ(has("[InvoiceCols   ]1|3|2|\r\n[ItemLevelCols ]9|\r\n"), !items);
+        EXPECT_EQ(has("[InvoiceCols   ]7|\r\n[ItemLevelCols ]1|3|2|\r\n"), items);
+        EXPECT_TRUE(has(items ? "[InvoiceView   ]True\r\n" : "[InvoiceView   ]False\r\n"));
+        EXPECT_TRUE(has("[DatabaseStyle ]True\r\n"));
+    }
+}
+
+TEST(Writer, aStandardDatabaseKeepsItsWidths) {
+    Document document;
+    fill(document);
+    document.iLV.columns.add("Index", "Index", 0);
+    document.iLV.columns.add("Name", "Name", 500);
+    const std::string text = storage::writeDataFile(document, false);
+    EXPECT_NE(text.find("[Column Widths ]1234.5|1440|1440|\r\n"), std::string::npos);
+}
+
+// What a save does not refresh comes back byte for byte: reading and writing are each other's inverse.
+TEST(Writer, databasesComeBackByteForByte) {
+    for (const char* name : {"books.fwk", "books-clone.fwk", "packages-500.fwk", "packages-32000.fwk"}) {
+        const std::string bytes = Program::dataFileOf(std::string(TEST_DATA_DIR) + "/" + name);
+        Document document;
+        storage::readDataFile(bytes, document);
+        EXPECT_TRUE(storage::encodeDataFile(storage::writeDataFile(document, false)) == bytes) << name;
+    }
+}
+
+// An older file is written in today's form, and from then on it stays the same.
+TEST(Writer, anOlderFileIsBroughtUpToDate) {
+    Document document, again;
+    const std::string bytes = Program::dataFileOf(std::string(TEST_DATA_DIR) + "/books-older.fwk");
+    storage::readDataFile(bytes, document);
+    const std::string text = storage::writeDataFile(document, false);
+    EXPECT_EQ(text.find("X|unknown"), std::string::npos);
+    EXPECT_EQ(text.find("Future"), std::string::npos);
+    EXPECT_NE(text.find("L|No:|1440|1590|1695|195|True|False|False|MS Sans Serif|8.25|0||0|\r\n"),
+              std::string::npos);
+    storage::readDataFile(storage::encodeDataFile(text), again);
+    EXPECT_EQ(storage::writeDataFile(again, false), text);
+    EXPECT_EQ(Program::cells(again.LV), Program::cells(document.LV));
+}
+
+TEST(Encoding, everyByteOfTheCodePageComesBack) {
+    std::string cell;
+    for (int byte = 1; byte < 256; ++byte)
+        if (std::string_view("\r\n|").find(static_cast<char>(byte)) == std::string_view::npos)
+            cell.push_back(static_cast<char>(byte));
+    cell.push_back('\0');
+    cell.append("end");
+    DataFile data;
+    data.rows = cell + "|1|2|\r\n------|1|2|\r\n";
+    data.more = "[Lock          ]" + cell + "\r\n";
+    Document document;
+    storage::readDataFile(data.text(), document);
+    const std::string bytes = storage::encodeDataFile(storage::writeDataFile(document, false));
+    EXPECT_NE(bytes.find("\r\n" + data.rows), std::string::npos);
+    EXPECT_NE(bytes.find(data.more), std::string::npos);
+    EXPECT_TRUE(bytes.starts_with("[LayoutStart]"));
+}
+
+TEST(Encoding, theMarkComesOnlyWithACharacterThatNeedsIt) {
+    const std::string mark = "\xEF\xBB\xBF";
+    const std::pair<std::string, std::string> cases[] = {
+        {"", ""},
+        {"plain", "plain"},
+        {"\xC3\x86\xC3\xB8", "\xC6\xF8"},
+        {"\xE2\x82\xAC \xE2\x80\x9Cq\xE2\x80\x9D \xC5\xBD", "\x80 \x93q\x94 \x8E"},
+        {"\xD0\x96", mark + "\xD0\x96"},
+        {"\xC3\x86\xD0\x96", mark + "\xC3\x86\xD0\x96"}, // one of them is enough
+        {"\xF0\x9F\x93\x9A", mark + "\xF0\x9F\x93\x9A"},
+        {"e\xCC\x81", mark + "e\xCC\x81"}, // no single character of the code page
+    };
+    for (const auto& [text, bytes] : cases) {
+        EXPECT_EQ(storage::encodeDataFile(text), bytes) << text;
+        EXPECT_EQ(storage::decodeDataFile(bytes), text) << text;
+    }
+    // With a mark, text that would fit comes back without; damaged text is mended.
+    EXPECT_EQ(storage::encodeDataFile(storage::decodeDataFile(mark + "\xC3\xA9")), "\xE9");
+    EXPECT_EQ(storage::decodeDataFile(mark + "a\xFF"), "a\xEF\xBF\xBD");
+    EXPECT_EQ(storage::decodeDataFile(mark), "");
+}
+
+} // namespace
