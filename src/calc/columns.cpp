@@ -20,7 +20,9 @@ void renameInCollection(core::NamedCollection& collection, const std::string& ol
     collection.clear();
     for (const std::string& name : names) {
         const std::string& kept = name == oldName ? newName : name;
-        collection.add(kept, kept);
+        // printedCols keeps the names of columns that are gone, and the new name may be one of them. A
+        // file with a name twice could not be opened again.
+        if (collection.find(kept) == nullptr) collection.add(kept, kept);
     }
 }
 
@@ -113,7 +115,10 @@ void setOptionedColumns(Document& document, const std::vector<std::string>& name
     document.optionedCols.clear();
     for (const std::string& name : names) document.optionedCols.add(name, name);
     for (const std::string& name : names) {
-        if (document.SerialsLV.findText(name) != nullptr) continue;
+        // By the exact name: when the case alone has changed, the old counter goes as with any new name.
+        bool hasCounter = false;
+        document.SerialsLV.forEach([&](const core::Item& serial) { hasCounter |= serial.Text == name; });
+        if (hasCounter) continue;
         if (document.LV.columns[name].isType(ColumnType::Number))
             document.SerialsLV.add(name, name).subItem(1) = "0";
     }

@@ -1,5 +1,6 @@
 #include "calc/evaluator.h"
 
+#include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
 
@@ -17,19 +18,34 @@ namespace errors = core::errors;
 
 constexpr int deepestNesting = 250;
 
-constexpr std::array<std::string_view, 56> keywords = {
+constexpr std::array<std::string_view, 60> keywords = {
     "And",  "ByRef",    "ByVal",   "Call",     "Case",   "Class", "Const",   "Dim",    "Do",       "Each",
     "Else", "ElseIf",   "Empty",   "End",      "Eqv",    "Erase", "Error",   "Exit",   "Explicit", "False",
     "For",  "Function", "Get",     "GoTo",     "If",     "Imp",   "In",      "Is",     "Let",      "Like",
     "Loop", "Me",       "Mod",     "New",      "Next",   "Not",   "Nothing", "Null",   "On",       "Option",
     "Or",   "Preserve", "Private", "Property", "Public", "ReDim", "Rem",     "Resume", "Select",   "Set",
-    "Sub",  "Then",     "True",    "Wend",     "While",  "Xor"};
+    "Stop", "Sub",      "Then",    "To",       "True",   "Until", "Wend",    "While",  "With",     "Xor"};
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
+bool isAscii(char c) {
+    return static_cast<unsigned char>(c) < 0x80;
+}
 bool isNameStart(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80;
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || !isAscii(c);
+}
+
+// The blocks of marks, signs and symbols beyond ASCII; all other characters there pass for letters.
+bool isLetter(char32_t c) {
+    struct Range {
+        char32_t first, last;
+    };
+    constexpr Range symbols[] = {{0x80, 0xA9},     {0xAB, 0xB4},     {0xB6, 0xB9},     {0xBB, 0xBF},
+                                 {0xD7, 0xD7},     {0xF7, 0xF7},     {0x2000, 0x2BFF}, {0x3000, 0x303F},
+                                 {0xD800, 0xF8FF}, {0xFE00, 0xFE6F}, {0xFEFF, 0xFF20}, {0x1F000, 0x1FAFF}};
+    return std::ranges::none_of(symbols,
+                                [&](const Range& range) { return c >= range.first && c <= range.last; });
 }
 
 class Parser {
@@ -107,23 +123,43 @@ private:
         const char* first = text_.data() + at_;
         double value = 0;
         const auto result = std::from_chars(first, text_.data() + text_.size(), value);
-        if (result.ec == std::errc::result_out_of_range) raise(errors::overflow, "number");
-        if (result.ec != std::errc()) raise(errors::syntax, std::string(text_));
-        at_ += static_cast<std::size_t>(result.ptr - first);
+        const auto size = static_cast<std::size_t>(result.ptr - first);
+        if (result.ec == std::errc::result_out_of_range) {
+            // Beyond a double, or so near to zero that it is none: only the first is an error.
+            const std::optional<double> read = core::toDouble(text_.substr(at_, size));
+            if (!read) raise(errors::overflow, "number");
+            value = *read;
+        } else if (result.ec != std::errc()) {
+            raise(errors::syntax, std::string(text_));
+        }
+        at_ += size;
         endOperand();
         return value;
     }
 
     double name() {
         const std::size_t from = at_;
-        while (at_ < text_.size() && (isNameStart(text_[at_]) || isDigit(text_[at_]) || text_[at_] == '_'))
-            ++at_;
+        while (takeNameCharacter()) {
+        }
         const std::string_view word = text_.substr(from, at_ - from);
+        if (word.empty()) raise(errors::syntax, std::string(text_));
         if (std::ranges::any_of(keywords,
                                 [&](std::string_view keyword) { return core::equalsNoCase(keyword, word); }))
             raise(errors::syntax, std::string(word));
         endOperand();
         return 0;
+    }
+
+    bool takeNameCharacter() {
+        if (at_ == text_.size()) return false;
+        std::size_t next = at_;
+        const char c = text_[at_];
+        const char32_t character = core::nextCodePoint(text_, next);
+        const bool isStrayByte = !isAscii(c) && next == at_ + 1;
+        const bool belongs = isAscii(c) ? isNameStart(c) || isDigit(c) || c == '_' : isLetter(character);
+        if (isStrayByte || !belongs) return false;
+        at_ = next;
+        return true;
     }
 
     // Behind an operand stands an operator, a parenthesis or the end.

@@ -56,9 +56,10 @@ RowCalculator::RowCalculator(app::App& app, RecordsList& list) : app_(app) {
         for (const std::string_view text : formula.tokens()) {
             Token token;
             token.text = text;
-            if (const Column* column = list.columns.find(text)) {
+            const Column* column = list.columns.find(text);
+            // The hidden column carries no data: its cell is what the last sort has left there.
+            if (column != nullptr && column->Index != 1) {
                 token.subItem = column->Index - 1;
-                token.isIndex = column->Index == 1;
                 token.isCurrency = column->isType(core::ColumnType::Currency);
             }
             prepared.tokens.push_back(token);
@@ -74,14 +75,13 @@ bool RowCalculator::calculate(Item& row) {
         try {
             if (formula.target == nullptr)
                 core::raise(core::errors::elementNotFound, std::string(formula.name));
-            CellText& cell = RecordsList::cell(row, *formula.target);
             if (formula.isUndefined) {
-                cell = undefined;
+                RecordsList::cell(row, *formula.target) = undefined;
                 continue;
             }
             joinTokens(formula, row);
             armed = true;
-            evaluateInto(cell);
+            evaluateInto(RecordsList::cell(row, *formula.target));
         } catch (const core::RunTimeError&) {
             if (!armed) throw;
             reportCalculationError(app_);
@@ -95,13 +95,12 @@ void RowCalculator::joinTokens(const Prepared& formula, const Item& row) {
     bDecimal_ = false;
     joined_.clear();
     for (const Token& token : formula.tokens) {
-        if (token.subItem == 0 && !token.isIndex) {
+        if (token.subItem == 0) {
             joined_ += token.text;
             continue;
         }
         if (token.isCurrency) bDecimal_ = true;
-        const std::string_view operand =
-            core::trim(token.isIndex ? row.Text.view() : row.subItem(token.subItem).view());
+        const std::string_view operand = core::trim(row.subItem(token.subItem));
         if (operand.find('.') != std::string_view::npos) bDecimal_ = true;
         // A cell that is no number leaves the column's name, which is worth 0.
         if (core::isNumeric(operand))

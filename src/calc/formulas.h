@@ -46,7 +46,6 @@ private:
         std::string_view text;
         int subItem = 0; // of the column that it names; 0 for none
         bool isCurrency = false;
-        bool isIndex = false; // names the hidden column, whose cell is the sort key
     };
     struct Prepared {
         std::string_view name;

@@ -82,9 +82,8 @@ void formulateFrm::edit(std::string text) {
 
 void formulateFrm::backBtn_Click() {
     expTxt.clear();
-    if (expHistory_.size() < 2) return;
-    expTxt = expHistory_[expHistory_.size() - 2];
-    expHistory_.pop_back();
+    if (expHistory_.size() >= 2) expTxt = expHistory_[expHistory_.size() - 2];
+    if (!expHistory_.empty()) expHistory_.pop_back();
 }
 
 void formulateFrm::clearBtn_Click() {

@@ -43,6 +43,7 @@ public:
     std::vector<std::string> links;
     std::vector<platform::FileDialog> dialogs;
     int paints = 0;
+    std::function<void()> onPaint;
     std::map<std::string, std::string> settings;
     std::filesystem::path folder; // for the test's own files; removed at the end
     std::chrono::year_month_day day{std::chrono::year(2026) / 3 / 14};
@@ -66,7 +67,10 @@ public:
         if (onForm) onForm(name);
     }
     void setMousePointer(platform::MousePointer) override {}
-    void paintStatus() override { ++paints; }
+    void paintStatus() override {
+        ++paints;
+        if (onPaint) onPaint();
+    }
     void openLink(const std::string& target) override { links.push_back(target); }
     std::filesystem::path workFolder() override { return folder / "work"; }
     std::filesystem::path tempFolder() override { return folder / "work" / "Temp"; }
