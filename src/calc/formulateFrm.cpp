@@ -82,9 +82,9 @@ void formulateFrm::edit(std::string text) {
 
 void formulateFrm::backBtn_Click() {
     expTxt.clear();
-    if (expHistory_.size() < 2) return;
-    expTxt = expHistory_[expHistory_.size() - 2];
-    expHistory_.pop_back();
+    if (expHistory_.size() > 1) expTxt = expHistory_[expHistory_.size() - 2];
+    // The only entry goes too, so the next step back ends in the empty box again. It is wanted so.
+    if (!expHistory_.empty()) expHistory_.pop_back();
 }
 
 void formulateFrm::clearBtn_Click() {

@@ -1,6 +1,6 @@
 #include "gui/mainFrmView.h"
 
-#include "gui/disclaimFrmView.h"
+#include "gui/forms.h"
 #include "gui/icon.h"
 #include "gui/qtText.h"
 #include "shell/mainWindow.h"
@@ -61,7 +61,7 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
                           status_->repaint();
                       },
                       [this] { return app_.document.currentFile; }});
-    platform_.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
+    registerForms(platform_, app_, events_);
 }
 
 MainFrmView::~MainFrmView() {
