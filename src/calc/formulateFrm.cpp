@@ -82,7 +82,8 @@ void formulateFrm::edit(std::string text) {
 
 void formulateFrm::backBtn_Click() {
     expTxt.clear();
-    if (expHistory_.size() >= 2) expTxt = expHistory_[expHistory_.size() - 2];
+    if (expHistory_.size() > 1) expTxt = expHistory_[expHistory_.size() - 2];
+    // The only entry goes too, so the next step back ends in the empty box again. It is wanted so.
     if (!expHistory_.empty()) expHistory_.pop_back();
 }
 

@@ -1,9 +1,8 @@
 #include "gui/mainFrmView.h"
 
-#include "gui/disclaimFrmView.h"
+#include "gui/forms.h"
 #include "gui/icon.h"
 #include "gui/qtText.h"
-#include "gui/repeatFrmView.h"
 #include "shell/mainWindow.h"
 #include "storage/openFile.h"
 
@@ -63,9 +62,7 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
                           status_->repaint();
                       },
                       [this] { return app_.document.currentFile; }});
-    platform_.registerForm("repeatFrm",
-                           [this](QWidget* owner) { repeatFrmView(app_, events_, owner).exec(); });
-    platform_.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
+    registerForms(platform_, app_, events_);
 }
 
 MainFrmView::~MainFrmView() {

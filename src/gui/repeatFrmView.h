@@ -1,26 +1,26 @@
 #pragma once
 
-#include "gui/eventBoundary.h"
+#include "gui/formView.h"
 #include "invoice/repeatFrm.h"
 
-#include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 
 namespace gui {
 
-class repeatFrmView : public QDialog {
+// The Item Row Creation Tool.
+class repeatFrmView : public FormView {
     Q_OBJECT
 
 public:
     repeatFrmView(app::App& app, EventBoundary& events, QWidget* parent);
 
 private:
-    void refresh();
-    // Runs an event of the form and shows the form anew.
-    void run(const std::function<void()>& event);
+    void connectEvents(QPushButton& clear, QPushButton& ok, QPushButton& cancel);
+    void showMembers() override;
+    void closeForm() override { form_.CancelButton_Click(); }
+    bool isUnloaded() const override { return form_.unloaded; }
 
-    EventBoundary& events_;
     invoice::repeatFrm form_;
     QLineEdit* Text1_;
     QListWidget* List1_;

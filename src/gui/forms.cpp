@@ -1,0 +1,33 @@
+#include "gui/forms.h"
+
+#include "gui/TotalsFrmView.h"
+#include "gui/databaseTypeFrmView.h"
+#include "gui/designFrmView.h"
+#include "gui/disclaimFrmView.h"
+#include "gui/formulateFrmView.h"
+#include "gui/repeatFrmView.h"
+#include "gui/serialFrmView.h"
+
+namespace gui {
+
+namespace {
+
+// A form is made anew for each show. What its loading raises goes to the handler that asked for it.
+template <typename View>
+QtPlatform::FormFactory shown(app::App& app, EventBoundary& events) {
+    return [&app, &events](QWidget* owner) { View(app, events, owner).showModal(); };
+}
+
+} // namespace
+
+void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
+    platform.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
+    platform.registerForm("databaseTypeFrm", shown<databaseTypeFrmView>(app, events));
+    platform.registerForm("designFrm", shown<designFrmView>(app, events));
+    platform.registerForm("formulateFrm", shown<formulateFrmView>(app, events));
+    platform.registerForm("TotalsFrm", shown<TotalsFrmView>(app, events));
+    platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
+    platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
+}
+
+} // namespace gui

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "calc/formulateFrm.h"
+#include "gui/formView.h"
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QHash>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTreeWidget>
+
+namespace gui {
+
+// The Expression Editor.
+class formulateFrmView : public FormView {
+    Q_OBJECT
+
+public:
+    formulateFrmView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
+
+protected:
+    void showMembers() override;
+    void closeForm() override { form_.Form_QueryUnload(); }
+    bool isUnloaded() const override { return form_.unloaded; }
+    void activate() override { form_.Form_Activate(); }
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QGroupBox* makeColumns();
+    QGroupBox* makeDefinition();
+    QLayout* makeNumericColumns();
+    QLayout* makeExpression();
+    QGroupBox* makeKeypad();
+    QGroupBox* makeOperators();
+    QPushButton* makeKey(const QString& name, const QString& caption, const std::function<void()>& handler);
+    QPushButton* makeButton(const char* name, const QString& caption, void (calc::formulateFrm::*handler)());
+    void chooseField(const QListWidgetItem* item);
+    QAbstractButton* buttonFor(const QKeyEvent& event) const;
+
+    calc::formulateFrm form_;
+    QTreeWidget* colList_;
+    QListWidget* fieldList_;
+    QPlainTextEdit* expTxt_;
+    QPushButton* backBtn_ = nullptr;
+    QPushButton* addCalcBtn_ = nullptr;
+    QHash<QChar, QAbstractButton*> keys_; // the buttons that have a key of the keyboard
+    bool doubleClicked_ = false;          // the release of a double click chooses nothing more
+};
+
+} // namespace gui
