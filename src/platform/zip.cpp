@@ -3,6 +3,7 @@
 #include "core/runTimeError.h"
 #include "platform/archiveSource.h"
 #include "platform/atomicFile.h"
+#include "platform/deflatedSource.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -26,7 +27,8 @@ namespace {
 // processor's cache when its checksum is taken.
 constexpr std::size_t chunkBytes = 128 * 1024;
 // One below zlib's usual level: a third less time for files that are about one part in a hundred larger.
-constexpr unsigned compressionLevel = 5;
+constexpr int compressionLevel = 5;
+constexpr std::size_t smallestDeflated = 64 * 1024;
 constexpr std::size_t maxCommentBytes = 0xffff;
 
 [[noreturn]] void raiseZipError(zip_error_t& error, const std::string& detail) {
@@ -142,6 +144,38 @@ struct Zip::Archive {
     Archive(const Archive&) = delete;
     Archive& operator=(const Archive&) = delete;
 
+    // Whether the archive has that very entry already; a save of what has not changed then writes nothing.
+    [[nodiscard]] bool hasUnchanged(const std::string& name, std::string_view bytes,
+                                    std::string_view comment) const {
+        const zip_int64_t place = zip_name_locate(zip, name.c_str(), 0);
+        if (place < 0 || static_cast<zip_uint64_t>(place) >= originalCount) return false;
+        const auto index = static_cast<zip_uint64_t>(place);
+        zip_stat_t now;
+        zip_stat_t then;
+        zip_stat_init(&now);
+        zip_stat_init(&then);
+        // A replaced entry tells another size, or none.
+        if (zip_stat_index(zip, index, 0, &now) != 0 ||
+            zip_stat_index(zip, index, ZIP_FL_UNCHANGED, &then) != 0)
+            return false;
+        zip_uint32_t length = 0;
+        const char* told = zip_file_get_comment(zip, index, &length, ZIP_FL_ENC_RAW);
+        const std::string_view toldComment(told == nullptr ? "" : told, told == nullptr ? 0 : length);
+        if (now.size != bytes.size() || then.size != bytes.size() || toldComment != comment) return false;
+        return now.crc == then.crc && then.crc == checksum(bytes) && unpacked(index) == bytes;
+    }
+
+    [[nodiscard]] std::string unpacked(zip_uint64_t index) const {
+        zip_stat_t status;
+        zip_stat_init(&status);
+        zip_file_t* entry = zip_fopen_index(zip, index, 0);
+        if (entry == nullptr || zip_stat_index(zip, index, 0, &status) != 0) return {};
+        std::string bytes(status.size, '\0');
+        const zip_int64_t count = zip_fread(entry, bytes.data(), bytes.size());
+        zip_fclose(entry);
+        return count == static_cast<zip_int64_t>(bytes.size()) ? bytes : std::string();
+    }
+
     // Puts a source in as an entry. The source is libzip's from here on, also on failure.
     void put(const std::string& name, zip_source_t* bytes, std::string_view comment) {
         if (!bytes) raiseZipError(*zip_get_error(zip), name);
@@ -156,7 +190,8 @@ struct Zip::Archive {
         if (!isReplaced) living.push_back(index);
         changed = true;
         if ((!isReplaced && !setComment(index, comment)) ||
-            zip_set_file_compression(zip, index, methodFor(index), compressionLevel) != 0 ||
+            zip_set_file_compression(zip, index, methodFor(index),
+                                     static_cast<zip_uint32_t>(compressionLevel)) != 0 ||
             zip_file_set_external_attributes(zip, index, 0, ZIP_OPSYS_UNIX, 0100644U << 16U) != 0)
             failPut(name);
         // The old entry's additional fields (dates, mostly) would contradict the new one.
@@ -282,6 +317,12 @@ void Zip::AddFile(const fs::path& file, std::string_view comment) {
 void Zip::addBuffer(const std::string& name, std::string_view bytes, std::string_view comment) {
     Archive& target = open();
     if (!isSafeEntryName(name)) core::raise(core::errors::badFileName, name);
+    if (target.hasUnchanged(name, bytes, comment)) return;
+    // Larger than the counters of the packing take, or so small that packing needs no help.
+    if (bytes.size() >= smallestDeflated && bytes.size() <= maxFileBytes) {
+        target.put(name, makeDeflatedSource(target.zip, bytes, compressionLevel), comment);
+        return;
+    }
     void* copy = bytes.empty() ? nullptr : std::malloc(bytes.size()); // libzip frees it
     if (!copy && !bytes.empty()) throw std::bad_alloc();
     if (copy) std::memcpy(copy, bytes.data(), bytes.size());

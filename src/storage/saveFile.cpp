@@ -23,19 +23,10 @@ bool mayWriteTo(App& app, const std::string& target) {
     return !fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
 }
 
-void addData(App& app, platform::Zip& Zip, const std::string& bytes) {
-    if (app.platform.keepsDataFile()) {
-        Zip.SetBaseFolder(app.platform.workFolder());
-        Zip.AddFile(dataFile, dataComment);
-    } else {
-        Zip.addBuffer(dataFile, bytes, dataComment);
-    }
-}
-
 void pack(App& app, const std::string& archive, const std::string& bytes) {
     platform::Zip Zip;
     Zip.OpenArchive(archive);
-    addData(app, Zip, bytes);
+    Zip.addBuffer(dataFile, bytes, dataComment);
     Zip.CloseArchive();
 }
 
@@ -44,7 +35,7 @@ void pack(App& app, const std::string& archive, const std::string& bytes) {
 void packCopy(App& app, const std::string& target, const std::string& bytes) {
     platform::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
-    addData(app, Zip, bytes);
+    Zip.addBuffer(dataFile, bytes, dataComment);
     Zip.CloseArchiveAs(target);
     app.document.currentFile = target;
 }
@@ -55,7 +46,7 @@ void packClone(App& app, const std::string& bytes) {
     if (!target || !mayWriteTo(app, *target)) return;
     platform::Zip Zip;
     Zip.CreateArchive(*target, "");
-    addData(app, Zip, bytes);
+    Zip.addBuffer(dataFile, bytes, dataComment);
     Zip.CloseArchive();
 }
 
