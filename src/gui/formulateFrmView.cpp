@@ -10,7 +10,6 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <utility>
 
 namespace gui {
 
@@ -66,10 +65,8 @@ QLayout* formulateFrmView::makeNumericColumns() {
     useListLook(*fieldList_);
     for (const std::string& name : form_.fieldList) new QTreeWidgetItem(fieldList_, {toQt(name)});
     fieldList_->installEventFilter(this);
-    connect(fieldList_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-        if (!std::exchange(doubleClicked_, false)) chooseField(item);
-    });
-    connect(fieldList_, &QTreeWidget::itemDoubleClicked, this, [this] { doubleClicked_ = true; });
+    // A double click is one click here: a name right behind a name would be one unknown word.
+    connect(fieldList_, &QTreeWidget::itemClicked, this, &formulateFrmView::chooseField);
     auto* column = new QVBoxLayout;
     column->addWidget(caption);
     column->addWidget(fieldList_, 1);

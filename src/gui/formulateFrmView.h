@@ -44,7 +44,6 @@ private:
     QPushButton* backBtn_ = nullptr;
     QPushButton* addCalcBtn_ = nullptr;
     QHash<QChar, QAbstractButton*> keys_; // the buttons that have a key of the keyboard
-    bool doubleClicked_ = false;          // the release of a double click chooses nothing more
 };
 
 } // namespace gui
