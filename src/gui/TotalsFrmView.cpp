@@ -3,8 +3,6 @@
 #include "gui/listLook.h"
 #include "gui/qtText.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace gui {
@@ -27,16 +25,13 @@ TotalsFrmView::TotalsFrmView(app::App& app, EventBoundary& events, QWidget* pare
         });
     });
 
-    auto* buttons = new QDialogButtonBox;
-    auto* ok = named("OKButton", buttons->addButton(QDialogButtonBox::Ok));
-    auto* cancel = named("CancelButton", buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole));
+    auto* ok = makeButton("OKButton", tr("OK"), [this] { form_.OKButton_Click(); });
+    auto* cancel = makeButton("CancelButton", tr("Cancel"), [this] { form_.CancelButton_Click(); });
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, [this] { on([this] { form_.OKButton_Click(); }); });
-    connect(cancel, &QPushButton::clicked, this, [this] { on([this] { form_.CancelButton_Click(); }); });
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(LV_);
-    column->addWidget(buttons);
+    column->addLayout(makeBottomRow(ok, cancel));
     LV_->setCurrentItem(LV_->topLevelItem(0));
     resize(em() * 20, em() * 20);
 }

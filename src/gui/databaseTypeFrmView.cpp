@@ -1,8 +1,6 @@
 #include "gui/databaseTypeFrmView.h"
 
-#include <QDialogButtonBox>
 #include <QGroupBox>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace gui {
@@ -27,16 +25,13 @@ databaseTypeFrmView::databaseTypeFrmView(app::App& app, EventBoundary& events, Q
     connect(Option1_, &QRadioButton::clicked, this, [this] { choose(false); });
     connect(Option2_, &QRadioButton::clicked, this, [this] { choose(true); });
 
-    auto* buttons = new QDialogButtonBox;
-    auto* ok = named("OKButton", buttons->addButton(QDialogButtonBox::Ok));
-    auto* cancel = named("CancelButton", buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole));
+    auto* ok = makeButton("OKButton", tr("OK"), [this] { form_.OKButton_Click(); });
+    auto* cancel = makeButton("CancelButton", tr("Cancel"), [this] { form_.CancelButton_Click(); });
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, [this] { on([this] { form_.OKButton_Click(); }); });
-    connect(cancel, &QPushButton::clicked, this, [this] { on([this] { form_.CancelButton_Click(); }); });
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(frame, 1);
-    column->addWidget(buttons);
+    column->addLayout(makeBottomRow(ok, cancel));
     resize(em() * 32, sizeHint().height());
 }
 

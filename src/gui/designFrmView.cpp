@@ -6,7 +6,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace gui {
@@ -15,24 +14,13 @@ designFrmView::designFrmView(app::App& app, EventBoundary& events, QWidget* pare
     : FormView(events, "designFrm", tr("Database Properties"), parent), form_(app),
       fieldTxt_(named("fieldTxt", new QLineEdit)), List1_(named("List1", new QTreeWidget)) {
     auto* sides = new QHBoxLayout;
-    sides->setSpacing(em());
     sides->addLayout(makeLeftSide());
+    sides->addSpacing(em() / 2);
     sides->addLayout(makeRightSide(), 1);
-    auto* bottom = new QHBoxLayout;
-    bottom->addStretch();
-    bottom->addWidget(makeButton("doneBtn", tr("&Done"), {}, &calc::designFrm::doneBtn_Click));
     auto* column = new QVBoxLayout(this);
     column->addLayout(sides, 1);
-    column->addLayout(bottom);
+    column->addLayout(makeBottomRow(makeButton("doneBtn", tr("&Done"), [this] { form_.doneBtn_Click(); })));
     resize(em() * 46, em() * 25);
-}
-
-QPushButton* designFrmView::makeButton(const char* name, const QString& caption, const QString& tip,
-                                       Handler handler) {
-    auto* button = named(name, new QPushButton(caption));
-    button->setToolTip(tip);
-    connect(button, &QPushButton::clicked, this, [this, handler] { on([&] { (form_.*handler)(); }); });
-    return button;
 }
 
 QGroupBox* designFrmView::makeTypes() {
@@ -60,11 +48,12 @@ QLayout* designFrmView::makeLeftSide() {
         // After every change the caret stands at the end, wherever the change was. It is wanted so.
         fieldTxt_->end(false);
     });
-    auto* add = makeButton("addBtn", tr("&Add"), tr("Add column to list"), &calc::designFrm::addBtn_Click);
+    auto* add = makeButton("addBtn", tr("&Add"), [this] { form_.addBtn_Click(); });
+    add->setToolTip(tr("Add column to list"));
     add->setDefault(true); // Enter in the name box
-    auto* change = makeButton("changeBtn", tr("&Change Name"), {}, &calc::designFrm::changeBtn_Click);
-    auto* remove = makeButton("deleteBtn", tr("&Remove"), tr("Delete selected column from list"),
-                              &calc::designFrm::deleteBtn_Click);
+    auto* change = makeButton("changeBtn", tr("&Change Name"), [this] { form_.changeBtn_Click(); });
+    auto* remove = makeButton("deleteBtn", tr("&Remove"), [this] { form_.deleteBtn_Click(); });
+    remove->setToolTip(tr("Delete selected column from list"));
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : {add, change, remove}) buttons->addWidget(button);
     auto* explanation =
@@ -79,7 +68,7 @@ QLayout* designFrmView::makeLeftSide() {
     column->addLayout(buttons);
     column->addSpacing(em() / 2);
     column->addWidget(explanation);
-    column->addStretch();
+    column->addStretch(1);
     return column;
 }
 
@@ -90,9 +79,9 @@ QLayout* designFrmView::makeRightSide() {
     useListLook(*List1_);
     QHeaderView* header = List1_->header();
     header->setStretchLastSection(false);
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(0, QHeaderView::Stretch);
-    List1_->setMinimumWidth(em() * 22);
+    for (const int section : {1, 2, 3}) header->resizeSection(section, em() * 6);
+    List1_->setMinimumWidth(em() * 26);
     List1_->installEventFilter(this);
     connect(List1_, &QTreeWidget::itemSelectionChanged, this, [this] {
         const QList<QTreeWidgetItem*> chosen = List1_->selectedItems();

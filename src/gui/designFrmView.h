@@ -26,9 +26,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    using Handler = void (calc::designFrm::*)();
-
-    QPushButton* makeButton(const char* name, const QString& caption, const QString& tip, Handler handler);
     QGroupBox* makeTypes();
     QLayout* makeLeftSide();
     QLayout* makeRightSide();

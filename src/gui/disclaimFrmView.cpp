@@ -36,6 +36,7 @@ disclaimFrmView::disclaimFrmView(QWidget* parent) : QDialog(parent) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
     QPushButton* close = buttons->button(QDialogButtonBox::Ok);
     close->setObjectName(QStringLiteral("Command1"));
+    close->setIcon({});
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);

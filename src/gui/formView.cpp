@@ -1,5 +1,7 @@
 #include "gui/formView.h"
 
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QScopedValueRollback>
 
 namespace gui {
@@ -30,6 +32,22 @@ void FormView::on(const std::function<void()>& handler) {
         refresh();
     });
     if (isUnloaded()) done(Accepted);
+}
+
+QPushButton* FormView::makeButton(const char* name, const QString& caption,
+                                  const std::function<void()>& handler) {
+    auto* button = named(name, new QPushButton(caption));
+    connect(button, &QPushButton::clicked, this, [this, handler] { on(handler); });
+    return button;
+}
+
+QLayout* FormView::makeBottomRow(QPushButton* okay, QPushButton* cancel) {
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(okay, QDialogButtonBox::AcceptRole);
+    if (cancel != nullptr) buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+    auto* row = new QHBoxLayout;
+    row->addWidget(buttons);
+    return row;
 }
 
 void FormView::reject() {

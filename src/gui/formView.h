@@ -3,6 +3,7 @@
 #include "gui/eventBoundary.h"
 
 #include <QDialog>
+#include <QPushButton>
 
 #include <functional>
 
@@ -32,6 +33,11 @@ protected:
     virtual void showMembers() = 0;
     virtual void closeForm() = 0; // the handler of closing
     virtual bool isUnloaded() const = 0;
+
+    // A push button under its control's name that calls a handler of the form.
+    QPushButton* makeButton(const char* name, const QString& caption, const std::function<void()>& handler);
+    // Buttons in a row at the lower right of the form, in the order of the desktop.
+    QLayout* makeBottomRow(QPushButton* okay, QPushButton* cancel = nullptr);
 
     // Ahead of the form's first appearance; a form that has nothing to show may unload itself.
     virtual void activate() {}

@@ -3,37 +3,27 @@
 #include "gui/listLook.h"
 #include "gui/qtText.h"
 
+#include <QFontDatabase>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include <array>
-#include <utility>
 
 namespace gui {
 
 formulateFrmView::formulateFrmView(app::App& app, EventBoundary& events, QWidget* parent)
     : FormView(events, "formulateFrm", tr("Expression Editor"), parent), form_(app),
-      colList_(named("colList", new QTreeWidget)), fieldList_(named("fieldList", new QListWidget)),
+      colList_(named("colList", new QTreeWidget)), fieldList_(named("fieldList", new QTreeWidget)),
       expTxt_(named("expTxt", new QPlainTextEdit)) {
-    auto* bottom = new QHBoxLayout;
-    bottom->addStretch();
     auto* column = new QVBoxLayout(this);
     column->addWidget(makeColumns(), 1);
     column->addWidget(makeDefinition(), 2);
-    bottom->addWidget(makeButton("donebtn", tr("&Done"), &calc::formulateFrm::donebtn_Click));
-    column->addLayout(bottom);
+    column->addLayout(makeBottomRow(makeButton("donebtn", tr("&Done"), [this] { form_.donebtn_Click(); })));
     addCalcBtn_->setDefault(true);
     colList_->setFocus();
-    resize(em() * 40, em() * 38);
-}
-
-QPushButton* formulateFrmView::makeButton(const char* name, const QString& caption,
-                                          void (calc::formulateFrm::*handler)()) {
-    auto* button = named(name, new QPushButton(caption));
-    connect(button, &QPushButton::clicked, this, [this, handler] { on([&] { (form_.*handler)(); }); });
-    return button;
+    resize(em() * 42, em() * 36);
 }
 
 QGroupBox* formulateFrmView::makeColumns() {
@@ -58,13 +48,10 @@ QGroupBox* formulateFrmView::makeColumns() {
 
 QGroupBox* formulateFrmView::makeDefinition() {
     auto* frame = named("Frame1", new QGroupBox(tr(" Define Expression ")));
-    auto* keys = new QVBoxLayout;
-    keys->addWidget(makeKeypad());
-    keys->addWidget(makeOperators());
-    keys->addStretch();
     auto* upper = new QHBoxLayout;
     upper->addLayout(makeNumericColumns(), 1);
-    upper->addLayout(keys);
+    upper->addWidget(makeKeypad());
+    upper->addWidget(makeOperators());
     auto* column = new QVBoxLayout(frame);
     column->addLayout(upper, 1);
     column->addLayout(makeExpression());
@@ -74,13 +61,12 @@ QGroupBox* formulateFrmView::makeDefinition() {
 QLayout* formulateFrmView::makeNumericColumns() {
     auto* caption = new QLabel(tr("Numeric Columns:"));
     caption->setBuddy(fieldList_);
-    for (const std::string& name : form_.fieldList) fieldList_->addItem(toQt(name));
-    fieldList_->setUniformItemSizes(true);
+    fieldList_->setHeaderHidden(true);
+    useListLook(*fieldList_);
+    for (const std::string& name : form_.fieldList) new QTreeWidgetItem(fieldList_, {toQt(name)});
     fieldList_->installEventFilter(this);
-    connect(fieldList_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
-        if (!std::exchange(doubleClicked_, false)) chooseField(item);
-    });
-    connect(fieldList_, &QListWidget::itemDoubleClicked, this, [this] { doubleClicked_ = true; });
+    // A double click is one click here: a name right behind a name would be one unknown word.
+    connect(fieldList_, &QTreeWidget::itemClicked, this, &formulateFrmView::chooseField);
     auto* column = new QVBoxLayout;
     column->addWidget(caption);
     column->addWidget(fieldList_, 1);
@@ -92,7 +78,7 @@ QPushButton* formulateFrmView::makeKey(const QString& name, const QString& capti
     auto* key = new QPushButton(caption);
     key->setObjectName(name);
     key->setAutoDefault(false);
-    key->setMinimumSize(em() * 5 / 2, em() * 2);
+    key->setFixedSize(em() * 3, em() * 5 / 2);
     connect(key, &QPushButton::clicked, this, [this, handler] { on(handler); });
     return key;
 }
@@ -102,6 +88,7 @@ QGroupBox* formulateFrmView::makeKeypad() {
     auto* grid = new QGridLayout(frame);
     // In the rows of a keyboard's own keypad.
     constexpr std::array<std::array<int, 3>, 4> rows = {{{7, 8, 9}, {4, 5, 6}, {1, 2, 3}, {0, 10, -1}}};
+    grid->setRowStretch(static_cast<int>(rows.size()), 1);
     for (std::size_t row = 0; row < rows.size(); ++row)
         for (std::size_t place = 0; place < rows[row].size(); ++place) {
             const int index = rows[row][place];
@@ -128,6 +115,7 @@ QGroupBox* formulateFrmView::makeOperators() {
                                                     {"Right", ")", ')'}}};
     auto* frame = new QGroupBox(tr(" Operators "));
     auto* grid = new QGridLayout(frame);
+    grid->setRowStretch(static_cast<int>(operators.size() / 2), 1);
     for (std::size_t i = 0; i < operators.size(); ++i) {
         const Operator& made = operators[i];
         QPushButton* key = makeKey(QStringLiteral("operatorBtn%1").arg(i), QLatin1String(made.caption),
@@ -142,16 +130,19 @@ QLayout* formulateFrmView::makeExpression() {
     auto* caption = new QLabel(tr("Expression for selected column:"));
     caption->setBuddy(expTxt_);
     QFont font = expTxt_->font();
-    font.setFamilies({QStringLiteral("Comic Sans MS"), font.family()});
+    // Where it is not installed, the system's choice in its place may be a script that nobody can read.
+    if (const QString hand = QStringLiteral("Comic Sans MS"); QFontDatabase::hasFamily(hand))
+        font.setFamily(hand);
+    font.setPointSizeF(font.pointSizeF() * 1.2);
     expTxt_->setFont(font);
     expTxt_->setReadOnly(true);
     expTxt_->setTabChangesFocus(true);
-    expTxt_->setFixedHeight(QFontMetrics(font).lineSpacing() * 3 + em());
-    backBtn_ = makeButton("backBtn", tr("&Back"), &calc::formulateFrm::backBtn_Click);
-    addCalcBtn_ = makeButton("addCalcBtn", tr("&Apply"), &calc::formulateFrm::addCalcBtn_Click);
+    expTxt_->setFixedHeight(QFontMetrics(font).lineSpacing() * 2 + em());
+    backBtn_ = makeButton("backBtn", tr("&Back"), [this] { form_.backBtn_Click(); });
+    addCalcBtn_ = makeButton("addCalcBtn", tr("&Apply"), [this] { form_.addCalcBtn_Click(); });
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(backBtn_);
-    buttons->addWidget(makeButton("clearBtn", tr("&Clear"), &calc::formulateFrm::clearBtn_Click));
+    buttons->addWidget(makeButton("clearBtn", tr("&Clear"), [this] { form_.clearBtn_Click(); }));
     buttons->addStretch();
     buttons->addWidget(addCalcBtn_);
     auto* column = new QVBoxLayout;
@@ -161,8 +152,9 @@ QLayout* formulateFrmView::makeExpression() {
     return column;
 }
 
-void formulateFrmView::chooseField(const QListWidgetItem* item) {
-    if (item != nullptr) on([&] { form_.fieldList_Click(static_cast<std::size_t>(fieldList_->row(item))); });
+void formulateFrmView::chooseField(QTreeWidgetItem* item) {
+    if (item == nullptr) return;
+    on([&] { form_.fieldList_Click(static_cast<std::size_t>(fieldList_->indexOfTopLevelItem(item))); });
 }
 
 QAbstractButton* formulateFrmView::buttonFor(const QKeyEvent& event) const {

@@ -6,9 +6,7 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QHash>
-#include <QListWidget>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTreeWidget>
 
 namespace gui {
@@ -36,18 +34,16 @@ private:
     QGroupBox* makeKeypad();
     QGroupBox* makeOperators();
     QPushButton* makeKey(const QString& name, const QString& caption, const std::function<void()>& handler);
-    QPushButton* makeButton(const char* name, const QString& caption, void (calc::formulateFrm::*handler)());
-    void chooseField(const QListWidgetItem* item);
+    void chooseField(QTreeWidgetItem* item);
     QAbstractButton* buttonFor(const QKeyEvent& event) const;
 
     calc::formulateFrm form_;
     QTreeWidget* colList_;
-    QListWidget* fieldList_;
+    QTreeWidget* fieldList_;
     QPlainTextEdit* expTxt_;
     QPushButton* backBtn_ = nullptr;
     QPushButton* addCalcBtn_ = nullptr;
     QHash<QChar, QAbstractButton*> keys_; // the buttons that have a key of the keyboard
-    bool doubleClicked_ = false;          // the release of a double click chooses nothing more
 };
 
 } // namespace gui

@@ -1,7 +1,8 @@
 #include "gui/listLook.h"
 
+#include "gui/programStyle.h"
+
 #include <QHeaderView>
-#include <QProxyStyle>
 #include <QStyledItemDelegate>
 
 namespace gui {
@@ -18,10 +19,10 @@ public:
 
 // Room at the sides of a cell, so that a number at the right edge of its column does not touch the text
 // of the next one.
-class CellStyle final : public QProxyStyle {
+class CellStyle final : public ProgramStyle {
 public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        const int plain = QProxyStyle::pixelMetric(metric, option, widget);
+        const int plain = ProgramStyle::pixelMetric(metric, option, widget);
         return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? plain + cellMargin : plain;
     }
 

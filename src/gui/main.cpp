@@ -3,6 +3,7 @@
 #include "gui/mainFrmView.h"
 #include "gui/palette.h"
 #include "gui/picture.h"
+#include "gui/programStyle.h"
 #include "gui/qtText.h"
 #include "shell/mainWindow.h"
 
@@ -52,6 +53,7 @@ int main(int argc, char* argv[]) {
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROWICK_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("ferrowick"));
     QApplication::setWindowIcon(gui::programIcon());
+    QApplication::setStyle(new gui::ProgramStyle);
     if (line.dark) gui::useDarkColours();
     return picture ? gui::drawPicture(line) : showWindow(line);
 }

@@ -2,6 +2,7 @@
 
 #include "gui/qtText.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 
 namespace gui {
@@ -37,6 +38,8 @@ MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon 
     setText(toQt(text));
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setStandardButtons(buttons == platform::Buttons::YesNo ? Yes | No : Ok);
+    // The pictures that a theme puts on them are of another family than the icons of the program.
+    for (QAbstractButton* button : QMessageBox::buttons()) button->setIcon({});
 }
 
 platform::Answer MessageBox::ask() {

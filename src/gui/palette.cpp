@@ -1,5 +1,7 @@
 #include "gui/palette.h"
 
+#include "gui/programStyle.h"
+
 #include <QApplication>
 
 namespace gui {
@@ -9,7 +11,7 @@ bool isDark(const QPalette& palette) {
 }
 
 void useDarkColours() {
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new ProgramStyle(QStringLiteral("Fusion")));
     const QColor window(0x2b, 0x2c, 0x2f);
     const QColor text(0xe8, 0xea, 0xed);
     const QColor grey(0x80, 0x86, 0x8b);

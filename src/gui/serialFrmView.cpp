@@ -3,9 +3,7 @@
 #include "gui/listLook.h"
 #include "gui/qtText.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace gui {
@@ -26,10 +24,9 @@ serialFrmView::serialFrmView(app::App& app, EventBoundary& events, QWidget* pare
     connect(Text1_, &QLineEdit::textEdited, this,
             [this](const QString& text) { on([&] { form_.Text1 = fromQt(text); }); });
 
-    auto* set = named("setBtn", new QPushButton(tr("&Set")));
+    auto* set = makeButton("setBtn", tr("&Set"), [this] { form_.setBtn_Click(); });
     // Enter behind a value sets it: as the other two buttons do nothing but close, it would be lost.
     set->setDefault(true);
-    connect(set, &QPushButton::clicked, this, [this] { on([this] { form_.setBtn_Click(); }); });
     auto* value = new QHBoxLayout;
     value->addWidget(valueCaption);
     value->addWidget(Text1_, 1);
@@ -39,8 +36,12 @@ serialFrmView::serialFrmView(app::App& app, EventBoundary& events, QWidget* pare
     column->addWidget(caption);
     column->addWidget(List1_, 1);
     column->addLayout(value);
+    column->addSpacing(em() / 2);
     column->addWidget(explanation);
-    column->addLayout(makeButtons());
+    column->addSpacing(em() / 2);
+    column->addLayout(
+        makeBottomRow(makeButton("OKButton", tr("OK"), [this] { form_.OKButton_Click(); }),
+                      makeButton("CancelButton", tr("&Cancel"), [this] { form_.CancelButton_Click(); })));
     resize(em() * 27, em() * 22);
 }
 
@@ -56,17 +57,6 @@ void serialFrmView::makeList() {
     };
     connect(List1_, &QTreeWidget::itemSelectionChanged, this, choose);
     connect(List1_, &QTreeWidget::itemClicked, this, choose);
-}
-
-QLayout* serialFrmView::makeButtons() {
-    auto* buttons = new QDialogButtonBox;
-    auto* ok = named("OKButton", buttons->addButton(QDialogButtonBox::Ok));
-    auto* cancel = named("CancelButton", buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole));
-    connect(ok, &QPushButton::clicked, this, [this] { on([this] { form_.OKButton_Click(); }); });
-    connect(cancel, &QPushButton::clicked, this, [this] { on([this] { form_.CancelButton_Click(); }); });
-    auto* row = new QHBoxLayout;
-    row->addWidget(buttons);
-    return row;
 }
 
 void serialFrmView::showMembers() {

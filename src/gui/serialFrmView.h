@@ -22,7 +22,6 @@ protected:
 
 private:
     void makeList();
-    QLayout* makeButtons();
 
     calc::serialFrm form_;
     QTreeWidget* List1_;

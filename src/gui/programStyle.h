@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace gui {
+
+// The desktop's style. Fusion draws the edges of its boxes darker than the window, so that in a dark
+// palette an empty check box cannot be seen; there they are drawn anew in a lighter colour.
+class ProgramStyle : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    using QProxyStyle::QProxyStyle;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+};
+
+} // namespace gui
