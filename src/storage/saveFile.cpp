@@ -23,7 +23,7 @@ bool mayWriteTo(App& app, const std::string& target) {
     return !fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
 }
 
-void pack(App& app, const std::string& archive, const std::string& bytes) {
+void pack(const std::string& archive, const std::string& bytes) {
     platform::Zip Zip;
     Zip.OpenArchive(archive);
     Zip.addBuffer(dataFile, bytes, dataComment);
@@ -76,7 +76,7 @@ void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool
     if (saveAsTarget)
         packCopy(app, *saveAsTarget, bytes);
     else
-        pack(app, app.document.currentFile, bytes);
+        pack(app.document.currentFile, bytes);
     app::showCaption(app);
     app::showFileSize(app);
 }
