@@ -47,7 +47,7 @@ protected:
     }
 };
 
-TEST_F(NewDatabaseTest, isDefinedAtOnceAndOpensAfterItsFirstSave) {
+TEST_F(NewDatabaseTest, isClearedDefinedAndSetUp) {
     for (const bool style : {false, true}) {
         invoice = style;
         program.openCopyOf(style ? "books.fwk" : "invoices.fwk");
@@ -99,8 +99,19 @@ TEST_F(NewDatabaseTest, isDefinedAtOnceAndOpensAfterItsFirstSave) {
         EXPECT_FALSE(document.bModified);
         EXPECT_TRUE(mainFrm.control("Save").Enabled);
         EXPECT_EQ(document.LV3.count(), style ? 0 : 1) << "the sums of the numeric columns";
+    }
+}
 
-        program.open(target); // never saved, so there is nothing in it
+TEST_F(NewDatabaseTest, opensAfterItsFirstSaveAndNotBefore) {
+    onDesign = [&] {
+        document.LV.columns.add("Name", "Name").setTypeFromFile("3");
+        document.LV.columns.add("Qty", "Qty").setTypeFromFile("4");
+    };
+    for (const bool style : {false, true}) {
+        invoice = style;
+        const std::string target = program.path(style ? "invoice.fwk" : "standard.fwk");
+        make(target);
+        program.open(target); // there is nothing in it
         EXPECT_EQ(document.currentFile, "");
         platform.answers = {Answer::Yes};
         make(target);
@@ -221,7 +232,7 @@ TEST_F(NewDatabaseTest, aFailureIsSilentAndNeverLeadsASaveIntoTheOldFile) {
         EXPECT_EQ(mainFrm.Caption, "Ferrowick - " + target);
         EXPECT_FALSE(designWasShown());
         storage::SaveFile(app, false, false);
-        EXPECT_EQ(platform.messages.back().icon, Icon::Exclamation);
+        EXPECT_TRUE(platform.lastMessage().starts_with("There was an error writing to the file."));
         EXPECT_EQ(Program::dataFileOf(file), before);
     }
     EXPECT_GT(Program::dataFileOf(readOnly).size(), 1000U);

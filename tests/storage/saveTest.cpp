@@ -1,6 +1,4 @@
 #include "databases.h"
-#include "platform/workFolder.h"
-#include "raised.h"
 #include "storage/saveFile.h"
 
 #include <gtest/gtest.h>
@@ -74,6 +72,16 @@ protected:
     void clone(const std::string& target) {
         platform.files = {target};
         storage::SaveFile(app, false, true);
+    }
+    // A limit on the size of files stands for a full disk.
+    template <typename Action>
+    static void withLimit(std::size_t bytes, Action&& action) {
+        struct rlimit whole {};
+        ::getrlimit(RLIMIT_FSIZE, &whole);
+        const struct rlimit narrow { bytes, whole.rlim_max };
+        ::setrlimit(RLIMIT_FSIZE, &narrow);
+        action();
+        ::setrlimit(RLIMIT_FSIZE, &whole);
     }
     void expectFailure(const std::string& text, const std::string& what) {
         ASSERT_FALSE(platform.messages.empty()) << what;
@@ -324,7 +332,19 @@ TEST_F(SaveTest, saveAsOverAFileThatCannotBeReplacedKeepsIt) {
     fs::permissions(target, fs::perms(0644));
 }
 
-// A limit on the size of files stands for a full disk. The first limits already stop the text in the
+// The signal that comes with the limit ends a program that does not ignore it. Here the work file is
+// the first file that is written at all: this database has no clip art.
+TEST_F(SaveTest, aFullDiskIsToldWhenTheWorkFileIsTheFirstToMeetIt) {
+    const std::string file = program.copyOf("invoices.fwk");
+    const std::string before = bytesOf(file);
+    app.document.LV.columns.add("Name", "Name");
+    app.document.currentFile = file;
+    withLimit(10, [&] { save(); });
+    expectFailure(failed, "full disk");
+    EXPECT_EQ(bytesOf(file), before);
+}
+
+// The first limits already stop the text in the
 // work folder, the last one lets it pass and stops the archive.
 TEST_F(SaveTest, aFullDiskLeavesTheArchive) {
     const std::string file = openBooks(), target = program.path("copy.fwk");
@@ -332,15 +352,12 @@ TEST_F(SaveTest, aFullDiskLeavesTheArchive) {
     const std::size_t files = filesInFolder();
     const std::size_t text = Program::dataFileOf(file).size();
     ASSERT_GT(before.size(), text + 1000) << "or the limits below are none";
-    struct rlimit whole {};
-    ::getrlimit(RLIMIT_FSIZE, &whole);
     for (const std::size_t bytes : {std::size_t{0}, text / 2, text + 500}) {
         app::setDocumentModified(app, true);
-        const struct rlimit narrow { bytes, whole.rlim_max };
-        ::setrlimit(RLIMIT_FSIZE, &narrow);
-        save();
-        saveAs(target);
-        ::setrlimit(RLIMIT_FSIZE, &whole);
+        withLimit(bytes, [&] {
+            save();
+            saveAs(target);
+        });
         EXPECT_EQ(platform.messages.size(), 2U) << bytes;
         expectFailure(failed, std::to_string(bytes));
         EXPECT_EQ(bytesOf(file), before) << bytes;
@@ -365,44 +382,6 @@ TEST_F(SaveTest, textThatNeedsMoreThanTheCodePageComesBack) {
     document.LV.at(1).cells[1] = "The Odyssey";
     save();
     EXPECT_EQ(Program::dataFileOf(file), before);
-}
-
-// A machine with the work folder of a real program.
-class RunningPlatform : public ScriptedPlatform {
-public:
-    explicit RunningPlatform(const fs::path& base) : work_(base) {}
-    fs::path workFolder() override { return work_.path(); }
-    fs::path tempFolder() override { return work_.temp(); }
-    void clearWorkFiles() override {
-        work_.clearTemp();
-        work_.removeDataFile();
-    }
-
-private:
-    platform::WorkFolder work_;
-};
-
-TEST_F(SaveTest, twoProgramsAtOnceDoNotTouchEachOthersWorkFiles) {
-    const fs::path base = platform.folder / "base";
-    RunningPlatform machines[] = {RunningPlatform(base), RunningPlatform(base)};
-    app::App first{machines[0]}, second{machines[1]};
-    const auto open = [](app::App& opening, const std::string& file) {
-        opening.document.currentFile = file;
-        storage::OpenFile(opening, true);
-    };
-    open(first, program.copyOf("books.fwk"));
-    const fs::path logo = machines[0].tempFolder() / "logo.gif";
-    ASSERT_TRUE(fs::exists(logo));
-    open(second, program.copyOf("invoices.fwk"));
-    EXPECT_NE(machines[0].workFolder(), machines[1].workFolder());
-    EXPECT_TRUE(fs::exists(logo)) << "the second open has cleared its own folder";
-    storage::SaveFile(second, false, false);
-    storage::SaveFile(first, false, false);
-    for (app::App* saved : {&first, &second})
-        EXPECT_EQ(bytesOf(saved->platform.workFolder() / "data.dat"),
-                  Program::dataFileOf(saved->document.currentFile));
-    EXPECT_NE(Program::dataFileOf(first.document.currentFile),
-              Program::dataFileOf(second.document.currentFile));
 }
 
 } // namespace
