@@ -1,8 +1,8 @@
 #include "storage/recovery.h"
 
+#include "core/runTimeError.h"
 #include "platform/zip.h"
 #include "storage/dataWriter.h"
-#include "storage/workFiles.h"
 
 #include <filesystem>
 
@@ -14,6 +14,15 @@ std::filesystem::path freePath(const std::filesystem::path& folder, const std::s
     for (int number = 1;; ++number) {
         std::filesystem::path path = folder / (stem + " (recovered " + std::to_string(number) + ").fwk");
         if (!std::filesystem::exists(path)) return path;
+    }
+}
+
+// The archive with the images, or a new one when it has gone or is damaged: the records matter more.
+void openImages(platform::Zip& Zip, const std::string& archive, const std::string& target) {
+    try {
+        Zip.OpenArchive(archive);
+    } catch (const core::RunTimeError&) {
+        Zip.CreateArchive(target, "");
     }
 }
 
@@ -29,10 +38,7 @@ std::optional<std::string> keepRecoveryCopy(app::App& app) noexcept {
         const std::string target = freePath(folder, stem.empty() ? "Untitled" : stem).string();
         const std::string bytes = encodeDataFile(writeDataFile(app.document, false));
         platform::Zip Zip;
-        if (fileExists(currentFile))
-            Zip.OpenArchive(currentFile);
-        else
-            Zip.CreateArchive(target, "");
+        openImages(Zip, currentFile, target);
         Zip.addBuffer("data.dat", bytes, "Main Data File");
         Zip.CloseArchiveAs(target);
         return target;
