@@ -22,7 +22,7 @@ public:
     Progress(App& app, int count) : app_(app), count_(count) {}
 
     void show(int index) {
-        const int percent = static_cast<int>(core::roundHalfEven(static_cast<double>(index) / count_ * 100));
+        const int percent = static_cast<int>(core::roundHalfEven(100.0 * index / count_));
         if (percent == shown_) return;
         shown_ = percent;
         app_.mainFrm.panels[app::calculationPanel] =
