@@ -1,6 +1,7 @@
 #include "gui/mainFrmView.h"
 
 #include "gui/disclaimFrmView.h"
+#include "gui/entryFrmView.h"
 #include "gui/icon.h"
 #include "gui/qtText.h"
 #include "shell/mainWindow.h"
@@ -62,6 +63,8 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
                       },
                       [this] { return app_.document.currentFile; }});
     platform_.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
+    platform_.registerForm("entryFrm",
+                           [this](QWidget* owner) { entryFrmView(app_, events_, owner).showModal(); });
 }
 
 MainFrmView::~MainFrmView() {
