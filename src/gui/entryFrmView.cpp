@@ -26,7 +26,7 @@ namespace {
 using entry::entryFrm;
 
 constexpr float twipsPerInch = 1440;
-constexpr float boxHeight = 285;                          // of the form's boxes, in twips
+constexpr auto checkCaption = QT_TR_NOOP("Check Previous Entries");
 constexpr float leastWidth = 5000, leastHeight = 3 * 615; // of the viewport
 constexpr int toolbarIconSize = 24;
 constexpr int findBoxCharacters = 24;
@@ -99,8 +99,10 @@ entryFrmView::entryFrmView(app::App& app, EventBoundary& events, QWidget* parent
     setObjectName(QStringLiteral("entryFrm"));
     setWindowTitle(tr("Entry Form"));
     if (isDark(palette())) setPalette(raisedBoxes(palette()));
-    pixelsPerTwip_ = std::max(static_cast<float>(logicalDpiY()) / twipsPerInch,
-                              static_cast<float>(srchTxt_->sizeHint().height()) / boxHeight);
+    const QCheckBox check(tr(checkCaption));
+    pixelsPerTwip_ = std::max({static_cast<float>(logicalDpiY()) / twipsPerInch,
+                               static_cast<float>(srchTxt_->sizeHint().height()) / form_.FieldBox[0].Height,
+                               static_cast<float>(check.sizeHint().width()) / form_.prevChk[0].Width});
     auto* top = new QHBoxLayout;
     top->addWidget(makeToolbar());
     top->addSpacing(fontMetrics().height() / 2);
@@ -211,7 +213,7 @@ void entryFrmView::makeRow(int index) {
     label->setToolTip(caption);
     editlbl_.push_back(label);
 
-    auto* check = indexed("prevChk", index, new QCheckBox(tr("Check Previous Entries"), Picture2_));
+    auto* check = indexed("prevChk", index, new QCheckBox(tr(checkCaption), Picture2_));
     check->setAccessibleName(QStringLiteral("%1: %2").arg(caption, check->text()));
     connect(check, &QCheckBox::toggled, this,
             [this, index](bool value) { on([&] { form_.prevChk_Click(index, value); }); });

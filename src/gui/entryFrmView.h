@@ -16,8 +16,8 @@
 
 namespace gui {
 
-// The Entry Form. The pane's controls stand where the form's logic places them; twips become pixels in
-// such a way that a box of the form is as high as a text box of the desktop.
+// The Entry Form. The pane's controls stand where the form's logic places them; a twip is as large as
+// it takes for the desktop's text boxes and check boxes to fit into the places that they have.
 class entryFrmView : public QDialog {
     Q_OBJECT
 
