@@ -40,13 +40,18 @@ Item* recordToUpdate(App& app) {
     return result == nullptr ? nullptr : records.find(result->Key);
 }
 
+// A name that is no column is found out before anything is written, so that the document stays whole.
+void checkColumns(const RecordsList& records, const std::vector<BoxText>& boxes) {
+    for (const BoxText& box : boxes) static_cast<void>(records.columns[box.Tag]);
+}
+
 Item& addRecord(App& app) {
     Document& document = app.document;
-    const std::string key = document.nextKey();
-    document.LV.add(key);
+    Item& record = document.LV.add(document.nextKey());
     showCount(app);
     core::moveTotals(document.LV);
-    return document.LV.byKey(key);
+    document.LV.MultiSelect = false; // moveTotals has switched it on
+    return record;
 }
 
 void writeCells(App& app, Item& record, const std::vector<BoxText>& boxes, bool bUpdate) {
@@ -76,19 +81,18 @@ Item* EditRecord(App& app, bool bUpdate, const std::vector<BoxText>& theFields,
                  const std::vector<BoxText>& pictures) {
     Document& document = app.document;
     RecordsList& records = document.LV;
-    // Looked up before anything is written, so that a name that is no column leaves the record whole.
-    for (const std::vector<BoxText>* boxes : {&theFields, &pictures})
-        for (const BoxText& box : *boxes) static_cast<void>(records.columns[box.Tag]);
-    records.MultiSelect = false;
     Item* record = nullptr;
     if (bUpdate) {
+        records.MultiSelect = false; // and so it stays when there is nothing to write to
         record = recordToUpdate(app);
         if (record == nullptr || record->isTotals()) return nullptr;
-        core::UpdateTotalsRow(document, core::TotalsMode::Subtract, records, records.indexOf(*record));
-    } else {
-        record = &addRecord(app);
     }
-    records.MultiSelect = false; // moveTotals has switched it on
+    checkColumns(records, theFields);
+    checkColumns(records, pictures);
+    if (bUpdate)
+        core::UpdateTotalsRow(document, core::TotalsMode::Subtract, records, records.indexOf(*record));
+    else
+        record = &addRecord(app);
     writeCells(app, *record, theFields, bUpdate);
     for (const BoxText& picture : pictures)
         RecordsList::cell(*record, records.columns[picture.Tag]) = picture.Text;

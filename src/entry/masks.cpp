@@ -35,10 +35,12 @@ void insertDateSlashes(EntryBox& box) {
 core::Item* findItemContaining(app::App& app, std::string_view text, int startRow) {
     core::RecordsList& list = *app.mainFrm.theListView;
     const std::string wanted = core::upper(core::trim(text));
+    std::string upperCell; // one for all cells: a list has hundreds of thousands
     for (int row = std::max(startRow, 1); row <= list.count(); ++row) {
         core::Item& item = list.at(row);
         const bool found = std::ranges::any_of(item.cells, [&](const core::CellText& cell) {
-            return core::upper(core::trim(cell)).find(wanted) != std::string::npos;
+            core::upperInto(upperCell, core::trim(cell));
+            return upperCell.find(wanted) != std::string::npos;
         });
         if (found) return &item;
     }

@@ -11,20 +11,15 @@
 
 namespace entry {
 
-namespace {
-
 using app::App;
 using core::Column;
 using core::Item;
 using core::RecordsList;
 
-// The record on view, or nothing in a list of the Totals row alone.
 const Item* currentRecord(const App& app) {
     const RecordsList& list = *app.mainFrm.theListView;
     return list.count() < 2 ? nullptr : list.selectedItem();
 }
-
-} // namespace
 
 std::string shownText(const Column& column, std::string_view cell) {
     return std::string(column.isType(core::ColumnType::Text) ? cell : core::trim(cell));

@@ -9,6 +9,9 @@ namespace entry {
 void retrieveFields(app::App& app);
 void retrievePictures(app::App& app);
 
+// The record on view, or nothing in a list of the Totals row alone.
+const core::Item* currentRecord(const app::App& app);
+
 // The cell as a text box shows it: text as it stands, all else trimmed.
 std::string shownText(const core::Column& column, std::string_view cell);
 

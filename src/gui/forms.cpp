@@ -4,6 +4,7 @@
 #include "gui/databaseTypeFrmView.h"
 #include "gui/designFrmView.h"
 #include "gui/disclaimFrmView.h"
+#include "gui/entryFrmView.h"
 #include "gui/formulateFrmView.h"
 #include "gui/repeatFrmView.h"
 #include "gui/serialFrmView.h"
@@ -24,6 +25,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
     platform.registerForm("databaseTypeFrm", shown<databaseTypeFrmView>(app, events));
     platform.registerForm("designFrm", shown<designFrmView>(app, events));
+    platform.registerForm("entryFrm", shown<entryFrmView>(app, events));
     platform.registerForm("formulateFrm", shown<formulateFrmView>(app, events));
     platform.registerForm("TotalsFrm", shown<TotalsFrmView>(app, events));
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));

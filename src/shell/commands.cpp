@@ -1,5 +1,6 @@
 #include "shell/commands.h"
 
+#include "app/commandRoutines.h"
 #include "core/runTimeError.h"
 #include "entry/editRecord.h"
 #include "shell/mainWindow.h"
@@ -223,3 +224,7 @@ std::span<const Menu> menuBar() {
 }
 
 } // namespace shell
+
+void app::Toolbar_ButtonClick(App& app, std::string_view key) {
+    shell::runCommand(app, key);
+}
