@@ -4,9 +4,8 @@
 #include "core/runTimeError.h"
 #include "platform/zip.h"
 #include "storage/dataWriter.h"
-#include "storage/workFiles.h"
+#include "storage/saveSteps.h"
 
-#include <filesystem>
 #include <optional>
 
 namespace storage {
@@ -14,23 +13,6 @@ namespace storage {
 namespace {
 
 using app::App;
-
-constexpr const char* dataFile = "data.dat";
-constexpr const char* dataComment = "Main Data File";
-constexpr const char* overwriteQuestion = "Overwrite Existing File?";
-
-bool mayWriteTo(App& app, const std::string& target) {
-    return !fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
-}
-
-void addData(App& app, platform::Zip& Zip, const std::string& bytes) {
-    if (app.platform.keepsDataFile()) {
-        Zip.SetBaseFolder(app.platform.workFolder());
-        Zip.AddFile(dataFile, dataComment);
-    } else {
-        Zip.addBuffer(dataFile, bytes, dataComment);
-    }
-}
 
 void pack(App& app, const std::string& archive, const std::string& bytes) {
     platform::Zip Zip;
@@ -53,29 +35,13 @@ void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
     if (!target || !mayWriteTo(app, *target)) return;
-    platform::Zip Zip;
-    Zip.CreateArchive(*target, "");
-    addData(app, Zip, bytes);
-    Zip.CloseArchive();
-}
-
-void tellFailure(App& app, bool bSaveAs, int number) {
-    if (bSaveAs && number == core::errors::diskNotReady)
-        app::warn(app,
-                  "  Please insert your working source disk or device that you have been saving to up "
-                  "until now.  Ferrowick needs this before it can perform the 'save as' operation to the "
-                  "other location you specified.  Once you have inserted the disk or device you can try "
-                  "'save as' again.");
-    else
-        app::warn(app,
-                  "There was an error writing to the file.  If saving to removable media, please make sure "
-                  "that the disk is inserted properly, or that the device is plugged in.");
+    packAlone(app, *target, bytes);
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {
     if (saveAsTarget && !mayWriteTo(app, *saveAsTarget)) return;
     const std::string bytes = encodeDataFile(writeDataFile(app.document, bClone));
-    if (app.platform.keepsDataFile()) writeWorkFile(app.platform.workFolder() / dataFile, bytes);
+    keepDataFile(app, bytes);
     // Said before the archive is touched: a failed pack does not show as unsaved. It is wanted so.
     if (!bClone) app::setDocumentModified(app, false);
     if (bClone) {
