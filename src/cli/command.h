@@ -29,6 +29,8 @@ struct Command {
 Run setUpInfo(CLI::App& command);
 Run setUpRecords(CLI::App& command);
 Run setUpCheck(CLI::App& command);
+Run setUpSearch(CLI::App& command);
+Run setUpReplace(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);

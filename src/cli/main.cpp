@@ -13,8 +13,10 @@ namespace {
 constexpr Command commands[] = {
     {"info", "Tells what a database is", setUpInfo},
     {"records", "Prints the records and the Totals row", setUpRecords},
+    {"search", "Prints the records found, or saves them as a database of their own", setUpSearch},
     {"check", "Tells what is wrong with a database, one finding a line", setUpCheck},
     {"sort", "Sorts the records by a column and stores that order", setUpSort},
+    {"replace", "Replaces words, and prints how many cells have changed", setUpReplace},
     {"clone", "Makes a database of the same design without records", setUpClone},
     {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
 };

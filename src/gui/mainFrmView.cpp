@@ -3,6 +3,8 @@
 #include "gui/disclaimFrmView.h"
 #include "gui/icon.h"
 #include "gui/qtText.h"
+#include "gui/replaceFrmView.h"
+#include "gui/searchFrmView.h"
 #include "shell/mainWindow.h"
 #include "storage/openFile.h"
 
@@ -62,6 +64,10 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
                       },
                       [this] { return app_.document.currentFile; }});
     platform_.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
+    platform_.registerForm("searchFrm",
+                           [this](QWidget* owner) { searchFrmView(app_, events_, owner).exec(); });
+    platform_.registerForm("replaceFrm",
+                           [this](QWidget* owner) { replaceFrmView(app_, events_, owner).exec(); });
 }
 
 MainFrmView::~MainFrmView() {
