@@ -121,7 +121,11 @@ QWidget* searchFrmView::makeButtons() {
         auto* button = new QPushButton(caption);
         button->setObjectName(QLatin1String(name));
         button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, clicked);
+        connect(button, &QPushButton::clicked, this, [this, button, clicked] {
+            // A mnemonic leaves the focus where it is; here it takes it from the box, which is checked then.
+            if (boxIndex(focusWidget())) button->setFocus();
+            clicked();
+        });
         row->addWidget(button);
         return button;
     };

@@ -5,11 +5,15 @@
 #include "gui/recordsView.h"
 #include "shell/mainWindow.h"
 
+#include <QDialog>
 #include <QHeaderView>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 #include <deque>
+#include <functional>
+#include <map>
 
 // The platform of the window, but its dialogs are answered by the test.
 class ScriptedPlatform : public gui::QtPlatform {
@@ -22,6 +26,8 @@ public:
     std::deque<platform::Answer> answers; // Ok when there is none left
     std::optional<std::string> chosenFile;
     QStringList forms;
+    // What the user does in a form. The script has to close it. A form without a script is not shown.
+    std::map<QString, std::function<void(QDialog&)>> scripts;
 
     platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
                             platform::Buttons) override {
@@ -33,7 +39,21 @@ public:
     }
     std::optional<std::string> showOpen(const platform::FileDialog&) override { return chosenFile; }
     std::optional<std::string> showSave(const platform::FileDialog&) override { return chosenFile; }
-    void showForm(std::string_view name) override { forms << gui::toQt(name); }
+    std::optional<std::string> showNew(const platform::FileDialog&) override { return chosenFile; }
+    void showForm(std::string_view name) override {
+        forms << gui::toQt(name);
+        const auto script = scripts.find(forms.last());
+        if (script == scripts.end()) return;
+        QTimer::singleShot(0, qApp, [form = forms.last(), act = script->second] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr || dialog->objectName() != form) return; // it did not come up
+            act(*dialog);
+            if (!dialog->isVisible()) return;
+            QTest::qFail(qPrintable(form + QStringLiteral(" is still open")), __FILE__, __LINE__);
+            std::_Exit(EXIT_FAILURE); // nobody would ever close it
+        });
+        QtPlatform::showForm(name);
+    }
 };
 
 // One run of the program, with the user's folders of the test.
