@@ -39,6 +39,8 @@ Run setUpAdd(CLI::App& command);
 Run setUpUpdate(CLI::App& command);
 Run setUpDelete(CLI::App& command);
 Run setUpDuplicate(CLI::App& command);
+Run setUpSearch(CLI::App& command);
+Run setUpReplace(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);

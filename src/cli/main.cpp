@@ -13,6 +13,7 @@ namespace {
 constexpr Command commands[] = {
     {"info", "Tells what a database is", setUpInfo},
     {"records", "Prints the records and the Totals row", setUpRecords},
+    {"search", "Prints the records found, or saves them as a database of their own", setUpSearch},
     {"check", "Tells what is wrong with a database, one finding a line", setUpCheck},
     {"new", "Makes a database with these columns", setUpNew},
     {"add", "Adds a record", setUpAdd},
@@ -25,6 +26,7 @@ constexpr Command commands[] = {
     {"total", "Chooses the columns to total, and recalculates", setUpTotal},
     {"recalculate", "Recalculates all records and the Totals row", setUpRecalculate},
     {"serial", "Sets a serial counter", setUpSerial},
+    {"replace", "Replaces words, and prints how many cells have changed", setUpReplace},
     {"clone", "Makes a database of the same design without records", setUpClone},
     {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
 };

@@ -3,6 +3,7 @@
 #include "core/encoding.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
+#include "storage/saveSearch.h"
 
 #include <filesystem>
 #include <iostream>
@@ -91,25 +92,32 @@ void Session::changeAndCalculate(const std::function<void()>& routine) const {
 }
 
 void Session::save() {
-    run(file, false, false);
+    run(file, [this] { storage::SaveFile(app, false, false); });
 }
 
 void Session::saveAs(const std::string& target) {
-    run(target, true, false);
+    // The routine compares names as texts; a file has more than one of them.
+    platform.setSaveName(isSameFile(target, file) ? app.document.currentFile : target);
+    run(target, [this] { storage::SaveFile(app, true, false); });
 }
 
 void Session::clone(const std::string& target) {
-    run(target, false, true);
+    platform.setSaveName(target);
+    run(target, [this] { storage::SaveFile(app, false, true); });
 }
 
-void Session::run(const std::string& target, bool bSaveAs, bool bClone) {
+void Session::saveSearch(const std::string& target) {
+    const bool itself = isSameFile(target, file);
+    platform.setSaveName(itself ? app.document.currentFile : target);
+    run(target, [this] { storage::saveSearchResults(app); });
+    if (itself) throw Failure(target, "is the database that was searched");
+}
+
+void Session::run(const std::string& target, const std::function<void()>& save) {
     if (target.empty()) throw Failure("a database needs a file name");
     const int messages = platform.exclamations();
     const int refusals = platform.refusedQuestions();
-    // The routine compares names as texts; a file has more than one of them.
-    const std::string& current = app.document.currentFile;
-    platform.setSaveName(bSaveAs && isSameFile(target, current) ? current : target);
-    storage::SaveFile(app, bSaveAs, bClone);
+    save();
     if (platform.refusedQuestions() != refusals)
         throw Failure(target, "it exists already, --yes overwrites it");
     if (platform.exclamations() != messages)

@@ -36,6 +36,8 @@ public:
     void save();
     void saveAs(const std::string& target);
     void clone(const std::string& target);
+    // Saves the search results as a database of their own.
+    void saveSearch(const std::string& target);
 
     // A column of the database; raises Failure when there is none of that name. The hidden column is
     // no column to the user.
@@ -56,7 +58,7 @@ public:
     app::App& app;
 
 private:
-    void run(const std::string& target, bool bSaveAs, bool bClone);
+    void run(const std::string& target, const std::function<void()>& save);
 };
 
 } // namespace cli

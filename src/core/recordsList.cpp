@@ -4,6 +4,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace core {
 
@@ -101,7 +102,10 @@ int RecordsList::indexOf(const Item& item) const {
 }
 
 Item* RecordsList::totals() {
-    if (!items_.empty() && items_.back()->isTotals()) return items_.back().get();
+    if (items_.empty()) return nullptr;
+    // At the end as a rule, at the head while search results are put behind it.
+    for (const auto& item : {std::cref(items_.back()), std::cref(items_.front())})
+        if (item.get()->isTotals()) return item.get().get();
     return find(totalsKey);
 }
 

@@ -7,6 +7,8 @@
 #include "gui/entryFrmView.h"
 #include "gui/formulateFrmView.h"
 #include "gui/repeatFrmView.h"
+#include "gui/replaceFrmView.h"
+#include "gui/searchFrmView.h"
 #include "gui/serialFrmView.h"
 
 namespace gui {
@@ -29,6 +31,10 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("formulateFrm", shown<formulateFrmView>(app, events));
     platform.registerForm("TotalsFrm", shown<TotalsFrmView>(app, events));
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
+    platform.registerForm("replaceFrm",
+                          [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
+    platform.registerForm("searchFrm",
+                          [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
 }
 

@@ -3,11 +3,14 @@
 #include "app/commandRoutines.h"
 #include "core/runTimeError.h"
 #include "entry/editRecord.h"
+#include "search/replaceFrm.h"
+#include "search/searchMode.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 #include "storage/newDatabase.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
+#include "storage/saveSearch.h"
 
 #include <algorithm>
 #include <array>
@@ -49,14 +52,15 @@ std::vector<Command> toolbarCommands() {
         {"Save", "Save", "Save Database", "save", false, save},
         {"Print", "Print", "Print Database", "print", false, notYet},
         {"PageSetup", "Page Setup", "Page Setup", "pageSetup", false, notYet},
-        {"Search", "Search", "Search Database", "search", true, notYet},
+        {"Search", "Search", "Search Database", "search", true, search::Search_ButtonClick},
         {"Totals", "Totals", "Display Totals For Selected Items", "totals", true, toggleSelectedTotals},
         {"Formulas", "Expressions", "Define Expressions", "formulas", false, showing("formulateFrm")},
         {"Properties", "Properties", "Database Properties", "properties", false, showProperties},
         {"Design", "Design", "Switch Layout To Design Mode", "design", true, pressDesign},
         {"Delete", "Delete", "Delete Row", "delete", false, deleteRow},
         {"Help", "Help", "Help", "help", false, notYet},
-        {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false, notYet},
+        {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false,
+         storage::saveSearchResults},
         {"All_As_Report", "Print all records as report.", "", "reportAll", false, notYet},
         {"Selected_As_Report", "Print selected items as report.", "", "reportSelected", false, notYet},
         {"All_As_Layouts", "Print all records as layouts.", "", "layoutsAll", false, notYet},
@@ -79,7 +83,7 @@ std::vector<Command> menuCommands() {
         {"mnuOpen", "&Open", "", "open", false, open},
         {"mnuSave", "&Save", "", "save", false, save},
         {"mnuSaveAs", "Save &As", "", "saveAs", false, [](App& app) { storage::SaveFile(app, true, false); }},
-        {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, notYet},
+        {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, storage::saveSearchResults},
         {"mnuPrint", "&Print", "", "print", false, notYet},
         {"mnuPageSetup", "Page Setup", "", "pageSetup", false, notYet},
         {"mnuCleanDatabase", "&Clean Database", "", "clean", false, notYet},
@@ -91,8 +95,8 @@ std::vector<Command> menuCommands() {
         {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
         {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
-        {"mnuReplace", "&Find And Replace", "", "replace", false, notYet},
-        {"mnuSearch", "&Search", "", "search", false, notYet},
+        {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
+        {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, pressTotals},
         {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false,
          [](App& app) { runCommand(app, "Formulas"); }},

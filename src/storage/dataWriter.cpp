@@ -96,19 +96,6 @@ void writeIncrements(Writer& out, const core::RecordsList& serials, bool bClone)
     out.end();
 }
 
-void writeRows(Writer& out, const core::RecordsList& records) {
-    std::vector<bool> isText;
-    for (const Column& column : records.columns)
-        if (column.Index != 1) isText.push_back(column.isType(core::ColumnType::Text));
-    records.forEach([&](const core::Item& item) {
-        for (std::size_t i = 0; i < isText.size() && i < item.cells.size(); ++i) {
-            const std::string_view cell = item.cells[i];
-            out.element(isText[i] ? cell : core::trim(cell));
-        }
-        out.end();
-    });
-}
-
 std::size_t estimatedSize(const Document& document) {
     std::size_t size = 8192;
     document.LV.forEach([&](const core::Item& item) {
@@ -118,11 +105,7 @@ std::size_t estimatedSize(const Document& document) {
     return size;
 }
 
-} // namespace
-
-std::string writeDataFile(Document& document, bool bClone) {
-    std::string text;
-    if (!bClone) text.reserve(estimatedSize(document));
+void appendDesign(std::string& text, Document& document, bool bClone) {
     Writer out(text);
     takeOverInvoiceColumns(document);
     out.line("[LayoutStart]");
@@ -149,8 +132,38 @@ std::string writeDataFile(Document& document, bool bClone) {
     out.section("[Lock          ]");
     out.line(document.lockPassword);
     out.line("[Begin Data    ]");
-    if (!bClone) writeRows(out, document.LV);
+}
+
+} // namespace
+
+std::string writeDataFile(Document& document, bool bClone) {
+    std::string text;
+    if (!bClone) text.reserve(estimatedSize(document));
+    appendDesign(text, document, bClone);
+    if (bClone) return text;
+    const RowWriter rows(document.LV.columns);
+    document.LV.forEach([&](const core::Item& item) { rows.append(text, item); });
     return text;
+}
+
+std::string writeDesign(Document& document, bool bClone) {
+    std::string text;
+    appendDesign(text, document, bClone);
+    return text;
+}
+
+RowWriter::RowWriter(const core::ColumnHeaders& columns) {
+    for (const Column& column : columns)
+        if (column.Index != 1) isText_.push_back(column.isType(core::ColumnType::Text));
+}
+
+void RowWriter::append(std::string& out, const core::Item& item) const {
+    Writer line(out);
+    for (std::size_t i = 0; i < isText_.size() && i < item.cells.size(); ++i) {
+        const std::string_view cell = item.cells[i];
+        line.element(isText_[i] ? cell : core::trim(cell));
+    }
+    line.end();
 }
 
 std::string encodeDataFile(std::string text) {

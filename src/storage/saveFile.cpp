@@ -4,9 +4,8 @@
 #include "core/runTimeError.h"
 #include "platform/zip.h"
 #include "storage/dataWriter.h"
-#include "storage/workFiles.h"
+#include "storage/saveSteps.h"
 
-#include <filesystem>
 #include <optional>
 
 namespace storage {
@@ -15,18 +14,10 @@ namespace {
 
 using app::App;
 
-constexpr const char* dataFile = "data.dat";
-constexpr const char* dataComment = "Main Data File";
-constexpr const char* overwriteQuestion = "Overwrite Existing File?";
-
-bool mayWriteTo(App& app, const std::string& target) {
-    return !fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
-}
-
 void pack(const std::string& archive, const std::string& bytes) {
     platform::Zip Zip;
     Zip.OpenArchive(archive);
-    Zip.addBuffer(dataFile, bytes, dataComment);
+    addData(Zip, bytes);
     Zip.CloseArchive();
 }
 
@@ -35,7 +26,7 @@ void pack(const std::string& archive, const std::string& bytes) {
 void packCopy(App& app, const std::string& target, const std::string& bytes) {
     platform::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
-    Zip.addBuffer(dataFile, bytes, dataComment);
+    addData(Zip, bytes);
     Zip.CloseArchiveAs(target);
     app.document.currentFile = target;
 }
@@ -44,29 +35,13 @@ void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
     if (!target || !mayWriteTo(app, *target)) return;
-    platform::Zip Zip;
-    Zip.CreateArchive(*target, "");
-    Zip.addBuffer(dataFile, bytes, dataComment);
-    Zip.CloseArchive();
-}
-
-void tellFailure(App& app, bool bSaveAs, int number) {
-    if (bSaveAs && number == core::errors::diskNotReady)
-        app::warn(app,
-                  "  Please insert your working source disk or device that you have been saving to up "
-                  "until now.  Ferrowick needs this before it can perform the 'save as' operation to the "
-                  "other location you specified.  Once you have inserted the disk or device you can try "
-                  "'save as' again.");
-    else
-        app::warn(app,
-                  "There was an error writing to the file.  If saving to removable media, please make sure "
-                  "that the disk is inserted properly, or that the device is plugged in.");
+    packAlone(*target, bytes);
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {
     if (saveAsTarget && !mayWriteTo(app, *saveAsTarget)) return;
     const std::string bytes = encodeDataFile(writeDataFile(app.document, bClone));
-    if (app.platform.keepsDataFile()) writeWorkFile(app.platform.workFolder() / dataFile, bytes);
+    keepDataFile(app, bytes);
     // Said before the archive is touched: a failed pack does not show as unsaved. It is wanted so.
     if (!bClone) app::setDocumentModified(app, false);
     if (bClone) {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace search {
+
+// A search is a mode of the main window. From the first search until the user leaves it, searchLV
+// stands in place of the records, and theListView is it.
+
+// The button "Search": pressed it opens the dialog, released it leaves the results.
+void Search_ButtonClick(app::App& app);
+// The menu item presses the button, whatever its state.
+void mnuSearch_Click(app::App& app);
+
+// Clears searchLV and gives it the columns of the list that is searched.
+void takeOverColumns(app::App& app);
+// Puts the records back in place of the results.
+void showAllRecords(app::App& app);
+
+} // namespace search

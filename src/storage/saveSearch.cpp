@@ -1,0 +1,72 @@
+#include "storage/saveSearch.h"
+
+#include "core/number.h"
+#include "core/runTimeError.h"
+#include "storage/dataWriter.h"
+#include "storage/saveSteps.h"
+
+#include <optional>
+
+namespace storage {
+
+namespace {
+
+using app::App;
+using core::Item;
+using core::RecordsList;
+
+// The number in a key is the place that the record had when the file was opened, and the record is
+// looked up by that place: after a sort or a deletion it can be another one. It is wanted so.
+const Item& recordOf(const RecordsList& records, std::string_view itemKey) {
+    return records.at(core::toInt32(core::val(itemKey.substr(1))));
+}
+
+// An invoice can be listed once for each of its items; it is written once.
+std::string writeResults(core::Document& document) {
+    std::string text = writeDesign(document, false);
+    const RowWriter rows(document.LV.columns);
+    RecordsList& written = document.scratchLV;
+    written.clear();
+    document.searchLV.forEach([&](const Item& result) {
+        if (result.isTotals()) {
+            rows.append(text, document.LV.byKey(core::totalsKey));
+            return;
+        }
+        if (written.find(result.Tag) != nullptr) return;
+        const Item& record = recordOf(document.LV, result.Tag);
+        written.add(result.Tag, result.Tag);
+        rows.append(text, record);
+    });
+    written.clear();
+    return text;
+}
+
+void writeAndPack(App& app, const std::string& target) {
+    if (!mayWriteTo(app, target)) return;
+    const std::string bytes = encodeDataFile(writeResults(app.document));
+    keepDataFile(app, bytes);
+    app::setDocumentModified(app, false);
+    packAlone(target, bytes);
+}
+
+} // namespace
+
+void saveSearchResults(App& app) {
+    const std::optional<std::string> target = app.platform.showSave(
+        {"Save As...", "Untitled Search Results.fwk", std::string(platform::databaseFilter)});
+    if (!target) return;
+    if (*target == app.document.currentFile) {
+        app::inform(app, "You cannot save your search results to a file named the same as the one that is "
+                         "currently open.");
+        return;
+    }
+    try {
+        writeAndPack(app, *target);
+    } catch (const core::RunTimeError& error) {
+        tellFailure(app, false, error.number);
+    } catch (const std::exception&) {
+        tellFailure(app, false, 0);
+    }
+}
+
+} // namespace storage

@@ -1,0 +1,50 @@
+#include "storage/saveSteps.h"
+
+#include "core/runTimeError.h"
+#include "storage/workFiles.h"
+
+namespace storage {
+
+using app::App;
+
+namespace {
+
+constexpr const char* dataFile = "data.dat";
+constexpr const char* dataComment = "Main Data File";
+constexpr const char* overwriteQuestion = "Overwrite Existing File?";
+
+} // namespace
+
+bool mayWriteTo(App& app, const std::string& target) {
+    return !fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
+}
+
+void keepDataFile(App& app, const std::string& bytes) {
+    if (app.platform.keepsDataFile()) writeWorkFile(app.platform.workFolder() / dataFile, bytes);
+}
+
+void addData(platform::Zip& Zip, const std::string& bytes) {
+    Zip.addBuffer(dataFile, bytes, dataComment);
+}
+
+void packAlone(const std::string& target, const std::string& bytes) {
+    platform::Zip Zip;
+    Zip.CreateArchive(target, "");
+    addData(Zip, bytes);
+    Zip.CloseArchive();
+}
+
+void tellFailure(App& app, bool bSaveAs, int number) {
+    if (bSaveAs && number == core::errors::diskNotReady)
+        app::warn(app,
+                  "  Please insert your working source disk or device that you have been saving to up "
+                  "until now.  Ferrowick needs this before it can perform the 'save as' operation to the "
+                  "other location you specified.  Once you have inserted the disk or device you can try "
+                  "'save as' again.");
+    else
+        app::warn(app,
+                  "There was an error writing to the file.  If saving to removable media, please make sure "
+                  "that the disk is inserted properly, or that the device is plugged in.");
+}
+
+} // namespace storage

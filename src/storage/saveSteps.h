@@ -1,0 +1,23 @@
+#pragma once
+
+#include "app/app.h"
+#include "platform/zip.h"
+
+#include <string>
+
+namespace storage {
+
+// What the commands that write a database have in common.
+
+// Asks before a file is overwritten; true also when there is none.
+bool mayWriteTo(app::App& app, const std::string& target);
+// Writes the text of the database into the work folder, where the platform keeps one.
+void keepDataFile(app::App& app, const std::string& bytes);
+// Puts it into the open archive.
+void addData(platform::Zip& Zip, const std::string& bytes);
+// A new archive that holds the text of the database alone.
+void packAlone(const std::string& target, const std::string& bytes);
+// Says that the database could not be written.
+void tellFailure(app::App& app, bool bSaveAs, int number);
+
+} // namespace storage
