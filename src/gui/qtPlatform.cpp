@@ -171,8 +171,10 @@ void QtPlatform::paintStatus() {
 
 void QtPlatform::openLink(const std::string& target) {
     const QString link = toQt(target);
-    QDesktopServices::openUrl(QFileInfo::exists(link) ? QUrl::fromLocalFile(link)
-                                                      : QUrl::fromUserInput(link));
+    // A file is named by its whole path: an address must not open a file that happens to have its name.
+    const QFileInfo file(link);
+    QDesktopServices::openUrl(file.isAbsolute() && file.exists() ? QUrl::fromLocalFile(link)
+                                                                 : QUrl(link, QUrl::TolerantMode));
 }
 
 std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontChoice& present) {

@@ -243,7 +243,13 @@ void SheetView::press(ObjectRef object, QMouseEvent& mouse) {
 
 void SheetView::release(ObjectRef object, QMouseEvent& mouse) {
     bool wantsMenu = false;
-    const bool isClick = std::exchange(pressed_, false) && mouse.button() == Qt::LeftButton;
+    const QWidget* widget = objects_->widgetOf(object);
+    // An object that snaps can be left behind by the pointer; a link that the pointer has left is not
+    // followed.
+    const bool isInside = layout::isDesignMode(app_) ||
+                          (widget != nullptr &&
+                           widget->rect().contains(widget->mapFromGlobal(mouse.globalPosition().toPoint())));
+    const bool isClick = std::exchange(pressed_, false) && mouse.button() == Qt::LeftButton && isInside;
     events_.run([&] {
         wantsMenu = layout::object_MouseUp(app_, object, buttonOf(mouse));
         if (isClick) layout::object_Click(app_, object);
