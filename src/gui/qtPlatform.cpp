@@ -40,6 +40,15 @@ void giveRoom(QFileDialog& dialog) {
     dialog.resize(em * 50, em * 30);
 }
 
+// Neither bitmaps nor JPEGs have transparency; what shines through is the paper.
+QImage onPaper(const QImage& image) {
+    if (!image.hasAlphaChannel()) return image;
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, image);
+    return opaque;
+}
+
 } // namespace
 
 // Ahead of a modal dialog the window behind it shows the state that the handler has reached, and the
@@ -194,20 +203,13 @@ std::optional<platform::Extent> QtPlatform::pictureExtent(const std::filesystem:
 bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
     if (content == nullptr || content->hasText() || content->hasUrls() || !content->hasImage()) return false;
-    const QImage image = QGuiApplication::clipboard()->image();
+    const QImage image = onPaper(QGuiApplication::clipboard()->image());
     return !image.isNull() && image.save(toQt(path.string()), "BMP");
 }
 
 void QtPlatform::convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
                                int quality) {
-    QImage image(toQt(bitmap.string()));
-    if (image.hasAlphaChannel()) {
-        // A JPEG has no transparency; what shines through is the paper.
-        QImage opaque(image.size(), QImage::Format_RGB32);
-        opaque.fill(Qt::white);
-        QPainter(&opaque).drawImage(0, 0, image);
-        image = opaque;
-    }
+    const QImage image = onPaper(QImage(toQt(bitmap.string())));
     if (image.isNull() || !image.save(toQt(jpeg.string()), "JPEG", quality))
         core::raise(core::errors::pathAccess, jpeg.string());
 }

@@ -3,8 +3,6 @@
 #include "gui/textBox.h"
 #include "layout/dragging.h"
 #include "layout/images.h"
-#include "layout/labels.h"
-#include "layout/objects.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
 
@@ -146,7 +144,7 @@ QPoint SheetView::sheetTwips(QPointF global) const {
 
 bool SheetView::eventFilter(QObject* watched, QEvent* event) {
     if (refreshing_) return false;
-    if (event->type() == QEvent::Wheel && watched != paper_) {
+    if (event->type() == QEvent::Wheel) {
         // Every wheel turn scrolls the sheet, wherever the pointer is.
         wheelEvent(static_cast<QWheelEvent*>(event));
         return true;
@@ -258,24 +256,7 @@ void SheetView::release(ObjectRef object, QMouseEvent& mouse) {
 }
 
 void SheetView::doubleClick(ObjectRef object) {
-    events_.run([&] {
-        switch (object.family) {
-        case Family::tLabel:
-            layout::tLabel_DblClick(app_, object.Index);
-            break;
-        case Family::pBox:
-            layout::pBox_DblClick(app_, object.Index);
-            break;
-        case Family::clipPic:
-            layout::selectClipArt(app_, object.Index);
-            break;
-        case Family::imgHolder:
-            layout::imgHolder_DblClick(app_, object.Index);
-            break;
-        default:
-            break;
-        }
-    });
+    events_.run([&] { layout::object_DblClick(app_, object); });
     if (!isLabelOpen(object)) return;
     auto* box = qobject_cast<TextBox*>(objects_->widgetOf(object));
     if (box == nullptr) return;

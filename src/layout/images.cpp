@@ -21,13 +21,13 @@ namespace {
 constexpr std::string_view imageFilter = "Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif";
 
 // The two directions leave a different rest, and it is wanted so.
-void scaleInto(const LayoutObject& holder, FittedImage& image, float width, float height) {
+void scaleInto(const LayoutObject& holder, FittedImage& image, double width, double height) {
     image.Stretch = true;
     image.Height = holder.Height - 2;
-    image.Width = (holder.Height - 2) / height * width;
+    image.Width = static_cast<float>((holder.Height - 2) / height * width);
     if (image.Width <= holder.Width - 2) return;
     image.Width = holder.Width - 1;
-    image.Height = (holder.Width - 1) / width * height;
+    image.Height = static_cast<float>((holder.Width - 1) / width * height);
 }
 
 void fit(const LayoutObject& holder, FittedImage& image, platform::Extent natural) {

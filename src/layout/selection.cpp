@@ -1,6 +1,7 @@
 #include "layout/selection.h"
 
 #include "layout/dragging.h"
+#include "layout/images.h"
 #include "layout/labels.h"
 #include "layout/objects.h"
 #include "layout/sheet.h"
@@ -148,6 +149,25 @@ void object_Click(App& app, ObjectRef object) {
             followLink(app, label->Tag);
     }
     refreshLockIndicator(app);
+}
+
+void object_DblClick(App& app, ObjectRef object) {
+    switch (object.family) {
+    case Family::tLabel:
+        tLabel_DblClick(app, object.Index);
+        break;
+    case Family::pBox:
+        pBox_DblClick(app, object.Index);
+        break;
+    case Family::clipPic:
+        selectClipArt(app, object.Index);
+        break;
+    case Family::imgHolder:
+        imgHolder_DblClick(app, object.Index);
+        break;
+    default:
+        break;
+    }
 }
 
 void Handle_MouseDown(App& app, long pointerX, long pointerY) {

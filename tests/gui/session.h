@@ -21,6 +21,9 @@ public:
     std::vector<Message> messages;
     std::deque<platform::Answer> answers; // Ok when there is none left
     std::optional<std::string> chosenFile;
+    std::deque<std::string> inputs;         // of input boxes; cancelled when there is none left
+    std::deque<platform::FontChoice> fonts; // of font dialogs; cancelled likewise
+    QStringList links;                      // that were opened
     QStringList forms;
 
     platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
@@ -33,7 +36,21 @@ public:
     }
     std::optional<std::string> showOpen(const platform::FileDialog&) override { return chosenFile; }
     std::optional<std::string> showSave(const platform::FileDialog&) override { return chosenFile; }
+    std::string inputBox(const std::string&, const std::string&, const std::string&) override {
+        return take(inputs).value_or("");
+    }
+    std::optional<platform::FontChoice> showFont(const platform::FontChoice&) override { return take(fonts); }
+    void openLink(const std::string& target) override { links << gui::toQt(target); }
     void showForm(std::string_view name) override { forms << gui::toQt(name); }
+
+private:
+    template <typename Value>
+    static std::optional<Value> take(std::deque<Value>& queue) {
+        if (queue.empty()) return std::nullopt;
+        Value value = queue.front();
+        queue.pop_front();
+        return value;
+    }
 };
 
 // One run of the program, with the user's folders of the test.
