@@ -45,7 +45,10 @@ struct LayoutPage {
     struct Ruler {
         float Left = 0, Top = 0, Width = 0, Height = 0;
         std::optional<float> line; // the tick that follows a drag
-    } ruler1, ruler2;              // above, and at the left
+    };
+    // Above, and at the left; they begin at the corner piece, Shape1, which is as large as they are thick.
+    Ruler ruler1{rulerThickness, 0, 0, rulerThickness, {}};
+    Ruler ruler2{0, rulerThickness, rulerThickness, 0, {}};
     bool bRulersVisible = false;
     core::ControlArray<Guide> rulePic{Guide{}};  // on ruler2, with horizontal lines
     core::ControlArray<Guide> rulePic2{Guide{}}; // on ruler1, with vertical lines
@@ -69,7 +72,6 @@ struct LayoutPage {
     int draggedGuide = 0;
     int iMouseX = 0, iMouseY = 0; // the pointer inside the object at mouse-down
     long lastX = 0, lastY = 0;    // where the pointer last caused a move
-    bool bFirstPass = false;
 };
 
 } // namespace app

@@ -2,6 +2,7 @@
 
 #include "app/layoutRoutines.h"
 #include "calc/serialNumbers.h"
+#include "core/runTimeError.h"
 #include "entry/editRecord.h"
 #include "entry/fieldEvents.h"
 #include "entry/invoiceRecords.h"
@@ -71,6 +72,7 @@ void clearPictures(App& app) {
 }
 
 void newRecord(App& app) {
+    app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
     Document& document = app.document;
     document.layout.layoutField.forEach([&](core::LayoutField& field) {
         field.Text = calc::proposedValue(app, field.Tag).value_or(std::string());
@@ -96,27 +98,36 @@ bool isColumn(const App& app, const std::string& name) {
     return column != nullptr && column->Index != 1;
 }
 
-// The sheet's pictures as cells. One that came from the clipboard is stored now.
-std::vector<BoxText> pictureTexts(App& app) {
+// The sheet's pictures as cells. One that came from the clipboard is stored now. Nothing, after a message,
+// when the archive cannot take it: the sheet then stays as it is, and no record is half written.
+std::optional<std::vector<BoxText>> pictureTexts(App& app) {
     std::vector<BoxText> texts;
-    app.document.layout.imgHolder.forEach([&](core::ImgHolder& holder) {
-        if (!isColumn(app, holder.Tag)) return;
-        if (holder.ToolTipText == layout::clipboardMark)
-            holder.ToolTipText = layout::storeClipboardImage(app, holder.viewImage);
-        texts.push_back({holder.Tag, holder.ToolTipText});
-    });
+    try {
+        app.document.layout.imgHolder.forEach([&](core::ImgHolder& holder) {
+            if (!isColumn(app, holder.Tag)) return;
+            if (holder.ToolTipText == layout::clipboardMark)
+                holder.ToolTipText = layout::storeClipboardImage(app, holder.viewImage);
+            texts.push_back({holder.Tag, holder.ToolTipText});
+        });
+    } catch (const core::RunTimeError& error) {
+        app::warn(app, std::string("The picture could not be added to the database: ") + error.what());
+        return std::nullopt;
+    }
     return texts;
 }
 
-void writeSheet(App& app, bool bUpdate) {
-    if (bUpdate && isTotalsRowSelected(app)) return;
+bool writeSheet(App& app, bool bUpdate) {
+    if (bUpdate && isTotalsRowSelected(app)) return true;
     // The field that is being typed in has kept the focus; it gets its check and format all the same.
     if (app.mainFrm.iFieldFocus != 0) layoutField_LostFocus(app, app.mainFrm.iFieldFocus);
     std::vector<BoxText> fields;
     app.document.layout.layoutField.forEach([&](const core::LayoutField& field) {
         if (isColumn(app, field.Tag)) fields.push_back({field.Tag, field.Text});
     });
-    EditRecord(app, bUpdate, fields, pictureTexts(app));
+    const std::optional<std::vector<BoxText>> pictures = pictureTexts(app);
+    if (!pictures) return false;
+    EditRecord(app, bUpdate, fields, *pictures);
+    return true;
 }
 
 void addSheet(App& app) {
@@ -125,20 +136,28 @@ void addSheet(App& app) {
         app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
         return;
     }
-    writeSheet(app, false);
-    newRecord(app);
+    if (writeSheet(app, false)) newRecord(app);
 }
 
 void updateSheet(App& app) {
-    if (app.document.bInvoiceStyle)
+    if (app.document.bInvoiceStyle) {
         editInvoiceRecord(app, true);
-    else
-        writeSheet(app, true);
-    app::showRecord(app);
+        app::showRecord(app);
+        return;
+    }
+    if (writeSheet(app, true)) app::showRecord(app);
+}
+
+// What follows the records that have gone takes their place on the sheet; at the end the last record does.
+void selectBehindGone(RecordsList& list, int row) {
+    if (list.selectedItem() == nullptr && list.count() > 1)
+        list.setSelectedItem(&list.at(std::clamp(row, 1, list.count() - 1)));
 }
 
 void deleteShown(App& app) {
+    const int row = currentRow(app);
     if (!deleteRecords(app)) return;
+    selectBehindGone(app.document.LV, row);
     app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
     clearPictures(app);
     app::showRecord(app);

@@ -5,9 +5,6 @@
 #include "core/text.h"
 #include "invoice/records.h"
 #include "layout/images.h"
-#include "platform/zip.h"
-
-#include <filesystem>
 
 namespace entry {
 
@@ -32,6 +29,7 @@ void retrieveFields(App& app) {
     }
     const Item* record = currentRecord(app);
     if (record == nullptr) return;
+    app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
     app.document.layout.layoutField.forEach([&](core::LayoutField& field) {
         // A field whose column has been removed shows nothing.
         const Column* column = app.document.LV.columns.find(field.Tag);
@@ -44,24 +42,14 @@ void retrieveFields(App& app) {
 void retrievePictures(App& app) {
     const Item* record = currentRecord(app);
     if (record == nullptr || app.document.layout.imgHolder.count() == 0) return;
-    const std::filesystem::path folder = app.platform.tempFolder();
-    platform::Zip Zip;
-    Zip.SetBaseFolder(folder);
-    Zip.OpenArchive(app.document.currentFile);
+    layout::ImageArchive archive(app);
     app.document.layout.imgHolder.forEach([&](core::ImgHolder& holder) {
         const Column* column = app.document.LV.columns.find(holder.Tag);
         if (column == nullptr || column->Index == 1) return;
         const std::string name = RecordsList::cell(*record, *column).str();
         holder.ToolTipText = name;
-        if (name.empty() || !platform::isSafeEntryName(name)) {
-            layout::fitImage(app, holder, holder.viewImage, {});
-            return;
-        }
-        const std::filesystem::path file = folder / name;
-        if (!std::filesystem::exists(file)) Zip.ExtractFile(name);
-        layout::fitImage(app, holder, holder.viewImage, file);
+        layout::fitImage(app, holder, holder.viewImage, layout::unpackedImage(app, name, archive));
     });
-    Zip.CloseArchive();
 }
 
 } // namespace entry

@@ -7,11 +7,15 @@
 #include "layout/sheet.h"
 #include "layout/toolbar.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QTabBar>
 #include <QToolButton>
+
+#include <utility>
 
 namespace gui {
 
@@ -193,10 +197,18 @@ void LayoutPageView::refreshScrollBar(QScrollBar& bar, const app::LayoutPage::Sc
     bar.setValue(state.Value);
 }
 
+// Whoever comes by the mouse goes on with the sheet; the tabs keep the keys of whoever walks them.
+void LayoutPageView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (qobject_cast<QTabBar*>(QApplication::focusWidget()) == nullptr) sheet_->takeFocus();
+}
+
 void LayoutPageView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
     const app::LayoutPage& page = app_.mainFrm.layoutPage;
+    // The keys are for the sheet as soon as it is designed.
+    if (std::exchange(designing_, page.layoutToolbarInFront) != designing_) sheet_->takeFocus();
     refreshBars();
     refreshScrollBar(*layoutHScroll_, page.layoutHScroll, static_cast<int>(page.viewportWidth));
     refreshScrollBar(*layoutVScroll_, page.layoutVScroll, static_cast<int>(page.viewportHeight));

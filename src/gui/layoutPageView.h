@@ -21,6 +21,9 @@ public:
 
     void refresh();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QWidget* makeNavBar();
     QToolBar* makeToolbar();
@@ -45,6 +48,7 @@ private:
     QMenu* fieldMenu_ = nullptr;
     QMenu* pictureMenu_ = nullptr;
     bool refreshing_ = false;
+    bool designing_ = false; // what is shown
 };
 
 } // namespace gui

@@ -35,12 +35,16 @@ std::optional<QSize> pictureSize(const QString& path) {
     return size;
 }
 
+qint64 pictureStamp(const QString& path) {
+    const QFileInfo file(path);
+    return file.lastModified().toMSecsSinceEpoch() ^ file.size() << 42;
+}
+
 QPixmap scaledPicture(const QString& path, QSize size) {
     size = size.boundedTo({largestShownSide, largestShownSide});
     if (path.isEmpty() || size.isEmpty()) return {};
-    const qint64 changed = QFileInfo(path).lastModified().toMSecsSinceEpoch();
     const QString key =
-        QStringLiteral("%1|%2|%3x%4").arg(path).arg(changed).arg(size.width()).arg(size.height());
+        QStringLiteral("%1|%2|%3x%4").arg(path).arg(pictureStamp(path)).arg(size.width()).arg(size.height());
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
     if (!pictureSize(path)) return {};

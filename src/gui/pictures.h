@@ -14,6 +14,9 @@ namespace gui {
 // The size in pixels that the file tells, when it is a picture that can be shown.
 std::optional<QSize> pictureSize(const QString& path);
 
+// Another number for another content of the file.
+qint64 pictureStamp(const QString& path);
+
 // The picture in that size of device pixels; a null pixmap when it cannot be read. Kept for the next time.
 QPixmap scaledPicture(const QString& path, QSize size);
 

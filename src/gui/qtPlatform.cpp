@@ -41,6 +41,15 @@ void giveRoom(QFileDialog& dialog) {
     dialog.resize(em * 50, em * 30);
 }
 
+// Neither bitmaps nor JPEGs have transparency; what shines through is the paper.
+QImage onPaper(const QImage& image) {
+    if (!image.hasAlphaChannel()) return image;
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, image);
+    return opaque;
+}
+
 } // namespace
 
 // Ahead of a modal dialog the windows behind it show the state that the handler has reached, and the
@@ -173,8 +182,10 @@ void QtPlatform::paintStatus() {
 
 void QtPlatform::openLink(const std::string& target) {
     const QString link = toQt(target);
-    QDesktopServices::openUrl(QFileInfo::exists(link) ? QUrl::fromLocalFile(link)
-                                                      : QUrl::fromUserInput(link));
+    // A file is named by its whole path: an address must not open a file that happens to have its name.
+    const QFileInfo file(link);
+    QDesktopServices::openUrl(file.isAbsolute() && file.exists() ? QUrl::fromLocalFile(link)
+                                                                 : QUrl(link, QUrl::TolerantMode));
 }
 
 std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontChoice& present) {
@@ -194,20 +205,13 @@ std::optional<platform::Extent> QtPlatform::pictureExtent(const std::filesystem:
 bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
     if (content == nullptr || content->hasText() || content->hasUrls() || !content->hasImage()) return false;
-    const QImage image = QGuiApplication::clipboard()->image();
+    const QImage image = onPaper(QGuiApplication::clipboard()->image());
     return !image.isNull() && image.save(toQt(path.string()), "BMP");
 }
 
 void QtPlatform::convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
                                int quality) {
-    QImage image(toQt(bitmap.string()));
-    if (image.hasAlphaChannel()) {
-        // A JPEG has no transparency; what shines through is the paper.
-        QImage opaque(image.size(), QImage::Format_RGB32);
-        opaque.fill(Qt::white);
-        QPainter(&opaque).drawImage(0, 0, image);
-        image = opaque;
-    }
+    const QImage image = onPaper(QImage(toQt(bitmap.string())));
     if (image.isNull() || !image.save(toQt(jpeg.string()), "JPEG", quality))
         core::raise(core::errors::pathAccess, jpeg.string());
 }

@@ -94,6 +94,8 @@ void RulerView::paintEvent(QPaintEvent*) {
 void RulerView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const int index = guideAt(event->position());
+    pressedGuide_ = index;
+    ruleClick_ = event->position();
     pressed_ = index == 0;
     if (index == 0) return;
     events_.run([&] {
@@ -112,14 +114,14 @@ void RulerView::mouseMoveEvent(QMouseEvent* event) {
     events_.run([&] { layout::dragTo(app_, place.x(), place.y()); });
 }
 
-void RulerView::mouseReleaseEvent(QMouseEvent* event) {
+void RulerView::mouseReleaseEvent(QMouseEvent*) {
     events_.run([&] {
         if (app_.mainFrm.layoutPage.drag != LayoutPage::Drag::None) {
             layout::endDrag(app_);
             return;
         }
         if (!std::exchange(pressed_, false)) return;
-        const QPointF place = event->position() / pixelsPerTwip_;
+        const QPointF place = ruleClick_ / pixelsPerTwip_;
         if (isHorizontal())
             layout::ruler1_Click(app_, static_cast<float>(place.x()));
         else
@@ -129,7 +131,11 @@ void RulerView::mouseReleaseEvent(QMouseEvent* event) {
 
 void RulerView::mouseDoubleClickEvent(QMouseEvent* event) {
     const int index = guideAt(event->position());
-    if (index == 0) return;
+    // The second press may be on the marker that the first one has made: that takes it, and removes nothing.
+    if (index == 0 || index != pressedGuide_) {
+        mousePressEvent(event);
+        return;
+    }
     events_.run([&] {
         isHorizontal() ? layout::rulePic2_DblClick(app_, index) : layout::rulePic_DblClick(app_, index);
     });

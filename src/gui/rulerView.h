@@ -38,6 +38,8 @@ private:
     Qt::Orientation orientation_;
     qreal pixelsPerTwip_ = 1;
     bool pressed_ = false;
+    QPointF ruleClick_;    // where the bare ruler was pressed
+    int pressedGuide_ = 0; // the marker that was pressed; 0 for none
 };
 
 } // namespace gui

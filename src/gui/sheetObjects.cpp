@@ -197,6 +197,7 @@ void SheetObjects::removeGone(const std::vector<Placed>& placed) {
             refs_.erase(box->viewport());
         }
         refs_.erase(gone);
+        if (gone->hasFocus()) paper_.setFocus(); // the keys stay with the sheet
         gone->hide();
         gone->deleteLater(); // one of its own events may be under way
         widget = widgets_.erase(widget);

@@ -22,9 +22,12 @@ SheetShape::SheetShape(Family family, QWidget* parent) : QWidget(parent), family
 
 void SheetShape::show(const Look& look, qreal pixelsPerTwip) {
     // A picture may have been replaced by another one of its name.
-    if (look == look_ && pixelsPerTwip == pixelsPerTwip_ && look.image.path.empty()) return;
+    const qint64 stamp = look.image.path.empty() ? 0 : pictureStamp(toQt(look.image.path));
+    if (look == look_ && pixelsPerTwip == pixelsPerTwip_ && stamp == stamp_) return;
     look_ = look;
     pixelsPerTwip_ = pixelsPerTwip;
+    stamp_ = stamp;
+    picture_ = {};
     update();
 }
 
@@ -62,14 +65,17 @@ void SheetShape::paintBox(QPainter& painter) const {
     if (outline.isValid()) painter.drawRect(outline);
 }
 
-void SheetShape::paintPicture(QPainter& painter) const {
+void SheetShape::paintPicture(QPainter& painter) {
     const core::FittedImage& image = look_.image;
     if (!image.path.empty() && image.Visible) {
         const QRectF place(image.Left * pixelsPerTwip_, image.Top * pixelsPerTwip_,
                            image.Width * pixelsPerTwip_, image.Height * pixelsPerTwip_);
-        const QPixmap picture =
-            scaledPicture(toQt(image.path), (place.size() * devicePixelRatioF()).toSize());
-        if (!picture.isNull()) painter.drawPixmap(place, picture, QRectF(picture.rect()));
+        const QSize wanted = (place.size() * devicePixelRatioF()).toSize();
+        if (pictureSize_ != wanted || picture_.isNull()) {
+            picture_ = scaledPicture(toQt(image.path), wanted);
+            pictureSize_ = wanted;
+        }
+        if (!picture_.isNull()) painter.drawPixmap(place, picture_, QRectF(picture_.rect()));
     } else if (!look_.hint.isEmpty()) {
         painter.setPen(look_.backColor == core::white ? Qt::darkGray : Qt::white);
         painter.drawText(rect().adjusted(4, 4, -4, -4), Qt::AlignCenter | Qt::TextWordWrap, look_.hint);

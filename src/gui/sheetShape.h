@@ -32,11 +32,14 @@ protected:
 private:
     void paintLine(QPainter& painter) const;
     void paintBox(QPainter& painter) const;
-    void paintPicture(QPainter& painter) const;
+    void paintPicture(QPainter& painter);
 
     core::Family family_;
     Look look_;
     qreal pixelsPerTwip_ = 1;
+    QPixmap picture_;   // as it is shown
+    QSize pictureSize_; // that was asked for
+    qint64 stamp_ = 0;  // of its file
 };
 
 } // namespace gui

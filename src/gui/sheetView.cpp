@@ -3,8 +3,6 @@
 #include "gui/textBox.h"
 #include "layout/dragging.h"
 #include "layout/images.h"
-#include "layout/labels.h"
-#include "layout/objects.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
 
@@ -146,7 +144,7 @@ QPoint SheetView::sheetTwips(QPointF global) const {
 
 bool SheetView::eventFilter(QObject* watched, QEvent* event) {
     if (refreshing_) return false;
-    if (event->type() == QEvent::Wheel && watched != paper_) {
+    if (event->type() == QEvent::Wheel) {
         // Every wheel turn scrolls the sheet, wherever the pointer is.
         wheelEvent(static_cast<QWheelEvent*>(event));
         return true;
@@ -243,7 +241,13 @@ void SheetView::press(ObjectRef object, QMouseEvent& mouse) {
 
 void SheetView::release(ObjectRef object, QMouseEvent& mouse) {
     bool wantsMenu = false;
-    const bool isClick = std::exchange(pressed_, false) && mouse.button() == Qt::LeftButton;
+    const QWidget* widget = objects_->widgetOf(object);
+    // An object that snaps can be left behind by the pointer; a link that the pointer has left is not
+    // followed.
+    const bool isInside = layout::isDesignMode(app_) ||
+                          (widget != nullptr &&
+                           widget->rect().contains(widget->mapFromGlobal(mouse.globalPosition().toPoint())));
+    const bool isClick = std::exchange(pressed_, false) && mouse.button() == Qt::LeftButton && isInside;
     events_.run([&] {
         wantsMenu = layout::object_MouseUp(app_, object, buttonOf(mouse));
         if (isClick) layout::object_Click(app_, object);
@@ -252,24 +256,7 @@ void SheetView::release(ObjectRef object, QMouseEvent& mouse) {
 }
 
 void SheetView::doubleClick(ObjectRef object) {
-    events_.run([&] {
-        switch (object.family) {
-        case Family::tLabel:
-            layout::tLabel_DblClick(app_, object.Index);
-            break;
-        case Family::pBox:
-            layout::pBox_DblClick(app_, object.Index);
-            break;
-        case Family::clipPic:
-            layout::selectClipArt(app_, object.Index);
-            break;
-        case Family::imgHolder:
-            layout::imgHolder_DblClick(app_, object.Index);
-            break;
-        default:
-            break;
-        }
-    });
+    events_.run([&] { layout::object_DblClick(app_, object); });
     if (!isLabelOpen(object)) return;
     auto* box = qobject_cast<TextBox*>(objects_->widgetOf(object));
     if (box == nullptr) return;

@@ -21,6 +21,7 @@ public:
 
     void refresh();
     qreal pixelsPerTwip() const;
+    void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

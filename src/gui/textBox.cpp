@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QUrl>
 
 namespace gui {
 
@@ -66,7 +67,7 @@ TextBox::TextBox(QWidget* parent) : QTextEdit(parent) {
     setAutoFillBackground(true);
     connect(this, &QTextEdit::textChanged, this, [this] {
         if (showing_) return;
-        text_ = toPlainText();
+        text_ = wholeText();
         if (changed) changed(text_);
     });
 }
@@ -104,6 +105,15 @@ void TextBox::showText(const QString& text) {
     if (text_ == text) return;
     text_ = text;
     setPlainText(text);
+}
+
+// toPlainText() would turn non-breaking blanks into plain ones.
+QString TextBox::wholeText() const {
+    QString text = document()->toRawText();
+    for (QChar& character : text)
+        if (character == QChar::ParagraphSeparator || character == QChar::LineSeparator)
+            character = QLatin1Char('\n');
+    return text;
 }
 
 void TextBox::setCaret(int position) {
@@ -153,9 +163,15 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     QTextEdit::inputMethodEvent(&rest);
 }
 
+// A file that is dropped is for the window.
+bool TextBox::canInsertFromMimeData(const QMimeData* source) const {
+    const QList<QUrl> urls = source->urls();
+    return source->hasText() && (urls.isEmpty() || !urls.constFirst().isLocalFile());
+}
+
 // A cell is one line; a line break that came along becomes a blank.
 void TextBox::insertFromMimeData(const QMimeData* source) {
-    if (!source->hasText()) return;
+    if (!canInsertFromMimeData(source)) return;
     QString text = source->text();
     text.replace(QLatin1String("\r\n"), QLatin1String(" "));
     for (const char lineEnd : {'\r', '\n'}) text.replace(QLatin1Char(lineEnd), QLatin1Char(' '));

@@ -94,8 +94,7 @@ bool begin(App& app, ObjectRef object, LayoutPage::Drag drag) {
 void finishSize(App& app, ObjectRef object) {
     if (object.family == Family::clipPic)
         if (core::ClipPic* clip = app.document.layout.clipPic.find(object.Index))
-            fitImage(app, *clip, clip->clipImage,
-                     clip->Tag.empty() ? std::filesystem::path() : app.platform.tempFolder() / clip->Tag);
+            fitImage(app, *clip, clip->clipImage, clipArtFile(app, *clip));
     placeHandle(app, object);
 }
 

@@ -5,6 +5,7 @@
 #include "layout/sheet.h"
 #include "platform/zip.h"
 
+#include <functional>
 #include <random>
 
 namespace layout {
@@ -20,13 +21,13 @@ namespace {
 constexpr std::string_view imageFilter = "Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif";
 
 // The two directions leave a different rest, and it is wanted so.
-void scaleInto(const LayoutObject& holder, FittedImage& image, float width, float height) {
+void scaleInto(const LayoutObject& holder, FittedImage& image, double width, double height) {
     image.Stretch = true;
     image.Height = holder.Height - 2;
-    image.Width = (holder.Height - 2) / height * width;
+    image.Width = static_cast<float>((holder.Height - 2) / height * width);
     if (image.Width <= holder.Width - 2) return;
     image.Width = holder.Width - 1;
-    image.Height = (holder.Width - 1) / width * height;
+    image.Height = static_cast<float>((holder.Width - 1) / width * height);
 }
 
 void fit(const LayoutObject& holder, FittedImage& image, platform::Extent natural) {
@@ -42,14 +43,27 @@ void fit(const LayoutObject& holder, FittedImage& image, platform::Extent natura
 }
 
 // The chosen file, or nothing after the message. A cancelled dialog has chosen nothing, which is no
-// image either: it is wanted so.
+// image either: it is wanted so. A file that only has the name of an image is refused as well.
 std::optional<fs::path> chooseImage(App& app, const char* title) {
     const std::string chosen =
         app.platform.showOpen({title, "", std::string(imageFilter)}).value_or(std::string());
     const std::string ending = core::upper(core::right(chosen, 3));
-    if (ending == "GIF" || ending == "JPG") return fs::path(chosen);
+    if ((ending == "GIF" || ending == "JPG") && app.platform.pictureExtent(chosen)) return fs::path(chosen);
     app::inform(app, "You selected a file other than a GIF or JPEG.  Please try again.");
     return std::nullopt;
+}
+
+// False after a message: the archive cannot be written, or the file has a name that no entry may have.
+bool tryToAdd(App& app, const std::function<void()>& add) {
+    try {
+        add();
+        return true;
+    } catch (const core::RunTimeError& error) {
+        app::warn(app, std::string("The picture could not be added to the database: ") + error.what());
+    } catch (const fs::filesystem_error& error) {
+        app::warn(app, "The picture could not be added to the database: " + error.code().message());
+    }
+    return false;
 }
 
 void addToArchive(App& app, const fs::path& file, const std::string& comment) {
@@ -93,14 +107,44 @@ void fitImage(App& app, const LayoutObject& holder, FittedImage& image, const fs
     fit(holder, image, *natural);
 }
 
+fs::path unpackedImage(App& app, const std::string& name, ImageArchive& archive) {
+    if (name.empty() || !platform::isSafeEntryName(name)) return {};
+    const fs::path file = app.platform.tempFolder() / name;
+    std::error_code ignored;
+    if (!fs::exists(file, ignored)) archive.extract(name);
+    return file;
+}
+
+fs::path clipArtFile(App& app, const core::ClipPic& clip) {
+    if (clip.Tag.empty() || !platform::isSafeEntryName(clip.Tag)) return {};
+    return app.platform.tempFolder() / clip.Tag;
+}
+
+ImageArchive::ImageArchive(App& app) : app_(app) {}
+
+void ImageArchive::extract(const std::string& name) {
+    if (bUnreadable_) return;
+    try {
+        if (!bOpen_) {
+            Zip_.SetBaseFolder(app_.platform.tempFolder());
+            bUnreadable_ = true;
+            Zip_.OpenArchive(app_.document.currentFile);
+            bUnreadable_ = false;
+            bOpen_ = true;
+        }
+        Zip_.ExtractFile(name);
+    } catch (const core::RunTimeError&) { // NOLINT(bugprone-empty-catch): the holder stays empty
+    }
+}
+
 void imgHolder_DblClick(App& app, int index) {
     core::ImgHolder* holder = app.document.layout.imgHolder.find(index);
     if (holder == nullptr || isDesignMode(app)) return;
     const std::optional<fs::path> file = chooseImage(app, "Select image for picture box.");
     if (!file) return;
+    if (!tryToAdd(app, [&] { addToArchive(app, *file, ""); })) return;
     fitImage(app, *holder, holder->viewImage, *file);
     holder->ToolTipText = file->filename().string();
-    addToArchive(app, *file, "");
     // An unpacked image of that name is another one from now on.
     const fs::path unpacked = app.platform.tempFolder() / file->filename();
     std::error_code error;
@@ -112,12 +156,16 @@ void selectClipArt(App& app, int iIndex) {
     if (clip == nullptr || !isDesignMode(app)) return;
     const std::optional<fs::path> file = chooseImage(app, "Select image for clip art.");
     if (!file) return;
-    fitImage(app, *clip, clip->clipImage, *file);
+    const fs::path copy = app.platform.tempFolder() / file->filename();
+    const bool added = tryToAdd(app, [&] {
+        addToArchive(app, *file, "Clip Art");
+        std::error_code error;
+        if (!fs::equivalent(*file, copy, error))
+            fs::copy_file(*file, copy, fs::copy_options::overwrite_existing);
+    });
+    if (!added) return;
     clip->Tag = file->filename().string();
-    const fs::path copy = app.platform.tempFolder() / clip->Tag;
-    std::error_code error;
-    if (!fs::equivalent(*file, copy, error)) fs::copy_file(*file, copy, fs::copy_options::overwrite_existing);
-    addToArchive(app, *file, "Clip Art");
+    fitImage(app, *clip, clip->clipImage, copy);
 }
 
 std::string storeClipboardImage(App& app, const FittedImage& image) {

@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 #include "core/layoutObjects.h"
+#include "platform/zip.h"
 
 #include <filesystem>
 #include <string>
@@ -16,6 +17,25 @@ constexpr const char* clipboardMark = "cbHolder";
 // and one that cannot be shown leave the holder empty, without a message.
 void fitImage(app::App& app, const core::LayoutObject& holder, core::FittedImage& image,
               const std::filesystem::path& path);
+
+// The images of the open database. It is opened by the first image that has to be unpacked; one that cannot
+// be unpacked (absent, damaged, too large) is passed over.
+class ImageArchive {
+public:
+    explicit ImageArchive(app::App& app);
+    void extract(const std::string& name);
+
+private:
+    app::App& app_;
+    platform::Zip Zip_;
+    bool bOpen_ = false, bUnreadable_ = false;
+};
+
+// Where the image of that entry lies in the work folder, unpacked when it is not there yet; an empty path for
+// no name, or one that is never unpacked.
+std::filesystem::path unpackedImage(app::App& app, const std::string& name, ImageArchive& archive);
+// The same for clip art, which an open has unpacked.
+std::filesystem::path clipArtFile(app::App& app, const core::ClipPic& clip);
 
 // Double clicks: choose a picture for the record (when browsing), or the clip art (when designing).
 // The archive changes at once.

@@ -16,7 +16,7 @@ constexpr int enterKey = 13;
 // What can be opened, or nothing.
 std::string addressOf(std::string_view target) {
     const std::string_view link = core::trim(target);
-    const bool isPlain = std::ranges::all_of(link, [](unsigned char c) { return c > ' ' && c != 0x7f; });
+    const bool isPlain = std::ranges::all_of(link, [](unsigned char c) { return c >= ' ' && c != 0x7f; });
     if (!isPlain) return {};
     const std::string upper = core::upper(link);
     if (upper.starts_with("WWW.")) return "http://" + std::string(link);

@@ -68,7 +68,9 @@ void forSelectedGroup(App& app, Visitor&& visit) {
     for (const int index : group) visit(ObjectRef{Family::layoutField, index});
 }
 
+// Boxes and lines have no text, but take the colour.
 void setFont(App& app, ObjectRef object, const platform::FontChoice& choice) {
+    if (std::int32_t* colour = findForeColor(app.document.layout, object)) *colour = choice.ForeColor;
     core::ObjectFont* font = findFont(app.document.layout, object);
     if (font == nullptr) return;
     font->FontName = choice.FontName;
@@ -77,7 +79,27 @@ void setFont(App& app, ObjectRef object, const platform::FontChoice& choice) {
     font->FontItalic = choice.FontItalic;
     font->FontUnderline = choice.FontUnderline;
     font->FontStrikethru = choice.FontStrikethru;
-    *findForeColor(app.document.layout, object) = choice.ForeColor;
+}
+
+platform::FontChoice presentFont(core::LayoutObjects& layout, ObjectRef object) {
+    const core::ObjectFont* own = findFont(layout, object);
+    const core::ObjectFont font = own != nullptr ? *own : core::ObjectFont();
+    const std::int32_t* colour = findForeColor(layout, object);
+    return {font.FontName,
+            font.FontSize,
+            font.FontBold,
+            font.FontItalic,
+            font.FontUnderline,
+            font.FontStrikethru,
+            colour != nullptr ? *colour : 0};
+}
+
+// A label that goes while it is typed in is no longer open.
+void closeSelectedLabel(App& app) {
+    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    if (selected.family != Family::tLabel) return;
+    const core::Label* label = app.document.layout.tLabel.find(selected.Index);
+    if (label != nullptr && !label->Locked) app.mainFrm.layoutPage.bEditingLabel = false;
 }
 
 } // namespace
@@ -145,10 +167,10 @@ void addVerticalLine(App& app) {
 
 void deleteSelectedObject(App& app) {
     core::LayoutObjects& layout = app.document.layout;
+    closeSelectedLabel(app);
     forSelectedGroup(app, [&](ObjectRef object) {
         visitFamily(layout, object.family, [&](auto& family) { family.unload(object.Index); });
     });
-    app.mainFrm.layoutPage.bEditingLabel = false;
     selectNothing(app);
 }
 
@@ -172,13 +194,8 @@ void flipFontStyle(App& app, FontStyle style) {
 }
 
 void setObjectFont(App& app) {
-    core::LayoutObjects& layout = app.document.layout;
-    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
-    const core::ObjectFont* font = findFont(layout, selected);
-    if (font == nullptr) return;
     const std::optional<platform::FontChoice> choice =
-        app.platform.showFont({font->FontName, font->FontSize, font->FontBold, font->FontItalic,
-                               font->FontUnderline, font->FontStrikethru, *findForeColor(layout, selected)});
+        app.platform.showFont(presentFont(app.document.layout, app.mainFrm.layoutPage.selectedObject));
     if (!choice) return;
     forSelectedGroup(app, [&](ObjectRef object) { setFont(app, object, *choice); });
 }

@@ -1,11 +1,15 @@
 #include "layout/selection.h"
 
 #include "layout/dragging.h"
+#include "layout/images.h"
 #include "layout/labels.h"
 #include "layout/objects.h"
 #include "layout/sheet.h"
 
 #include "core/number.h"
+#include "core/text.h"
+
+#include <optional>
 
 namespace layout {
 
@@ -52,10 +56,25 @@ void moveByKey(App& app, int KeyCode) {
         stackCopies(app, *app.document.layout.layoutField.find(page.selectedObject.Index), false);
 }
 
+// Where locks names the object. Files may write the index in another way than this program does.
+std::optional<std::size_t> lockOf(const App& app, ObjectRef object) {
+    std::size_t position = 0;
+    for (const auto& entry : app.document.locks) {
+        const std::string_view item = entry.item;
+        const std::size_t comma = item.find(',');
+        if (comma != std::string_view::npos &&
+            core::equalsNoCase(item.substr(0, comma), nameOf(object.family)) &&
+            core::val(item.substr(comma + 1)) == object.Index)
+            return position;
+        ++position;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 bool isLocked(const App& app, ObjectRef object) {
-    return object.isObject() && app.document.locks.contains(object.name());
+    return object.isObject() && lockOf(app, object).has_value();
 }
 
 void refreshLockIndicator(App& app) {
@@ -67,13 +86,13 @@ void refreshLockIndicator(App& app) {
 void toggleObjectLock(App& app) {
     LayoutPage& page = app.mainFrm.layoutPage;
     if (!page.selectedObject.isObject()) return;
+    const std::optional<std::size_t> lock = lockOf(app, page.selectedObject);
+    page.Handle.bLocked = !lock;
     const std::string name = page.selectedObject.name();
-    if (app.document.locks.removeItem(name)) {
-        page.Handle.bLocked = false;
-        return;
-    }
-    page.Handle.bLocked = true;
-    app.document.locks.add(name, name);
+    if (lock)
+        app.document.locks.removeAt(*lock);
+    else
+        app.document.locks.add(name, name);
 }
 
 void placeHandle(App& app, ObjectRef object) {
@@ -106,8 +125,10 @@ void object_MouseDown(App& app, ObjectRef object, MouseButton button, int X, int
 bool object_MouseUp(App& app, ObjectRef object, MouseButton button) {
     if (isText(object.family)) {
         if (!isDesignMode(app)) return false;
-        if (button == MouseButton::Left) endDrag(app);
-        if (button == MouseButton::Middle) setObjectFont(app);
+        if (button == MouseButton::Middle)
+            setObjectFont(app);
+        else
+            endDrag(app);
         return false;
     }
     endDrag(app);
@@ -128,6 +149,25 @@ void object_Click(App& app, ObjectRef object) {
             followLink(app, label->Tag);
     }
     refreshLockIndicator(app);
+}
+
+void object_DblClick(App& app, ObjectRef object) {
+    switch (object.family) {
+    case Family::tLabel:
+        tLabel_DblClick(app, object.Index);
+        break;
+    case Family::pBox:
+        pBox_DblClick(app, object.Index);
+        break;
+    case Family::clipPic:
+        selectClipArt(app, object.Index);
+        break;
+    case Family::imgHolder:
+        imgHolder_DblClick(app, object.Index);
+        break;
+    default:
+        break;
+    }
 }
 
 void Handle_MouseDown(App& app, long pointerX, long pointerY) {

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <set>
 
 namespace layout {
@@ -80,7 +82,10 @@ void enableToolbars(App& app, bool bDesign) {
 void placeMargins(App& app) {
     LayoutPage& page = app.mainFrm.layoutPage;
     const core::LayoutOptions& options = app.document.layoutOptions;
-    page.marginLeft = core::toInt16(options.layoutLeftMargin * twipsPerInch);
+    // A whole number; a margin beyond what 16 bits hold, which only a damaged file has, is off every sheet.
+    constexpr double furthest = std::numeric_limits<std::int16_t>::max();
+    page.marginLeft = static_cast<float>(
+        core::roundHalfEven(std::clamp(options.layoutLeftMargin * twipsPerInch, -furthest, furthest)));
     page.marginTop = static_cast<float>(options.layoutTopMargin * twipsPerInch);
     page.marginRight = static_cast<float>(page.layoutPic2.Width - options.layoutRightMargin * twipsPerInch);
     page.marginBottom =
@@ -91,9 +96,12 @@ void placeMargins(App& app) {
 
 platform::Extent pageExtent(App& app) {
     const core::LayoutOptions& options = app.document.layoutOptions;
+    const auto customTwips = [](float inches) {
+        constexpr double longest = 500; // inches; a damaged file may say anything
+        return static_cast<long>(core::roundHalfEven(std::clamp<double>(inches, 0, longest) * twipsPerInch));
+    };
     if (options.layoutPaperSize == core::customPaper)
-        return {static_cast<long>(core::roundHalfEven(options.customPaperLength * twipsPerInch)),
-                static_cast<long>(core::roundHalfEven(options.customPaperHeight * twipsPerInch))};
+        return {customTwips(options.customPaperLength), customTwips(options.customPaperHeight)};
     platform::Extent page = app.platform.paperExtent(options.layoutPaperSize).value_or(letter());
     if (options.layoutOrientation == core::landscape) std::swap(page.Width, page.Height);
     return page;
@@ -168,15 +176,15 @@ void layoutPic1_Resize(App& app, float width, float height) {
 void refreshLayoutScroll(App& app) {
     LayoutPage& page = app.mainFrm.layoutPage;
     LayoutPage::Sheet& sheet = page.layoutPic2;
-    page.ruler1.Height = app::rulerThickness;
-    page.ruler2.Width = app::rulerThickness;
     const auto excess = [](float length, float room) {
         return std::max(static_cast<int>(std::ceil(length - room)), 0);
     };
+    // A bar that becomes too short for where it stands goes to its end, and tells so.
     page.layoutVScroll.Max = excess(sheet.Height, page.viewportHeight);
-    page.layoutHScroll.Max = excess(sheet.Width, page.viewportWidth);
-    page.ruler1.Left = page.ruler2.Top = app::rulerThickness; // Shape1's size: they begin at the corner piece
+    if (page.layoutVScroll.Value > page.layoutVScroll.Max) layoutVScroll_Change(app, page.layoutVScroll.Max);
     if (page.layoutVScroll.Max > 0) sheet.Top = page.ruler1.Height;
+    page.layoutHScroll.Max = excess(sheet.Width, page.viewportWidth);
+    if (page.layoutHScroll.Value > page.layoutHScroll.Max) layoutHScroll_Change(app, page.layoutHScroll.Max);
     sheet.Left = page.ruler2.Width;
     page.bRulersVisible = isDesignMode(app);
     if (page.bRulersVisible) {
@@ -228,6 +236,7 @@ void unloadObjects(App& app) {
     page.selectedObject = {};
     page.Handle.Visible = false;
     page.drag = LayoutPage::Drag::None;
+    page.bEditingLabel = false;
 }
 
 } // namespace layout

@@ -40,17 +40,11 @@ std::optional<std::string> chooseFile(App& app, bool StartUp) {
 
 void extractClipArt(App& app) {
     if (!app.platform.keepsDataFile() || app.document.layout.clipPic.count() == 0) return;
-    platform::Zip Zip;
-    Zip.SetBaseFolder(app.platform.tempFolder());
-    Zip.OpenArchive(app.document.currentFile);
     // An entry that is not there passes silently: a clone names clip art that it does not have.
+    layout::ImageArchive archive(app);
     app.document.layout.clipPic.forEach([&](core::ClipPic& clip) {
-        Zip.ExtractFile(clip.Tag);
-        const bool isSafe = platform::isSafeEntryName(clip.Tag);
-        layout::fitImage(app, clip, clip.clipImage,
-                         isSafe ? app.platform.tempFolder() / clip.Tag : std::filesystem::path());
+        layout::fitImage(app, clip, clip.clipImage, layout::unpackedImage(app, clip.Tag, archive));
     });
-    Zip.CloseArchive();
 }
 
 void showInvoiceLists(App& app) {

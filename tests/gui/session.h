@@ -25,6 +25,9 @@ public:
     std::vector<Message> messages;
     std::deque<platform::Answer> answers; // Ok when there is none left
     std::optional<std::string> chosenFile;
+    std::deque<std::string> inputs;         // of input boxes; cancelled when there is none left
+    std::deque<platform::FontChoice> fonts; // of font dialogs; cancelled likewise
+    QStringList links;                      // that were opened
     QStringList forms;
     // What the user does in a form. The script has to close it. A form without a script is not shown.
     std::map<QString, std::function<void(QDialog&)>> scripts;
@@ -55,6 +58,20 @@ public:
             std::_Exit(EXIT_FAILURE); // nobody would ever close it
         });
         QtPlatform::showForm(name);
+    }
+    std::string inputBox(const std::string&, const std::string&, const std::string&) override {
+        return take(inputs).value_or("");
+    }
+    std::optional<platform::FontChoice> showFont(const platform::FontChoice&) override { return take(fonts); }
+    void openLink(const std::string& target) override { links << gui::toQt(target); }
+
+private:
+    template <typename Value>
+    static std::optional<Value> take(std::deque<Value>& queue) {
+        if (queue.empty()) return std::nullopt;
+        Value value = queue.front();
+        queue.pop_front();
+        return value;
     }
 };
 

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 
 #include <deque>
+#include <fstream>
 #include <functional>
 #include <map>
 #include <string>
@@ -36,12 +37,17 @@ public:
     std::deque<std::string> inputs;
     std::deque<std::string> files;
     std::function<void(std::string_view)> onForm;
+    std::deque<platform::FontChoice> fonts;
+    std::map<std::string, platform::Extent> pictures; // by file name; any other file is no picture
+    std::string clipboardPicture; // the bytes of the clipboard's bitmap; empty for a text, or nothing
 
     // What was asked.
     std::vector<Message> messages;
     std::vector<std::string> forms;
     std::vector<std::string> links;
     std::vector<platform::FileDialog> dialogs;
+    std::vector<platform::FontChoice> shownFonts;
+    std::vector<std::string> proposed; // by input boxes
     int paints = 0;
     std::function<void()> onPaint;
     std::map<std::string, std::string> settings;
@@ -56,15 +62,43 @@ public:
         if (buttons == platform::Buttons::Ok) return platform::Answer::Ok;
         return take(answers).value_or(platform::Answer::No);
     }
-    std::string inputBox(const std::string& prompt, const std::string& title, const std::string&) override {
+    std::string inputBox(const std::string& prompt, const std::string& title,
+                         const std::string& text) override {
         messages.push_back({prompt, platform::Icon::None, title});
+        proposed.push_back(text);
         return take(inputs).value_or("");
     }
-    std::optional<std::string> showOpen(const platform::FileDialog& dialog) override { return answer(dialog); }
-    std::optional<std::string> showSave(const platform::FileDialog& dialog) override { return answer(dialog); }
+    std::optional<std::string> showOpen(const platform::FileDialog& dialog) override {
+        return answer(dialog);
+    }
+    std::optional<std::string> showSave(const platform::FileDialog& dialog) override {
+        return answer(dialog);
+    }
     void showForm(std::string_view name) override {
         forms.emplace_back(name);
         if (onForm) onForm(name);
+    }
+    std::optional<platform::FontChoice> showFont(const platform::FontChoice& present) override {
+        shownFonts.push_back(present);
+        return take(fonts);
+    }
+    std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) override {
+        const auto found = pictures.find(path.filename().string());
+        if (found == pictures.end() || !std::filesystem::exists(path)) return std::nullopt;
+        return found->second;
+    }
+    bool saveClipboardPicture(const std::filesystem::path& path) override {
+        if (clipboardPicture.empty()) return false;
+        write(path, clipboardPicture);
+        pictures[path.filename().string()] = {3000, 1500};
+        return true;
+    }
+    void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
+                       int quality) override {
+        std::ifstream from(bitmap, std::ios::binary);
+        const std::string bytes((std::istreambuf_iterator<char>(from)), {});
+        write(jpeg, "quality " + std::to_string(quality) + " of " + bytes);
+        pictures[jpeg.filename().string()] = {3000, 1500};
     }
     void setMousePointer(platform::MousePointer) override {}
     void paintStatus() override {
@@ -75,7 +109,8 @@ public:
     std::filesystem::path workFolder() override { return folder / "work"; }
     std::filesystem::path tempFolder() override { return folder / "work" / "Temp"; }
     void clearWorkFiles() override {
-        for (const auto& entry : std::filesystem::directory_iterator(tempFolder())) std::filesystem::remove(entry);
+        for (const auto& entry : std::filesystem::directory_iterator(tempFolder()))
+            std::filesystem::remove(entry);
         std::filesystem::remove(workFolder() / "data.dat");
     }
     bool keepsDataFile() const override { return true; }
@@ -87,8 +122,20 @@ public:
     void flushSettings() override {}
     std::chrono::year_month_day today() override { return day; }
 
+    static void write(const std::filesystem::path& path, std::string_view bytes) {
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+    // A file of that size in twips, to be chosen.
+    std::string pictureFile(const std::string& name, platform::Extent extent,
+                            std::string_view bytes = "picture") {
+        pictures[name] = extent;
+        write(folder / name, bytes);
+        return (folder / name).string();
+    }
+
 private:
-    template <typename Value> static std::optional<Value> take(std::deque<Value>& queue) {
+    template <typename Value>
+    static std::optional<Value> take(std::deque<Value>& queue) {
         if (queue.empty()) return std::nullopt;
         Value value = queue.front();
         queue.pop_front();
