@@ -302,8 +302,10 @@ void entryFrmView::moveFocus() {
     if (!form_.boxToFocus) return;
     const auto index = static_cast<std::size_t>(*form_.boxToFocus);
     form_.boxToFocus.reset();
-    // As the Tab key does: what stands in the box is selected, and typing takes its place.
+    // As the Tab key does: what stands in the box is selected, and typing takes its place. A message about
+    // the box that is left comes in between and undoes the selection.
     FieldBox_.at(index)->setFocus(Qt::TabFocusReason);
+    FieldBox_.at(index)->selectAll();
 }
 
 // --- events ---
