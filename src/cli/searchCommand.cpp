@@ -70,7 +70,7 @@ void fillIn(Session& session, search::searchFrm& form, int number, const Group& 
         throw Failure(session.file, "the view on show has no column \"" + column.Text + "\"");
     form.List_Click(number, static_cast<int>(title - titles.begin()));
     form.Opt_Click(number, group.comparison);
-    const auto value = static_cast<std::size_t>(2 * number);
+    const std::size_t value = 2 * static_cast<std::size_t>(number);
     form.SearchText.at(value).Text = group.value;
     form.SearchText.at(value + 1).Text = group.to;
 }

@@ -88,7 +88,7 @@ void searchFrm::SearchText_LostFocus(int index) {
 void searchFrm::searchBtn_Click() {
     Groups groups;
     for (int group = 0; group < groupCount; ++group) {
-        const auto value = static_cast<std::size_t>(2 * group);
+        const std::size_t value = 2 * static_cast<std::size_t>(group);
         groups.at(static_cast<std::size_t>(group)) = {list(group).Text(), options(group).Value,
                                                       SearchText.at(value).Text,
                                                       SearchText.at(value + 1).Text};
