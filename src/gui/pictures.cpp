@@ -13,9 +13,13 @@ constexpr qint64 mostPixels = 64'000'000; // 256 MB while it is read
 constexpr qint64 mostFileBytes = 64'000'000;
 constexpr int largestShownSide = 4096;
 
-bool isWithinBounds(QSize size) {
+// A few bytes of a GIF can stand for any number of pixels, and all of them are unpacked.
+constexpr qint64 mostGifPixels = 16'000'000;
+
+bool isWithinBounds(QSize size, const QByteArray& format) {
     return size.isValid() && !size.isEmpty() &&
-           static_cast<qint64>(size.width()) * static_cast<qint64>(size.height()) <= mostPixels;
+           static_cast<qint64>(size.width()) * static_cast<qint64>(size.height()) <=
+               (format == "gif" ? mostGifPixels : mostPixels);
 }
 
 // Only what may be chosen is read, whatever else Qt has decoders for.
@@ -31,7 +35,7 @@ std::optional<QSize> pictureSize(const QString& path) {
     reader.setDecideFormatFromContent(true);
     if (!reader.canRead() || !isAllowedFormat(reader.format())) return std::nullopt;
     const QSize size = reader.size();
-    if (!isWithinBounds(size)) return std::nullopt;
+    if (!isWithinBounds(size, reader.format())) return std::nullopt;
     return size;
 }
 

@@ -97,10 +97,10 @@ void RulerView::mousePressEvent(QMouseEvent* event) {
     pressedGuide_ = index;
     ruleClick_ = event->position();
     pressed_ = index == 0;
-    if (index == 0) return;
+    const Guide* guide = guides().find(index);
+    if (guide == nullptr) return;
+    const QPointF inside = event->position() / pixelsPerTwip_ - QPointF(guide->Left, guide->Top);
     events_.run([&] {
-        const Guide& guide = *guides().find(index);
-        const QPointF inside = event->position() / pixelsPerTwip_ - QPointF(guide.Left, guide.Top);
         if (isHorizontal())
             layout::rulePic2_MouseDown(app_, index, int(std::lround(inside.x())));
         else

@@ -52,8 +52,9 @@ void moveByKey(App& app, int KeyCode) {
     if (KeyCode == keyLeft) object->Left -= stepX;
     if (KeyCode == keyDown) object->Top += stepY;
     if (KeyCode == keyUp) object->Top -= stepY;
-    if (page.selectedObject.family == Family::layoutField)
-        stackCopies(app, *app.document.layout.layoutField.find(page.selectedObject.Index), false);
+    if (page.selectedObject.family != Family::layoutField) return;
+    if (const core::LayoutField* field = app.document.layout.layoutField.find(page.selectedObject.Index))
+        stackCopies(app, *field, false);
 }
 
 // Where locks names the object. Files may write the index in another way than this program does.
