@@ -97,7 +97,8 @@ void Session::save() {
 
 void Session::saveAs(const std::string& target) {
     // The routine compares names as texts; a file has more than one of them.
-    platform.setSaveName(isSameFile(target, file) ? app.document.currentFile : target);
+    const std::string& current = app.document.currentFile;
+    platform.setSaveName(isSameFile(target, current) ? current : target);
     run(target, [this] { storage::SaveFile(app, true, false); });
 }
 
