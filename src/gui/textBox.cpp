@@ -64,6 +64,7 @@ TextBox::TextBox(QWidget* parent) : QTextEdit(parent) {
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document()->setDocumentMargin(textMargin);
     setLineWidth(1);
+    setFrameShadow(QFrame::Plain);
     setAutoFillBackground(true);
     connect(this, &QTextEdit::textChanged, this, [this] {
         if (showing_) return;
