@@ -52,6 +52,12 @@ public:
         const auto spot = position(index);
         return spot != objects_.end() && (*spot)->Index == index ? spot->get() : nullptr;
     }
+    // Raises subscriptOutOfRange for an object that is not there.
+    Object& operator[](int index) {
+        Object* object = find(index);
+        if (object == nullptr) raise(errors::subscriptOutOfRange, "object " + std::to_string(index));
+        return *object;
+    }
     const Object* find(int index) const { return const_cast<ControlArray*>(this)->find(index); }
 
     // Without the template, in Index order.

@@ -2,6 +2,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <cmath>
 
@@ -22,6 +23,7 @@ constexpr QRgb verticalGuide = 0xff1e8e3e;
 SheetPaper::SheetPaper(app::App& app, QWidget* parent) : QWidget(parent), app_(app) {
     setObjectName(QStringLiteral("layoutPic2"));
     setFocusPolicy(Qt::StrongFocus);
+    setPalette(style()->standardPalette()); // paper is white in the dark too, with frames that fit it
     setAccessibleName(tr("Layout sheet"));
 }
 

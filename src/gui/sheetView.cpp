@@ -70,6 +70,9 @@ SheetView::SheetView(app::App& app, EventBoundary& events, QWidget* parent)
     corner_->setAutoFillBackground(true);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Mid);
+    // Or they would take the grey of what they lie on.
+    grip_->setBackgroundRole(QPalette::Window);
+    corner_->setBackgroundRole(QPalette::Window);
     for (QWidget* watched : {static_cast<QWidget*>(paper_), grip_}) watched->installEventFilter(this);
     connect(objects_, &SheetObjects::created, this, [this](QWidget* widget) {
         widget->installEventFilter(this);

@@ -64,6 +64,7 @@ TextBox::TextBox(QWidget* parent) : QTextEdit(parent) {
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document()->setDocumentMargin(textMargin);
     setLineWidth(1);
+    setFrameShadow(QFrame::Plain);
     setAutoFillBackground(true);
     connect(this, &QTextEdit::textChanged, this, [this] {
         if (showing_) return;
@@ -77,15 +78,17 @@ void TextBox::show(const Look& look) {
     setFrameShape(look.frame ? QFrame::Box : QFrame::NoFrame);
     const QFont wanted = toQtFont(look.font);
     if (font() != wanted) setFont(wanted);
+    const QColor frameColor(0x80, 0x86, 0x8b);
     QPalette colours = palette();
     const QColor paper =
         look.backColor == layout::selectedLabelColor ? QColor(0xcf, 0xe2, 0xff) : toQtColor(look.backColor);
     if (colours.color(QPalette::Base) != paper ||
-        colours.color(QPalette::Text) != toQtColor(look.foreColor)) {
+        colours.color(QPalette::Text) != toQtColor(look.foreColor) ||
+        colours.color(QPalette::WindowText) != frameColor) {
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
             colours.setColor(group, QPalette::Base, paper);
             colours.setColor(group, QPalette::Text, toQtColor(look.foreColor));
-            colours.setColor(group, QPalette::WindowText, QColor(0x80, 0x86, 0x8b));
+            colours.setColor(group, QPalette::WindowText, frameColor);
         }
         setPalette(colours);
     }

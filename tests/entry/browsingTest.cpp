@@ -17,7 +17,7 @@ enum { Name = 1, Qty, Price, Made, Sum };
 class Browsing : public Sheet {
 protected:
     void press(const char* key) { entry::layoutNavBar_ButtonClick(app, key); }
-    std::string text(int index) { return objects.layoutField.find(index)->Text; }
+    std::string text(int index) { return objects.layoutField[index].Text; }
     std::string names() {
         std::string all;
         app.document.LV.forEach([&](const core::Item& item) { all += item.cells[0].str() + " "; });
@@ -72,12 +72,12 @@ TEST_F(Browsing, AnEmptyDatabaseKeepsTheSheetAsItWas) {
 
 TEST_F(Browsing, NewRecordsBeginWithSerialAndDate) {
     open(lines, "[Optioned Cols ]Qty|Made|\r\n[Increments    ]Qty,41|\r\n");
-    objects.imgHolder.find(1)->ToolTipText = "bolt.jpg";
+    objects.imgHolder[1].ToolTipText = "bolt.jpg";
     press("New");
     EXPECT_EQ(text(Name), "");
     EXPECT_EQ(text(Qty), "42");
     EXPECT_EQ(text(Made), "03/14/2026");
-    EXPECT_EQ(objects.imgHolder.find(1)->ToolTipText, "");
+    EXPECT_EQ(objects.imgHolder[1].ToolTipText, "");
     EXPECT_EQ(app.document.LV.count(), 4); // no record yet
     set(Name, "Ring");
     press("Add");
@@ -120,7 +120,7 @@ TEST_F(Browsing, UpdateAndDelete) {
 TEST_F(Browsing, AClipboardPictureIsStoredWithItsRecord) {
     open(lines);
     platform.clipboardPicture = "bitmap";
-    const core::ImgHolder& holder = *objects.imgHolder.find(1);
+    const core::ImgHolder& holder = objects.imgHolder[1];
     layout::select(app, {Family::imgHolder, 1});
     layout::mnuImportImage_Click(app);
     press("Next"); // never updated: lost, and nothing was stored

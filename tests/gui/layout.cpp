@@ -118,7 +118,12 @@ void LayoutJourneys::aPageIsDesignedAndRecordsAreTyped() {
         }
 
         run.select("pBox1");
+        const auto gripColour = [&] {
+            return run.find<QWidget>("Handle")->grab().toImage().pixelColor(4, 4);
+        };
+        QCOMPARE(gripColour(), QColor(Qt::black));
         run.click("Lock");
+        QCOMPARE(gripColour(), QColor(Qt::red));
         run.drag("pBox1", {50, 50});
         run.drag("Handle", {50, 50});
 
@@ -132,7 +137,7 @@ void LayoutJourneys::aPageIsDesignedAndRecordsAreTyped() {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCOMPARE(run.platform.messages.size(), 1U); // no line breaks
         run.select("layoutField1");
-        QVERIFY(run.objects.tLabel.find(1)->Locked);
+        QVERIFY(run.objects.tLabel[1].Locked);
         run.platform.fonts = {{"Liberation Serif", 11.5F, true, false, true, false, 0x0000FF}};
         run.click("Font");
         run.platform.chosenFile = gui::fromQt(logo);
@@ -218,17 +223,17 @@ void LayoutJourneys::typingInAField() {
     title->setFocus();
     title->moveCursor(QTextCursor::End);
     QTest::keyClick(title, Qt::Key_X);
-    QCOMPARE(run.objects.layoutField.find(2)->Text, std::string("100\u00a0mx"));
+    QCOMPARE(run.objects.layoutField[2].Text, std::string("100\u00a0mx"));
     // Paste, with the line break that came along.
     QGuiApplication::clipboard()->setText(QStringLiteral("one\r\ntwo\nthree"));
     title->selectAll();
     QTest::keyClick(title, Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(title->toPlainText(), QStringLiteral("one two three"));
     QTest::keyClick(title, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(run.objects.layoutField.find(2)->Text, std::string("100\u00a0mx"));
+    QCOMPARE(run.objects.layoutField[2].Text, std::string("100\u00a0mx"));
     QTest::keyClick(title, Qt::Key_Return);
     QCOMPARE(run.platform.messages.size(), 1U);
-    QCOMPARE(run.objects.layoutField.find(2)->Text, std::string("100\u00a0mx"));
+    QCOMPARE(run.objects.layoutField[2].Text, std::string("100\u00a0mx"));
     // What an input method commits goes through the same masks.
     price->setFocus();
     price->selectAll();
@@ -292,12 +297,12 @@ void LayoutJourneys::aPictureFromTheClipboard() {
     };
     QGuiApplication::clipboard()->setText(QStringLiteral("no picture"));
     import();
-    QCOMPARE(run.objects.imgHolder.find(1)->ToolTipText, std::string("cover1.jpg"));
+    QCOMPARE(run.objects.imgHolder[1].ToolTipText, std::string("cover1.jpg"));
     QImage picture(80, 40, QImage::Format_ARGB32);
     picture.fill(Qt::transparent);
     QGuiApplication::clipboard()->setImage(picture);
     import();
-    QCOMPARE(run.objects.imgHolder.find(1)->ToolTipText, std::string("cbHolder"));
+    QCOMPARE(run.objects.imgHolder[1].ToolTipText, std::string("cbHolder"));
     run.navigate("Update");
     const std::string name = run.LV().at(1).cells[7].str();
     platform::Zip zip;
@@ -316,12 +321,12 @@ void LayoutJourneys::guidesFollowTheMouse() {
     QVERIFY(!clear->isEnabled());
     QTest::mousePress(ruler, Qt::LeftButton, {}, {96, 4});
     QTest::mouseRelease(ruler, Qt::LeftButton, {}, {120, 4}); // where it was pressed counts
-    QCOMPARE(run.page.rulePic2.find(1)->line, 1455.0F);
+    QCOMPARE(run.page.rulePic2[1].line, 1455.0F);
     const QPoint marker(98, 12);
     QTest::mousePress(ruler, Qt::LeftButton, {}, marker);
     QTest::mouseMove(ruler, marker + QPoint(48, 0));
     QTest::mouseRelease(ruler, Qt::LeftButton, {}, marker + QPoint(48, 0));
-    QCOMPARE(run.page.rulePic2.find(1)->line, 1455.0F + 48 * 15 + 3 * 15);
+    QCOMPARE(run.page.rulePic2[1].line, 1455.0F + 48 * 15 + 3 * 15);
     // A double click on the bare ruler sets one guide; on a marker it takes it away.
     const auto doubleClick = [&](QPoint place) {
         QTest::mouseClick(ruler, Qt::LeftButton, {}, place);
@@ -335,7 +340,7 @@ void LayoutJourneys::guidesFollowTheMouse() {
     doubleClick({302, 12});
     QCOMPARE(run.page.rulePic2.count(), 1);
     QTest::mouseClick(run.find<QWidget>("ruler2"), Qt::LeftButton, {}, {4, 96});
-    QCOMPARE(run.page.rulePic.find(1)->line, 1430.0F);
+    QCOMPARE(run.page.rulePic[1].line, 1430.0F);
     QTest::mouseClick(clear, Qt::LeftButton);
     QCOMPARE(run.page.rulePic.count() + run.page.rulePic2.count(), 0);
 }
@@ -348,10 +353,10 @@ void LayoutJourneys::keysStayWithTheSheet() {
     QCOMPARE(QApplication::focusWidget(), run.sheet());
     run.select("layoutField8");
     run.click("Bold");
-    QVERIFY(run.objects.layoutField.find(8)->FontBold);
-    const float left = run.objects.layoutField.find(8)->Left;
+    QVERIFY(run.objects.layoutField[8].FontBold);
+    const float left = run.objects.layoutField[8].Left;
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right, Qt::ControlModifier);
-    QCOMPARE(run.objects.layoutField.find(8)->Left, left + 120);
+    QCOMPARE(run.objects.layoutField[8].Left, left + 120);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
     QVERIFY(run.objects.layoutField.find(8) == nullptr);
     QCOMPARE(run.LV().count(), 43); // no record has been deleted
@@ -390,7 +395,7 @@ void LayoutJourneys::theWheelAndTheBarsScroll() {
     bar->setValue(0);
     QCOMPARE(run.sheet()->y(), top);
     run.click("Box"); // lands on the visible part
-    QCOMPARE(run.objects.pBox.find(2)->Top, 1815.0F);
+    QCOMPARE(run.objects.pBox[2].Top, 1815.0F);
 }
 
 QTEST_MAIN(LayoutJourneys)

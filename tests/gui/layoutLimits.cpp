@@ -142,8 +142,8 @@ void LayoutLimits::fontsThatAreNotThereFallBack() {
     LayoutSession run(folders_.sample("books.fwk"));
     for (const char* family : {"No Such Font At All", "", "MS Sans Serif"}) {
         for (const float size : {8.25F, 0.0F, -3.0F, 1e9F}) {
-            run.objects.layoutField.find(2)->FontName = family;
-            run.objects.layoutField.find(2)->FontSize = size;
+            run.objects.layoutField[2].FontName = family;
+            run.objects.layoutField[2].FontSize = size;
             run.showLayout();
             layout::InitLayout(run.app, false);
             run.window.refresh();
@@ -219,7 +219,7 @@ void LayoutLimits::movingStaysSmoothAmongManyObjects() {
     run.pressDesign();
     for (int i = 0; run.objects.count() < 200; ++i) {
         run.click(i % 4 == 0 ? "Box" : i % 4 == 1 ? "Line" : i % 4 == 2 ? "Label" : "ClipArt");
-        core::LayoutObject& added = *core::findObject(run.objects, run.page.selectedObject);
+        core::LayoutObject& added = objectAt(run.objects, run.page.selectedObject);
         added.Left = static_cast<float>(200 + i % 14 * 800);
         added.Top = static_cast<float>(200 + i / 14 * 600);
         added.Width = added.Height = 500;

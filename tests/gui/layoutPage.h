@@ -12,6 +12,13 @@
 #include <QTextEdit>
 #include <QToolButton>
 
+// An object that the test knows to be there.
+inline core::LayoutObject& objectAt(core::LayoutObjects& layout, core::ObjectRef ref) {
+    core::LayoutObject* object = core::findObject(layout, ref);
+    if (object == nullptr) core::raise(core::errors::subscriptOutOfRange, ref.name());
+    return *object;
+}
+
 // A run with its layout page: objects are found by the names of their arrays, and every event is the mouse's
 // or the keyboard's. A pixel is 15 twips.
 struct LayoutSession : Session {

@@ -14,7 +14,7 @@ struct Drag {
 
     Drag(app::App& toUse, ObjectRef taken, MouseButton button = MouseButton::Left)
         : app(toUse), object(taken) {
-        const core::LayoutObject& at = *core::findObject(app.document.layout, object);
+        const core::LayoutObject& at = objectAt(app.document.layout, object);
         X = std::lround(at.Left) + 50;
         Y = std::lround(at.Top) + 40;
         const bool border = object.family == Family::layoutField || object.family == Family::imgHolder;
@@ -63,7 +63,7 @@ TEST_F(Sheet, WithoutSnapEveryKindFollowsThePointerExactly) {
         const ObjectRef object{family, 1};
         Drag drag(app, object);
         EXPECT_FALSE(page.Handle.Visible);
-        const core::LayoutObject& at = *core::findObject(objects, object);
+        const core::LayoutObject& at = objectAt(objects, object);
         EXPECT_EQ(at.Left, 1000); // a press alone moves nothing
         drag.by(1, 0).by(-34, 77);
         EXPECT_EQ(at.Left, 967);
@@ -104,7 +104,7 @@ TEST_F(Sheet, SnapWaitsForMoreThanAStepAndRoundsHalfToEven) {
     open(lines);
     design();
     app.mainFrm.bSnapToGrid = true;
-    core::LayoutObject& box = *objects.pBox.find(1);
+    core::LayoutObject& box = objects.pBox[1];
     for (const Case& c : cases) {
         for (const bool vertical : {false, true}) {
             SCOPED_TRACE(testing::Message()
@@ -141,7 +141,7 @@ TEST_F(Sheet, ResizingGivesEachKindItsOwnDirections) {
             open(lines);
             design();
             app.mainFrm.bSnapToGrid = snap;
-            core::LayoutObject& object = *core::findObject(objects, {c.family, 1});
+            core::LayoutObject& object = objectAt(objects, {c.family, 1});
             GripDrag drag(app, {c.family, 1}, 9000, 9000);
             drag.to(999, 5000).to(5000, 1000).to(1000, 1000); // above or left of the corner nothing happens
             if (!snap) drag.to(1500, 1500);
@@ -161,7 +161,7 @@ TEST_F(Sheet, SnappedSizesWaitForMoreThanAStepToo) {
     open(lines);
     design();
     app.mainFrm.bSnapToGrid = true;
-    const core::LayoutObject& box = *objects.pBox.find(1);
+    const core::LayoutObject& box = objects.pBox[1];
     GripDrag drag(app, {Family::pBox, 1}, 2800, 1900);
     drag.to(2920, 1780);
     EXPECT_EQ(place(box), "1000 1000 1800 900");
@@ -174,13 +174,13 @@ TEST_F(Sheet, SnappedSizesWaitForMoreThanAStepToo) {
 TEST_F(Sheet, ClipArtIsFittedAnewWhenItHasBeenSized) {
     platform.pictures["art.gif"] = {3000, 1500};
     open(lines);
-    const core::FittedImage& image = objects.clipPic.find(1)->clipImage;
+    const core::FittedImage& image = objects.clipPic[1].clipImage;
     EXPECT_EQ(image.Width, 2174); // too wide for its height: one twip less than the holder
     design();
     app.mainFrm.bSnapToGrid = false;
     GripDrag drag(app, {Family::clipPic, 1}, 3175, 2815);
     drag.to(5000, 5000).release();
-    EXPECT_EQ(objects.clipPic.find(1)->Width, 4000);
+    EXPECT_EQ(objects.clipPic[1].Width, 4000);
     EXPECT_EQ(image.Width, 3000); // its natural size
     EXPECT_EQ(image.Left, 500);
     EXPECT_EQ(image.Top, 1250);
@@ -198,11 +198,11 @@ TEST_F(Sheet, LocksStopTheMouseAlone) {
     EXPECT_FALSE(layout::isLocked(app, {Family::layoutField, 1}));
     Drag(app, box).by(300, 300).release();
     GripDrag(app, box, 2800, 1900).to(4000, 4000).release();
-    EXPECT_EQ(place(*objects.pBox.find(1)), "1000 1000 1800 900");
+    EXPECT_EQ(place(objects.pBox[1]), "1000 1000 1800 900");
     EXPECT_TRUE(page.Handle.Visible); // red, where it belongs
     EXPECT_EQ(page.Handle.Left, 2800);
     EXPECT_TRUE(layout::Form_KeyDown(app, layout::keyRight, layout::ctrlShift));
-    EXPECT_EQ(objects.pBox.find(1)->Left, 1015);
+    EXPECT_EQ(objects.pBox[1].Left, 1015);
     layout::object_Click(app, {Family::layoutField, 1});
     EXPECT_FALSE(page.Handle.bLocked);
     EXPECT_FALSE(app.mainFrm.control("layoutToolbar.Lock").Value);
@@ -214,22 +214,22 @@ TEST_F(Sheet, ARepeatedFieldMovesAndSizesAsOne) {
     design();
     app.mainFrm.bSnapToGrid = false;
     Drag(app, {Family::layoutField, 1}).by(200, 100).release();
-    EXPECT_EQ(place(*objects.layoutField.find(1)), "1200 1100 900 300");
-    EXPECT_EQ(place(*objects.layoutField.find(3)), "1200 1400 900 300");
-    EXPECT_EQ(place(*objects.layoutField.find(4)), "1200 1700 900 300");
+    EXPECT_EQ(place(objects.layoutField[1]), "1200 1100 900 300");
+    EXPECT_EQ(place(objects.layoutField[3]), "1200 1400 900 300");
+    EXPECT_EQ(place(objects.layoutField[4]), "1200 1700 900 300");
     GripDrag(app, {Family::layoutField, 1}, 2100, 1400).to(2200, 1600).release();
-    EXPECT_EQ(place(*objects.layoutField.find(3)), "1200 1600 1000 500");
-    EXPECT_EQ(place(*objects.layoutField.find(4)), "1200 2100 1000 500");
+    EXPECT_EQ(place(objects.layoutField[3]), "1200 1600 1000 500");
+    EXPECT_EQ(place(objects.layoutField[4]), "1200 2100 1000 500");
     layout::Form_KeyDown(app, layout::keyUp, layout::ctrlShift);
-    EXPECT_EQ(place(*objects.layoutField.find(4)), "1200 2085 1000 500");
-    EXPECT_EQ(place(*objects.layoutField.find(2)), "100 5000 1800 300");
+    EXPECT_EQ(place(objects.layoutField[4]), "1200 2085 1000 500");
+    EXPECT_EQ(place(objects.layoutField[2]), "100 5000 1800 300");
 }
 
 TEST_F(Sheet, TheMouseMovesNothingWhileBrowsing) {
     open(lines);
     for (const Family family : kinds) {
         Drag(app, {family, 1}).by(500, 500).release();
-        EXPECT_EQ(core::findObject(objects, {family, 1})->Left, 1000) << core::nameOf(family);
+        EXPECT_EQ(objectAt(objects, {family, 1}).Left, 1000) << core::nameOf(family);
         EXPECT_EQ(page.selectedObject.family, family); // but a click selects
     }
     layout::Handle_MouseDown(app, 3000, 3000);
@@ -247,7 +247,7 @@ TEST_F(Sheet, TheMiddleButtonChoosesAFont) {
         Drag drag(app, {family, 1}, MouseButton::Middle);
         drag.by(500, 500);
         EXPECT_FALSE(layout::object_MouseUp(app, {family, 1}, MouseButton::Middle));
-        EXPECT_EQ(core::findObject(objects, {family, 1})->Left, 1000);
+        EXPECT_EQ(objectAt(objects, {family, 1}).Left, 1000);
         EXPECT_EQ(core::findFont(objects, {family, 1})->FontName, "Courier New");
     }
     browse();
@@ -287,7 +287,7 @@ TEST_F(Sheet, KeysMoveAndDelete) {
     };
     open(lines);
     design();
-    core::LayoutObject& box = *objects.pBox.find(1);
+    core::LayoutObject& box = objects.pBox[1];
     layout::select(app, {Family::pBox, 1});
     for (const Case& c : cases) {
         box.Left = box.Top = 1000;
@@ -315,7 +315,7 @@ TEST_F(Sheet, ALabelThatIsTypedInIsNeitherDraggedNorDeleted) {
     layout::object_DblClick(app, label);
     EXPECT_TRUE(page.bEditingLabel);
     Drag(app, label).by(300, 300);
-    EXPECT_EQ(objects.tLabel.find(1)->Left, 1000);
+    EXPECT_EQ(objects.tLabel[1].Left, 1000);
     EXPECT_FALSE(layout::Form_KeyDown(app, layout::keyDelete, 0));
     EXPECT_EQ(objects.tLabel.count(), 1);
     layout::addBox(app);

@@ -51,9 +51,9 @@ TEST_F(Sheet, ImagesAreFittedToTheTwip) {
 TEST_F(Sheet, RecordsShowTheirImages) {
     platform.pictures["bolt.jpg"] = {1500, 1500};
     open(lines);
-    const core::ImgHolder& photo = *objects.imgHolder.find(1);
+    const core::ImgHolder& photo = objects.imgHolder[1];
     EXPECT_EQ(photo.viewImage.path, platform.tempFolder() / "bolt.jpg");
-    EXPECT_EQ(objects.imgHolder.find(2)->viewImage.path, "");
+    EXPECT_EQ(objects.imgHolder[2].viewImage.path, "");
     app.document.LV.setSelectedItem(&app.document.LV.at(3));
     layout::InitLayout(app, false); // an image that the archive does not hold
     EXPECT_EQ(photo.viewImage.path, "");
@@ -83,11 +83,7 @@ TEST_F(Sheet, ADamagedImageLeavesItsHolderEmpty) {
     data.rows = "bolt.jpg|bolt.jpg|\r\n------|------|\r\n";
     const std::string file = program.make("sheet.fwk", data.text(), {"bolt.jpg", "art.gif"});
     // One byte of each image's contents is another one: the checksum tells.
-    std::string bytes;
-    {
-        std::ifstream in(file, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(in), {});
-    }
+    std::string bytes = ScriptedPlatform::read(file);
     for (const std::string name : {"bolt.jpg", "art.gif"}) {
         const std::size_t place = bytes.find(name); // the contents follow the first mention
         ASSERT_NE(place, std::string::npos);
@@ -97,14 +93,14 @@ TEST_F(Sheet, ADamagedImageLeavesItsHolderEmpty) {
     program.open(file);
     EXPECT_EQ(app.document.currentFile, file); // the open has gone on
     shell::SSTab1_Click(app, app::layoutTab);
-    EXPECT_EQ(objects.imgHolder.find(1)->viewImage.path, "");
-    EXPECT_EQ(objects.clipPic.find(1)->clipImage.path, "");
+    EXPECT_EQ(objects.imgHolder[1].viewImage.path, "");
+    EXPECT_EQ(objects.clipPic[1].clipImage.path, "");
     EXPECT_FALSE(std::filesystem::exists(platform.tempFolder() / "bolt.jpg"));
 }
 
 TEST_F(Sheet, ChoosingAPictureForARecord) {
     open(lines);
-    const core::ImgHolder& holder = *objects.imgHolder.find(2);
+    const core::ImgHolder& holder = objects.imgHolder[2];
     const char* const refusal = "You selected a file other than a GIF or JPEG.  Please try again.";
     for (const char* name : {"photo.jpeg", "photo.png", "readme.txt"}) {
         platform.files.push_back(platform.pictureFile(name, {1500, 1500}));
@@ -145,14 +141,14 @@ TEST_F(Sheet, ChoosingClipArt) {
     platform.files.push_back(platform.pictureFile("logo.gif", {1500, 1500}, "logo"));
     layout::object_DblClick(app, {Family::clipPic, 1});
     EXPECT_EQ(platform.dialogs.back().title, "Select image for clip art.");
-    EXPECT_EQ(objects.clipPic.find(1)->Tag, "logo.gif");
-    EXPECT_EQ(objects.clipPic.find(1)->clipImage.path, platform.tempFolder() / "logo.gif");
+    EXPECT_EQ(objects.clipPic[1].Tag, "logo.gif");
+    EXPECT_EQ(objects.clipPic[1].clipImage.path, platform.tempFolder() / "logo.gif");
     platform::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     EXPECT_EQ(Zip.FileNameAt(3), "logo.gif");
     EXPECT_EQ(Zip.commentAt(3), "Clip Art");
     layout::object_DblClick(app, {Family::clipPic, 1}); // cancelled
-    EXPECT_EQ(objects.clipPic.find(1)->Tag, "logo.gif");
+    EXPECT_EQ(objects.clipPic[1].Tag, "logo.gif");
 }
 
 TEST_F(Sheet, AnArchiveThatTakesNoPictureIsTold) {
@@ -164,19 +160,19 @@ TEST_F(Sheet, AnArchiveThatTakesNoPictureIsTold) {
         layout::object_DblClick(app, {designing ? Family::clipPic : Family::imgHolder, 1});
         EXPECT_EQ(platform.messages.back().icon, platform::Icon::Exclamation);
     }
-    EXPECT_EQ(objects.imgHolder.find(1)->ToolTipText, "bolt.jpg");
-    EXPECT_EQ(objects.clipPic.find(1)->Tag, "art.gif");
+    EXPECT_EQ(objects.imgHolder[1].ToolTipText, "bolt.jpg");
+    EXPECT_EQ(objects.clipPic[1].Tag, "art.gif");
 }
 
 TEST_F(Sheet, TheClipboardFillsThePictureThatIsSelected) {
     open(lines);
     layout::select(app, {Family::imgHolder, 2});
     layout::mnuImportImage_Click(app); // the clipboard holds a text
-    EXPECT_EQ(objects.imgHolder.find(2)->ToolTipText, "");
+    EXPECT_EQ(objects.imgHolder[2].ToolTipText, "");
     platform.clipboardPicture = "bitmap";
     layout::mnuImportImage_Click(app);
-    EXPECT_EQ(objects.imgHolder.find(2)->ToolTipText, "cbHolder");
-    EXPECT_EQ(objects.imgHolder.find(2)->viewImage.Width, 1814);
+    EXPECT_EQ(objects.imgHolder[2].ToolTipText, "cbHolder");
+    EXPECT_EQ(objects.imgHolder[2].viewImage.Width, 1814);
     platform::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     EXPECT_EQ(Zip.FileCount(), 3); // nothing is stored yet
@@ -185,10 +181,10 @@ TEST_F(Sheet, TheClipboardFillsThePictureThatIsSelected) {
     design();
     layout::select(app, {Family::clipPic, 1});
     layout::mnuImportImage_Click(app);
-    const std::string name = objects.clipPic.find(1)->Tag;
+    const std::string name = objects.clipPic[1].Tag;
     EXPECT_TRUE(name.starts_with("cb") && name.ends_with(".jpg")) << name;
     EXPECT_EQ(entry(name), "quality 75 of bitmap"); // at once
-    EXPECT_EQ(objects.clipPic.find(1)->clipImage.path, platform.tempFolder() / name);
+    EXPECT_EQ(objects.clipPic[1].clipImage.path, platform.tempFolder() / name);
     layout::addBox(app);
     layout::mnuImportImage_Click(app);
     EXPECT_TRUE(platform.messages.empty());

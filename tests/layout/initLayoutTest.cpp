@@ -11,24 +11,24 @@ TEST_F(Sheet, BothModesShowTheirSide) {
     app.mainFrm.bHighlightCalc = true;
     open(fields);
     EXPECT_TRUE(page.layoutPic2.Visible);
-    EXPECT_EQ(objects.layoutField.find(1)->Text, "Bolt");
-    EXPECT_FALSE(objects.layoutField.find(1)->Locked);
-    EXPECT_EQ(objects.layoutField.find(2)->BackColor, 0xFFFF55); // light cyan
-    EXPECT_EQ(objects.imgHolder.find(1)->BackColor, core::white);
-    EXPECT_EQ(objects.imgHolder.find(1)->ToolTipText, "bolt.jpg");
-    EXPECT_EQ(objects.clipPic.find(1)->BorderStyle, 0);
+    EXPECT_EQ(objects.layoutField[1].Text, "Bolt");
+    EXPECT_FALSE(objects.layoutField[1].Locked);
+    EXPECT_EQ(objects.layoutField[2].BackColor, 0xFFFF55); // light cyan
+    EXPECT_EQ(objects.imgHolder[1].BackColor, core::white);
+    EXPECT_EQ(objects.imgHolder[1].ToolTipText, "bolt.jpg");
+    EXPECT_EQ(objects.clipPic[1].BorderStyle, 0);
     EXPECT_FALSE(page.layoutToolbarInFront || page.bGrid || page.bRulersVisible);
 
     design();
-    EXPECT_EQ(objects.layoutField.find(1)->Text, "Name");
-    EXPECT_TRUE(objects.layoutField.find(1)->Locked);
-    EXPECT_EQ(objects.layoutField.find(2)->BackColor, 0xFFFF55);
-    EXPECT_EQ(objects.imgHolder.find(1)->BackColor, 0x808080);
-    const core::FittedImage& image = objects.imgHolder.find(1)->viewImage;
+    EXPECT_EQ(objects.layoutField[1].Text, "Name");
+    EXPECT_TRUE(objects.layoutField[1].Locked);
+    EXPECT_EQ(objects.layoutField[2].BackColor, 0xFFFF55);
+    EXPECT_EQ(objects.imgHolder[1].BackColor, 0x808080);
+    const core::FittedImage& image = objects.imgHolder[1].viewImage;
     EXPECT_EQ(image.path, "");
     EXPECT_EQ(image.Width, 1815);
     EXPECT_EQ(image.Left, 0);
-    EXPECT_EQ(objects.clipPic.find(1)->BorderStyle, 1);
+    EXPECT_EQ(objects.clipPic[1].BorderStyle, 1);
     EXPECT_TRUE(page.layoutToolbarInFront && page.bGrid && page.bRulersVisible);
     EXPECT_TRUE(app.mainFrm.control("layoutToolbar.Picture").Enabled);
     EXPECT_FALSE(app.mainFrm.control("layoutToolbar.Rows").Enabled);
@@ -38,16 +38,16 @@ TEST_F(Sheet, BothModesShowTheirSide) {
     app.document.bModified = false;
     page.Handle.Visible = true;
     layout::select(app, {Family::tLabel, 1});
-    objects.tLabel.find(1)->BackColor = 0;
+    objects.tLabel[1].BackColor = 0;
     browse();
-    EXPECT_EQ(objects.layoutField.find(1)->Text, "Bolt");
-    EXPECT_EQ(objects.tLabel.find(1)->BackColor, core::white);
+    EXPECT_EQ(objects.layoutField[1].Text, "Bolt");
+    EXPECT_EQ(objects.tLabel[1].BackColor, core::white);
     EXPECT_TRUE(app.document.bModified);
     EXPECT_FALSE(page.Handle.Visible);
     EXPECT_EQ(page.selectedObject.name(), "tLabel,1"); // outlives the change of modes
     app.mainFrm.bHighlightCalc = false;
     layout::InitLayout(app, false);
-    EXPECT_EQ(objects.layoutField.find(2)->BackColor, core::white);
+    EXPECT_EQ(objects.layoutField[2].BackColor, core::white);
 }
 
 TEST_F(Sheet, DesignIsRefusedWhenLocked) {
@@ -62,15 +62,15 @@ TEST_F(Sheet, DesignIsRefusedWhenLocked) {
 TEST_F(Sheet, OnlyTheHeadOfARepeatedFieldAnswersTheMouse) {
     const std::string line = "F|Qty|100|100|1000|300|False|False|False|Arial|8|0|\r\n";
     open(line + line + fields + line);
-    EXPECT_TRUE(objects.layoutField.find(2)->Enabled);
+    EXPECT_TRUE(objects.layoutField[2].Enabled);
     design();
-    EXPECT_TRUE(objects.layoutField.find(1)->Enabled);
-    EXPECT_FALSE(objects.layoutField.find(2)->Enabled);
-    EXPECT_TRUE(objects.layoutField.find(3)->Enabled);
-    EXPECT_FALSE(objects.layoutField.find(5)->Enabled);
-    EXPECT_EQ(objects.layoutField.find(5)->Text, "Qty");
+    EXPECT_TRUE(objects.layoutField[1].Enabled);
+    EXPECT_FALSE(objects.layoutField[2].Enabled);
+    EXPECT_TRUE(objects.layoutField[3].Enabled);
+    EXPECT_FALSE(objects.layoutField[5].Enabled);
+    EXPECT_EQ(objects.layoutField[5].Text, "Qty");
     browse();
-    EXPECT_TRUE(objects.layoutField.find(5)->Enabled);
+    EXPECT_TRUE(objects.layoutField[5].Enabled);
 }
 
 TEST_F(Sheet, ThePaperGivesTheSheetItsSize) {

@@ -11,6 +11,13 @@
 
 #include <gtest/gtest.h>
 
+// An object that the test knows to be there.
+inline core::LayoutObject& objectAt(core::LayoutObjects& layout, core::ObjectRef ref) {
+    core::LayoutObject* object = core::findObject(layout, ref);
+    if (object == nullptr) core::raise(core::errors::subscriptOutOfRange, ref.name());
+    return *object;
+}
+
 // A database of all kinds of columns with its layout page in front. The viewport is 6000 x 5000 twips and a
 // pixel 15 twips, unless a test says otherwise.
 class Sheet : public testing::Test {

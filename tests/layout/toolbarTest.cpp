@@ -8,7 +8,7 @@
 namespace {
 
 const core::LayoutObject& selectedIn(app::App& app) {
-    return *core::findObject(app.document.layout, app.mainFrm.layoutPage.selectedObject);
+    return objectAt(app.document.layout, app.mainFrm.layoutPage.selectedObject);
 }
 
 TEST_F(Sheet, EveryButtonAddsItsObjectAtTheCommonPlace) {
@@ -40,10 +40,10 @@ TEST_F(Sheet, EveryButtonAddsItsObjectAtTheCommonPlace) {
         EXPECT_FALSE(page.Handle.bLocked);
         EXPECT_EQ(page.Handle.Top, added.Top + added.Height);
     }
-    EXPECT_EQ(objects.layoutField.find(1)->Text, "Name");
-    EXPECT_EQ(objects.imgHolder.find(1)->BackColor, 0x808080);
-    EXPECT_EQ(objects.clipPic.find(1)->BorderStyle, 1);
-    EXPECT_GT(objects.imgHolder.find(1)->zOrder, objects.layoutField.find(1)->zOrder);
+    EXPECT_EQ(objects.layoutField[1].Text, "Name");
+    EXPECT_EQ(objects.imgHolder[1].BackColor, 0x808080);
+    EXPECT_EQ(objects.clipPic[1].BorderStyle, 1);
+    EXPECT_GT(objects.imgHolder[1].zOrder, objects.layoutField[1].zOrder);
 }
 
 TEST_F(Sheet, AColumnIsPlacedOnce) {
@@ -65,7 +65,7 @@ TEST_F(Sheet, FieldsAreAlignedAndTintedByTheirColumn) {
     app.mainFrm.bHighlightCalc = true;
     for (const char* column : {"Name", "Qty", "Price", "Made", "Sum"}) {
         layout::layoutToolbar_ButtonMenuClick(app, column);
-        const core::LayoutField& field = *objects.layoutField.find(page.selectedObject.Index);
+        const core::LayoutField& field = objects.layoutField[page.selectedObject.Index];
         const bool numeric = app.document.isNumericColumn(column);
         EXPECT_EQ(field.align, numeric ? core::Alignment::Right : core::Alignment::Left) << column;
         EXPECT_EQ(field.BackColor == core::white, std::string_view(column) != "Sum") << column;
@@ -107,7 +107,7 @@ TEST_F(Sheet, DeletingTheHeadTakesTheWholeGroup) {
     layout::select(app, {Family::layoutField, 1});
     layout::layoutToolbar_ButtonClick(app, "Delete");
     EXPECT_EQ(objects.layoutField.count(), 1);
-    EXPECT_EQ(objects.layoutField.find(2)->Tag, "Name");
+    EXPECT_EQ(objects.layoutField[2].Tag, "Name");
 
     layout::layoutToolbar_ButtonClick(app, "Nuke"); // answered No
     EXPECT_EQ(platform.messages.back().text, "Are you sure?");
@@ -132,15 +132,15 @@ TEST_F(Sheet, AutomaticLabelsTakeTheNameOfTheField) {
         c.column != nullptr ? layout::layoutToolbar_ButtonMenuClick(app, c.column) : layout::addBox(app);
         page.Handle.bLocked = true;
         layout::layoutToolbar_ButtonMenuClick(app, "AutoLabel");
-        const core::Label& label = *objects.tLabel.find(page.selectedObject.Index);
+        const core::Label& label = objects.tLabel[page.selectedObject.Index];
         EXPECT_EQ(label.Text, c.text);
         EXPECT_EQ(label.FontBold, c.bold);
         EXPECT_TRUE(page.Handle.bLocked); // the menu leaves the grip's colour alone
     }
     layout::object_Click(app, {Family::tLabel, 1});
-    EXPECT_EQ(objects.tLabel.find(1)->BackColor, layout::selectedLabelColor);
+    EXPECT_EQ(objects.tLabel[1].BackColor, layout::selectedLabelColor);
     layout::layoutToolbar_ButtonClick(app, "Label"); // the new one is selected, the old one no longer marked
-    EXPECT_EQ(objects.tLabel.find(1)->BackColor, core::white);
+    EXPECT_EQ(objects.tLabel[1].BackColor, core::white);
 }
 
 TEST_F(Sheet, FontsAndColours) {
@@ -152,40 +152,38 @@ TEST_F(Sheet, FontsAndColours) {
     EXPECT_EQ(platform.shownFonts.back().FontName, "Arial");
     EXPECT_TRUE(platform.shownFonts.back().FontBold);
     EXPECT_EQ(platform.shownFonts.back().ForeColor, 128);
-    EXPECT_EQ(objects.layoutField.find(1)->FontName, "Arial");
+    EXPECT_EQ(objects.layoutField[1].FontName, "Arial");
     platform.fonts.push_back({"Times New Roman", 14.25F, false, true, true, true, 0xFF0000});
     layout::layoutToolbar_ButtonClick(app, "Font");
     for (const int index : {1, 2}) { // the copies too
-        const core::LayoutField& field = *objects.layoutField.find(index);
+        const core::LayoutField& field = objects.layoutField[index];
         EXPECT_EQ(field.FontName, "Times New Roman");
         EXPECT_EQ(field.FontSize, 14.25F);
         EXPECT_TRUE(!field.FontBold && field.FontItalic && field.FontUnderline && field.FontStrikethru);
         EXPECT_EQ(field.ForeColor, 0xFF0000);
     }
     for (const char* button : {"Bold", "Italic", "Underline"}) layout::layoutToolbar_ButtonClick(app, button);
-    EXPECT_TRUE(objects.layoutField.find(1)->FontBold); // of this one alone
-    EXPECT_FALSE(objects.layoutField.find(1)->FontItalic || objects.layoutField.find(1)->FontUnderline);
-    EXPECT_TRUE(objects.layoutField.find(2)->FontItalic);
+    EXPECT_TRUE(objects.layoutField[1].FontBold); // of this one alone
+    EXPECT_FALSE(objects.layoutField[1].FontItalic || objects.layoutField[1].FontUnderline);
+    EXPECT_TRUE(objects.layoutField[2].FontItalic);
 
     layout::select(app, {Family::pBox, 1}); // a box takes the colour
     platform.fonts.push_back({"Arial", 8, false, false, false, false, 0x00FF00});
     layout::layoutToolbar_ButtonClick(app, "Font");
-    EXPECT_EQ(objects.pBox.find(1)->ForeColor, 0x00FF00);
+    EXPECT_EQ(objects.pBox[1].ForeColor, 0x00FF00);
     layout::layoutToolbar_ButtonClick(app, "Bold");
     layout::selectNothing(app);
     platform.fonts.push_back({"Arial", 8, false, false, false, false, 255});
     layout::layoutToolbar_ButtonClick(app, "Font");
     layout::layoutToolbar_ButtonClick(app, "Bold");
-    EXPECT_EQ(objects.pBox.find(1)->ForeColor, 0x00FF00);
+    EXPECT_EQ(objects.pBox[1].ForeColor, 0x00FF00);
 }
 
 TEST_F(Sheet, StackingMovesAGroupAsAWhole) {
     const std::string line = "F|Qty|0|0|900|300|False|False|False|Arial|9|0|\r\n";
     open(line + line + "B|0|0|900|900|0|1|\r\nL|x|0|0|9|9|False|False|False|Arial|9|0|\r\n");
     design();
-    const auto order = [&](Family family, int index) {
-        return core::findObject(objects, {family, index})->zOrder;
-    };
+    const auto order = [&](Family family, int index) { return objectAt(objects, {family, index}).zOrder; };
     EXPECT_LT(order(Family::pBox, 1), order(Family::tLabel, 1)); // boxes lie behind all others
     layout::select(app, {Family::pBox, 1});
     layout::layoutToolbar_ButtonClick(app, "SendFront");
@@ -206,7 +204,7 @@ TEST_F(Sheet, BorderWidthsFromOneToTen) {
     for (const auto& [answer, width] : cases) {
         platform.inputs.push_back(answer);
         layout::object_DblClick(app, {Family::pBox, 1}); // in browse mode as well
-        EXPECT_EQ(objects.pBox.find(1)->DrawWidth, width) << answer;
+        EXPECT_EQ(objects.pBox[1].DrawWidth, width) << answer;
     }
     EXPECT_EQ(platform.lastMessage(), "Enter value from 1 to 10 for border width.");
     EXPECT_EQ(platform.messages.back().caption, "Border Width Setting");
@@ -240,12 +238,12 @@ TEST_F(Sheet, LinksOpenWebAndMailAlone) {
     for (const auto& [target, opened] : cases) {
         SCOPED_TRACE(target);
         platform.links.clear();
-        objects.tLabel.find(1)->Tag = target;
+        objects.tLabel[1].Tag = target;
         layout::object_Click(app, {Family::tLabel, 1});
         EXPECT_EQ(platform.links, opened ? std::vector<std::string>{opened} : std::vector<std::string>{});
     }
     platform.links.clear();
-    objects.tLabel.find(1)->Tag = "http://example.org";
+    objects.tLabel[1].Tag = "http://example.org";
     design();
     layout::object_Click(app, {Family::tLabel, 1});
     EXPECT_TRUE(platform.links.empty());
@@ -254,9 +252,9 @@ TEST_F(Sheet, LinksOpenWebAndMailAlone) {
     layout::layoutToolbar_ButtonClick(app, "Link");
     EXPECT_EQ(platform.proposed.back(), "http://example.org");
     EXPECT_EQ(platform.messages.back().caption, "Insert Link");
-    EXPECT_EQ(objects.tLabel.find(1)->Tag, "not checked");
+    EXPECT_EQ(objects.tLabel[1].Tag, "not checked");
     layout::layoutToolbar_ButtonClick(app, "Link"); // cancelled: the link is gone
-    EXPECT_EQ(objects.tLabel.find(1)->Tag, "");
+    EXPECT_EQ(objects.tLabel[1].Tag, "");
     layout::addBox(app);
     const std::size_t asked = platform.messages.size();
     layout::layoutToolbar_ButtonClick(app, "Link");
@@ -266,10 +264,10 @@ TEST_F(Sheet, LinksOpenWebAndMailAlone) {
 TEST_F(Sheet, LabelsAreTypedInAfterADoubleClick) {
     open("L|Go|0|0|9|9|False|False|False|Arial|9|0|\r\n");
     layout::object_DblClick(app, {Family::tLabel, 1}); // not while browsing
-    EXPECT_TRUE(objects.tLabel.find(1)->Locked);
+    EXPECT_TRUE(objects.tLabel[1].Locked);
     design();
     layout::object_DblClick(app, {Family::tLabel, 1});
-    EXPECT_FALSE(objects.tLabel.find(1)->Locked);
+    EXPECT_FALSE(objects.tLabel[1].Locked);
     EXPECT_TRUE(layout::tLabel_KeyPress(app, 'a'));
     EXPECT_FALSE(layout::tLabel_KeyPress(app, 13));
     EXPECT_EQ(platform.lastMessage(),
@@ -277,8 +275,8 @@ TEST_F(Sheet, LabelsAreTypedInAfterADoubleClick) {
               "your text to wrap automatically.");
     layout::tLabel_Change(app, 1, "Went");
     layout::tLabel_LostFocus(app, 1);
-    EXPECT_EQ(objects.tLabel.find(1)->Text, "Went");
-    EXPECT_TRUE(objects.tLabel.find(1)->Locked);
+    EXPECT_EQ(objects.tLabel[1].Text, "Went");
+    EXPECT_TRUE(objects.tLabel[1].Locked);
     EXPECT_FALSE(page.bEditingLabel);
 }
 
@@ -304,25 +302,25 @@ TEST_F(Sheet, GuidesStandWhereTheRulerWasClicked) {
     layout::ruler1_Click(app, 1440);
     layout::ruler2_Click(app, 1440);
     layout::ruler1_Click(app, 2880);
-    EXPECT_EQ(page.rulePic2.find(1)->line, 1455);
-    EXPECT_EQ(page.rulePic.find(1)->line, 1430);
+    EXPECT_EQ(page.rulePic2[1].line, 1455);
+    EXPECT_EQ(page.rulePic[1].line, 1430);
 
     layout::rulePic_MouseDown(app, 1, 30);
     layout::dragTo(app, 7, 2000);
-    EXPECT_EQ(page.rulePic.find(1)->Top, 2030); // 2000 - 30, and four pixels
-    EXPECT_EQ(page.rulePic.find(1)->line, 2015);
+    EXPECT_EQ(page.rulePic[1].Top, 2030); // 2000 - 30, and four pixels
+    EXPECT_EQ(page.rulePic[1].line, 2015);
     layout::endDrag(app);
     layout::dragTo(app, 7, 5000);
-    EXPECT_EQ(page.rulePic.find(1)->line, 2015);
+    EXPECT_EQ(page.rulePic[1].line, 2015);
     layout::rulePic2_MouseDown(app, 1, 30);
     layout::dragTo(app, 3000, 7);
-    EXPECT_EQ(page.rulePic2.find(1)->Left, 3015); // three pixels
-    EXPECT_EQ(page.rulePic2.find(1)->line, 3030);
+    EXPECT_EQ(page.rulePic2[1].Left, 3015); // three pixels
+    EXPECT_EQ(page.rulePic2[1].line, 3030);
     layout::rulePic2_DblClick(app, 1);
     EXPECT_EQ(page.drag, app::LayoutPage::Drag::None);
     EXPECT_EQ(page.rulePic2.count(), 1);
     layout::ruler1_Click(app, 100);
-    EXPECT_EQ(page.rulePic2.find(1)->Left, 100);
+    EXPECT_EQ(page.rulePic2[1].Left, 100);
     browse();
     EXPECT_EQ(page.rulePic2.count(), 2); // the lines stay
     layout::clearGuides(app);

@@ -96,9 +96,9 @@ TEST(LayoutLines, goFamilyByFamilyInIndexOrderAndWithoutTheTemplate) {
     layout.clipPic.unload(2);
     ASSERT_TRUE(storage::readLayoutLine("C|c4|5|6|70|80|", layout));
     EXPECT_EQ(layout.clipPic.upperBound(), 4) << "the next number, not the gap";
-    EXPECT_TRUE(layout.clipPic.find(4)->Visible);
-    EXPECT_EQ(layout.clipPic.find(4)->clipImage.Width, 70);
-    EXPECT_EQ(layout.clipPic.find(4)->clipImage.Height, 80);
+    EXPECT_TRUE(layout.clipPic[4].Visible);
+    EXPECT_EQ(layout.clipPic[4].clipImage.Width, 70);
+    EXPECT_EQ(layout.clipPic[4].clipImage.Height, 80);
     std::string out;
     storage::writeLayoutLines(out, layout, "\n");
     EXPECT_EQ(out, "F|f1|1|2|3|4|True|False|False|A|8|0|\n"
@@ -111,10 +111,10 @@ TEST(LayoutLines, aPictureBoxTakesItsTipFromBehindTheSeparator) {
     core::LayoutObjects layout;
     ASSERT_TRUE(storage::readLayoutLine("P|Cover|1|2|300|400|", layout));
     ASSERT_TRUE(storage::readLayoutLine("P|Cover|1|2|300|400|stamp.gif|", layout));
-    EXPECT_EQ(layout.imgHolder.find(1)->ToolTipText, "");
-    EXPECT_EQ(layout.imgHolder.find(2)->ToolTipText, "stamp.gif");
-    EXPECT_EQ(layout.imgHolder.find(1)->viewImage.Width, 300);
-    EXPECT_EQ(layout.imgHolder.find(1)->viewImage.Height, 400);
+    EXPECT_EQ(layout.imgHolder[1].ToolTipText, "");
+    EXPECT_EQ(layout.imgHolder[2].ToolTipText, "stamp.gif");
+    EXPECT_EQ(layout.imgHolder[1].viewImage.Width, 300);
+    EXPECT_EQ(layout.imgHolder[1].viewImage.Height, 400);
 }
 
 } // namespace

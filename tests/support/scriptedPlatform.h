@@ -6,6 +6,7 @@
 #include <fstream>
 #include <functional>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -95,8 +96,7 @@ public:
     }
     void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
                        int quality) override {
-        std::ifstream from(bitmap, std::ios::binary);
-        const std::string bytes((std::istreambuf_iterator<char>(from)), {});
+        const std::string bytes = read(bitmap);
         write(jpeg, "quality " + std::to_string(quality) + " of " + bytes);
         pictures[jpeg.filename().string()] = {3000, 1500};
     }
@@ -122,6 +122,11 @@ public:
     void flushSettings() override {}
     std::chrono::year_month_day today() override { return day; }
 
+    static std::string read(const std::filesystem::path& path) {
+        std::ostringstream bytes;
+        bytes << std::ifstream(path, std::ios::binary).rdbuf();
+        return bytes.str();
+    }
     static void write(const std::filesystem::path& path, std::string_view bytes) {
         std::ofstream(path, std::ios::binary) << bytes;
     }
