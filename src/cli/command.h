@@ -32,6 +32,8 @@ Run setUpCheck(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);
+Run setUpReport(CLI::App& command);
+Run setUpLayouts(CLI::App& command);
 
 // Arguments that many commands share.
 void addFileArgument(CLI::App& command, std::string& file);

@@ -17,6 +17,8 @@ constexpr Command commands[] = {
     {"sort", "Sorts the records by a column and stores that order", setUpSort},
     {"clone", "Makes a database of the same design without records", setUpClone},
     {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
+    {"report", "Prints the report of all records into a PDF file", setUpReport},
+    {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
 };
 
 constexpr const char* exitCodes =

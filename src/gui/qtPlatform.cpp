@@ -3,8 +3,8 @@
 #include "core/runTimeError.h"
 #include "gui/fontDialog.h"
 #include "gui/messageBox.h"
-#include "gui/pictures.h"
 #include "gui/qtText.h"
+#include "qtprint/pictureFile.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -183,10 +183,7 @@ std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontCho
 }
 
 std::optional<platform::Extent> QtPlatform::pictureExtent(const std::filesystem::path& path) {
-    constexpr long twipsPerPixel = 15; // of the 96 dots per inch that pictures are measured by
-    const std::optional<QSize> size = pictureSize(toQt(path.string()));
-    if (!size) return std::nullopt;
-    return platform::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
+    return qtprint::pictureExtent(path);
 }
 
 bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {

@@ -280,7 +280,11 @@ void printSelectedTotals(App& app, DrawTarget& target, const RecordsList& theLis
 }
 
 void PrintReport(App& app, DrawTarget& target, RecordsList& theList) {
-    underPrinterTrap(app, [&] { Report(app, target, theList).print(); });
+    underPrinterTrap(app, [&] { drawReport(app, target, theList); });
+}
+
+void drawReport(App& app, DrawTarget& target, RecordsList& theList) {
+    Report(app, target, theList).print();
 }
 
 } // namespace print

@@ -10,6 +10,8 @@ core::RecordsList& reportList(app::App& app);
 // Draws the report: all of it on a printer, a page a call on the preview. A failure ends in a message and
 // leaves what has been drawn.
 void PrintReport(app::App& app, platform::DrawTarget& target, core::RecordsList& theList);
+// The same, but a failure is raised.
+void drawReport(app::App& app, platform::DrawTarget& target, core::RecordsList& theList);
 
 // The sums of the selected records under a rule.
 void printSelectedTotals(app::App& app, platform::DrawTarget& target, const core::RecordsList& theList);

@@ -38,21 +38,6 @@ std::optional<std::string> chooseFile(App& app, bool StartUp) {
     return std::nullopt;
 }
 
-void extractClipArt(App& app) {
-    if (!app.platform.keepsDataFile() || app.document.layout.clipPic.count() == 0) return;
-    platform::Zip Zip;
-    Zip.SetBaseFolder(app.platform.tempFolder());
-    Zip.OpenArchive(app.document.currentFile);
-    // An entry that is not there passes silently: a clone names clip art that it does not have.
-    app.document.layout.clipPic.forEach([&](core::ClipPic& clip) {
-        Zip.ExtractFile(clip.Tag);
-        const bool isSafe = platform::isSafeEntryName(clip.Tag);
-        layout::fitImage(app, clip, clip.clipImage,
-                         isSafe ? app.platform.tempFolder() / clip.Tag : std::filesystem::path());
-    });
-    Zip.CloseArchive();
-}
-
 void showInvoiceLists(App& app) {
     Document& document = app.document;
     document.iLV.Visible = document.bInvoiceStyle;
@@ -143,13 +128,28 @@ void readArchive(App& app, const std::string& path) {
     app::rebuildInvoiceView(app);
 }
 
+void extractClipArt(App& app) {
+    if (app.document.layout.clipPic.count() == 0) return;
+    platform::Zip Zip;
+    Zip.SetBaseFolder(app.platform.tempFolder());
+    Zip.OpenArchive(app.document.currentFile);
+    // An entry that is not there passes silently: a clone names clip art that it does not have.
+    app.document.layout.clipPic.forEach([&](core::ClipPic& clip) {
+        Zip.ExtractFile(clip.Tag);
+        const bool isSafe = platform::isSafeEntryName(clip.Tag);
+        layout::fitImage(app, clip, clip.clipImage,
+                         isSafe ? app.platform.tempFolder() / clip.Tag : std::filesystem::path());
+    });
+    Zip.CloseArchive();
+}
+
 void OpenFile(App& app, bool StartUp) {
     const std::optional<std::string> path = chooseFile(app, StartUp);
     if (!path) return;
     try {
         takeOver(app, *path);
         readArchive(app, *path);
-        extractClipArt(app);
+        if (app.platform.keepsDataFile()) extractClipArt(app);
         showOpened(app, StartUp);
     } catch (const std::exception&) {
         // A file that cannot be opened ends in the empty window, without a message.
