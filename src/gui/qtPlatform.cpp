@@ -3,6 +3,7 @@
 #include "core/runTimeError.h"
 #include "gui/fontDialog.h"
 #include "gui/messageBox.h"
+#include "gui/modalScope.h"
 #include "gui/qtText.h"
 #include "qtprint/pictureFile.h"
 
@@ -41,25 +42,6 @@ void giveRoom(QFileDialog& dialog) {
 }
 
 } // namespace
-
-// Ahead of a modal dialog the window behind it shows the state that the handler has reached, and the
-// hourglass rests as long as the user is asked.
-class QtPlatform::ModalScope {
-public:
-    explicit ModalScope(QtPlatform& owner) : owner_(owner), hourglass_(owner.hourglass_) {
-        owner_.setMousePointer(platform::MousePointer::Default);
-        if (owner_.window_.refresh) owner_.window_.refresh();
-    }
-    ~ModalScope() {
-        if (hourglass_) owner_.setMousePointer(platform::MousePointer::Hourglass);
-    }
-    ModalScope(const ModalScope&) = delete;
-    ModalScope& operator=(const ModalScope&) = delete;
-
-private:
-    QtPlatform& owner_;
-    bool hourglass_;
-};
 
 QtPlatform::QtPlatform(platform::WorkFolder folder, platform::SettingsFile settings)
     : workFolder_(std::move(folder)), settings_(std::move(settings)) {}

@@ -14,6 +14,7 @@ std::optional<Extent> Platform::paperExtent(int code) {
 std::vector<PaperName> Platform::printerPapers() {
     std::vector<PaperName> names;
     for (const PaperSize& paper : papers()) names.push_back({std::string(paper.name), paper.code});
+    names.push_back({"Custom", customPaperCode});
     return names;
 }
 

@@ -85,7 +85,7 @@ public:
     virtual std::string printerDeviceName() { return "Print to PDF"; }
     // A paper of the printer, upright; nothing for a code that it does not know.
     virtual std::optional<Extent> paperExtent(int code);
-    // In the printer's own order.
+    // In the printer's own order; these are those of the built-in printer.
     virtual std::vector<PaperName> printerPapers();
     // Chooses printer, copies and paper for what is printed next. Nothing when the user cancelled.
     virtual std::optional<PrintChoice> showPrinterDialog(const PrintChoice&) { return std::nullopt; }
