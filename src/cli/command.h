@@ -35,6 +35,9 @@ Run setUpSaveAs(CLI::App& command);
 Run setUpReport(CLI::App& command);
 Run setUpLayouts(CLI::App& command);
 
+// The command line as the program was started with.
+char** commandLine();
+
 // Arguments that many commands share.
 void addFileArgument(CLI::App& command, std::string& file);
 void addYesFlag(CLI::App& command, bool& yes, const char* description);

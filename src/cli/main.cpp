@@ -25,12 +25,15 @@ constexpr const char* exitCodes =
     "Exit code: 0 done; 1 refused or failed, a line on standard error says why; "
     "2 the command line is wrong.";
 
+char** startedWith = nullptr;
+
 int tellWrongCommandLine(const CLI::App& program, const CLI::ParseError& error) {
     std::cerr << "fwk: " << error.what() << "\n\n" << program.help();
     return wrongCommandLine;
 }
 
 int runProgram(int argc, char** argv) {
+    startedWith = argv;
     CLI::App program("Works on Ferrowick databases from the command line.", "fwk");
     program.set_version_flag("--version", "fwk " FERROWICK_VERSION);
     program.require_subcommand(1);
@@ -53,6 +56,10 @@ int runProgram(int argc, char** argv) {
 }
 
 } // namespace
+
+char** commandLine() {
+    return startedWith;
+}
 
 void addFileArgument(CLI::App& command, std::string& file) {
     command.add_option("FILE", file, "The database")->required();

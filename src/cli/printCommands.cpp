@@ -11,7 +11,9 @@
 #endif
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <memory>
+#include <unistd.h>
 
 namespace cli {
 
@@ -34,16 +36,22 @@ std::unique_ptr<platform::Printer> makePrinter(const Options& options) {
     return qtprint::makePdfPrinter(options.output);
 }
 #else
+// Goes on as the program that can print: beside this one where it is built, in its own folder where it is
+// installed.
 std::unique_ptr<platform::Printer> makePrinter(const Options&) {
-    throw Failure("this fwk has been built without printing");
+    std::error_code error;
+    const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+    for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
+        ::execv((here / place).c_str(), commandLine());
+    throw Failure("this fwk cannot print: fwk-print is not installed");
 }
 #endif
 
 // Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
 void printInto(Session& session, const Options& options,
                const std::function<void(app::App&, DrawTarget&)>& print) {
-    session.open();
     const std::unique_ptr<platform::Printer> printer = makePrinter(options);
+    session.open();
     session.platform.setPrinter(printer.get());
     app::App& app = session.app;
     try {

@@ -7,6 +7,9 @@
 #include <QGuiApplication>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QTemporaryDir>
+
+#include <optional>
 
 namespace qtprint {
 
@@ -41,6 +44,9 @@ public:
     HiddenApplication() {
         if (QCoreApplication::instance() != nullptr) return;
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        // Qt would make one itself otherwise, and leave it behind.
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeFolder_.emplace().path()));
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         application_ = std::make_unique<QGuiApplication>(argc_, argv_);
     }
@@ -49,6 +55,7 @@ private:
     char name_[4] = "fwk";
     char* argv_[2] = {name_, nullptr};
     int argc_ = 1;
+    std::optional<QTemporaryDir> runtimeFolder_;
     std::unique_ptr<QGuiApplication> application_;
 };
 
