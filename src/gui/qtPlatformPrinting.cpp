@@ -4,6 +4,7 @@
 #include "gui/qtText.h"
 #include "qtprint/pdfFile.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 // What a print asks of the window's machine.
@@ -16,7 +17,9 @@ std::vector<platform::PaperName> QtPlatform::printerPapers() {
 
 std::optional<platform::PrintChoice> QtPlatform::showPrinterDialog(const platform::PrintChoice& present) {
     const ModalScope scope(*this);
-    return printer_.showDialog(present, dialogParent());
+    const QString current = window_.currentFile ? toQt(window_.currentFile()) : QString();
+    const QString name = QFileInfo(current).completeBaseName() + QStringLiteral(".pdf");
+    return printer_.showDialog(present, QDir(startFolder()).filePath(name), dialogParent());
 }
 
 // The name that the dialog was given has been asked about there.

@@ -77,8 +77,9 @@ std::vector<platform::PaperName> SystemPrinter::papers() {
 }
 
 std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::PrintChoice& present,
-                                                               QWidget* parent) {
+                                                               const QString& pdfFile, QWidget* parent) {
     QPrinter& chosen = printer();
+    if (isPdf()) chosen.setOutputFileName(pdfFile);
     chosen.setPageSize(QPageSize(QPageSize::id(present.PaperSize)));
     chosen.setPageOrientation(present.Orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
     QPrintDialog dialog(&chosen, parent);

@@ -17,7 +17,9 @@ public:
     std::string deviceName();
     // Those of a printer of the system.
     std::vector<platform::PaperName> papers();
-    std::optional<platform::PrintChoice> showDialog(const platform::PrintChoice& present, QWidget* parent);
+    // The PDF file is what a print into a file is to be called.
+    std::optional<platform::PrintChoice> showDialog(const platform::PrintChoice& present,
+                                                    const QString& pdfFile, QWidget* parent);
     // The file that was named in the dialog; empty when there is none, or it has been used.
     QString takeFileName();
     // A printer of the system, for the jobs of one command.

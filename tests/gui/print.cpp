@@ -49,6 +49,7 @@ private slots:
     void previewAndPaperAgree();
     void aPreviewPageIsQuick();
     void thePrintDialogTakesAFile();
+    void aPrinterGetsItsPaperAndItsJobs();
     void aPdfFileIsNotOverwrittenUnasked();
     void aFileThatCannotBeWrittenIsTold();
 };
@@ -232,6 +233,7 @@ void Print::thePrintDialogTakesAFile() {
         QVERIFY(dialog != nullptr);
         auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("filename"));
         QVERIFY(name != nullptr);
+        QCOMPARE(name->text(), folders_.path("books.pdf")); // beside the database
         name->setText(pdf_);
         dialog->accept();
     });
@@ -243,6 +245,35 @@ void Print::thePrintDialogTakesAFile() {
     QFile::remove(pdf_);
     run.action("All_As_Layouts")->trigger();
     QVERIFY(!QFile::exists(pdf_));
+}
+
+// The way to a printer of the system, which here writes into a file.
+void Print::aPrinterGetsItsPaperAndItsJobs() {
+    gui::SystemPrinter printer;
+    if (!printer.isPdf()) QSKIP("this system has printers, which are not to be printed on");
+    QTimer::singleShot(0, this, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
+    const auto choice = printer.showDialog({9, 2}, pdf_, nullptr);
+    QVERIFY(choice.has_value());
+    QCOMPARE(choice->PaperSize, 9);
+    QCOMPARE(choice->Orientation, 2);
+    QCOMPARE(printer.takeFileName(), pdf_);
+    QVERIFY(printer.takeFileName().isEmpty());
+    qtprint::QtTextMetrics metrics;
+    const auto target = printer.open("job", metrics);
+    target->setPage({9, 2, 16838, 11906});
+    target->FontSize = 12;
+    for (const char* line : {"first sheet", "second sheet"}) {
+        target->CurrentX = target->CurrentY = 1440;
+        target->Print(line, true);
+        if (*line == 'f') target->NewPage();
+    }
+    target->EndDoc();
+    QVERIFY(target->close());
+    QCOMPARE(pages(), 2);
+    QVERIFY(answerOf(QStringLiteral("pdfinfo"), {pdf_}).contains(QLatin1String("842 x 595")));
+    const QString box =
+        answerOf(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf_, QStringLiteral("-")});
+    QVERIFY2(box.contains(QLatin1String("xMin=\"72.0")), qPrintable(box.left(900)));
 }
 
 void Print::aPdfFileIsNotOverwrittenUnasked() {
