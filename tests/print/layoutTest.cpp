@@ -74,8 +74,7 @@ TEST_F(Layout, EveryKindOfObjectHasItsPlaceOnThePage) {
                 ElementsAre("1440,4036-6440,4036", "6036,1440-6036,4440", ".1440,0-1440,15840",
                             ".10800,0-10800,15840", ".0,1440-12240,1440", ".0,14400-12240,14400"));
     const auto texts = drawnOf<platform::DrawnText>(preview());
-    EXPECT_TRUE(texts[0].font.FontBold && !texts[0].font.FontItalic &&
-                texts[0].font.FontUnderline == app.document.layout.layoutField.find(1)->FontUnderline);
+    EXPECT_TRUE(texts[0].font.FontBold && !texts[1].font.FontBold);
     EXPECT_EQ(texts[0].ForeColor, 255);
     EXPECT_EQ(texts[2].font.FontName, "Times");
     EXPECT_FALSE(texts[2].font.FontBold);
