@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/layoutPage.h"
+#include "app/previewPage.h"
 #include "core/recordsList.h"
 
 #include <array>
@@ -57,6 +58,7 @@ struct MainFrm {
     bool bCalcError = false; // a calculation has failed; a recalculation of all rows reads and clears it
 
     LayoutPage layoutPage;
+    PreviewPage previewPage;
 
     // The user's settings.
     bool bConfirmDelete = true;

@@ -44,6 +44,11 @@ Run setUpReplace(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);
+Run setUpReport(CLI::App& command);
+Run setUpLayouts(CLI::App& command);
+
+// The command line as the program was started with.
+char** commandLine();
 
 // Arguments that many commands share.
 void addFileArgument(CLI::App& command, std::string& file);

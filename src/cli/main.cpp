@@ -29,11 +29,15 @@ constexpr Command commands[] = {
     {"replace", "Replaces words, and prints how many cells have changed", setUpReplace},
     {"clone", "Makes a database of the same design without records", setUpClone},
     {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
+    {"report", "Prints the report of all records into a PDF file", setUpReport},
+    {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
 };
 
 constexpr const char* exitCodes =
     "Exit code: 0 done; 1 refused or failed, a line on standard error says why; "
     "2 the command line is wrong.";
+
+char** startedWith = nullptr;
 
 int tellWrongCommandLine(const CLI::App& program, const CLI::ParseError& error) {
     std::cerr << "fwk: " << error.what() << "\n\n" << program.help();
@@ -41,6 +45,7 @@ int tellWrongCommandLine(const CLI::App& program, const CLI::ParseError& error) 
 }
 
 int runProgram(int argc, char** argv) {
+    startedWith = argv;
     CLI::App program("Works on Ferrowick databases from the command line.", "fwk");
     program.set_version_flag("--version", "fwk " FERROWICK_VERSION);
     program.require_subcommand(1);
@@ -63,6 +68,10 @@ int runProgram(int argc, char** argv) {
 }
 
 } // namespace
+
+char** commandLine() {
+    return startedWith;
+}
 
 void addFileArgument(CLI::App& command, std::string& file) {
     command.add_option("FILE", file, "The database")->required();

@@ -6,8 +6,10 @@
 #include "gui/disclaimFrmView.h"
 #include "gui/entryFrmView.h"
 #include "gui/formulateFrmView.h"
+#include "gui/layoutPageSetupFrmView.h"
 #include "gui/repeatFrmView.h"
 #include "gui/replaceFrmView.h"
+#include "gui/reportPageSetupView.h"
 #include "gui/searchFrmView.h"
 #include "gui/serialFrmView.h"
 
@@ -30,6 +32,8 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("entryFrm", shown<entryFrmView>(app, events));
     platform.registerForm("formulateFrm", shown<formulateFrmView>(app, events));
     platform.registerForm("TotalsFrm", shown<TotalsFrmView>(app, events));
+    platform.registerForm("reportPageSetup", shown<reportPageSetupView>(app, events));
+    platform.registerForm("layoutPageSetupFrm", shown<layoutPageSetupFrmView>(app, events));
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
     platform.registerForm("replaceFrm",
                           [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });

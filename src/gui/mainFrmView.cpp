@@ -8,7 +8,6 @@
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -21,14 +20,6 @@ namespace gui {
 namespace {
 
 constexpr QSize firstSize(1100, 720);
-
-QWidget* notBuiltPage(const QString& name, const QString& text) {
-    auto* label = new QLabel(text);
-    label->setObjectName(name);
-    label->setAlignment(Qt::AlignCenter);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
-}
 
 // The one database among what is dragged over the window.
 QString droppedDatabase(const QMimeData* data) {
@@ -44,7 +35,7 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     : QMainWindow(parent), app_(app), platform_(platform), events_(app, [this] { refresh(); }),
       actions_(new CommandActions(app, events_, this)), tabs_(new QTabWidget),
       report_(new ReportPage(app, events_, *actions_)), layout_(new LayoutPageView(app, events_)),
-      status_(new StatusPanels(app)) {
+      preview_(new PreviewView(app, events_)), status_(new StatusPanels(app)) {
     setObjectName(QStringLiteral("MainFrm"));
     setWindowIcon(programIcon());
     setAcceptDrops(true);
@@ -74,9 +65,7 @@ void MainFrmView::makeTabs() {
     tabs_->setDocumentMode(true);
     tabs_->addTab(report_, tr("Report"));
     tabs_->addTab(layout_, tr("Layout"));
-    tabs_->addTab(notBuiltPage(QStringLiteral("previewPage"),
-                               tr("The print preview is not available in this version.")),
-                  tr("Print Preview"));
+    tabs_->addTab(preview_, tr("Print Preview"));
     connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
         if (!refreshing_) events_.run([&] { shell::SSTab1_Click(app_, tab); });
     });
@@ -101,6 +90,7 @@ void MainFrmView::refresh() {
     tabs_->setCurrentIndex(app_.mainFrm.SSTab1);
     report_->refresh();
     if (app_.mainFrm.SSTab1 == app::layoutTab) layout_->refresh();
+    if (app_.mainFrm.SSTab1 == app::previewTab) preview_->refresh();
     status_->refresh();
     if (app_.mainFrm.unloaded) close();
 }

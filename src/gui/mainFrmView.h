@@ -4,6 +4,7 @@
 #include "gui/commandActions.h"
 #include "gui/eventBoundary.h"
 #include "gui/layoutPageView.h"
+#include "gui/previewView.h"
 #include "gui/qtPlatform.h"
 #include "gui/reportPage.h"
 #include "gui/statusPanels.h"
@@ -47,6 +48,7 @@ private:
     QTabWidget* tabs_;
     ReportPage* report_;
     LayoutPageView* layout_;
+    PreviewView* preview_;
     StatusPanels* status_;
     bool refreshing_ = false;
 };

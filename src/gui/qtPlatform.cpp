@@ -4,8 +4,9 @@
 #include "gui/fontDialog.h"
 #include "gui/formView.h"
 #include "gui/messageBox.h"
-#include "gui/pictures.h"
+#include "gui/modalScope.h"
 #include "gui/qtText.h"
+#include "qtprint/pictureFile.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -51,26 +52,6 @@ QImage onPaper(const QImage& image) {
 }
 
 } // namespace
-
-// Ahead of a modal dialog the windows behind it show the state that the handler has reached, and the
-// hourglass rests as long as the user is asked.
-class QtPlatform::ModalScope {
-public:
-    explicit ModalScope(QtPlatform& owner) : owner_(owner), hourglass_(owner.hourglass_) {
-        owner_.setMousePointer(platform::MousePointer::Default);
-        if (owner_.window_.refresh) owner_.window_.refresh();
-        if (auto* form = qobject_cast<FormView*>(QApplication::activeModalWidget())) form->refresh();
-    }
-    ~ModalScope() {
-        if (hourglass_) owner_.setMousePointer(platform::MousePointer::Hourglass);
-    }
-    ModalScope(const ModalScope&) = delete;
-    ModalScope& operator=(const ModalScope&) = delete;
-
-private:
-    QtPlatform& owner_;
-    bool hourglass_;
-};
 
 QtPlatform::QtPlatform(platform::WorkFolder folder, platform::SettingsFile settings)
     : workFolder_(std::move(folder)), settings_(std::move(settings)) {}
@@ -196,10 +177,7 @@ std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontCho
 }
 
 std::optional<platform::Extent> QtPlatform::pictureExtent(const std::filesystem::path& path) {
-    constexpr long twipsPerPixel = 15; // of the 96 dots per inch that pictures are measured by
-    const std::optional<QSize> size = pictureSize(toQt(path.string()));
-    if (!size) return std::nullopt;
-    return platform::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
+    return qtprint::pictureExtent(path);
 }
 
 bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {

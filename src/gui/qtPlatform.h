@@ -1,8 +1,10 @@
 #pragma once
 
+#include "gui/systemPrinter.h"
 #include "platform/platform.h"
 #include "platform/settingsFile.h"
 #include "platform/workFolder.h"
+#include "qtprint/twipsFont.h"
 
 #include <QByteArray>
 #include <QPointer>
@@ -49,6 +51,12 @@ public:
     void openLink(const std::string& target) override;
     std::optional<platform::FontChoice> showFont(const platform::FontChoice& present) override;
 
+    std::string printerDeviceName() override { return printer_.deviceName(); }
+    std::vector<platform::PaperName> printerPapers() override;
+    std::optional<platform::PrintChoice> showPrinterDialog(const platform::PrintChoice& present) override;
+    std::unique_ptr<platform::DrawTarget> openPrinter(const std::string& documentName) override;
+    platform::TextMetrics& textMetrics() override { return textMetrics_; }
+
     std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) override;
     bool saveClipboardPicture(const std::filesystem::path& path) override;
     void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
@@ -69,11 +77,14 @@ private:
     class ModalScope;
     QWidget* dialogParent() const;
     QString startFolder() const;
+    std::optional<std::string> askForPdfFile(const std::string& documentName);
     std::optional<std::string> askForNewName(const platform::FileDialog& dialog, const QString& acceptLabel);
 
     platform::WorkFolder workFolder_;
     platform::SettingsFile settings_;
     Window window_;
+    SystemPrinter printer_;
+    qtprint::QtTextMetrics textMetrics_;
     std::map<std::string, FormFactory, std::less<>> forms_;
     bool hourglass_ = false;
 };

@@ -1,5 +1,7 @@
 #include "platform/headlessPlatform.h"
 
+#include "core/runTimeError.h"
+
 #include <ctime>
 
 namespace platform {
@@ -34,6 +36,15 @@ Answer HeadlessPlatform::msgBox(const std::string& text, Icon icon, const std::s
 std::optional<std::string> HeadlessPlatform::chosen(const std::string& path) {
     if (path.empty()) return std::nullopt;
     return path;
+}
+
+Printer& HeadlessPlatform::printer() const {
+    if (printer_ == nullptr) core::raise(core::errors::deviceIO, "there is no printer");
+    return *printer_;
+}
+
+std::optional<Extent> HeadlessPlatform::pictureExtent(const std::filesystem::path& picture) {
+    return printer_ == nullptr ? std::nullopt : printer_->pictureExtent(picture);
 }
 
 void HeadlessPlatform::clearWorkFiles() {

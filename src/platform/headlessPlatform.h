@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/printer.h"
 #include "platform/workFolder.h"
 
 #include <ostream>
@@ -21,6 +22,8 @@ public:
     // What the user would choose in a file dialog. Empty: he cancels.
     void setOpenName(std::string path) { openName_ = std::move(path); }
     void setSaveName(std::string path) { saveName_ = std::move(path); }
+    // What is printed on; there is no printer as long as nobody gives one. It must outlive the platform.
+    void setPrinter(Printer* printer) { printer_ = printer; }
     void setToday(std::chrono::year_month_day day) { today_ = day; }
 
     // Routines tell a failure by a message alone, and a refusal by a question answered No. Whoever
@@ -36,6 +39,12 @@ public:
     void setMousePointer(MousePointer) override {}
     void paintStatus() override {}
     void openLink(const std::string&) override {}
+    std::string printerDeviceName() override { return printer().DeviceName(); }
+    TextMetrics& textMetrics() override { return printer().textMetrics(); }
+    std::unique_ptr<DrawTarget> openPrinter(const std::string& documentName) override {
+        return printer().open(documentName);
+    }
+    std::optional<Extent> pictureExtent(const std::filesystem::path& picture) override;
     // A folder of this run's own, made when somebody first asks for it.
     std::filesystem::path workFolder() override { return folder_.path(); }
     std::filesystem::path tempFolder() override { return folder_.temp(); }
@@ -49,10 +58,12 @@ public:
 
 private:
     static std::optional<std::string> chosen(const std::string& path);
+    Printer& printer() const;
 
     std::ostream& messages_;
     WorkFolder folder_ = WorkFolder::scratch();
     std::string openName_, saveName_;
+    Printer* printer_ = nullptr;
     std::optional<std::chrono::year_month_day> today_;
     bool answersYes_ = false;
     int exclamations_ = 0;

@@ -12,6 +12,8 @@ struct PaperSize {
     long Width, Height;
 };
 
+constexpr int customPaperCode = 256; // its lengths are the database's own
+
 std::span<const PaperSize> papers();
 // nullptr for a code that stands for no known paper.
 const PaperSize* findPaper(int code);

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/drawTarget.h"
+
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +30,18 @@ constexpr std::string_view databaseFilter = "Database (*.fwk)|*.fwk|All Files (*
 // Of a page or a picture, in twips.
 struct Extent {
     long Width = 0, Height = 0;
+};
+
+// A paper of the printer by its own name; the code is what PaperSize takes.
+struct PaperName {
+    std::string name;
+    int code = 0;
+};
+
+// What the print dialog was left with.
+struct PrintChoice {
+    int PaperSize = 1;
+    int Orientation = 1;
 };
 
 struct FontChoice {
@@ -70,6 +85,14 @@ public:
     virtual std::string printerDeviceName() { return "Print to PDF"; }
     // A paper of the printer, upright; nothing for a code that it does not know.
     virtual std::optional<Extent> paperExtent(int code);
+    // In the printer's own order; these are those of the built-in printer.
+    virtual std::vector<PaperName> printerPapers();
+    // Chooses printer, copies and paper for what is printed next. Nothing when the user cancelled.
+    virtual std::optional<PrintChoice> showPrinterDialog(const PrintChoice&) { return std::nullopt; }
+    // The printer, for the jobs of one command. nullptr when the user was asked for a file and cancelled.
+    virtual std::unique_ptr<DrawTarget> openPrinter(const std::string& documentName);
+    // Raises when there is nothing that could measure texts, as when there is no printer.
+    virtual TextMetrics& textMetrics();
 
     // --- pictures ---
     // The natural size of a JPEG or GIF file; nothing for a file that is absent, damaged, or so large

@@ -3,6 +3,7 @@
 #include "app/commandRoutines.h"
 #include "core/runTimeError.h"
 #include "entry/editRecord.h"
+#include "print/printCommands.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
@@ -35,6 +36,15 @@ std::function<void(App&)> showing(const char* form) {
     return [=](App& app) { app.platform.showForm(form); };
 }
 
+// A menu item that stands for a button.
+std::function<void(App&)> pressing(const char* button) {
+    return [=](App& app) { runCommand(app, button); };
+}
+
+std::function<void(App&)> printing(const char* key) {
+    return [=](App& app) { print::Toolbar_ButtonMenuClick(app, key); };
+}
+
 void newDatabase(App& app) {
     storage::newDatabase(app, false);
 }
@@ -50,8 +60,8 @@ std::vector<Command> toolbarCommands() {
         {"New", "New", "New Database", "new", false, newDatabase},
         {"Open", "Open", "Open Database", "open", false, open},
         {"Save", "Save", "Save Database", "save", false, save},
-        {"Print", "Print", "Print Database", "print", false, notYet},
-        {"PageSetup", "Page Setup", "Page Setup", "pageSetup", false, notYet},
+        {"Print", "Print", "Print Database", "print", false, print::Print_Click},
+        {"PageSetup", "Page Setup", "Page Setup", "pageSetup", false, print::PageSetup_Click},
         {"Search", "Search", "Search Database", "search", true, search::Search_ButtonClick},
         {"Totals", "Totals", "Display Totals For Selected Items", "totals", true, toggleSelectedTotals},
         {"Formulas", "Expressions", "Define Expressions", "formulas", false, showing("formulateFrm")},
@@ -61,18 +71,21 @@ std::vector<Command> toolbarCommands() {
         {"Help", "Help", "Help", "help", false, notYet},
         {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false,
          storage::saveSearchResults},
-        {"All_As_Report", "Print all records as report.", "", "reportAll", false, notYet},
-        {"Selected_As_Report", "Print selected items as report.", "", "reportSelected", false, notYet},
-        {"All_As_Layouts", "Print all records as layouts.", "", "layoutsAll", false, notYet},
-        {"Selected_As_Layouts", "Print selected items as layouts.", "", "layoutsSelected", false, notYet},
+        {"All_As_Report", "Print all records as report.", "", "reportAll", false, printing("All_As_Report")},
+        {"Selected_As_Report", "Print selected items as report.", "", "reportSelected", false,
+         printing("Selected_As_Report")},
+        {"All_As_Layouts", "Print all records as layouts.", "", "layoutsAll", false,
+         printing("All_As_Layouts")},
+        {"Selected_As_Layouts", "Print selected items as layouts.", "", "layoutsSelected", false,
+         printing("Selected_As_Layouts")},
         {"Print_All_As_Multiple_Layouts", "Print all records as multiple layouts per page.", "",
-         "multiLayoutsAll", false, notYet},
+         "multiLayoutsAll", false, printing("Print_All_As_Multiple_Layouts")},
         {"Print_Selected_Multiple_Layouts", "Print selected items as multiple layouts per page.", "",
-         "multiLayoutsSelected", false, notYet},
+         "multiLayoutsSelected", false, printing("Print_Selected_Multiple_Layouts")},
         {"Multiple_Layout_Preview_All", "Preview of all records using multiple layouts.", "", "previewAll",
-         false, notYet},
+         false, printing("Multiple_Layout_Preview_All")},
         {"Multiple_Layout_Preview_Selected", "Preview of selected records using multiple layouts.", "",
-         "previewSelected", false, notYet},
+         "previewSelected", false, printing("Multiple_Layout_Preview_Selected")},
     };
 }
 
@@ -84,8 +97,8 @@ std::vector<Command> menuCommands() {
         {"mnuSave", "&Save", "", "save", false, save},
         {"mnuSaveAs", "Save &As", "", "saveAs", false, [](App& app) { storage::SaveFile(app, true, false); }},
         {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, storage::saveSearchResults},
-        {"mnuPrint", "&Print", "", "print", false, notYet},
-        {"mnuPageSetup", "Page Setup", "", "pageSetup", false, notYet},
+        {"mnuPrint", "&Print", "", "print", false, pressing("Print")},
+        {"mnuPageSetup", "Page Setup", "", "pageSetup", false, pressing("PageSetup")},
         {"mnuCleanDatabase", "&Clean Database", "", "clean", false, notYet},
         {"mnuClone", "C&lone Database To..", "", "clone", false,
          [](App& app) { storage::SaveFile(app, false, true); }},
@@ -98,8 +111,7 @@ std::vector<Command> menuCommands() {
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, pressTotals},
-        {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false,
-         [](App& app) { runCommand(app, "Formulas"); }},
+        {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, pressing("Formulas")},
         {"mnuDatabaseProperties", "Database &Properties", "", "properties", false, showDatabaseProperties},
         {"mnuTotalColumns", "Choose Columns To Total", "", "totalColumns", false, showing("TotalsFrm")},
         {"mnuSerialAdjust", "&Adjust Serial Number Increment", "", "serial", false, showing("serialFrm")},

@@ -1,8 +1,10 @@
 #include "shell/mainWindow.h"
 
 #include "app/invoiceRoutines.h"
+#include "app/printRoutines.h"
 #include "layout/sheet.h"
-#include "shell/printerCheck.h"
+#include "print/previewNavigation.h"
+#include "print/printerCheck.h"
 #include "shell/settings.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
@@ -86,7 +88,7 @@ void Form_QueryUnload(App& app) {
 }
 
 void SSTab1_Click(App& app, int tab) {
-    if (tab != app::reportTab && !hasPrinter(app)) return;
+    if (tab != app::reportTab && !print::hasPrinter(app)) return;
     if (tab == app::reportTab) {
         app::showReportTab(app);
         return;
@@ -94,6 +96,7 @@ void SSTab1_Click(App& app, int tab) {
     app.mainFrm.SSTab1 = tab;
     app.mainFrm.invoiceFrameVisible = false;
     if (tab == app::layoutTab) arriveAtLayout(app);
+    if (tab == app::previewTab && !print::showPreview(app)) return;
     app::enableTabButtons(app);
 }
 
@@ -116,3 +119,7 @@ void viewOpt_Click(App& app, int index) {
 }
 
 } // namespace shell
+
+void app::showPreviewTab(App& app) {
+    shell::SSTab1_Click(app, previewTab);
+}

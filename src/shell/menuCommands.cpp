@@ -4,8 +4,8 @@
 #include "entry/invoiceRecords.h"
 #include "layout/sheet.h"
 #include "lock/designLock.h"
+#include "print/printerCheck.h"
 #include "shell/mainWindow.h"
-#include "shell/printerCheck.h"
 #include "storage/openFile.h"
 
 #ifndef FERROWICK_HOMEPAGE
@@ -44,7 +44,7 @@ void showDatabaseProperties(App& app) {
 
 void pressDesign(App& app) {
     app::Control& button = app.mainFrm.control("Design");
-    if (lock::isDesignLocked(app) || !hasPrinter(app)) {
+    if (lock::isDesignLocked(app) || !print::hasPrinter(app)) {
         button.Value = false;
         return;
     }

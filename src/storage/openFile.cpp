@@ -38,15 +38,6 @@ std::optional<std::string> chooseFile(App& app, bool StartUp) {
     return std::nullopt;
 }
 
-void extractClipArt(App& app) {
-    if (!app.platform.keepsDataFile() || app.document.layout.clipPic.count() == 0) return;
-    // An entry that is not there passes silently: a clone names clip art that it does not have.
-    layout::ImageArchive archive(app);
-    app.document.layout.clipPic.forEach([&](core::ClipPic& clip) {
-        layout::fitImage(app, clip, clip.clipImage, layout::unpackedImage(app, clip.Tag, archive));
-    });
-}
-
 void showInvoiceLists(App& app) {
     Document& document = app.document;
     document.iLV.Visible = document.bInvoiceStyle;
@@ -137,13 +128,22 @@ void readArchive(App& app, const std::string& path) {
     app::rebuildInvoiceView(app);
 }
 
+void extractClipArt(App& app) {
+    if (app.document.layout.clipPic.count() == 0) return;
+    // An entry that is not there passes silently: a clone names clip art that it does not have.
+    layout::ImageArchive archive(app);
+    app.document.layout.clipPic.forEach([&](core::ClipPic& clip) {
+        layout::fitImage(app, clip, clip.clipImage, layout::unpackedImage(app, clip.Tag, archive));
+    });
+}
+
 void OpenFile(App& app, bool StartUp) {
     const std::optional<std::string> path = chooseFile(app, StartUp);
     if (!path) return;
     try {
         takeOver(app, *path);
         readArchive(app, *path);
-        extractClipArt(app);
+        if (app.platform.keepsDataFile()) extractClipArt(app);
         showOpened(app, StartUp);
     } catch (const std::exception&) {
         // A file that cannot be opened ends in the empty window, without a message.

@@ -14,4 +14,8 @@ void OpenFile(app::App& app, bool StartUp);
 // into the cleared document and lets the error through.
 void readArchive(app::App& app, const std::string& path);
 
+// Unpacks the clip art of the layout into the work folder and fits it. What the archive does not have stays
+// empty.
+void extractClipArt(app::App& app);
+
 } // namespace storage

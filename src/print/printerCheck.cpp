@@ -1,12 +1,16 @@
-#include "shell/printerCheck.h"
+#include "print/printerCheck.h"
 
 #include "core/runTimeError.h"
 
-namespace shell {
+namespace print {
 
 bool hasPrinter(app::App& app) {
+    return underPrinterTrap(app, [&] { app.platform.printerDeviceName(); });
+}
+
+bool underPrinterTrap(app::App& app, const std::function<void()>& part) {
     try {
-        app.platform.printerDeviceName();
+        part();
         return true;
     } catch (const core::RunTimeError&) {
         app.platform.msgBox("You need to first install a printer on this system.",
@@ -15,4 +19,4 @@ bool hasPrinter(app::App& app) {
     }
 }
 
-} // namespace shell
+} // namespace print

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/recordedPage.h"
+
+#include <cstdint>
+
+namespace app {
+
+// The preview tab: the page in its port, and how far reports and layouts have come. Lengths in twips.
+struct PreviewPage {
+    platform::RecordedPage rptPreview1; // the page
+    float Left = 0, Top = 0;            // of the page, in the port
+    bool Visible = false;
+
+    struct Port {
+        float Width = 0, Height = 0;
+    } rptPreview2;
+    struct ScrollBar {
+        int Max = 0;
+        int Value = 0;
+        float thickness = 255;
+    } rptHScroll1, rptVScroll1;
+
+    int iReportStartRow = 1;  // first row of the next page; 1 is the start
+    int iReportPageStart = 1; // first row of the page on view
+    std::int16_t iReportLinesPerPage = 0;
+    bool bReportSelectedOnly = false;
+
+    int iLayoutIndex = 0; // list positions that have been drawn
+    bool bLayoutSelectedOnly = false;
+    std::int16_t iLayoutCols = 0, iLayoutRows = 0;
+    std::int16_t iLayoutsPerPage = 0;
+};
+
+} // namespace app

@@ -1,0 +1,176 @@
+#include "print/printCommands.h"
+#include "cli/command.h"
+#include "cli/output.h"
+#include "cli/session.h"
+#include "core/text.h"
+#include "print/layoutPrinting.h"
+#include "print/reportPrinting.h"
+#include "storage/openFile.h"
+#ifdef FERROWICK_PRINTS
+#include "qtprint/pdfFile.h"
+#endif
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <memory>
+#include <unistd.h>
+
+namespace cli {
+
+namespace {
+
+using platform::DrawTarget;
+
+struct Options {
+    std::string file;
+    std::string output;
+    std::string columns; // "A,B"; empty: those of the database
+    std::string title;
+    bool hasTitle = false;
+    bool many = false;
+    std::string records; // "i1,i2"; empty: all
+};
+
+#ifdef FERROWICK_PRINTS
+std::unique_ptr<platform::Printer> makePrinter(const Options& options) {
+    return qtprint::makePdfPrinter(options.output);
+}
+#else
+// Goes on as the program that can print: beside this one where it is built, in its own folder where it is
+// installed.
+std::unique_ptr<platform::Printer> makePrinter(const Options&) {
+    std::error_code error;
+    const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+    for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
+        ::execv((here / place).c_str(), commandLine());
+    throw Failure("this fwk cannot print: fwk-print is not installed");
+}
+#endif
+
+// Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
+void printInto(Session& session, const Options& options,
+               const std::function<void(app::App&, DrawTarget&)>& print) {
+    const std::unique_ptr<platform::Printer> printer = makePrinter(options);
+    session.open();
+    session.platform.setPrinter(printer.get());
+    app::App& app = session.app;
+    try {
+        storage::extractClipArt(app);
+        const std::string name = std::filesystem::path(options.file).stem().string();
+        const std::unique_ptr<DrawTarget> target = session.platform.openPrinter(name);
+        print(app, *target);
+        if (!target->close()) throw Failure(options.output, "could not be written; the disk may be full");
+    } catch (const core::RunTimeError& error) {
+        throw Failure(options.output, error.what());
+    }
+    session.platform.setPrinter(nullptr);
+}
+
+// In an invoice database the report shows the invoices or their items, whichever the file was left with.
+void chooseColumns(Session& session, const Options& options) {
+    core::Document& document = session.app.document;
+    core::NamedCollection& printed = document.printedCols;
+    const core::RecordsList& list = document.bInvoiceStyle ? document.iLV : document.LV;
+    if (document.bInvoiceStyle) {
+        printed.clear();
+        for (const auto& column : document.bInvoiceView ? document.prnItemCols : document.prnInvoiceCols)
+            printed.add(column.item);
+    }
+    if (!options.columns.empty()) {
+        printed.clear();
+        for (const std::string_view name : core::split(options.columns, ',')) {
+            const core::Column& known = session.column(name);
+            if (list.columns.find(known.Text) == nullptr)
+                throw Failure(options.file, "the report does not show the column \"" + known.Text + "\"");
+            printed.add(known.Text);
+        }
+    }
+    if (!printed.empty()) return;
+    // A database that nobody has chosen columns for would come out as empty lines.
+    for (const core::Column& column : list.columns)
+        if (column.Index != 1) printed.add(column.Text);
+}
+
+int printReport(const Options& options) {
+    Session session(options.file);
+    printInto(session, options, [&](app::App& app, DrawTarget& target) {
+        chooseColumns(session, options);
+        if (options.hasTitle) app.document.reportData.reportTitle = options.title;
+        app.mainFrm.previewPage.bReportSelectedOnly = false;
+        print::drawReport(app, target, print::reportList(app));
+    });
+    return done;
+}
+
+// The rows of the records with those keys.
+std::vector<int> rowsOf(const Options& options, core::RecordsList& list) {
+    std::vector<int> rows;
+    for (const std::string_view key : core::split(options.records, ',')) {
+        const core::Item* item = list.find(key);
+        if (item == nullptr || item->isTotals())
+            throw Failure(options.file, "no record \"" + std::string(key) + "\"");
+        rows.push_back(list.indexOf(*item));
+    }
+    return rows;
+}
+
+void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) {
+    app.mainFrm.selectedRows = rows;
+    app.mainFrm.previewPage.bLayoutSelectedOnly = !rows.empty();
+    app.mainFrm.previewPage.iLayoutIndex = 0;
+    app.mainFrm.theListView->MultiSelect = false;
+    print::PrintMultipleLayouts(app, target);
+}
+
+int printLayouts(const Options& options) {
+    Session session(options.file);
+    printInto(session, options, [&](app::App& app, DrawTarget& target) {
+        core::Document& document = app.document;
+        // The layout shows an invoice as it stands in LV, whichever view the lists have.
+        core::RecordsList& list = document.LV;
+        std::vector<int> rows;
+        if (!options.records.empty()) rows = rowsOf(options, list);
+        if (options.many && document.bInvoiceStyle)
+            throw Failure(options.file, "invoices print one to a page only");
+        if (list.count() < 2) throw Failure(options.file, "there are no records");
+        if (options.many)
+            printMany(app, target, rows);
+        else
+            print::printEachLayout(app, target, list, rows.empty() ? nullptr : &rows);
+    });
+    return done;
+}
+
+void addOutputOption(CLI::App& command, std::string& output) {
+    command.add_option("-o,--output", output, "The PDF file, which is overwritten")
+        ->required()
+        ->type_name("OUT.pdf");
+}
+
+} // namespace
+
+Run setUpReport(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    addOutputOption(command, options->output);
+    command.add_option("--columns", options->columns, "Only these columns")->type_name("A,B");
+    CLI::Option* title =
+        command.add_option("--title", options->title, "The title in place of the database's")
+            ->type_name("TEXT");
+    return [options, title] {
+        options->hasTitle = title->count() > 0;
+        return printReport(*options);
+    };
+}
+
+Run setUpLayouts(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    addOutputOption(command, options->output);
+    command.add_flag("--many", options->many, "As many to a page as fit");
+    command.add_option("--records", options->records, "Only the records with these keys")
+        ->type_name("KEY,KEY");
+    return [options] { return printLayouts(*options); };
+}
+
+} // namespace cli

@@ -1,0 +1,125 @@
+#include "core/number.h"
+#include "core/text.h"
+#include "print/layoutPrinting.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace print {
+
+using app::App;
+using platform::DrawTarget;
+
+namespace {
+
+void useLine(const core::LineObject& line, DrawTarget& target) {
+    target.ForeColor = line.ForeColor;
+    target.DrawWidth = line.DrawWidth;
+    target.DrawStyle = platform::LineStyle::Solid;
+}
+
+void drawText(const App& app, DrawTarget& target, const core::LayoutField& field) {
+    copyObjectFont(field, field.ForeColor, target);
+    const core::Column* column = app.document.LV.columns.find(field.Tag);
+    if (column == nullptr || !column->isNumeric())
+        printWrapped(target, target.CurrentX, field.Height, field.Width, field.Text);
+    else if (!field.Text.empty())
+        printInBoxRight(field.Text, field.Width, target, target.CurrentX);
+}
+
+void drawImage(DrawTarget& target, const core::LayoutObject& holder, const core::FittedImage& image, float dx,
+               float dy) {
+    if (!image.path.empty())
+        target.PaintPicture(image.path, holder.Left + image.Left + dx, holder.Top + image.Top + dy,
+                            image.Width, image.Height);
+}
+
+} // namespace
+
+void copyObjectFont(const core::ObjectFont& object, std::int32_t ForeColor, DrawTarget& target) {
+    target.FontName = object.FontName;
+    target.ForeColor = ForeColor;
+    target.FontBold = object.FontBold;
+    target.FontUnderline = object.FontUnderline;
+    target.FontStrikethru = object.FontStrikethru;
+    target.FontItalic = object.FontItalic;
+    target.FontSize = object.FontSize;
+}
+
+void printInBoxRight(std::string_view text, float width, DrawTarget& target, float x) {
+    const double offset = static_cast<double>(width) - static_cast<double>(target.TextWidth(text));
+    target.CurrentX = x + static_cast<float>(std::max<int>(core::toInt16(offset), 0));
+    target.Print(text, true);
+}
+
+void printWrapped(DrawTarget& target, float x, float maxHeight, float width, std::string_view text) {
+    constexpr float inset = 10;
+    constexpr float furthest = 1'000'000; // no paper is longer; a damaged file may say anything
+    maxHeight = std::min(maxHeight, furthest);
+    std::string_view rest = text;
+    float used = 0;
+    do {
+        // The head of the text up to the last blank that still fits.
+        std::size_t start = 0; // behind the blank before
+        std::size_t blank = rest.find(' ');
+        while (blank != std::string_view::npos &&
+               target.TextWidth(rest.substr(0, blank + 1)) <= width - inset) {
+            start = blank + 1;
+            blank = rest.find(' ', start);
+        }
+        std::string_view line = rest;
+        if (blank == std::string_view::npos) {
+            rest = {};
+        } else {
+            line = rest.substr(0, start);
+            rest = core::ltrim(rest.substr(start));
+        }
+        target.CurrentX = x;
+        if (!(used < maxHeight)) return;
+        target.Print(line, true);
+        used += target.TextHeight(line);
+    } while (!rest.empty());
+}
+
+void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
+    const core::LayoutObjects& objects = app.document.layout;
+    const auto goTo = [&](const core::LayoutObject& object) {
+        target.CurrentX = object.Left + dx;
+        target.CurrentY = object.Top + dy;
+    };
+    objects.layoutField.forEach([&](const core::LayoutField& field) {
+        goTo(field);
+        drawText(app, target, field);
+    });
+    objects.tLabel.forEach([&](const core::Label& label) {
+        goTo(label);
+        copyObjectFont(label, label.ForeColor, target);
+        printWrapped(target, target.CurrentX, label.Height, label.Width, label.Text);
+    });
+    // The width of a line counts pixels, and is taken off as if it were twips. It is wanted so.
+    objects.pbLine.forEach([&](const core::LineObject& line) {
+        useLine(line, target);
+        const float y = line.Top + dy + line.Height / 2 - static_cast<float>(line.DrawWidth);
+        target.Line(line.Left + dx, y, line.Left + dx + line.Width, y);
+    });
+    objects.vLine.forEach([&](const core::LineObject& line) {
+        useLine(line, target);
+        const float x = line.Left + dx + line.Width / 2 - static_cast<float>(line.DrawWidth);
+        target.Line(x, line.Top + dy, x, line.Top + dy + line.Height);
+    });
+    const float pixelX = app.mainFrm.layoutPage.TwipsPerPixelX;
+    const float pixelY = app.mainFrm.layoutPage.TwipsPerPixelY;
+    objects.pBox.forEach([&](const core::BoxObject& box) {
+        target.DrawWidth = box.DrawWidth;
+        target.ForeColor = box.ForeColor;
+        target.DrawStyle = platform::LineStyle::Solid;
+        target.Rectangle(box.Left + dx + pixelX, box.Top + dy + pixelY, box.Width - 2 * pixelX,
+                         box.Height - 2 * pixelY);
+    });
+    objects.imgHolder.forEach(
+        [&](const core::ImgHolder& holder) { drawImage(target, holder, holder.viewImage, dx, dy); });
+    objects.clipPic.forEach(
+        [&](const core::ClipPic& clip) { drawImage(target, clip, clip.clipImage, dx, dy); });
+}
+
+} // namespace print

@@ -1,0 +1,96 @@
+#include "print/layoutPageSetupFrm.h"
+
+#include "core/number.h"
+#include "core/runTimeError.h"
+#include "layout/sheet.h"
+#include "print/layoutPrinting.h"
+#include "print/previewNavigation.h"
+#include "print/printerCheck.h"
+
+#include <set>
+
+namespace print {
+
+layoutPageSetupFrm::layoutPageSetupFrm(app::App& app) : app_(app) {
+    loadPaperList();
+    const core::LayoutOptions& options = app.document.layoutOptions;
+    for (std::size_t row = 0; row < paperList.ListItems.size() && !paperList.SelectedItem; ++row)
+        if (core::val(paperList.ListItems[row].Tag) == options.layoutPaperSize) paperList.SelectedItem = row;
+    showCustomFrame();
+    PortraitOpt = options.layoutOrientation == core::portrait;
+    leftTxt = core::numberText(options.layoutLeftMargin);
+    rightTxt = core::numberText(options.layoutRightMargin);
+    TopTxt = core::numberText(options.layoutTopMargin);
+    bottomTxt = core::numberText(options.layoutBottomMargin);
+    spacingTxt = core::numberText(options.layoutSpacing);
+    lengthTxt = core::numberText(options.customPaperLength);
+    heightTxt = core::numberText(options.customPaperHeight);
+}
+
+void layoutPageSetupFrm::loadPaperList() {
+    std::set<std::string> names;
+    for (const platform::PaperName& paper : app_.platform.printerPapers()) {
+        if (!names.insert(paper.name).second) core::raise(core::errors::keyNotUnique, paper.name);
+        paperList.ListItems.push_back({paper.name, std::to_string(paper.code)});
+    }
+}
+
+void layoutPageSetupFrm::showCustomFrame() {
+    customFrm.Visible = paperList.SelectedItem &&
+                        core::val(paperList.ListItems[*paperList.SelectedItem].Tag) == core::customPaper;
+}
+
+void layoutPageSetupFrm::paperList_ItemClick(std::size_t row) {
+    paperList.SelectedItem = row;
+    showCustomFrame();
+}
+
+void layoutPageSetupFrm::customOkBtn_Click() {
+    const double length = core::val(lengthTxt);
+    const double height = core::val(heightTxt);
+    if (length <= 0 || height <= 0) {
+        app::inform(app_, "Invalid values specified. Values must be greater than 0.");
+        return;
+    }
+    app_.document.layoutOptions.customPaperHeight = static_cast<float>(height);
+    app_.document.layoutOptions.customPaperLength = static_cast<float>(length);
+    customFrm.Visible = false;
+}
+
+void layoutPageSetupFrm::saveSettings() {
+    core::LayoutOptions& options = app_.document.layoutOptions;
+    options.layoutLeftMargin = static_cast<float>(core::val(leftTxt));
+    options.layoutRightMargin = static_cast<float>(core::val(rightTxt));
+    options.layoutTopMargin = static_cast<float>(core::val(TopTxt));
+    options.layoutBottomMargin = static_cast<float>(core::val(bottomTxt));
+    const std::optional<double> spacing = core::toDouble(spacingTxt);
+    if (!spacing) core::raise(core::errors::typeMismatch, spacingTxt);
+    options.layoutSpacing = static_cast<float>(*spacing);
+    options.layoutOrientation = PortraitOpt ? core::portrait : core::landscape;
+    // A list with nothing chosen stands on its first row.
+    if (!paperList.ListItems.empty())
+        options.layoutPaperSize =
+            core::toInt16(core::val(paperList.ListItems[paperList.SelectedItem.value_or(0)].Tag));
+}
+
+// The sheet and the preview follow the new page.
+void layoutPageSetupFrm::showPage() {
+    layout::InitLayout(app_, layout::isDesignMode(app_));
+    if (app_.mainFrm.iPrintMode == app::printLayout) {
+        PrintLayout(app_, rptPreview1(app_));
+    } else {
+        app_.mainFrm.previewPage.iLayoutIndex = 0;
+        PrintMultipleLayouts(app_, rptPreview1(app_));
+    }
+}
+
+void layoutPageSetupFrm::OKButton_Click() {
+    underPrinterTrap(app_, [&] {
+        saveSettings();
+        app::setDocumentModified(app_, true);
+        showPage();
+        unloaded = true;
+    });
+}
+
+} // namespace print

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/app.h"
+
+#include <string>
+#include <vector>
+
+namespace print {
+
+// Report Page Setup.
+class reportPageSetup {
+public:
+    struct Row {
+        std::string Text;
+        bool Checked = false;
+    };
+
+    explicit reportPageSetup(app::App& app); // Load
+
+    std::vector<Row> LV3;
+    std::string titleTxt;
+    bool boldYesOpt = false;  // otherwise boldNoOpt
+    bool letterOpt = false;   // otherwise legalOpt
+    bool PortraitOpt = false; // otherwise LandscapeOpt
+    std::string leftTxt, rightTxt, TopTxt, bottomTxt;
+    bool unloaded = false;
+
+    void ApplyBtn_Click();
+    void Command1_Click();
+    void Command2_Click() { unloaded = true; }
+
+private:
+    core::RecordsList& shownList() const;
+    void saveReportSettings();
+
+    app::App& app_;
+};
+
+} // namespace print

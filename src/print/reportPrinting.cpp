@@ -1,0 +1,290 @@
+#include "print/reportPrinting.h"
+
+#include "core/number.h"
+#include "core/text.h"
+#include "print/margins.h"
+#include "print/previewNavigation.h"
+#include "print/printerCheck.h"
+#include "print/progress.h"
+
+#include <algorithm>
+
+namespace print {
+
+using app::App;
+using core::Column;
+using core::Item;
+using core::RecordsList;
+using platform::DrawTarget;
+
+namespace {
+
+constexpr float columnGap = 250;          // ahead of each printed column
+constexpr double twipsPerCharacter = 160; // of the width of a text column
+constexpr float ruleGap = 10;
+
+// A column as the lines need it, in the order that the user sees.
+struct ReportColumn {
+    const Column* column = nullptr;
+    bool isPrinted = false;
+    bool isNumeric = false;
+    int width = 0;
+    std::size_t characters = 0;
+};
+
+std::vector<ReportColumn> reportColumns(const App& app, const RecordsList& theList) {
+    std::vector<ReportColumn> columns;
+    for (const int index : theList.columns.displayOrder()) {
+        const Column& column = theList.columns.at(index);
+        ReportColumn entry{&column};
+        entry.isPrinted = column.Index != 1 && isPrintedColumn(app, column.Text);
+        if (entry.isPrinted) {
+            entry.isNumeric = app.document.isNumericColumn(column.Text);
+            entry.width = core::toInt16(column.Width);
+            entry.characters =
+                static_cast<std::size_t>(std::max(core::toInt32(column.Width / twipsPerCharacter), 0));
+        }
+        columns.push_back(entry);
+    }
+    return columns;
+}
+
+std::string padded(std::string_view text, std::size_t characters) {
+    std::string result(text);
+    const std::size_t length = core::length(text);
+    if (length < characters) result.append(characters - length, ' ');
+    return result;
+}
+
+platform::PageSetup reportPage(App& app) {
+    core::ReportData& settings = app.document.reportData;
+    if (settings.reportOrientation == 0) settings.reportOrientation = core::landscape;
+    if (settings.reportPaperSize == 0) settings.reportPaperSize = core::letterPaper;
+    platform::PageSetup setup;
+    setup.PaperSize = settings.reportPaperSize;
+    setup.Orientation = settings.reportOrientation;
+    if (const auto paper = app.platform.paperExtent(setup.PaperSize)) {
+        setup.Width = paper->Width;
+        setup.Height = paper->Height;
+    }
+    if (setup.Orientation == core::landscape) std::swap(setup.Width, setup.Height);
+    return setup;
+}
+
+// One run of PrintReport.
+class Report {
+public:
+    Report(App& app, DrawTarget& target, RecordsList& theList)
+        : app_(app), document_(app.document), page_(app.mainFrm.previewPage), target_(target),
+          theList_(theList), columns_(reportColumns(app, theList)) {}
+
+    void print();
+
+private:
+    void readMargins();
+    void measurePage();
+    void printTitle();
+    void goToTopLeft();
+    void printRows();
+    template <typename TextOf>
+    void printLine(TextOf&& textOf);
+    void printHeadings();
+    void closeList();
+    void fullWidthLine() { target_.Line(0, target_.CurrentY, target_.Width, target_.CurrentY); }
+    void goToLeftMargin() {
+        target_.CurrentX = static_cast<float>(settings().reportLeftMargin * twipsPerInch);
+    }
+    const core::ReportData& settings() const { return document_.reportData; }
+
+    App& app_;
+    core::Document& document_;
+    app::PreviewPage& page_;
+    DrawTarget& target_;
+    RecordsList& theList_;
+    std::vector<ReportColumn> columns_;
+    int iLeft_ = 0, iRight_ = 0, iTop_ = 0, iBottom_ = 0;
+    int row_ = 1;
+};
+
+void Report::readMargins() {
+    iLeft_ = core::toInt16(settings().reportLeftMargin * twipsPerInch);
+    iRight_ = core::toInt32(settings().reportRightMargin * twipsPerInch);
+    iTop_ = core::toInt32(settings().reportTopMargin * twipsPerInch);
+    iBottom_ = core::toInt32(settings().reportBottomMargin * twipsPerInch);
+}
+
+// The lines are counted in the font of a fresh page, ahead of the report's own.
+void Report::measurePage() {
+    target_.FontSize = 10;
+    const int usable =
+        core::toInt32(target_.Height - static_cast<float>(iTop_) - static_cast<float>(iBottom_));
+    page_.iReportLinesPerPage = core::toInt16(usable / static_cast<double>(target_.TextHeight("NULL")) - 2);
+    target_.FontName = "Courier New";
+}
+
+void Report::printTitle() {
+    const int titleWidth = core::toInt16(static_cast<double>(target_.Width) - (iLeft_ + iRight_));
+    target_.CurrentY = static_cast<float>(iTop_) / 2;
+    printTitleCentred(target_, target_.CurrentX + static_cast<float>(iLeft_), titleWidth,
+                      settings().reportTitle);
+}
+
+void Report::goToTopLeft() {
+    goToLeftMargin();
+    target_.CurrentY = static_cast<float>(settings().reportTopMargin * twipsPerInch);
+}
+
+template <typename TextOf>
+void Report::printLine(TextOf&& textOf) {
+    for (std::size_t place = 0; place < columns_.size(); ++place) {
+        const ReportColumn& entry = columns_[place];
+        const bool last = place + 1 == columns_.size();
+        if (!entry.isPrinted) {
+            if (last) printRightAligned(app_, target_, target_.CurrentX, 0, {}, true);
+            continue;
+        }
+        target_.CurrentX += columnGap;
+        const std::string_view text = textOf(*entry.column);
+        if (entry.isNumeric)
+            printRightAligned(app_, target_, target_.CurrentX, entry.width, text, last);
+        else
+            printLeftAligned(app_, target_, target_.CurrentX,
+                             padded(core::left(text, entry.characters), entry.characters), last);
+    }
+}
+
+void Report::printHeadings() {
+    target_.FontBold = settings().bReportBoldHeaders;
+    printLine([](const Column& column) { return std::string_view(column.Text); });
+    target_.FontBold = false;
+    target_.CurrentY += ruleGap;
+    fullWidthLine();
+    target_.CurrentY += ruleGap;
+    goToLeftMargin();
+}
+
+// On paper neither the count of lines nor the headings start afresh with a page: the report breaks once,
+// and from there the printer takes a sheet after the other by itself. It is wanted so.
+void Report::printRows() {
+    const int count = theList_.count();
+    Progress progress(app_, count);
+    int printedLines = 0;
+    bool bHeadingDone = false;
+    for (; row_ <= count; ++row_) {
+        const Item& item = theList_.at(row_);
+        if (page_.bReportSelectedOnly && !item.Selected) continue;
+        if (printedLines == page_.iReportLinesPerPage) {
+            if (!target_.isPrinter()) {
+                page_.iReportStartRow = row_;
+                return;
+            }
+            target_.NewPage();
+            goToTopLeft();
+        }
+        ++printedLines;
+        if (!bHeadingDone) printHeadings();
+        bHeadingDone = true;
+        printLine([&](const Column& column) { return RecordsList::cell(item, column).view(); });
+        if (target_.isPrinter()) progress.reached(row_);
+    }
+}
+
+// A page that is full just ahead of the Totals row closes the report without it. It is wanted so.
+void Report::closeList() {
+    if (row_ < theList_.count()) return;
+    if (page_.bReportSelectedOnly) {
+        printSelectedTotals(app_, target_, theList_);
+    } else {
+        constexpr float aboveTotals = 5;
+        target_.CurrentY -= target_.TextHeight("NULL") + aboveTotals;
+        fullWidthLine();
+    }
+    page_.iReportStartRow = 1;
+}
+
+void Report::print() {
+    app_.platform.printerDeviceName(); // raises without a printer, for a preview too
+    readMargins();
+    usePage(app_, target_, reportPage(app_));
+    measurePage();
+    printTitle();
+    goToTopLeft();
+    page_.iReportPageStart = page_.iReportStartRow;
+    row_ = page_.iReportStartRow;
+    printRows();
+    closeList();
+    if (target_.isPrinter()) {
+        target_.EndDoc();
+        return;
+    }
+    drawMarginGuides(target_, {static_cast<float>(iLeft_), target_.Width - static_cast<float>(iRight_),
+                               static_cast<float>(iTop_), target_.Height - static_cast<float>(iBottom_)});
+}
+
+} // namespace
+
+RecordsList& reportList(App& app) {
+    core::Document& document = app.document;
+    return document.bInvoiceStyle && !document.searchLV.Visible ? document.iLV : *app.mainFrm.theListView;
+}
+
+bool isPrintedColumn(const App& app, std::string_view title) {
+    return app.document.printedCols.contains(title);
+}
+
+void printTitleCentred(DrawTarget& target, float x, int width, std::string_view text) {
+    // Measured ahead of the bold face, so that a long title stands a little to the right.
+    const double offset = (width - static_cast<double>(target.TextWidth(text))) / 2;
+    target.CurrentX = x + static_cast<float>(std::max<int>(core::toInt16(offset), 0));
+    target.FontBold = true;
+    target.Print(text, true);
+    target.FontBold = false;
+}
+
+void printLeftAligned(const App& app, DrawTarget& target, float x, std::string_view text, bool bEndOfLine) {
+    target.CurrentX = x;
+    target.Print(text, bEndOfLine);
+    if (bEndOfLine)
+        target.CurrentX += static_cast<float>(app.document.reportData.reportLeftMargin * twipsPerInch);
+}
+
+void printRightAligned(const App& app, DrawTarget& target, float x, int width, std::string_view text,
+                       bool bEndOfLine) {
+    const double offset = width - static_cast<double>(target.TextWidth(text));
+    printLeftAligned(app, target, x + static_cast<float>(std::max<int>(core::toInt16(offset), 0)), text,
+                     bEndOfLine);
+}
+
+void printSelectedTotals(App& app, DrawTarget& target, const RecordsList& theList) {
+    target.CurrentY += ruleGap;
+    target.Line(0, target.CurrentY, target.Width, target.CurrentY);
+    target.CurrentY += ruleGap;
+    target.CurrentX = static_cast<float>(app.document.reportData.reportLeftMargin * twipsPerInch);
+    const std::vector<ReportColumn> columns = reportColumns(app, theList);
+    for (std::size_t place = 0; place < columns.size(); ++place) {
+        const ReportColumn& entry = columns[place];
+        const bool last = place + 1 == columns.size();
+        if (!entry.isPrinted) {
+            if (last) printRightAligned(app, target, target.CurrentX, 0, {}, true);
+            continue;
+        }
+        target.CurrentX += columnGap;
+        const Item* sum = app.document.LV3.findText(entry.column->Text);
+        const std::string_view text = sum == nullptr ? std::string_view() : sum->subItem(1).view();
+        if (entry.isNumeric)
+            printRightAligned(app, target, target.CurrentX, entry.width, text, last);
+        else
+            printLeftAligned(app, target, target.CurrentX, padded(text, entry.characters), last);
+    }
+    target.CurrentX = 0;
+}
+
+void PrintReport(App& app, DrawTarget& target, RecordsList& theList) {
+    underPrinterTrap(app, [&] { drawReport(app, target, theList); });
+}
+
+void drawReport(App& app, DrawTarget& target, RecordsList& theList) {
+    Report(app, target, theList).print();
+}
+
+} // namespace print

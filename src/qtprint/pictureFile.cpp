@@ -1,0 +1,62 @@
+#include "qtprint/pictureFile.h"
+
+#include "qtprint/twipsFont.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace qtprint {
+
+namespace {
+
+constexpr qint64 mostPixels = 64'000'000; // 256 MB while it is read
+constexpr qint64 mostFileBytes = 64'000'000;
+// A few bytes of a GIF can stand for any number of pixels, and all of them are unpacked.
+constexpr qint64 mostGifPixels = 16'000'000;
+
+bool isWithinBounds(QSize size, const QByteArray& format) {
+    return size.isValid() && !size.isEmpty() &&
+           static_cast<qint64>(size.width()) * static_cast<qint64>(size.height()) <=
+               (format == "gif" ? mostGifPixels : mostPixels);
+}
+
+// Only what may be chosen is read, whatever else Qt has decoders for.
+bool isAllowedFormat(const QByteArray& format) {
+    return format == "jpeg" || format == "jpg" || format == "gif" || format == "bmp";
+}
+
+} // namespace
+
+std::optional<QSize> pictureSize(const QString& path) {
+    if (QFileInfo(path).size() > mostFileBytes) return std::nullopt;
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    if (!reader.canRead() || !isAllowedFormat(reader.format())) return std::nullopt;
+    const QSize size = reader.size();
+    if (!isWithinBounds(size, reader.format())) return std::nullopt;
+    return size;
+}
+
+std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) {
+    constexpr long twipsPerPixel = 15; // of the 96 dots per inch that pictures are measured by
+    const std::optional<QSize> size = pictureSize(toQString(path.string()));
+    if (!size) return std::nullopt;
+    return platform::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
+}
+
+QImage readPicture(const QString& path, QSize bounds) {
+    const std::optional<QSize> natural = pictureSize(path);
+    if (!natural || bounds.isEmpty()) return {};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    // A JPEG is read at half, quarter, ... its size; twice the size that is wanted keeps it sharp.
+    const bool isLarger = natural->width() > bounds.width() && natural->height() > bounds.height();
+    if (natural->width() > bounds.width() * 2 && natural->height() > bounds.height() * 2)
+        reader.setScaledSize(bounds * 2);
+    const QImage image = reader.read();
+    return image.isNull() || !isLarger
+               ? image
+               : image.scaled(bounds, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace qtprint

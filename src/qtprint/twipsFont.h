@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/drawTarget.h"
+
+#include <QColor>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace qtprint {
+
+// The font for a painter whose unit is a twip. Without hinting, so that a text takes the same room at
+// every resolution.
+QFont twipsFont(const platform::TextFont& font);
+
+QColor toColor(std::int32_t colour); // 0x00BBGGRR
+
+inline QString toQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// What texts measure on every target that Qt draws on. Needs the application object.
+class QtTextMetrics : public platform::TextMetrics {
+public:
+    float textWidth(const platform::TextFont& font, std::string_view text) override;
+    float textHeight(const platform::TextFont& font) override;
+
+private:
+    struct Measured {
+        platform::TextFont font;
+        QFontMetricsF metrics;
+        qreal eachWidth = 0; // of all characters alike; 0 when they differ
+    };
+    Measured& measured(const platform::TextFont& font);
+
+    std::vector<std::unique_ptr<Measured>> fonts_; // few: those of a layout, or the two of a report
+};
+
+} // namespace qtprint

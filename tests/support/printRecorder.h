@@ -1,0 +1,173 @@
+#pragma once
+
+#include "core/text.h"
+#include "databases.h"
+#include "platform/recordedPage.h"
+
+#include <cmath>
+#include <memory>
+#include <utility>
+
+// Texts measured by plain rules: a character is half as wide as the font is high, and a line as high as the
+// font. So every place on a page can be told without a font.
+class PlainMetrics : public platform::TextMetrics {
+public:
+    float textWidth(const platform::TextFont& font, std::string_view text) override {
+        return static_cast<float>(core::length(text)) * font.FontSize * 10;
+    }
+    float textHeight(const platform::TextFont& font) override { return font.FontSize * 20; }
+};
+
+// What came out of a printer: for each sheet what stands on it.
+struct PrintedSheets {
+    std::vector<std::vector<platform::Drawn>> sheets;
+    std::vector<std::size_t> jobs; // sheets of each
+    std::vector<platform::PageSetup> papers;
+    bool closed = false;
+};
+
+// A printer that keeps its sheets.
+class RecordingPrinter : public platform::RecordedPage {
+public:
+    RecordingPrinter(PrintedSheets& printed, platform::TextMetrics& metrics) : printed_(printed) {
+        measureWith(metrics);
+    }
+    bool isPrinter() const override { return true; }
+    bool close() override {
+        printed_.closed = true;
+        return true;
+    }
+
+protected:
+    void pageSet(const platform::PageSetup& setup) override {
+        RecordedPage::pageSet(setup);
+        printed_.papers.push_back(setup);
+    }
+    void startSheet() override {
+        finish();
+        ++sheetsOfJob_;
+    }
+    void endDocument() override {
+        finish();
+        printed_.jobs.push_back(std::exchange(sheetsOfJob_, 0) + 1);
+    }
+
+private:
+    void finish() {
+        printed_.sheets.push_back(drawn());
+        const float x = CurrentX, y = CurrentY;
+        Cls();
+        CurrentX = x;
+        CurrentY = y;
+    }
+
+    PrintedSheets& printed_;
+    std::size_t sheetsOfJob_ = 0;
+};
+
+// A machine with such a printer.
+class PrintingPlatform : public ScriptedPlatform {
+public:
+    bool hasPrinter = true;
+    PlainMetrics metrics;
+    PrintedSheets printed;
+    std::optional<platform::PrintChoice> dialogAnswer = platform::PrintChoice{1, 1};
+    std::vector<platform::PrintChoice> dialogsShown;
+    bool fileCancelled = false;
+    std::vector<platform::PaperName> paperNames = {{"A4", 9}, {"Letter", 1}, {"Custom", 256}};
+
+    std::string printerDeviceName() override {
+        if (!hasPrinter) core::raise(core::errors::deviceIO);
+        return "Recorder";
+    }
+    platform::TextMetrics& textMetrics() override { return metrics; }
+    std::vector<platform::PaperName> printerPapers() override { return paperNames; }
+    std::optional<platform::PrintChoice> showPrinterDialog(const platform::PrintChoice& present) override {
+        dialogsShown.push_back(present);
+        return dialogAnswer;
+    }
+    std::unique_ptr<platform::DrawTarget> openPrinter(const std::string&) override {
+        if (fileCancelled) return nullptr;
+        return std::make_unique<RecordingPrinter>(printed, metrics);
+    }
+};
+
+// What stands on a page, picked by kind.
+template <typename Kind>
+std::vector<Kind> drawnOf(const std::vector<platform::Drawn>& page) {
+    std::vector<Kind> found;
+    for (const platform::Drawn& each : page)
+        if (const auto* drawn = std::get_if<Kind>(&each)) found.push_back(*drawn);
+    return found;
+}
+
+// The texts of a page, "text@left,top" in whole twips.
+inline std::vector<std::string> textsOf(const std::vector<platform::Drawn>& page) {
+    std::vector<std::string> texts;
+    for (const platform::DrawnText& text : drawnOf<platform::DrawnText>(page))
+        texts.push_back(text.text + "@" + std::to_string(std::lround(text.Left)) + "," +
+                        std::to_string(std::lround(text.Top)));
+    return texts;
+}
+
+// The lines of a page, "x1,y1-x2,y2", dotted ones with a "." in front.
+inline std::vector<std::string> linesOf(const std::vector<platform::Drawn>& page) {
+    std::vector<std::string> lines;
+    const auto place = [](float x, float y) {
+        return std::to_string(std::lround(x)) + "," + std::to_string(std::lround(y));
+    };
+    for (const platform::DrawnLine& line : drawnOf<platform::DrawnLine>(page))
+        lines.push_back((line.pen.DrawStyle == platform::LineStyle::Dotted ? "." : "") +
+                        place(line.x1, line.y1) + "-" + place(line.x2, line.y2));
+    return lines;
+}
+
+// A program with that machine, and databases made on the spot.
+struct PrintProgram {
+    PrintingPlatform platform;
+    app::App app{platform};
+
+    void open(const std::string& dataFile) {
+        const std::string file = (platform.folder / "test.fwk").string();
+        platform::Zip Zip;
+        Zip.CreateArchive(file);
+        Zip.addBuffer("data.dat", dataFile, "");
+        Zip.CloseArchive();
+        app.document.currentFile = file;
+        storage::OpenFile(app, true);
+    }
+    // Records "r1", "r2", ... of one text column "Name", with a layout of one field when asked.
+    void openRecords(int count, const std::string& layout = {}) {
+        DataFile file;
+        file.layout = layout;
+        file.names = "Name|";
+        file.types = "3|";
+        file.widths = "1600|";
+        file.spots = "1|2|";
+        file.rows.clear();
+        for (int i = 1; i <= count; ++i) file.rows += "r" + std::to_string(i) + "|\r\n";
+        file.rows += "------|\r\n";
+        open(file.text());
+        app.document.printedCols.add("Name");
+        app.document.reportData.reportOrientation = 1;
+    }
+    const std::vector<platform::Drawn>& preview() const {
+        return app.mainFrm.previewPage.rptPreview1.drawn();
+    }
+    // The texts of a page alone, without the blanks behind them.
+    static std::string wordsOf(const std::vector<platform::Drawn>& page) {
+        std::string words;
+        for (const platform::DrawnText& text : drawnOf<platform::DrawnText>(page))
+            words += (words.empty() ? "" : " ") + std::string(core::rtrim(text.text));
+        return words;
+    }
+    void select(std::initializer_list<int> rows) {
+        app.document.LV.clearSelection();
+        for (const int row : rows) app.document.LV.at(row).Selected = true;
+    }
+    std::string selection() const {
+        std::string rows;
+        app.document.LV.forEach([&](const core::Item& item) { rows += item.Selected ? '1' : '0'; });
+        return rows;
+    }
+};
