@@ -1,16 +1,20 @@
 #pragma once
 
+#include "gui/formView.h"
 #include "gui/qtPlatform.h"
+
+#include <QApplication>
 
 namespace gui {
 
-// Ahead of a modal dialog the window behind it shows the state that the handler has reached, and the
+// Ahead of a modal dialog the windows behind it show the state that the handler has reached, and the
 // hourglass rests as long as the user is asked.
 class QtPlatform::ModalScope {
 public:
     explicit ModalScope(QtPlatform& owner) : owner_(owner), hourglass_(owner.hourglass_) {
         owner_.setMousePointer(platform::MousePointer::Default);
         if (owner_.window_.refresh) owner_.window_.refresh();
+        if (auto* form = qobject_cast<FormView*>(QApplication::activeModalWidget())) form->refresh();
     }
     ~ModalScope() {
         if (hourglass_) owner_.setMousePointer(platform::MousePointer::Hourglass);

@@ -1,9 +1,5 @@
 #include "gui/pictures.h"
 
-#include "qtprint/pictureFile.h"
-
-#include <QDateTime>
-#include <QFileInfo>
 #include <QPixmapCache>
 
 namespace gui {
@@ -17,9 +13,8 @@ constexpr int largestShownSide = 4096;
 QPixmap scaledPicture(const QString& path, QSize size) {
     size = size.boundedTo({largestShownSide, largestShownSide});
     if (path.isEmpty() || size.isEmpty()) return {};
-    const qint64 changed = QFileInfo(path).lastModified().toMSecsSinceEpoch();
     const QString key =
-        QStringLiteral("%1|%2|%3x%4").arg(path).arg(changed).arg(size.width()).arg(size.height());
+        QStringLiteral("%1|%2|%3x%4").arg(path).arg(pictureStamp(path)).arg(size.width()).arg(size.height());
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
     const QImage image = qtprint::readPicture(path, size);

@@ -2,6 +2,7 @@
 
 #include "qtprint/twipsFont.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -12,9 +13,13 @@ namespace {
 constexpr qint64 mostPixels = 64'000'000; // 256 MB while it is read
 constexpr qint64 mostFileBytes = 64'000'000;
 
-bool isWithinBounds(QSize size) {
+// A few bytes of a GIF can stand for any number of pixels, and all of them are unpacked.
+constexpr qint64 mostGifPixels = 16'000'000;
+
+bool isWithinBounds(QSize size, const QByteArray& format) {
     return size.isValid() && !size.isEmpty() &&
-           static_cast<qint64>(size.width()) * static_cast<qint64>(size.height()) <= mostPixels;
+           static_cast<qint64>(size.width()) * static_cast<qint64>(size.height()) <=
+               (format == "gif" ? mostGifPixels : mostPixels);
 }
 
 // Only what may be chosen is read, whatever else Qt has decoders for.
@@ -30,7 +35,7 @@ std::optional<QSize> pictureSize(const QString& path) {
     reader.setDecideFormatFromContent(true);
     if (!reader.canRead() || !isAllowedFormat(reader.format())) return std::nullopt;
     const QSize size = reader.size();
-    if (!isWithinBounds(size)) return std::nullopt;
+    if (!isWithinBounds(size, reader.format())) return std::nullopt;
     return size;
 }
 
@@ -39,6 +44,11 @@ std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path)
     const std::optional<QSize> size = pictureSize(toQString(path.string()));
     if (!size) return std::nullopt;
     return platform::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
+}
+
+qint64 pictureStamp(const QString& path) {
+    const QFileInfo file(path);
+    return file.lastModified().toMSecsSinceEpoch() ^ file.size() << 42;
 }
 
 QImage readPicture(const QString& path, QSize bounds) {
