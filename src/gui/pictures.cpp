@@ -1,9 +1,5 @@
 #include "gui/pictures.h"
 
-#include "qtprint/pictureFile.h"
-
-#include <QDateTime>
-#include <QFileInfo>
 #include <QPixmapCache>
 
 namespace gui {
@@ -13,11 +9,6 @@ namespace {
 constexpr int largestShownSide = 4096;
 
 } // namespace
-
-qint64 pictureStamp(const QString& path) {
-    const QFileInfo file(path);
-    return file.lastModified().toMSecsSinceEpoch() ^ file.size() << 42;
-}
 
 QPixmap scaledPicture(const QString& path, QSize size) {
     size = size.boundedTo({largestShownSide, largestShownSide});

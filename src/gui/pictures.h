@@ -1,13 +1,15 @@
 #pragma once
 
+#include "qtprint/pictureFile.h"
+
 #include <QPixmap>
 #include <QSize>
 #include <QString>
 
 namespace gui {
 
-// Another number for another content of the file.
-qint64 pictureStamp(const QString& path);
+using qtprint::pictureSize;
+using qtprint::pictureStamp;
 
 // The picture in that size of device pixels; a null pixmap when it cannot be read. Kept for the next time.
 QPixmap scaledPicture(const QString& path, QSize size);

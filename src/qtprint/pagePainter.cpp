@@ -2,9 +2,6 @@
 
 #include "qtprint/pictureFile.h"
 
-#include <QDateTime>
-#include <QFileInfo>
-
 #include <algorithm>
 
 namespace qtprint {
@@ -86,11 +83,8 @@ void PagePainter::drawPicture(QPainter& painter, const std::filesystem::path& pi
     const QSize dots =
         (place.size() * dotsPerTwip).toSize().expandedTo({1, 1}).boundedTo({mostDots, mostDots});
     const QString path = toQString(picture.string());
-    const QString key = QStringLiteral("%1|%2|%3x%4")
-                            .arg(path)
-                            .arg(QFileInfo(path).lastModified().toMSecsSinceEpoch())
-                            .arg(dots.width())
-                            .arg(dots.height());
+    const QString key =
+        QStringLiteral("%1|%2|%3x%4").arg(path).arg(pictureStamp(path)).arg(dots.width()).arg(dots.height());
     QImage* image = pictures_.object(key);
     QImage read;
     if (image == nullptr) {

@@ -2,6 +2,7 @@
 
 #include "qtprint/twipsFont.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -42,6 +43,11 @@ std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path)
     const std::optional<QSize> size = pictureSize(toQString(path.string()));
     if (!size) return std::nullopt;
     return platform::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
+}
+
+qint64 pictureStamp(const QString& path) {
+    const QFileInfo file(path);
+    return file.lastModified().toMSecsSinceEpoch() ^ file.size() << 42;
 }
 
 QImage readPicture(const QString& path, QSize bounds) {

@@ -18,6 +18,9 @@ std::optional<QSize> pictureSize(const QString& path);
 // The same in twips.
 std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path);
 
+// Another number for another content of the file.
+qint64 pictureStamp(const QString& path);
+
 // The picture, made smaller when it is larger than the bounds; a null image when it cannot be read.
 QImage readPicture(const QString& path, QSize bounds);
 
