@@ -75,7 +75,8 @@ check_format() {
 
 # Starts from the databases of the tests. An input that breaks the program stays in build/fuzz/found-*.
 fuzz() {
-    build fuzz && cmake --build --preset fuzz --target fuzz_corpus -- "${quiet[@]}" || return 1
+    cmake --preset fuzz --log-level=WARNING &&
+        cmake --build --preset fuzz --target fuzz_reader fuzz_archive fuzz_corpus -- -j2 "${quiet[@]}" || return 1
     local target
     for target in reader archive; do
         mkdir -p "build/fuzz/grown-$target"
