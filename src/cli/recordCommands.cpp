@@ -1,4 +1,5 @@
 #include "cli/command.h"
+#include "cli/invoiceEntry.h"
 #include "cli/output.h"
 #include "cli/recordEntry.h"
 #include "cli/session.h"
@@ -19,17 +20,12 @@ struct Options {
     bool descending = false;
 };
 
-// An invoice is written by routines of its own.
-void requireStandard(const Session& session, const char* whatCannotBe) {
-    if (session.app.document.bInvoiceStyle)
-        throw Failure(session.file, std::string("invoices cannot be ") + whatCannotBe + " yet");
-}
-
 int add(const Options& options) {
     Session session(options.file);
     session.open();
-    requireStandard(session, "added");
-    const core::Item& added = addRecord(session, cellValues(session, options.cells));
+    const std::vector<CellValue> values = cellValues(session, options.cells);
+    const bool isInvoice = session.app.document.bInvoiceStyle;
+    const core::Item& added = isInvoice ? addInvoice(session, values) : addRecord(session, values);
     const std::string key = added.Key.str();
     session.save();
     writeOut(key + "\n");
@@ -39,9 +35,12 @@ int add(const Options& options) {
 int update(const Options& options) {
     Session session(options.file);
     session.open();
-    requireStandard(session, "updated");
     core::Item& record = session.record(options.key);
-    updateRecord(session, record, cellValues(session, options.cells));
+    const std::vector<CellValue> values = cellValues(session, options.cells);
+    if (session.app.document.bInvoiceStyle)
+        updateInvoice(session, record, values);
+    else
+        updateRecord(session, record, values);
     session.save();
     return done;
 }
@@ -49,7 +48,6 @@ int update(const Options& options) {
 int deleteRecords(const Options& options) {
     Session session(options.file);
     session.open();
-    requireStandard(session, "deleted");
     core::RecordsList& records = session.app.document.LV;
     records.clearSelection();
     records.setSelectedItem(&session.record(options.keys.front()));

@@ -134,7 +134,8 @@ bool deleteInvoices(App& app) {
         gone.insert(row.Text.str());
         row.Selected = false;
     });
-    document.LV.removeIf([&](const Item& record) { return !record.isTotals() && gone.contains(record.Key.view()); });
+    document.LV.removeIf(
+        [&](const Item& record) { return !record.isTotals() && gone.contains(record.Key.view()); });
     app::setDocumentModified(app, true);
     app::rebuildInvoiceView(app);
     if (document.LV.count() >= 3) {

@@ -35,10 +35,8 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("reportPageSetup", shown<reportPageSetupView>(app, events));
     platform.registerForm("layoutPageSetupFrm", shown<layoutPageSetupFrmView>(app, events));
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
-    platform.registerForm("replaceFrm",
-                          [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
-    platform.registerForm("searchFrm",
-                          [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });
+    platform.registerForm("replaceFrm", [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
+    platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
 }
 

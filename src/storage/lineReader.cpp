@@ -36,7 +36,8 @@ std::optional<std::string_view> LineReader::peek() const {
 std::optional<std::string_view> LineReader::nextFilled() {
     while (position_ < text_.size()) {
         const std::string_view line = next();
-        if (!line.empty()) return line;
+        // A line feed by itself is a line of nothing where lines end in a carriage return.
+        if (line.find_first_not_of("\r\n") != std::string_view::npos) return line;
     }
     return std::nullopt;
 }

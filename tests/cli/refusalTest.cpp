@@ -160,9 +160,11 @@ TEST_F(Refusals, CalculationAndRecords) {
         {{"duplicate", "a.fwk", "i1", "1,000"}, "", ""},
         {{"duplicate", "a.fwk", "i1", "-1"}, "", ""},
         {{"duplicate", "a.fwk", "i1", "40000"}, "", "a.fwk: Overflow: 40000"},
-        {{"add", "inv.fwk"}, "", "inv.fwk: invoices cannot be added yet"},
-        {{"update", "inv.fwk", "i1", "Customer=x"}, "", "inv.fwk: invoices cannot be updated yet"},
-        {{"delete", "inv.fwk", "i1"}, "", "inv.fwk: invoices cannot be deleted yet"},
+        {{"add", "inv.fwk", "Qty=1@2@3@4@5@6@7@8@"},
+         "",
+         "inv.fwk: the column \"Qty\" has 6 rows on the layout"},
+        {{"update", "inv.fwk", "i9", "Customer=x"}, "", "inv.fwk: no record \"i9\""},
+        {{"delete", "inv.fwk", "Totals"}, "", "inv.fwk: no record \"Totals\""},
     });
 }
 

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QTreeWidget>
 
 // What a user finds, does with what he has found, and keeps of it.
@@ -96,6 +97,20 @@ void Search::findsSortsAndKeepsRecords() {
     QCOMPARE(run.app.document.searchLV.selectedItem(), &clicked);
     QCOMPARE(gui::toQt(run.app.document.LV3.at(1).subItem(1).view()), QString::number(descending[1]));
 
+    // One of them is changed through the Entry Form, and the record changes with it.
+    const QString number = run.cell(1, "No", "searchLV");
+    run.platform.scripts[QStringLiteral("entryFrm")] = [&](QDialog& dialog) {
+        const auto boxes = dialog.findChildren<QLineEdit*>(QRegularExpression(QStringLiteral("^FieldBox")));
+        QCOMPARE(boxes.value(0)->text(), number);
+        QTest::keyClick(boxes.last(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(boxes.last(), QStringLiteral("read again"));
+        dialog.findChild<QAction*>(QStringLiteral("Update"))->trigger();
+        dialog.close();
+    };
+    run.window.events().run([&] { run.platform.showForm("entryFrm"); });
+    QCOMPARE(run.cell(1, "Notes", "searchLV"), QStringLiteral("read again"));
+    QCOMPARE(run.cell(number.toInt() - 1, "Notes"), QStringLiteral("read again"));
+
     run.platform.chosenFile = gui::fromQt(folders_.path("homer.fwk"));
     run.action("mnuSaveSearch")->trigger();
     QVERIFY(run.platform.messages.empty());
@@ -108,6 +123,7 @@ void Search::findsSortsAndKeepsRecords() {
     run.action("mnuOpen")->trigger();
     QCOMPARE(run.rows(), found + 1);
     QCOMPARE(numbers("LV"), descending);
+    QCOMPARE(run.cell(1, "Notes"), QStringLiteral("read again"));
 }
 
 void Search::theDialogChecksWhatIsTyped() {

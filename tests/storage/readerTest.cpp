@@ -243,6 +243,7 @@ TEST_F(ReaderTest, rows) {
         {"no line", "", "", ""},
         {"no end of the last line", "a|1|2|\r\nb|3|4|", "a|1|2|;b|3|4|;", "i1;Totals;"},
         {"blank lines anywhere", "\r\na|1|2|\r\n\r\n\r\nb|3|4|\r\n\r\n\r\n", "a|1|2|;b|3|4|;", "i1;Totals;"},
+        {"mixed line ends behind the last row", "a|1|2|\r\nb|3|4|\r\r\n\n", "a|1|2|;b|3|4|;", "i1;Totals;"},
         {"a line of blanks is a row", "   \r\na|1|2|\r\n", "|||;a|1|2|;", "i1;Totals;"},
         {"only Text keeps its blanks", " a |  1 | $2.00 |\r\n-|-|-|\r\n", " a |1|$2.00|;-|-|-|;",
          "i1;Totals;"},
