@@ -17,5 +17,14 @@ endif()
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+    # Without this ccache keeps nothing that was compiled with a precompiled header.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "env;CCACHE_SLOPPINESS=pch_defines,time_macros;${CCACHE_PROGRAM}")
 endif()
+
+# ferrowick_precompile(TARGET HEADER ...)
+# A file must still include what it uses: builds without FERROWICK_PCH, and the fuzz targets, check that.
+function(ferrowick_precompile target)
+    if(FERROWICK_PCH)
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
