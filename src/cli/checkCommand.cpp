@@ -1,8 +1,10 @@
+#include "app/invoiceRoutines.h"
 #include "cli/command.h"
 #include "cli/documentCheck.h"
 #include "cli/output.h"
 #include "cli/session.h"
 #include "core/encoding.h"
+#include "core/number.h"
 #include "core/text.h"
 #include "platform/zip.h"
 #include "storage/dataReader.h"
@@ -17,6 +19,7 @@ namespace cli {
 namespace {
 
 constexpr const char* dataFile = "data.dat";
+constexpr int mostFindings = 1000;
 
 class FileCheck {
 public:
@@ -31,10 +34,17 @@ public:
         }
     }
 
-    const std::string& findings() const { return findings_; }
+    int count() const { return count_; }
+    std::string findings() const {
+        if (count_ <= mostFindings) return findings_;
+        return findings_ + "and " + std::to_string(count_ - mostFindings) + " more\n";
+    }
 
 private:
-    void report(const std::string& finding) { findings_.append(printable(finding)).push_back('\n'); }
+    // A file that was made to have millions of them is not worth the memory.
+    void report(const std::string& finding) {
+        if (++count_ <= mostFindings) findings_.append(printable(finding)).push_back('\n');
+    }
 
     void checkAll() {
         platform::Zip Zip;
@@ -50,6 +60,7 @@ private:
         storage::readDataFile(*bytes, document, &observer);
         checkSections(storage::decodeDataFile(*std::move(bytes)));
         checkDocument(document, images, [this](const std::string& finding) { report(finding); });
+        if (document.bInvoiceStyle) app::rebuildInvoiceView(session_.app); // raises for too many item rows
     }
 
     // Answers the names of the images.
@@ -85,6 +96,7 @@ private:
     void checkSections(const std::string& text) {
         constexpr std::size_t markerSize = 16;
         std::map<std::string_view, std::size_t> elements;
+        std::string_view widths, spots;
         storage::LineReader lines(text);
         while (lines.next() != "[LayoutEnd]") {
         }
@@ -92,6 +104,8 @@ private:
             const std::string_view line = lines.next();
             const std::string_view marker = line.substr(0, markerSize);
             if (marker == "[Begin Data    ]") break;
+            if (marker == "[Column Widths ]") widths = line.substr(markerSize);
+            if (marker == "[Column Spots  ]") spots = line.substr(markerSize);
             const auto [known, isNew] = elements.emplace(marker, core::split(line, '|').size() - 1);
             if (!isNew && marker.size() == markerSize && marker.starts_with('['))
                 report("line " + std::to_string(lines.number()) + ": section " + std::string(marker) +
@@ -107,10 +121,32 @@ private:
         compare("[Column Types  ]", names);
         compare("[Column Widths ]", names);
         compare("[Column Spots  ]", names + 1);
+        checkWidths(widths);
+        if (elements["[Column Spots  ]"] == names + 1) checkSpots(spots);
+    }
+
+    // Elements that the reader mends in silence.
+    void checkWidths(std::string_view line) {
+        for (const std::string_view width : core::split(line, '|'))
+            if (!width.empty() &&
+                (!core::isNumeric(width) || core::val(width) < 0 || core::val(width) > storage::widestColumn))
+                report("the width \"" + std::string(width) + "\" of a column is out of range");
+    }
+
+    void checkSpots(std::string_view line) {
+        std::vector<std::string_view> spots = core::split(line, '|');
+        if (!spots.empty()) spots.pop_back();
+        std::set<double> places;
+        for (const std::string_view spot : spots) places.insert(core::val(spot));
+        const bool whole =
+            places.size() == spots.size() &&
+            (places.empty() || (*places.begin() == 1 && *places.rbegin() == double(places.size())));
+        if (!whole) report("section [Column Spots  ] is no order of the columns");
     }
 
     Session session_;
     std::string findings_;
+    int count_ = 0;
 };
 
 int checkFile(const std::string& file) {
@@ -122,7 +158,8 @@ int checkFile(const std::string& file) {
         throw;
     }
     writeOut(check.findings());
-    return check.findings().empty() ? done : failed;
+    if (check.count() == 0) return done;
+    throw Failure(file, check.count() == 1 ? "1 finding" : std::to_string(check.count()) + " findings");
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <iostream>
 #include <limits>
@@ -30,8 +31,10 @@ std::string whyNotWritten(const std::string& target) {
     const char* place = folder.empty() ? "." : folder.c_str();
     struct stat status {};
     if (::stat(place, &status) != 0 || !S_ISDIR(status.st_mode)) return "its folder does not exist";
+    if (::stat(target.c_str(), &status) != 0 && errno == ELOOP) return "its link leads nowhere";
     if (::stat(target.c_str(), &status) == 0) {
         if (S_ISDIR(status.st_mode)) return "it is a folder";
+        if (!S_ISREG(status.st_mode)) return "it is no ordinary file";
         const bool writable = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
         if (!writable || ::access(target.c_str(), W_OK) != 0) return "it is read-only";
     }

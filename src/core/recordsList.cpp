@@ -178,7 +178,10 @@ void RecordsList::renumber() const {
 
 void moveTotals(RecordsList& list) {
     Item* old = list.totals();
-    if (old == nullptr) raise(errors::elementNotFound, std::string(totalsKey));
+    if (old == nullptr) { // the window cleared by a new database that was given up
+        addTotalsRow(list);
+        return;
+    }
     // The cells travel as one line of text, so a "|" in a Totals cell shifts what stands behind it.
     std::string line;
     for (const CellText& cell : old->cells) line.append(cell.view()).push_back('|');

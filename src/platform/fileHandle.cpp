@@ -42,6 +42,10 @@ int errorNumberOf(int errnoValue) {
         return core::errors::fileNotFound;
     case ENAMETOOLONG:
         return core::errors::badFileName;
+    case ENOMEDIUM:
+    case ENXIO:
+    case ENODEV:
+        return core::errors::diskNotReady;
     default:
         return core::errors::deviceIO;
     }

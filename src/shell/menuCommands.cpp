@@ -5,6 +5,7 @@
 #include "layout/sheet.h"
 #include "lock/designLock.h"
 #include "print/printerCheck.h"
+#include "search/searchMode.h"
 #include "shell/mainWindow.h"
 #include "storage/openFile.h"
 
@@ -37,7 +38,13 @@ void showProperties(App& app) {
     if (!lock::isDesignLocked(app)) showDatabaseProperties(app);
 }
 
+// Search results are copies under the columns of their time, so they cannot outlive a change of the columns.
 void showDatabaseProperties(App& app) {
+    if (app.document.searchLV.Visible) {
+        app.mainFrm.control("Search").Value = true;
+        search::Search_ButtonClick(app);
+        app.mainFrm.control("Delete").Enabled = app.mainFrm.SSTab1 == app::reportTab;
+    }
     app.platform.showForm("designFrm");
     layout::refreshLayoutButtonMenus(app);
 }

@@ -167,8 +167,9 @@ private:
         for (std::size_t i = 0; i < names_.size(); ++i) {
             if (i >= types_.size() || i >= widths_.size())
                 core::raise(core::errors::subscriptOutOfRange, "column " + std::string(names_[i]));
-            const auto width = static_cast<float>(core::val(widths_[i]));
-            document_.LV.columns.add(names_[i], names_[i], width).setTypeFromFile(types_[i]);
+            const double width = std::clamp(core::val(widths_[i]), -widestColumn, widestColumn);
+            document_.LV.columns.add(names_[i], names_[i], static_cast<float>(width))
+                .setTypeFromFile(types_[i]);
         }
     }
 

@@ -9,6 +9,9 @@
 
 namespace storage {
 
+// In twips; a file that asks for a wider column gets this.
+constexpr double widestColumn = 1e6;
+
 // What a reader that wants to know more than the document gets told on the way. Lines count from 1.
 struct ReadObserver {
     std::function<void(int line, std::string_view what)> finding;

@@ -63,7 +63,7 @@ void saveSearchResults(App& app) {
     try {
         writeAndPack(app, *target);
     } catch (const core::RunTimeError& error) {
-        tellFailure(app, false, error.number);
+        tellFailure(app, true, error.number);
     } catch (const std::exception&) {
         tellFailure(app, false, 0);
     }

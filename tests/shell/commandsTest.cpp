@@ -222,6 +222,20 @@ TEST_F(CommandsTest, theLockStopsTheButtonAndNotTheMenuItem) {
     EXPECT_EQ(platform.forms.size(), 2U);
 }
 
+// The results are copies under the columns of their time.
+TEST_F(CommandsTest, databasePropertiesLeaveTheSearchResults) {
+    program.openCopyOf("books.fwk");
+    mainFrm.control("Search").Value = true;
+    document.searchLV.Visible = true;
+    mainFrm.theListView = &document.searchLV;
+    bool visible = true;
+    platform.onForm = [&](std::string_view) { visible = document.searchLV.Visible; };
+    runCommand(app, "mnuDatabaseProperties");
+    EXPECT_FALSE(visible);
+    EXPECT_EQ(mainFrm.theListView, &document.LV);
+    EXPECT_FALSE(mainFrm.control("Search").Value);
+}
+
 TEST_F(CommandsTest, deleteWorksOnTheRecordsOnViewAlone) {
     const struct {
         const char* file;
