@@ -8,6 +8,7 @@
 #include "cli/tableFile.h"
 #include "core/text.h"
 #include "entry/editRecord.h"
+#include "entry/invoiceRecords.h"
 #include "exchange/columnTypes.h"
 #include "platform/zip.h"
 #include "storage/newDatabase.h"
@@ -198,15 +199,17 @@ void appendInvoices(Session& session, const CsvTable& table, const std::vector<c
         if (!parts.isUndefined()) calculated.insert(parts.name);
     }
     document.layout.layoutField.forEach([&](const core::LayoutField& field) { onLayout.insert(field.Tag); });
-    for (std::size_t row = 0; row < table.rowCount(); ++row) {
+    const auto fill = [&](int row) {
         std::vector<CellValue> values;
         for (std::size_t i = 0; i < columns.size(); ++i) {
-            const std::string text = boxText(*columns[i], table.cell(row, i));
+            const std::string text = boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i));
             const bool isBlank = text.empty() && !onLayout.contains(columns[i]->Text);
             if (!isBlank && !calculated.contains(columns[i]->Text)) values.push_back({columns[i], text});
         }
-        addInvoice(session, values);
-    }
+        fillInvoice(session, values);
+    };
+    session.changeAndCalculate(
+        [&] { entry::addInvoices(session.app, static_cast<int>(table.rowCount()), fill); });
 }
 
 void append(const Options& options, const CsvTable& table) {

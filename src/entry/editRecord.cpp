@@ -45,11 +45,6 @@ void checkColumns(const RecordsList& records, const std::vector<BoxText>& boxes)
     for (const BoxText& box : boxes) static_cast<void>(records.columns[box.Tag]);
 }
 
-void requireKeys(const Document& document, int records) {
-    if (records > std::numeric_limits<std::int16_t>::max() - document.iLastKey)
-        core::raise(core::errors::overflow, "record keys");
-}
-
 Item& addRecord(App& app) {
     Document& document = app.document;
     Item& record = document.LV.add(document.nextKey());
@@ -75,6 +70,11 @@ void copyToResult(App& app, const Item& record) {
 }
 
 } // namespace
+
+void requireKeys(const Document& document, int records) {
+    if (records > std::numeric_limits<std::int16_t>::max() - document.iLastKey)
+        core::raise(core::errors::overflow, "record keys");
+}
 
 std::string cellText(ColumnType type, std::string_view text) {
     if (type == ColumnType::Currency) return text.empty() ? "$.00" : core::format(text, core::Mask::Money);

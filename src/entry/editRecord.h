@@ -18,6 +18,9 @@ struct BoxText {
 // The cell that a record gets from an entry box.
 std::string cellText(core::ColumnType type, std::string_view text);
 
+// Raises overflow when there are fewer keys left than that.
+void requireKeys(const core::Document& document, int records);
+
 // Writes a record of a standard database: the selected one, or a new one. Calculation, totals, serial
 // counters, status bar, slider and the row of the search results follow. The Totals row is left
 // alone. Returns the record, or nullptr when nothing was written. The 32,768th key raises overflow,
