@@ -8,6 +8,8 @@
 
 namespace calc {
 
+constexpr std::size_t mostColumns = 50; // of a database, the hidden one left out
+
 // Adds a column with an empty cell in every record; `tag` is its type code as text. Raises
 // keyNotUnique for a name that is there in whatever case.
 core::Column& addColumn(core::Document& document, std::string_view name, std::string_view tag);

@@ -17,7 +17,6 @@ using core::Column;
 using core::ColumnType;
 
 constexpr std::array<const char*, 6> typeTags = {"1", "2", "5", "4", "3", "7"};
-constexpr std::size_t mostColumns = 50;
 
 designFrm::Row rowOf(const Column& column) {
     designFrm::Row row{column.Text, std::string(core::typeName(column.type())), "NA", "NA"};

@@ -46,6 +46,8 @@ Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);
 Run setUpReport(CLI::App& command);
 Run setUpLayouts(CLI::App& command);
+Run setUpExport(CLI::App& command);
+Run setUpImport(CLI::App& command);
 
 // The command line as the program was started with.
 char** commandLine();

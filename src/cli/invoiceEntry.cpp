@@ -37,11 +37,15 @@ void fillFields(Session& session, const CellValue& value) {
 }
 
 void store(Session& session, const std::vector<CellValue>& values) {
-    for (const CellValue& value : values) fillFields(session, value);
+    fillInvoice(session, values);
     session.changeAndCalculate([&] { entry::editInvoiceRecord(session.app, true); });
 }
 
 } // namespace
+
+void fillInvoice(Session& session, const std::vector<CellValue>& values) {
+    for (const CellValue& value : values) fillFields(session, value);
+}
 
 core::Item& addInvoice(Session& session, const std::vector<CellValue>& values) {
     session.change([&] { entry::layoutNavBar_ButtonClick(session.app, "New"); });

@@ -31,6 +31,8 @@ constexpr Command commands[] = {
     {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
     {"report", "Prints the report of all records into a PDF file", setUpReport},
     {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
+    {"export", "Writes the records with their column types into a table", setUpExport},
+    {"import", "Makes a database from a table, or appends the table's rows", setUpImport},
 };
 
 constexpr const char* exitCodes =

@@ -71,6 +71,11 @@ void copyToResult(App& app, const Item& record) {
 
 } // namespace
 
+void requireKeys(const Document& document, int records) {
+    if (records > std::numeric_limits<std::int16_t>::max() - document.iLastKey)
+        core::raise(core::errors::overflow, "record keys");
+}
+
 std::string cellText(ColumnType type, std::string_view text) {
     if (type == ColumnType::Currency) return text.empty() ? "$.00" : core::format(text, core::Mask::Money);
     if (type == ColumnType::Number && text.empty()) return "0";
@@ -105,6 +110,31 @@ Item* EditRecord(App& app, bool bUpdate, const std::vector<BoxText>& theFields,
     return record;
 }
 
+bool addRecords(App& app, int count, const std::function<void(int row, std::vector<BoxText>& boxes)>& fill) {
+    Document& document = app.document;
+    RecordsList& records = document.LV;
+    requireKeys(document, count);
+    if (count < 1) return true;
+    records.reserve(static_cast<std::size_t>(records.count() + count));
+    calc::RowCalculator formulas(app, records);
+    std::vector<const Item*> added;
+    std::vector<BoxText> boxes;
+    for (int row = 0; row < count; ++row) {
+        fill(row, boxes);
+        Item& record = records.add(document.nextKey());
+        writeCells(app, record, boxes, false);
+        if (!formulas.calculate(record)) return false;
+        added.push_back(&record);
+    }
+    core::moveTotals(records); // and the last record is the selected one
+    records.MultiSelect = false;
+    const core::TotalsRowUpdater totals(document, records);
+    for (const Item* record : added) totals.update(core::TotalsMode::Add, *record);
+    showCount(app);
+    app::setDocumentModified(app, true);
+    return true;
+}
+
 bool deleteRecords(App& app) {
     RecordsList& records = app.document.LV;
     const Item* focused = records.selectedItem();
@@ -130,8 +160,7 @@ bool deleteRecords(App& app) {
 void duplicateRecord(App& app, Item& source, int copies) {
     Document& document = app.document;
     RecordsList& records = document.LV;
-    if (copies > std::numeric_limits<std::int16_t>::max() - document.iLastKey)
-        core::raise(core::errors::overflow, "record keys");
+    requireKeys(document, copies);
     std::vector<Item*> added;
     for (int copy = 0; copy < copies; ++copy) {
         Item& item = records.add(document.nextKey());

@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,12 +18,22 @@ struct BoxText {
 // The cell that a record gets from an entry box.
 std::string cellText(core::ColumnType type, std::string_view text);
 
+// Raises overflow when there are fewer keys left than that.
+void requireKeys(const core::Document& document, int records);
+
 // Writes a record of a standard database: the selected one, or a new one. Calculation, totals, serial
 // counters, status bar, slider and the row of the search results follow. The Totals row is left
 // alone. Returns the record, or nullptr when nothing was written. The 32,768th key raises overflow,
 // and the document is then as it was.
 core::Item* EditRecord(app::App& app, bool bUpdate, const std::vector<BoxText>& theFields,
                        const std::vector<BoxText>& pictures = {});
+
+// Writes many new records of a standard database, each as EditRecord does, and puts the list, its totals
+// and the status bar in order once at the end. `fill` puts what the row, from 0, is to hold into the
+// boxes, which keep what they held for the row before. False, after the message, when a formula
+// failed; the document is then half written. Keys that would run out raise overflow before anything is.
+bool addRecords(app::App& app, int count,
+                const std::function<void(int row, std::vector<BoxText>& boxes)>& fill);
 
 // Deletes the selected records. False when it stopped: the Totals row has the focus, the list is
 // empty, or the user said no.

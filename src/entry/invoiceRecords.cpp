@@ -1,9 +1,11 @@
 #include "entry/invoiceRecords.h"
 
 #include "app/invoiceRoutines.h"
+#include "calc/serialNumbers.h"
 #include "core/format.h"
 #include "core/text.h"
 #include "core/totalsRow.h"
+#include "entry/editRecord.h"
 #include "invoice/calculation.h"
 #include "invoice/records.h"
 #include "invoice/views.h"
@@ -118,6 +120,39 @@ void editInvoiceRecord(App& app, bool bUpdate) {
     records.MultiSelect = false;
     app::rebuildInvoiceView(app);
     refreshResults(app);
+}
+
+void proposeValues(App& app) {
+    Document& document = app.document;
+    document.layout.layoutField.forEach([&](LayoutField& field) {
+        field.Text = calc::proposedValue(app, field.Tag).value_or(std::string());
+        Item* serial = document.SerialsLV.findText(field.Tag);
+        if (document.bInvoiceStyle && serial != nullptr) serial->subItem(1) = field.Text;
+    });
+}
+
+bool addInvoices(App& app, int count, const std::function<void(int row)>& fill) {
+    RecordsList& records = app.document.LV;
+    requireKeys(app.document, count);
+    std::vector<const Item*> added;
+    app.mainFrm.bCalcError = false;
+    for (int row = 0; row < count; ++row) {
+        proposeValues(app);
+        fill(row);
+        Item& record = records.add(app.document.nextKey());
+        writeCells(app, record, true);
+        app::calculateInvoice(app, records, records.count());
+        if (app.mainFrm.bCalcError) return false;
+        added.push_back(&record);
+    }
+    if (added.empty()) return true;
+    core::moveTotals(records); // and the last invoice is the selected one
+    records.MultiSelect = false;
+    const core::TotalsRowUpdater totals(app.document, records);
+    for (const Item* record : added) totals.update(core::TotalsMode::Add, *record);
+    app::setDocumentModified(app, true);
+    app::rebuildInvoiceView(app);
+    return true;
 }
 
 bool deleteInvoices(App& app) {

@@ -74,12 +74,7 @@ void clearPictures(App& app) {
 void newRecord(App& app) {
     app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
     Document& document = app.document;
-    document.layout.layoutField.forEach([&](core::LayoutField& field) {
-        field.Text = calc::proposedValue(app, field.Tag).value_or(std::string());
-        // A new invoice is in the list at once, so its number is used up at once.
-        Item* serial = document.SerialsLV.findText(field.Tag);
-        if (document.bInvoiceStyle && serial != nullptr) serial->subItem(1) = field.Text;
-    });
+    proposeValues(app);
     clearPictures(app);
     if (!document.bInvoiceStyle) return;
     invoice::addInvoiceRecord(app);

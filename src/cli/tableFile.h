@@ -1,0 +1,13 @@
+#pragma once
+
+#include "exchange/csvReader.h"
+
+#include <memory>
+#include <string>
+
+namespace cli {
+
+// Reads a table from a file or a pipe. Raises Failure with what is wrong with it.
+std::unique_ptr<exchange::CsvTable> readTable(const std::string& file);
+
+} // namespace cli

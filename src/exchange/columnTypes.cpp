@@ -1,0 +1,171 @@
+#include "exchange/columnTypes.h"
+
+#include "core/dates.h"
+#include "core/format.h"
+#include "core/text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+
+namespace exchange {
+
+namespace {
+
+using core::ColumnType;
+
+constexpr std::array types = {ColumnType::Text, ColumnType::Number,  ColumnType::Currency,
+                              ColumnType::Date, ColumnType::Picture, ColumnType::Calculation};
+constexpr std::size_t mostDigits = 15; // that a sum keeps
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// How many digits stand at the head.
+std::size_t digitsAt(std::string_view text) {
+    const auto end = std::ranges::find_if_not(text, isDigit);
+    return static_cast<std::size_t>(end - text.begin());
+}
+
+bool skip(std::string_view& text, char c) {
+    if (!text.starts_with(c)) return false;
+    text.remove_prefix(1);
+    return true;
+}
+
+bool hasNeedlessZero(std::string_view digits) {
+    return digits.size() > 1 && digits.front() == '0';
+}
+
+// As a program writes it: "-12.50", ".5", and no sign, zero, comma or exponent more.
+bool isNumber(std::string_view text) {
+    skip(text, '-');
+    const std::size_t whole = digitsAt(text);
+    if (hasNeedlessZero(text.substr(0, whole))) return false;
+    text.remove_prefix(whole);
+    std::size_t places = 0;
+    if (skip(text, '.')) {
+        places = digitsAt(text);
+        if (places == 0) return false;
+        text.remove_prefix(places);
+    }
+    return text.empty() && whole + places > 0 && whole + places <= mostDigits;
+}
+
+// Thousands have commas everywhere or nowhere.
+bool isGrouped(std::string_view whole) {
+    constexpr std::size_t group = 3;
+    const std::vector<std::string_view> groups = core::split(whole, ',');
+    if (groups.size() > 1 && (groups[0].empty() || groups[0].size() > group)) return false;
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+        if (digitsAt(groups[i]) != groups[i].size()) return false;
+        if (i > 0 && groups[i].size() != group) return false;
+    }
+    return true;
+}
+
+// Dollars, with cents or without: "$5", "-$1,234.50", "$.05".
+bool isAmount(std::string_view text) {
+    skip(text, '-');
+    if (!skip(text, '$')) return false;
+    const std::size_t point = std::min(text.find('.'), text.size());
+    const std::string_view whole = text.substr(0, point);
+    const std::string_view cents = point < text.size() ? text.substr(point + 1) : std::string_view("00");
+    const auto digits = static_cast<std::size_t>(std::ranges::count_if(text, isDigit));
+    return digits > 0 && digits <= mostDigits && isGrouped(whole) && !hasNeedlessZero(whole) &&
+           !cents.empty() && cents.size() <= 2 && digitsAt(cents) == cents.size();
+}
+
+int number(std::string_view digits) {
+    int value = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return value;
+}
+
+// Month, day and year of four digits: the one form that a Date column sorts by. A date of another form
+// would show otherwise than in the table, and a day in front could be meant for a month.
+std::optional<std::string> readDate(std::string_view text) {
+    constexpr std::size_t yearDigits = 4;
+    const std::vector<std::string_view> parts = core::split(text, '/');
+    if (parts.size() != 3) return std::nullopt;
+    for (const std::string_view part : parts)
+        if (part.empty() || digitsAt(part) != part.size()) return std::nullopt;
+    if (parts[0].size() > 2 || parts[1].size() > 2 || parts[2].size() != yearDigits) return std::nullopt;
+    const auto month = static_cast<unsigned>(number(parts[0]));
+    const auto day = static_cast<unsigned>(number(parts[1]));
+    const int year = number(parts[2]);
+    if (!std::chrono::year_month_day(std::chrono::year(year), std::chrono::month(month),
+                                     std::chrono::day(day))
+             .ok())
+        return std::nullopt;
+    return core::formatDate(year, month, day);
+}
+
+ColumnType guess(const CsvTable& table, std::size_t column) {
+    bool numbers = true, amounts = true, dates = true, isBlank = true;
+    for (std::size_t row = 0; row < table.rowCount() && (numbers || amounts || dates); ++row) {
+        const std::string_view cell = core::trim(table.cell(row, column));
+        if (cell.empty()) continue;
+        isBlank = false;
+        numbers = numbers && isNumber(cell);
+        amounts = amounts && isAmount(cell);
+        dates = dates && readDate(cell).has_value();
+    }
+    if (isBlank) return ColumnType::Text;
+    if (numbers) return ColumnType::Number;
+    if (amounts) return ColumnType::Currency;
+    return dates ? ColumnType::Date : ColumnType::Text;
+}
+
+ColumnType typeNamed(std::string_view name) {
+    const auto found = std::ranges::find_if(
+        types, [&](ColumnType type) { return core::equalsNoCase(core::typeName(type), name); });
+    return found == types.end() ? ColumnType::None : *found;
+}
+
+} // namespace
+
+std::string columnName(std::string_view headerCell) {
+    std::string name(core::trim(headerCell));
+    std::ranges::replace_if(
+        name, [](char c) { return c == ' ' || c == '\n'; }, '_');
+    return name;
+}
+
+std::string typedHeader(const core::Column& column) {
+    // A damaged file can have columns of no type.
+    const bool hasType = column.type() != ColumnType::None;
+    return column.Text + ":" + std::string(core::typeName(hasType ? column.type() : ColumnType::Text));
+}
+
+std::optional<std::vector<TableColumn>> typedColumns(const CsvTable& table) {
+    std::vector<TableColumn> columns;
+    for (const std::string_view cell : table.header()) {
+        const std::size_t colon = cell.rfind(':');
+        if (colon == 0 || colon == std::string_view::npos) return std::nullopt;
+        const ColumnType type = typeNamed(cell.substr(colon + 1));
+        if (type == ColumnType::None) return std::nullopt;
+        columns.push_back({std::string(cell.substr(0, colon)), type, false});
+    }
+    return columns;
+}
+
+std::vector<TableColumn> columnsOf(const CsvTable& table) {
+    if (auto typed = typedColumns(table)) return *std::move(typed);
+    std::vector<TableColumn> columns;
+    for (std::size_t i = 0; i < table.header().size(); ++i)
+        columns.push_back({columnName(table.header()[i]), guess(table, i), true});
+    return columns;
+}
+
+std::string storedCell(const TableColumn& column, std::string_view cell) {
+    if (!column.isGuessed || column.type == ColumnType::Text) return std::string(cell);
+    const std::string_view value = core::trim(cell);
+    if (column.type == ColumnType::Currency) return core::format(value, core::Mask::Money);
+    if (column.type == ColumnType::Date) return readDate(value).value_or(std::string(value));
+    return std::string(value);
+}
+
+} // namespace exchange

@@ -1,0 +1,121 @@
+#include "fwkProgram.h"
+
+#include <nlohmann/json.hpp>
+
+using nlohmann::json;
+
+namespace {
+
+class Exchange : public FwkTest {
+protected:
+    void write(const std::string& name, const std::string& bytes) const {
+        std::ofstream(path(name), std::ios::binary) << bytes;
+    }
+    json recordsOf(const std::string& file) { return json::parse(outputOf("records " + file + " --json")); }
+};
+
+TEST_F(Exchange, RoundTripLosesNothing) {
+    const std::string odd =
+        make("odd.fwk", "[LayoutStart]\r\n[LayoutEnd]\r\n"
+                        "[Column Names  ]A:b|Qty|Sum|Pay,ed|\r\n[Column Types  ]3|4|5|2|\r\n"
+                        "[Column Widths ]9|9|9|9|\r\n[Begin Data    ]\r\n"
+                        "  two\nlines \"q\" |0012|Undefined|abc|\r\n||||\r\n; \xC6|1e5|x|5|\r\n"
+                        "------|------|------|------|\r\n");
+    for (const std::string& file :
+         {copyOf("books.fwk"), copyOf("invoices.fwk"), copyOf("packages-500.fwk"), odd}) {
+        const bool isInvoice = file == "invoices.fwk";
+        const std::string before = readBytes(path(file));
+        outputOf("export " + file + " -o t.csv");
+        outputOf("export " + file + " -o t.JSON");
+        EXPECT_EQ(readBytes(path(file)), before);
+        std::filesystem::remove(path("new.fwk"));
+        outputOf("import new.fwk t.csv" + std::string(isInvoice ? " --invoice" : ""));
+        const json source = recordsOf(file), target = recordsOf("new.fwk");
+        ASSERT_GT(source["records"].size(), 2U);
+        EXPECT_EQ(source["columns"], target["columns"]) << file;
+        EXPECT_EQ(source["records"], target["records"]) << file;
+
+        const json table = json::parse(readBytes(path("t.JSON")));
+        const json was = json::parse(outputOf("info " + file + " --json"));
+        const json is = json::parse(outputOf("info new.fwk --json"));
+        EXPECT_EQ(table["style"], is["style"]);
+        EXPECT_EQ(was["style"], is["style"]);
+        for (std::size_t i = 0; i < was["columns"].size(); ++i) {
+            EXPECT_EQ(was["columns"][i]["type"], is["columns"][i]["type"]) << file;
+            EXPECT_EQ(table["columns"][i]["type"], is["columns"][i]["type"]) << file;
+        }
+        for (std::size_t i = 0; i < source["records"].size(); ++i)
+            EXPECT_EQ(table["records"][i], source["records"][i]["cells"]) << file;
+        outputOf("export new.fwk -o again.csv");
+        EXPECT_EQ(readBytes(path("again.csv")), readBytes(path("t.csv"))) << file;
+    }
+}
+
+// Appending comes to the very file that adding record by record comes to.
+TEST_F(Exchange, AppendsAsAddDoes) {
+    write("t.csv", "title,Price,Bought\n\"Emma, again\",1234,3/4/2024\nIt,,x\n");
+    copyOf("books.fwk", "a.fwk");
+    copyOf("books.fwk", "b.fwk");
+    EXPECT_EQ(outputOf("import a.fwk t.csv"), "2\n");
+    run(std::vector<std::string>{"add", "b.fwk", "Title=Emma, again", "Price=1234", "Bought=03/04/2024"});
+    run("add b.fwk Title=It Price= Bought=x");
+    EXPECT_EQ(dataFileOf("a.fwk"), dataFileOf("b.fwk"));
+    EXPECT_NE(dataFileOf("a.fwk").find("43|Emma, again|"), std::string::npos) << "the next serial number";
+
+    write("i.csv", "Customer,Item,Qty,Price,Total\nAnn,Bolt@Nut@,2@3@,150@2.5@,7\nBob,,,,\n");
+    copyOf("invoices.fwk", "c.fwk");
+    copyOf("invoices.fwk", "d.fwk");
+    EXPECT_EQ(outputOf("import c.fwk i.csv"), "2\n");
+    outputOf("add d.fwk Customer=Ann Item=Bolt@Nut@ Qty=2@3@ Price=150@2.5@");
+    outputOf("add d.fwk Customer=Bob");
+    EXPECT_EQ(dataFileOf("c.fwk"), dataFileOf("d.fwk"));
+}
+
+TEST_F(Exchange, WhatIsRefusedChangesNothing) {
+    copyOf("books.fwk", "a.fwk");
+    copyOf("invoices.fwk", "i.fwk");
+    std::string many = "Title\n";
+    for (int i = 0; i < 32726; ++i) many += "x\n";
+    std::string wide = "C0";
+    for (int i = 1; i < 51; ++i) wide += ",C" + std::to_string(i);
+    const struct {
+        const char* command;
+        std::string table;
+        const char* reason;
+    } cases[] = {
+        {"import a.fwk t.csv", "Title,Prise\nx,1\n", "fwk: a.fwk: no column \"Prise\"\n"},
+        {"import a.fwk t.csv", "Index\nx\n", "fwk: a.fwk: no column \"Index\"\n"},
+        {"import a.fwk t.csv", "Title,TITLE\nx,1\n", "the column \"Title\" stands in its header twice"},
+        {"import a.fwk t.csv", many, "it would have 32768 records, 32767 is the most"},
+        {"import a.fwk t.csv", "Title\na|b\n", "line 2: the cell of \"Title\" holds a \"|\""},
+        {"import a.fwk t.csv", "Cover\nno.jpg\n", "names an image \"no.jpg\" that the database has not"},
+        {"import a.fwk t.csv --invoice", "Title\nx\n", "a.fwk: it is no invoice database"},
+        {"import i.fwk t.csv", "Customer,Qty\nAnn,1@1@1@1@1@1@1@1@\n", "the column \"Qty\" has 6 rows"},
+        {"import n.fwk t.csv", wide, "it has 51 columns, a database has at most 50"},
+        {"import n.fwk t.csv", "a b,A_B\n", "the column \"A_B\" stands in its header twice"},
+        {"import n.fwk t.csv", "a,index\n", "no column can have the name \"index\""},
+        {"import n.fwk t.csv", "a|b\n", "the column name \"a|b\" holds a \"|\""},
+        {"import n.fwk t.csv", "a\n\"b\n", "t.csv: line 2: a quote is opened and never closed"},
+        {"import n.fwk t.csv --invoice", "a:Picture\n", "an invoice database has no Picture columns"},
+        {"import no/n.fwk t.csv", "a\n", "its folder does not exist"},
+        {"import n.fwk none.csv", "", "none.csv: No such file or directory"},
+        {"import n.fwk .", "", ".: Is a directory"},
+        {"import t.csv t.csv", "a\n", "t.csv: "},
+        {"export a.fwk -o t.txt", "", "t.txt: a table is a .csv or a .json file"},
+        {"export a.fwk -o no/t.csv", "", "no/t.csv: could not be written"},
+    };
+    for (const auto& [command, table, reason] : cases) {
+        write("t.csv", table);
+        const auto before = state();
+        const Outcome outcome = run(std::string(command));
+        EXPECT_EQ(outcome.code, 1) << command << " " << reason;
+        EXPECT_NE(outcome.err.find(reason), std::string::npos) << outcome.err;
+        const std::string lines = "\n" + outcome.err; // one is the program's own, others are its messages
+        EXPECT_EQ(lines.rfind("\nfwk: "), lines.find("\nfwk: ")) << outcome.err;
+        EXPECT_EQ(state(), before) << command << " " << reason;
+    }
+    write("t.csv", "Title,Cover\na|b,no.jpg\n");
+    EXPECT_EQ(outputOf("import a.fwk t.csv --yes"), "1\n");
+}
+
+} // namespace
