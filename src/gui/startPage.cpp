@@ -3,10 +3,12 @@
 #include "gui/icon.h"
 #include "gui/qtText.h"
 
+#include <QCommandLinkButton>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include <set>
@@ -16,6 +18,8 @@ namespace gui {
 namespace {
 
 constexpr int pictureSize = 72;
+constexpr int samplesInRow = 3;
+constexpr int samplePictureSize = 32;
 
 QLabel* centred(const QString& text) {
     auto* label = new QLabel(text);
@@ -25,7 +29,8 @@ QLabel* centred(const QString& text) {
 
 } // namespace
 
-StartPage::StartPage(CommandActions& actions, QWidget* parent) : QWidget(parent), actions_(actions) {
+StartPage::StartPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
+    : QWidget(parent), app_(app), events_(events), actions_(actions) {
     setObjectName(QStringLiteral("startPage"));
     auto* picture = new QLabel;
     picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
@@ -63,7 +68,46 @@ StartPage::StartPage(CommandActions& actions, QWidget* parent) : QWidget(parent)
         recent_[i]->setFlat(true);
         column->addWidget(recent_[i], 0, Qt::AlignHCenter);
     }
+    if (QWidget* samples = makeSamples()) {
+        column->addSpacing(20);
+        column->addWidget(samples, 0, Qt::AlignHCenter);
+    }
     column->addStretch(3);
+}
+
+// Nothing where the program came without samples.
+QWidget* StartPage::makeSamples() {
+    const std::vector<shell::Sample> samples = shell::installedSamples();
+    if (samples.empty()) return nullptr;
+    auto* area = new QWidget;
+    auto* grid = new QGridLayout(area);
+    grid->setContentsMargins(0, 0, 0, 0);
+    auto* title = centred(tr("Or try a sample. You get a copy of your own, so change in it what you like."));
+    title->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(title, 0, 0, 1, samplesInRow);
+    int place = 0;
+    for (const shell::Sample& sample : samples) {
+        grid->addWidget(makeSampleButton(sample), 1 + place / samplesInRow, place % samplesInRow);
+        ++place;
+    }
+    return area;
+}
+
+QWidget* StartPage::makeSampleButton(const shell::Sample& sample) {
+    auto* button = new QCommandLinkButton(withoutMnemonics(toQt(sample.name)), toQt(sample.shows));
+    button->setObjectName(QStringLiteral("sample_") + toQt(sample.file.stem().string()));
+    const QString picture = toQt(sample.picture);
+    button->setIcon(familyIcon(picture));
+    button->setIconSize({samplePictureSize, samplePictureSize});
+    // The button would break its text anywhere; one line looks best.
+    const int text = button->fontMetrics().horizontalAdvance(toQt(sample.shows));
+    button->setMinimumWidth(samplePictureSize + text + 2 * button->fontMetrics().height());
+    button->setAccessibleDescription(toQt(sample.shows));
+    connect(button, &QPushButton::clicked, this, [this, sample] {
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        events_.run([&] { shell::openSample(app_, sample, QFile::encodeName(documents).toStdString()); });
+    });
+    return button;
 }
 
 QPushButton* StartPage::addButton(const char* key, const QString& text) {

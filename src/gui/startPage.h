@@ -1,6 +1,9 @@
 #pragma once
 
+#include "app/app.h"
 #include "gui/commandActions.h"
+#include "gui/eventBoundary.h"
+#include "shell/samples.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -14,15 +17,19 @@ class StartPage : public QWidget {
     Q_OBJECT
 
 public:
-    explicit StartPage(CommandActions& actions, QWidget* parent = nullptr);
+    StartPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent = nullptr);
 
     void refresh();
 
 private:
     QPushButton* addButton(const char* key, const QString& text);
+    QWidget* makeSamples();
+    QWidget* makeSampleButton(const shell::Sample& sample);
 
     static constexpr std::array<const char*, 3> recentKeys = {"mnuFile1", "mnuFile2", "mnuFile3"};
 
+    app::App& app_;
+    EventBoundary& events_;
     CommandActions& actions_;
     QPushButton* new_;
     QPushButton* open_;
