@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 
+// The page of a window without a database, and the samples on it.
 class Samples : public QObject {
     Q_OBJECT
 
@@ -20,23 +21,24 @@ private slots:
         QCOMPARE(session.cell(0, "Title"), QStringLiteral("The Salt Road"));
         QCOMPARE(gui::toQt(session.app.document.currentFile),
                  folders_.path("home") + QStringLiteral("/Documents/Ferrowick/library.fwk"));
-        QCOMPARE(session.window.windowTitle().contains(QStringLiteral("library")), true);
-        QCOMPARE(button->isVisible(), false);
+        QVERIFY(!button->isVisible());
         QVERIFY(session.platform.messages.empty());
     }
 
-    void theSamplesComeBehindTheOtherWaysToBegin() {
+    void theTabKeyGoesThroughThemBehindNewAndOpen() {
         Session session;
-        std::vector<QString> order;
+        QStringList order;
         QWidget* widget = session.find<QWidget>("start_mnuNew");
-        for (int i = 0; i < 40 && order.size() < 7; ++i, widget = widget->nextInFocusChain())
-            if (widget->objectName().startsWith(QLatin1String("sample_")) ||
-                (widget->objectName().startsWith(QLatin1String("start_")) && widget->isVisible()))
-                order.push_back(widget->objectName());
-        const std::vector<QString> wanted = {"start_mnuNew"_qs,    "start_mnuOpen"_qs,    "start_mnuFile1"_qs,
-                                             "sample_library"_qs,  "sample_addresses"_qs, "sample_garden"_qs,
-                                             "sample_inventory"_qs};
-        QCOMPARE(order, wanted);
+        for (int i = 0; i < 40; ++i, widget = widget->nextInFocusChain())
+            if (widget->isVisible() && qobject_cast<QAbstractButton*>(widget) != nullptr &&
+                (widget->focusPolicy() & Qt::TabFocus) != 0)
+                order << widget->objectName();
+        const QStringList wanted = {QStringLiteral("start_mnuNew"),   QStringLiteral("start_mnuOpen"),
+                                    QStringLiteral("sample_library"), QStringLiteral("sample_addresses"),
+                                    QStringLiteral("sample_garden"),  QStringLiteral("sample_inventory"),
+                                    QStringLiteral("sample_invoices")};
+        order.removeIf([](const QString& name) { return name.startsWith(QLatin1String("start_mnuFile")); });
+        QCOMPARE(order.mid(0, wanted.size()), wanted);
     }
 
 private:
