@@ -43,7 +43,8 @@ class Canvas:
         sides = list(zip(points, points[1:] + points[:1]))
         for line in range(top, bottom):
             y = line + 0.5
-            cuts = sorted(x0 + (y - y0) * (x1 - x0) / (y1 - y0) for (x0, y0), (x1, y1) in sides if (y0 <= y) != (y1 <= y))
+            crossed = [(one, other) for one, other in sides if (one[1] <= y) != (other[1] <= y)]
+            cuts = sorted(x0 + (y - y0) * (x1 - x0) / (y1 - y0) for (x0, y0), (x1, y1) in crossed)
             row = self.rows[line]
             for left, right in zip(cuts[::2], cuts[1::2]):
                 first, last = max(0, round(left)), min(len(row), round(right))

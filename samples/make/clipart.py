@@ -10,13 +10,23 @@ from make.canvas import Canvas, mix, rgb
 from make.letters import write_centred
 
 PAPER = (255, 255, 255)
+SPINES = "#2b2d5b #e4725c #8f3f71 #f6c28b #1f6f8b #4f7a4a #c0793f #5fb3b3"
+PENCILS = "#f6d34d #e39a2d #e4725c #b83a4b #8f3f71 #5b4b9a #3f6fb5 #5fb3b3 #3f9f83 #8fae5d"
+# Petals and heart.
+BLOSSOMS = (
+    ("#e2452f", "#2c2a33"),
+    ("#fdfdf8", "#f2c230"),
+    ("#4f6fd0", "#c9d4ff"),
+    ("#f4b41a", "#6b3e1d"),
+    ("#d94f70", "#f6d4a8"),
+)
 
 
 def shelf():
     """A row of books, leaning here and there."""
     width, height = 1216, 111
     canvas = Canvas(width, height, rgb("#fbf7ef"))
-    colours = [rgb(each) for each in ("#2b2d5b", "#e4725c", "#8f3f71", "#f6c28b", "#1f6f8b", "#4f7a4a", "#c0793f", "#5fb3b3")]
+    colours = [rgb(each) for each in SPINES.split()]
     dice = random.Random("shelf")
     board, x, before = height - 10, 14, None
     while x < width - 40:
@@ -26,12 +36,12 @@ def shelf():
         colour = dice.choice([each for each in colours if each != before])
         before = colour
         lean = dice.choice((0, 0, 0, 0, 0, 0, 0, 14))
-        canvas.polygon([(x, board), (x + wide, board), (x + wide + lean, board - high), (x + lean, board - high)], colour)
+        top = board - high
+        canvas.polygon([(x, board), (x + wide, board), (x + wide + lean, top), (x + lean, top)], colour)
         label = mix(colour, PAPER, 0.65)
         for place, thick in dice.choice((((0.2, 3), (0.8, 3)), ((0.16, 2), (0.24, 2)), ((0.3, 14),))):
             low = board - high * (1 - place)
-            shift = lean * (1 - place)
-            canvas.polygon([(x + shift + 2, low), (x + shift + wide - 2, low), (x + shift + wide - 2, low + thick), (x + shift + 2, low + thick)], label)
+            canvas.box(x + lean * (1 - place) + 2, low, wide - 4, thick, label)
         x += wide + 1 + lean
     canvas.box(0, board, width, 10, rgb("#6f4427"))
     return canvas.picture()
@@ -50,7 +60,7 @@ def meadow():
         x += dice.uniform(-9, 9)
         top = dice.uniform(46, 82)
         canvas.stroke([(x, height), (x + 2, top + 8)], 2, rgb("#2f6b34"))
-        petal, heart = map(rgb, dice.choice((("#e2452f", "#2c2a33"), ("#fdfdf8", "#f2c230"), ("#4f6fd0", "#c9d4ff"), ("#f4b41a", "#6b3e1d"), ("#d94f70", "#f6d4a8"))))
+        petal, heart = map(rgb, dice.choice(BLOSSOMS))
         for step in range(6):
             angle = math.pi * step / 3
             canvas.ellipse(x + 2 + 6 * math.cos(angle), top + 6 * math.sin(angle), 5.5, 3.6, petal, angle)
@@ -81,7 +91,8 @@ def airmail():
     width, height = 660, 16
     canvas = Canvas(width, height, PAPER)
     for number, x in enumerate(range(-20, width, 32)):
-        canvas.polygon([(x + 8, 0), (x + 26, 0), (x + 18, height), (x, height)], rgb(("#e4725c", "#1f6f8b")[number % 2]))
+        colour = rgb(("#e4725c", "#1f6f8b")[number % 2])
+        canvas.polygon([(x + 8, 0), (x + 26, 0), (x + 18, height), (x, height)], colour)
     return canvas.picture()
 
 
@@ -89,7 +100,7 @@ def pencils():
     """A row of coloured pencils."""
     width, height = 1056, 80
     canvas = Canvas(width, height, rgb("#22364a"))
-    colours = ("#f6d34d", "#e39a2d", "#e4725c", "#b83a4b", "#8f3f71", "#5b4b9a", "#3f6fb5", "#5fb3b3", "#3f9f83", "#8fae5d")
+    colours = PENCILS.split()
     pitch = 24
     for number in range(width // pitch):
         x, colour = number * pitch, rgb(colours[number % len(colours)])

@@ -45,7 +45,8 @@ def peaks(canvas, light, middle, dark, dice):
                 part = 0.16
                 half = wide / 2 * part
                 low = top + (base - top) * part
-                canvas.polygon([(x + wide / 2, top), (x + wide / 2 + half, low), (x + wide / 2, low - 7), (x + wide / 2 - half, low)], light)
+                peak = x + wide / 2
+                canvas.polygon([(peak, top), (peak + half, low), (peak, low - 7), (peak - half, low)], light)
             x += wide * 0.72
 
 
@@ -73,10 +74,11 @@ def discs(canvas, light, middle, dark, dice):
 
 
 def ship(canvas, light, middle, dark, dice):
-    middle_x = dice.uniform(105, 135)
-    canvas.polygon([(middle_x - 4, TOP + 8), (middle_x - 4, TOP + 106), (middle_x - 66, TOP + 106)], light)
-    canvas.polygon([(middle_x + 4, TOP + 24), (middle_x + 4, TOP + 106), (middle_x + 52, TOP + 106)], mix(light, middle, 0.5))
-    canvas.polygon([(middle_x - 70, TOP + 114), (middle_x + 66, TOP + 114), (middle_x + 40, TOP + 144), (middle_x - 48, TOP + 144)], dark)
+    mast = dice.uniform(105, 135)
+    boom, deck, keel = TOP + 106, TOP + 114, TOP + 144
+    canvas.polygon([(mast - 4, TOP + 8), (mast - 4, boom), (mast - 66, boom)], light)
+    canvas.polygon([(mast + 4, TOP + 24), (mast + 4, boom), (mast + 52, boom)], mix(light, middle, 0.5))
+    canvas.polygon([(mast - 70, deck), (mast + 66, deck), (mast + 40, keel), (mast - 48, keel)], dark)
     for number in range(3):
         crest = TOP + 136 + number * 18
         tops = [(x, crest + 5 * math.sin(x * 0.12 + number * 2)) for x in range(0, WIDTH + 1, 4)]
@@ -106,7 +108,8 @@ def twig(canvas, light, middle, dark, dice):
         x, y = stem[number]
         side = 1 if number % 2 else -1
         size = 34 - number * 1.6
-        canvas.ellipse(x + side * size * 0.8, y - size * 0.45, size, size * 0.36, (middle, dark)[number % 3 == 0], -side * 0.5)
+        colour = (middle, dark)[number % 3 == 0]
+        canvas.ellipse(x + side * size * 0.8, y - size * 0.45, size, size * 0.36, colour, -side * 0.5)
     canvas.ellipse(stem[12][0], stem[12][1] - 10, 7, 15, middle)
 
 
@@ -121,7 +124,8 @@ def paths(canvas, light, middle, dark, dice):
     for number, colour in enumerate((dark, middle, light, middle, dark)):
         inset = 14 + number * 15
         turn = TOP + 40 + number * 15
-        canvas.stroke([(inset, BOTTOM + 60), (inset, turn), (WIDTH - 100 + inset, turn), (WIDTH - 100 + inset, TOP - 10 + number * 15)], 10, colour)
+        far = WIDTH - 100 + inset
+        canvas.stroke([(inset, HEIGHT), (inset, turn), (far, turn), (far, turn - 50)], 10, colour)
     canvas.disc(WIDTH - 70, TOP + 120, 26, dice.choice((light, middle)))
 
 
@@ -134,7 +138,8 @@ def lamp(canvas, light, middle, dark, dice):
     canvas.polygon([(x - 15, y + 14), (x + 15, y + 14), (x + 24, BOTTOM), (x - 24, BOTTOM)], middle)
     for band in (0.2, 0.6):
         low = y + 14 + (BOTTOM - y - 14) * band
-        canvas.polygon([(x - 15 - 9 * band, low), (x + 15 + 9 * band, low), (x + 18 + 9 * band, low + 24), (x - 18 - 9 * band, low + 24)], dark)
+        upper, lower = 15 + 9 * band, 18 + 9 * band
+        canvas.polygon([(x - upper, low), (x + upper, low), (x + lower, low + 24), (x - lower, low + 24)], dark)
     canvas.box(x - 11, y - 12, 22, 26, light)
     canvas.polygon([(x - 17, y - 12), (x, y - 30), (x + 17, y - 12)], dark)
     canvas.ellipse(x, BOTTOM + 14, 90, 24, dark)

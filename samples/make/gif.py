@@ -49,9 +49,10 @@ def gif(picture):
         raise ValueError(f"{len(palette)} colours do not fit")
     depth = max(2, (len(palette) - 1).bit_length())
     number = {colour: i for i, colour in enumerate(palette)}
-    head = b"GIF89a" + width.to_bytes(2, "little") + height.to_bytes(2, "little") + bytes((0x80 | (depth - 1) * 0x11, 0, 0))
+    size = width.to_bytes(2, "little") + height.to_bytes(2, "little")
+    head = b"GIF89a" + size + bytes((0x80 | (depth - 1) * 0x11, 0, 0))
     colours = b"".join(map(bytes, palette)).ljust(3 << depth, b"\0")
-    place = b"," + bytes(4) + width.to_bytes(2, "little") + height.to_bytes(2, "little") + b"\0"
+    place = b"," + bytes(4) + size + b"\0"
     data = lzw([number[colour] for line in picture for colour in line], depth)
     blocks = b"".join(bytes((len(data[i : i + 255]),)) + data[i : i + 255] for i in range(0, len(data), 255))
     return head + colours + place + bytes((depth,)) + blocks + b"\0;"

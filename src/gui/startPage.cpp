@@ -30,8 +30,12 @@ QLabel* centred(const QString& text) {
 } // namespace
 
 StartPage::StartPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
-    : QWidget(parent), app_(app), events_(events), actions_(actions) {
+    : QScrollArea(parent), app_(app), events_(events), actions_(actions) {
     setObjectName(QStringLiteral("startPage"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    auto* page = new QWidget;
     auto* picture = new QLabel;
     picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
     picture->setAlignment(Qt::AlignCenter);
@@ -53,7 +57,7 @@ StartPage::StartPage(app::App& app, EventBoundary& events, CommandActions& actio
 
     recentTitle_ = centred(tr("Recent files"));
     recentTitle_->setForegroundRole(QPalette::PlaceholderText);
-    auto* column = new QVBoxLayout(this);
+    auto* column = new QVBoxLayout(page);
     column->addStretch(2);
     column->addWidget(picture);
     column->addSpacing(8);
@@ -73,6 +77,9 @@ StartPage::StartPage(app::App& app, EventBoundary& events, CommandActions& actio
         column->addWidget(samples, 0, Qt::AlignHCenter);
     }
     column->addStretch(3);
+    setWidget(page);
+    page->setAutoFillBackground(false); // nor the viewport, so that it looks like any other page
+    viewport()->setAutoFillBackground(false);
 }
 
 // Nothing where the program came without samples.

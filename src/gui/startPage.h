@@ -7,13 +7,15 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 
 #include <array>
 
 namespace gui {
 
-// What the report tab shows as long as no database is open: how to begin.
-class StartPage : public QWidget {
+// What the report tab shows as long as no database is open: how to begin. It scrolls, so that it does not
+// tell how small the window may be.
+class StartPage : public QScrollArea {
     Q_OBJECT
 
 public:
