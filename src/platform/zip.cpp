@@ -26,7 +26,7 @@ namespace {
 // Large enough that the calls do not count, small enough that what was just unpacked is still in the
 // processor's cache when its checksum is taken.
 constexpr std::size_t chunkBytes = 128 * 1024;
-// One below zlib's usual level: a third less time for files that are about one part in a hundred larger.
+// One below the usual level: a quarter less time for files that are about one part in a hundred larger.
 constexpr int compressionLevel = 5;
 constexpr std::size_t smallestDeflated = 64 * 1024;
 constexpr std::size_t maxCommentBytes = 0xffff;
