@@ -102,10 +102,12 @@ Piece pack(std::string_view bytes, int level, bool isLast) {
     const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
         libdeflate_alloc_compressor(level), &libdeflate_free_compressor);
     if (!compressor) throw std::bad_alloc();
-    piece.packed.resize(libdeflate_deflate_compress_bound(compressor.get(), bytes.size()));
-    const std::size_t size = libdeflate_deflate_compress(compressor.get(), bytes.data(), bytes.size(),
-                                                         piece.packed.data(), piece.packed.size());
-    piece.packed.resize(size);
+    const std::size_t most = libdeflate_deflate_compress_bound(compressor.get(), bytes.size());
+    // Not a string, which would fill all of it with zeros first.
+    const auto room = std::make_unique_for_overwrite<char[]>(most);
+    const std::size_t size =
+        libdeflate_deflate_compress(compressor.get(), bytes.data(), bytes.size(), room.get(), most);
+    piece.packed.assign(room.get(), size);
     piece.ok = size > 0 && (isLast || leaveOpen(piece.packed));
     return piece;
 }
