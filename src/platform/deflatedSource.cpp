@@ -5,7 +5,10 @@
 #include <algorithm>
 #include <cstring>
 #include <future>
+#include <libdeflate.h>
 #include <memory>
+#include <new>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -16,7 +19,6 @@ namespace platform {
 namespace {
 
 constexpr std::size_t smallestPiece = 256 * 1024;
-constexpr std::size_t window = 32 * 1024; // how far back the format can refer
 
 struct Piece {
     std::string packed;
@@ -25,46 +27,113 @@ struct Piece {
     bool ok = false;
 };
 
-Piece pack(std::string_view all, std::size_t begin, std::size_t end, int level) {
+// Where the final block of a stream begins and where it ends, counted in bits.
+struct FinalBlock {
+    std::size_t begin = 0, end = 0;
+};
+
+// Blocks say how they are packed, but not how long they are; only unpacking finds the next one.
+class BlockFinder {
+public:
+    explicit BlockFinder(std::string& packed) : packed_(packed) {
+        constexpr int rawStream = -15;
+        isOpen_ = inflateInit2(&stream_, rawStream) == Z_OK;
+        stream_.next_in = reinterpret_cast<Bytef*>(packed.data());
+        stream_.avail_in = static_cast<uInt>(packed.size());
+    }
+    ~BlockFinder() {
+        if (isOpen_) inflateEnd(&stream_);
+    }
+    BlockFinder(const BlockFinder&) = delete;
+    BlockFinder& operator=(const BlockFinder&) = delete;
+
+    std::optional<FinalBlock> find() {
+        FinalBlock block;
+        while (isOpen_ && block.begin / 8 < packed_.size()) {
+            const bool isFinal =
+                ((static_cast<unsigned char>(packed_[block.begin / 8]) >> block.begin % 8) & 1U) != 0;
+            if (!passBlock()) return std::nullopt;
+            block.end = stream_.total_in * 8 - static_cast<unsigned>(stream_.data_type & unusedBits);
+            if (isFinal) return block;
+            block.begin = block.end;
+        }
+        return std::nullopt;
+    }
+
+private:
+    static constexpr int unusedBits = 7; // of the last byte taken
+    static constexpr int atBlockEnd = 128;
+
+    bool passBlock() {
+        do {
+            stream_.next_out = unpacked_.data();
+            stream_.avail_out = static_cast<uInt>(unpacked_.size());
+            if (inflate(&stream_, Z_BLOCK) != Z_OK) return false;
+        } while ((stream_.data_type & atBlockEnd) == 0);
+        return true;
+    }
+
+    std::string& packed_;
+    z_stream stream_{};
+    std::vector<Bytef> unpacked_ = std::vector<Bytef>(smallestPiece);
+    bool isOpen_ = false;
+};
+
+// Makes the stream one that goes on with the next byte: its final block becomes one among others, and an
+// empty stored block, which begins anywhere and ends with a byte, fills up what is left of the last byte.
+bool leaveOpen(std::string& packed) {
+    const std::optional<FinalBlock> block = BlockFinder(packed).find();
+    if (!block) return false;
+    char& header = packed[block->begin / 8];
+    header = static_cast<char>(static_cast<unsigned char>(header) & ~(1U << block->begin % 8));
+    packed.resize((block->end + 7) / 8);
+    if (const auto used = block->end % 8; used != 0)
+        packed.back() = static_cast<char>(static_cast<unsigned char>(packed.back()) & ((1U << used) - 1));
+    constexpr std::size_t headerBits = 3; // all zero
+    packed.resize((block->end + headerBits + 7) / 8, '\0');
+    packed.append("\0\0\xff\xff", 4);
+    return true;
+}
+
+Piece pack(std::string_view bytes, int level, bool isLast) {
     Piece piece;
-    const std::string_view bytes = all.substr(begin, end - begin);
     piece.length = bytes.size();
-    const auto* first = reinterpret_cast<const Bytef*>(bytes.data());
-    piece.checksum = crc32(0, first, static_cast<uInt>(bytes.size()));
-    z_stream stream{};
-    constexpr int rawStream = -15;
-    constexpr int memoryLevel = 8;
-    if (deflateInit2(&stream, level, Z_DEFLATED, rawStream, memoryLevel, Z_DEFAULT_STRATEGY) != Z_OK)
-        return piece;
-    const std::size_t known = std::min(begin, window);
-    if (known > 0)
-        deflateSetDictionary(&stream, reinterpret_cast<const Bytef*>(all.data()) + begin - known,
-                             static_cast<uInt>(known));
-    constexpr std::size_t roomForMarks = 64;
-    piece.packed.resize(deflateBound(&stream, static_cast<uLong>(bytes.size())) + roomForMarks);
-    stream.next_in = const_cast<Bytef*>(first);
-    stream.avail_in = static_cast<uInt>(bytes.size());
-    stream.next_out = reinterpret_cast<Bytef*>(piece.packed.data());
-    stream.avail_out = static_cast<uInt>(piece.packed.size());
-    const bool isLast = end == all.size();
-    const int result = deflate(&stream, isLast ? Z_FINISH : Z_SYNC_FLUSH);
-    piece.ok = result == (isLast ? Z_STREAM_END : Z_OK) && stream.avail_in == 0;
-    piece.packed.resize(piece.packed.size() - stream.avail_out);
-    deflateEnd(&stream);
+    piece.checksum = checksum(bytes);
+    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
+        libdeflate_alloc_compressor(level), &libdeflate_free_compressor);
+    if (!compressor) throw std::bad_alloc();
+    const std::size_t most = libdeflate_deflate_compress_bound(compressor.get(), bytes.size());
+    // Not a string, which would fill all of it with zeros first.
+    const auto room = std::make_unique_for_overwrite<char[]>(most);
+    const std::size_t size =
+        libdeflate_deflate_compress(compressor.get(), bytes.data(), bytes.size(), room.get(), most);
+    piece.packed.assign(room.get(), size);
+    piece.ok = size > 0 && (isLast || leaveOpen(piece.packed));
     return piece;
+}
+
+// Where each piece ends. All but the last are gone through once more, so that the last is given more.
+std::vector<std::size_t> pieceEnds(std::size_t size, std::size_t pieces) {
+    constexpr double lastShare = 1.25;
+    std::vector<std::size_t> ends;
+    for (std::size_t i = 1; i < pieces; ++i)
+        ends.push_back(static_cast<std::size_t>(static_cast<double>(size * i) /
+                                                (static_cast<double>(pieces - 1) + lastShare)));
+    ends.push_back(size);
+    return ends;
 }
 
 std::vector<Piece> packPieces(std::string_view bytes, int level) {
     const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
     const std::size_t pieces = std::clamp<std::size_t>(bytes.size() / smallestPiece, 1, cores);
-    const auto place = [&](std::size_t piece) { return bytes.size() / pieces * piece; };
+    const std::vector<std::size_t> ends = pieceEnds(bytes.size(), pieces);
     std::vector<std::future<Piece>> others;
-    for (std::size_t i = 1; i < pieces; ++i) {
-        const std::size_t end = i + 1 == pieces ? bytes.size() : place(i + 1);
-        others.push_back(std::async(std::launch::async, pack, bytes, place(i), end, level));
-    }
+    for (std::size_t i = 1; i < pieces; ++i)
+        others.push_back(std::async(std::launch::async, pack,
+                                    bytes.substr(ends[i - 1], ends[i] - ends[i - 1]), level,
+                                    i + 1 == pieces));
     std::vector<Piece> packed;
-    packed.push_back(pack(bytes, 0, pieces == 1 ? bytes.size() : place(1), level));
+    packed.push_back(pack(bytes.substr(0, ends[0]), level, pieces == 1));
     for (std::future<Piece>& other : others) packed.push_back(other.get());
     return packed;
 }
@@ -155,8 +224,7 @@ private:
 } // namespace
 
 std::uint32_t checksum(std::string_view bytes) {
-    return static_cast<std::uint32_t>(
-        crc32(0, reinterpret_cast<const Bytef*>(bytes.data()), static_cast<uInt>(bytes.size())));
+    return libdeflate_crc32(0, bytes.data(), bytes.size());
 }
 
 zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level) {

@@ -7,10 +7,10 @@
 namespace platform {
 
 // An entry that comes to libzip packed already. Large texts are packed in pieces, on as many cores as there
-// are: each piece but the first knows the end of the one before it, so the pieces together are one stream
-// that every reader understands, hardly larger than if it had been packed in one go.
+// are. The pieces together are one stream that every reader understands, hardly larger than if it had been
+// packed in one go.
 
-// The bytes are packed at once and need not stay. Level from 1 to 9. The source is the caller's until libzip
+// The bytes are packed at once and need not stay. Level from 1 to 12. The source is the caller's until libzip
 // takes it. Raises deviceIO; throws std::bad_alloc.
 zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level);
 

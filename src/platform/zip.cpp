@@ -28,6 +28,9 @@ namespace {
 constexpr std::size_t chunkBytes = 128 * 1024;
 // One below zlib's usual level: a third less time for files that are about one part in a hundred larger.
 constexpr int compressionLevel = 5;
+// Of the large texts, which libdeflate packs. It takes less than a third of the time of zlib's usual level;
+// the text becomes about three parts in a hundred larger.
+constexpr int largeTextLevel = 4;
 constexpr std::size_t smallestDeflated = 64 * 1024;
 constexpr std::size_t maxCommentBytes = 0xffff;
 
@@ -320,7 +323,7 @@ void Zip::addBuffer(const std::string& name, std::string_view bytes, std::string
     if (target.hasUnchanged(name, bytes, comment)) return;
     // Larger than the counters of the packing take, or so small that packing needs no help.
     if (bytes.size() >= smallestDeflated && bytes.size() <= maxFileBytes) {
-        target.put(name, makeDeflatedSource(target.zip, bytes, compressionLevel), comment);
+        target.put(name, makeDeflatedSource(target.zip, bytes, largeTextLevel), comment);
         return;
     }
     void* copy = bytes.empty() ? nullptr : std::malloc(bytes.size()); // libzip frees it

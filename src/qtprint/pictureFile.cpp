@@ -26,6 +26,18 @@ bool isAllowedFormat(const QByteArray& format) {
     return format == "jpeg" || format == "jpg" || format == "gif" || format == "bmp";
 }
 
+// A JPEG is quickly read at half, a quarter or an eighth of its size. At any other size it would be scaled by
+// the reader and then once more; half as much again as is wanted keeps it sharp.
+QSize sizeToRead(QSize natural, QSize bounds) {
+    QSize size = natural;
+    for (int part = 2; part <= 8; part *= 2) {
+        const QSize smaller((natural.width() + part - 1) / part, (natural.height() + part - 1) / part);
+        if (smaller.width() * 2 < bounds.width() * 3 || smaller.height() * 2 < bounds.height() * 3) break;
+        size = smaller;
+    }
+    return size;
+}
+
 } // namespace
 
 std::optional<QSize> pictureSize(const QString& path) {
@@ -55,10 +67,9 @@ QImage readPicture(const QString& path, QSize bounds) {
     if (!natural || bounds.isEmpty()) return {};
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
-    // A JPEG is read at half, quarter, ... its size; twice the size that is wanted keeps it sharp.
     const bool isLarger = natural->width() > bounds.width() && natural->height() > bounds.height();
-    if (natural->width() > bounds.width() * 2 && natural->height() > bounds.height() * 2)
-        reader.setScaledSize(bounds * 2);
+    const QSize read = sizeToRead(*natural, bounds);
+    if (read != *natural) reader.setScaledSize(read);
     const QImage image = reader.read();
     return image.isNull() || !isLarger
                ? image

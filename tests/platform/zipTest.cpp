@@ -83,6 +83,28 @@ TEST_F(ZipTest, ReplacingTheDataLeavesAllElseAsItWas) {
     EXPECT_TRUE(after == before);
 }
 
+// Sizes on both sides of those from which data are packed in pieces, and contents whose blocks end at all
+// kinds of places.
+TEST_F(ZipTest, LargeDataArePackedAsOneStreamThatEveryReaderUnderstands) {
+    std::mt19937 random(11);
+    std::string words;
+    while (words.size() < 1'500'000) words += "word " + std::to_string(random() % 3000) + "|";
+    std::string mixed = words;
+    mixed.replace(mixed.size() / 4, 200'000, noise(200'000));
+    for (const std::string& bytes : {words, mixed, noise(1'500'000), std::string(1'500'000, 'a')}) {
+        for (const std::size_t size : {65'536U, 524'287U, 524'288U, 700'001U, 1'234'567U}) {
+            Zip Zip;
+            Zip.CreateArchive(archive, "");
+            Zip.addBuffer("data.dat", std::string_view(bytes).substr(0, size), "");
+            Zip.CloseArchive();
+            const std::vector<Packed> packed = packedEntries(archive);
+            ASSERT_EQ(packed.size(), 1U);
+            EXPECT_EQ(packed[0].method, ZIP_CM_DEFLATE);
+            EXPECT_TRUE(dataOf(archive) == bytes.substr(0, size)) << size;
+        }
+    }
+}
+
 TEST_F(ZipTest, AddsListsDeletesAndExtracts) {
     const fs::path elsewhere = folder / "elsewhere";
     fs::create_directory(elsewhere);
