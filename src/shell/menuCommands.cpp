@@ -4,6 +4,7 @@
 #include "entry/invoiceRecords.h"
 #include "layout/sheet.h"
 #include "lock/designLock.h"
+#include "platform/programFiles.h"
 #include "print/printerCheck.h"
 #include "shell/mainWindow.h"
 #include "storage/openFile.h"
@@ -66,6 +67,13 @@ void deleteRow(App& app) {
         entry::deleteRecords(app);
     else if (!app.document.bInvoiceView)
         entry::deleteInvoices(app);
+}
+
+void openHelp(App& app) {
+    if (const auto contents = platform::programFile("help/index.html"))
+        app.platform.openLink(contents->string());
+    else
+        app::inform(app, "The help pages are not installed.");
 }
 
 void showAbout(App& app) {
