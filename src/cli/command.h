@@ -44,6 +44,9 @@ Run setUpReplace(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);
+Run setUpLock(CLI::App& command);
+Run setUpUnlock(CLI::App& command);
+Run setUpClean(CLI::App& command);
 Run setUpReport(CLI::App& command);
 Run setUpLayouts(CLI::App& command);
 

@@ -27,8 +27,11 @@ constexpr Command commands[] = {
     {"recalculate", "Recalculates all records and the Totals row", setUpRecalculate},
     {"serial", "Sets a serial counter", setUpSerial},
     {"replace", "Replaces words, and prints how many cells have changed", setUpReplace},
+    {"lock", "Locks the design with a password, read from standard input", setUpLock},
+    {"unlock", "Opens a locked design with its password, read from standard input", setUpUnlock},
     {"clone", "Makes a database of the same design without records", setUpClone},
     {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
+    {"clean", "Removes the images that nothing refers to, and prints what went", setUpClean},
     {"report", "Prints the report of all records into a PDF file", setUpReport},
     {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
 };
