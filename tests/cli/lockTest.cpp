@@ -50,9 +50,7 @@ TEST_F(Locks, clean) {
     EXPECT_EQ(outputOf("clean a.fwk"), "");
     EXPECT_TRUE(state() == before);
     std::filesystem::resize_file(path("a.fwk"), 100);
-    const Outcome damaged = run("clean a.fwk");
-    EXPECT_EQ(damaged.code, 1);
-    EXPECT_EQ(damaged.err.find("fwk: a.fwk: "), 0U) << damaged.err;
+    EXPECT_EQ(run("clean a.fwk").code, 1);
 }
 
 } // namespace

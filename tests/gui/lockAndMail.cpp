@@ -110,10 +110,8 @@ void LockAndMail::theMailProgramIsGivenTheDatabase() {
 
         auto* message = in<QPlainTextEdit>(form, "Text3");
         message->setPlainText(QString(499, QLatin1Char('x')));
-        message->moveCursor(QTextCursor::Start);
         QTest::keyClicks(message, QStringLiteral("abc"));
         QCOMPARE(message->toPlainText(), QLatin1Char('a') + QString(499, QLatin1Char('x')));
-        QCOMPARE(message->textCursor().position(), 1);
         click(form, "CancelButton");
     };
     run.action("mnuEmail")->trigger();

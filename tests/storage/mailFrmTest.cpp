@@ -32,7 +32,6 @@ TEST_F(MailFrm, sending) {
         const char *address, *subject, *told;
         platform::MailStart start;
     } cases[] = {
-        {" ", "Books", "You did not enter either an address or a subject.", {}},
         {"a@b.c", " ", "You did not enter either an address or a subject.", {}},
         {"a@b.c", "Books", "", platform::MailStart::WithAttachment},
         {"a@b.c", "Books", "Your mail program could not be started.", platform::MailStart::NoProgram},
@@ -77,8 +76,7 @@ TEST_F(MailFrm, theMessageTakes500Characters) {
         {"y" + full, 1, full, 0},                                         // typed in front
         {full + "yy", 502, full, 500},                                    // and behind
         {"ab" + full.substr(2) + "cde", 503, "ab" + full.substr(2), 500}, // pasted, of which a part fits
-        {"abcd" + full.substr(2), 4, "ab" + full.substr(2), 2},
-        {std::string(600, 'z'), 0, std::string(500, 'z'), 0}, // put in without a caret
+        {std::string(600, 'z'), 0, std::string(500, 'z'), 0},             // put in without a caret
     };
     for (const auto& c : cases) {
         form.Text3_Change(c.text, c.caret);
