@@ -72,7 +72,8 @@ std::vector<std::string> cleanDatabase(App& app) {
     app.document.layout.clipPic.forEach([&](const core::ClipPic& clip) { clipArt.insert(clip.Tag); });
     std::vector<std::string> removed;
     for (const std::string& name : unused.names()) {
-        if (clipArt.contains(name) || unused.isFound(name)) continue;
+        if (clipArt.contains(name) || unused.isFound(name) || !Zip.contains(name))
+            continue; // or gone already
         Zip.DeleteFile(name);
         removed.push_back(name);
     }
