@@ -7,6 +7,7 @@
 #include "gui/entryFrmView.h"
 #include "gui/formulateFrmView.h"
 #include "gui/layoutPageSetupFrmView.h"
+#include "gui/mailFrmView.h"
 #include "gui/repeatFrmView.h"
 #include "gui/replaceFrmView.h"
 #include "gui/reportPageSetupView.h"
@@ -34,6 +35,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("TotalsFrm", shown<TotalsFrmView>(app, events));
     platform.registerForm("reportPageSetup", shown<reportPageSetupView>(app, events));
     platform.registerForm("layoutPageSetupFrm", shown<layoutPageSetupFrmView>(app, events));
+    platform.registerForm("mailFrm", shown<mailFrmView>(app, events));
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
     platform.registerForm("replaceFrm", [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
     platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });

@@ -3,6 +3,7 @@
 #include "core/runTimeError.h"
 #include "gui/fontDialog.h"
 #include "gui/formView.h"
+#include "gui/mailProgram.h"
 #include "gui/messageBox.h"
 #include "gui/modalScope.h"
 #include "gui/qtText.h"
@@ -49,6 +50,15 @@ QImage onPaper(const QImage& image) {
     opaque.fill(Qt::white);
     QPainter(&opaque).drawImage(0, 0, image);
     return opaque;
+}
+
+// False when there is no program for it.
+bool openTarget(const std::string& target) {
+    const QString link = toQt(target);
+    // A file is named by its whole path: an address must not open a file that happens to have its name.
+    const QFileInfo file(link);
+    return QDesktopServices::openUrl(file.isAbsolute() && file.exists() ? QUrl::fromLocalFile(link)
+                                                                        : QUrl(link, QUrl::TolerantMode));
 }
 
 } // namespace
@@ -162,11 +172,15 @@ void QtPlatform::paintStatus() {
 }
 
 void QtPlatform::openLink(const std::string& target) {
-    const QString link = toQt(target);
-    // A file is named by its whole path: an address must not open a file that happens to have its name.
-    const QFileInfo file(link);
-    QDesktopServices::openUrl(file.isAbsolute() && file.exists() ? QUrl::fromLocalFile(link)
-                                                                 : QUrl(link, QUrl::TolerantMode));
+    openTarget(target);
+}
+
+platform::MailStart QtPlatform::sendMail(const platform::MailMessage& message,
+                                         const std::function<void()>& failed) {
+    using platform::MailStart;
+    QObject* const owner = window_.widget != nullptr ? static_cast<QObject*>(window_.widget) : qApp;
+    if (startMailProgram(message, owner, failed)) return MailStart::WithAttachment;
+    return openTarget(platform::mailtoLink(message)) ? MailStart::WithoutAttachment : MailStart::NoProgram;
 }
 
 std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontChoice& present) {

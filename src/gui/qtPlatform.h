@@ -49,6 +49,8 @@ public:
     void setMousePointer(platform::MousePointer pointer) override;
     void paintStatus() override;
     void openLink(const std::string& target) override;
+    platform::MailStart sendMail(const platform::MailMessage& message,
+                                 const std::function<void()>& failed) override;
     std::optional<platform::FontChoice> showFont(const platform::FontChoice& present) override;
 
     std::string printerDeviceName() override { return printer_.deviceName(); }

@@ -22,6 +22,8 @@ public:
     // What the user would choose in a file dialog. Empty: he cancels.
     void setOpenName(std::string path) { openName_ = std::move(path); }
     void setSaveName(std::string path) { saveName_ = std::move(path); }
+    // What the user would type into an input box. Empty: he cancels.
+    void setInput(std::string text) { input_ = std::move(text); }
     // What is printed on; there is no printer as long as nobody gives one. It must outlive the platform.
     void setPrinter(Printer* printer) { printer_ = printer; }
     void setToday(std::chrono::year_month_day day) { today_ = day; }
@@ -32,7 +34,9 @@ public:
     int refusedQuestions() const { return refusedQuestions_; }
 
     Answer msgBox(const std::string& text, Icon icon, const std::string& caption, Buttons buttons) override;
-    std::string inputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
+    std::string inputBox(const std::string&, const std::string&, const std::string&) override {
+        return input_;
+    }
     std::optional<std::string> showOpen(const FileDialog&) override { return chosen(openName_); }
     std::optional<std::string> showSave(const FileDialog&) override { return chosen(saveName_); }
     void showForm(std::string_view) override {}
@@ -62,7 +66,7 @@ private:
 
     std::ostream& messages_;
     WorkFolder folder_ = WorkFolder::scratch();
-    std::string openName_, saveName_;
+    std::string openName_, saveName_, input_;
     Printer* printer_ = nullptr;
     std::optional<std::chrono::year_month_day> today_;
     bool answersYes_ = false;

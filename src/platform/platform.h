@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/drawTarget.h"
+#include "platform/mailMessage.h"
 
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -51,6 +53,9 @@ struct FontChoice {
     std::int32_t ForeColor = 0; // 0x00BBGGRR
 };
 
+// What became of a message that was given to the user's mail program.
+enum class MailStart { NoProgram, WithoutAttachment, WithAttachment };
+
 // What stands between the logic and the machine. The window and the command-line tool each have an
 // implementation; tests have a scripted one.
 class Platform {
@@ -79,6 +84,11 @@ public:
     virtual void paintStatus() = 0;
     // Opens a file or an address with the user's default program.
     virtual void openLink(const std::string& target) = 0;
+    // Opens the user's mail program with the message, and does not wait for it. A program that turns out
+    // to be of no use soon after calls the function, from the event loop.
+    virtual MailStart sendMail(const MailMessage&, const std::function<void()>&) {
+        return MailStart::NoProgram;
+    }
 
     // --- the printer ---
     // Raises when there is no printer at all. The window always has one: its own "Print to PDF".

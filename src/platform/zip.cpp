@@ -340,7 +340,7 @@ void Zip::DeleteFile(const std::string& name) {
     if (place < 0) return;
     const auto index = static_cast<zip_uint64_t>(place);
     if (zip_delete(target.zip, index) != 0) raiseZipError(*zip_get_error(target.zip), name);
-    std::erase(target.living, index);
+    target.living.erase(std::ranges::lower_bound(target.living, index)); // they stand in order
     target.changed = true;
 }
 

@@ -3,11 +3,13 @@
 #include "app/commandRoutines.h"
 #include "core/runTimeError.h"
 #include "entry/editRecord.h"
+#include "lock/designLock.h"
 #include "print/printCommands.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
+#include "storage/cleanDatabase.h"
 #include "storage/newDatabase.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
@@ -21,9 +23,6 @@ namespace shell {
 using app::App;
 
 namespace {
-
-// A command without a routine belongs to a subsystem that is not there yet; it shows disabled.
-const std::function<void(App&)> notYet;
 
 std::function<void(App&)> toggling(const char* key, bool app::MainFrm::*variable) {
     return [=](App& app) {
@@ -68,7 +67,7 @@ std::vector<Command> toolbarCommands() {
         {"Properties", "Properties", "Database Properties", "properties", false, showProperties},
         {"Design", "Design", "Switch Layout To Design Mode", "design", true, pressDesign},
         {"Delete", "Delete", "Delete Row", "delete", false, deleteRow},
-        {"Help", "Help", "Help", "help", false, notYet},
+        {"Help", "Help", "Help", "help", false, openHelp},
         {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false,
          storage::saveSearchResults},
         {"All_As_Report", "Print all records as report.", "", "reportAll", false, printing("All_As_Report")},
@@ -99,10 +98,10 @@ std::vector<Command> menuCommands() {
         {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, storage::saveSearchResults},
         {"mnuPrint", "&Print", "", "print", false, pressing("Print")},
         {"mnuPageSetup", "Page Setup", "", "pageSetup", false, pressing("PageSetup")},
-        {"mnuCleanDatabase", "&Clean Database", "", "clean", false, notYet},
+        {"mnuCleanDatabase", "&Clean Database", "", "clean", false, storage::mnuCleanDatabase_Click},
         {"mnuClone", "C&lone Database To..", "", "clone", false,
          [](App& app) { storage::SaveFile(app, false, true); }},
-        {"mnuEmail", "Send Database File To...", "", "mail", false, notYet},
+        {"mnuEmail", "Send Database File To...", "", "mail", false, showing("mailFrm")},
         {"mnuFile1", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile1"); }},
         {"mnuFile2", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile2"); }},
         {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
@@ -120,12 +119,13 @@ std::vector<Command> menuCommands() {
         {"mnuSavePrompt", "&Prompt For Save On Exit", "", "", true,
          toggling("mnuSavePrompt", &MainFrm::bSavePrompt)},
         {"mnuCalcHighlight", "&Highlight Calculation Boxes", "", "", true, toggleCalcHighlight},
-        {"mnuDatabaseLock", "&Lock Or Unlock Database Design", "", "lock", false, notYet},
+        {"mnuDatabaseLock", "&Lock Or Unlock Database Design", "", "lock", false,
+         lock::mnuDatabaseLock_Click},
         {"mnuLayoutDoubleClick", "&Go To Layout Upon Double-Click", "", "", true,
          toggling("mnuLayoutDoubleClick", &MainFrm::bLayoutDblClick)},
         {"mnuAutoLoad", "&Auto-Load Previously Opened File", "", "", true,
          toggling("mnuAutoLoad", &MainFrm::bAutoLoad)},
-        {"mnuContents", "&Contents", "", "help", false, notYet},
+        {"mnuContents", "&Contents", "", "help", false, openHelp},
         {"mnuDisclaimer", "&Disclaimer", "", "disclaimer", false, showing("disclaimFrm")},
         {"mnuWebpage", "&Visit FWK Homepage", "", "home", false, visitHomepage()},
         {"mnuAbout", "&About Ferrowick", "", "about", false, showAbout},

@@ -4,6 +4,7 @@
 #include "entry/invoiceRecords.h"
 #include "layout/sheet.h"
 #include "lock/designLock.h"
+#include "platform/programFiles.h"
 #include "print/printerCheck.h"
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
@@ -76,6 +77,13 @@ void deleteRow(App& app) {
         entry::deleteRecords(app);
     else if (!app.document.bInvoiceView)
         entry::deleteInvoices(app);
+}
+
+void openHelp(App& app) {
+    if (const auto contents = platform::programFile("help/index.html"))
+        app.platform.openLink(contents->string());
+    else
+        app::inform(app, "The help pages are not installed.");
 }
 
 void showAbout(App& app) {

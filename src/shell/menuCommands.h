@@ -32,6 +32,8 @@ void toggleCalcHighlight(app::App& app);
 // The button "Delete": the selected records, where the records are on view.
 void deleteRow(app::App& app);
 
+// Opens the help pages that come with the program; the user is told when they are not there.
+void openHelp(app::App& app);
 void showAbout(app::App& app);
 
 // Empty in a build that knows no home page.

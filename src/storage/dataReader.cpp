@@ -3,6 +3,7 @@
 #include "core/encoding.h"
 #include "core/number.h"
 #include "core/runTimeError.h"
+#include "core/sectionMarker.h"
 #include "core/text.h"
 #include "storage/layoutLines.h"
 #include "storage/lineReader.h"
@@ -18,8 +19,8 @@ namespace {
 
 using core::ColumnType;
 using core::Document;
+using core::markerSize;
 
-constexpr std::size_t markerSize = 16;
 constexpr std::string_view beginData = "[Begin Data    ]";
 // Far more columns than the program lets anyone add; a table beyond it is no database but an attempt
 // to have memory for rows times columns set aside.
@@ -154,8 +155,7 @@ private:
         std::size_t end = lines_.offsetOf(value) + value.size();
         for (;;) {
             const std::optional<std::string_view> line = lines_.peek();
-            if (!line) break;
-            if (line->size() >= markerSize && line->front() == '[' && (*line)[markerSize - 1] == ']') break;
+            if (!line || core::beginsWithMarker(*line)) break;
             end = lines_.offsetOf(*line) + line->size();
             lines_.next();
         }

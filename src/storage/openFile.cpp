@@ -81,6 +81,8 @@ void showOpened(App& app, bool StartUp) {
         app::showRecordCount(app, document.LV);
     }
     app::enableControls(app, true);
+    // The button outlasts the database that it was pressed for; behind a lock it would open the design.
+    if (!document.lockPassword.empty()) mainFrm.control("Design").Value = false;
     if (!document.LV.empty() && document.LV.selectedItem() == nullptr)
         document.LV.setSelectedItem(&document.LV.at(1));
     calc::list_Click(app, document.LV);

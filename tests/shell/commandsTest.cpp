@@ -186,7 +186,7 @@ TEST_F(CommandsTest, reachTheRoutineBehindThem) {
         {"Formulas", "formulateFrm", ""},     {"mnuExpressionEditor", "formulateFrm", ""},
         {"Properties", "designFrm", ""},      {"mnuDatabaseProperties", "designFrm", ""},
         {"mnuTotalColumns", "TotalsFrm", ""}, {"mnuSerialAdjust", "serialFrm", ""},
-        {"mnuDisclaimer", "disclaimFrm", ""},
+        {"mnuDisclaimer", "disclaimFrm", ""}, {"mnuEmail", "mailFrm", ""},
     };
     for (const auto& c : cases) {
         platform.forms.clear();
@@ -194,6 +194,13 @@ TEST_F(CommandsTest, reachTheRoutineBehindThem) {
         runCommand(app, c.key);
         EXPECT_EQ(platform.forms.empty() ? "" : platform.forms[0], c.form) << c.key;
         EXPECT_EQ(platform.dialogs.empty() ? "" : platform.dialogs[0].title, c.dialog) << c.key;
+    }
+    for (const char* key : {"Help", "mnuContents"}) {
+        runCommand(app, key);
+        const std::string place = platform.links.empty() ? "" : platform.links.back();
+        EXPECT_TRUE(place.ends_with("/help/index.html") ||
+                    platform.lastMessage() == "The help pages are not installed.")
+            << place;
     }
     for (const char* key : {"Save", "mnuSave"}) {
         app::setDocumentModified(app, true);

@@ -1,0 +1,93 @@
+#include "cli/command.h"
+#include "cli/session.h"
+#include "core/encoding.h"
+#include "core/text.h"
+#include "lock/designLock.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <termios.h>
+#include <unistd.h>
+
+namespace cli {
+
+namespace {
+
+struct Options {
+    std::string file;
+    bool yes = false;
+};
+
+// Keeps what is typed from being shown, where somebody types.
+class HiddenTyping {
+public:
+    HiddenTyping() : isTerminal_(::isatty(STDIN_FILENO) == 1 && ::tcgetattr(STDIN_FILENO, &before_) == 0) {
+        if (!isTerminal_) return;
+        std::cerr << "Password: ";
+        termios hidden = before_;
+        hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
+    }
+    ~HiddenTyping() {
+        if (!isTerminal_) return;
+        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+        std::cerr << '\n';
+    }
+    HiddenTyping(const HiddenTyping&) = delete;
+    HiddenTyping& operator=(const HiddenTyping&) = delete;
+
+private:
+    termios before_{};
+    bool isTerminal_;
+};
+
+// The first line of standard input.
+std::string readPassword(const std::string& file) {
+    std::string password;
+    {
+        const HiddenTyping hidden;
+        std::getline(std::cin, password);
+    }
+    if (password.ends_with('\r')) password.pop_back();
+    // The window would take blanks for a password that nobody can type again.
+    if (core::trim(password).empty()) throw Failure(file, "there is no password on standard input");
+    if (core::sanitizeUtf8(password) != password) throw Failure(file, "the password is not UTF-8");
+    return password;
+}
+
+// Locks an open design and opens a locked one.
+int turn(const Options& options, bool toLocked) {
+    Session session(options.file);
+    session.open();
+    const std::string& lockPassword = session.app.document.lockPassword;
+    const auto isLocked = [&] { return !lockPassword.empty(); };
+    if (isLocked() == toLocked)
+        throw Failure(session.file, toLocked ? "its design is locked already" : "its design is not locked");
+    session.platform.setInput(readPassword(session.file));
+    session.platform.setAnswersYes(true); // who calls the command has answered what it would ask
+    session.change([&] { lock::mnuDatabaseLock_Click(session.app); });
+    if (isLocked() != toLocked)
+        throw Failure(session.file, toLocked ? "its design is not locked" : "its design stays locked");
+    session.save();
+    return done;
+}
+
+Run setUpTurn(CLI::App& command, bool toLocked) {
+    const auto options = std::make_shared<Options>();
+    addFileArgument(command, options->file);
+    addYesFlag(command, options->yes, "Not needed: the command asks no question");
+    command.footer("The password is the first line of standard input.");
+    return [options, toLocked] { return turn(*options, toLocked); };
+}
+
+} // namespace
+
+Run setUpLock(CLI::App& command) {
+    return setUpTurn(command, true);
+}
+
+Run setUpUnlock(CLI::App& command) {
+    return setUpTurn(command, false);
+}
+
+} // namespace cli

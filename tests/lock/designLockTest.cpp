@@ -1,0 +1,145 @@
+#include "lock/designLock.h"
+#include "core/encoding.h"
+#include "core/text.h"
+#include "databases.h"
+#include "storage/dataReader.h"
+#include "storage/dataWriter.h"
+#include "storage/saveFile.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+using platform::Answer;
+using platform::Icon;
+
+class DesignLock : public testing::Test {
+protected:
+    DesignLock() { program.openCopyOf("books.fwk"); }
+
+    // What was said, the last of it in front: "icon|caption|text".
+    std::string told(std::size_t back = 0) const {
+        if (platform.messages.size() <= back) return "nothing";
+        const ScriptedPlatform::Message& message = platform.messages[platform.messages.size() - 1 - back];
+        return std::to_string(static_cast<int>(message.icon)) + "|" + message.caption + "|" + message.text;
+    }
+    void click(std::deque<std::string> inputs, Answer answer = Answer::Yes) {
+        app::setDocumentModified(app, false);
+        platform.messages.clear();
+        platform.answers = {answer};
+        platform.inputs = std::move(inputs);
+        lock::mnuDatabaseLock_Click(app);
+    }
+    std::string scrambled(std::string_view password) {
+        lockPassword = password;
+        lock::scrambleLockPassword(app);
+        return lockPassword;
+    }
+
+    Program program;
+    app::App& app = program.app;
+    ScriptedPlatform& platform = program.platform;
+    std::string& lockPassword = app.document.lockPassword;
+};
+
+TEST_F(DesignLock, scrambling) {
+    using namespace std::string_literals;
+    const std::pair<std::string, std::string> cases[] = {
+        {"", ""},
+        {"winter", "\0\0\0\0\0\0"s},
+        {"0123456789abc", "GX\\GQGER\\^\x04\x15\n"},  // the twelfth takes the first letter again
+        {"\xC3\xA9\xE2\x82\xAC", "\xC5\xBE\xC3\xA9"}, // of the codes E9 and 80 come 9E and E9
+        {"\xC4\xB2\xC4\xB2", "\xC5\x85\xC5\x9B"},     // beyond one byte
+    };
+    for (const auto& [plain, expected] : cases) {
+        EXPECT_EQ(scrambled(plain), expected) << plain;
+        EXPECT_EQ(scrambled(expected), plain);
+    }
+    // Whatever the character, the way back leads to it.
+    for (char32_t c = 0; c < 0x2200; ++c) {
+        std::string text;
+        for (int i = 0; i < 11; ++i) core::appendCodePoint(text, c);
+        const std::string stored = scrambled(text);
+        EXPECT_EQ(core::length(stored), 11U) << static_cast<unsigned>(c);
+        EXPECT_EQ(scrambled(stored), text) << static_cast<unsigned>(c);
+    }
+}
+
+// Passwords of the characters that make line ends and brackets, among records that need either encoding.
+TEST_F(DesignLock, aLockedFileIsReadBack) {
+    const std::string letters = "zdcyht|~fkgj2=5,)/.;:w \xE9\x80";
+    std::mt19937 random(7);
+    for (int run = 0; run < 600; ++run) {
+        std::string password;
+        for (auto length = random() % 40 + 1; length > 0; --length)
+            password += letters[random() % letters.size()];
+        password = core::fromWindows1252(password);
+        if (core::trim(password).empty()) continue;
+        app.document.LV.at(1).cells[1] = run % 2 == 0 ? "plain" : "\xCE\xA9";
+        lockPassword.clear();
+        click({password});
+        const std::string stored = lockPassword;
+        core::Document again;
+        storage::readDataFile(storage::encodeDataFile(storage::writeDataFile(app.document, false)), again);
+        ASSERT_EQ(again.lockPassword, stored) << password;
+        ASSERT_EQ(again.LV.count(), app.document.LV.count()) << password;
+    }
+    lockPassword.clear();
+    click({"z200000000000000/"}); // as a line "[ ... ]" of its own
+    EXPECT_EQ(lockPassword, "");
+    EXPECT_EQ(told(), "1|Ferrowick|This password cannot be stored.  Please choose another one.");
+    EXPECT_FALSE(app.document.bModified);
+}
+
+TEST_F(DesignLock, locking) {
+    constexpr const char* question = "0|Lock Database|This feature will prevent any changes to be made to "
+                                     "either the database properties or "
+                                     "the layout.  You will need to provide a password to lock or unlock "
+                                     "your file.  Are you sure you want "
+                                     "to do this?";
+    constexpr const char* pressed = "0|Ferrowick|Please return layout to browse view instead of design.  The "
+                                    "design button is currently pressed.";
+    constexpr const char* prompt = "0|Lock Database|Enter password to lock file.";
+    const struct {
+        Answer answer;
+        bool design;
+        const char *input, *told, *stored;
+    } cases[] = {{Answer::No, false, "secret", question, ""},
+                 {Answer::Cancel, false, "secret", question, ""},
+                 {Answer::Yes, true, "secret", pressed, ""},
+                 {Answer::Yes, false, "", prompt, ""},
+                 {Answer::Yes, false, "  ", prompt, "  "},
+                 {Answer::Yes, false, "secret", "1|Ferrowick|Database Locked.", "\x04\x0C\x0D\x06\x00\x06"}};
+    for (const auto& c : cases) {
+        lockPassword.clear();
+        app.mainFrm.control("Design").Value = c.design;
+        click({c.input}, c.answer);
+        EXPECT_EQ(told(), c.told);
+        EXPECT_EQ(lockPassword.substr(0, 4), c.stored) << "the zero byte ends what the table tells";
+        EXPECT_EQ(app.document.bModified, lockPassword.size() > 2);
+    }
+}
+
+TEST_F(DesignLock, unlockingAfterASave) {
+    click({"Rose and more"});
+    storage::SaveFile(app, false, false);
+    app.mainFrm.control("Design").Value = true;
+    program.open(program.path("books.fwk"));
+    EXPECT_FALSE(app.mainFrm.control("Design").Value) << "pressed for the database before";
+    const std::string stored = lockPassword;
+    for (const std::deque<std::string>& wrong :
+         {std::deque<std::string>{}, {"rose and more"}, {"Rose and more "}, {stored}}) {
+        click(wrong);
+        EXPECT_EQ(told(1), "0|Unlock Database|Enter password to unlock database.");
+        EXPECT_EQ(told(), "1|Ferrowick|Incorrect Password.");
+        EXPECT_EQ(lockPassword, stored);
+        EXPECT_TRUE(app.document.bModified) << "a failed attempt too";
+    }
+    click({"Rose and more"});
+    EXPECT_EQ(lockPassword, "");
+    EXPECT_TRUE(app.document.bModified);
+}
+
+} // namespace
