@@ -3,6 +3,7 @@
 #include "cli/session.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <map>
 
@@ -44,9 +45,14 @@ constexpr const char* exitCodes =
 
 char** startedWith = nullptr;
 
-int tellWrongCommandLine(const CLI::App& program, const CLI::ParseError& error) {
-    std::cerr << "fwk: " << error.what() << "\n\n" << program.help();
+int tellWrongCommandLine(const CLI::App& program, const std::string& what) {
+    std::cerr << "fwk: " << what << "\n\n" << program.help();
     return wrongCommandLine;
+}
+
+bool isUnknownCommand(std::string_view word) {
+    return !word.starts_with('-') &&
+           std::ranges::none_of(commands, [&](const Command& command) { return word == command.name; });
 }
 
 int runProgram(int argc, char** argv) {
@@ -62,12 +68,15 @@ int runProgram(int argc, char** argv) {
         CLI::App* subcommand = program.add_subcommand(command.name, command.summary);
         runs[subcommand] = command.setUp(*subcommand);
     }
+    if (argc < 2) return tellWrongCommandLine(program, "A command is required");
+    if (isUnknownCommand(argv[1]))
+        return tellWrongCommandLine(program, "no command \"" + printable(argv[1]) + '"');
     try {
         program.parse(argc, argv);
     } catch (const CLI::Success& help) {
         return program.exit(help);
     } catch (const CLI::ParseError& error) {
-        return tellWrongCommandLine(program, error);
+        return tellWrongCommandLine(program, error.what());
     }
     return runs[program.get_subcommands().front()]();
 }

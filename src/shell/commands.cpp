@@ -168,6 +168,8 @@ bool hasCommand(std::string_view key) {
 
 bool isCommandEnabled(const App& app, std::string_view key) {
     if (!command(key).run) return false;
+    // This item does what the button does, and nothing where the button is disabled.
+    if (key == "mnuSelectedTotals" && !isControlEnabled(app, "Totals")) return false;
     const std::string_view menu = menuOf(key);
     return isControlEnabled(app, key) && (menu.empty() || isControlEnabled(app, menu));
 }
