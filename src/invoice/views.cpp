@@ -156,6 +156,19 @@ void BuildItemsView(app::App& app) {
     moveTotals(view);
 }
 
+void refreshRows(app::App& app) {
+    RecordsList& view = app.document.iLV;
+    const core::ColumnHeaders before = view.columns;
+    app::rebuildInvoiceView(app);
+    const auto isSame = [](const Column& a, const Column& b) { return a.Key == b.Key && a.Tag == b.Tag; };
+    if (std::ranges::equal(before, view.columns, isSame)) view.columns = before;
+    const Item* record = app.document.LV.selectedItem();
+    Item* row = record == nullptr ? nullptr : view.findText(record->Key);
+    if (row == nullptr) return;
+    view.clearSelection();
+    view.setSelectedItem(row);
+}
+
 } // namespace invoice
 
 void app::rebuildInvoiceView(App& app) {
