@@ -173,6 +173,11 @@ void refreshRows(app::App& app) {
 
 void app::rebuildInvoiceView(App& app) {
     if (!app.document.bInvoiceStyle) return;
+    // The widths that the user has given the columns on show are those of the columns.
+    for (const core::Column& shown : app.document.iLV.columns) {
+        core::Column* column = app.document.LV.columns.find(shown.Text);
+        if (column != nullptr && column->Index != 1) column->Width = shown.Width;
+    }
     if (app.document.bInvoiceView)
         invoice::BuildItemsView(app);
     else

@@ -382,6 +382,9 @@ void Invoice::theListKeepsItsColumnsWhileInvoicesAreTyped() {
     QCOMPARE(rowsOf(run).value(1).section(QLatin1Char('|'), 0, 0), total);
     showTab(run, app::layoutTab); // and it is still that invoice
     QCOMPARE(shown(run, "Total"), QStringList{total});
+    showTab(run, app::reportTab);
+    chooseView(run, "viewOpt0");
+    QCOMPARE(header->sectionSize(run.section("Day", "iLV")), 200);
 }
 
 QTEST_MAIN(Invoice)
