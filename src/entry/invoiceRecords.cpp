@@ -54,7 +54,7 @@ Item* invoiceToUpdate(App& app) {
     Document& document = app.document;
     if (app.mainFrm.theListView != &document.searchLV) return document.LV.selectedItem();
     const Item* result = document.searchLV.selectedItem();
-    if (result == nullptr) return nullptr;
+    if (result == nullptr) return document.LV.selectedItem(); // a new one, which was not searched for
     return document.LV.find(result->Key.empty() ? result->Text : result->Key);
 }
 
@@ -118,7 +118,7 @@ void editInvoiceRecord(App& app, bool bUpdate) {
     records.setSelectedItem(record);
     app::setDocumentModified(app, true);
     records.MultiSelect = false;
-    app::rebuildInvoiceView(app);
+    invoice::refreshRows(app);
     refreshResults(app);
 }
 
@@ -172,7 +172,7 @@ bool deleteInvoices(App& app) {
     document.LV.removeIf(
         [&](const Item& record) { return !record.isTotals() && gone.contains(record.Key.view()); });
     app::setDocumentModified(app, true);
-    app::rebuildInvoiceView(app);
+    invoice::refreshRows(app);
     if (document.LV.count() >= 3) {
         app::showRecordCount(app, document.iLV);
         app.mainFrm.Slider1.Max = document.iLV.count() - 1;
@@ -184,7 +184,7 @@ void removeInvoiceRows(App& app, const std::string& key) {
     RecordsList& results = app.document.searchLV;
     if (results.Visible)
         results.removeIf([&](const Item& row) { return !row.isTotals() && row.Text == key; });
-    app::rebuildInvoiceView(app);
+    invoice::refreshRows(app);
 }
 
 } // namespace entry

@@ -23,15 +23,18 @@ using core::RecordsList;
 
 namespace {
 
-// In an invoice database the rows found are those of the invoice list; the record is the one in LV.
-void selectRow(App& app, int row) {
+// In an invoice database the rows found are those of the invoice list; the record is the one in LV. It has
+// to follow, or what is typed for one invoice would be stored in another.
+void selectItem(App& app, Item& item) {
     Document& document = app.document;
-    RecordsList& list = *app.mainFrm.theListView;
-    Item& item = list.at(row);
-    list.setSelectedItem(&item);
-    app.mainFrm.Slider1.Value = std::min(row, app.mainFrm.Slider1.Max);
+    app.mainFrm.theListView->setSelectedItem(&item);
     if (document.bInvoiceStyle && document.searchLV.Visible)
         if (Item* record = document.LV.find(item.Text)) document.LV.setSelectedItem(record);
+}
+
+void selectRow(App& app, int row) {
+    selectItem(app, app.mainFrm.theListView->at(row));
+    app.mainFrm.Slider1.Value = std::min(row, app.mainFrm.Slider1.Max);
 }
 
 int currentRow(const App& app) {
@@ -78,6 +81,11 @@ void newRecord(App& app) {
     clearPictures(app);
     if (!document.bInvoiceStyle) return;
     invoice::addInvoiceRecord(app);
+    // It is none of those found: what is typed must not reach the one that was on the sheet before.
+    if (document.searchLV.Visible) {
+        document.searchLV.clearSelection();
+        document.searchLV.setSelectedItem(nullptr);
+    }
     app.mainFrm.layoutPage.layoutPic2.Visible = true;
 }
 
@@ -151,8 +159,18 @@ void selectBehindGone(RecordsList& list, int row) {
 
 void deleteShown(App& app) {
     const int row = currentRow(app);
+    // The records behind an invoice list are never on view: those that were shown or printed on the way have
+    // stayed selected, and only the one on the sheet is meant.
+    if (app.document.bInvoiceStyle) {
+        app.document.LV.MultiSelect = false;
+        app.document.LV.setSelectedItem(app.document.LV.selectedItem());
+    }
     if (!deleteRecords(app)) return;
-    selectBehindGone(app.document.LV, row);
+    const RecordsList& results = app.document.searchLV;
+    if (app.document.bInvoiceStyle && results.Visible && results.count() > 1)
+        selectRow(app, std::clamp(row, 1, results.count() - 1));
+    else
+        selectBehindGone(app.document.LV, row);
     app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
     clearPictures(app);
     app::showRecord(app);
@@ -196,7 +214,7 @@ void Slider1_Change(App& app, int value) {
     RecordsList& list = *app.mainFrm.theListView;
     app.mainFrm.Slider1.Value = value;
     if (list.count() < 2) return;
-    list.setSelectedItem(&list.at(std::clamp(value, 1, list.count())));
+    selectItem(app, list.at(std::clamp(value, 1, list.count())));
     app::showRecord(app);
 }
 

@@ -88,7 +88,9 @@ void MainFrmView::refresh() {
     actions_->refresh();
     tabs_->tabBar()->setEnabled(app_.mainFrm.SSTab1Enabled);
     tabs_->setCurrentIndex(app_.mainFrm.SSTab1);
-    report_->refresh();
+    // Each of them when it comes into view: while an invoice is typed the list behind it is built over and
+    // over again.
+    if (app_.mainFrm.SSTab1 == app::reportTab) report_->refresh();
     if (app_.mainFrm.SSTab1 == app::layoutTab) layout_->refresh();
     if (app_.mainFrm.SSTab1 == app::previewTab) preview_->refresh();
     status_->refresh();

@@ -59,37 +59,75 @@ void guarded(app::App& app, const bool& armed, Routine&& routine) {
     }
 }
 
-// The value of one token in one item row; an empty or absent value counts as 0.
-std::string itemValue(std::string_view cell, int row) {
-    const std::vector<std::string_view> parts = core::split(core::trim(cell), itemSeparator);
-    const auto place = static_cast<std::size_t>(row);
-    if (place >= parts.size() || parts[place].empty()) return "0";
-    return Currency::parse(parts[place]).text();
-}
+// One token of a line calculation. What is no column stands for itself in each row.
+struct LineToken {
+    std::string_view text;
+    const Column* column = nullptr;
+    std::vector<std::string_view> values; // a column's, one for each item row
+
+    // An empty or absent value counts as 0.
+    std::string inRow(std::size_t row) const {
+        if (row >= values.size() || values[row].empty()) return "0";
+        return Currency::parse(values[row]).text();
+    }
+};
+
+class LineCalculator {
+public:
+    LineCalculator(const RecordsList& list, const Item& record, const Formula& formula)
+        : target_(&list.columns[formula.name]) {
+        for (const std::string_view text : formula.tokens()) {
+            LineToken token{text, columnOf(list, text), {}};
+            if (token.column != nullptr && token.column != target_) {
+                const std::string_view cell = RecordsList::cell(record, *token.column);
+                token.values = core::split(core::trim(cell), itemSeparator);
+                bAnyPoint_ = bAnyPoint_ || hasPoint(cell);
+            }
+            bAnyPoint_ =
+                bAnyPoint_ || (token.column != nullptr && token.column->isType(core::ColumnType::Currency));
+            refersToItself_ = refersToItself_ || token.column == target_;
+            tokens_.push_back(std::move(token));
+        }
+    }
+
+    // The values of all rows. What is done stays in the text when a row fails.
+    void calculate(int rows, bool& armed, std::string& done) const {
+        bool bDecimal = bAnyPoint_; // once a row has brought a point in, the rows after it are money too
+        std::string joined;
+        for (int row = 0; row < rows; ++row) {
+            // A formula that refers to itself reads its cell as far as it is written: the value of this row
+            // is not there yet.
+            if (refersToItself_ && hasPoint(done)) bDecimal = true;
+            joined.clear();
+            for (const LineToken& token : tokens_)
+                joined += token.column == nullptr ? std::string(token.text)
+                                                  : token.inRow(static_cast<std::size_t>(row));
+            armed = true;
+            const double result = calc::evaluate(joined);
+            if (hasPoint(joined)) bDecimal = true;
+            done += calc::resultText(result, bDecimal);
+            done += itemSeparator;
+        }
+    }
+
+private:
+    const Column* target_;
+    std::vector<LineToken> tokens_;
+    bool bAnyPoint_ = false;
+    bool refersToItself_ = false;
+};
 
 void calculateItemRows(RecordsList& list, Item& record, const Formula& formula, int rows, bool& armed) {
+    const LineCalculator line(list, record, formula);
     CellText& cell = targetCell(list, record, formula);
-    cell = "";
-    bool bDecimal = false; // once a row has brought a point in, the rows after it are money too
-    std::string joined;
-    for (int row = 0; row < rows; ++row) {
-        joined.clear();
-        for (const std::string_view token : formula.tokens()) {
-            const Column* column = columnOf(list, token);
-            if (column == nullptr) {
-                joined += token;
-                continue;
-            }
-            const std::string_view operand = RecordsList::cell(record, *column);
-            if (column->isType(core::ColumnType::Currency) || hasPoint(operand)) bDecimal = true;
-            joined += itemValue(operand, row);
-        }
-        armed = true;
-        const double result = calc::evaluate(joined);
-        if (hasPoint(joined)) bDecimal = true;
-        const std::string text = calc::resultText(result, bDecimal);
-        cell = cell.str() + text + itemSeparator;
+    std::string done;
+    try {
+        line.calculate(rows, armed, done);
+    } catch (const core::RunTimeError&) {
+        cell = done;
+        throw;
     }
+    cell = done;
 }
 
 } // namespace
@@ -134,7 +172,10 @@ void RecalculateSegmentedTotals(app::App& app, int rowIndex, RecordsList& list) 
         const std::vector<std::string_view> tokens = formula.tokens();
         if (tokens.size() == 1) {
             sum = Currency();
-            const std::string values = RecordsList::cell(record, list.columns[tokens[0]]).str();
+            // A constant is no column and has nothing to sum: its value comes with the third routine.
+            const Column* column = columnOf(list, tokens[0]);
+            const std::string values =
+                column == nullptr ? std::string() : RecordsList::cell(record, *column).str();
             std::vector<std::string_view> parts = core::split(values, itemSeparator);
             parts.pop_back(); // what stands behind the last separator is no value
             for (const std::string_view part : parts) {

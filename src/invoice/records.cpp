@@ -1,6 +1,5 @@
 #include "invoice/records.h"
 
-#include "app/invoiceRoutines.h"
 #include "core/text.h"
 #include "invoice/views.h"
 
@@ -40,7 +39,7 @@ Item& addInvoiceRecord(App& app) {
     records.MultiSelect = false; // moveTotals has switched it on
     Item& record = records.byKey(key);
     records.setSelectedItem(&record);
-    app::rebuildInvoiceView(app);
+    refreshRows(app);
     return record;
 }
 
@@ -48,6 +47,7 @@ void retrieveInvoiceRecord(App& app) {
     core::Document& document = app.document;
     const Item* record = document.LV.selectedItem();
     if (document.LV.count() < 2 || record == nullptr) return;
+    app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
     const ItemColumns items(document);
     std::map<std::string_view, std::size_t> rows; // how many fields of a group have been filled
     document.layout.layoutField.forEach([&](LayoutField& field) {

@@ -3,6 +3,11 @@
 #include "core/number.h"
 #include "core/objectRef.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
 namespace invoice {
 
 using app::App;
@@ -49,8 +54,22 @@ void repeatFrm::OKButton_Click() {
         app::inform(app_, "You did not enter the number of rows to create.");
         return;
     }
+    if (!hasRoomFor(rows)) {
+        app::inform(app_, "The layout has no room for so many rows.");
+        return;
+    }
     repeatItemRows(app_, core::toInt16(rows), cColumns_);
     unloaded = true;
+}
+
+// Fields are numbered with 16 bits. Those of the chosen columns make room.
+bool repeatFrm::hasRoomFor(double rows) const {
+    constexpr double mostFields = std::numeric_limits<std::int16_t>::max();
+    int kept = 0;
+    app_.document.layout.layoutField.forEach([&](const LayoutField& field) {
+        if (std::ranges::find(cColumns_, field.Tag) == cColumns_.end()) ++kept;
+    });
+    return std::abs(rows) <= mostFields && kept + rows * static_cast<double>(cColumns_.size()) <= mostFields;
 }
 
 void repeatItemRows(App& app, int iItems, const std::vector<std::string>& cColumns) {

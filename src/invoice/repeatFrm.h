@@ -22,6 +22,8 @@ public:
     void CancelButton_Click() { unloaded = true; }
 
 private:
+    bool hasRoomFor(double rows) const;
+
     app::App& app_;
     std::vector<std::string> cColumns_;
 };

@@ -156,10 +156,28 @@ void BuildItemsView(app::App& app) {
     moveTotals(view);
 }
 
+void refreshRows(app::App& app) {
+    RecordsList& view = app.document.iLV;
+    const core::ColumnHeaders before = view.columns;
+    app::rebuildInvoiceView(app);
+    const auto isSame = [](const Column& a, const Column& b) { return a.Key == b.Key && a.Tag == b.Tag; };
+    if (std::ranges::equal(before, view.columns, isSame)) view.columns = before;
+    const Item* record = app.document.LV.selectedItem();
+    Item* row = record == nullptr ? nullptr : view.findText(record->Key);
+    if (row == nullptr) return;
+    view.clearSelection();
+    view.setSelectedItem(row);
+}
+
 } // namespace invoice
 
 void app::rebuildInvoiceView(App& app) {
     if (!app.document.bInvoiceStyle) return;
+    // The widths that the user has given the columns on show are those of the columns.
+    for (const core::Column& shown : app.document.iLV.columns) {
+        core::Column* column = app.document.LV.columns.find(shown.Text);
+        if (column != nullptr && column->Index != 1) column->Width = shown.Width;
+    }
     if (app.document.bInvoiceView)
         invoice::BuildItemsView(app);
     else

@@ -27,4 +27,8 @@ private:
 void BuildItemsView(app::App& app);
 void BuildInvoicesView(app::App& app);
 
+// The view on show after a record has been written: its columns stay as the user has sized and dragged
+// them, and the row of the selected record is selected.
+void refreshRows(app::App& app);
+
 } // namespace invoice

@@ -5,6 +5,7 @@
 #include "layout/sheet.h"
 #include "print/previewNavigation.h"
 #include "print/printerCheck.h"
+#include "search/searchMode.h"
 #include "shell/settings.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
@@ -110,7 +111,8 @@ void viewOpt_Click(App& app, int index) {
     leaving.clear();
     for (const core::Column& column : document.iLV.columns) leaving.add(std::to_string(column.Position));
     app.mainFrm.control("Search").Value = false;
-    document.searchLV.Visible = false;
+    // Commands work on the records again; on results out of sight they would change what nobody sees.
+    if (document.searchLV.Visible) search::showAllRecords(app);
     app::rebuildInvoiceView(app);
     app::enableControls(app, true);
     document.printedCols.clear();

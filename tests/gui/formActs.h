@@ -30,6 +30,7 @@ inline QTreeWidgetItem* rowOf(const QTreeWidget* list, const char* text) {
 }
 inline void clickRow(const QDialog& form, const char* listName, const char* text) {
     auto* list = in<QTreeWidget>(form, listName);
+    list->scrollToItem(rowOf(list, text));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(rowOf(list, text)).center());
 }
 inline void doubleClickRow(const QDialog& form, const char* listName, const char* text) {

@@ -118,6 +118,12 @@ TEST_F(InvoiceTest, TheItemRowDialog) {
     form.List1_Click(3);
     form.List1_Click(3);
     EXPECT_EQ(form.List2, (std::vector<std::string>{"Qty", "Qty"}));
+    for (const char* text : {"16384", "99999", "-99999"}) { // twice as many fields; beyond 16 bits
+        form.Text1 = text;
+        form.OKButton_Click();
+        EXPECT_FALSE(form.unloaded) << text;
+        EXPECT_EQ(program.platform.lastMessage(), "The layout has no room for so many rows.");
+    }
     form.Text1 = "3 rows";
     form.OKButton_Click();
     EXPECT_TRUE(form.unloaded);
