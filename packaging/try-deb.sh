@@ -32,8 +32,8 @@ inside sh -ec '
     test -s garden.png'
 
 echo "== in a desktop"
-inside apt-get -qq install -y --no-install-recommends xvfb xdotool imagemagick libglib2.0-bin libgtk-3-bin xdg-utils \
-    shared-mime-info desktop-file-utils dbus-x11 >>"$folder/install.log"
+inside apt-get -qq install -y --no-install-recommends xvfb xauth xdotool imagemagick libglib2.0-bin libgtk-3-bin \
+    xdg-utils shared-mime-info desktop-file-utils dbus-x11 >>"$folder/install.log"
 inside xvfb-run -a -s "-screen 0 1280x800x24" dbus-run-session sh -ec '
     cd /root
     xdg-mime query filetype garden.fwk

@@ -14,6 +14,7 @@ _fwk_columns() { # FILE, as it stands on the command line
     [\"\']*) file=${file#?} file=${file%[\"\']} ;;
     *) file=${file//\\/} ;;
     esac
+    # shellcheck disable=SC2088
     [[ $file == "~/"* ]] && file=$HOME/${file#"~/"}
     [[ $file == -* ]] && file=./$file
     [[ -f $file ]] || return
