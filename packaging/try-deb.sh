@@ -34,7 +34,8 @@ inside sh -ec '
 echo "== in a desktop"
 inside apt-get -qq install -y --no-install-recommends xvfb xauth xdotool imagemagick libglib2.0-bin libgtk-3-bin \
     xdg-utils shared-mime-info desktop-file-utils dbus-x11 >>"$folder/install.log"
-inside xvfb-run -a -s "-screen 0 1280x800x24" dbus-run-session sh -ec '
+inside xvfb-run -a -s "-screen 0 1280x800x24" \
+    dbus-run-session env XDG_CURRENT_DESKTOP=GNOME sh -ec '
     cd /root
     xdg-mime query filetype garden.fwk
     cp garden.fwk nameless
@@ -42,13 +43,14 @@ inside xvfb-run -a -s "-screen 0 1280x800x24" dbus-run-session sh -ec '
     xdg-mime query default application/x-ferrowick
     rm nameless
     shot() { # NAME OF THE WINDOW, PICTURE
-        xdotool search --sync --onlyvisible --name "$1" >/dev/null
+        timeout 20 xdotool search --sync --onlyvisible --name "$1" >/dev/null
         sleep 2
         import -window root "$2"
-        kill $(pidof ferrowick)
+        xdotool search --onlyvisible --name "$1" windowkill
         sleep 1
     }
     gtk-launch ferrowick
+    timeout 20 xdotool search --sync --onlyvisible --name Disclaimer windowfocus key Return
     shot Ferrowick desktop.png
     xdg-open /root/garden.fwk
     shot garden opened.png'
