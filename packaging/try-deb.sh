@@ -43,6 +43,8 @@ inside xvfb-run -a -s "-screen 0 1280x800x24" \
     xdg-mime query default application/x-ferrowick
     rm nameless
     shot() { # NAME OF THE WINDOW, PICTURE
+        # A window that was killed has stored no settings: each start is a first one. It goes with the key down.
+        timeout 20 xdotool search --sync --onlyvisible --name Disclaimer windowfocus key Return 2>/dev/null || true
         timeout 20 xdotool search --sync --onlyvisible --name "$1" >/dev/null
         sleep 2
         import -window root "$2"
@@ -50,7 +52,6 @@ inside xvfb-run -a -s "-screen 0 1280x800x24" \
         sleep 1
     }
     gtk-launch ferrowick
-    timeout 20 xdotool search --sync --onlyvisible --name Disclaimer windowfocus key Return
     shot Ferrowick desktop.png
     xdg-open /root/garden.fwk
     shot garden opened.png'
