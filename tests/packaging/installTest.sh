@@ -8,7 +8,7 @@ trap 'rm -rf "$stage"' EXIT
 failed=0
 fail() { echo "$*" >&2; failed=1; }
 
-[[ -x $build/src/gui/ferrowick && -x $build/src/fwk ]] || { echo "The programs are not built."; exit 77; }
+[[ -x $build/src/gui/ferrowick && -x $build/src/fwk && -e $build/packaging/fwk.1.gz ]] || { echo "Not all is built."; exit 77; }
 DESTDIR=$stage "$cmake" --install "$build" --prefix /usr >"$stage/log" 2>&1 || { cat "$stage/log"; exit 1; }
 share=$stage/usr/share
 for file in bin/ferrowick bin/fwk libexec/ferrowick/fwk-print \
