@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a purpose needs and that are not there yet.
-#   scripts/install-packages.sh build|run|test|tidy|bench ...
+#   scripts/install-packages.sh build|run|test|tidy|bench|package ...
 # Says nothing and is quick when nothing is missing.
 set -euo pipefail
 
@@ -10,6 +10,7 @@ run=(libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6svg6 qt6-wayland fonts-
 test=(libgtest-dev libgmock-dev libbenchmark-dev zip unzip clang-format-14 poppler-utils)
 tidy=(clang-tidy-14)
 bench=(libbenchmark-dev hyperfine zip unzip sqlite3)
+package=(dpkg-dev file gzip)
 # Work without these is slower or leaves a step out, but is done.
 optional=(ccache clang-14 libclang-rt-14-dev)
 
@@ -21,8 +22,9 @@ for purpose in "$@"; do
     test) wanted+=("${test[@]}" clang-14 libclang-rt-14-dev) ;;
     tidy) wanted+=("${tidy[@]}") ;;
     bench) wanted+=("${bench[@]}") ;;
+    package) wanted+=("${package[@]}") ;;
     *)
-        echo "usage: ${0##*/} build|run|test|tidy|bench ..." >&2
+        echo "usage: ${0##*/} build|run|test|tidy|bench|package ..." >&2
         exit 2
         ;;
     esac

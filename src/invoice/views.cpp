@@ -19,8 +19,9 @@ using core::Item;
 using core::RecordsList;
 
 constexpr char itemSeparator = '@';
-// No invoice list comes near it; a file that asks for more was made to fill the memory.
+// No invoice list comes near them; a file that asks for more was made to fill the memory.
 constexpr long long mostRows = 4'000'000;
+constexpr long long mostCells = 60'000'000;
 
 Column& copyColumn(RecordsList& list, const Column& column) {
     Column& copy = list.columns.add(column.Key, column.Text, column.Width);
@@ -37,14 +38,12 @@ void clearView(RecordsList& list) {
 // A position beyond the table stands for the last place.
 void positionColumns(RecordsList& list, const core::NamedCollection& positions) {
     const int columns = list.columns.count();
-    int index = 1;
+    std::vector<int> wanted;
     for (const auto& entry : positions) {
-        if (index > columns) break;
-        const double wanted = core::val(entry.item);
-        list.columns.setPosition(index,
-                                 wanted <= columns ? static_cast<int>(std::max(wanted, 1.0)) : columns);
-        ++index;
+        if (static_cast<int>(wanted.size()) == columns) break;
+        wanted.push_back(static_cast<int>(std::clamp(core::val(entry.item), 1.0, double(columns))));
     }
+    list.columns.setPositions(wanted);
 }
 
 // Where each column of the view, from Index 2 on, has its cell in a record.
@@ -146,7 +145,8 @@ void BuildItemsView(app::App& app) {
     positionColumns(view, document.itemLevelCols);
     addTotalsRow(view).Text = core::totalsKey;
     const int rows = itemRows(document.LV);
-    if (static_cast<long long>(rows) * document.LV.count() > mostRows)
+    const long long allRows = static_cast<long long>(rows) * document.LV.count();
+    if (allRows > mostRows || allRows * view.columns.count() > mostCells)
         core::raise(core::errors::overflow, "item rows");
     const std::vector<int> cells = sourceCells(view, document.LV);
     const core::TotalsRowUpdater totals(document, view);
