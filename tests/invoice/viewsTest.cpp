@@ -47,6 +47,7 @@ TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
     } cases[] = {
         {"none", {}, "No|Customer|Subtotal|Tax|"},
         {"moved", {"1", "5", "2", "3", "4"}, "Customer|Subtotal|Tax|No|"},
+        {"each moved past others", {"1", "4", "5", "3", "2"}, "Tax|Subtotal|No|Customer|"},
         {"beyond the table", {"1", "99"}, "Customer|Subtotal|Tax|No|"},
         {"more than columns", {"1", "2", "3", "4", "5", "6", "7"}, "No|Customer|Subtotal|Tax|"},
     };
