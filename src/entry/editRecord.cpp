@@ -104,7 +104,9 @@ Item* EditRecord(App& app, bool bUpdate, const std::vector<BoxText>& theFields,
     calc::CalculateRow(app, records.indexOf(*record), records);
     core::UpdateTotalsRow(document, core::TotalsMode::Add, records, records.indexOf(*record));
     records.setSelectedItem(record);
-    copyToResult(app, *record);
+    // A new record is none of those found. In the cells of one that is, it would be stored over that one with
+    // the next update.
+    if (bUpdate) copyToResult(app, *record);
     app::setDocumentModified(app, true);
     records.MultiSelect = false;
     return record;
@@ -180,14 +182,18 @@ void duplicateRecord(App& app, Item& source, int copies) {
 }
 
 void mnuDuplicate_Click(App& app) {
-    RecordsList& records = app.document.LV;
-    Item* source = records.selectedItem();
+    Item* source = recordToUpdate(app);
     if (source == nullptr || source->isTotals()) {
         app::inform(app, "You cannot duplicate the totals row.");
         return;
     }
     const std::string answer = app.platform.inputBox("How many copies?", "Duplicate Record", "");
-    duplicateRecord(app, *source, core::toInt16(core::val(answer)));
+    try {
+        duplicateRecord(app, *source, core::toInt16(core::val(answer)));
+    } catch (const core::RunTimeError& error) {
+        if (error.number != core::errors::overflow) throw;
+        app::inform(app, "A database has no room for so many records.");
+    }
 }
 
 } // namespace entry

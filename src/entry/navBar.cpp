@@ -27,6 +27,8 @@ namespace {
 // to follow, or what is typed for one invoice would be stored in another.
 void selectItem(App& app, Item& item) {
     Document& document = app.document;
+    app.mainFrm.theListView->MultiSelect =
+        false; // the sheet shows one record, and Delete takes the selected ones
     app.mainFrm.theListView->setSelectedItem(&item);
     if (document.bInvoiceStyle && document.searchLV.Visible)
         if (Item* record = document.LV.find(item.Text)) document.LV.setSelectedItem(record);
@@ -157,6 +159,15 @@ void selectBehindGone(RecordsList& list, int row) {
         list.setSelectedItem(&list.at(std::clamp(row, 1, list.count() - 1)));
 }
 
+// The record of a result that is on the sheet. False when it is gone already.
+bool selectAlone(RecordsList& records, std::string_view key) {
+    Item* record = records.find(key);
+    if (record == nullptr) return false;
+    records.MultiSelect = false;
+    records.setSelectedItem(record);
+    return true;
+}
+
 void deleteShown(App& app) {
     const int row = currentRow(app);
     // The records behind an invoice list are never on view: those that were shown or printed on the way have
@@ -165,9 +176,12 @@ void deleteShown(App& app) {
         app.document.LV.MultiSelect = false;
         app.document.LV.setSelectedItem(app.document.LV.selectedItem());
     }
+    RecordsList& results = app.document.searchLV;
+    Item* result = results.Visible && !app.document.bInvoiceStyle ? results.selectedItem() : nullptr;
+    if (result != nullptr && !selectAlone(app.document.LV, result->Key)) return;
     if (!deleteRecords(app)) return;
-    const RecordsList& results = app.document.searchLV;
-    if (app.document.bInvoiceStyle && results.Visible && results.count() > 1)
+    if (result != nullptr && !result->isTotals()) results.remove(*result);
+    if (results.Visible && results.count() > 1)
         selectRow(app, std::clamp(row, 1, results.count() - 1));
     else
         selectBehindGone(app.document.LV, row);
@@ -214,7 +228,7 @@ void Slider1_Change(App& app, int value) {
     RecordsList& list = *app.mainFrm.theListView;
     app.mainFrm.Slider1.Value = value;
     if (list.count() < 2) return;
-    selectItem(app, list.at(std::clamp(value, 1, list.count())));
+    selectItem(app, list.at(std::clamp(value, 1, list.count() - 1))); // the Totals row is no record
     app::showRecord(app);
 }
 

@@ -181,17 +181,24 @@ void TextBox::insertFromMimeData(const QMimeData* source) {
     insertPlainText(text);
 }
 
+namespace {
+
+// The focus comes back to the box from another window, a pop-up or the menu bar: it is still being typed in.
+bool isPassing(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
 void TextBox::focusInEvent(QFocusEvent* event) {
     QTextEdit::focusInEvent(event);
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason && gotFocus)
-        gotFocus();
+    if (!isPassing(event->reason()) && gotFocus) gotFocus();
 }
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QTextEdit::focusOutEvent(event);
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason &&
-        lostFocus)
-        lostFocus();
+    if (!isPassing(event->reason()) && lostFocus) lostFocus();
 }
 
 } // namespace gui

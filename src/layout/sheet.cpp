@@ -33,7 +33,10 @@ std::string inchesText(float twips) {
 
 void browseObjects(App& app) {
     core::LayoutObjects& objects = app.document.layout;
+    const bool hasRecords = app.document.LV.count() > 1;
     objects.layoutField.forEach([&](LayoutField& field) {
+        // Without a record to show, the name that stood in the box would be taken for a value.
+        if (field.Locked && !hasRecords && field.Text == field.Tag) field.Text.clear();
         field.Locked = false;
         field.Enabled = true;
         field.BackColor = fieldBackColor(app, field);

@@ -1,6 +1,7 @@
 #include "storage/layoutLines.h"
 
 #include "core/number.h"
+#include "core/runTimeError.h"
 #include "storage/values.h"
 
 #include <type_traits>
@@ -8,6 +9,9 @@
 namespace storage {
 
 namespace {
+
+constexpr std::size_t elementsOfLabel = 15; // older lines are shorter: no link, left alignment
+constexpr std::size_t elementsOfClipArt = 7;
 
 // Every object stands behind those of earlier lines, so a label's empty end never covers the field beside it;
 // a box goes behind all others.
@@ -58,11 +62,10 @@ void readField(const Elements& fields, core::LayoutObjects& layout) {
 }
 
 void readLabel(const Elements& fields, core::LayoutObjects& layout) {
-    constexpr std::size_t elementsWithLink = 15; // older lines are shorter: no link, left alignment
     const Place place(fields, 2);
     const core::ObjectFont font = fontOf(fields, 6);
     const std::int32_t colour = fields.colour(11);
-    const bool hasLink = fields.count() == elementsWithLink;
+    const bool hasLink = fields.count() == elementsOfLabel;
     const std::int16_t alignment = hasLink ? fields.integer(13) : std::int16_t{0};
     core::Label& label = loadNext(layout, layout.tLabel);
     place.putInto(label);
@@ -114,6 +117,21 @@ void readClipArt(const Elements& fields, core::LayoutObjects& layout) {
     clip.clipImage.Height = clip.Height;
 }
 
+// A separator in a label's text or in the name of a clip art tears its line, and nothing guards against it
+// when it is typed. The line is long by as many fields, and is read with the text put together again.
+template <typename Read>
+void readTorn(const Elements& fields, core::LayoutObjects& layout, std::size_t elements, Read read) {
+    constexpr std::size_t mostSeparators = 200;
+    for (std::size_t extra = 0;; ++extra) {
+        try {
+            read(extra == 0 ? fields : fields.joined(1, extra), layout);
+            return;
+        } catch (const core::RunTimeError&) {
+            if (fields.count() <= elements + extra || extra == mostSeparators) throw;
+        }
+    }
+}
+
 class Line {
 public:
     Line(std::string& out, std::string_view word, std::string_view lineEnd) : out_(out), lineEnd_(lineEnd) {
@@ -150,7 +168,7 @@ bool readLayoutLine(std::string_view line, core::LayoutObjects& layout) {
     if (word == "F")
         readField(fields, layout);
     else if (word == "L")
-        readLabel(fields, layout);
+        readTorn(fields, layout, elementsOfLabel, readLabel);
     else if (word == "LN")
         readLine(fields, layout, layout.pbLine);
     else if (word == "VLN")
@@ -160,7 +178,7 @@ bool readLayoutLine(std::string_view line, core::LayoutObjects& layout) {
     else if (word == "P")
         readPicture(fields, layout);
     else if (word == "C")
-        readClipArt(fields, layout);
+        readTorn(fields, layout, elementsOfClipArt, readClipArt);
     else
         return false;
     return true;

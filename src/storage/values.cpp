@@ -30,6 +30,15 @@ std::vector<std::string_view> splitLine(std::string_view line) {
 
 Elements::Elements(std::string_view line) : parts_(splitLine(line)) {}
 
+Elements Elements::joined(std::size_t first, std::size_t extra) const {
+    Elements joined = *this;
+    const std::string_view head = text(first), tail = text(first + extra);
+    joined.parts_[first] = {head.data(), static_cast<std::size_t>(tail.data() + tail.size() - head.data())};
+    const auto behind = joined.parts_.begin() + static_cast<std::ptrdiff_t>(first) + 1;
+    joined.parts_.erase(behind, behind + static_cast<std::ptrdiff_t>(extra));
+    return joined;
+}
+
 std::string_view Elements::text(std::size_t number) const {
     if (number >= parts_.size())
         core::raise(core::errors::subscriptOutOfRange, "field " + std::to_string(number));

@@ -17,6 +17,9 @@ class Elements {
 public:
     explicit Elements(std::string_view line);
 
+    // The same fields with those from `first` to `first + extra` as the one that a separator has torn.
+    Elements joined(std::size_t first, std::size_t extra) const;
+
     std::size_t count() const { return parts_.size(); } // with what stands behind the last separator
     std::string_view text(std::size_t number) const;
     float single(std::size_t number) const;

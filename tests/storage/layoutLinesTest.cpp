@@ -27,6 +27,10 @@ TEST(LayoutLines, comeBackAsTheyWereOrInTheShortestForm) {
          "F|A|1|2|3|4|False|True|False|Arial|10|-2147483640|"},
         {"L|Ask, him|1|2|3|4|True|False|False|Arial|10|8388608|mailto:a@b.org|2|", nullptr},
         {"L||1|2|3|4|True|False|False|Arial|10|0||1|", nullptr},
+        // A separator in the text does not tear it.
+        {"L|Tel | Fax|1|2|3|4|True|False|False|Arial|10|0|x|1|", nullptr},
+        {"L|1|2|3|4|1|2|3|4|True|False|False|Arial|10|0||1|", nullptr},
+        {"C|a|b|c.jpg|1|2|3|4|", nullptr},
         // Lines of older files: no link, left alignment, whatever stands there.
         {"L|Old|1|2|3|4|True|False|False|Arial|10|0|", "L|Old|1|2|3|4|True|False|False|Arial|10|0||0|"},
         {"L|Old|1|2|3|4|True|False|False|Arial|10|0|x|1", "L|Old|1|2|3|4|True|False|False|Arial|10|0||0|"},
