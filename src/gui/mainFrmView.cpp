@@ -4,7 +4,7 @@
 #include "gui/icon.h"
 #include "gui/qtText.h"
 #include "shell/mainWindow.h"
-#include "storage/openFile.h"
+#include "shell/menuCommands.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -113,15 +113,11 @@ void MainFrmView::dragEnterEvent(QDragEnterEvent* event) {
     if (!droppedDatabase(event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
-// Like an entry of the recent files: nobody asks about unsaved changes.
 void MainFrmView::dropEvent(QDropEvent* event) {
     const QString path = droppedDatabase(event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
-    events_.run([&] {
-        app_.document.currentFile = fromQt(path);
-        storage::OpenFile(app_, true);
-    });
+    events_.run([&] { shell::openNamedFile(app_, fromQt(path)); });
 }
 
 } // namespace gui

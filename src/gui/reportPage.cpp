@@ -11,7 +11,7 @@
 namespace gui {
 
 ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
-    : QStackedWidget(parent), app_(app), start_(new StartPage(actions)), records_(new QWidget),
+    : QStackedWidget(parent), app_(app), start_(new StartPage(app, events, actions)), records_(new QWidget),
       invoiceFrame_(makeInvoiceFrame(events)),
       shownList_(new QStackedWidget), listStates_{&app.document.LV, &app.document.iLV,
                                                   &app.document.searchLV},

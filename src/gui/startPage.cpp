@@ -3,10 +3,12 @@
 #include "gui/icon.h"
 #include "gui/qtText.h"
 
+#include <QCommandLinkButton>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include <set>
@@ -16,6 +18,8 @@ namespace gui {
 namespace {
 
 constexpr int pictureSize = 72;
+constexpr int samplesInRow = 3;
+constexpr int samplePictureSize = 32;
 
 QLabel* centred(const QString& text) {
     auto* label = new QLabel(text);
@@ -25,8 +29,13 @@ QLabel* centred(const QString& text) {
 
 } // namespace
 
-StartPage::StartPage(CommandActions& actions, QWidget* parent) : QWidget(parent), actions_(actions) {
+StartPage::StartPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
+    : QScrollArea(parent), app_(app), events_(events), actions_(actions) {
     setObjectName(QStringLiteral("startPage"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    auto* page = new QWidget;
     auto* picture = new QLabel;
     picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
     picture->setAlignment(Qt::AlignCenter);
@@ -48,7 +57,7 @@ StartPage::StartPage(CommandActions& actions, QWidget* parent) : QWidget(parent)
 
     recentTitle_ = centred(tr("Recent files"));
     recentTitle_->setForegroundRole(QPalette::PlaceholderText);
-    auto* column = new QVBoxLayout(this);
+    auto* column = new QVBoxLayout(page);
     column->addStretch(2);
     column->addWidget(picture);
     column->addSpacing(8);
@@ -63,7 +72,49 @@ StartPage::StartPage(CommandActions& actions, QWidget* parent) : QWidget(parent)
         recent_[i]->setFlat(true);
         column->addWidget(recent_[i], 0, Qt::AlignHCenter);
     }
+    if (QWidget* samples = makeSamples()) {
+        column->addSpacing(20);
+        column->addWidget(samples, 0, Qt::AlignHCenter);
+    }
     column->addStretch(3);
+    setWidget(page);
+    page->setAutoFillBackground(false); // nor the viewport, so that it looks like any other page
+    viewport()->setAutoFillBackground(false);
+}
+
+// Nothing where the program came without samples.
+QWidget* StartPage::makeSamples() {
+    const std::vector<shell::Sample> samples = shell::installedSamples();
+    if (samples.empty()) return nullptr;
+    auto* area = new QWidget;
+    auto* grid = new QGridLayout(area);
+    grid->setContentsMargins(0, 0, 0, 0);
+    auto* title = centred(tr("Or try a sample. You get a copy of your own, so change in it what you like."));
+    title->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(title, 0, 0, 1, samplesInRow);
+    int place = 0;
+    for (const shell::Sample& sample : samples) {
+        grid->addWidget(makeSampleButton(sample), 1 + place / samplesInRow, place % samplesInRow);
+        ++place;
+    }
+    return area;
+}
+
+QWidget* StartPage::makeSampleButton(const shell::Sample& sample) {
+    auto* button = new QCommandLinkButton(withoutMnemonics(toQt(sample.name)), toQt(sample.shows));
+    button->setObjectName(QStringLiteral("sample_") + toQt(sample.file.stem().string()));
+    const QString picture = toQt(sample.picture);
+    button->setIcon(familyIcon(picture));
+    button->setIconSize({samplePictureSize, samplePictureSize});
+    // The button would break its text anywhere; one line looks best.
+    const int text = button->fontMetrics().horizontalAdvance(toQt(sample.shows));
+    button->setMinimumWidth(samplePictureSize + text + 2 * button->fontMetrics().height());
+    button->setAccessibleDescription(toQt(sample.shows));
+    connect(button, &QPushButton::clicked, this, [this, sample] {
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        events_.run([&] { shell::openSample(app_, sample, QFile::encodeName(documents).toStdString()); });
+    });
+    return button;
 }
 
 QPushButton* StartPage::addButton(const char* key, const QString& text) {

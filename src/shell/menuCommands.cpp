@@ -16,11 +16,14 @@ namespace shell {
 
 using app::App;
 
-void openRecentFile(App& app, std::string_view key) {
-    const std::string path = app.mainFrm.control(key).Caption;
-    if (path.empty()) return;
+void openNamedFile(App& app, const std::string& path) {
     app.document.currentFile = path;
     storage::OpenFile(app, true);
+}
+
+void openRecentFile(App& app, std::string_view key) {
+    const std::string path = app.mainFrm.control(key).Caption;
+    if (!path.empty()) openNamedFile(app, path);
 }
 
 void toggleSelectedTotals(App& app) {

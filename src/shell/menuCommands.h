@@ -3,13 +3,17 @@
 #include "app/app.h"
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace shell {
 
 // The small commands of the menus that no subsystem owns.
 
-// Opens the file that a recent-file entry names. Nobody asks about unsaved changes: it is wanted so.
+// Opens the file of that path, however the user came to name it. Nobody asks about unsaved changes: it is
+// wanted so.
+void openNamedFile(app::App& app, const std::string& path);
+// Opens the file that a recent-file entry names.
 void openRecentFile(app::App& app, std::string_view key);
 
 // The button "Totals" has been pressed or released.
