@@ -32,9 +32,12 @@ printf '[StartUp]\nDisclaimer=True\n' >"$XDG_CONFIG_HOME/ferrowick/ferrowick.con
 cp samples/*.fwk "$HOME/Documents/"
 cd "$HOME/Documents" # the caption names the file as it was told
 
-Xvfb "$DISPLAY" -screen 0 1280x900x24 -nolisten tcp 2>/dev/null &
+Xvfb "$DISPLAY" -screen 0 1280x1000x24 -nolisten tcp 2>/dev/null &
 pids+=($!)
-for _ in {1..50}; do xdotool getdisplaygeometry >/dev/null 2>&1 && break || sleep 0.1; done
+for _ in {1..50}; do
+    if xdotool getdisplaygeometry >/dev/null 2>&1; then break; fi
+    sleep 0.1
+done
 mkdir "$XDG_CONFIG_HOME/openbox" # windows without frames, where they are told to be
 cat >"$XDG_CONFIG_HOME/openbox/rc.xml" <<'END'
 <openbox_config xmlns="http://openbox.org/3.4/rc">
@@ -75,7 +78,7 @@ back() { window=$main; xdotool windowactivate --sync "$main"; }
 
 # Until two pictures in a row are the same: whatever is still being drawn is done then.
 settled() { # settled FILE WHAT...
-    local file=$1 before= now
+    local file=$1 before='' now
     shift
     for _ in {1..20}; do
         import "$@" "$file"
@@ -95,7 +98,7 @@ optimise() { # optimise FROM TO
 shot() {
     local name=$1
     shift
-    xdotool mousemove 1279 899 # out of the way, so that nothing glows under it
+    xdotool mousemove 1279 999 # out of the way, so that nothing glows under it
     sleep 0.3
     settled "$scratch/$name.png" -window "$window"
     keep "$name" "$@"
@@ -168,7 +171,7 @@ window '^Find and Replace$'
 shot replace
 keys Escape
 back
-keys ctrl+Tab ctrl+Tab
+click 180 71
 shot preview print-preview
 
 open garden.fwk # what grows on the terrace and costs up to five dollars
@@ -191,13 +194,11 @@ shot results search-results
 open inventory.fwk
 press Formulas
 window '^Expression Editor$'
-click 60 60
+click 60 75
 shot expression expression-editor
 keys Escape
 back
-keys alt+t
-sleep 0.3
-keys c
+keys alt+t Up Up Return
 window '^Choose Columns To Total$'
 shot totals
 
@@ -208,7 +209,6 @@ window '^Ferrowick'
 shot labels labels
 
 open library.fwk
-shot library
 keys ctrl+Tab
 shot library-layout library
 
@@ -216,11 +216,21 @@ open invoices.fwk
 shot invoices
 click 100 158
 keys ctrl+Tab
+xdotool windowsize --sync "$main" $width 880 # with the sums at its foot
 shot invoice-layout invoice
+xdotool windowsize --sync "$main" $width $height
 keys ctrl+shift+Tab
+click 30 98
+click 100 300
+keys Home
 shot invoice-items
 keys ctrl+Tab
 press Design
 click 370 101
 window '^Item Row Creation Tool$'
+write 8
+for column in 136 150 165 179; do click 40 $column; done
 shot item-rows
+
+"$program" --dark --picture "$scratch/dark.png" --size ${width}x$height library.fwk
+optimise "$scratch/dark.png" "$root/docs/images/dark.png"
