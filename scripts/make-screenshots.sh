@@ -1,0 +1,236 @@
+#!/usr/bin/env bash
+# Makes the pictures of help/ and docs/images/ from the program itself: it opens copies of the samples on a display
+# of its own, presses keys and buttons, and keeps what the windows show. Run it again after a change of the window.
+#
+#     scripts/make-screenshots.sh [PROGRAM]
+#
+# PROGRAM is the built ferrowick; without it the newest of build/*/src/gui/ferrowick. Needs Xvfb, openbox, xdotool and
+# ImageMagick; optipng makes the pictures smaller where it is there. SCREENSHOT_DISPLAY is the display, :97 if not set.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+program=${1:-$(find build -path '*/src/gui/ferrowick' -type f -printf '%T@ %p\n' | sort -rn | head -1 | cut -d' ' -f2)}
+[[ -x $program ]] || { echo "make-screenshots: build the program first" >&2; exit 1; }
+program=$(realpath "$program")
+root=$PWD
+scratch=$(mktemp -d)
+pids=()
+opened= # the process of the program
+trap 'kill $opened "${pids[@]}" 2>/dev/null || true; rm -rf "$scratch"' EXIT
+
+readonly width=1000 height=690
+# Where the buttons of the main toolbar are, in pixels of the window.
+declare -rA button=([New]=20 [Save]=86 [PrintMenu]=160 [PageSetup]=183 [Totals]=256 [Formulas]=295 [Properties]=329 [Design]=361)
+readonly toolbarY=38
+
+# A home of its own: the user's settings stay as they are, and the pictures do not depend on them.
+export HOME=$scratch/me XDG_CONFIG_HOME=$scratch/me/.config XDG_DATA_HOME=$scratch/me/.local/share
+export XDG_RUNTIME_DIR=$scratch/run DISPLAY=${SCREENSHOT_DISPLAY:-:97} QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 LANGUAGE=
+mkdir -p "$XDG_CONFIG_HOME/ferrowick" "$XDG_DATA_HOME" "$HOME/Documents" help/images docs/images
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+printf '[StartUp]\nDisclaimer=True\n' >"$XDG_CONFIG_HOME/ferrowick/ferrowick.conf"
+cp samples/*.fwk "$HOME/Documents/"
+cd "$HOME/Documents" # the caption names the file as it was told
+
+Xvfb "$DISPLAY" -screen 0 1280x1000x24 -nolisten tcp 2>/dev/null &
+pids+=($!)
+for _ in {1..50}; do
+    if xdotool getdisplaygeometry >/dev/null 2>&1; then break; fi
+    sleep 0.1
+done
+mkdir "$XDG_CONFIG_HOME/openbox" # windows without frames, where they are told to be
+cat >"$XDG_CONFIG_HOME/openbox/rc.xml" <<'END'
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <applications><application class="*"><decor>no</decor></application></applications>
+</openbox_config>
+END
+openbox >/dev/null 2>&1 &
+pids+=($!)
+sleep 0.5
+
+# window NAME: waits for the window whose title matches, and has the keys go there. Sets $window.
+window() {
+    for _ in {1..100}; do
+        window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1) && [[ -n $window ]] && break
+        sleep 0.1
+    done
+    [[ -n $window ]] || { echo "make-screenshots: no window \"$1\" came up" >&2; exit 1; }
+    xdotool windowactivate --sync "$window"
+}
+
+open() { # open [FILE]
+    [[ -z $opened ]] || { kill "$opened"; wait "$opened" 2>/dev/null || true; }
+    "$program" "$@" 2>/dev/null &
+    opened=$!
+    window '^Ferrowick'
+    main=$window
+    xdotool windowsize --sync "$main" $width $height windowmove --sync "$main" 130 80
+}
+
+keys() { for key in "$@"; do xdotool key "$key"; sleep 0.15; done; }
+write() { xdotool type --delay 30 "$1"; sleep 0.15; }
+click() { # click X Y [clicks]: in the window
+    xdotool mousemove --window "$window" "$1" "$2" click --repeat "${3:-1}" --delay 60 1
+    sleep 0.2
+}
+press() { click "${button[$1]}" $toolbarY; } # a button of the main toolbar
+back() { window=$main; xdotool windowactivate --sync "$main"; }
+
+# Until two pictures in a row are the same: whatever is still being drawn is done then.
+settled() { # settled FILE WHAT...
+    local file=$1 before='' now
+    shift
+    for _ in {1..20}; do
+        import "$@" "$file"
+        now=$(convert "$file" rgb:- | md5sum)
+        [[ $now == "$before" ]] && return
+        before=$now
+        sleep 0.2
+    done
+}
+
+optimise() { # optimise FROM TO
+    convert "$1" -strip +dither -colors 255 -define png:exclude-chunks=date,time "PNG8:$2"
+    if command -v optipng >/dev/null; then optipng -quiet -o3 "$2"; fi
+}
+
+# shot NAME [MORE...]: the window, as help/images/NAME.png; MORE names pictures in docs/images that are the same.
+shot() {
+    local name=$1
+    shift
+    xdotool mousemove 1279 999 # out of the way, so that nothing glows under it
+    sleep 0.3
+    settled "$scratch/$name.png" -window "$window"
+    keep "$name" "$@"
+}
+
+# The corner of the window as the screen shows it, with what hangs from its toolbar.
+shotWithMenu() { # shotWithMenu NAME SIZE
+    sleep 0.3
+    local x y
+    eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^[XY]=' | sed 's/X/x/;s/Y/y/')"
+    settled "$scratch/$1.png" -window root -crop "$2+$x+$y" +repage
+    keep "$1"
+}
+
+keep() { # keep NAME [MORE...]
+    optimise "$scratch/$1.png" "$root/help/images/$1.png"
+    for more in "${@:2}"; do cp "$root/help/images/$1.png" "$root/docs/images/$more.png"; done
+    echo "$1.png"
+}
+
+open
+shot start start-page
+press New
+window 'Choose your database format'
+shot new-type
+keys Escape
+
+open garden.fwk
+shot report main-window
+press PrintMenu
+shotWithMenu print-menu 500x290
+keys Escape
+click 100 158
+xdotool keydown ctrl
+click 100 176
+click 100 194
+xdotool keyup ctrl
+press Totals
+shot selected-totals
+press Totals
+click 100 266 2
+window '^Entry Form$'
+shot entry entry-form
+keys Escape
+back
+keys ctrl+Tab
+shot layout layout
+press PageSetup
+window '^Layout Page Setup$'
+shot layout-setup
+keys Escape
+back
+press Design
+click 400 330
+shot design design
+
+open garden.fwk
+press Properties
+window '^Database Properties$'
+shot properties
+keys Escape
+back
+press PageSetup
+window '^Report Page Setup$'
+shot report-setup
+keys Escape
+back
+keys alt+e f
+window '^Find and Replace$'
+shot replace
+keys Escape
+back
+click 180 71
+shot preview print-preview
+
+open garden.fwk # what grows on the terrace and costs up to five dollars
+keys ctrl+f
+window '^Search Data$'
+click 30 66
+click 30 285
+click 100 397
+write Terrace
+click 230 123
+click 230 259
+click 300 397
+write 5
+keys Return
+shot search search
+keys Escape
+back
+shot results search-results
+
+open inventory.fwk
+press Formulas
+window '^Expression Editor$'
+click 60 75
+shot expression expression-editor
+keys Escape
+back
+keys alt+t Up Up Return
+window '^Choose Columns To Total$'
+shot totals
+
+open addresses.fwk
+press PrintMenu
+keys Up Up Return
+window '^Ferrowick'
+shot labels labels
+
+open library.fwk
+keys ctrl+Tab
+shot library-layout library
+
+open invoices.fwk
+shot invoices
+click 100 158
+keys ctrl+Tab
+xdotool windowsize --sync "$main" $width 880 # with the sums at its foot
+shot invoice-layout invoice
+xdotool windowsize --sync "$main" $width $height
+keys ctrl+shift+Tab
+click 30 98
+click 100 300
+keys Home
+shot invoice-items
+keys ctrl+Tab
+press Design
+click 370 101
+window '^Item Row Creation Tool$'
+write 8
+for column in 136 150 165 179; do click 40 $column; done
+shot item-rows
+
+"$program" --dark --picture "$scratch/dark.png" --size ${width}x$height library.fwk
+optimise "$scratch/dark.png" "$root/docs/images/dark.png"
