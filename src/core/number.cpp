@@ -247,8 +247,32 @@ double val(std::string_view text) {
     return plain ? *plain : ValReader(text).read();
 }
 
+namespace {
+
+// Nearly all numbers of a database have four decimals at most. A double that is nearest to such a number of
+// up to 13 digits has that number for its text, and an integer is written in a fraction of the time.
+std::string shortText(std::int64_t tenThousandths) {
+    char text[24];
+    char* const end = std::to_chars(std::begin(text), std::end(text), tenThousandths).ptr;
+    constexpr int decimals = 4;
+    char* const point = end - decimals;
+    char* last = end;
+    while (last != point && last[-1] == '0') --last;
+    if (last == point) return {text, point};
+    std::string all(text, point);
+    return all.append(1, '.').append(point, last);
+}
+
+} // namespace
+
 std::string numberText(double value) {
     if (value == 0 || !std::isfinite(value)) return "0";
+    constexpr double tenThousand = 10000, most = 1e9;
+    if (const double size = std::abs(value); size >= 1 && size < most) {
+        const double scaled = value * tenThousand;
+        const auto whole = static_cast<std::int64_t>(scaled);
+        if (static_cast<double>(whole) == scaled) return shortText(whole);
+    }
     return Scientific(std::abs(value)).text(value < 0);
 }
 

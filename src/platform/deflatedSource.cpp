@@ -114,7 +114,7 @@ Piece pack(std::string_view bytes, int level, bool isLast) {
 
 // Where each piece ends. All but the last are gone through once more, so that the last is given more.
 std::vector<std::size_t> pieceEnds(std::size_t size, std::size_t pieces) {
-    constexpr double lastShare = 1.25;
+    constexpr double lastShare = 1.6;
     std::vector<std::size_t> ends;
     for (std::size_t i = 1; i < pieces; ++i)
         ends.push_back(static_cast<std::size_t>(static_cast<double>(size * i) /
