@@ -127,7 +127,7 @@ std::vector<Command> menuCommands() {
          toggling("mnuAutoLoad", &MainFrm::bAutoLoad)},
         {"mnuContents", "&Contents", "", "help", false, openHelp},
         {"mnuDisclaimer", "&Disclaimer", "", "disclaimer", false, showing("disclaimFrm")},
-        {"mnuWebpage", "&Visit FWK Homepage", "", "home", false, visitHomepage()},
+        {"mnuWebpage", "&Visit FWK Homepage", "", "home", false, visitHomepage},
         {"mnuAbout", "&About Ferrowick", "", "about", false, showAbout},
     };
 }

@@ -10,6 +10,7 @@
 #include "shell/mainWindow.h"
 #include "storage/openFile.h"
 
+// Whoever distributes the program may have set an address; without one its own page is shown.
 #ifndef FERROWICK_HOMEPAGE
 #define FERROWICK_HOMEPAGE ""
 #endif
@@ -79,11 +80,17 @@ void deleteRow(App& app) {
         entry::deleteInvoices(app);
 }
 
-void openHelp(App& app) {
-    if (const auto contents = platform::programFile("help/index.html"))
-        app.platform.openLink(contents->string());
+namespace {
+void openHelpPage(App& app, std::string_view page) {
+    if (const auto file = platform::programFile(page))
+        app.platform.openLink(file->string());
     else
         app::inform(app, "The help pages are not installed.");
+}
+} // namespace
+
+void openHelp(App& app) {
+    openHelpPage(app, "help/index.html");
 }
 
 void showAbout(App& app) {
@@ -93,9 +100,12 @@ void showAbout(App& app) {
     app.platform.msgBox(text, platform::Icon::Information, std::string("About ") + app::title);
 }
 
-std::function<void(App&)> visitHomepage() {
-    if (std::string_view(FERROWICK_HOMEPAGE).empty()) return {};
-    return [](App& app) { app.platform.openLink(FERROWICK_HOMEPAGE); };
+void visitHomepage(App& app) {
+    constexpr std::string_view address = FERROWICK_HOMEPAGE;
+    if (address.empty())
+        openHelpPage(app, "help/about.html");
+    else
+        app.platform.openLink(std::string(address));
 }
 
 } // namespace shell

@@ -2,7 +2,6 @@
 
 #include "app/app.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -36,7 +35,7 @@ void deleteRow(app::App& app);
 void openHelp(app::App& app);
 void showAbout(app::App& app);
 
-// Empty in a build that knows no home page.
-std::function<void(app::App&)> visitHomepage();
+// The home page, or the page about the program in its help where it has none.
+void visitHomepage(app::App& app);
 
 } // namespace shell
