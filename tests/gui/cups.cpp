@@ -21,12 +21,9 @@ private:
         return QString::fromUtf8(process.readAllStandardOutput());
     }
     // The documents that the server has taken; it keeps them behind the job.
-    QStringList jobs() const {
-        return QDir(at("spool")).entryList({QStringLiteral("d*")}, QDir::Files, QDir::Name);
-    }
+    QStringList jobs() const { return QDir(at("spool")).entryList({u"d*"_s}, QDir::Files, QDir::Name); }
     QString text(int job) const {
-        return run(QStringLiteral("pdftotext"),
-                   {QStringLiteral("-layout"), at("spool/") + jobs().at(job), QStringLiteral("-")});
+        return run(u"pdftotext"_s, {u"-layout"_s, at("spool/") + jobs().at(job), u"-"_s});
     }
 
 private slots:
@@ -43,12 +40,11 @@ void Cups::configure() const {
         QDir(server_.path()).mkdir(QLatin1String(folder));
     QFile files(at("etc/cups-files.conf"));
     QVERIFY(files.open(QIODevice::WriteOnly));
-    QTextStream(&files) << "ServerRoot " << at("etc") << "\nServerBin "
-                        << programs_.filePath(QStringLiteral("lib/cups")) << "\nDataDir "
-                        << programs_.filePath(QStringLiteral("share/cups")) << "\nRequestRoot " << at("spool")
-                        << "\nCacheDir " << at("cache") << "\nStateDir " << at("run") << "\nErrorLog "
-                        << at("log/error") << "\nAccessLog " << at("log/access") << "\nPageLog "
-                        << at("log/page") << "\n";
+    QTextStream(&files) << "ServerRoot " << at("etc") << "\nServerBin " << programs_.filePath(u"lib/cups"_s)
+                        << "\nDataDir " << programs_.filePath(u"share/cups"_s) << "\nRequestRoot "
+                        << at("spool") << "\nCacheDir " << at("cache") << "\nStateDir " << at("run")
+                        << "\nErrorLog " << at("log/error") << "\nAccessLog " << at("log/access")
+                        << "\nPageLog " << at("log/page") << "\n";
     QFile server(at("etc/cupsd.conf"));
     QVERIFY(server.open(QIODevice::WriteOnly));
     QTextStream(&server)
@@ -59,23 +55,19 @@ void Cups::configure() const {
 }
 
 void Cups::initTestCase() {
-    const QStringList places = QString::fromLocal8Bit(qgetenv("PATH")).split(QLatin1Char(':'))
-                               << QStringLiteral("/usr/sbin");
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("cupsd"), places);
+    const QStringList places = QString::fromLocal8Bit(qgetenv("PATH")).split(u':') << u"/usr/sbin"_s;
+    const QString program = QStandardPaths::findExecutable(u"cupsd"_s, places);
     if (program.isEmpty()) QSKIP("cups is not installed");
-    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
-        QSKIP("poppler-utils is not installed");
+    if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty()) QSKIP("poppler-utils is not installed");
     programs_ = QFileInfo(program).dir();
     programs_.cdUp();
     configure();
     qputenv("CUPS_SERVER", QFile::encodeName(at("run/socket")));
-    cupsd_.start(program, {QStringLiteral("-f"), QStringLiteral("-c"), at("etc/cupsd.conf"),
-                           QStringLiteral("-s"), at("etc/cups-files.conf")});
+    cupsd_.start(program, {u"-f"_s, u"-c"_s, at("etc/cupsd.conf"), u"-s"_s, at("etc/cups-files.conf")});
     if (!QTest::qWaitFor([this] { return QFile::exists(at("run/socket")); }))
         QSKIP("cupsd does not start for this user");
-    run(programs_.filePath(QStringLiteral("sbin/lpadmin")),
-        {QStringLiteral("-p"), QStringLiteral("FileQueue"), QStringLiteral("-E"), QStringLiteral("-v"),
-         QStringLiteral("file:/dev/null"), QStringLiteral("-m"), QStringLiteral("raw")});
+    run(programs_.filePath(u"sbin/lpadmin"_s),
+        {u"-p"_s, u"FileQueue"_s, u"-E"_s, u"-v"_s, u"file:/dev/null"_s, u"-m"_s, u"raw"_s});
     Folders::forgetSettings();
 }
 
@@ -85,8 +77,8 @@ void Cups::reportsAndLayoutsReachTheQueue() {
     run.action("Print")->trigger();
     QVERIFY(run.platform.messages.empty());
     QTRY_COMPARE(jobs().size(), 1);
-    QVERIFY(text(0).contains(QStringLiteral("Les Misérables")));
-    QVERIFY(text(0).contains(QStringLiteral("Books on the shelves")));
+    QVERIFY(text(0).contains(u"Les Misérables"_s));
+    QVERIFY(text(0).contains(u"Books on the shelves"_s));
 
     // Each record is a job.
     run.clickRow(1);
@@ -94,15 +86,15 @@ void Cups::reportsAndLayoutsReachTheQueue() {
     QTimer::singleShot(0, this, [] {
         auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
         QVERIFY(dialog != nullptr);
-        QCOMPARE(dialog->printer()->printerName(), QStringLiteral("FileQueue"));
+        QCOMPARE(dialog->printer()->printerName(), u"FileQueue"_s);
         dialog->accept();
     });
     run.action("Selected_As_Layouts")->trigger();
     QVERIFY(run.platform.messages.empty());
     QTRY_COMPARE(jobs().size(), 3);
-    QVERIFY(text(1).contains(QStringLiteral("Les Misérables")));
-    QVERIFY(text(2).contains(QStringLiteral("Middlemarch")));
-    QVERIFY(!text(2).contains(QStringLiteral("Les Misérables")));
+    QVERIFY(text(1).contains(u"Les Misérables"_s));
+    QVERIFY(text(2).contains(u"Middlemarch"_s));
+    QVERIFY(!text(2).contains(u"Les Misérables"_s));
 }
 
 QTEST_MAIN(Cups)

