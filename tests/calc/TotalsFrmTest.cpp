@@ -38,7 +38,7 @@ TEST(TotalsFrmTest, aTotaledColumnThatIsNotThereIsAnError) {
     for (const char* stale : {"Gone", "Name", "Index"}) {
         Shop shop;
         shop.total({"Qty", stale});
-        EXPECT_EQ(errorOf([&] { TotalsFrm form(shop.app); }), errors::elementNotFound) << stale;
+        EXPECT_EQ(raisedBy([&] { TotalsFrm form(shop.app); }), errors::elementNotFound) << stale;
     }
 }
 

@@ -32,8 +32,7 @@ TEST(TotalsRow, moneyIsCarriedOnToNumberColumns) {
         {{{"C", "2"}, {"N", "4"}}, {"", ""}, "$.00|$.00|"},
         {{{"N", "4"}, {"K", "5"}}, {"", "Undefined"}, "0|0|"},
         {{{"N", "4"}, {"C", "2"}, {"K", "5"}}, {"(5)", "(5)", "-5"}, "0|-$5.00|-5|"},
-        {{{"N", "4"}, {"C", "2"}}, {"1e3", "1e3"}, "1000|$1,000.00|"},
-    };
+        {{{"N", "4"}, {"C", "2"}}, {"1e3", "1e3"}, "1000|$1,000.00|"}};
     for (const Columns& c : cases) {
         core::Document document;
         for (const auto& column : c.table) {

@@ -49,8 +49,7 @@ TEST_F(Layout, WordsWrapIntoTheirBox) {
         {"Donaudampfschiff ahoi", 500, 600, {}},         // empty lines, down to the end
         {"Donaudampfschiff", 500, 600, {"Donaudampfschiff@500,0"}},
         {"x", 500, 0, {}},
-        {"", 500, 600, {}},
-    };
+        {"", 500, 600, {}}};
     for (const Case& each : cases) {
         platform::RecordedPage target;
         target.measureWith(platform.metrics);

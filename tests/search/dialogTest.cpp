@@ -9,9 +9,7 @@ using namespace search;
 namespace {
 
 const DataFile shelf = [] {
-    DataFile data;
-    data.names = "Name|Qty|Price|Bought|Cover|";
-    data.types = "3|4|2|1|7|";
+    DataFile data({{"Name", 3}, {"Qty", 4}, {"Price", 2}, {"Bought", 1}, {"Cover", 7}});
     data.widths = "1440|900|800|1000|1200|";
     data.spots = "1|3|2|4|5|6|";
     data.rows =
@@ -190,11 +188,7 @@ TEST(Mode, DeleteStaysOffWhenTheDialogClosesOverAnotherTab) {
 }
 
 TEST(Mode, WithoutColumnsNothingHappens) {
-    DataFile data;
-    data.names = data.types = data.widths = "";
-    data.spots = "1|";
-    data.rows = "";
-    SearchProgram program(data);
+    SearchProgram program(DataFile({}));
     for (const char* key : {"Search", "mnuSearch"}) shell::runCommand(program.app, key);
     EXPECT_TRUE(program.platform.forms.empty());
     EXPECT_FALSE(program.isDown());
