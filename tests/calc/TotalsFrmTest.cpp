@@ -58,14 +58,4 @@ TEST(TotalsFrmTest, okTakesTheChoiceInTheOrderOfTheListAndRecalculates) {
     EXPECT_FALSE(shop.document.bModified);
 }
 
-TEST(TotalsFrmTest, cancelChangesNothing) {
-    Shop shop;
-    TotalsFrm form(shop.app);
-    form.LV[0].Checked = true;
-    form.CancelButton_Click();
-    EXPECT_TRUE(form.unloaded);
-    EXPECT_TRUE(shop.document.totaledCols.empty());
-    EXPECT_EQ(shop.cell(1, "Sum"), "old");
-}
-
 } // namespace

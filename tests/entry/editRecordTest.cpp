@@ -56,29 +56,23 @@ struct Shop : RecordsProgram {
 
 TEST(EditRecordTest, formsOfTheCells) {
     using core::ColumnType;
-    struct Case {
-        ColumnType type;
-        const char *typed, *cell;
-    };
-    const Case cases[] = {{ColumnType::Currency, "", "$.00"},
-                          {ColumnType::Currency, "12.34", "$12.34"},
-                          {ColumnType::Currency, "1234", "$1,234.00"},
-                          {ColumnType::Currency, "-.5", "-$.50"},
-                          {ColumnType::Currency, "(1,000.005)", "-$1,000.01"},
-                          {ColumnType::Currency, " 7 ", "$7.00"},
-                          {ColumnType::Currency, "abc", "abc"},
-                          {ColumnType::Currency, "  ", "  "},
-                          {ColumnType::Number, "", "0"},
-                          {ColumnType::Number, "007", "007"},
-                          {ColumnType::Number, " ", " "},
-                          {ColumnType::Number, "abc", "abc"},
-                          {ColumnType::Text, "", ""},
-                          {ColumnType::Text, "  x ", "  x "},
-                          {ColumnType::Date, "", ""},
-                          {ColumnType::Date, "99/99/9999", "99/99/9999"},
-                          {ColumnType::Calculation, "", ""},
-                          {ColumnType::Picture, "a.jpg", "a.jpg"}};
-    for (const Case& c : cases) EXPECT_EQ(entry::cellText(c.type, c.typed), c.cell) << c.typed;
+    const std::pair<ColumnType, std::vector<std::pair<const char*, const char*>>> cases[] = {
+        {ColumnType::Currency,
+         {{"", "$.00"},
+          {"12.34", "$12.34"},
+          {"1234", "$1,234.00"},
+          {"-.5", "-$.50"},
+          {"(1,000.005)", "-$1,000.01"},
+          {" 7 ", "$7.00"},
+          {"abc", "abc"},
+          {"  ", "  "}}},
+        {ColumnType::Number, {{"", "0"}, {"007", "007"}, {" ", " "}, {"abc", "abc"}}},
+        {ColumnType::Text, {{"", ""}, {"  x ", "  x "}}},
+        {ColumnType::Date, {{"", ""}, {"99/99/9999", "99/99/9999"}}},
+        {ColumnType::Calculation, {{"", ""}}},
+        {ColumnType::Picture, {{"a.jpg", "a.jpg"}}}};
+    for (const auto& [type, cells] : cases)
+        for (const auto& [typed, cell] : cells) EXPECT_EQ(entry::cellText(type, typed), cell) << typed;
 }
 
 TEST(EditRecordTest, addsARecordAheadOfTheTotals) {

@@ -53,100 +53,95 @@ public slots:
 private slots:
     void init() { Folders::forgetSettings(); }
     void cleanup() { qputenv("PATH", path_); }
-    void theLockHoldsUntilItIsOpened();
-    void theMailProgramIsGivenTheDatabase();
-    void aMailProgramThatHangsOrFails();
-    void withoutAMailProgram();
-};
-
-void LockAndMail::theLockHoldsUntilItIsOpened() {
-    Session run(folders_.sample("books.fwk"));
-    run.platform.answers = {platform::Answer::Yes};
-    run.platform.inputs = {"secret", "secret"};
-    run.action("mnuDatabaseLock")->trigger();
-    for (const char* button : {"Properties", "Design"}) {
-        run.action(button)->trigger();
-        QVERIFY(run.platform.messages.back().text.startsWith("The database structure"_L1));
-        QVERIFY(run.platform.forms.empty() && !run.action(button)->isChecked());
+    void theLockHoldsUntilItIsOpened() {
+        Session run(folders_.sample("books.fwk"));
+        run.platform.answers = {platform::Answer::Yes};
+        run.platform.inputs = {"secret", "secret"};
+        run.action("mnuDatabaseLock")->trigger();
+        for (const char* button : {"Properties", "Design"}) {
+            run.action(button)->trigger();
+            QVERIFY(run.platform.messages.back().text.startsWith("The database structure"_L1));
+            QVERIFY(run.platform.forms.empty() && !run.action(button)->isChecked());
+        }
+        run.action("mnuDatabaseLock")->trigger();
+        run.action("Properties")->trigger();
+        QCOMPARE(run.platform.forms, QStringList{u"designFrm"_s});
+        run.action("Design")->trigger();
+        QVERIFY(run.action("Design")->isChecked());
     }
-    run.action("mnuDatabaseLock")->trigger();
-    run.action("Properties")->trigger();
-    QCOMPARE(run.platform.forms, QStringList{u"designFrm"_s});
-    run.action("Design")->trigger();
-    QVERIFY(run.action("Design")->isChecked());
-}
 
-void LockAndMail::theMailProgramIsGivenTheDatabase() {
-    const QString program = mailProgram("");
-    const QString file = folders_.sample("books.fwk");
-    Session run(file);
-    run.platform.scripts[u"mailFrm"_s] = [&](QDialog& form) {
-        click(form, "OKButton");
-        QCOMPARE(run.platform.messages.size(), std::size_t{1}); // neither an address nor a subject
-        in<QWidget>(form, "Text1")->setFocus();
-        type(form, "ann@example.org", "My \"books\" $(id)", "One; two\nthree \xC3\xA9");
-        click(form, "OKButton");
-        QCOMPARE(told(program),
-                 (QStringList{u"--utf8"_s, u"--subject"_s, u"My \"books\" $(id)"_s, u"--body"_s,
-                              u"One; two\nthree \u00E9"_s, u"--attach"_s, file, u"ann@example.org"_s}));
-        QVERIFY(form.isVisible());
-        // Its shell would take this for a command.
-        QFile::remove(program + u".told"_s);
-        in<QPlainTextEdit>(form, "Text3")->setPlainText(u"C:\\new"_s);
-        click(form, "OKButton");
-        const QStringList link = told(program);
-        QVERIFY(link.size() == 4 && link[1] == "--attach"_L1);
-        QVERIFY2(link[3].endsWith("&Body=C%3A%5Cnew"_L1), qPrintable(link[3]));
+    void theMailProgramIsGivenTheDatabase() {
+        const QString program = mailProgram("");
+        const QString file = folders_.sample("books.fwk");
+        Session run(file);
+        run.platform.scripts[u"mailFrm"_s] = [&](QDialog& form) {
+            click(form, "OKButton");
+            QCOMPARE(run.platform.messages.size(), std::size_t{1}); // neither an address nor a subject
+            in<QWidget>(form, "Text1")->setFocus();
+            type(form, "ann@example.org", "My \"books\" $(id)", "One; two\nthree \xC3\xA9");
+            click(form, "OKButton");
+            QCOMPARE(told(program),
+                     (QStringList{u"--utf8"_s, u"--subject"_s, u"My \"books\" $(id)"_s, u"--body"_s,
+                                  u"One; two\nthree \u00E9"_s, u"--attach"_s, file, u"ann@example.org"_s}));
+            QVERIFY(form.isVisible());
+            // Its shell would take this for a command.
+            QFile::remove(program + u".told"_s);
+            in<QPlainTextEdit>(form, "Text3")->setPlainText(u"C:\\new"_s);
+            click(form, "OKButton");
+            const QStringList link = told(program);
+            QVERIFY(link.size() == 4 && link[1] == "--attach"_L1);
+            QVERIFY2(link[3].endsWith("&Body=C%3A%5Cnew"_L1), qPrintable(link[3]));
 
-        auto* message = in<QPlainTextEdit>(form, "Text3");
-        message->setPlainText(QString(499, u'x'));
-        QTest::keyClicks(message, u"abc"_s);
-        QCOMPARE(message->toPlainText(), u'a' + QString(499, u'x'));
-        click(form, "CancelButton");
-    };
-    run.action("mnuEmail")->trigger();
-    QCOMPARE(run.platform.messages.size(), std::size_t{1});
-}
+            auto* message = in<QPlainTextEdit>(form, "Text3");
+            message->setPlainText(QString(499, u'x'));
+            QTest::keyClicks(message, u"abc"_s);
+            QCOMPARE(message->toPlainText(), u'a' + QString(499, u'x'));
+            click(form, "CancelButton");
+        };
+        run.action("mnuEmail")->trigger();
+        QCOMPARE(run.platform.messages.size(), std::size_t{1});
+    }
 
-void LockAndMail::aMailProgramThatHangsOrFails() {
-    Session run(folders_.sample("books.fwk"));
-    run.platform.scripts[u"mailFrm"_s] = [&](QDialog& form) {
-        const QString hanging = mailProgram("exec sleep 60\n");
-        type(form, "ann@example.org", "Books", "");
-        QElapsedTimer clock;
-        clock.start();
-        click(form, "OKButton");
-        QVERIFY(!told(hanging).empty());
-        QVERIFY2(clock.elapsed() < 10000, "waited for");
-        QVERIFY(in<QWidget>(form, "Text1")->isEnabled() && run.platform.messages.empty());
-        ::kill(bytesOf(hanging + u".pid"_s).trimmed().toInt(), SIGKILL);
-        QTRY_COMPARE(run.platform.messages.size(), std::size_t{1}); // it has crashed
+    void aMailProgramThatHangsOrFails() {
+        Session run(folders_.sample("books.fwk"));
+        run.platform.scripts[u"mailFrm"_s] = [&](QDialog& form) {
+            const QString hanging = mailProgram("exec sleep 60\n");
+            type(form, "ann@example.org", "Books", "");
+            QElapsedTimer clock;
+            clock.start();
+            click(form, "OKButton");
+            QVERIFY(!told(hanging).empty());
+            QVERIFY2(clock.elapsed() < 10000, "waited for");
+            QVERIFY(in<QWidget>(form, "Text1")->isEnabled() && run.platform.messages.empty());
+            ::kill(bytesOf(hanging + u".pid"_s).trimmed().toInt(), SIGKILL);
+            QTRY_COMPARE(run.platform.messages.size(), std::size_t{1}); // it has crashed
 
-        mailProgram("exit 3\n");
-        click(form, "OKButton");
-        QTRY_COMPARE(run.platform.messages.size(), std::size_t{2});
-        QCOMPARE(run.platform.messages.back().text, u"Your mail program could not be started."_s);
-        QTest::keyClick(&form, Qt::Key_Escape);
-    };
-    run.action("mnuEmail")->trigger();
-}
+            mailProgram("exit 3\n");
+            click(form, "OKButton");
+            QTRY_COMPARE(run.platform.messages.size(), std::size_t{2});
+            QCOMPARE(run.platform.messages.back().text, u"Your mail program could not be started."_s);
+            QTest::keyClick(&form, Qt::Key_Escape);
+        };
+        run.action("mnuEmail")->trigger();
+    }
 
-void LockAndMail::withoutAMailProgram() {
-    // The link goes to whoever opens links; on this display nobody does.
-    qputenv("PATH", QFile::encodeName(folders_.path("none")));
-    Session run(folders_.sample("books.fwk"));
-    run.platform.scripts[u"mailFrm"_s] = [&](QDialog& form) {
-        type(form, "ann@example.org", "Books", "");
-        click(form, "OKButton");
-        QCOMPARE(run.platform.messages.back().text, u"Your mail program could not be started."_s);
-        QDesktopServices::setUrlHandler(u"mailto"_s, this, "openMail");
-        click(form, "OKButton");
-        QDesktopServices::unsetUrlHandler(u"mailto"_s);
-        QVERIFY(run.platform.messages.back().text.startsWith("Please attach"_L1));
-        click(form, "CancelButton");
-    };
-    run.action("mnuEmail")->trigger();
-}
+    void withoutAMailProgram() {
+        // The link goes to whoever opens links; on this display nobody does.
+        qputenv("PATH", QFile::encodeName(folders_.path("none")));
+        Session run(folders_.sample("books.fwk"));
+        run.platform.scripts[u"mailFrm"_s] = [&](QDialog& form) {
+            type(form, "ann@example.org", "Books", "");
+            click(form, "OKButton");
+            QCOMPARE(run.platform.messages.back().text, u"Your mail program could not be started."_s);
+            QDesktopServices::setUrlHandler(u"mailto"_s, this, "openMail");
+            click(form, "OKButton");
+            QDesktopServices::unsetUrlHandler(u"mailto"_s);
+            QVERIFY(run.platform.messages.back().text.startsWith("Please attach"_L1));
+            click(form, "CancelButton");
+        };
+        run.action("mnuEmail")->trigger();
+    }
+};
 
 QTEST_MAIN(LockAndMail)
 #include "lockAndMail.moc"

@@ -4,6 +4,8 @@
 #include "shell/listEvents.h"
 #include "shell/mainWindow.h"
 
+#include <sstream>
+
 using namespace search;
 
 namespace {
@@ -28,17 +30,14 @@ TEST(Dialog, OffersTheColumnsAndTakesThemOver) {
             EXPECT_EQ(form.options(group).Value, greaterOrEqual);
         }
     });
-    const core::ColumnHeaders& taken = program.app.document.searchLV.columns;
-    const core::ColumnHeaders& source = program.app.document.LV.columns;
-    ASSERT_EQ(taken.count(), source.count());
-    for (int index = 1; index <= taken.count(); ++index) {
-        EXPECT_EQ(taken.at(index).Text, source.at(index).Text);
-        EXPECT_EQ(taken.at(index).Tag, source.at(index).Tag);
-        EXPECT_EQ(taken.at(index).Width, source.at(index).Width);
-        EXPECT_EQ(taken.at(index).Position, source.at(index).Position);
-        EXPECT_EQ(taken.at(index).align, source.at(index).align);
-        EXPECT_EQ(taken.at(index).Icon, source.at(index).Icon);
-    }
+    const auto told = [](const core::ColumnHeaders& columns) {
+        std::ostringstream text;
+        for (const core::Column& c : columns)
+            text << c.Text << c.Tag << c.Width << "," << c.Position << static_cast<int>(c.align) << c.Icon
+                 << ";";
+        return text.str();
+    };
+    EXPECT_EQ(told(program.app.document.searchLV.columns), told(program.app.document.LV.columns));
 }
 
 TEST(Dialog, ChecksWhatIsTyped) {

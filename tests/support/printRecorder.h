@@ -136,6 +136,11 @@ struct PrintProgram {
         app.document.currentFile = file;
         storage::OpenFile(app, true);
     }
+    void openCopyOf(const char* name) {
+        std::filesystem::copy_file(std::filesystem::path(TEST_DATA_DIR) / name, platform.folder / name);
+        app.document.currentFile = (platform.folder / name).string();
+        storage::OpenFile(app, true);
+    }
     // Records "r1", "r2", ... of one text column "Name", with a layout of one field when asked.
     void openRecords(int count, const std::string& layout = {}) {
         DataFile file({{"Name", 3}});
