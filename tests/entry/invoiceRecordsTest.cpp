@@ -1,4 +1,5 @@
 #include "entry/invoiceRecords.h"
+#include "entry/fieldEvents.h"
 #include "invoiceFixture.h"
 
 namespace {
@@ -46,6 +47,25 @@ TEST_F(InvoiceRecords, CellsAsTheyAreWritten) {
     type("Price", {""});
     entry::editInvoiceRecord(app, true);
     EXPECT_EQ(cell(item, "Price"), "$.00");
+}
+
+TEST_F(InvoiceRecords, TheSumsFollowOnArrivalInASingleOrACalculatedField) {
+    layoutWith(2);
+    formula("Line", "Qty * Price");
+    formula("Subtotal", "Line");
+    app.document.totaledCols.add("Subtotal", "Subtotal");
+    core::Item& item = record({});
+    type("Qty", {"2", "3"});
+    type("Price", {"150", "200"});
+    std::string subtotals; // behind each field, in the order of the sheet
+    app.document.layout.layoutField.forEach([&](const core::LayoutField& field) {
+        if (field.Tag == "Tax" || field.Tag == "No" || field.Tag == "Customer") return;
+        cell(item, "Subtotal") = "";
+        entry::layoutField_GotFocus(app, field.Index);
+        subtotals += field.Tag + cell(item, "Subtotal").str() + " ";
+    });
+    EXPECT_EQ(subtotals, "Subtotal$9.00 Item Qty Price Line$9.00 Item Qty Price Line$9.00 ");
+    EXPECT_EQ(cell(item, "Line"), "$3.00@$6.00@");
 }
 
 TEST_F(InvoiceRecords, DeletingThroughTheInvoiceList) {

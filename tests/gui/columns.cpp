@@ -20,6 +20,11 @@ private slots:
         {
             Session run;
             run.platform.chosenFile = gui::fromQt(file);
+            run.platform.scripts[u"databaseTypeFrm"_s] = [](QDialog& form) {
+                QTest::keyClick(&form, Qt::Key_Escape);
+            };
+            run.action("mnuNew")->trigger();
+            QVERIFY(!QFile::exists(file));
             run.platform.scripts[u"databaseTypeFrm"_s] = [&](QDialog& form) {
                 QCOMPARE(form.windowTitle(), u"Choose your database format."_s);
                 QVERIFY(in<QRadioButton>(form, "Option1")->isChecked());
