@@ -3,6 +3,7 @@
 #include "core/format.h"
 #include "core/totalsRow.h"
 #include "recordsProgram.h"
+#include "results.h"
 
 #include <gtest/gtest.h>
 
@@ -185,13 +186,7 @@ TEST(EditRecordTest, theLastKeyLeavesTheDocumentAsItWas) {
 struct Results : Shop {
     Results() {
         for (const char* name : {"a", "b", "c"}) add("1", name, "10");
-        for (const core::Column& column : LV.columns)
-            results.columns.add(column.Key, column.Text).Tag = column.Tag;
-        for (const int row : {1, 3}) {
-            results.add(LV.at(row).Key).cells = LV.at(row).cells;
-        }
-        core::addTotalsRow(results);
-        app.mainFrm.theListView = &results;
+        showResults(app, {"i1", "i3"});
     }
     core::RecordsList& results = document.searchLV;
 };

@@ -2,12 +2,10 @@
 
 #include "databases.h"
 #include "raised.h"
+#include "results.h"
 #include "storage/dataWriter.h"
 
 #include <gmock/gmock.h>
-
-#include <cstdint>
-#include <limits>
 
 namespace {
 
@@ -37,18 +35,6 @@ protected:
 
     void open(const DataFile& file) { program.open(program.make("stock.fwk", file.text(), {"bolt.gif"})); }
     void SetUp() override { open(stock()); }
-
-    // Search results as a search for some records leaves them.
-    void showResults(std::initializer_list<const char*> keys) {
-        core::RecordsList& results = document.searchLV;
-        for (const core::Column& column : LV.columns)
-            results.columns.add(column.Key, column.Text).Tag = column.Tag;
-        for (const char* key : keys) results.add(key).cells = LV.byKey(key).cells;
-        core::addTotalsRow(results);
-        results.Visible = true;
-        results.setSelectedItem(&results.at(1));
-        program.app.mainFrm.theListView = &results;
-    }
 
     static std::vector<std::string> texts(const entryFrm& form) {
         std::vector<std::string> all;
@@ -139,11 +125,8 @@ TEST_F(EntryFrm, OneRowIsSelectedAsLongAsItIsOpen) {
     EXPECT_TRUE(!LV.at(1).Selected && LV.at(2).Selected && !LV.at(3).Selected);
     EXPECT_EQ(form.FieldBox[1].Text, "Nut M8");
     form.Form_QueryUnload();
-    EXPECT_TRUE(LV.MultiSelect);
-    EXPECT_TRUE(form.unloaded);
+    EXPECT_TRUE(LV.MultiSelect && form.unloaded);
 }
-
-// --- keys ---
 
 TEST_F(EntryFrm, TheArrowKeysAndEnterWalkThroughTheFields) {
     struct {
@@ -262,8 +245,6 @@ TEST_F(EntryFrm, OnlyACurrencyFieldIsCheckedWhenItIsLeft) {
     EXPECT_EQ(LV.at(1).cells[3], "dear");
 }
 
-// --- the toolbar ---
-
 TEST_F(EntryFrm, TheToolbarGoesThroughTheRecords) {
     LV.add("i3").cells = LV.at(1).cells;
     core::moveTotals(LV);
@@ -335,8 +316,6 @@ TEST_F(EntryFrm, DeleteShowsTheRecordThatTakesThePlace) {
     EXPECT_THAT(cells(LV.at(1)), ElementsAre("------", "------", "------", "$.00", "$.00", "$.00", "------"));
 }
 
-// --- find ---
-
 TEST_F(EntryFrm, FindAndAgainGoThroughAllCells) {
     LV.add("i3").cells = LV.at(2).cells;
     core::moveTotals(LV);
@@ -372,10 +351,8 @@ TEST_F(EntryFrm, FindAndAgainGoThroughAllCells) {
     EXPECT_EQ(selectedKey(), "Totals");
 }
 
-// --- search results ---
-
 TEST_F(EntryFrm, ResultsAreBrowsedAndUpdatedButNotAddedToOrDeletedFrom) {
-    showResults({"i2", "i1"});
+    showResults(program.app, {"i2", "i1"});
     entryFrm form(program.app);
     for (const char* key : {"New", "Add", "Delete"}) EXPECT_FALSE(form.isButtonEnabled(key)) << key;
     for (const char* key : {"Save", "Update", "First", "Back", "Next", "Last"})
@@ -395,12 +372,10 @@ TEST_F(EntryFrm, ResultsAreBrowsedAndUpdatedButNotAddedToOrDeletedFrom) {
     EXPECT_TRUE(document.searchLV.MultiSelect);
 }
 
-// --- the end of the keys ---
-
 TEST_F(EntryFrm, TheKeyBehindTheLastIsAnErrorThatLeavesAllAsItWas) {
     entryFrm form(program.app);
     form.Toolbar1_ButtonClick("New");
-    document.iLastKey = std::numeric_limits<std::int16_t>::max();
+    document.iLastKey = 32767;
     const std::string before = storage::writeDataFile(document, false);
     EXPECT_EQ(raisedBy([&] { form.FieldBox_KeyDown(4, keyReturn); }), core::errors::overflow);
     EXPECT_EQ(raisedBy([&] { form.Toolbar1_ButtonClick("Add"); }), core::errors::overflow);
