@@ -56,9 +56,4 @@ struct DesignShop : RecordsProgram {
         EXPECT_EQ(platform.messages.back().caption, "Ferrowick");
         platform.messages.clear();
     }
-    std::vector<std::string> messages() const {
-        std::vector<std::string> texts;
-        for (const auto& message : platform.messages) texts.push_back(message.text);
-        return texts;
-    }
 };

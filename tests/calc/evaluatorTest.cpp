@@ -27,8 +27,7 @@ TEST(EvaluatorTest, worksOutWhatItAccepts) {
          {"6/3", "2.", "+2", "--2", "8/2/2", "5-2-1", "1+1", "(2)", "((2))", "2*(1)", "2 ", " 2", "1 + 1"}},
         {7, {"1+2*3", "2*3+1", "10-6/2", "(1+2)*3-2", "5+-+-2", "5--2", "5-(-2)", "7+Price"}},
         {-6, {"2*-3", "-2*3", "-(2+4)", "3*(1-3)", "-12/2", "-12*2/4"}},
-        {1000, {"1e3", "1E3", "1e+3", "10e2", "1000.0"}},
-    };
+        {1000, {"1e3", "1E3", "1e+3", "10e2", "1000.0"}}};
     for (const auto& [value, texts] : cases)
         for (const std::string& text : texts) EXPECT_EQ(evaluate(text), value) << text;
     EXPECT_DOUBLE_EQ(evaluate("0.1+0.2"), 0.3);
@@ -50,14 +49,14 @@ TEST(EvaluatorTest, refusesEverythingElse) {
         "e",
         "\xE2\x82", "a\xC2"};
     for (const std::string& text : cases)
-        EXPECT_EQ(errorOf([&] { evaluate(text); }), errors::syntax) << '"' << text << '"';
+        EXPECT_EQ(raisedBy([&] { evaluate(text); }), errors::syntax) << '"' << text << '"';
 }
 
 TEST(EvaluatorTest, divisionByZeroAndNumbersBeyondADouble) {
     for (const char* text : {"1/0", "0/0", "-1/(2-2)", "1/Price", "1/0.0", "1/1e-400", "5+3*(1/(Price))"})
-        EXPECT_EQ(errorOf([&] { evaluate(text); }), errors::divisionByZero) << text;
+        EXPECT_EQ(raisedBy([&] { evaluate(text); }), errors::divisionByZero) << text;
     for (const char* text : {"1e309", "-1e309", "1e308*10", "1e308+1e308", "-1e308-1e308", "1/1e-309"})
-        EXPECT_EQ(errorOf([&] { evaluate(text); }), errors::overflow) << text;
+        EXPECT_EQ(raisedBy([&] { evaluate(text); }), errors::overflow) << text;
 }
 
 // A file can hold any text for an expression, so that neither depth nor length may end the program.
@@ -65,8 +64,8 @@ TEST(EvaluatorTest, deepAndLongTexts) {
     EXPECT_EQ(evaluate(repeated("(", 250) + "3" + repeated(")", 250)), 3);
     EXPECT_EQ(evaluate(repeated("(1)+", 1000) + "0"), 1000) << "groups side by side are no nesting";
     for (const int depth : {251, 1'000'000}) {
-        EXPECT_EQ(errorOf([&] { evaluate(repeated("(", depth)); }), errors::syntax) << depth;
-        EXPECT_EQ(errorOf([&] { evaluate(repeated("-(", depth)); }), errors::syntax) << depth;
+        EXPECT_EQ(raisedBy([&] { evaluate(repeated("(", depth)); }), errors::syntax) << depth;
+        EXPECT_EQ(raisedBy([&] { evaluate(repeated("-(", depth)); }), errors::syntax) << depth;
     }
     EXPECT_EQ(evaluate("1" + repeated("+1", 500'000)), 500'001);
     EXPECT_EQ(evaluate("1" + repeated("*1/1", 250'000)), 1);

@@ -25,18 +25,16 @@ TEST(RemoveColumnTest, removeAsksTwiceAboutAColumnOfAFormula) {
         const char* name;
         std::vector<std::string> questions;
     };
-    const Case cases[] = {
-        {"Price", {usedInFormulas, lossOf("Price")}},
-        {"Sum", {usedInFormulas, lossOf("Sum")}},
-        {"Name", {lossOf("Name")}},
-        {"Day", {lossOf("Day")}},
-    };
+    const Case cases[] = {{"Price", {usedInFormulas, lossOf("Price")}},
+                          {"Sum", {usedInFormulas, lossOf("Sum")}},
+                          {"Name", {lossOf("Name")}},
+                          {"Day", {lossOf("Day")}}};
     for (const Case& c : cases) {
         DesignShop shop;
         shop.remove(c.name, {Answer::Yes, Answer::No});
         // An answer is left where one question was asked: it was Yes.
         EXPECT_EQ(shop.LV.columns.find(c.name) == nullptr, c.questions.size() == 1) << c.name;
-        EXPECT_EQ(shop.messages(), c.questions);
+        EXPECT_EQ(shop.platform.texts(), c.questions);
         EXPECT_EQ(shop.platform.messages.back().icon, Icon::Critical);
         EXPECT_EQ(shop.platform.messages.front().icon,
                   c.questions.size() == 2 ? Icon::Exclamation : Icon::Critical);
@@ -44,7 +42,7 @@ TEST(RemoveColumnTest, removeAsksTwiceAboutAColumnOfAFormula) {
     DesignShop shop;
     const std::string before = shop.cells(shop.LV);
     shop.remove("Price", {Answer::No, Answer::Yes});
-    EXPECT_THAT(shop.messages(), ElementsAre(usedInFormulas));
+    EXPECT_THAT(shop.platform.texts(), ElementsAre(usedInFormulas));
     shop.platform.messages.clear();
     designFrm(shop.app).deleteBtn_Click(); // no row is selected
     EXPECT_TRUE(shop.platform.messages.empty());
@@ -117,20 +115,18 @@ TEST(RemoveColumnTest, undefinedSpreadsOverAllThatDependsOnTheColumn) {
         std::vector<std::string> formulas;
         const char *left, *cells; // of the columns A, B, C but the removed one
     };
-    const Case cases[] = {
-        {"X", {"A,X + 1", "B,A * 2", "C,7"}, "C,7|", "Undefined|Undefined|c|"},
-        {"X",
-         {"C,B", "B,A * 2", "A,1 + X"},
-         "C,B|",
-         "Undefined|Undefined|c|"}, // alone it has no blank beside it
-        {"X", {"A,X", "B,1"}, "A,X|B,1|", "a|b|c|"},
-        {"X", {"A,1 + Xyz", "B,1"}, "B,1|", "Undefined|b|c|"},
-        {"X", {"A,x + 1", "B,1"}, "A,x + 1|B,1|", "a|b|c|"},
-        {"A", {"A,1", "B,A + 1", "C,B + A"}, "", "Undefined|Undefined|"},
-        {"A", {"A,A + 1", "B,Undefined"}, "B,Undefined|", "b|c|"},
-        {"A", {"A,B + 1", "B,A + 1"}, "", "Undefined|c|"},
-        {"A", {"B,2", "C,B + 1", "A,C + 1"}, "B,2|C,B + 1|", "b|c|"},
-    };
+    const Case cases[] = {{"X", {"A,X + 1", "B,A * 2", "C,7"}, "C,7|", "Undefined|Undefined|c|"},
+                          {"X",
+                           {"C,B", "B,A * 2", "A,1 + X"},
+                           "C,B|",
+                           "Undefined|Undefined|c|"}, // alone it has no blank beside it
+                          {"X", {"A,X", "B,1"}, "A,X|B,1|", "a|b|c|"},
+                          {"X", {"A,1 + Xyz", "B,1"}, "B,1|", "Undefined|b|c|"},
+                          {"X", {"A,x + 1", "B,1"}, "A,x + 1|B,1|", "a|b|c|"},
+                          {"A", {"A,1", "B,A + 1", "C,B + A"}, "", "Undefined|Undefined|"},
+                          {"A", {"A,A + 1", "B,Undefined"}, "B,Undefined|", "b|c|"},
+                          {"A", {"A,B + 1", "B,A + 1"}, "", "Undefined|c|"},
+                          {"A", {"B,2", "C,B + 1", "A,C + 1"}, "B,2|C,B + 1|", "b|c|"}};
     for (const Case& c : cases) {
         RecordsProgram program({{"X", "4"}, {"A", "5"}, {"B", "5"}, {"C", "5"}});
         program.record({"1", "a", "b", "c"});

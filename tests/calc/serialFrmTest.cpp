@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 using calc::serialFrm;
-using platform::Icon;
 
 namespace {
 
@@ -30,8 +29,7 @@ TEST(SerialFrmTest, setsTheCounterOfTheChosenColumn) {
     EXPECT_EQ(serials.counter(2), "100");
     EXPECT_EQ(serials.counter(1), "0");
     ASSERT_EQ(serials.platform.messages.size(), 1U);
-    EXPECT_EQ(serials.platform.messages[0].text, "Ticket's value has been set to 100");
-    EXPECT_EQ(serials.platform.messages[0].icon, Icon::None);
+    EXPECT_EQ(serials.platform.told(), "0|Ferrowick|Ticket's value has been set to 100");
     EXPECT_TRUE(form.text1HasFocus);
     form.CancelButton_Click(); // does not undo it
     EXPECT_TRUE(form.unloaded);
@@ -43,11 +41,10 @@ TEST(SerialFrmTest, whatSetTakesAndRefuses) {
         const char *typed, *counter;
         bool isTaken;
     };
-    const Case cases[] = {
-        {"-5", "-5", true},   {"1.5", "1.5", true}, {"$7", "$7", true},          {"1,000", "1,000", true},
-        {"", "41", false},    {"   ", "41", false}, {"abc", "41", false},        {"5 apples", "41", false},
-        {"--5", "41", false}, {"1/2", "41", false}, {"01/02/2003", "41", false},
-    };
+    const Case cases[] = {{"-5", "-5", true},       {"1.5", "1.5", true},       {"$7", "$7", true},
+                          {"1,000", "1,000", true}, {"", "41", false},          {"   ", "41", false},
+                          {"abc", "41", false},     {"5 apples", "41", false},  {"--5", "41", false},
+                          {"1/2", "41", false},     {"01/02/2003", "41", false}};
     for (const Case& c : cases) {
         Serials serials;
         serialFrm form(serials.app);
@@ -57,9 +54,7 @@ TEST(SerialFrmTest, whatSetTakesAndRefuses) {
         EXPECT_EQ(serials.counter(2), c.counter) << c.typed;
         ASSERT_EQ(serials.platform.messages.size(), 1U) << c.typed;
         if (c.isTaken) continue;
-        EXPECT_EQ(serials.platform.lastMessage(), "You entered a non numeric value.");
-        EXPECT_EQ(serials.platform.messages[0].icon, Icon::Information);
-        EXPECT_EQ(serials.platform.messages[0].caption, "Ferrowick");
+        EXPECT_EQ(serials.platform.told(), "1|Ferrowick|You entered a non numeric value.");
         EXPECT_FALSE(form.text1HasFocus);
     }
 }
@@ -67,18 +62,14 @@ TEST(SerialFrmTest, whatSetTakesAndRefuses) {
 TEST(SerialFrmTest, withoutAChosenColumnNothingIsSet) {
     Serials serials;
     serialFrm form(serials.app);
-    form.Text1 = "7";
-    for (const int entry : {-1, 2, 99}) {
-        form.List1_Click(entry);
-        form.setBtn_Click();
-    }
-    EXPECT_TRUE(serials.platform.messages.empty());
-    form.Text1 = "x"; // the number is looked at first
-    form.setBtn_Click();
-    EXPECT_EQ(serials.platform.messages.size(), 1U);
+    for (const char* typed : {"7", "x"}) // the number is looked at first
+        for (const int entry : {-1, 2, 99}) {
+            form.Text1 = typed;
+            form.List1_Click(entry);
+            form.setBtn_Click();
+        }
+    EXPECT_EQ(serials.platform.messages.size(), 3U);
     EXPECT_EQ(serials.counter(1) + serials.counter(2), "041");
-    form.OKButton_Click();
-    EXPECT_TRUE(form.unloaded);
 }
 
 } // namespace

@@ -41,10 +41,9 @@ protected:
 
 TEST_F(Browsing, TheButtonsWalkTheRecords) {
     open(lines);
-    const std::pair<const char*, const char*> steps[] = {
-        {"Back", "Bolt"}, {"Next", "Nut"}, {"Next", "Pin"},   {"Next", "Pin"},
-        {"Back", "Nut"},  {"Last", "Pin"}, {"First", "Bolt"}, {"Last", "Pin"},
-    };
+    const std::pair<const char*, const char*> steps[] = {{"Back", "Bolt"},  {"Next", "Nut"}, {"Next", "Pin"},
+                                                         {"Next", "Pin"},   {"Back", "Nut"}, {"Last", "Pin"},
+                                                         {"First", "Bolt"}, {"Last", "Pin"}};
     for (const auto& [key, shown] : steps) {
         press(key);
         EXPECT_EQ(text(Name), shown) << key;
@@ -151,8 +150,7 @@ TEST_F(Browsing, TypingGoesThroughTheMasks) {
     const Case cases[] = {
         {Name, U"a-1 é", "a-1 é"}, {Qty, U"12a", "12"},    {Qty, U"-1.5e3 ", "1.53"},
         {Price, U"$1,2", "12"},    {Sum, U"x7", "7"},      {Made, U"12252004", "12/25/2004"},
-        {Made, U"AB", "AB/"},      {Made, U"12/", "12//"}, {Qty, U"\b", ""},
-    };
+        {Made, U"AB", "AB/"},      {Made, U"12/", "12//"}, {Qty, U"\b", ""}};
     open(lines);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.text);
@@ -190,8 +188,7 @@ TEST_F(Browsing, NumbersAreCheckedOnLeaving) {
     const Case cases[] = {
         {Qty, "12a", "0"},      {Qty, "", "0"},          {Qty, "12", "12"},      {Price, "12", "12.00"},
         {Price, "123", "1.23"}, {Price, "12.5", "12.5"}, {Price, "-5", "-5.00"}, {Price, "1,234", "1,2.34"},
-        {Price, "abc", "0"},    {Sum, "x", "0"},         {Name, "12a", "12a"},   {Made, "13/45", "13/45/"},
-    };
+        {Price, "abc", "0"},    {Sum, "x", "0"},         {Name, "12a", "12a"},   {Made, "13/45", "13/45/"}};
     open(lines);
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << c.field << c.typed);

@@ -35,198 +35,184 @@ private:
 
 private slots:
     void init() { Folders::forgetSettings(); }
-    void aQuestionThatIsWavedAwayIsNotAnswered();
-    void aboutAndDisclaimer();
-    void namesInFileDialogs();
-    void theHourglassRestsWhileTheUserIsAsked();
-    void everyCommandHasItsIconInBothPalettes();
-    void commandLine_data();
-    void commandLine();
-    void picturesOfTheWindow();
+    void aQuestionThatIsWavedAwayIsNotAnswered() {
+        gui::QtPlatform platform;
+        const auto ask = [&](const std::function<void(QMessageBox&)>& act) {
+            whenShown<QMessageBox>(act);
+            return platform.msgBox("Save <b>it</b>?", platform::Icon::Question, "Title",
+                                   platform::Buttons::YesNo);
+        };
+        using platform::Answer;
+        QCOMPARE(ask([](QMessageBox& box) {
+                     QCOMPARE(box.text(), u"Save <b>it</b>?"_s);
+                     QCOMPARE(box.textFormat(), Qt::PlainText);
+                     QCOMPARE(box.windowTitle(), u"Title"_s);
+                     QCOMPARE(box.icon(), QMessageBox::Question);
+                     box.button(QMessageBox::Yes)->click();
+                 }),
+                 Answer::Yes);
+        QCOMPARE(ask([](QMessageBox& box) { box.button(QMessageBox::No)->click(); }), Answer::No);
+        QCOMPARE(ask([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), Answer::Cancel);
+        QCOMPARE(ask([](QMessageBox& box) { box.close(); }), Answer::Cancel);
+    }
+
+    void aboutAndDisclaimer() {
+        gui::QtPlatform platform;
+        app::App app(platform);
+        gui::MainFrmView window(app, platform);
+        window.load({});
+        QString about;
+        whenShown<QMessageBox>([&](QMessageBox& box) {
+            about = box.windowTitle() + u'\n' + box.text();
+            box.close();
+        });
+        window.findChild<QAction*>(u"mnuAbout"_s)->trigger();
+        QVERIFY2(about.startsWith(QLatin1String("About Ferrowick\nFerrowick\nVersion " FERROWICK_VERSION)),
+                 qPrintable(about));
+
+        bool readOnly = false;
+        whenShown<QDialog>([&](QDialog& dialog) {
+            const auto* text = dialog.findChild<QTextBrowser*>(u"RichTextBox1"_s);
+            readOnly = text != nullptr && text->isReadOnly() && text->toPlainText().contains("warranty"_L1);
+            QTest::mouseClick(dialog.findChild<QPushButton*>(u"Command1"_s), Qt::LeftButton);
+        });
+        window.findChild<QAction*>(u"mnuDisclaimer"_s)->trigger();
+        QVERIFY(readOnly);
+    }
+
+    void namesInFileDialogs() {
+        const std::string_view filter = platform::databaseFilter;
+        QCOMPARE(gui::nameFilters(filter), (QStringList{u"Database (*.fwk)"_s, u"All Files (*)"_s}));
+        QCOMPARE(gui::nameFilters("Pictures (*.bmp;*.gif)|*.bmp;*.gif"),
+                 QStringList{u"Pictures (*.bmp *.gif)"_s});
+        const std::pair<const char*, const char*> names[] = {{"/a.b/data", "/a.b/data.fwk"},
+                                                             {"/a/data.", "/a/data.fwk"},
+                                                             {"/a/data.FWK", "/a/data.FWK"},
+                                                             {"/a/data.txt", "/a/data.txt"}};
+        for (const auto& [typed, expected] : names)
+            QCOMPARE(gui::withSuffix(QLatin1String(typed), filter), QLatin1String(expected));
+
+        // The real dialogs: an existing name is not asked about here, and a cancelled dialog gives nothing.
+        gui::QtPlatform platform;
+        const QString file = folders_.sample("books.fwk");
+        whenShown<QFileDialog>([&](QFileDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), u"Save As..."_s);
+            // As typed: a selection would have to wait for the folder to be listed.
+            dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(file);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        QCOMPARE(platform.showSave({"Save As...", "Untitled.fwk", std::string(filter)}), gui::fromQt(file));
+        whenShown<QFileDialog>([&](QFileDialog& dialog) { dialog.reject(); });
+        QVERIFY(!platform.showOpen({"Open Database", "", std::string(filter)}));
+    }
+
+    void theHourglassRestsWhileTheUserIsAsked() {
+        gui::QtPlatform platform;
+        platform.setMousePointer(platform::MousePointer::Hourglass);
+        platform.setMousePointer(platform::MousePointer::Hourglass); // a handler within a handler
+        QVERIFY(QApplication::overrideCursor() != nullptr);
+        bool rested = false;
+        whenShown<QMessageBox>([&](QMessageBox& box) {
+            rested = QApplication::overrideCursor() == nullptr;
+            box.close();
+        });
+        platform.msgBox("x", platform::Icon::None, "x");
+        QVERIFY(rested);
+        QVERIFY(QApplication::overrideCursor() != nullptr);
+        platform.setMousePointer(platform::MousePointer::Default);
+        QVERIFY(QApplication::overrideCursor() == nullptr);
+    }
+
+    void everyCommandHasItsIconInBothPalettes() {
+        const auto lightness = [](const QIcon& icon,
+                                  QIcon::Mode mode) { // of the darkest or lightest ink on the page
+            const QImage image = icon.pixmap(QSize(24, 24), 1, mode).toImage();
+            int solid = 0, bright = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    if (const QColor colour = image.pixelColor(x, y); colour.alpha() > 200) {
+                        ++solid;
+                        bright += colour.lightness();
+                    }
+            return solid == 0 ? -1 : bright / solid;
+        };
+        QStringList names;
+        for (const shell::Menu& menu : shell::menuBar())
+            for (const auto key : menu.items)
+                if (key != "-") names << gui::toQt(shell::command(key).icon);
+        for (const auto button : shell::toolbarKeys()) {
+            if (button != "-") names << gui::toQt(shell::command(button).icon);
+            for (const auto key : shell::buttonMenuKeys(button))
+                if (key != "-") names << gui::toQt(shell::command(key).icon);
+        }
+        names.removeDuplicates();
+        names.removeAll(QString());
+        QVERIFY(names.size() > 20);
+        const QPalette before = QApplication::palette();
+        for (const QString& name : names) {
+            const QIcon icon = gui::familyIcon(name);
+            QVERIFY2(!icon.isNull(), qPrintable(name));
+            const int light = lightness(icon, QIcon::Normal);
+            QVERIFY2(light >= 0 && light < 130, qPrintable(name));
+            QVERIFY2(lightness(icon, QIcon::Disabled) == -1, qPrintable(name)); // nothing solid is left
+            gui::useDarkColours();
+            QVERIFY2(lightness(icon, QIcon::Normal) > 150, qPrintable(name));
+            QApplication::setPalette(before);
+        }
+        QVERIFY(gui::familyIcon(u"noSuchIcon"_s).isNull());
+    }
+
+    void commandLine_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("wrong");
+        const QString here = QDir::currentPath();
+        QTest::newRow("nothing") << QStringList{} << QString() << false;
+        QTest::newRow("relative") << QStringList{u"a/../b.fwk"_s} << here + u"/b.fwk"_s << false;
+        QTest::newRow("quoted") << QStringList{u"\"/x/my books.fwk\""_s} << u"/x/my books.fwk"_s << false;
+        QTest::newRow("two files") << QStringList{u"a"_s, u"b"_s} << here + u"/a"_s << true;
+        QTest::newRow("unknown option") << QStringList{u"--nonsense"_s} << QString() << true;
+        QTest::newRow("no size") << QStringList{u"--size=100by100"_s} << QString() << true;
+        QTest::newRow("no scale") << QStringList{u"--scale=0"_s} << QString() << true;
+    }
+
+    void commandLine() {
+        QFETCH(QStringList, arguments);
+        std::vector<QByteArray> words = {"ferrowick"};
+        for (const QString& argument : arguments) words.push_back(argument.toLocal8Bit());
+        std::vector<char*> argv;
+        argv.reserve(words.size());
+        for (QByteArray& word : words) argv.push_back(word.data());
+        const gui::CommandLine line = gui::parseCommandLine(static_cast<int>(argv.size()), argv.data());
+        QTEST(line.file, "file");
+        QTEST(!line.error.isEmpty(), "wrong");
+    }
+
+    void picturesOfTheWindow() {
+        const QString picture = folders_.path("window.png");
+        const auto run = [](const QStringList& arguments) {
+            QProcess program;
+            program.start(QStringLiteral(FERROWICK_PROGRAM), arguments);
+            program.waitForFinished();
+            return program.exitCode();
+        };
+        const QString option = u"--picture"_s;
+        const QString books = folders_.sample("books.fwk");
+        QCOMPARE(run({option, picture, u"--size=640x400"_s, u"--scale=2"_s, books}), 0);
+        const QImage light(picture);
+        QCOMPARE(light.size(), QSize(1280, 800));
+        QCOMPARE(run({option, picture, u"--size=640x400"_s, u"--dark"_s, books}), 0);
+        const QImage dark(picture);
+        QCOMPARE(dark.size(), QSize(640, 400));
+        QVERIFY(light.pixelColor(2, 796).lightness() > dark.pixelColor(1, 398).lightness() + 100);
+        // The user's settings know nothing of it.
+        QVERIFY(platform::SettingsFile().GetSetting("StartUp", "File1").empty());
+        QCOMPARE(run({option, picture, folders_.path("absent.fwk")}), 1);
+        QCOMPARE(run({option, folders_.path("no/such/folder.png"), books}), 1);
+        QCOMPARE(run({u"--nonsense"_s}), 2);
+        QCOMPARE(run({u"--help"_s}), 0);
+    }
 };
-
-void Dialogs::aQuestionThatIsWavedAwayIsNotAnswered() {
-    gui::QtPlatform platform;
-    const auto ask = [&](const std::function<void(QMessageBox&)>& act) {
-        whenShown<QMessageBox>(act);
-        return platform.msgBox("Save <b>it</b>?", platform::Icon::Question, "Title",
-                               platform::Buttons::YesNo);
-    };
-    using platform::Answer;
-    QCOMPARE(ask([](QMessageBox& box) {
-                 QCOMPARE(box.text(), QStringLiteral("Save <b>it</b>?"));
-                 QCOMPARE(box.textFormat(), Qt::PlainText);
-                 QCOMPARE(box.windowTitle(), QStringLiteral("Title"));
-                 QCOMPARE(box.icon(), QMessageBox::Question);
-                 box.button(QMessageBox::Yes)->click();
-             }),
-             Answer::Yes);
-    QCOMPARE(ask([](QMessageBox& box) { box.button(QMessageBox::No)->click(); }), Answer::No);
-    QCOMPARE(ask([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), Answer::Cancel);
-    QCOMPARE(ask([](QMessageBox& box) { box.close(); }), Answer::Cancel);
-}
-
-void Dialogs::aboutAndDisclaimer() {
-    gui::QtPlatform platform;
-    app::App app(platform);
-    gui::MainFrmView window(app, platform);
-    window.load({});
-    QString about;
-    whenShown<QMessageBox>([&](QMessageBox& box) {
-        about = box.windowTitle() + QLatin1Char('\n') + box.text();
-        box.close();
-    });
-    window.findChild<QAction*>(QStringLiteral("mnuAbout"))->trigger();
-    QVERIFY2(about.startsWith(QLatin1String("About Ferrowick\nFerrowick\nVersion " FERROWICK_VERSION)),
-             qPrintable(about));
-
-    bool readOnly = false;
-    whenShown<QDialog>([&](QDialog& dialog) {
-        const auto* text = dialog.findChild<QTextBrowser*>(QStringLiteral("RichTextBox1"));
-        readOnly =
-            text != nullptr && text->isReadOnly() && text->toPlainText().contains(QLatin1String("warranty"));
-        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("Command1")), Qt::LeftButton);
-    });
-    window.findChild<QAction*>(QStringLiteral("mnuDisclaimer"))->trigger();
-    QVERIFY(readOnly);
-}
-
-void Dialogs::namesInFileDialogs() {
-    const std::string_view filter = platform::databaseFilter;
-    QCOMPARE(gui::nameFilters(filter),
-             (QStringList{QStringLiteral("Database (*.fwk)"), QStringLiteral("All Files (*)")}));
-    QCOMPARE(gui::nameFilters("Pictures (*.bmp;*.gif)|*.bmp;*.gif"),
-             QStringList{QStringLiteral("Pictures (*.bmp *.gif)")});
-    const std::pair<const char*, const char*> names[] = {{"/a.b/data", "/a.b/data.fwk"},
-                                                         {"/a/data.", "/a/data.fwk"},
-                                                         {"/a/data.FWK", "/a/data.FWK"},
-                                                         {"/a/data.txt", "/a/data.txt"}};
-    for (const auto& [typed, expected] : names)
-        QCOMPARE(gui::withSuffix(QLatin1String(typed), filter), QLatin1String(expected));
-
-    // The real dialogs: an existing name is not asked about here, and a cancelled dialog gives nothing.
-    gui::QtPlatform platform;
-    const QString file = folders_.sample("books.fwk");
-    whenShown<QFileDialog>([&](QFileDialog& dialog) {
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Save As..."));
-        // As typed: a selection would have to wait for the folder to be listed.
-        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
-        QMetaObject::invokeMethod(&dialog, "accept");
-    });
-    QCOMPARE(platform.showSave({"Save As...", "Untitled.fwk", std::string(filter)}), gui::fromQt(file));
-    whenShown<QFileDialog>([&](QFileDialog& dialog) { dialog.reject(); });
-    QVERIFY(!platform.showOpen({"Open Database", "", std::string(filter)}));
-}
-
-void Dialogs::theHourglassRestsWhileTheUserIsAsked() {
-    gui::QtPlatform platform;
-    platform.setMousePointer(platform::MousePointer::Hourglass);
-    platform.setMousePointer(platform::MousePointer::Hourglass); // a handler within a handler
-    QVERIFY(QApplication::overrideCursor() != nullptr);
-    bool rested = false;
-    whenShown<QMessageBox>([&](QMessageBox& box) {
-        rested = QApplication::overrideCursor() == nullptr;
-        box.close();
-    });
-    platform.msgBox("x", platform::Icon::None, "x");
-    QVERIFY(rested);
-    QVERIFY(QApplication::overrideCursor() != nullptr);
-    platform.setMousePointer(platform::MousePointer::Default);
-    QVERIFY(QApplication::overrideCursor() == nullptr);
-}
-
-void Dialogs::everyCommandHasItsIconInBothPalettes() {
-    const auto lightness = [](const QIcon& icon,
-                              QIcon::Mode mode) { // of the darkest or lightest ink on the page
-        const QImage image = icon.pixmap(QSize(24, 24), 1, mode).toImage();
-        int solid = 0, bright = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                if (const QColor colour = image.pixelColor(x, y); colour.alpha() > 200) {
-                    ++solid;
-                    bright += colour.lightness();
-                }
-        return solid == 0 ? -1 : bright / solid;
-    };
-    QStringList names;
-    for (const shell::Menu& menu : shell::menuBar())
-        for (const auto key : menu.items)
-            if (key != "-") names << gui::toQt(shell::command(key).icon);
-    for (const auto button : shell::toolbarKeys()) {
-        if (button != "-") names << gui::toQt(shell::command(button).icon);
-        for (const auto key : shell::buttonMenuKeys(button))
-            if (key != "-") names << gui::toQt(shell::command(key).icon);
-    }
-    names.removeDuplicates();
-    names.removeAll(QString());
-    QVERIFY(names.size() > 20);
-    const QPalette before = QApplication::palette();
-    for (const QString& name : names) {
-        const QIcon icon = gui::familyIcon(name);
-        QVERIFY2(!icon.isNull(), qPrintable(name));
-        const int light = lightness(icon, QIcon::Normal);
-        QVERIFY2(light >= 0 && light < 130, qPrintable(name));
-        QVERIFY2(lightness(icon, QIcon::Disabled) == -1, qPrintable(name)); // nothing solid is left
-        gui::useDarkColours();
-        QVERIFY2(lightness(icon, QIcon::Normal) > 150, qPrintable(name));
-        QApplication::setPalette(before);
-    }
-    QVERIFY(gui::familyIcon(QStringLiteral("noSuchIcon")).isNull());
-}
-
-void Dialogs::commandLine_data() {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<bool>("wrong");
-    const QString here = QDir::currentPath();
-    QTest::newRow("nothing") << QStringList{} << QString() << false;
-    QTest::newRow("relative") << QStringList{QStringLiteral("a/../b.fwk")} << here + QStringLiteral("/b.fwk")
-                              << false;
-    QTest::newRow("quoted") << QStringList{QStringLiteral("\"/x/my books.fwk\"")}
-                            << QStringLiteral("/x/my books.fwk") << false;
-    QTest::newRow("two files") << QStringList{QStringLiteral("a"), QStringLiteral("b")}
-                               << here + QStringLiteral("/a") << true;
-    QTest::newRow("unknown option") << QStringList{QStringLiteral("--nonsense")} << QString() << true;
-    QTest::newRow("no size") << QStringList{QStringLiteral("--size=100by100")} << QString() << true;
-    QTest::newRow("no scale") << QStringList{QStringLiteral("--scale=0")} << QString() << true;
-}
-
-void Dialogs::commandLine() {
-    QFETCH(QStringList, arguments);
-    std::vector<QByteArray> words = {"ferrowick"};
-    for (const QString& argument : arguments) words.push_back(argument.toLocal8Bit());
-    std::vector<char*> argv;
-    argv.reserve(words.size());
-    for (QByteArray& word : words) argv.push_back(word.data());
-    const gui::CommandLine line = gui::parseCommandLine(static_cast<int>(argv.size()), argv.data());
-    QTEST(line.file, "file");
-    QTEST(!line.error.isEmpty(), "wrong");
-}
-
-void Dialogs::picturesOfTheWindow() {
-    const QString picture = folders_.path("window.png");
-    const auto run = [](const QStringList& arguments) {
-        QProcess program;
-        program.start(QStringLiteral(FERROWICK_PROGRAM), arguments);
-        program.waitForFinished();
-        return program.exitCode();
-    };
-    const QString option = QStringLiteral("--picture");
-    const QString books = folders_.sample("books.fwk");
-    QCOMPARE(run({option, picture, QStringLiteral("--size=640x400"), QStringLiteral("--scale=2"), books}), 0);
-    const QImage light(picture);
-    QCOMPARE(light.size(), QSize(1280, 800));
-    QCOMPARE(run({option, picture, QStringLiteral("--size=640x400"), QStringLiteral("--dark"), books}), 0);
-    const QImage dark(picture);
-    QCOMPARE(dark.size(), QSize(640, 400));
-    QVERIFY(light.pixelColor(2, 796).lightness() > dark.pixelColor(1, 398).lightness() + 100);
-    // The user's settings know nothing of it.
-    QVERIFY(platform::SettingsFile().GetSetting("StartUp", "File1").empty());
-    QCOMPARE(run({option, picture, folders_.path("absent.fwk")}), 1);
-    QCOMPARE(run({option, folders_.path("no/such/folder.png"), books}), 1);
-    QCOMPARE(run({QStringLiteral("--nonsense")}), 2);
-    QCOMPARE(run({QStringLiteral("--help")}), 0);
-}
 
 QTEST_MAIN(Dialogs)
 #include "dialogs.moc"

@@ -3,6 +3,7 @@
 #include "session.h"
 
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -49,7 +50,7 @@ inline QStringList rows(const QDialog& form, const char* listName) {
         QStringList texts;
         for (int section = 0; section < list->columnCount(); ++section)
             texts << list->topLevelItem(row)->text(section);
-        all << texts.join(QLatin1Char(' '));
+        all << texts.join(u' ');
     }
     return all;
 }
@@ -64,7 +65,19 @@ inline void addColumn(const QDialog& form, const char* type, const char* name) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
 }
 
-// The name of the recovery copy that the last message tells.
-inline QString copyTold(const Session& run) {
-    return run.platform.messages.back().text.section(QLatin1Char('\n'), -1);
+inline void chooseColumn(const QDialog& form, const char* listName, const char* column) {
+    auto* columns = in<QListWidget>(form, listName);
+    QListWidgetItem* item = columns->findItems(QLatin1String(column), Qt::MatchExactly).value(0);
+    if (item == nullptr) qFatal("no column %s", column);
+    columns->scrollToItem(item);
+    QTest::mouseClick(columns->viewport(), Qt::LeftButton, {}, columns->visualItemRect(item).center());
+}
+
+// Types in place of what stands in a box, and returns it.
+inline QLineEdit* typeIn(const QDialog& form, const char* name, const char* text) {
+    auto* box = in<QLineEdit>(form, name);
+    box->setFocus();
+    box->clear();
+    QTest::keyClicks(box, QLatin1String(text));
+    return box;
 }

@@ -2,7 +2,6 @@
 
 #include "gui/pictures.h"
 #include "layout/images.h"
-#include "platform/zip.h"
 
 #include <QBuffer>
 #include <QRandomGenerator>
@@ -64,189 +63,170 @@ private slots:
     void init() {
         Folders::forgetSettings();
     }
-    void picturesThatCannotBeShown_data();
-    void picturesThatCannotBeShown();
-    void damagedPicturesLeaveTheirHoldersEmpty();
-    void fontsThatAreNotThereFallBack();
-    void theNextRecordIsThereAtOnce();
-    void movingStaysSmoothAmongManyObjects();
-};
-
-void LayoutLimits::picturesThatCannotBeShown_data() {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("shown");
-    // The header says what size the picture has; everything behind it stays as it was.
-    QByteArray large = jpeg({64, 64});
-    const auto frame = large.indexOf(QByteArray::fromHex("ffc0"));
-    QVERIFY(frame > 0);
-    large.replace(frame + 5, 4, QByteArray::fromHex("4e204e20")); // 20,000 x 20,000
-    QTest::newRow("JPEG of 20,000 x 20,000") << large << false;
-    QTest::newRow("JPEG") << jpeg({64, 64}) << true;
-    QTest::newRow("half a JPEG") << jpeg({640, 640}).left(9000) << true; // as far as it goes
-    QTest::newRow("a JPEG's first bytes") << jpeg({64, 64}).left(20) << false;
-    QTest::newRow("GIF") << gif({20, 20}, {20, 20}) << true;
-    QTest::newRow("GIF of 65,535 x 65,535") << gif({65535, 65535}, {65535, 65535}) << false;
-    QTest::newRow("GIF of 7,000 x 9,000") << gif({7000, 9000}, {7000, 9000}) << false;
-    QTest::newRow("GIF with an image beyond its screen") << gif({10, 10}, {65535, 65535}) << true;
-    QTest::newRow("GIF without a screen") << gif({0, 0}, {65535, 65535}) << false;
-    QTest::newRow("PNG") << QByteArray::fromHex("89504e470d0a1a0a0000000d4948445200000001000000010802000000")
-                         << false;
-    QTest::newRow("SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")
-                         << false;
-    QTest::newRow("text") << QByteArray("no picture") << false;
-    QTest::newRow("nothing") << QByteArray() << false;
-}
-
-void LayoutLimits::picturesThatCannotBeShown() {
-    QFETCH(const QByteArray, bytes);
-    QFETCH(const bool, shown);
-    // Files of one name, one size and one moment would count as the same picture.
-    static int number = 0;
-    const QString file = write(qPrintable(QStringLiteral("picture%1.jpg").arg(++number)), bytes);
-    rusage before{}, after{};
-    getrusage(RUSAGE_SELF, &before);
-    QCOMPARE(gui::pictureSize(file).has_value(), shown);
-    QCOMPARE(!gui::scaledPicture(file, {100, 100}).isNull(), shown);
-    getrusage(RUSAGE_SELF, &after);
-    constexpr long mostKilobytes = 80'000;
-    QVERIFY2(after.ru_maxrss - before.ru_maxrss < mostKilobytes,
-             qPrintable(QStringLiteral("%1 KB").arg(after.ru_maxrss - before.ru_maxrss)));
-}
-
-void LayoutLimits::damagedPicturesLeaveTheirHoldersEmpty() {
-    const QString file = folders_.sample("books.fwk");
-    {
-        platform::Zip zip;
-        zip.OpenArchive(gui::fromQt(file));
-        zip.addBuffer("cover1.jpg", "no picture any more", "");
-        zip.addBuffer("logo.gif", gif({65535, 65535}, {65535, 65535}).toStdString(), "Clip Art");
-        zip.DeleteFile("cover2.jpg");
-        zip.CloseArchive();
+    void picturesThatCannotBeShown_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("shown");
+        // The header says what size the picture has; everything behind it stays as it was.
+        QByteArray large = jpeg({64, 64});
+        const auto frame = large.indexOf(QByteArray::fromHex("ffc0"));
+        QVERIFY(frame > 0);
+        large.replace(frame + 5, 4, QByteArray::fromHex("4e204e20")); // 20,000 x 20,000
+        QTest::newRow("JPEG of 20,000 x 20,000") << large << false;
+        QTest::newRow("JPEG") << jpeg({64, 64}) << true;
+        QTest::newRow("half a JPEG") << jpeg({640, 640}).left(9000) << true; // as far as it goes
+        QTest::newRow("a JPEG's first bytes") << jpeg({64, 64}).left(20) << false;
+        QTest::newRow("GIF") << gif({20, 20}, {20, 20}) << true;
+        QTest::newRow("GIF of 65,535 x 65,535") << gif({65535, 65535}, {65535, 65535}) << false;
+        QTest::newRow("GIF of 7,000 x 9,000") << gif({7000, 9000}, {7000, 9000}) << false;
+        QTest::newRow("GIF with an image beyond its screen") << gif({10, 10}, {65535, 65535}) << true;
+        QTest::newRow("GIF without a screen") << gif({0, 0}, {65535, 65535}) << false;
+        QTest::newRow("PNG") << QByteArray::fromHex(
+                                    "89504e470d0a1a0a0000000d4948445200000001000000010802000000")
+                             << false;
+        QTest::newRow("SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")
+                             << false;
+        QTest::newRow("text") << QByteArray("no picture") << false;
+        QTest::newRow("nothing") << QByteArray() << false;
     }
-    LayoutSession run(file);
-    run.showLayout();
-    const auto isEmpty = [&](const char* name) {
-        const QImage image = run.find<QWidget>(name)->grab().toImage();
-        for (int y = 3; y < image.height() - 3; ++y)
-            for (int x = 3; x < image.width() - 3; ++x)
-                if (image.pixelColor(x, y) != QColor(Qt::white)) return false;
-        return true;
-    };
-    QVERIFY(isEmpty("clipPic1"));
-    QVERIFY(isEmpty("imgHolder1")); // damaged
-    run.navigate("Next");
-    QVERIFY(isEmpty("imgHolder1")); // absent
-    run.navigate("Next");
-    QVERIFY(!isEmpty("imgHolder1"));
-    QVERIFY(run.platform.messages.empty());
-}
 
-void LayoutLimits::fontsThatAreNotThereFallBack() {
-    LayoutSession run(folders_.sample("books.fwk"));
-    for (const char* family : {"No Such Font At All", "", "MS Sans Serif"}) {
-        for (const float size : {8.25F, 0.0F, -3.0F, 1e9F}) {
-            run.objects.layoutField[2].FontName = family;
-            run.objects.layoutField[2].FontSize = size;
-            run.showLayout();
-            layout::InitLayout(run.app, false);
-            run.window.refresh();
-            QVERIFY(!run.field(2)->grab().isNull());
-            QVERIFY(QFontMetrics(run.field(2)->font()).height() > 0);
+    void picturesThatCannotBeShown() {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const bool, shown);
+        // Files of one name, one size and one moment would count as the same picture.
+        static int number = 0;
+        const QString file = write(qPrintable(u"picture%1.jpg"_s.arg(++number)), bytes);
+        rusage before{}, after{};
+        getrusage(RUSAGE_SELF, &before);
+        QCOMPARE(gui::pictureSize(file).has_value(), shown);
+        QCOMPARE(!gui::scaledPicture(file, {100, 100}).isNull(), shown);
+        getrusage(RUSAGE_SELF, &after);
+        constexpr long mostKilobytes = 80'000;
+        QVERIFY2(after.ru_maxrss - before.ru_maxrss < mostKilobytes,
+                 qPrintable(u"%1 KB"_s.arg(after.ru_maxrss - before.ru_maxrss)));
+    }
+
+    void damagedPicturesLeaveTheirHoldersEmpty() {
+        const QString file = folders_.sample("books.fwk");
+        {
+            platform::Zip zip;
+            zip.OpenArchive(gui::fromQt(file));
+            zip.addBuffer("cover1.jpg", "no picture any more", "");
+            zip.addBuffer("logo.gif", gif({65535, 65535}, {65535, 65535}).toStdString(), "Clip Art");
+            zip.DeleteFile("cover2.jpg");
+            zip.CloseArchive();
+        }
+        LayoutSession run(file);
+        run.showLayout();
+        const auto isEmpty = [&](const char* name) {
+            const QImage image = run.find<QWidget>(name)->grab().toImage();
+            for (int y = 3; y < image.height() - 3; ++y)
+                for (int x = 3; x < image.width() - 3; ++x)
+                    if (image.pixelColor(x, y) != QColor(Qt::white)) return false;
+            return true;
+        };
+        QVERIFY(isEmpty("clipPic1"));
+        QVERIFY(isEmpty("imgHolder1")); // damaged
+        run.navigate("Next");
+        QVERIFY(isEmpty("imgHolder1")); // absent
+        run.navigate("Next");
+        QVERIFY(!isEmpty("imgHolder1"));
+        QVERIFY(run.platform.messages.empty());
+    }
+
+    void fontsThatAreNotThereFallBack() {
+        LayoutSession run(folders_.sample("books.fwk"));
+        for (const char* family : {"No Such Font At All", "", "MS Sans Serif"}) {
+            for (const float size : {8.25F, 0.0F, -3.0F, 1e9F}) {
+                run.objects.layoutField[2].FontName = family;
+                run.objects.layoutField[2].FontSize = size;
+                run.showLayout();
+                layout::InitLayout(run.app, false);
+                run.window.refresh();
+                QVERIFY(!run.field(2)->grab().isNull());
+                QVERIFY(QFontMetrics(run.field(2)->font()).height() > 0);
+            }
         }
     }
-}
 
-void LayoutLimits::theNextRecordIsThereAtOnce() {
-    constexpr int records = 40;
-    const QString file = folders_.path("large.fwk");
-    {
-        std::string data = "[LayoutStart]\r\n";
-        std::string names, types, widths, spots = "1|", row;
-        for (int i = 0; i < 60; ++i) {
-            const int column = i % 44;
-            data += "F|Col" + std::to_string(column) + "|" + std::to_string(600 + i % 4 * 2000) + "|" +
-                    std::to_string(300 + i / 4 * 400) + "|1815|285|False|False|False|Arial|8.25|0|\r\n";
+    void theNextRecordIsThereAtOnce() {
+        constexpr int records = 20;
+        DataFile data({});
+        const auto number = [](int value) { return std::to_string(value); };
+        for (int column = 0; column < 44; ++column) data.addColumn("Col" + number(column), 1 + column % 3);
+        for (int i = 0; i < 60; ++i)
+            data.layout += "F|Col" + number(i % 44) + "|" + number(600 + i % 4 * 2000) + "|" +
+                           number(300 + i / 4 * 400) + "|1815|285|False|False|False|Arial|8.25|0|\r\n";
+        for (int i = 0; i < 4; ++i) {
+            data.addColumn("Photo" + number(i), 7);
+            data.layout += "P|Photo" + number(i) + "|" + number(600 + i * 2600) + "|6500|2500|2500|\r\n";
         }
-        for (int i = 0; i < 4; ++i)
-            data +=
-                "P|Photo" + std::to_string(i) + "|" + std::to_string(600 + i * 2600) + "|6500|2500|2500|\r\n";
-        for (int column = 0; column < 48; ++column) {
-            names +=
-                (column < 44 ? "Col" + std::to_string(column) : "Photo" + std::to_string(column - 44)) + "|";
-            types += column >= 44 ? "7|" : column % 5 == 0 ? "2|" : column % 5 == 1 ? "1|" : "3|";
-            widths += "1440|";
-            spots += std::to_string(column + 2) + "|";
-        }
-        data += "[LayoutEnd]\r\n[Layout Options]4|6|1|1|1|1|1|1|0.15|\r\n[Column Names  ]" + names +
-                "\r\n[Column Types  ]" + types + "\r\n[Column Widths ]" + widths + "\r\n[Column Spots  ]" +
-                spots + "\r\n[Begin Data    ]\r\n";
+        const QString file = folders_.path("large.fwk");
         platform::Zip zip;
         zip.CreateArchive(gui::fromQt(file));
-        for (int record = 0; record < records; ++record) {
-            for (int column = 0; column < 44; ++column)
-                data += "cell " + std::to_string(record * column) + "|";
-            for (int picture = 0; picture < 4; ++picture) {
-                const std::string name =
-                    "p" + std::to_string(record) + "-" + std::to_string(picture) + ".jpg";
-                data += name + "|";
-                zip.addBuffer(name, jpeg({640, 480}, record * 4 + picture).toStdString(), "");
+        std::vector<std::string> pictures;
+        for (int seed = 1; seed <= 4; ++seed) pictures.push_back(jpeg({640, 480}, seed).toStdString());
+        for (int record = 0; record < records; ++record, data.rows += "\r\n") {
+            for (int column = 0; column < 44; ++column) data.rows += "cell " + number(record * column) + "|";
+            for (std::size_t picture = 0; picture < 4; ++picture) {
+                const std::string name = "p" + number(record) + "-" + std::to_string(picture) + ".jpg";
+                data.rows += name + "|";
+                zip.addBuffer(name, pictures.at(picture), "");
             }
-            data += "\r\n";
         }
-        for (int column = 0; column < 48; ++column) data += "------|";
-        zip.addBuffer("data.dat", data + "\r\n", "Main Data File");
+        data.addTotals();
+        zip.addBuffer("data.dat", data.text(), "Main Data File");
         zip.CloseArchive();
+        LayoutSession run(file);
+        run.showLayout();
+        QVERIFY(run.objects.layoutField.count() == 60 && run.objects.imgHolder.count() == 4);
+        run.settle();
+        std::vector<double> unpacking, unpacked;
+        const auto walk = [&](const char* key, std::vector<double>& times) {
+            for (int i = 1; i < records; ++i)
+                times.push_back(milliseconds([&] {
+                    run.navigate(key);
+                    run.settle();
+                }));
+        };
+        walk("Next", unpacking);
+        QCOMPARE(run.LV().indexOf(*run.LV().selectedItem()), records);
+        walk("Back", unpacked);
+        report("next record, 60 fields, 4 pictures to unpack", unpacking, 20);
+        report("the same with pictures that are unpacked", unpacked, 20);
     }
-    LayoutSession run(file);
-    run.showLayout();
-    QVERIFY(run.objects.layoutField.count() == 60 && run.objects.imgHolder.count() == 4);
-    run.settle();
-    std::vector<double> unpacking, unpacked;
-    const auto walk = [&](const char* key, std::vector<double>& times) {
-        for (int i = 1; i < records; ++i)
-            times.push_back(milliseconds([&] {
-                run.navigate(key);
-                run.settle();
-            }));
-    };
-    walk("Next", unpacking);
-    QCOMPARE(run.LV().indexOf(*run.LV().selectedItem()), records);
-    walk("Back", unpacked);
-    report("next record, 60 fields, 4 pictures to unpack", unpacking, 20);
-    report("the same with pictures that are unpacked", unpacked, 20);
-}
 
-void LayoutLimits::movingStaysSmoothAmongManyObjects() {
-    LayoutSession run(folders_.sample("books.fwk"));
-    run.window.resize(1100, 720);
-    run.pressDesign();
-    for (int i = 0; run.objects.count() < 200; ++i) {
-        run.click(i % 4 == 0 ? "Box" : i % 4 == 1 ? "Line" : i % 4 == 2 ? "Label" : "ClipArt");
-        core::LayoutObject& added = objectAt(run.objects, run.page.selectedObject);
-        added.Left = static_cast<float>(200 + i % 14 * 800);
-        added.Top = static_cast<float>(200 + i / 14 * 600);
-        added.Width = added.Height = 500;
+    void movingStaysSmoothAmongManyObjects() {
+        LayoutSession run(folders_.sample("books.fwk"));
+        run.window.resize(1100, 720);
+        run.pressDesign();
+        for (int i = 0; run.objects.count() < 200; ++i) {
+            run.click(i % 4 == 0 ? "Box" : i % 4 == 1 ? "Line" : i % 4 == 2 ? "Label" : "ClipArt");
+            core::LayoutObject& added = objectAt(run.objects, run.page.selectedObject);
+            added.Left = static_cast<float>(200 + i % 14 * 800);
+            added.Top = static_cast<float>(200 + i / 14 * 600);
+            added.Width = added.Height = 500;
+        }
+        run.click("Snap");
+        run.window.refresh();
+        run.settle();
+        for (const char* name : {"layoutField2", "pBox2", "imgHolder1"}) {
+            QWidget* widget = run.object(name);
+            const QPoint start = widget->mapToGlobal(QPoint(5, 5));
+            QTest::mousePress(widget, Qt::LeftButton, {}, {5, 5});
+            std::vector<double> times;
+            for (int step = 1; step <= 60; ++step)
+                times.push_back(milliseconds([&] {
+                    const QPoint to = start + QPoint(step * 5, step * 3);
+                    QMouseEvent move(QEvent::MouseMove, widget->mapFromGlobal(to), to, Qt::NoButton,
+                                     Qt::LeftButton, {});
+                    QApplication::sendEvent(widget, &move);
+                    run.settle();
+                }));
+            QTest::mouseRelease(widget, Qt::LeftButton);
+            report(name, times, 8);
+        }
     }
-    run.click("Snap");
-    run.window.refresh();
-    run.settle();
-    for (const char* name : {"layoutField2", "pBox2", "imgHolder1"}) {
-        QWidget* widget = run.object(name);
-        const QPoint start = widget->mapToGlobal(QPoint(5, 5));
-        QTest::mousePress(widget, Qt::LeftButton, {}, {5, 5});
-        std::vector<double> times;
-        for (int step = 1; step <= 60; ++step)
-            times.push_back(milliseconds([&] {
-                const QPoint to = start + QPoint(step * 5, step * 3);
-                QMouseEvent move(QEvent::MouseMove, widget->mapFromGlobal(to), to, Qt::NoButton,
-                                 Qt::LeftButton, {});
-                QApplication::sendEvent(widget, &move);
-                run.settle();
-            }));
-        QTest::mouseRelease(widget, Qt::LeftButton);
-        report(name, times, 8);
-    }
-}
+};
 
 QTEST_MAIN(LayoutLimits)
 #include "layoutLimits.moc"

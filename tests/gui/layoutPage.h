@@ -2,22 +2,15 @@
 
 #include "session.h"
 
+#include "../support/objectAt.h"
 #include "layout/sheet.h"
 
 #include <QClipboard>
 #include <QImage>
 #include <QScrollBar>
 #include <QSlider>
-#include <QTabBar>
 #include <QTextEdit>
 #include <QToolButton>
-
-// An object that the test knows to be there.
-inline core::LayoutObject& objectAt(core::LayoutObjects& layout, core::ObjectRef ref) {
-    core::LayoutObject* object = core::findObject(layout, ref);
-    if (object == nullptr) core::raise(core::errors::subscriptOutOfRange, ref.name());
-    return *object;
-}
 
 // A run with its layout page: objects are found by the names of their arrays, and every event is the mouse's
 // or the keyboard's. A pixel is 15 twips.
@@ -27,10 +20,7 @@ struct LayoutSession : Session {
     app::LayoutPage& page = app.mainFrm.layoutPage;
     core::LayoutObjects& objects = app.document.layout;
 
-    void showLayout() {
-        QTabBar* bar = find<QTabWidget>("SSTab1")->tabBar();
-        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(app::layoutTab).center());
-    }
+    void showLayout() { showTab(app::layoutTab); }
     void pressDesign() { action("Design")->trigger(); }
     QWidget* sheet() { return find<QWidget>("layoutPic2"); }
     // What takes the mouse of an object: of a text box the viewport.
@@ -39,13 +29,11 @@ struct LayoutSession : Session {
         auto* box = qobject_cast<QTextEdit*>(widget);
         return box != nullptr ? box->viewport() : widget;
     }
-    QTextEdit* field(int index) {
-        return find<QTextEdit>(qPrintable(QStringLiteral("layoutField%1").arg(index)));
-    }
+    QTextEdit* field(int index) { return find<QTextEdit>(qPrintable(u"layoutField%1"_s.arg(index))); }
     QToolButton* button(const char* key) {
         auto* bar = find<QToolBar>("layoutToolbar");
-        return qobject_cast<QToolButton*>(bar->widgetForAction(
-            find<QAction>(qPrintable(QStringLiteral("layoutToolbar.") + QLatin1String(key)))));
+        return qobject_cast<QToolButton*>(
+            bar->widgetForAction(find<QAction>(qPrintable(u"layoutToolbar."_s + QLatin1String(key)))));
     }
     void click(const char* key) { QTest::mouseClick(button(key), Qt::LeftButton); }
     // An entry of a button's menu, by the keyboard.
@@ -60,9 +48,9 @@ struct LayoutSession : Session {
     }
     void navigate(const char* key) {
         auto* bar = find<QToolBar>("layoutNavBar");
-        QTest::mouseClick(bar->widgetForAction(find<QAction>(
-                              qPrintable(QStringLiteral("layoutNavBar.") + QLatin1String(key)))),
-                          Qt::LeftButton);
+        QTest::mouseClick(
+            bar->widgetForAction(find<QAction>(qPrintable(u"layoutNavBar."_s + QLatin1String(key)))),
+            Qt::LeftButton);
     }
     // With the left button, by so many pixels, the pointer on the way at each of the steps.
     void drag(const char* name, QPoint by, QPoint from = {10, 5}, int steps = 8) {

@@ -1,15 +1,9 @@
-#include "session.h"
+#include "formActs.h"
 
-#include "gui/layoutPageSetupFrmView.h"
-#include "gui/reportPageSetupView.h"
 #include "qtprint/pagePainter.h"
 
-#include <QLineEdit>
 #include <QPrintDialog>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
-#include <QTreeWidget>
 
 // What a user prints, and what he sees of it ahead.
 class Print : public QObject {
@@ -26,279 +20,245 @@ private:
         return QString::fromUtf8(process.readAllStandardOutput());
     }
     int pages() const {
-        const QString info = answerOf(QStringLiteral("pdfinfo"), {pdf_});
-        return info.mid(info.indexOf(QLatin1String("Pages:")) + 6).section(QLatin1Char('\n'), 0, 0).toInt();
+        const QString info = answerOf(u"pdfinfo"_s, {pdf_});
+        return info.mid(info.indexOf("Pages:"_L1) + 6).section(u'\n', 0, 0).toInt();
     }
-    QString text() const {
-        return answerOf(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf_, QStringLiteral("-")});
-    }
-    static void goTo(Session& run, int tab) { run.find<QTabWidget>("SSTab1")->setCurrentIndex(tab); }
+    QString text() const { return answerOf(u"pdftotext"_s, {u"-layout"_s, pdf_, u"-"_s}); }
     // The page that the preview holds, as a picture without the dotted margins.
-    static QImage pageOf(Session& run, double dotsPerInch);
-    void comparePageWithPaper(Session& run);
+    static QImage pageOf(Session& run, double dotsPerInch) {
+        const platform::RecordedPage& page = run.app.mainFrm.previewPage.rptPreview1;
+        std::vector<platform::Drawn> drawn;
+        for (const platform::Drawn& each : page.drawn()) {
+            const auto* line = std::get_if<platform::DrawnLine>(&each);
+            if (line == nullptr || line->pen.DrawStyle == platform::LineStyle::Solid) drawn.push_back(each);
+        }
+        const double scale = dotsPerInch / 1440;
+        QImage image(qRound(page.Width * scale), qRound(page.Height * scale), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.scale(scale, scale);
+        qtprint::PagePainter().draw(painter, drawn);
+        return image;
+    }
+
+    // Each dark spot of the one has a dark spot of the other at most one dot away.
+    void comparePageWithPaper(Session& run) {
+        constexpr double dotsPerInch = 144;
+        const QImage shown = pageOf(run, dotsPerInch);
+        const QString picture = folders_.path("page");
+        answerOf(u"pdftoppm"_s, {u"-r"_s, QString::number(dotsPerInch), u"-l"_s, u"1"_s, u"-png"_s,
+                                 u"-singlefile"_s, pdf_, picture});
+        const QImage printed = QImage(picture + u".png"_s).convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(printed.size(), shown.size());
+        const auto grey = [](const QImage& image, int x, int y) { return qGray(image.pixel(x, y)); };
+        const auto darkestNear = [&](const QImage& image, int x, int y) {
+            int darkest = 255;
+            for (int dx = -1; dx <= 1; ++dx)
+                for (int dy = -1; dy <= 1; ++dy) darkest = std::min(darkest, grey(image, x + dx, y + dy));
+            return darkest;
+        };
+        int dark = 0, lonely = 0;
+        for (int y = 1; y + 1 < shown.height(); ++y)
+            for (int x = 1; x + 1 < shown.width(); ++x)
+                for (const auto& [one, other] : {std::pair(&shown, &printed), std::pair(&printed, &shown)}) {
+                    if (grey(*one, x, y) > 96) continue;
+                    ++dark;
+                    if (darkestNear(*other, x, y) > 176) ++lonely;
+                }
+        QVERIFY2(dark > 3000, qPrintable(QString::number(dark)));
+        QVERIFY2(lonely == 0, qPrintable(u"%1 of %2"_s.arg(lonely).arg(dark)));
+    }
 
 private slots:
     void init() {
         Folders::forgetSettings();
         QFile::remove(pdf_);
     }
-    void theReportIsShownTurnedAndPrinted();
-    void manyLayoutsAreShownAndPrinted();
-    void theReportDialogChangesThePreviewBehindIt();
-    void theLayoutDialogChangesThePaper();
-    void previewAndPaperAgree();
-    void aPreviewPageIsQuick();
-    void thePrintDialogTakesAFile();
-    void aPrinterGetsItsPaperAndItsJobs();
-    void aPdfFileIsNotOverwrittenUnasked();
-    void aFileThatCannotBeWrittenIsTold();
-};
-
-void Print::theReportIsShownTurnedAndPrinted() {
-    Session run(folders_.sample("packages-500.fwk"));
-    goTo(run, app::previewTab);
-    auto* port = run.find<QWidget>("rptPreview2");
-    QVERIFY(port->isVisible());
-    const QImage first = port->grab().toImage();
-    QVERIFY(!run.find<QScrollBar>("rptVScroll1")->isHidden());
-    run.action("reportToolbar.Next")->trigger();
-    QVERIFY(port->grab().toImage() != first);
-    run.action("reportToolbar.First")->trigger();
-    QCOMPARE(port->grab().toImage(), first);
-    // Keys and bar move the page in its port.
-    QTest::keyClick(port, Qt::Key_Down);
-    QCOMPARE(run.app.mainFrm.previewPage.Top, -240.0F);
-    run.find<QScrollBar>("rptVScroll1")->setValue(1000);
-    QCOMPARE(run.app.mainFrm.previewPage.Top, -1000.0F);
-
-    run.platform.chosenFile = gui::fromQt(pdf_);
-    run.action("mnuPrint")->trigger();
-    QVERIFY(run.platform.messages.empty());
-    QCOMPARE(pages(), 8);
-    for (int record : {0, 250, 499}) QVERIFY(text().contains(run.cell(record, "Package").left(15)));
-    // Nothing was asked for that the user has cancelled.
-    run.platform.chosenFile.reset();
-    run.action("All_As_Report")->trigger();
-    QVERIFY(run.platform.messages.empty());
-}
-
-void Print::manyLayoutsAreShownAndPrinted() {
-    Session run(folders_.sample("books.fwk"));
-    run.action("Multiple_Layout_Preview_All")->trigger();
-    QCOMPARE(run.find<QTabWidget>("SSTab1")->currentIndex(), int(app::previewTab));
-    const QImage first = run.find<QWidget>("rptPreview2")->grab().toImage();
-    run.action("reportToolbar.Last")->trigger();
-    QVERIFY(run.find<QWidget>("rptPreview2")->grab().toImage() != first);
-    run.platform.chosenFile = gui::fromQt(pdf_);
-    run.action("Print")->trigger();
-    QCOMPARE(pages(), 14);
-    QVERIFY(text().contains(QStringLiteral("Les Misérables")));
-}
-
-void Print::theReportDialogChangesThePreviewBehindIt() {
-    Session run(folders_.sample("books.fwk"));
-    goTo(run, app::previewTab);
-    const QString behind = QStringLiteral("rptPreview2");
-    const QImage before = run.find<QWidget>("rptPreview2")->grab().toImage();
-    QTimer::singleShot(0, this, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog != nullptr);
-        QCOMPARE(dialog->objectName(), QStringLiteral("reportPageSetup"));
-        QCOMPARE(dialog->windowTitle(), QStringLiteral("Report Page Setup"));
-        dialog->findChild<QLineEdit*>(QStringLiteral("titleTxt"))->setText(QStringLiteral("Landscape books"));
-        dialog->findChild<QRadioButton*>(QStringLiteral("LandscapeOpt"))->click();
-        auto* columns = dialog->findChild<QTreeWidget*>(QStringLiteral("LV3"));
-        columns->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-        dialog->findChild<QPushButton*>(QStringLiteral("ApplyBtn"))->click();
-        QVERIFY(run.window.findChild<QWidget*>(behind)->grab().toImage() != before);
-        QTest::keyClick(dialog, Qt::Key_Escape);
-    });
-    gui::reportPageSetupView(run.app, run.window.events(), &run.window).showModal();
-    QCOMPARE(run.app.document.reportData.reportTitle, std::string("Landscape books"));
-    QCOMPARE(run.app.mainFrm.previewPage.rptPreview1.Width, 15840.0F);
-    QVERIFY(!run.app.document.printedCols.contains("No"));
-    QCOMPARE(run.panel(5), QStringLiteral("Document Modified"));
-}
-
-void Print::theLayoutDialogChangesThePaper() {
-    Session run(folders_.sample("books.fwk"));
-    goTo(run, app::layoutTab);
-    QTimer::singleShot(0, this, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog != nullptr);
-        auto* papers = dialog->findChild<QTreeWidget*>(QStringLiteral("paperList"));
-        QCOMPARE(papers->currentItem()->text(0), QStringLiteral("Letter"));
-        auto* custom = dialog->findChild<QWidget*>(QStringLiteral("customFrm"));
-        QVERIFY(!custom->isVisible());
-        papers->setCurrentItem(papers->topLevelItem(papers->topLevelItemCount() - 1));
-        QVERIFY(custom->isVisible());
-        const auto a4 = papers->findItems(QStringLiteral("A4"), Qt::MatchExactly);
-        QCOMPARE(a4.size(), 1);
-        papers->setCurrentItem(a4.first());
-        QVERIFY(!custom->isVisible());
-        dialog->findChild<QLineEdit*>(QStringLiteral("leftTxt"))->setText(QStringLiteral("0.5"));
-        dialog->findChild<QPushButton*>(QStringLiteral("OKButton"))->click();
-    });
-    gui::layoutPageSetupFrmView(run.app, run.window.events(), &run.window).showModal();
-    QCOMPARE(run.app.document.layoutOptions.layoutPaperSize, std::int16_t{9});
-    QCOMPARE(run.app.document.layoutOptions.layoutLeftMargin, 0.5F);
-    QCOMPARE(run.app.mainFrm.layoutPage.layoutPic2.Width, 11906.0F);
-}
-
-QImage Print::pageOf(Session& run, double dotsPerInch) {
-    const platform::RecordedPage& page = run.app.mainFrm.previewPage.rptPreview1;
-    std::vector<platform::Drawn> drawn;
-    for (const platform::Drawn& each : page.drawn()) {
-        const auto* line = std::get_if<platform::DrawnLine>(&each);
-        if (line == nullptr || line->pen.DrawStyle == platform::LineStyle::Solid) drawn.push_back(each);
-    }
-    const double scale = dotsPerInch / 1440;
-    QImage image(qRound(page.Width * scale), qRound(page.Height * scale), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.scale(scale, scale);
-    qtprint::PagePainter().draw(painter, drawn);
-    return image;
-}
-
-// Each dark spot of the one has a dark spot of the other at most one dot away.
-void Print::comparePageWithPaper(Session& run) {
-    constexpr double dotsPerInch = 144;
-    const QImage shown = pageOf(run, dotsPerInch);
-    const QString picture = folders_.path("page");
-    answerOf(QStringLiteral("pdftoppm"),
-             {QStringLiteral("-r"), QString::number(dotsPerInch), QStringLiteral("-l"), QStringLiteral("1"),
-              QStringLiteral("-png"), QStringLiteral("-singlefile"), pdf_, picture});
-    const QImage printed = QImage(picture + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
-    QCOMPARE(printed.size(), shown.size());
-    const auto grey = [](const QImage& image, int x, int y) { return qGray(image.pixel(x, y)); };
-    const auto darkestNear = [&](const QImage& image, int x, int y) {
-        int darkest = 255;
-        for (int dx = -1; dx <= 1; ++dx)
-            for (int dy = -1; dy <= 1; ++dy) darkest = std::min(darkest, grey(image, x + dx, y + dy));
-        return darkest;
-    };
-    int dark = 0, lonely = 0;
-    for (int y = 1; y + 1 < shown.height(); ++y)
-        for (int x = 1; x + 1 < shown.width(); ++x)
-            for (const auto& [one, other] : {std::pair(&shown, &printed), std::pair(&printed, &shown)}) {
-                if (grey(*one, x, y) > 96) continue;
-                ++dark;
-                if (darkestNear(*other, x, y) > 176) ++lonely;
-            }
-    QVERIFY2(dark > 3000, qPrintable(QString::number(dark)));
-    QVERIFY2(lonely == 0, qPrintable(QStringLiteral("%1 of %2").arg(lonely).arg(dark)));
-}
-
-void Print::previewAndPaperAgree() {
-    if (QStandardPaths::findExecutable(QStringLiteral("pdftoppm")).isEmpty())
-        QSKIP("poppler-utils is not installed");
-    Session run(folders_.sample("books.fwk"));
-    run.platform.chosenFile = gui::fromQt(pdf_);
-    goTo(run, app::previewTab);
-    run.action("Print")->trigger();
-    comparePageWithPaper(run);
-    QFile::remove(pdf_);
-    run.action("Multiple_Layout_Preview_All")->trigger();
-    run.action("Print")->trigger();
-    run.action("reportToolbar.First")->trigger();
-    comparePageWithPaper(run);
-}
-
-void Print::aPreviewPageIsQuick() {
-    Session run(folders_.sample("packages-32000.fwk"));
-    goTo(run, app::previewTab);
-    auto* port = run.find<QWidget>("rptPreview2");
-    port->grab();
-    constexpr int turns = 10;
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < turns; ++i) {
+    void theReportIsShownTurnedAndPrinted() {
+        Session run(folders_.sample("packages-500.fwk"));
+        run.showTab(app::previewTab);
+        auto* port = run.find<QWidget>("rptPreview2");
+        QVERIFY(port->isVisible());
+        const QImage first = port->grab().toImage();
+        QVERIFY(!run.find<QScrollBar>("rptVScroll1")->isHidden());
         run.action("reportToolbar.Next")->trigger();
-        port->grab();
+        QVERIFY(port->grab().toImage() != first);
+        run.action("reportToolbar.First")->trigger();
+        QCOMPARE(port->grab().toImage(), first);
+        // Keys and bar move the page in its port.
+        QTest::keyClick(port, Qt::Key_Down);
+        QCOMPARE(run.app.mainFrm.previewPage.Top, -240.0F);
+        run.find<QScrollBar>("rptVScroll1")->setValue(1000);
+        QCOMPARE(run.app.mainFrm.previewPage.Top, -1000.0F);
+
+        run.platform.chosenFile = gui::fromQt(pdf_);
+        run.action("mnuPrint")->trigger();
+        QVERIFY(run.platform.messages.empty());
+        QCOMPARE(pages(), 8);
+        for (int record : {0, 250, 499}) QVERIFY(text().contains(run.cell(record, "Package").left(15)));
+        // Nothing was asked for that the user has cancelled.
+        run.platform.chosenFile.reset();
+        run.action("All_As_Report")->trigger();
+        QVERIFY(run.platform.messages.empty());
     }
-    const double each = static_cast<double>(timer.nsecsElapsed()) / 1e6 / turns;
-    qInfo("a preview page: %.1f ms", each);
-    QVERIFY2(each < 500, "ten times what a released build may take");
-}
 
-void Print::thePrintDialogTakesAFile() {
-    Session run(folders_.sample("books.fwk"));
-    if (!run.platform.QtPlatform::printerDeviceName().starts_with("Print to PDF"))
-        QSKIP("this system has printers, which are not to be printed on");
-    goTo(run, app::layoutTab);
-    QTimer::singleShot(0, this, [&] {
-        auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog != nullptr);
-        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("filename"));
-        QVERIFY(name != nullptr);
-        QCOMPARE(name->text(), folders_.path("books.pdf")); // beside the database
-        name->setText(pdf_);
-        dialog->accept();
-    });
-    run.action("Selected_As_Layouts")->trigger();
-    QVERIFY(run.platform.messages.empty());
-    QCOMPARE(pages(), 1);
-    QVERIFY(text().contains(QStringLiteral("The Odyssey")));
-    QTimer::singleShot(0, this, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
-    QFile::remove(pdf_);
-    run.action("All_As_Layouts")->trigger();
-    QVERIFY(!QFile::exists(pdf_));
-}
-
-// The way to a printer of the system, which here writes into a file.
-void Print::aPrinterGetsItsPaperAndItsJobs() {
-    gui::SystemPrinter printer;
-    if (!printer.isPdf()) QSKIP("this system has printers, which are not to be printed on");
-    QTimer::singleShot(0, this, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
-    const auto choice = printer.showDialog({9, 2}, pdf_, nullptr);
-    QVERIFY(choice.has_value());
-    QCOMPARE(choice->PaperSize, 9);
-    QCOMPARE(choice->Orientation, 2);
-    QCOMPARE(printer.takeFileName(), pdf_);
-    QVERIFY(printer.takeFileName().isEmpty());
-    qtprint::QtTextMetrics metrics;
-    const auto target = printer.open("job", metrics);
-    target->setPage({9, 2, 16838, 11906});
-    target->FontSize = 12;
-    for (const char* line : {"first sheet", "second sheet"}) {
-        target->CurrentX = target->CurrentY = 1440;
-        target->Print(line, true);
-        if (*line == 'f') target->NewPage();
+    void manyLayoutsAreShownAndPrinted() {
+        Session run(folders_.sample("books.fwk"));
+        run.action("Multiple_Layout_Preview_All")->trigger();
+        QCOMPARE(run.find<QTabWidget>("SSTab1")->currentIndex(), int(app::previewTab));
+        const QImage first = run.find<QWidget>("rptPreview2")->grab().toImage();
+        run.action("reportToolbar.Last")->trigger();
+        QVERIFY(run.find<QWidget>("rptPreview2")->grab().toImage() != first);
+        run.platform.chosenFile = gui::fromQt(pdf_);
+        run.action("Print")->trigger();
+        QCOMPARE(pages(), 14);
+        QVERIFY(text().contains(u"Les Misérables"_s));
     }
-    target->EndDoc();
-    QVERIFY(target->close());
-    QCOMPARE(pages(), 2);
-    QVERIFY(answerOf(QStringLiteral("pdfinfo"), {pdf_}).contains(QLatin1String("842 x 595")));
-    const QString box =
-        answerOf(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf_, QStringLiteral("-")});
-    QVERIFY2(box.contains(QLatin1String("xMin=\"72.0")), qPrintable(box.left(900)));
-}
 
-void Print::aPdfFileIsNotOverwrittenUnasked() {
-    Session run(folders_.sample("books.fwk"));
-    QFile old(pdf_);
-    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
-    old.close();
-    run.platform.chosenFile = gui::fromQt(pdf_);
-    run.platform.answers = {platform::Answer::No};
-    run.action("Print")->trigger();
-    QCOMPARE(run.platform.messages.size(), std::size_t{1});
-    QCOMPARE(QFileInfo(pdf_).size(), 3);
-    run.platform.answers = {platform::Answer::Yes};
-    run.action("Print")->trigger();
-    QCOMPARE(pages(), 1);
-}
+    void theReportDialogChangesThePreviewBehindIt() {
+        Session run(folders_.sample("books.fwk"));
+        run.showTab(app::previewTab);
+        const QImage before = run.find<QWidget>("rptPreview2")->grab().toImage();
+        run.platform.scripts[u"reportPageSetup"_s] = [&](QDialog& form) {
+            in<QLineEdit>(form, "titleTxt")->setText(u"Landscape books"_s);
+            in<QRadioButton>(form, "LandscapeOpt")->click();
+            in<QTreeWidget>(form, "LV3")->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+            click(form, "ApplyBtn");
+            QVERIFY(run.find<QWidget>("rptPreview2")->grab().toImage() != before);
+            QTest::keyClick(&form, Qt::Key_Escape);
+        };
+        run.action("PageSetup")->trigger();
+        QCOMPARE(run.app.document.reportData.reportTitle, std::string("Landscape books"));
+        QCOMPARE(run.app.mainFrm.previewPage.rptPreview1.Width, 15840.0F);
+        QVERIFY(!run.app.document.printedCols.contains("No"));
+    }
 
-void Print::aFileThatCannotBeWrittenIsTold() {
-    Session run(folders_.sample("books.fwk"));
-    run.platform.chosenFile = gui::fromQt(folders_.path("no/such/folder/out.pdf"));
-    run.action("Print")->trigger();
-    QCOMPARE(run.platform.messages.size(), std::size_t{1});
-    QVERIFY(run.platform.messages[0].text.contains(QStringLiteral("could not be written")));
-    QCOMPARE(run.platform.messages[0].caption, QStringLiteral("Print to PDF"));
-}
+    void theLayoutDialogChangesThePaper() {
+        Session run(folders_.sample("books.fwk"));
+        run.showTab(app::layoutTab);
+        run.platform.scripts[u"layoutPageSetupFrm"_s] = [](QDialog& form) {
+            auto* papers = in<QTreeWidget>(form, "paperList");
+            QCOMPARE(papers->currentItem()->text(0), u"Letter"_s);
+            const auto* custom = in<QWidget>(form, "customFrm");
+            papers->setCurrentItem(papers->topLevelItem(papers->topLevelItemCount() - 1));
+            QVERIFY(custom->isVisible());
+            papers->setCurrentItem(rowOf(papers, "A4"));
+            QVERIFY(!custom->isVisible());
+            in<QLineEdit>(form, "leftTxt")->setText(u"0.5"_s);
+            click(form, "OKButton");
+        };
+        run.action("PageSetup")->trigger();
+        QCOMPARE(run.app.document.layoutOptions.layoutPaperSize, std::int16_t{9});
+        QCOMPARE(run.app.document.layoutOptions.layoutLeftMargin, 0.5F);
+        QCOMPARE(run.app.mainFrm.layoutPage.layoutPic2.Width, 11906.0F);
+    }
+
+    void previewAndPaperAgree() {
+        if (QStandardPaths::findExecutable(u"pdftoppm"_s).isEmpty()) QSKIP("poppler-utils is not installed");
+        Session run(folders_.sample("books.fwk"));
+        run.platform.chosenFile = gui::fromQt(pdf_);
+        run.showTab(app::previewTab);
+        run.action("Print")->trigger();
+        comparePageWithPaper(run);
+        QFile::remove(pdf_);
+        run.action("Multiple_Layout_Preview_All")->trigger();
+        run.action("Print")->trigger();
+        run.action("reportToolbar.First")->trigger();
+        comparePageWithPaper(run);
+    }
+
+    void aPreviewPageIsQuick() {
+        Session run(folders_.sample("packages-32000.fwk"));
+        run.showTab(app::previewTab);
+        constexpr int turns = 10;
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < turns; ++i) {
+            run.action("reportToolbar.Next")->trigger();
+            run.find<QWidget>("rptPreview2")->grab();
+        }
+        QVERIFY2(timer.elapsed() < 500 * turns, "ten times what a released build may take");
+    }
+
+    void thePrintDialogTakesAFile() {
+        Session run(folders_.sample("books.fwk"));
+        if (!run.platform.QtPlatform::printerDeviceName().starts_with("Print to PDF"))
+            QSKIP("this system has printers, which are not to be printed on");
+        run.showTab(app::layoutTab);
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            auto* name = dialog->findChild<QLineEdit*>(u"filename"_s);
+            QVERIFY(name != nullptr);
+            QCOMPARE(name->text(), folders_.path("books.pdf")); // beside the database
+            name->setText(pdf_);
+            dialog->accept();
+        });
+        run.action("Selected_As_Layouts")->trigger();
+        QVERIFY(run.platform.messages.empty());
+        QCOMPARE(pages(), 1);
+        QVERIFY(text().contains(u"The Odyssey"_s));
+        QTimer::singleShot(0, this,
+                           [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
+        QFile::remove(pdf_);
+        run.action("All_As_Layouts")->trigger();
+        QVERIFY(!QFile::exists(pdf_));
+    }
+
+    // The way to a printer of the system, which here writes into a file.
+    void aPrinterGetsItsPaperAndItsJobs() {
+        gui::SystemPrinter printer;
+        if (!printer.isPdf()) QSKIP("this system has printers, which are not to be printed on");
+        QTimer::singleShot(0, this,
+                           [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
+        const auto choice = printer.showDialog({9, 2}, pdf_, nullptr);
+        QVERIFY(choice.has_value());
+        QCOMPARE(choice->PaperSize, 9);
+        QCOMPARE(choice->Orientation, 2);
+        QCOMPARE(printer.takeFileName(), pdf_);
+        QVERIFY(printer.takeFileName().isEmpty());
+        qtprint::QtTextMetrics metrics;
+        const auto target = printer.open("job", metrics);
+        target->setPage({9, 2, 16838, 11906});
+        target->FontSize = 12;
+        for (const char* line : {"first sheet", "second sheet"}) {
+            target->CurrentX = target->CurrentY = 1440;
+            target->Print(line, true);
+            if (*line == 'f') target->NewPage();
+        }
+        target->EndDoc();
+        QVERIFY(target->close());
+        QCOMPARE(pages(), 2);
+        QVERIFY(answerOf(u"pdfinfo"_s, {pdf_}).contains("842 x 595"_L1));
+        const QString box = answerOf(u"pdftotext"_s, {u"-bbox"_s, pdf_, u"-"_s});
+        QVERIFY2(box.contains("xMin=\"72.0"_L1), qPrintable(box.left(900)));
+    }
+
+    void aPdfFileIsNotOverwrittenUnasked() {
+        Session run(folders_.sample("books.fwk"));
+        QFile old(pdf_);
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+        old.close();
+        run.platform.chosenFile = gui::fromQt(pdf_);
+        run.platform.answers = {platform::Answer::No};
+        run.action("Print")->trigger();
+        QCOMPARE(run.platform.messages.size(), std::size_t{1});
+        QCOMPARE(QFileInfo(pdf_).size(), 3);
+        run.platform.answers = {platform::Answer::Yes};
+        run.action("Print")->trigger();
+        QCOMPARE(pages(), 1);
+    }
+
+    void aFileThatCannotBeWrittenIsTold() {
+        Session run(folders_.sample("books.fwk"));
+        run.platform.chosenFile = gui::fromQt(folders_.path("no/such/folder/out.pdf"));
+        run.action("Print")->trigger();
+        QCOMPARE(run.platform.messages.size(), std::size_t{1});
+        QVERIFY(run.platform.messages[0].text.contains(u"could not be written"_s));
+        QCOMPARE(run.platform.messages[0].caption, u"Print to PDF"_s);
+    }
+};
 
 QTEST_MAIN(Print)
 #include "print.moc"

@@ -18,9 +18,9 @@ private slots:
         auto* button = session.find<QAbstractButton>("sample_library");
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Space);
-        QCOMPARE(session.cell(0, "Title"), QStringLiteral("The Salt Road"));
+        QCOMPARE(session.cell(0, "Title"), u"The Salt Road"_s);
         QCOMPARE(gui::toQt(session.app.document.currentFile),
-                 folders_.path("home") + QStringLiteral("/Documents/Ferrowick/library.fwk"));
+                 folders_.path("home") + u"/Documents/Ferrowick/library.fwk"_s);
         QVERIFY(!button->isVisible());
         QVERIFY(session.platform.messages.empty());
     }
@@ -33,11 +33,10 @@ private slots:
             if (widget->isVisible() && qobject_cast<QAbstractButton*>(widget) != nullptr &&
                 (widget->focusPolicy() & Qt::TabFocus) != 0)
                 order << widget->objectName();
-        const QStringList wanted = {QStringLiteral("start_mnuNew"),   QStringLiteral("start_mnuOpen"),
-                                    QStringLiteral("sample_library"), QStringLiteral("sample_addresses"),
-                                    QStringLiteral("sample_garden"),  QStringLiteral("sample_inventory"),
-                                    QStringLiteral("sample_invoices")};
-        order.removeIf([](const QString& name) { return name.startsWith(QLatin1String("start_mnuFile")); });
+        const QStringList wanted = {u"start_mnuNew"_s,     u"start_mnuOpen"_s, u"sample_library"_s,
+                                    u"sample_addresses"_s, u"sample_garden"_s, u"sample_inventory"_s,
+                                    u"sample_invoices"_s};
+        order.removeIf([](const QString& name) { return name.startsWith("start_mnuFile"_L1); });
         QCOMPARE(order.mid(0, wanted.size()), wanted);
     }
 

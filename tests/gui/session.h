@@ -1,12 +1,15 @@
 #pragma once
 
+#include "../support/dataFile.h"
 #include "gui/mainFrmView.h"
 #include "gui/qtText.h"
 #include "gui/recordsView.h"
+#include "platform/zip.h"
 #include "shell/mainWindow.h"
 
 #include <QDialog>
 #include <QHeaderView>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -14,6 +17,8 @@
 #include <deque>
 #include <functional>
 #include <map>
+
+using namespace Qt::StringLiterals;
 
 // The platform of the window, but its dialogs are answered by the test.
 class ScriptedPlatform : public gui::QtPlatform {
@@ -54,7 +59,7 @@ public:
                 qFatal("%s is not active", qPrintable(form));
             act(*dialog);
             if (!dialog->isVisible()) return;
-            QTest::qFail(qPrintable(form + QStringLiteral(" is still open")), __FILE__, __LINE__);
+            QTest::qFail(qPrintable(form + u" is still open"_s), __FILE__, __LINE__);
             std::_Exit(EXIT_FAILURE); // nobody would ever close it
         });
         QtPlatform::showForm(name);
@@ -93,9 +98,7 @@ struct Session {
         return found;
     }
     QAction* action(const char* key) { return find<QAction>(key); }
-    QString panel(int number) {
-        return find<QLabel>(qPrintable(QStringLiteral("SB1_%1").arg(number)))->text();
-    }
+    QString panel(int number) { return find<QLabel>(qPrintable(u"SB1_%1"_s.arg(number)))->text(); }
     gui::RecordsView* list(const char* name = "LV") { return find<gui::RecordsView>(name); }
     core::RecordsList& LV() { return app.document.LV; }
 
@@ -109,15 +112,32 @@ struct Session {
     QString cell(int row, const char* column, const char* listName = "LV") {
         return list(listName)->model()->index(row, section(column, listName)).data().toString();
     }
+    // The columns as they are shown, "a|b", of each row.
+    QStringList texts(const char* listName = "LV") {
+        const gui::RecordsView* view = list(listName);
+        QStringList all;
+        for (int row = 0; row < view->model()->rowCount(); ++row) {
+            QStringList cells;
+            for (int place = 0; place < view->model()->columnCount(); ++place)
+                cells << view->model()->index(row, view->header()->logicalIndex(place)).data().toString();
+            all << cells.join(u'|');
+        }
+        return all;
+    }
+    void showTab(int tab) {
+        QTabBar* bar = find<QTabWidget>("SSTab1")->tabBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+    }
     int rows(const char* listName = "LV") { return list(listName)->model()->rowCount(); }
 
-    QPoint headerPlace(int section) {
-        const QHeaderView* header = list()->header();
+    QPoint headerPlace(int section, const char* listName = "LV") {
+        const QHeaderView* header = list(listName)->header();
         return {header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
                 header->height() / 2};
     }
-    void clickHeader(const char* column) {
-        QTest::mouseClick(list()->header()->viewport(), Qt::LeftButton, {}, headerPlace(section(column)));
+    void clickHeader(const char* column, const char* listName = "LV") {
+        QTest::mouseClick(list(listName)->header()->viewport(), Qt::LeftButton, {},
+                          headerPlace(section(column, listName), listName));
     }
     void clickRow(int row, Qt::KeyboardModifiers modifiers = {}, const char* listName = "LV") {
         gui::RecordsView* view = list(listName);
@@ -160,7 +180,21 @@ public:
         QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
         return copy;
     }
+    // A database made in the test.
+    QString database(const char* name, const DataFile& file) const {
+        QFile::remove(path(name));
+        platform::Zip zip;
+        zip.CreateArchive(gui::fromQt(path(name)));
+        zip.addBuffer("data.dat", file.text(), "Main Data File");
+        zip.CloseArchive();
+        return path(name);
+    }
 
 private:
     QTemporaryDir folder_;
 };
+
+// The name of the recovery copy that the last message tells.
+inline QString copyTold(const Session& run) {
+    return run.platform.messages.back().text.section(u'\n', -1);
+}

@@ -44,13 +44,11 @@ TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
         const char* what;
         std::initializer_list<const char*> positions;
         const char* columns;
-    } cases[] = {
-        {"none", {}, "No|Customer|Subtotal|Tax|"},
-        {"moved", {"1", "5", "2", "3", "4"}, "Customer|Subtotal|Tax|No|"},
-        {"each moved past others", {"1", "4", "5", "3", "2"}, "Tax|Subtotal|No|Customer|"},
-        {"beyond the table", {"1", "99"}, "Customer|Subtotal|Tax|No|"},
-        {"more than columns", {"1", "2", "3", "4", "5", "6", "7"}, "No|Customer|Subtotal|Tax|"},
-    };
+    } cases[] = {{"none", {}, "No|Customer|Subtotal|Tax|"},
+                 {"moved", {"1", "5", "2", "3", "4"}, "Customer|Subtotal|Tax|No|"},
+                 {"each moved past others", {"1", "4", "5", "3", "2"}, "Tax|Subtotal|No|Customer|"},
+                 {"beyond the table", {"1", "99"}, "Customer|Subtotal|Tax|No|"},
+                 {"more than columns", {"1", "2", "3", "4", "5", "6", "7"}, "No|Customer|Subtotal|Tax|"}};
     for (const auto& c : cases) {
         app.document.invoiceCols.clear();
         for (const char* position : c.positions) app.document.invoiceCols.add(position);

@@ -125,15 +125,13 @@ TEST_F(Sheet, ResizingGivesEachKindItsOwnDirections) {
         const char* free;    // pointer to (2345, 1678) from the grip, the object at (1000, 1000)
         const char* snapped; // 1345 is 11.2 steps, 678 is 5.65
     };
-    const Case cases[] = {
-        {Family::layoutField, "1000 1000 1345 678", "1000 1000 1320 720"},
-        {Family::tLabel, "1000 1000 1345 678", "1000 1000 1320 720"},
-        {Family::pbLine, "1000 1000 1345 75", "1000 1000 1320 75"},
-        {Family::vLine, "1000 1000 75 678", "1000 1000 75 720"},
-        {Family::pBox, "1000 1000 1345 678", "1000 1000 1320 720"},
-        {Family::imgHolder, "1000 1000 1345 678", "1000 1000 1320 720"},
-        {Family::clipPic, "1000 1000 1345 678", "1000 1000 1320 720"},
-    };
+    const Case cases[] = {{Family::layoutField, "1000 1000 1345 678", "1000 1000 1320 720"},
+                          {Family::tLabel, "1000 1000 1345 678", "1000 1000 1320 720"},
+                          {Family::pbLine, "1000 1000 1345 75", "1000 1000 1320 75"},
+                          {Family::vLine, "1000 1000 75 678", "1000 1000 75 720"},
+                          {Family::pBox, "1000 1000 1345 678", "1000 1000 1320 720"},
+                          {Family::imgHolder, "1000 1000 1345 678", "1000 1000 1320 720"},
+                          {Family::clipPic, "1000 1000 1345 678", "1000 1000 1320 720"}};
     open(lines);
     for (const Case& c : cases) {
         for (const bool snap : {false, true}) {

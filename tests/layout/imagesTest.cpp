@@ -21,8 +21,7 @@ TEST_F(Sheet, ImagesAreFittedToTheTwip) {
         {{3000, 3000}, 121, 1, 1573, 1573, true},                  // by the height: two twips are left
         {{30000, 1500}, 0.5F, 742.15F, 1814, 90.7F, true},         // too wide for that: one twip is left
         {{1815, 100}, 0.5F, 737.527548F, 1814, 99.9449036F, true}, // a small height is scaled up first
-        {{15, 30000}, 907.10675F, 1, 0.7865F, 1573, true},
-    };
+        {{15, 30000}, 907.10675F, 1, 0.7865F, 1573, true}};
     open();
     core::ImgHolder holder = objects.imgHolder.templateElement();
     for (const Case& c : cases) {
@@ -74,13 +73,10 @@ TEST_F(Sheet, RecordsShowTheirImages) {
 TEST_F(Sheet, ADamagedImageLeavesItsHolderEmpty) {
     platform.pictures["bolt.jpg"] = {1500, 1500};
     platform.pictures["art.gif"] = {1500, 1500};
-    DataFile data;
+    DataFile data({{"Photo", 7}, {"Second_Photo", 7}});
     data.layout = lines;
-    data.names = "Photo|Second_Photo|";
-    data.types = "7|7|";
-    data.widths = "1440|1440|";
-    data.spots = "1|2|3|";
-    data.rows = "bolt.jpg|bolt.jpg|\r\n------|------|\r\n";
+    data.rows = "bolt.jpg|bolt.jpg|\r\n";
+    data.addTotals();
     const std::string file = program.make("sheet.fwk", data.text(), {"bolt.jpg", "art.gif"});
     // One byte of each image's contents is another one: the checksum tells.
     std::string bytes = ScriptedPlatform::read(file);

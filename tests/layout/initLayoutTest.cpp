@@ -50,15 +50,6 @@ TEST_F(Sheet, BothModesShowTheirSide) {
     EXPECT_EQ(objects.layoutField[2].BackColor, core::white);
 }
 
-TEST_F(Sheet, DesignIsRefusedWhenLocked) {
-    open();
-    app.document.lockPassword = "x";
-    shell::pressDesign(app);
-    EXPECT_FALSE(layout::isDesignMode(app));
-    EXPECT_EQ(platform.lastMessage(),
-              "The database structure and layout have been locked.  Use the Options menu to unlock.");
-}
-
 TEST_F(Sheet, OnlyTheHeadOfARepeatedFieldAnswersTheMouse) {
     const std::string line = "F|Qty|100|100|1000|300|False|False|False|Arial|8|0|\r\n";
     open(line + line + fields + line);
@@ -80,16 +71,14 @@ TEST_F(Sheet, ThePaperGivesTheSheetItsSize) {
         long width, tall;
         const char* label;
     };
-    const Case cases[] = {
-        {1, 1, 4, 6, 12240, 15840, "Paper Size: 8.5 x 11"},
-        {5, 1, 4, 6, 12240, 20160, "Paper Size: 8.5 x 14"},
-        {1, 2, 4, 6, 15840, 12240, "Paper Size: 11 x 8.5"},
-        {9, 1, 4, 6, 11906, 16838, "Paper Size: 8.3 x 11.7"},
-        {256, 1, 5.5F, 8.5F, 7920, 12240, "Paper Size: 5.5 x 8.5"},
-        {256, 1, 4.1F, 3.05F, 5904, 4392, "Paper Size: 4.1 x 3"},
-        {999, 1, 4, 6, 12240, 15840, "Paper Size: 8.5 x 11"},
-        {256, 1, -3, 1e30F, 0, 720000, "Paper Size: 0 x 500"},
-    };
+    const Case cases[] = {{1, 1, 4, 6, 12240, 15840, "Paper Size: 8.5 x 11"},
+                          {5, 1, 4, 6, 12240, 20160, "Paper Size: 8.5 x 14"},
+                          {1, 2, 4, 6, 15840, 12240, "Paper Size: 11 x 8.5"},
+                          {9, 1, 4, 6, 11906, 16838, "Paper Size: 8.3 x 11.7"},
+                          {256, 1, 5.5F, 8.5F, 7920, 12240, "Paper Size: 5.5 x 8.5"},
+                          {256, 1, 4.1F, 3.05F, 5904, 4392, "Paper Size: 4.1 x 3"},
+                          {999, 1, 4, 6, 12240, 15840, "Paper Size: 8.5 x 11"},
+                          {256, 1, -3, 1e30F, 0, 720000, "Paper Size: 0 x 500"}};
     open();
     for (const Case& c : cases) {
         SCOPED_TRACE(c.label);

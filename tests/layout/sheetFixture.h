@@ -6,17 +6,11 @@
 #include "layout/objects.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
+#include "objectAt.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 
 #include <gtest/gtest.h>
-
-// An object that the test knows to be there.
-inline core::LayoutObject& objectAt(core::LayoutObjects& layout, core::ObjectRef ref) {
-    core::LayoutObject* object = core::findObject(layout, ref);
-    if (object == nullptr) core::raise(core::errors::subscriptOutOfRange, ref.name());
-    return *object;
-}
 
 // A database of all kinds of columns with its layout page in front. The viewport is 6000 x 5000 twips and a
 // pixel 15 twips, unless a test says otherwise.
@@ -29,16 +23,18 @@ protected:
     ScriptedPlatform& platform = program.platform;
 
     void open(const std::string& layoutLines = "", const std::string& more = "") {
-        DataFile file;
-        file.names = "Name|Qty|Price|Made|Sum|Photo|Second_Photo|";
-        file.types = "3|4|2|1|5|7|7|";
-        file.widths = "1440|1440|1440|1440|1440|1440|1440|";
-        file.spots = "1|2|3|4|5|6|7|8|";
+        DataFile file({{"Name", 3},
+                       {"Qty", 4},
+                       {"Price", 2},
+                       {"Made", 1},
+                       {"Sum", 5},
+                       {"Photo", 7},
+                       {"Second_Photo", 7}});
         file.layout = layoutLines;
         file.more = more;
-        file.rows =
-            "Bolt|12|$1.50|05/04/2001|18|bolt.jpg||\r\nNut|7|$.25||1.75|||\r\nPin|1|$2.00||2|gone.jpg||\r\n"
-            "------|------|------|------|------|------|------|\r\n";
+        file.rows = "Bolt|12|$1.50|05/04/2001|18|bolt.jpg||\r\nNut|7|$.25||1.75|||\r\n"
+                    "Pin|1|$2.00||2|gone.jpg||\r\n";
+        file.addTotals();
         program.open(program.make("sheet.fwk", file.text(), {"bolt.jpg", "art.gif"}));
         page.TwipsPerPixelX = page.TwipsPerPixelY = 15;
         layout::layoutPic1_Resize(app, 6000, 5000);

@@ -19,12 +19,6 @@ class DesignLock : public testing::Test {
 protected:
     DesignLock() { program.openCopyOf("books.fwk"); }
 
-    // What was said, the last of it in front: "icon|caption|text".
-    std::string told(std::size_t back = 0) const {
-        if (platform.messages.size() <= back) return "nothing";
-        const ScriptedPlatform::Message& message = platform.messages[platform.messages.size() - 1 - back];
-        return std::to_string(static_cast<int>(message.icon)) + "|" + message.caption + "|" + message.text;
-    }
     void click(std::deque<std::string> inputs, Answer answer = Answer::Yes) {
         app::setDocumentModified(app, false);
         platform.messages.clear();
@@ -89,7 +83,7 @@ TEST_F(DesignLock, aLockedFileIsReadBack) {
     lockPassword.clear();
     click({"z200000000000000/"}); // as a line "[ ... ]" of its own
     EXPECT_EQ(lockPassword, "");
-    EXPECT_EQ(told(), "1|Ferrowick|This password cannot be stored.  Please choose another one.");
+    EXPECT_EQ(platform.told(), "1|Ferrowick|This password cannot be stored.  Please choose another one.");
     EXPECT_FALSE(app.document.bModified);
 }
 
@@ -116,7 +110,7 @@ TEST_F(DesignLock, locking) {
         lockPassword.clear();
         app.mainFrm.control("Design").Value = c.design;
         click({c.input}, c.answer);
-        EXPECT_EQ(told(), c.told);
+        EXPECT_EQ(platform.told(), c.told);
         EXPECT_EQ(lockPassword.substr(0, 4), c.stored) << "the zero byte ends what the table tells";
         EXPECT_EQ(app.document.bModified, lockPassword.size() > 2);
     }
@@ -132,8 +126,8 @@ TEST_F(DesignLock, unlockingAfterASave) {
     for (const std::deque<std::string>& wrong :
          {std::deque<std::string>{}, {"rose and more"}, {"Rose and more "}, {stored}}) {
         click(wrong);
-        EXPECT_EQ(told(1), "0|Unlock Database|Enter password to unlock database.");
-        EXPECT_EQ(told(), "1|Ferrowick|Incorrect Password.");
+        EXPECT_EQ(platform.told(1), "0|Unlock Database|Enter password to unlock database.");
+        EXPECT_EQ(platform.told(), "1|Ferrowick|Incorrect Password.");
         EXPECT_EQ(lockPassword, stored);
         EXPECT_TRUE(app.document.bModified) << "a failed attempt too";
     }

@@ -49,8 +49,7 @@ TEST_F(Layout, WordsWrapIntoTheirBox) {
         {"Donaudampfschiff ahoi", 500, 600, {}},         // empty lines, down to the end
         {"Donaudampfschiff", 500, 600, {"Donaudampfschiff@500,0"}},
         {"x", 500, 0, {}},
-        {"", 500, 600, {}},
-    };
+        {"", 500, 600, {}}};
     for (const Case& each : cases) {
         platform::RecordedPage target;
         target.measureWith(platform.metrics);
@@ -80,12 +79,10 @@ TEST_F(Layout, EveryKindOfObjectHasItsPlaceOnThePage) {
     EXPECT_FALSE(texts[2].font.FontBold);
     const auto boxes = drawnOf<platform::DrawnRectangle>(preview());
     ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].Left, 1335);
-    EXPECT_EQ(boxes[0].Top, 975);
-    EXPECT_EQ(boxes[0].Width, 8970);
-    EXPECT_EQ(boxes[0].Height, 4470);
-    EXPECT_EQ(boxes[0].pen.DrawWidth, 3);
-    EXPECT_EQ(boxes[0].pen.ForeColor, 128);
+    const auto& box = boxes[0];
+    EXPECT_THAT((std::vector<float>{box.Left, box.Top, box.Width, box.Height}),
+                ElementsAre(1335, 975, 8970, 4470));
+    EXPECT_TRUE(box.pen.DrawWidth == 3 && box.pen.ForeColor == 128);
 
     // An image stands in its holder; an empty number prints nothing and the rest goes on.
     auto& holder = app.document.layout.imgHolder.load(1);

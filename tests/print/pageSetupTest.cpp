@@ -68,10 +68,7 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
 }
 
 TEST_F(PageSetup, EachViewOfAnInvoiceDatabaseKeepsItsColumns) {
-    std::filesystem::copy_file(std::filesystem::path(TEST_DATA_DIR) / "invoices.fwk",
-                               platform.folder / "i.fwk");
-    app.document.currentFile = (platform.folder / "i.fwk").string();
-    storage::OpenFile(app, true);
+    openCopyOf("invoices.fwk");
     for (const bool itemView : {false, true}) {
         app.document.bInvoiceView = itemView;
         print::reportPageSetup form(app);

@@ -199,13 +199,6 @@ TEST_F(Report, WithoutColumnsThePreviewSaysSoAndPaperIsEmptyLines) {
     EXPECT_THAT(linesOf(platform.printed.sheets[0]), ElementsAre("0,1650-12240,1650", "0,2055-12240,2055"));
 }
 
-TEST_F(Report, ACancelledFileDialogPrintsNothing) {
-    openRecords(2);
-    platform.fileCancelled = true;
-    shell::runCommand(app, "Print");
-    EXPECT_TRUE(platform.messages.empty());
-}
-
 // Margins beyond 16 bits, and a page without room for a line.
 TEST_F(Report, ImpossibleMarginsEnd) {
     openRecords(5);
@@ -220,10 +213,7 @@ TEST_F(Report, ImpossibleMarginsEnd) {
 }
 
 TEST_F(Report, AnInvoiceDatabaseReportsItsInvoices) {
-    std::filesystem::copy_file(std::filesystem::path(TEST_DATA_DIR) / "invoices.fwk",
-                               platform.folder / "invoices.fwk");
-    app.document.currentFile = (platform.folder / "invoices.fwk").string();
-    storage::OpenFile(app, true);
+    openCopyOf("invoices.fwk");
     EXPECT_EQ(&print::reportList(app), &app.document.iLV);
     app.document.printedCols.clear();
     for (const core::Column& column : app.document.iLV.columns)

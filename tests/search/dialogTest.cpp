@@ -4,14 +4,14 @@
 #include "shell/listEvents.h"
 #include "shell/mainWindow.h"
 
+#include <sstream>
+
 using namespace search;
 
 namespace {
 
 const DataFile shelf = [] {
-    DataFile data;
-    data.names = "Name|Qty|Price|Bought|Cover|";
-    data.types = "3|4|2|1|7|";
+    DataFile data({{"Name", 3}, {"Qty", 4}, {"Price", 2}, {"Bought", 1}, {"Cover", 7}});
     data.widths = "1440|900|800|1000|1200|";
     data.spots = "1|3|2|4|5|6|";
     data.rows =
@@ -30,17 +30,14 @@ TEST(Dialog, OffersTheColumnsAndTakesThemOver) {
             EXPECT_EQ(form.options(group).Value, greaterOrEqual);
         }
     });
-    const core::ColumnHeaders& taken = program.app.document.searchLV.columns;
-    const core::ColumnHeaders& source = program.app.document.LV.columns;
-    ASSERT_EQ(taken.count(), source.count());
-    for (int index = 1; index <= taken.count(); ++index) {
-        EXPECT_EQ(taken.at(index).Text, source.at(index).Text);
-        EXPECT_EQ(taken.at(index).Tag, source.at(index).Tag);
-        EXPECT_EQ(taken.at(index).Width, source.at(index).Width);
-        EXPECT_EQ(taken.at(index).Position, source.at(index).Position);
-        EXPECT_EQ(taken.at(index).align, source.at(index).align);
-        EXPECT_EQ(taken.at(index).Icon, source.at(index).Icon);
-    }
+    const auto told = [](const core::ColumnHeaders& columns) {
+        std::ostringstream text;
+        for (const core::Column& c : columns)
+            text << c.Text << c.Tag << c.Width << "," << c.Position << static_cast<int>(c.align) << c.Icon
+                 << ";";
+        return text.str();
+    };
+    EXPECT_EQ(told(program.app.document.searchLV.columns), told(program.app.document.LV.columns));
 }
 
 TEST(Dialog, ChecksWhatIsTyped) {
@@ -190,11 +187,7 @@ TEST(Mode, DeleteStaysOffWhenTheDialogClosesOverAnotherTab) {
 }
 
 TEST(Mode, WithoutColumnsNothingHappens) {
-    DataFile data;
-    data.names = data.types = data.widths = "";
-    data.spots = "1|";
-    data.rows = "";
-    SearchProgram program(data);
+    SearchProgram program(DataFile({}));
     for (const char* key : {"Search", "mnuSearch"}) shell::runCommand(program.app, key);
     EXPECT_TRUE(program.platform.forms.empty());
     EXPECT_FALSE(program.isDown());

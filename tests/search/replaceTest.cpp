@@ -40,11 +40,7 @@ TEST(Replace, WordsOfACell) {
 }
 
 DataFile twoColumns() {
-    DataFile data;
-    data.names = "A|B|";
-    data.types = "3|3|";
-    data.widths = "1440|1440|";
-    data.spots = "1|2|3|";
+    DataFile data({{"A", 3}, {"B", 3}});
     data.rows = "lap|lap top|\r\nx|LAP.|\r\n------|------|\r\n";
     return data;
 }

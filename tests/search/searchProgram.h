@@ -55,13 +55,8 @@ struct SearchProgram : Program {
 
 // One column and its cells, a row each.
 inline DataFile oneColumn(const char* type, const std::vector<std::string>& cells) {
-    DataFile data;
-    data.names = "C|";
-    data.types = std::string(type) + "|";
-    data.widths = "1440|";
-    data.spots = "1|2|";
-    data.rows.clear();
+    DataFile data({{"C", *type - '0'}});
     for (const std::string& cell : cells) data.rows += cell + "|\r\n";
-    data.rows += "------|\r\n";
+    data.addTotals();
     return data;
 }

@@ -136,17 +136,18 @@ struct PrintProgram {
         app.document.currentFile = file;
         storage::OpenFile(app, true);
     }
+    void openCopyOf(const char* name) {
+        std::filesystem::copy_file(std::filesystem::path(TEST_DATA_DIR) / name, platform.folder / name);
+        app.document.currentFile = (platform.folder / name).string();
+        storage::OpenFile(app, true);
+    }
     // Records "r1", "r2", ... of one text column "Name", with a layout of one field when asked.
     void openRecords(int count, const std::string& layout = {}) {
-        DataFile file;
+        DataFile file({{"Name", 3}});
         file.layout = layout;
-        file.names = "Name|";
-        file.types = "3|";
         file.widths = "1600|";
-        file.spots = "1|2|";
-        file.rows.clear();
         for (int i = 1; i <= count; ++i) file.rows += "r" + std::to_string(i) + "|\r\n";
-        file.rows += "------|\r\n";
+        file.addTotals();
         open(file.text());
         app.document.printedCols.add("Name");
         app.document.reportData.reportOrientation = 1;

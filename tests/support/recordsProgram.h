@@ -1,8 +1,7 @@
 #pragma once
 
 #include "databases.h"
-
-#include "core/runTimeError.h"
+#include "raised.h"
 
 #include <initializer_list>
 #include <string>
@@ -54,14 +53,3 @@ struct RecordsProgram : Program {
     }
     std::string panel(int number) { return app.mainFrm.panels.at(static_cast<std::size_t>(number)); }
 };
-
-// The number of the run-time error that an action ends in; 0 for none.
-template <typename Action>
-int errorOf(Action action) {
-    try {
-        action();
-    } catch (const core::RunTimeError& error) {
-        return error.number;
-    }
-    return 0;
-}
