@@ -4,13 +4,15 @@
 
 namespace app {
 
-// Shows the hourglass as long as it lives.
+// Shows the hourglass as long as it lives. Within another one it changes nothing.
 class Hourglass {
 public:
     explicit Hourglass(App& app) : app_(app) {
-        app_.platform.setMousePointer(platform::MousePointer::Hourglass);
+        if (app_.mainFrm.hourglasses++ == 0) app_.platform.setMousePointer(platform::MousePointer::Hourglass);
     }
-    ~Hourglass() { app_.platform.setMousePointer(platform::MousePointer::Default); }
+    ~Hourglass() {
+        if (--app_.mainFrm.hourglasses == 0) app_.platform.setMousePointer(platform::MousePointer::Default);
+    }
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
 

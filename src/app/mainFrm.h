@@ -71,6 +71,8 @@ struct MainFrm {
 
     bool bDatabaseTypeChosen = false; // the format dialog ended with OK
 
+    int hourglasses = 0; // that are shown, one within the other
+
     bool unloaded = false; // the window has been asked to close and has done its part
 };
 

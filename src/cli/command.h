@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -54,6 +55,9 @@ Run setUpImport(CLI::App& command);
 
 // The command line as the program was started with.
 char** commandLine();
+
+// Lets the words of search's --where begin with a "-" where they are none of its options; in their order.
+void markWhereWords(const CLI::App& command, std::vector<std::string>& words);
 
 // Arguments that many commands share.
 void addFileArgument(CLI::App& command, std::string& file);

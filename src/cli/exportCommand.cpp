@@ -88,9 +88,7 @@ int run(const Options& options) {
         throw Failure(options.output, "a table is a .csv or a .json file");
     Session session(options.file);
     session.open();
-    std::error_code none;
-    if (std::filesystem::equivalent(options.file, options.output, none))
-        throw Failure(options.output, "is the database itself");
+    session.refuseAsOutput(options.output);
     const core::Document& document = session.app.document;
     const Columns columns = session.columns({});
     write(options.output, asJson ? tableAsJson(document, columns) : tableAsCsv(document.LV, columns));

@@ -72,7 +72,10 @@ int runProgram(int argc, char** argv) {
     if (isUnknownCommand(argv[1]))
         return tellWrongCommandLine(program, "no command \"" + printable(argv[1]) + '"');
     try {
-        program.parse(argc, argv);
+        std::vector<std::string> words(argv + 1, argv + argc);
+        if (words.front() == "search") markWhereWords(*program.get_subcommand("search"), words);
+        std::ranges::reverse(words); // as they are taken
+        program.parse(std::move(words));
     } catch (const CLI::Success& help) {
         return program.exit(help);
     } catch (const CLI::ParseError& error) {

@@ -52,6 +52,7 @@ void printInto(Session& session, const Options& options,
                const std::function<void(app::App&, DrawTarget&)>& print) {
     const std::unique_ptr<platform::Printer> printer = makePrinter(options);
     session.open();
+    session.refuseAsOutput(options.output);
     session.platform.setPrinter(printer.get());
     app::App& app = session.app;
     try {

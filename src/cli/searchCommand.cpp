@@ -28,6 +28,15 @@ struct Options {
 // In the order of the comparisons.
 constexpr std::array<std::string_view, 5> hows = {"ge", "le", "is", "within", "range"};
 constexpr std::size_t mostGroups = 3;
+constexpr char wordMark = '\0'; // no argument holds it
+
+// Of a short name no more than itself counts: "-old" is a word.
+bool isOption(const CLI::App& command, const std::string& word) {
+    if (word == "--") return true;
+    const bool isName = word.starts_with("--") || word.size() == 2;
+    return isName && word.starts_with('-') &&
+           command.get_option_no_throw(word.substr(0, word.find('='))) != nullptr;
+}
 
 // COLUMN HOW VALUE, and TO when HOW is range.
 void readGroups(Options& options) {
@@ -35,7 +44,7 @@ void readGroups(Options& options) {
     auto word = options.where.begin();
     const auto next = [&](const char* what) {
         if (word == options.where.end()) throw wrong(std::string(what) + " is missing");
-        return *word++;
+        return word->starts_with(wordMark) ? (word++)->substr(1) : *word++;
     };
     while (word != options.where.end()) {
         Group group;
@@ -109,6 +118,21 @@ int run(const Options& options) {
 }
 
 } // namespace
+
+void markWhereWords(const CLI::App& command, std::vector<std::string>& words) {
+    constexpr std::string_view name = "--where";
+    int wanted = 0; // words of the group
+    for (std::string& word : words) {
+        if (word == name || word.starts_with("--where=")) {
+            wanted = word == name ? 3 : 2;
+        } else if (isOption(command, word)) {
+            wanted = 0;
+        } else if (wanted > 0) {
+            if (wanted-- == 2 && word == hows[search::range]) ++wanted; // TO
+            if (word.starts_with('-')) word.insert(word.begin(), wordMark);
+        }
+    }
+}
 
 Run setUpSearch(CLI::App& command) {
     const auto options = std::make_shared<Options>();

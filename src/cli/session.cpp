@@ -117,6 +117,11 @@ void Session::saveSearch(const std::string& target) {
     if (itself) throw Failure(target, "is the database that was searched");
 }
 
+void Session::refuseAsOutput(const std::string& output) const {
+    std::error_code none; // a file that is not there is no database
+    if (fs::equivalent(file, output, none)) throw Failure(output, "is the database itself");
+}
+
 void Session::run(const std::string& target, const std::function<void()>& save) {
     if (target.empty()) throw Failure("a database needs a file name");
     const int messages = platform.exclamations();

@@ -39,6 +39,9 @@ public:
     // Saves the search results as a database of their own.
     void saveSearch(const std::string& target);
 
+    // Raises Failure when a file that is to be written, by whatever name, is the database itself.
+    void refuseAsOutput(const std::string& output) const;
+
     // A column of the database; raises Failure when there is none of that name. The hidden column is
     // no column to the user.
     core::Column& column(std::string_view name);

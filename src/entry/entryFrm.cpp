@@ -40,11 +40,6 @@ std::vector<BoxText> textsOf(const std::vector<entryFrm::TextBox>& boxes) {
     return texts;
 }
 
-void setText(EntryBox& box, std::string text) {
-    box.Text = std::move(text);
-    box.SelStart = 0;
-}
-
 } // namespace
 
 // --- loading and unloading ---
@@ -222,6 +217,13 @@ void entryFrm::addFromLastBox() {
     clearBoxes();
     VScroll1_Change(1);
     boxToFocus = 0;
+}
+
+// Another text than what is typed: it ends what Backspace has begun.
+void entryFrm::setText(EntryBox& box, std::string text) {
+    bFieldChanged = false;
+    box.Text = std::move(text);
+    box.SelStart = 0;
 }
 
 void entryFrm::clearBoxes() {

@@ -94,6 +94,7 @@ private:
     bool isAboveSight(int Index);
     void enterKey(int Index);
     void addFromLastBox();
+    void setText(EntryBox& box, std::string text);
     void clearBoxes();
     void RetrieveData();
     void show(core::Item& item);

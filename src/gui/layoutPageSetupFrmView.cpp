@@ -12,7 +12,7 @@ namespace gui {
 layoutPageSetupFrmView::layoutPageSetupFrmView(app::App& app, EventBoundary& events, QWidget* parent)
     : FormView(events, "layoutPageSetupFrm", tr("Layout Page Setup"), parent), form_(app),
       paperList_(makePaperList()), customFrm_(makeCustomFrame()) {
-    auto* papers = new QGroupBox(tr("Paper Sizes"));
+    auto* papers = new QGroupBox(tr(" Paper Sizes "));
     (new QVBoxLayout(papers))->addWidget(paperList_);
 
     auto* ok = makeButton("OKButton", tr("&OK"), [this] { form_.OKButton_Click(); });
@@ -20,7 +20,7 @@ layoutPageSetupFrmView::layoutPageSetupFrmView(app::App& app, EventBoundary& eve
     ok->setDefault(true);
 
     auto* right = new QVBoxLayout;
-    right->addWidget(makeOptionsFrame(tr("Orientation"), "PortraitOpt", tr("Portrait"), "LandscapeOpt",
+    right->addWidget(makeOptionsFrame(tr(" Orientation "), "PortraitOpt", tr("Portrait"), "LandscapeOpt",
                                       tr("Landscape"), form_.PortraitOpt));
     right->addWidget(makeMarginsFrame(form_.leftTxt, form_.rightTxt, form_.TopTxt, form_.bottomTxt));
     right->addWidget(makeSpacingFrame());
@@ -41,17 +41,19 @@ QTreeWidget* layoutPageSetupFrmView::makePaperList() {
     list->setHeaderLabels({tr("Names")});
     useListLook(*list);
     for (const auto& paper : form_.paperList.ListItems) new QTreeWidgetItem(list, {toQt(paper.Text)});
-    connect(list, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+    const auto click = [this](QTreeWidgetItem* item) {
         if (item != nullptr)
             on([&] {
                 form_.paperList_ItemClick(static_cast<std::size_t>(paperList_->indexOfTopLevelItem(item)));
             });
-    });
+    };
+    connect(list, &QTreeWidget::currentItemChanged, this, click);
+    connect(list, &QTreeWidget::itemClicked, this, click); // on the one that is chosen already, too
     return list;
 }
 
 QGroupBox* layoutPageSetupFrmView::makeCustomFrame() {
-    auto* frame = named("customFrm", new QGroupBox(tr("Custom Paper Size")));
+    auto* frame = named("customFrm", new QGroupBox(tr(" Custom Paper Size ")));
     // Its room stays when it goes, so that the form does not jump about.
     QSizePolicy policy = frame->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -75,9 +77,10 @@ QGroupBox* layoutPageSetupFrmView::makeCustomFrame() {
 }
 
 QGroupBox* layoutPageSetupFrmView::makeSpacingFrame() {
-    auto* frame = new QGroupBox(tr("Layout Spacing"));
+    auto* frame = new QGroupBox(tr(" Layout Spacing "));
     auto* row = new QHBoxLayout(frame);
-    auto* label = new QLabel(tr("Amount of spacing in inches between layouts in multiple layout printing:"));
+    auto* label =
+        new QLabel(tr("  Amount of spacing in inches between layouts in multiple layout printing:"));
     label->setWordWrap(true);
     QLineEdit* spacingTxt = boundEdit("spacingTxt", form_.spacingTxt);
     spacingTxt->setMaximumWidth(spacingTxt->fontMetrics().averageCharWidth() * 12);

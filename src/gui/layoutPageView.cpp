@@ -46,6 +46,8 @@ LayoutPageView::LayoutPageView(app::App& app, EventBoundary& events, QWidget* pa
     clearRulesBtn_->setFocusPolicy(Qt::TabFocus);
     connect(clearRulesBtn_, &QPushButton::clicked, this,
             [this] { events_.run([&] { layout::clearGuides(app_); }); });
+    takeKeysOf(*this);
+    takeKeysOf(*clearRulesBtn_);
     connect(sheet_, &SheetView::scrolled, this, [this](int horizontal, int vertical) {
         layoutHScroll_->setValue(layoutHScroll_->value() + horizontal);
         layoutVScroll_->setValue(layoutVScroll_->value() + vertical);

@@ -20,6 +20,7 @@ public:
     LayoutPageView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
 
     void refresh();
+    void takeKeysOf(QWidget& other) { sheet_->takeKeysOf(other); }
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -66,6 +66,7 @@ void MainFrmView::makeTabs() {
     tabs_->addTab(report_, tr("Report"));
     tabs_->addTab(layout_, tr("Layout"));
     tabs_->addTab(preview_, tr("Print Preview"));
+    layout_->takeKeysOf(*tabs_->tabBar());
     connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
         if (!refreshing_) events_.run([&] { shell::SSTab1_Click(app_, tab); });
     });

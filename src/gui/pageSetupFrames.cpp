@@ -31,7 +31,7 @@ QGroupBox* makeMarginsFrame(std::string& left, std::string& right, std::string& 
         const char* caption;
         std::string* member;
     };
-    auto* frame = new QGroupBox(tr("Margins"));
+    auto* frame = new QGroupBox(tr(" Margins "));
     auto* grid = new QGridLayout(frame);
     int row = 0;
     for (const Box& box : {Box{"leftTxt", "Left:", &left}, Box{"rightTxt", "Right:", &right},

@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <filesystem>
+
 // What a print asks of the window's machine.
 
 namespace gui {
@@ -22,13 +24,23 @@ std::optional<platform::PrintChoice> QtPlatform::showPrinterDialog(const platfor
     return printer_.showDialog(present, QDir(startFolder()).filePath(name), dialogParent());
 }
 
-// The name that the dialog was given has been asked about there.
+// The name that the dialog was given has been asked about there. Neither may be another name of the open
+// database, which the print would take the place of.
 std::optional<std::string> QtPlatform::askForPdfFile(const std::string& documentName) {
     const QString named = printer_.takeFileName();
-    if (!named.isEmpty()) return fromQt(named);
-    std::optional<std::string> file =
-        showSave({"Print to PDF", documentName + ".pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*"});
-    if (file && QFileInfo::exists(toQt(*file)) &&
+    std::optional<std::string> file;
+    if (named.isEmpty())
+        file =
+            showSave({"Print to PDF", documentName + ".pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*"});
+    else
+        file = fromQt(named);
+    std::error_code none;
+    if (file && window_.currentFile && std::filesystem::equivalent(*file, window_.currentFile(), none)) {
+        msgBox(*file + " is the open database, and cannot be printed into.", platform::Icon::Exclamation,
+               "Print to PDF", platform::Buttons::Ok);
+        return std::nullopt;
+    }
+    if (named.isEmpty() && file && QFileInfo::exists(toQt(*file)) &&
         msgBox("A file with that name exists. Overwrite it?", platform::Icon::Question, "Print to PDF",
                platform::Buttons::YesNo) == platform::Answer::No)
         return std::nullopt;

@@ -13,9 +13,9 @@ namespace gui {
 reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, QWidget* parent)
     : FormView(events, "reportPageSetup", tr("Report Page Setup"), parent), form_(app),
       LV3_(makeColumnList()) {
-    auto* columns = new QGroupBox(tr("Columns To Print"));
+    auto* columns = new QGroupBox(tr(" Columns To Print "));
     (new QVBoxLayout(columns))->addWidget(LV3_);
-    auto* title = new QGroupBox(tr("Report Title"));
+    auto* title = new QGroupBox(tr(" Report Title "));
     (new QVBoxLayout(title))->addWidget(boundEdit("titleTxt", form_.titleTxt));
 
     auto* ok = makeButton("Command1", tr("&Ok"), [this] { form_.Command1_Click(); });
@@ -29,11 +29,11 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
 
     auto* right = new QVBoxLayout;
     right->addWidget(title);
-    right->addWidget(makeOptionsFrame(tr("Bold Headers"), "boldYesOpt", tr("Yes"), "boldNoOpt", tr("No"),
+    right->addWidget(makeOptionsFrame(tr(" Bold Headers "), "boldYesOpt", tr("Yes"), "boldNoOpt", tr("No"),
                                       form_.boldYesOpt));
-    right->addWidget(makeOptionsFrame(tr("Paper Size"), "letterOpt", tr("Letter"), "legalOpt", tr("Legal"),
+    right->addWidget(makeOptionsFrame(tr(" Paper Size "), "letterOpt", tr("Letter"), "legalOpt", tr("Legal"),
                                       form_.letterOpt));
-    right->addWidget(makeOptionsFrame(tr("Orientation"), "PortraitOpt", tr("Portrait"), "LandscapeOpt",
+    right->addWidget(makeOptionsFrame(tr(" Orientation "), "PortraitOpt", tr("Portrait"), "LandscapeOpt",
                                       tr("Landscape"), form_.PortraitOpt));
     right->addWidget(makeMarginsFrame(form_.leftTxt, form_.rightTxt, form_.TopTxt, form_.bottomTxt), 1);
     auto* grid = new QGridLayout(this);

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int twipsPerInch = 1440;
 constexpr int marksPerInch = 8;
+constexpr qreal firstTile = -15; // of the horizontal ruler, whose inches stand a pixel ahead; it is wanted so
 constexpr qreal tilePitch = twipsPerInch + 1; // the inches stand a twip further apart than an inch
 constexpr QSizeF verticalMarker(135, 105);
 constexpr QSizeF horizontalMarker(120, 105);
@@ -67,8 +68,9 @@ void RulerView::paintEvent(QPaintEvent*) {
         else
             painter.drawLine(QPointF(from, place), QPointF(to, place));
     };
-    for (int inch = 0; inch * tilePitch * pixelsPerTwip_ <= length; ++inch) {
-        const qreal start = inch * tilePitch * pixelsPerTwip_;
+    const qreal first = isHorizontal() ? firstTile * pixelsPerTwip_ : 0;
+    for (int inch = 0; first + inch * tilePitch * pixelsPerTwip_ <= length; ++inch) {
+        const qreal start = first + inch * tilePitch * pixelsPerTwip_;
         painter.setPen(palette().color(QPalette::Text));
         for (int mark = 0; mark < marksPerInch; ++mark) {
             const qreal place = std::round(start + mark * twipsPerInch * pixelsPerTwip_ / marksPerInch) + 0.5;

@@ -147,13 +147,15 @@ QPoint SheetView::sheetTwips(QPointF global) const {
 
 bool SheetView::eventFilter(QObject* watched, QEvent* event) {
     if (refreshing_) return false;
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
+        return keyEvent(event);
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr || !isAncestorOf(widget)) return false; // nothing but its keys are taken
     if (event->type() == QEvent::Wheel) {
         // Every wheel turn scrolls the sheet, wherever the pointer is.
         wheelEvent(static_cast<QWheelEvent*>(event));
         return true;
     }
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
-        return keyEvent(event);
     if (!isMouseEvent(*event)) return false;
     if (watched == grip_) return gripEvent(event);
     const ObjectRef object = objects_->objectOf(watched);
@@ -161,7 +163,7 @@ bool SheetView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool SheetView::keyEvent(QEvent* event) {
-    if (!layout::isDesignMode(app_)) return false;
+    if (app_.mainFrm.SSTab1 != app::layoutTab || !layout::isDesignMode(app_)) return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (event->type() == QEvent::ShortcutOverride) {
         // Delete and the arrows are for the sheet, not for the menus.
@@ -218,8 +220,8 @@ bool SheetView::designEvent(ObjectRef object, QEvent* event) {
     case QEvent::MouseButtonRelease:
         release(object, mouse);
         break;
-    default:
-        doubleClick(object);
+    default: // the left button alone double-clicks; of another it is one more press
+        mouse.button() == Qt::LeftButton ? doubleClick(object) : press(object, mouse);
     }
     return true;
 }
@@ -274,7 +276,7 @@ bool SheetView::browseEvent(ObjectRef object, QEvent* event) {
         pressed_ = true;
     } else if (event->type() == QEvent::MouseButtonRelease) {
         release(object, mouse);
-    } else {
+    } else if (mouse.button() == Qt::LeftButton) {
         doubleClick(object);
     }
     // The fields are real text boxes and take the mouse themselves.

@@ -21,6 +21,8 @@ public:
 
     void refresh();
     qreal pixelsPerTwip() const;
+    // The sheet sees the keys of that widget first.
+    void takeKeysOf(QWidget& other) { other.installEventFilter(this); }
     void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
 
 protected:

@@ -1,5 +1,6 @@
 #include "layout/images.h"
 
+#include "app/hourglass.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
 #include "layout/sheet.h"
@@ -101,6 +102,7 @@ void fitImage(App& app, const LayoutObject& holder, FittedImage& image, const fs
     image.path.clear();
     std::error_code ignored;
     if (path.empty() || !fs::is_regular_file(path, ignored)) return;
+    const app::Hourglass hourglass(app);
     const std::optional<platform::Extent> natural = app.platform.pictureExtent(path);
     if (!natural || natural->Width <= 0 || natural->Height <= 0) return;
     image.path = path.string();

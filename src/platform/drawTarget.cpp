@@ -20,7 +20,7 @@ float DrawTarget::TextHeight(std::string_view) {
 
 void DrawTarget::Print(std::string_view text, bool lineEnd) {
     const float lineHeight = TextHeight(text);
-    if (isPrinter() && CurrentY > 0 && CurrentY + lineHeight > Height) {
+    if (isPrinter() && !bOneSheet && CurrentY > 0 && CurrentY + lineHeight > Height) {
         startSheet();
         CurrentY = 0;
     }

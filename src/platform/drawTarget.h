@@ -53,6 +53,7 @@ public:
 
     float Width = 0, Height = 0;
     float CurrentX = 0, CurrentY = 0;
+    bool bOneSheet = false; // a printer does as a preview does: what passes the bottom is cut off
 
     // A printer goes on to the next sheet by itself; a preview is one page.
     virtual bool isPrinter() const = 0;
@@ -63,7 +64,8 @@ public:
     float TextHeight(std::string_view text);
 
     // Prints at the current place, one line. Without a line end the place moves behind the text, with it
-    // to the start of the next line. A printer takes a new sheet when the line would pass the bottom.
+    // to the start of the next line. A printer takes a new sheet when the line would pass the bottom,
+    // unless all is to be on one.
     void Print(std::string_view text, bool lineEnd);
     // The current place ends up at the second point.
     void Line(float x1, float y1, float x2, float y2);

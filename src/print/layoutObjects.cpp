@@ -82,6 +82,7 @@ void printWrapped(DrawTarget& target, float x, float maxHeight, float width, std
 }
 
 void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
+    target.bOneSheet = true; // a record stands on one sheet, as its preview does on one page
     const core::LayoutObjects& objects = app.document.layout;
     const auto goTo = [&](const core::LayoutObject& object) {
         target.CurrentX = object.Left + dx;

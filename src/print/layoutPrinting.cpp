@@ -150,7 +150,8 @@ LayoutGrid::Step LayoutGrid::printPage(Progress& progress) {
     return Step::GoOn;
 }
 
-// The count of LV decides even when search results are printed. It is wanted so.
+// The count of LV decides even when search results are printed, so that a sheet follows on which nothing
+// stands. It is wanted so.
 bool LayoutGrid::wantsAnotherSheet() const {
     return page_.bLayoutSelectedOnly ? page_.iLayoutIndex < available()
                                      : page_.iLayoutIndex < app_.document.LV.count() - 1;

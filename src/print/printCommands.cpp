@@ -37,7 +37,8 @@ void printOn(App& app, const std::function<void(DrawTarget& printer)>& print) {
 void printReport(App& app, bool bSelectedOnly) {
     app.mainFrm.previewPage.iReportStartRow = 1;
     app.mainFrm.previewPage.bReportSelectedOnly = bSelectedOnly;
-    printOn(app, [&](DrawTarget& printer) { PrintReport(app, printer, reportList(app)); });
+    // A failure leaves the printer unclosed and goes to the trap of the command, which tells it.
+    printOn(app, [&](DrawTarget& printer) { drawReport(app, printer, reportList(app)); });
 }
 
 void printMultiple(App& app) {

@@ -30,7 +30,7 @@ QPainter& PaperTarget::sheet() {
     } else if (!onSheet_ && !device_.newPage()) {
         core::raise(core::errors::deviceIO, "the printer does not answer");
     }
-    onSheet_ = true;
+    onSheet_ = hasSheets_ = true;
     return painter_;
 }
 

@@ -32,6 +32,7 @@ protected:
                      float height) override;
     void startSheet() override;
     void endDocument() override;
+    bool hasSheets() const { return hasSheets_; } // ever begun
 
 private:
     QPainter& sheet(); // the painter, on a sheet
@@ -42,6 +43,7 @@ private:
     QPainter painter_;
     PagePainter page_;
     bool onSheet_ = false;
+    bool hasSheets_ = false;
     bool failed_ = false;
 };
 

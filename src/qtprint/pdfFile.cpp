@@ -35,7 +35,8 @@ public:
     }
     ~PdfTarget() override { PaperTarget::close(); } // unless it has been closed, the file stays as it was
 
-    bool close() override { return PaperTarget::close() && file.commit(); }
+    // A print without a sheet is no file: an older one stays.
+    bool close() override { return PaperTarget::close() && (!hasSheets() || file.commit()); }
 };
 
 // Qt measures and draws texts for an application object only; this one shows nothing.

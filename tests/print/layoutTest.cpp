@@ -271,13 +271,13 @@ TEST_F(Layout, SearchResultsAreCountedLikeTheRecords) {
     EXPECT_EQ(wordsOf(platform.printed.sheets[1]), "");
 }
 
-// A field that hangs over the paper's bottom goes on, on the next sheet, from its top.
-TEST_F(Layout, TextsBelowThePaperTakeAnotherSheet) {
+// As on the preview: what hangs over the paper's bottom is cut off.
+TEST_F(Layout, TextsBelowThePaperTakeNoOtherSheet) {
     openRecords(1, "F|Name|1440|15700|2000|1000|False|False|False|Arial|10|0|\r\n");
     shell::SSTab1_Click(app, app::layoutTab);
     shell::runCommand(app, "Print");
-    ASSERT_EQ(platform.printed.sheets.size(), 2U);
-    EXPECT_THAT(textsOf(platform.printed.sheets[1]), ElementsAre("r1@1440,0"));
+    ASSERT_EQ(platform.printed.sheets.size(), 1U);
+    EXPECT_THAT(textsOf(platform.printed.sheets[0]), ElementsAre("r1@1440,15700"));
 }
 
 } // namespace
