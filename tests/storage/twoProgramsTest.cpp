@@ -1,19 +1,10 @@
-#include "databases.h"
 #include "platform/workFolder.h"
+#include "programTest.h"
 #include "storage/saveFile.h"
-
-#include <gtest/gtest.h>
-
-#include <fstream>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string bytesOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 // A machine with the work folder of a real program.
 class RunningPlatform : public ScriptedPlatform {
@@ -48,7 +39,7 @@ TEST(TwoPrograms, doNotTouchEachOthersWorkFiles) {
     storage::SaveFile(second, false, false);
     storage::SaveFile(first, false, false);
     for (app::App* saved : {&first, &second})
-        EXPECT_EQ(bytesOf(saved->platform.workFolder() / "data.dat"),
+        EXPECT_EQ(ScriptedPlatform::read(saved->platform.workFolder() / "data.dat"),
                   Program::dataFileOf(saved->document.currentFile));
     EXPECT_NE(Program::dataFileOf(first.document.currentFile),
               Program::dataFileOf(second.document.currentFile));
