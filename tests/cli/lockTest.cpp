@@ -1,5 +1,7 @@
 #include "fwkProgram.h"
 
+#include <stdexcept>
+
 namespace {
 
 // What standard input says.
