@@ -69,8 +69,7 @@ TEST_F(CommandsTest, reachTheRoutineBehindThem) {
         {"mailFrm", {"mnuEmail"}},
         {"Open Database", {"Open", "mnuOpen"}}, // file dialogs
         {"Save As...", {"mnuSaveAs"}},
-        {"Clone current file to...", {"mnuClone"}},
-    };
+        {"Clone current file to...", {"mnuClone"}}};
     for (const auto& [shown, keys] : cases)
         for (const char* key : keys) {
             platform.forms.clear();

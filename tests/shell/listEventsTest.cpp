@@ -82,17 +82,15 @@ TEST_F(ListEventsTest, doubleClickOnARecord) {
         const char *names, *types;
         bool toLayout, invoice;
         const char* expected;
-    } cases[] = {
-        {"A|", "1|", false, false, "entryFrm"},
-        {"A|", "2|", false, false, "entryFrm"},
-        {"A|B|C|", "5|3|7|", false, false, "entryFrm"},
-        {"A|", "4|", false, false, "entryFrm"},
-        {"A|B|", "5|7|", false, false, ""}, // nothing to type in
-        {"", "", false, false, noColumn},
-        {"", "", true, false, "layout"},
-        {"A|", "3|", true, false, "layout"},
-        {"A|", "3|", false, true, "layout"},
-    };
+    } cases[] = {{"A|", "1|", false, false, "entryFrm"},
+                 {"A|", "2|", false, false, "entryFrm"},
+                 {"A|B|C|", "5|3|7|", false, false, "entryFrm"},
+                 {"A|", "4|", false, false, "entryFrm"},
+                 {"A|B|", "5|7|", false, false, ""}, // nothing to type in
+                 {"", "", false, false, noColumn},
+                 {"", "", true, false, "layout"},
+                 {"A|", "3|", true, false, "layout"},
+                 {"A|", "3|", false, true, "layout"}};
     for (const auto& c : cases) {
         DataFile data;
         data.names = c.names;

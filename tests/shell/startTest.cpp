@@ -54,8 +54,7 @@ constexpr Settings booleans[] = {
     {"AutoLoad", false, &app::MainFrm::bAutoLoad, "mnuAutoLoad"},
     {"LayoutDBLClick", false, &app::MainFrm::bLayoutDblClick, "mnuLayoutDoubleClick"},
     {"HighlightCalc", false, &app::MainFrm::bHighlightCalc, "mnuCalcHighlight"},
-    {"SavePrompt", true, &app::MainFrm::bSavePrompt, "mnuSavePrompt"},
-};
+    {"SavePrompt", true, &app::MainFrm::bSavePrompt, "mnuSavePrompt"}};
 
 class StartTest : public testing::Test {
 protected:
@@ -150,21 +149,19 @@ TEST_F(StartTest, theFileOfTheStart) {
         const char* autoLoad;
         std::string remembered, command, opened;
         bool message;
-    } cases[] = {
-        {"False", "", "", "", false},
-        {"False", books, "", "", false},
-        {"True", books, "", books, false},
-        {"True", books, quoted(invoices), invoices, false}, // the command line wins
-        {"False", books, quoted(invoices), invoices, false},
-        {"True", "", "", "", false}, // nothing was ever opened
-        {"True", "/gone.fwk", "", "", true},
-        {"False", "/gone.fwk", "", "", false},
-        {"False", books, quoted("/gone.fwk"), "", true},
-        {"False", "", "x" + books + "y", books, false}, // whatever stands first and last
-        {"False", "", books, "", true},
-        {"True", books, "\"\"", "", false},
-        {"True", books, "\"", "", false},
-    };
+    } cases[] = {{"False", "", "", "", false},
+                 {"False", books, "", "", false},
+                 {"True", books, "", books, false},
+                 {"True", books, quoted(invoices), invoices, false}, // the command line wins
+                 {"False", books, quoted(invoices), invoices, false},
+                 {"True", "", "", "", false}, // nothing was ever opened
+                 {"True", "/gone.fwk", "", "", true},
+                 {"False", "/gone.fwk", "", "", false},
+                 {"False", books, quoted("/gone.fwk"), "", true},
+                 {"False", "", "x" + books + "y", books, false}, // whatever stands first and last
+                 {"False", "", books, "", true},
+                 {"True", books, "\"\"", "", false},
+                 {"True", books, "\"", "", false}};
     for (const auto& c : cases) {
         platform.settings["AutoLoad"] = c.autoLoad;
         platform.settings["defaultFile"] = c.remembered;

@@ -18,12 +18,10 @@ TEST_F(WindowStateTest, enableControls) {
         bool bInvoiceStyle, bInvoiceView;
         bool deleteOff, deleteOn; // with bEnable False and True; the others do not hang on it
         bool layouts, multiple, duplicate, frame;
-    } cases[] = {
-        {false, false, false, true, true, true, true, false},
-        {false, true, false, true, true, true, true, false}, // left over from the invoices before
-        {true, false, true, true, true, false, false, true},
-        {true, true, false, false, false, false, false, true},
-    };
+    } cases[] = {{false, false, false, true, true, true, true, false},
+                 {false, true, false, true, true, true, true, false}, // left over from the invoices before
+                 {true, false, true, true, true, false, false, true},
+                 {true, true, false, false, false, false, false, true}};
     for (const auto& c : cases)
         for (const bool bEnable : {true, false, true}) {
             document.bInvoiceStyle = c.bInvoiceStyle;
@@ -57,8 +55,7 @@ TEST_F(WindowStateTest, fileSizesAreCutNotRounded) {
         {0, "0 bytes."},       {7, "7 bytes."},        {999, "999 bytes."},    {1'000, "1 KB"},
         {9'999, "9 KB"},       {10'000, "10 KB"},      {99'999, "99 KB"},      {100'000, "100 KB"},
         {999'999, "999 KB"},   {1'000'000, "1 MB"},    {9'999'999, "9 MB"},    {10'000'000, "10 MB"},
-        {99'999'999, "99 MB"}, {100'000'000, "10 MB"}, {123'456'789, "12 MB"}, {4'294'967'296, "42 MB"},
-    };
+        {99'999'999, "99 MB"}, {100'000'000, "10 MB"}, {123'456'789, "12 MB"}, {4'294'967'296, "42 MB"}};
     for (const auto& [bytes, text] : cases) EXPECT_EQ(app::fileSizeText(bytes), text) << bytes;
     document.currentFile = program.path("a.fwk");
     mainFrm.panels[app::fileSizePanel] = "as it was";

@@ -53,8 +53,7 @@ TEST(LayoutLines, comeBackAsTheyWereOrInTheShortestForm) {
         {"LNX|1|2|3|4|5|", "skipped"},
         {" C|a|1|2|3|4|", "skipped"},
         {"|", "skipped"},
-        {"", "skipped"},
-    };
+        {"", "skipped"}};
     for (const auto& [line, written] : cases)
         EXPECT_EQ(again(line), written == nullptr ? line : written) << line;
 }
@@ -75,8 +74,7 @@ TEST(LayoutLines, thatCannotBeUnderstoodRaiseAndLeaveNoObject) {
         {"B|1|2|3|4|red|1|", errors::typeMismatch},
         {"B|1|2|3|4|0|32768|", errors::overflow},
         {"B|1|2|3|4|99999999999|1|", errors::overflow},
-        {"C|a|1E39|2|3|4|", errors::overflow},
-    };
+        {"C|a|1E39|2|3|4|", errors::overflow}};
     for (const auto& [line, number] : cases) {
         core::LayoutObjects layout;
         EXPECT_EQ(raisedBy([&, text = line] { storage::readLayoutLine(text, layout); }), number) << line;

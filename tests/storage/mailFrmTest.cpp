@@ -30,13 +30,11 @@ TEST_F(MailFrm, sending) {
     const struct {
         const char *subject, *told;
         MailStart start;
-    } cases[] = {
-        {" ", "i Send File: You did not enter either an address or a subject.", {}},
-        {"Books", "", MailStart::WithAttachment},
-        {"Books", "i Send File: Your mail program could not be started.", MailStart::NoProgram},
-        {"Books", "i Send File: Please attach the database to the message yourself:\n",
-         MailStart::WithoutAttachment},
-    };
+    } cases[] = {{" ", "i Send File: You did not enter either an address or a subject.", {}},
+                 {"Books", "", MailStart::WithAttachment},
+                 {"Books", "i Send File: Your mail program could not be started.", MailStart::NoProgram},
+                 {"Books", "i Send File: Please attach the database to the message yourself:\n",
+                  MailStart::WithoutAttachment}};
     for (const auto& c : cases) {
         form.Text1 = "a@b.c";
         form.Text2 = c.subject;

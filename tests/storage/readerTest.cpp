@@ -61,16 +61,14 @@ TEST_F(ReaderTest, theBoldFlagIsReadFromExactlyNineElements) {
         const char* value;
         bool before, after;
         const char* title;
-    } cases[] = {
-        {"1|1|1|1|1|1|Title|True|", false, true, "Title"},
-        {"1|1|1|1|1|1|Title|False|", true, false, "Title"},
-        {"1|1|1|1|1|1|Title|-1|", false, true, "Title"},
-        {"1|1|1|1|1|1|A|B|True|", false, false, "A"}, // a title with a separator is cut
-        {"1|1|1|1|1|1|A|B|False|", true, true, "A"},
-        {"1|1|1|1|1|1|Title|False", true, true, "Title"}, // no separator at the end
-        {"1|1|1|1|1|1|Title|", true, true, "Title"},      // a file from before the flag
-        {"1|1|1|1|1|1||True|", false, true, ""},
-    };
+    } cases[] = {{"1|1|1|1|1|1|Title|True|", false, true, "Title"},
+                 {"1|1|1|1|1|1|Title|False|", true, false, "Title"},
+                 {"1|1|1|1|1|1|Title|-1|", false, true, "Title"},
+                 {"1|1|1|1|1|1|A|B|True|", false, false, "A"}, // a title with a separator is cut
+                 {"1|1|1|1|1|1|A|B|False|", true, true, "A"},
+                 {"1|1|1|1|1|1|Title|False", true, true, "Title"}, // no separator at the end
+                 {"1|1|1|1|1|1|Title|", true, true, "Title"},      // a file from before the flag
+                 {"1|1|1|1|1|1||True|", false, true, ""}};
     for (const auto& c : cases) {
         document.reportData.bReportBoldHeaders = c.before;
         readMore(std::string("[Report Data   ]") + c.value + "\r\n");
@@ -106,8 +104,7 @@ TEST_F(ReaderTest, listsTakeItemAndKeyAsEachOfThemIsLookedUp) {
         {"[Locks         ]", "", &Document::locks, {}, {}},
         // What stands behind the last separator is no element.
         {"[Totaled Cols  ]", "Qty|Price", &Document::totaledCols, {"Qty"}, {"Qty"}},
-        {"[Totaled Cols  ]", "Qty", &Document::totaledCols, {}, {}},
-    };
+        {"[Totaled Cols  ]", "Qty", &Document::totaledCols, {}, {}}};
     for (const auto& c : cases) {
         readMore(std::string(c.marker) + c.value + "\r\n");
         EXPECT_EQ((document.*c.list).items(), c.items) << c.marker << c.value;
@@ -143,8 +140,7 @@ TEST_F(ReaderTest, styleViewAndLock) {
         {"[Lock          ]  a|b,c \r\n[DatabaseStyle ]True\r\n", true, false, "  a|b,c "},
         // A scrambled password can hold line ends.
         {"[Lock          ]a\rb\r\n", false, false, "a\rb"},
-        {"[Lock          ]a\r\nb\n\x01\r\r\n[InvoiceView   ]True\r\n", false, true, "a\r\nb\n\x01\r"},
-    };
+        {"[Lock          ]a\r\nb\n\x01\r\r\n[InvoiceView   ]True\r\n", false, true, "a\r\nb\n\x01\r"}};
     for (const auto& c : cases) {
         document.bInvoiceStyle = document.bInvoiceView = false;
         readMore(c.lines);
@@ -193,13 +189,11 @@ TEST_F(ReaderTest, columnsTakeAlignmentAndIconFromTheirType) {
         const char* icon;
         float width;
         int position;
-    } cases[] = {
-        {"D", core::Alignment::Right, "", 700, 9},  {"C", core::Alignment::Right, "", 1, 8},
-        {"T", core::Alignment::Left, "", 0.5F, 7},  {"N", core::Alignment::Right, "", 0, 6},
-        {"K", core::Alignment::Right, "", -1, 5},   {"P", core::Alignment::Left, "Picture", 1234, 4},
-        {"Six", core::Alignment::Left, "", 9, 3},   {"None", core::Alignment::Left, "", 1440, 2},
-        {"Index", core::Alignment::Left, "", 0, 1},
-    };
+    } cases[] = {{"D", core::Alignment::Right, "", 700, 9}, {"C", core::Alignment::Right, "", 1, 8},
+                 {"T", core::Alignment::Left, "", 0.5F, 7}, {"N", core::Alignment::Right, "", 0, 6},
+                 {"K", core::Alignment::Right, "", -1, 5},  {"P", core::Alignment::Left, "Picture", 1234, 4},
+                 {"Six", core::Alignment::Left, "", 9, 3},  {"None", core::Alignment::Left, "", 1440, 2},
+                 {"Index", core::Alignment::Left, "", 0, 1}};
     for (const auto& c : cases) {
         const core::Column& column = document.LV.columns[c.name];
         EXPECT_EQ(column.align, c.align) << c.name;
@@ -245,8 +239,7 @@ TEST_F(ReaderTest, rows) {
          "i1;i2;i3;Totals;"},
         {"a separator in a cell shifts what follows", "a|b|1|2|\r\n-|-|-|\r\n", "a|b|1|;-|-|-|;",
          "i1;Totals;"},
-        {"a line feed in a cell", "a\nb|1|2|\r\n-|-|-|\r\n", "a\nb|1|2|;-|-|-|;", "i1;Totals;"},
-    };
+        {"a line feed in a cell", "a\nb|1|2|\r\n-|-|-|\r\n", "a\nb|1|2|;-|-|-|;", "i1;Totals;"}};
     for (const auto& c : cases) {
         data.rows = c.rows;
         document.iLastKey = 99;
