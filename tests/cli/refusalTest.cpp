@@ -2,9 +2,7 @@
 
 #include <gmock/gmock.h>
 
-using ::testing::EndsWith;
 using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 namespace {
 
@@ -125,20 +123,6 @@ TEST_F(Refusals, CalculationAndRecords) {
                {"add inv.fwk Qty=1@2@3@4@5@6@7@8@", "inv.fwk: the column \"Qty\" has 6 rows on the layout"},
                {"update inv.fwk i9 Customer=x", "inv.fwk: no record \"i9\""},
                {"delete inv.fwk Totals", "inv.fwk: no record \"Totals\""}});
-}
-
-TEST_F(Refusals, GarbageForAnExpression) {
-    for (const std::string garbage :
-         {"*", "( Price", "Price * ", "Price Copies Author", "1 / 0", "Price ; 1", "And", "\"1\"", "= 3"}) {
-        const Outcome outcome = refused("expression a.fwk Value '" + garbage + "'", 1);
-        EXPECT_THAT(outcome.err,
-                    StartsWith("Ferrowick: An error has occured during one of your calculations."));
-        EXPECT_THAT(outcome.err,
-                    EndsWith("\nfwk: a.fwk: the calculation failed, so that nothing is saved\n"));
-    }
-    // A name that is no column's is a name without a value, and that is 0.
-    EXPECT_EQ(outputOf("expression a.fwk Value 'Prise * Copies'"), "");
-    EXPECT_THAT(rowsOf("records a.fwk --columns Value"), EndsWith("\nTotals|0|\n"));
 }
 
 TEST_F(Refusals, OneRecordMoreThanThereCanBe) {

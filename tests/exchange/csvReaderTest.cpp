@@ -70,33 +70,24 @@ TEST(CsvWriter, IsReadBack) {
 
 // A column of these cells, its type, and what it stores.
 TEST(ColumnTypes, AreGuessed) {
-    const struct {
-        const char* cells;
-        const char* type;
-        const char* stored;
-    } cases[] = {{"12\n-3.5\n \n.5\n0\n0.50", "Number", "12/-3.5//.5/0/0.50/"},
-                 {"123456789012345", "Number", "123456789012345/"},
-                 {"$5\n\"-$1,234.5\"\n$.05\n$0.50", "Currency", "$5.00/-$1,234.50/$.05/$.50/"},
-                 {" 3/4/2024\n12/31/1999", "Date", "03/04/2024/12/31/1999/"},
-                 {"a\nb", "Text", "a/b/"},
-                 {" \n\"\"", "Text", " //"},
-                 {"00123\n5", "Text", "00123/5/"},
-                 {"1e5", "Text", "1e5/"},
-                 {"\"1,234\"", "Text", "1,234/"},
-                 {"1234567890123456", "Text", "1234567890123456/"},
-                 {"+5", "Text", "+5/"},
-                 {"5.", "Text", "5./"},
-                 {"-", "Text", "-/"},
-                 {"1\n$2", "Text", "1/$2/"},
-                 {"$1.125", "Text", "$1.125/"},
-                 {"\"$1,23.00\"", "Text", "$1,23.00/"},
-                 {"$", "Text", "$/"},
-                 {"02/30/2024", "Text", "02/30/2024/"},
-                 {"25/12/2024", "Text", "25/12/2024/"},
-                 {"1/2/24", "Text", "1/2/24/"},
-                 {"2024-01-31", "Text", "2024-01-31/"}};
+    struct Case {
+        std::string cells, type, stored;
+    };
+    std::vector<Case> cases = {{"12\n-3.5\n \n.5\n0\n0.50", "Number", "12/-3.5//.5/0/0.50/"},
+                               {"123456789012345", "Number", "123456789012345/"},
+                               {"$5\n\"-$1,234.5\"\n$.05\n$0.50", "Currency", "$5.00/-$1,234.50/$.05/$.50/"},
+                               {" 3/4/2024\n12/31/1999", "Date", "03/04/2024/12/31/1999/"},
+                               {"a\nb", "Text", "a/b/"},
+                               {" \n\"\"", "Text", " //"},
+                               {"1\n$2", "Text", "1/$2/"},
+                               {"00123\n5", "Text", "00123/5/"},
+                               {"\"1,234\"", "Text", "1,234/"},
+                               {"\"$1,23.00\"", "Text", "$1,23.00/"}};
+    for (const std::string text : {"1e5", "1234567890123456", "+5", "5.", "-", "$1.125", "$", "02/30/2024",
+                                   "25/12/2024", "1/2/24", "2024-01-31"})
+        cases.push_back({text, "Text", text + "/"});
     for (const auto& [cells, type, stored] : cases) {
-        const CsvTable table("a\n" + std::string(cells));
+        const CsvTable table("a\n" + cells);
         const exchange::TableColumn column = exchange::columnsOf(table)[0];
         EXPECT_EQ(core::typeName(column.type), type) << cells;
         std::string all;

@@ -94,20 +94,10 @@ TEST_F(ZipDamageTest, RefusesWhatIsNoArchive) {
 }
 
 TEST_F(ZipDamageTest, NeverUnpacksAnUnsafeName) {
-    const std::string names[] = {"../x.jpg",
-                                 "/x.jpg",
-                                 "a/b.jpg",
-                                 "C:x.jpg",
-                                 "..",
-                                 ".",
-                                 "a\\b.jpg",
-                                 "..\\x.jpg",
-                                 "x\n.jpg",
-                                 "x\x7f.jpg",
-                                 "\\\\s\\x.jpg",
-                                 "folder/",
-                                 (folder / "x.jpg").string(),
-                                 std::string(256, 'n')};
+    std::vector<std::string> names = {folder / "x.jpg", std::string(256, 'n')};
+    for (const char* name : {"../x.jpg", "/x.jpg", "a/b.jpg", "C:x.jpg", "..", ".", "a\\b.jpg", "..\\x.jpg",
+                             "x\n.jpg", "x\x7f.jpg", "\\\\s\\x.jpg", "folder/"})
+        names.emplace_back(name);
     std::vector<std::pair<std::string, std::string>> entries = {{"good.jpg", "picture"},
                                                                 {"x..jpg", "picture"}};
     for (const std::string& name : names) entries.emplace_back(name, name.ends_with('/') ? "" : "evil");

@@ -79,29 +79,26 @@ TEST_F(ListEventsTest, doubleClickOnARecord) {
     const char* noColumn =
         "i Your database has no columns, please add some in the database properties dialog.";
     const struct {
-        const char *names, *types;
+        std::vector<int> types;
         bool toLayout, invoice;
         const char* expected;
-    } cases[] = {{"A|", "1|", false, false, "entryFrm"},
-                 {"A|", "2|", false, false, "entryFrm"},
-                 {"A|B|C|", "5|3|7|", false, false, "entryFrm"},
-                 {"A|", "4|", false, false, "entryFrm"},
-                 {"A|B|", "5|7|", false, false, ""}, // nothing to type in
-                 {"", "", false, false, noColumn},
-                 {"", "", true, false, "layout"},
-                 {"A|", "3|", true, false, "layout"},
-                 {"A|", "3|", false, true, "layout"}};
+    } cases[] = {{{1}, false, false, "entryFrm"},
+                 {{2}, false, false, "entryFrm"},
+                 {{5, 3, 7}, false, false, "entryFrm"},
+                 {{4}, false, false, "entryFrm"},
+                 {{5, 7}, false, false, ""},
+                 {{}, false, false, noColumn},
+                 {{}, true, false, "layout"},
+                 {{3}, true, false, "layout"},
+                 {{3}, false, true, "layout"}};
     for (const auto& c : cases) {
-        DataFile data;
-        data.names = c.names;
-        data.types = c.types;
-        data.widths = "1|1|1|";
-        data.spots = "";
+        DataFile data{std::initializer_list<std::pair<const char*, int>>()};
+        for (const int type : c.types) data.addColumn(std::to_string(type), type);
         data.rows = "a|\r\n-|\r\n";
         data.more = c.invoice ? "[DatabaseStyle ]True\r\n" : "";
         mainFrm.bLayoutDblClick = c.toLayout;
         openData(data);
-        EXPECT_EQ(doubleClick(document.LV), c.expected) << c.types << c.toLayout << c.invoice;
+        EXPECT_EQ(doubleClick(document.LV), c.expected) << data.types << c.toLayout << c.invoice;
     }
 }
 

@@ -35,10 +35,8 @@ protected:
 };
 
 TEST_F(CleanDatabase, whatNothingRefersToGoes) {
-    DataFile data;
+    DataFile data({{"Name", 3}, {"Note", 3}, {"Photo", 7}});
     data.layout = "C|clip.jpg|1|2|3|4|\r\nC|Case.jpg|1|2|3|4|\r\n";
-    data.names = "Name|Note|Photo|";
-    data.types = "3|3|7|";
     data.rows = "a|see text.jpg|photo.jpg|\r\nb|noted.jpg|DELETED.JPG|\r\nc|x|Twice.jpg@other.jpg@|\r\n"
                 "d|y.jpg ||\r\n------|------|------|\r\n";
     const std::string file =

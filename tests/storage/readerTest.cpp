@@ -183,24 +183,13 @@ TEST_F(ReaderTest, columnsTakeAlignmentAndIconFromTheirType) {
     data.spots = "1|9|8|7|6|5|4|3|2|";
     data.rows = "";
     read();
-    const struct {
-        const char* name;
-        core::Alignment align;
-        const char* icon;
-        float width;
-        int position;
-    } cases[] = {{"D", core::Alignment::Right, "", 700, 9}, {"C", core::Alignment::Right, "", 1, 8},
-                 {"T", core::Alignment::Left, "", 0.5F, 7}, {"N", core::Alignment::Right, "", 0, 6},
-                 {"K", core::Alignment::Right, "", -1, 5},  {"P", core::Alignment::Left, "Picture", 1234, 4},
-                 {"Six", core::Alignment::Left, "", 9, 3},  {"None", core::Alignment::Left, "", 1440, 2},
-                 {"Index", core::Alignment::Left, "", 0, 1}};
-    for (const auto& c : cases) {
-        const core::Column& column = document.LV.columns[c.name];
-        EXPECT_EQ(column.align, c.align) << c.name;
-        EXPECT_EQ(column.Icon, c.icon) << c.name;
-        EXPECT_FLOAT_EQ(column.Width, c.width) << c.name;
-        EXPECT_EQ(column.Position, c.position) << c.name;
-    }
+    std::ostringstream all;
+    for (const core::Column& column : document.LV.columns)
+        all << column.Text << (column.align == core::Alignment::Right ? " right " : " left ") << column.Icon
+            << column.Width << " at " << column.Position << "\n";
+    EXPECT_EQ(all.str(),
+              "Index left 0 at 1\nD right 700 at 9\nC right 1 at 8\nT left 0.5 at 7\nN right 0 at 6\n"
+              "K right -1 at 5\nP left Picture1234 at 4\nSix left 9 at 3\nNone left 1440 at 2\n");
 }
 
 TEST_F(ReaderTest, positionsThatAreMissingOrTooMany) {
@@ -216,36 +205,29 @@ TEST_F(ReaderTest, positionsThatAreMissingOrTooMany) {
 }
 
 TEST_F(ReaderTest, rows) {
-    const struct {
-        const char* what;
-        std::string rows;
-        const char* cells;
-        const char* keys;
-    } cases[] = {
-        {"the last line is the Totals row, whatever it holds", "a|1|2|\r\nb|3|4|\r\n", "a|1|2|;b|3|4|;",
-         "i1;Totals;"},
-        {"a single line too", "a|1|2|\r\n", "a|1|2|;", "Totals;"},
-        {"no line", "", "", ""},
-        {"no end of the last line", "a|1|2|\r\nb|3|4|", "a|1|2|;b|3|4|;", "i1;Totals;"},
-        {"blank lines anywhere", "\r\na|1|2|\r\n\r\n\r\nb|3|4|\r\n\r\n\r\n", "a|1|2|;b|3|4|;", "i1;Totals;"},
-        {"mixed line ends behind the last row", "a|1|2|\r\nb|3|4|\r\r\n\n", "a|1|2|;b|3|4|;", "i1;Totals;"},
-        {"a line of blanks is a row", "   \r\na|1|2|\r\n", "|||;a|1|2|;", "i1;Totals;"},
-        {"only Text keeps its blanks", " a |  1 | $2.00 |\r\n-|-|-|\r\n", " a |1|$2.00|;-|-|-|;",
-         "i1;Totals;"},
-        {"other white space stays", "a|\t1\t|2|\r\n-|-|-|\r\n", "a|\t1\t|2|;-|-|-|;", "i1;Totals;"},
-        {"cells too few", "a|\r\nb|1|\r\n|\r\n-|\r\n", "a|||;b|1||;|||;-|||;", "i1;i2;i3;Totals;"},
-        {"cells too many", "a|1|2|3|4|\r\n-|-|-|-|\r\n", "a|1|2|;-|-|-|;", "i1;Totals;"},
-        {"text behind the last separator", "a|1|2|x\r\nb|1\r\nc\r\n-|-|-|\r\n", "a|1|2|;b|||;|||;-|-|-|;",
-         "i1;i2;i3;Totals;"},
-        {"a separator in a cell shifts what follows", "a|b|1|2|\r\n-|-|-|\r\n", "a|b|1|;-|-|-|;",
-         "i1;Totals;"},
-        {"a line feed in a cell", "a\nb|1|2|\r\n-|-|-|\r\n", "a\nb|1|2|;-|-|-|;", "i1;Totals;"}};
-    for (const auto& c : cases) {
-        data.rows = c.rows;
+    const std::pair<const char*, const char*> cases[] = {
+        {"a|1|2|\r\nb|3|4|\r\n", "a|1|2|;b|3|4|;"}, // the last line is the Totals row, whatever it holds
+        {"a|1|2|\r\n", "a|1|2|;"},
+        {"", ""},
+        {"a|1|2|\r\nb|3|4|", "a|1|2|;b|3|4|;"},
+        {"\r\na|1|2|\r\n\r\n\r\nb|3|4|\r\n\r\n\r\n", "a|1|2|;b|3|4|;"},
+        {"a|1|2|\r\nb|3|4|\r\r\n\n", "a|1|2|;b|3|4|;"},
+        {"   \r\na|1|2|\r\n", "|||;a|1|2|;"},                             // a line of blanks is a row
+        {" a |  1 | $2.00 |\r\n-|-|-|\r\n", " a |1|$2.00|;-|-|-|;"},      // only Text keeps its blanks
+        {"a|\t1\t|2|\r\n-|-|-|\r\n", "a|\t1\t|2|;-|-|-|;"},               // other white space stays
+        {"a|\r\nb|1|\r\n|\r\n-|\r\n", "a|||;b|1||;|||;-|||;"},            // cells too few
+        {"a|1|2|3|4|\r\n-|-|-|-|\r\n", "a|1|2|;-|-|-|;"},                 // and too many
+        {"a|1|2|x\r\nb|1\r\nc\r\n-|-|-|\r\n", "a|1|2|;b|||;|||;-|-|-|;"}, // text behind the last separator
+        {"a|b|1|2|\r\n-|-|-|\r\n", "a|b|1|;-|-|-|;"},                     // a separator shifts what follows
+        {"a\nb|1|2|\r\n-|-|-|\r\n", "a\nb|1|2|;-|-|-|;"}};
+    for (const auto& [rows, cells] : cases) {
+        data.rows = rows;
         document.iLastKey = 99;
         readMore("");
-        EXPECT_EQ(Program::cells(document.LV), c.cells) << c.what;
-        EXPECT_EQ(keys(), c.keys) << c.what;
+        EXPECT_EQ(Program::cells(document.LV), cells) << rows;
+        std::string expected;
+        for (int i = 1; i < document.LV.count(); ++i) expected += "i" + std::to_string(i) + ";";
+        EXPECT_EQ(keys(), expected + (*rows == '\0' ? "" : "Totals;")) << rows;
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dataFile.h"
 #include "platform/zip.h"
 #include "scriptedPlatform.h"
 #include "storage/openFile.h"
@@ -51,22 +52,5 @@ struct Program {
             all += ";";
         });
         return all;
-    }
-};
-
-// The text of a data.dat with the given lines in place of the usual ones.
-struct DataFile {
-    std::string layout;
-    std::string names = "Name|Qty|Price|";
-    std::string types = "3|4|2|";
-    std::string widths = "1440|1440|1440|";
-    std::string spots = "1|2|3|4|";
-    std::string more; // further sections
-    std::string rows = "Bolt|12|$1.50|\r\nNut|7|$.25|\r\n------|------|------|\r\n";
-
-    std::string text() const {
-        return "[LayoutStart]\r\n" + layout + "[LayoutEnd]\r\n[Layout Options]4|6|1|1|1|1|1|1|0.15|\r\n" +
-               "[Column Names  ]" + names + "\r\n[Column Types  ]" + types + "\r\n[Column Widths ]" + widths +
-               "\r\n[Column Spots  ]" + spots + "\r\n" + more + "[Begin Data    ]\r\n" + rows;
     }
 };
