@@ -11,7 +11,7 @@ using std::chrono::steady_clock;
 constexpr const char* large = "packages-32000.fwk";
 
 TEST_F(FwkTest, AKillAtAnyMomentLeavesAWholeFile) {
-    constexpr int kills = 16;
+    constexpr int kills = 12;
     copyOf(large, "a.fwk");
     const std::string old = dataFileOf("a.fwk");
     const auto begin = steady_clock::now();

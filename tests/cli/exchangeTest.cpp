@@ -70,11 +70,7 @@ TEST_F(Exchange, WhatIsRefusedChangesNothing) {
     for (int i = 0; i < 32726; ++i) many += "x\n";
     std::string wide = "C0";
     for (int i = 1; i < 51; ++i) wide += ",C" + std::to_string(i);
-    const struct {
-        const char* command;
-        std::string table;
-        const char* reason;
-    } cases[] = {
+    const std::tuple<const char*, std::string, const char*> cases[] = {
         {"import a.fwk t.csv", "Title,Prise\nx,1\n", "fwk: a.fwk: no column \"Prise\"\n"},
         {"import a.fwk t.csv", "Index\nx\n", "fwk: a.fwk: no column \"Index\"\n"},
         {"import a.fwk t.csv", "Title,TITLE\nx,1\n", "the column \"Title\" stands in its header twice"},
@@ -97,13 +93,7 @@ TEST_F(Exchange, WhatIsRefusedChangesNothing) {
         {"export a.fwk -o no/t.csv", "", "no/t.csv: could not be written"}};
     for (const auto& [command, table, reason] : cases) {
         write("t.csv", table);
-        const auto before = state();
-        const Outcome outcome = run(std::string(command));
-        EXPECT_EQ(outcome.code, 1) << command << " " << reason;
-        EXPECT_NE(outcome.err.find(reason), std::string::npos) << outcome.err;
-        const std::string lines = "\n" + outcome.err; // one is the program's own, others are its messages
-        EXPECT_EQ(lines.rfind("\nfwk: "), lines.find("\nfwk: ")) << outcome.err;
-        EXPECT_EQ(state(), before) << command << " " << reason;
+        expectRefused({{command, 1, reason}});
     }
     write("t.csv", "Title,Cover\na|b,no.jpg\n");
     EXPECT_EQ(outputOf("import a.fwk t.csv --yes"), "1\n");

@@ -86,6 +86,19 @@ std::string FwkTest::outputOf(const std::string& line) const {
     return outcome.out;
 }
 
+void FwkTest::expectRefused(const std::vector<Refusal>& refusals) const {
+    const auto before = state();
+    for (const auto& [line, code, reason] : refusals) {
+        const Outcome outcome = run(line);
+        const std::string told = "\n" + outcome.err;
+        EXPECT_EQ(outcome.code, code) << line << told;
+        EXPECT_EQ(outcome.out, "") << line;
+        EXPECT_NE(told.find(reason), std::string::npos) << line << told;
+        EXPECT_EQ(told.rfind("\nfwk: "), told.find("\nfwk: ")) << line << told;
+        EXPECT_TRUE(state() == before) << line << " changed something";
+    }
+}
+
 std::string FwkTest::rowsOf(const std::string& line) const {
     const json printed = json::parse(outputOf(line + " --json"));
     std::string all;

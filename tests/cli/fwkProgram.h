@@ -13,6 +13,13 @@ struct Outcome {
     long maxKilobytes = 0;
 };
 
+// A command that fails, and a part of what it says.
+struct Refusal {
+    std::string line;
+    int code;
+    std::string reason;
+};
+
 // What a JSON pointer finds in a JSON text, as the shortest text with sorted keys; "(none)" for nothing.
 std::string jsonAt(const std::string& text, const std::string& pointer = "");
 std::string jsonWithout(const std::string& text, std::initializer_list<const char*> keys);
@@ -42,6 +49,9 @@ protected:
     void runAll(std::initializer_list<const char*> lines) const {
         for (const char* line : lines) (void)outputOf(line);
     }
+
+    // Each fails with its reason and nothing else of the program's own, and changes nothing on the disk.
+    void expectRefused(const std::vector<Refusal>& refusals) const;
 
     std::string dataFileOf(const std::string& name) const { return Program::dataFileOf(path(name)); }
     std::string info(const std::string& name, const std::string& pointer) const {

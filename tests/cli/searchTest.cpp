@@ -64,40 +64,28 @@ TEST_F(SearchCommand, RefusesAndLeavesTheFilesAlone) {
     data.rows = "01/05/2004|1/5/2004|\r\n------|------|\r\n";
     make("dates.fwk", data.text());
     std::filesystem::create_symlink("parts.fwk", path("link.fwk"));
-    const struct {
-        const char* arguments;
-        int code;
-        const char* err;
-    } cases[] = {
-        {"search parts.fwk", 2, "--where is required"},
-        {"search parts.fwk --where Name is", 2, "--where"},
-        {"search parts.fwk --where Name like x", 2, "HOW is ge, le, is, within or range"},
-        {"search parts.fwk --where Name is x y", 2, "HOW is missing"},
-        {"search parts.fwk --where Qty range 1", 2, "TO is missing"},
-        {"search parts.fwk --where A is 1 --where A is 1 --where A is 1 --where A is 1", 2, "three at most"},
-        {"search parts.fwk --where Name is x --yes", 2, "--yes"},
-        {"search parts.fwk --where Nme is x", 1, "fwk: parts.fwk: no column \"Nme\"\n"},
-        {"search dates.fwk --where Bought ge soon", 1,
-         "fwk: dates.fwk: \"soon\" is no date for the column \"Bought\"\n"},
-        {"search dates.fwk --where Note ge soon", 1, "fwk: dates.fwk: Type mismatch"},
-        {"search parts.fwk --where Name is bolt -o dates.fwk", 1,
-         "fwk: dates.fwk: it exists already, --yes overwrites it\n"},
-        {"search parts.fwk --where Name is bolt -o no/new.fwk", 1,
-         "fwk: no/new.fwk: could not be saved: its folder does not exist\n"},
-        {"search parts.fwk --where Name is bolt -o ./parts.fwk --yes", 1,
-         "fwk: ./parts.fwk: is the database that was searched\n"},
-        {"search parts.fwk --where Name is bolt -o link.fwk --yes", 1, "is the database that was searched\n"},
-        {"replace parts.fwk bolt", 2, "REPLACEMENT"},
-        {"replace parts.fwk bolt x --column Nme", 1, "fwk: parts.fwk: no column \"Nme\"\n"},
-    };
-    const auto before = state();
-    for (const auto& c : cases) {
-        const Outcome outcome = run(c.arguments);
-        EXPECT_EQ(outcome.code, c.code) << c.arguments << outcome.err;
-        EXPECT_THAT(outcome.err, HasSubstr(c.err)) << c.arguments;
-        EXPECT_EQ(outcome.out, "") << c.arguments;
-        EXPECT_EQ(state(), before) << c.arguments;
-    }
+    expectRefused(
+        {{"search parts.fwk", 2, "--where is required"},
+         {"search parts.fwk --where Name is", 2, "--where"},
+         {"search parts.fwk --where Name like x", 2, "HOW is ge, le, is, within or range"},
+         {"search parts.fwk --where Name is x y", 2, "HOW is missing"},
+         {"search parts.fwk --where Qty range 1", 2, "TO is missing"},
+         {"search parts.fwk --where A is 1 --where A is 1 --where A is 1 --where A is 1", 2, "three at most"},
+         {"search parts.fwk --where Name is x --yes", 2, "--yes"},
+         {"search parts.fwk --where Nme is x", 1, "fwk: parts.fwk: no column \"Nme\"\n"},
+         {"search dates.fwk --where Bought ge soon", 1,
+          "fwk: dates.fwk: \"soon\" is no date for the column \"Bought\"\n"},
+         {"search dates.fwk --where Note ge soon", 1, "fwk: dates.fwk: Type mismatch"},
+         {"search parts.fwk --where Name is bolt -o dates.fwk", 1,
+          "fwk: dates.fwk: it exists already, --yes overwrites it\n"},
+         {"search parts.fwk --where Name is bolt -o no/new.fwk", 1,
+          "fwk: no/new.fwk: could not be saved: its folder does not exist\n"},
+         {"search parts.fwk --where Name is bolt -o ./parts.fwk --yes", 1,
+          "fwk: ./parts.fwk: is the database that was searched\n"},
+         {"search parts.fwk --where Name is bolt -o link.fwk --yes", 1,
+          "is the database that was searched\n"},
+         {"replace parts.fwk bolt", 2, "REPLACEMENT"},
+         {"replace parts.fwk bolt x --column Nme", 1, "fwk: parts.fwk: no column \"Nme\"\n"}});
 }
 
 TEST_F(SearchCommand, ReplacesWordsAndCountsCells) {
@@ -111,11 +99,7 @@ TEST_F(SearchCommand, ReplacesWordsAndCountsCells) {
               "Name,Qty,Price\nScrew,12,$1.50\n\"Dot, \",-8,$.25\nScrew,7,$12.34\n");
 
     copyOf("invoices.fwk");
-    const auto before = state();
-    const Outcome refused = run("replace invoices.fwk a b");
-    EXPECT_EQ(refused.code, 1);
-    EXPECT_THAT(refused.err, HasSubstr("only available for normal non-invoice style databases"));
-    EXPECT_EQ(state(), before);
+    expectRefused({{"replace invoices.fwk a b", 1, "only available for normal non-invoice style databases"}});
 }
 
 } // namespace
