@@ -1,18 +1,8 @@
 #include "fwkProgram.h"
 
-#include <nlohmann/json.hpp>
-
-using nlohmann::json;
-
 namespace {
 
-class Exchange : public FwkTest {
-protected:
-    void write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(path(name), std::ios::binary) << bytes;
-    }
-    json recordsOf(const std::string& file) { return json::parse(outputOf("records " + file + " --json")); }
-};
+using Exchange = FwkTest;
 
 TEST_F(Exchange, RoundTripLosesNothing) {
     const std::string odd =
@@ -23,31 +13,34 @@ TEST_F(Exchange, RoundTripLosesNothing) {
                         "------|------|------|------|\r\n");
     for (const std::string& file :
          {copyOf("books.fwk"), copyOf("invoices.fwk"), copyOf("packages-500.fwk"), odd}) {
+        SCOPED_TRACE(file);
         const bool isInvoice = file == "invoices.fwk";
-        const std::string before = readBytes(path(file));
-        outputOf("export " + file + " -o t.csv");
-        outputOf("export " + file + " -o t.JSON");
-        EXPECT_EQ(readBytes(path(file)), before);
+        const std::string before = read(path(file));
+        runAll({("export " + file + " -o t.csv").c_str(), ("export " + file + " -o t.JSON").c_str()});
+        EXPECT_EQ(read(path(file)), before);
         std::filesystem::remove(path("new.fwk"));
         outputOf("import new.fwk t.csv" + std::string(isInvoice ? " --invoice" : ""));
-        const json source = recordsOf(file), target = recordsOf("new.fwk");
-        ASSERT_GT(source["records"].size(), 2U);
-        EXPECT_EQ(source["columns"], target["columns"]) << file;
-        EXPECT_EQ(source["records"], target["records"]) << file;
+        const auto recordsOf = [&](const std::string& name) {
+            const std::string all = rows(name);
+            return all.substr(0, all.find("Totals|"));
+        };
+        EXPECT_EQ(recordsOf("new.fwk"), recordsOf(file));
 
-        const json table = json::parse(readBytes(path("t.JSON")));
-        const json was = json::parse(outputOf("info " + file + " --json"));
-        const json is = json::parse(outputOf("info new.fwk --json"));
-        EXPECT_EQ(table["style"], is["style"]);
-        EXPECT_EQ(was["style"], is["style"]);
-        for (std::size_t i = 0; i < was["columns"].size(); ++i) {
-            EXPECT_EQ(was["columns"][i]["type"], is["columns"][i]["type"]) << file;
-            EXPECT_EQ(table["columns"][i]["type"], is["columns"][i]["type"]) << file;
+        const std::string table = read(path("t.JSON"));
+        const std::string was = outputOf("info " + file + " --json"), is = outputOf("info new.fwk --json");
+        for (const std::string& made : {is, table}) {
+            EXPECT_EQ(jsonAt(made, "/style"), jsonAt(was, "/style"));
+            std::string place = "/columns/0/";
+            for (; jsonAt(was, place + "name") != "(none)"; ++place[9])
+                for (const char* part : {"name", "type"})
+                    EXPECT_EQ(jsonAt(made, place + part), jsonAt(was, place + part));
+            EXPECT_GT(place[9], '3');
         }
-        for (std::size_t i = 0; i < source["records"].size(); ++i)
-            EXPECT_EQ(table["records"][i], source["records"][i]["cells"]) << file;
+        const std::string printed = outputOf("records " + file + " --json");
+        EXPECT_EQ(jsonAt(table, "/records/1"), jsonAt(printed, "/records/1/cells"));
+        EXPECT_EQ(jsonAt(table, "/records/2"), jsonAt(printed, "/records/2/cells"));
         outputOf("export new.fwk -o again.csv");
-        EXPECT_EQ(readBytes(path("again.csv")), readBytes(path("t.csv"))) << file;
+        EXPECT_EQ(read(path("again.csv")), read(path("t.csv")));
     }
 }
 
@@ -57,8 +50,8 @@ TEST_F(Exchange, AppendsAsAddDoes) {
     copyOf("books.fwk", "a.fwk");
     copyOf("books.fwk", "b.fwk");
     EXPECT_EQ(outputOf("import a.fwk t.csv"), "2\n");
-    run(std::vector<std::string>{"add", "b.fwk", "Title=Emma, again", "Price=1234", "Bought=03/04/2024"});
-    run("add b.fwk Title=It Price= Bought=x");
+    runAll(
+        {"add b.fwk 'Title=Emma, again' Price=1234 Bought=03/04/2024", "add b.fwk Title=It Price= Bought=x"});
     EXPECT_EQ(dataFileOf("a.fwk"), dataFileOf("b.fwk"));
     EXPECT_NE(dataFileOf("a.fwk").find("43|Emma, again|"), std::string::npos) << "the next serial number";
 
@@ -66,8 +59,7 @@ TEST_F(Exchange, AppendsAsAddDoes) {
     copyOf("invoices.fwk", "c.fwk");
     copyOf("invoices.fwk", "d.fwk");
     EXPECT_EQ(outputOf("import c.fwk i.csv"), "2\n");
-    outputOf("add d.fwk Customer=Ann Item=Bolt@Nut@ Qty=2@3@ Price=150@2.5@");
-    outputOf("add d.fwk Customer=Bob");
+    runAll({"add d.fwk Customer=Ann Item=Bolt@Nut@ Qty=2@3@ Price=150@2.5@", "add d.fwk Customer=Bob"});
     EXPECT_EQ(dataFileOf("c.fwk"), dataFileOf("d.fwk"));
 }
 
@@ -78,11 +70,7 @@ TEST_F(Exchange, WhatIsRefusedChangesNothing) {
     for (int i = 0; i < 32726; ++i) many += "x\n";
     std::string wide = "C0";
     for (int i = 1; i < 51; ++i) wide += ",C" + std::to_string(i);
-    const struct {
-        const char* command;
-        std::string table;
-        const char* reason;
-    } cases[] = {
+    const std::tuple<const char*, std::string, const char*> cases[] = {
         {"import a.fwk t.csv", "Title,Prise\nx,1\n", "fwk: a.fwk: no column \"Prise\"\n"},
         {"import a.fwk t.csv", "Index\nx\n", "fwk: a.fwk: no column \"Index\"\n"},
         {"import a.fwk t.csv", "Title,TITLE\nx,1\n", "the column \"Title\" stands in its header twice"},
@@ -102,17 +90,10 @@ TEST_F(Exchange, WhatIsRefusedChangesNothing) {
         {"import n.fwk .", "", ".: Is a directory"},
         {"import t.csv t.csv", "a\n", "t.csv: "},
         {"export a.fwk -o t.txt", "", "t.txt: a table is a .csv or a .json file"},
-        {"export a.fwk -o no/t.csv", "", "no/t.csv: could not be written"},
-    };
+        {"export a.fwk -o no/t.csv", "", "no/t.csv: could not be written"}};
     for (const auto& [command, table, reason] : cases) {
         write("t.csv", table);
-        const auto before = state();
-        const Outcome outcome = run(std::string(command));
-        EXPECT_EQ(outcome.code, 1) << command << " " << reason;
-        EXPECT_NE(outcome.err.find(reason), std::string::npos) << outcome.err;
-        const std::string lines = "\n" + outcome.err; // one is the program's own, others are its messages
-        EXPECT_EQ(lines.rfind("\nfwk: "), lines.find("\nfwk: ")) << outcome.err;
-        EXPECT_EQ(state(), before) << command << " " << reason;
+        expectRefused({{command, 1, reason}});
     }
     write("t.csv", "Title,Cover\na|b,no.jpg\n");
     EXPECT_EQ(outputOf("import a.fwk t.csv --yes"), "1\n");

@@ -1,17 +1,8 @@
 #pragma once
 
-#include "databases.h"
+#include "programTest.h"
 
-#include <chrono>
-#include <csignal>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <set>
-#include <sstream>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <thread>
-#include <unistd.h>
+#include <sys/types.h>
 
 // How a run of the program ended.
 struct Outcome {
@@ -22,89 +13,56 @@ struct Outcome {
     long maxKilobytes = 0;
 };
 
-inline std::string readBytes(const std::filesystem::path& file) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(file, std::ios::binary).rdbuf();
-    return bytes.str();
-}
+// A command that fails, and a part of what it says.
+struct Refusal {
+    std::string line;
+    int code;
+    std::string reason;
+};
+
+// What a JSON pointer finds in a JSON text, as the shortest text with sorted keys; "(none)" for nothing.
+std::string jsonAt(const std::string& text, const std::string& pointer = "");
+std::string jsonWithout(const std::string& text, std::initializer_list<const char*> keys);
 
 // Runs the built program in a folder of its own, with a home and a folder for temporary files in which
 // whatever it leaves behind can be seen.
 class FwkTest : public ::testing::Test {
 protected:
-    FwkTest() {
-        std::filesystem::create_directories(files);
-        std::filesystem::create_directories(outside / "tmp");
-    }
+    FwkTest();
 
     std::filesystem::path path(const std::string& name) const { return files / name; }
-
-    std::string copyOf(const std::string& name, const std::string& as = {}) const {
-        const std::filesystem::path copy = path(as.empty() ? name : as);
-        std::filesystem::copy_file(std::filesystem::path(TEST_DATA_DIR) / name, copy,
-                                   std::filesystem::copy_options::overwrite_existing);
-        std::filesystem::permissions(copy, std::filesystem::perms::owner_write,
-                                     std::filesystem::perm_options::add);
-        return copy.filename();
+    static std::string read(const std::filesystem::path& file) { return ScriptedPlatform::read(file); }
+    void write(const std::string& name, std::string_view bytes) const {
+        ScriptedPlatform::write(path(name), bytes);
     }
+    std::string copyOf(const std::string& name, const std::string& as = {}) const;
     std::string make(const std::string& name, const std::string& dataFile,
-                     std::initializer_list<const char*> images = {}) const {
-        std::filesystem::rename(program.make(name, dataFile, images), path(name));
-        return name;
-    }
+                     std::initializer_list<const char*> images = {}) const;
 
     // The started program; its output goes into files.
-    pid_t start(const std::vector<std::string>& arguments, const std::string& output = "out") const {
-        std::vector<char*> argv{const_cast<char*>(FWK_PROGRAM)};
-        for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
-        argv.push_back(nullptr);
-        const std::filesystem::path out = program.platform.folder / output;
-        const std::filesystem::path err = out.string() + ".err";
-        const pid_t child = ::fork();
-        if (child != 0) return child;
-        const bool ready = ::chdir(files.c_str()) == 0 && ::setenv("HOME", outside.c_str(), 1) == 0 &&
-                           ::setenv("TMPDIR", (outside / "tmp").c_str(), 1) == 0 &&
-                           std::freopen(out.c_str(), "w", stdout) && std::freopen(err.c_str(), "w", stderr);
-        for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) ::unsetenv(folder);
-        if (ready) ::execv(FWK_PROGRAM, argv.data());
-        ::_exit(127);
-    }
-    Outcome finish(pid_t child, const std::string& output = "out") const {
-        int status = 0;
-        struct rusage usage {};
-        ::wait4(child, &status, 0, &usage);
-        Outcome outcome;
-        if (WIFEXITED(status)) outcome.code = WEXITSTATUS(status);
-        if (WIFSIGNALED(status)) outcome.signal = WTERMSIG(status);
-        outcome.out = readBytes(program.platform.folder / output);
-        outcome.err = readBytes(program.platform.folder / (output + ".err"));
-        outcome.maxKilobytes = usage.ru_maxrss;
-        return outcome;
-    }
+    pid_t start(const std::vector<std::string>& arguments, const std::string& output = "out") const;
+    Outcome finish(pid_t child, const std::string& output = "out") const;
     Outcome run(const std::vector<std::string>& arguments) const { return finish(start(arguments)); }
-    // The same with the arguments in one text, divided by blanks.
-    Outcome run(const std::string& line) const {
-        std::istringstream words(line);
-        std::vector<std::string> arguments;
-        for (std::string word; words >> word;) arguments.push_back(word);
-        return run(arguments);
+    // The same with the arguments in one text, divided by blanks; what stands in '' is one argument.
+    Outcome run(const std::string& line) const;
+    std::string outputOf(const std::string& line) const; // of a command that works
+    void runAll(std::initializer_list<const char*> lines) const {
+        for (const char* line : lines) (void)outputOf(line);
     }
-    std::string outputOf(const std::string& line) const {
-        const Outcome outcome = run(line);
-        EXPECT_EQ(outcome.code, 0) << line << ": " << outcome.err;
-        return outcome.out;
-    }
+
+    // Each fails with its reason and nothing else of the program's own, and changes nothing on the disk.
+    void expectRefused(const std::vector<Refusal>& refusals) const;
 
     std::string dataFileOf(const std::string& name) const { return Program::dataFileOf(path(name)); }
+    std::string info(const std::string& name, const std::string& pointer) const {
+        return jsonAt(outputOf("info " + name + " --json"), pointer);
+    }
+    // The records and the sums, a line each: "i1|a|b|". A command that prints them can be told.
+    std::string rows(const std::string& name) const { return rowsOf("records " + name); }
+    std::string rowsOf(const std::string& line) const;
 
     // All files of the folder with their bytes: what a command that fails or reads must not change.
-    std::map<std::string, std::string> state() const {
-        std::map<std::string, std::string> all;
-        for (const auto& entry :
-             std::filesystem::recursive_directory_iterator(program.platform.folder / "world"))
-            all[entry.path()] = entry.is_regular_file() ? readBytes(entry.path()) : "";
-        return all;
-    }
+    std::map<std::string, std::string> state() const;
 
     Program program;
     std::filesystem::path files = program.platform.folder / "world" / "files"; // where the program runs

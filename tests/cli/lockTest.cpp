@@ -1,4 +1,7 @@
 #include "fwkProgram.h"
+#include "platform/headlessPlatform.h"
+
+#include <stdexcept>
 
 namespace {
 
@@ -51,6 +54,13 @@ TEST_F(Locks, clean) {
     EXPECT_TRUE(state() == before);
     std::filesystem::resize_file(path("a.fwk"), 100);
     EXPECT_EQ(run("clean a.fwk").code, 1);
+}
+
+TEST(HeadlessPlatform, tellsAMessageInOneLine) {
+    std::ostringstream messages;
+    platform::HeadlessPlatform machine(messages);
+    machine.msgBox("one\r\ntwo\nthree\r", platform::Icon::None, "Title", platform::Buttons::Ok);
+    EXPECT_EQ(messages.str(), "Title: one two three \n");
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "core/number.h"
 
 #include "core/currency.h"
-#include "core/runTimeError.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
@@ -13,16 +13,6 @@
 using namespace core;
 
 namespace {
-
-template <typename Action>
-int errorOf(Action action) {
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error.number;
-    }
-    return 0;
-}
 
 struct Readings {
     double value;
@@ -41,8 +31,7 @@ TEST(NumberTest, readsAllFormsOfANumber) {
         {12345678901234567890.0, {"12345678901234567890", "12,345,678,901,234,567,890"}},
         {0.30000000000000004, {"0.30000000000000004"}},
         {9007199254740992, {"9007199254740993"}},
-        {1e308, {"1e308", "100000000e300"}},
-    };
+        {1e308, {"1e308", "100000000e300"}}};
     for (const auto& [value, texts] : cases)
         for (const char* text : texts) {
             EXPECT_TRUE(isNumeric(text)) << text;
@@ -64,7 +53,7 @@ TEST(NumberTest, readsNothingElseAsANumber) {
     for (const char* text : cases) {
         EXPECT_FALSE(isNumeric(text)) << text;
         EXPECT_EQ(toDouble(text), std::nullopt) << text;
-        EXPECT_EQ(errorOf([&] { Currency::parse(text); }), errors::typeMismatch) << text;
+        EXPECT_EQ(raisedBy([&] { Currency::parse(text); }), errors::typeMismatch) << text;
     }
     EXPECT_FALSE(isNumeric(std::string_view("1\0", 2)));
 }
@@ -83,8 +72,7 @@ TEST(NumberTest, valReadsTheHeadOfAText) {
         {12345678901234567890.0, {"12345678901234567890", "12345678901234567890,5"}},
         {0.1234567890123456789, {"0.1234567890123456789"}},
         {largest, {"1e999"}},
-        {-largest, {"-1e999"}},
-    };
+        {-largest, {"-1e999"}}};
     for (const auto& [value, texts] : cases)
         for (const char* text : texts) EXPECT_EQ(val(text), value) << text;
     EXPECT_EQ(val("0." + std::string(400, '0') + "1"), 0);
@@ -92,26 +80,29 @@ TEST(NumberTest, valReadsTheHeadOfAText) {
 }
 
 TEST(NumberTest, writesDoublesWithFifteenDigits) {
-    const std::pair<const char*, std::vector<double>> cases[] = {
-        {"0", {0, -0.0, std::nan(""), INFINITY}},
-        {"0.3", {0.3, 0.1 + 0.2}},
-        {"-1.5", {-1.5}},
-        {"100", {100}},
-        {"0.666666666666667", {2.0 / 3}},
-        {"123456789.123457", {123456789.123456789}},
-        {"123456789012345", {123456789012345, 123456789012345.25}},
-        {"999999999999999", {999999999999999}},
-        {"1E+15", {1e15, 999999999999999.9}},
-        {"-1.23456789012346E+15", {-1234567890123456}},
-        {"1.5E+300", {1.5e300}},
-        {"0.0001", {0.0001}},
-        {"0.00012345", {0.00012345}},
-        {"1E-05", {0.00001}},
-        {"-1.5E-07", {-0.00000015}},
-        {"4.94065645841247E-324", {5e-324}},
-    };
-    for (const auto& [text, values] : cases)
-        for (const double value : values) EXPECT_EQ(numberText(value), text);
+    const std::pair<double, const char*> cases[] = {{0, "0"},
+                                                    {-0.0, "0"},
+                                                    {std::nan(""), "0"},
+                                                    {INFINITY, "0"},
+                                                    {0.3, "0.3"},
+                                                    {0.1 + 0.2, "0.3"},
+                                                    {-1.5, "-1.5"},
+                                                    {100, "100"},
+                                                    {2.0 / 3, "0.666666666666667"},
+                                                    {123456789.123456789, "123456789.123457"},
+                                                    {123456789012345, "123456789012345"},
+                                                    {123456789012345.25, "123456789012345"},
+                                                    {999999999999999, "999999999999999"},
+                                                    {1e15, "1E+15"},
+                                                    {999999999999999.9, "1E+15"},
+                                                    {-1234567890123456, "-1.23456789012346E+15"},
+                                                    {1.5e300, "1.5E+300"},
+                                                    {0.0001, "0.0001"},
+                                                    {0.00012345, "0.00012345"},
+                                                    {0.00001, "1E-05"},
+                                                    {-0.00000015, "-1.5E-07"},
+                                                    {5e-324, "4.94065645841247E-324"}};
+    for (const auto& [value, text] : cases) EXPECT_EQ(numberText(value), text);
 }
 
 TEST(NumberTest, writesSinglesShortAndTheSame) {
@@ -128,12 +119,18 @@ TEST(NumberTest, writesSinglesShortAndTheSame) {
 }
 
 TEST(NumberTest, roundsHalvesToEven) {
-    const std::pair<double, std::vector<double>> cases[] = {
-        {0, {0.5, -0.5, 0.49999999999999994, -0.2}}, {2, {1.5, 2.5, 2.4}}, {-2, {-1.5, -2.5}}, {-3, {-2.6}},
-        {4503599627370497, {4503599627370497}},
-    };
-    for (const auto& [wanted, values] : cases)
-        for (const double value : values) EXPECT_EQ(roundHalfEven(value), wanted) << value;
+    const std::pair<double, double> cases[] = {{0.5, 0},
+                                               {-0.5, 0},
+                                               {0.49999999999999994, 0},
+                                               {-0.2, 0},
+                                               {1.5, 2},
+                                               {2.5, 2},
+                                               {2.4, 2},
+                                               {-1.5, -2},
+                                               {-2.5, -2},
+                                               {-2.6, -3},
+                                               {4503599627370497, 4503599627370497}};
+    for (const auto& [value, wanted] : cases) EXPECT_EQ(roundHalfEven(value), wanted) << value;
 }
 
 TEST(NumberTest, integersOverflowBeyondTheirRange) {
@@ -142,9 +139,9 @@ TEST(NumberTest, integersOverflowBeyondTheirRange) {
     EXPECT_EQ(toInt32(2147483647.4), 2147483647);
     EXPECT_EQ(toInt32(-2147483648.5), std::numeric_limits<std::int32_t>::min());
     for (const double value : {32767.5, -32769.0, 1e300, std::nan("")})
-        EXPECT_EQ(errorOf([&] { toInt16(value); }), errors::overflow) << value;
+        EXPECT_EQ(raisedBy([&] { toInt16(value); }), errors::overflow) << value;
     for (const double value : {2147483647.5, -2147483649.0, -1e300})
-        EXPECT_EQ(errorOf([&] { toInt32(value); }), errors::overflow) << value;
+        EXPECT_EQ(raisedBy([&] { toInt32(value); }), errors::overflow) << value;
 }
 
 TEST(CurrencyTest, holdsFourDecimals) {
@@ -161,18 +158,12 @@ TEST(CurrencyTest, holdsFourDecimals) {
         {"-1.2344", {"-1.23445"}},
         {"10", {"9.99995", "1e1", "000000000000000000000010"}},
         {"922337203685477.5807", {"922337203685477.5807", "922337203685477.58074"}},
-        {"-922337203685477.5808", {"-922337203685477.5808"}},
-    };
+        {"-922337203685477.5808", {"-922337203685477.5808"}}};
     for (const auto& [wanted, texts] : cases)
         for (const char* text : texts) EXPECT_EQ(Currency::parse(text).text(), wanted) << text;
-    const char* tooLarge[] = {"922337203685477.5808",
-                              "-922337203685477.5809",
-                              "922337203685477.58075",
-                              "999999999999999999",
-                              "1e15",
-                              "1e999999"};
-    for (const char* text : tooLarge)
-        EXPECT_EQ(errorOf([&] { Currency::parse(text); }), errors::overflow) << text;
+    for (const char* text : {"922337203685477.5808", "-922337203685477.5809", "922337203685477.58075",
+                             "999999999999999999", "1e15", "1e999999"})
+        EXPECT_EQ(raisedBy([&] { Currency::parse(text); }), errors::overflow) << text;
 }
 
 TEST(CurrencyTest, addsExactlyAndOverflows) {
@@ -184,14 +175,14 @@ TEST(CurrencyTest, addsExactlyAndOverflows) {
     EXPECT_EQ(sum, Currency::parse("100"));
     EXPECT_EQ((sum - Currency::parse("100.1")).toDouble(), -0.1);
     EXPECT_EQ(most - step + step, most);
-    EXPECT_EQ(errorOf([&] { (void)(most + step); }), errors::overflow);
-    EXPECT_EQ(errorOf([&] { (void)(least - step); }), errors::overflow);
+    EXPECT_EQ(raisedBy([&] { (void)(most + step); }), errors::overflow);
+    EXPECT_EQ(raisedBy([&] { (void)(least - step); }), errors::overflow);
 }
 
 // The plain forms have a faster way of their own; written as rarer forms, the same numbers take the other.
 TEST(NumberTest, bothWaysOfReadingAgree) {
     std::mt19937_64 random(11);
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < 5000; ++i) {
         std::string digits = std::to_string(random() >> random() % 64);
         const std::size_t places = random() % 8;
         if (places < digits.size()) digits.insert(digits.size() - places, ".");

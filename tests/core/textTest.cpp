@@ -15,19 +15,15 @@ std::string characterOf(char32_t c) {
 }
 
 TEST(TextTest, trimsBlanksAndNothingElse) {
-    struct Case {
-        const char *text, *both, *front, *behind;
-    };
-    const Case cases[] = {{"  a b ", "a b", "a b ", "  a b"},
-                          {"\ta\n", "\ta\n", "\ta\n", "\ta\n"},
-                          {"\u00A0a\u00A0", "\u00A0a\u00A0", "\u00A0a\u00A0", "\u00A0a\u00A0"},
-                          {"   ", "", "", ""},
-                          {"", "", "", ""}};
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.text);
-        EXPECT_EQ(trim(c.text), c.both);
-        EXPECT_EQ(ltrim(c.text), c.front);
-        EXPECT_EQ(rtrim(c.text), c.behind);
+    const char* cases[][4] = {{"  a b ", "a b", "a b ", "  a b"},
+                              {"\ta\n", "\ta\n", "\ta\n", "\ta\n"},
+                              {"\u00A0a\u00A0", "\u00A0a\u00A0", "\u00A0a\u00A0", "\u00A0a\u00A0"},
+                              {"   ", "", "", ""},
+                              {"", "", "", ""}};
+    for (const auto& [text, both, front, behind] : cases) {
+        EXPECT_EQ(trim(text), both);
+        EXPECT_EQ(ltrim(text), front);
+        EXPECT_EQ(rtrim(text), behind);
     }
 }
 
@@ -86,26 +82,22 @@ TEST(TextTest, cutsByCharacters) {
         EXPECT_EQ(left(text, n), heads[n]);
         EXPECT_EQ(right(text, n), tails[n]);
     }
-    struct Case {
+    const struct {
         std::size_t start, count;
         const char* wanted;
-    };
-    const Case cases[] = {{1, 2, "aé"}, {3, 2, "日😀"}, {5, 9, "z"}, {6, 1, ""}, {0, 3, ""}, {2, 0, ""}};
-    for (const Case& c : cases) EXPECT_EQ(mid(text, c.start, c.count), c.wanted) << c.start;
+    } cases[] = {{1, 2, "aé"}, {3, 2, "日😀"}, {5, 9, "z"}, {6, 1, ""}, {0, 3, ""}, {2, 0, ""}};
+    for (const auto& c : cases) EXPECT_EQ(mid(text, c.start, c.count), c.wanted) << c.start;
 }
 
 TEST(TextTest, countsAStrayByteAsACharacter) {
-    struct Case {
-        std::string text;
-        std::size_t characters;
-    };
-    const Case cases[] = {{"\xE9", 1},         {"a\xC3", 2},           {"\xE2\x82", 2}, {"\xE2\x82z", 3},
-                          {"\x80\x80", 2},     {"\xF0\x9F\x98 é", 5},  {"\xFF\xFE", 2}, {"\xC0\x80", 2},
-                          {"\xF0\x9F\x98", 3}, {"eight by\xE9tes", 12}};
-    for (const Case& c : cases) {
-        EXPECT_EQ(length(c.text), c.characters) << c.text;
-        EXPECT_EQ(right(c.text, c.characters), c.text);
-        EXPECT_EQ(std::string(left(c.text, 1)) + std::string(mid(c.text, 2, 99)), c.text);
+    const std::pair<std::string, std::size_t> cases[] = {
+        {"\xE9", 1},         {"a\xC3", 2},           {"\xE2\x82", 2}, {"\xE2\x82z", 3},
+        {"\x80\x80", 2},     {"\xF0\x9F\x98 é", 5},  {"\xFF\xFE", 2}, {"\xC0\x80", 2},
+        {"\xF0\x9F\x98", 3}, {"eight by\xE9tes", 12}};
+    for (const auto& [text, characters] : cases) {
+        EXPECT_EQ(length(text), characters) << text;
+        EXPECT_EQ(right(text, characters), text);
+        EXPECT_EQ(std::string(left(text, 1)) + std::string(mid(text, 2, 99)), text);
     }
 }
 

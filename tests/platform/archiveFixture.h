@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/runTimeError.h"
 #include "platform/zip.h"
+#include "raised.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -12,17 +12,6 @@
 #include <utility>
 #include <vector>
 #include <zip.h>
-
-// The number of the run-time error that the call ends in; 0 when it ends well.
-template <class Call>
-int errorOf(Call call) {
-    try {
-        call();
-        return 0;
-    } catch (const core::RunTimeError& error) {
-        return error.number;
-    }
-}
 
 inline std::string readBytes(const std::filesystem::path& file) {
     std::ostringstream bytes;

@@ -42,15 +42,15 @@ protected:
             (void)Zip.commentAt(i);
             (void)Zip.sizeAt(i);
             const std::string name = Zip.FileNameAt(i);
-            errorOf([&] { Zip.ExtractFile(name); });
-            errorOf([&] { (void)Zip.readEntry(name, 1 << 20); });
+            raisedBy([&] { Zip.ExtractFile(name); });
+            raisedBy([&] { (void)Zip.readEntry(name, 1 << 20); });
         }
         Zip.addBuffer("data.dat", "new", "");
         Zip.CloseArchiveAs(folder / "rewritten.fwk");
     }
 
     int errorOfReading(std::uint64_t maxBytes = 1 << 20) {
-        return errorOf([&] {
+        return raisedBy([&] {
             Zip Zip;
             Zip.OpenArchive(archive);
             (void)Zip.readEntry("data.dat", maxBytes);
@@ -58,7 +58,7 @@ protected:
     }
 
     int errorOfExtracting() {
-        const int number = errorOf([&] {
+        const int number = raisedBy([&] {
             Zip Zip;
             Zip.SetBaseFolder(folder / "out");
             Zip.OpenArchive(archive);
@@ -84,7 +84,7 @@ TEST_F(ZipDamageTest, RefusesWhatIsNoArchive) {
         {"loop", errors::pathAccess}};
     for (const auto& [name, number] : cases) {
         Zip Zip;
-        EXPECT_EQ(errorOf([&] { Zip.OpenArchive(folder / name); }), number) << name;
+        EXPECT_EQ(raisedBy([&] { Zip.OpenArchive(folder / name); }), number) << name;
     }
     const std::string whole = readBytes(TEST_DATA_DIR "/books.fwk");
     for (std::size_t length = 1; length < whole.size(); length += length < whole.size() - 300 ? 97 : 1) {
@@ -94,20 +94,10 @@ TEST_F(ZipDamageTest, RefusesWhatIsNoArchive) {
 }
 
 TEST_F(ZipDamageTest, NeverUnpacksAnUnsafeName) {
-    const std::string names[] = {"../x.jpg",
-                                 "/x.jpg",
-                                 "a/b.jpg",
-                                 "C:x.jpg",
-                                 "..",
-                                 ".",
-                                 "a\\b.jpg",
-                                 "..\\x.jpg",
-                                 "x\n.jpg",
-                                 "x\x7f.jpg",
-                                 "\\\\s\\x.jpg",
-                                 "folder/",
-                                 (folder / "x.jpg").string(),
-                                 std::string(256, 'n')};
+    std::vector<std::string> names = {folder / "x.jpg", std::string(256, 'n')};
+    for (const char* name : {"../x.jpg", "/x.jpg", "a/b.jpg", "C:x.jpg", "..", ".", "a\\b.jpg", "..\\x.jpg",
+                             "x\n.jpg", "x\x7f.jpg", "\\\\s\\x.jpg", "folder/"})
+        names.emplace_back(name);
     std::vector<std::pair<std::string, std::string>> entries = {{"good.jpg", "picture"},
                                                                 {"x..jpg", "picture"}};
     for (const std::string& name : names) entries.emplace_back(name, name.ends_with('/') ? "" : "evil");
@@ -117,8 +107,8 @@ TEST_F(ZipDamageTest, NeverUnpacksAnUnsafeName) {
     Zip.OpenArchive(archive);
     ASSERT_EQ(Zip.FileCount(), static_cast<int>(entries.size()));
     for (int i = 0; i < Zip.FileCount(); ++i)
-        EXPECT_EQ(errorOf([&] { Zip.ExtractFile(Zip.FileNameAt(i)); }), 0) << Zip.FileNameAt(i);
-    EXPECT_EQ(errorOf([&] { Zip.ExtractFile(""); }), 0);
+        EXPECT_EQ(raisedBy([&] { Zip.ExtractFile(Zip.FileNameAt(i)); }), 0) << Zip.FileNameAt(i);
+    EXPECT_EQ(raisedBy([&] { Zip.ExtractFile(""); }), 0);
     EXPECT_EQ(filesIn(folder).size(), 2U) << "the archive and the folder out";
     EXPECT_EQ(filesIn(folder / "out").size(), 2U);
     EXPECT_FALSE(fs::exists("/x.jpg"));
@@ -139,22 +129,21 @@ TEST_F(ZipDamageTest, UnpackingReplacesALink) {
 }
 
 TEST_F(ZipDamageTest, RefusesHeadersThatLie) {
-    struct Case {
+    const std::string text(10000, 'x');
+    const struct {
         const char* what;
         std::size_t localOffset, directoryOffset;
         std::string bytes;
-    };
-    const std::string text(10000, 'x');
-    const Case cases[] = {{"smaller than it is", 22, 24, std::string("\x10\0\0\0", 4)},
-                          {"empty", 22, 24, std::string(4, '\0')},
-                          {"larger than it is", 22, 24, std::string("\x11\x27\0\0", 4)},
-                          {"larger than deflate can", 22, 24, std::string("\0\0\x0c\0", 4)},
-                          {"packed larger than the archive", 18, 20, std::string("\0\0\0\x10", 4)},
-                          {"packed smaller than it is", 18, 20, std::string("\x0a\0\0\0", 4)},
-                          {"another checksum", 14, 16, "abcd"},
-                          {"an unknown method", 8, 10, std::string("\x63\0", 2)},
-                          {"the directory points elsewhere", 30, 42, std::string("\1\0\0\0", 4)}};
-    for (const Case& it : cases) {
+    } cases[] = {{"smaller than it is", 22, 24, std::string("\x10\0\0\0", 4)},
+                 {"empty", 22, 24, std::string(4, '\0')},
+                 {"larger than it is", 22, 24, std::string("\x11\x27\0\0", 4)},
+                 {"larger than deflate can", 22, 24, std::string("\0\0\x0c\0", 4)},
+                 {"packed larger than the archive", 18, 20, std::string("\0\0\0\x10", 4)},
+                 {"packed smaller than it is", 18, 20, std::string("\x0a\0\0\0", 4)},
+                 {"another checksum", 14, 16, "abcd"},
+                 {"an unknown method", 8, 10, std::string("\x63\0", 2)},
+                 {"the directory points elsewhere", 30, 42, std::string("\1\0\0\0", 4)}};
+    for (const auto& it : cases) {
         make({{"data.dat", text}});
         ASSERT_EQ(errorOfReading(), 0);
         patch(it.localOffset, it.directoryOffset, it.bytes);
@@ -171,7 +160,7 @@ TEST_F(ZipDamageTest, RefusesHeadersThatLie) {
 
 TEST_F(ZipDamageTest, ZipBombIsRefusedAtOnce) {
     zip_t* zip = zip_open(archive.c_str(), ZIP_CREATE, nullptr);
-    zip_uint64_t left = std::uint64_t{1} << 30;
+    zip_uint64_t left = std::uint64_t{300} << 20; // more than any file may have
     zip_file_add(zip, "data.dat", zip_source_function(zip, &giveZeros, &left), 0);
     zip_set_file_compression(zip, 0, ZIP_CM_DEFLATE, 1);
     ASSERT_EQ(zip_close(zip), 0);
@@ -179,7 +168,7 @@ TEST_F(ZipDamageTest, ZipBombIsRefusedAtOnce) {
     for (const std::string& size : toldSizes) {
         patch(22, 24, size);
         const auto start = std::chrono::steady_clock::now();
-        EXPECT_EQ(errorOfReading(64 << 20), errors::badFileFormat);
+        EXPECT_EQ(errorOfReading(16 << 20), errors::badFileFormat);
         EXPECT_EQ(errorOfExtracting(), errors::badFileFormat);
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(500));
     }
@@ -205,7 +194,7 @@ TEST_F(ZipDamageTest, StandsFlippedBytes) {
             bytes[bytes.size() - 1 - random() % end] ^= static_cast<char>(1U << random() % 8);
         }
         writeBytes(archive, bytes);
-        const int number = errorOf([&] { useAll(); });
+        const int number = raisedBy([&] { useAll(); });
         EXPECT_TRUE(number == 0 || number == errors::badFileFormat) << number;
         refused += number != 0;
     }

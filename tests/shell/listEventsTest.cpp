@@ -1,52 +1,40 @@
 #include "shell/listEvents.h"
-#include "databases.h"
-
-#include <gtest/gtest.h>
+#include "programTest.h"
 
 namespace {
 
 using core::RecordsList;
 
-class ListEventsTest : public testing::Test {
+class ListEventsTest : public ProgramTest {
 protected:
-    Program program;
-    app::App& app = program.app;
-    app::MainFrm& mainFrm = app.mainFrm;
-    core::Document& document = app.document;
-    ScriptedPlatform& platform = program.platform;
+    RecordsList& results = document.searchLV;
 
-    void openRows(const std::string& rows, const std::string& more = "") {
+    void openRows(const std::string& rows) {
         DataFile data;
         data.rows = rows;
-        data.more = more;
-        program.open(program.make("rows.fwk", data.text()));
+        openData(data);
     }
     // What a double click brings up: a form, a message, or a tab.
     std::string doubleClick(RecordsList& list) {
         platform.forms.clear();
-        platform.messages.clear();
         mainFrm.SSTab1 = app::reportTab;
         shell::list_DblClick(app, list);
+        const std::string message = told();
         if (!platform.forms.empty()) return platform.forms[0];
-        if (!platform.messages.empty()) return platform.messages[0].text;
-        return mainFrm.SSTab1 == app::layoutTab ? "layout" : "";
+        return mainFrm.SSTab1 == app::layoutTab ? "layout" : message;
     }
 };
 
 TEST_F(ListEventsTest, aHeaderClickSortsAndTogglesAcrossColumns) {
     openRows("b|2|$1.00|\r\na|10|$2.00|\r\nc|1|$.50|\r\n-|13|-|\r\n");
-    const struct {
-        int column;
-        const char* cells;
-    } clicks[] = {
+    const std::pair<int, const char*> clicks[] = {
         {2, "c|1|$.50|;b|2|$1.00|;a|10|$2.00|;-|13|-|;"}, // the first sort goes downwards
         {3, "c|1|$.50|;b|2|$1.00|;a|10|$2.00|;-|13|-|;"}, // and the next upwards, whatever its column
         {3, "a|10|$2.00|;b|2|$1.00|;c|1|$.50|;-|13|-|;"},
-        {4, "c|1|$.50|;b|2|$1.00|;a|10|$2.00|;-|13|-|;"},
-    };
-    for (const auto& click : clicks) {
-        shell::list_ColumnClick(app, document.LV, click.column);
-        EXPECT_EQ(Program::cells(document.LV), click.cells) << click.column;
+        {4, "c|1|$.50|;b|2|$1.00|;a|10|$2.00|;-|13|-|;"}};
+    for (const auto& [column, cells] : clicks) {
+        shell::list_ColumnClick(app, document.LV, column);
+        EXPECT_EQ(Program::cells(document.LV), cells) << column;
         EXPECT_TRUE(document.LV.at(4).isTotals());
     }
     EXPECT_FALSE(document.bModified) << "an order is no change";
@@ -64,9 +52,8 @@ TEST_F(ListEventsTest, withOneItemNothingIsSorted) {
     EXPECT_FALSE(document.LV.Sorted);
     EXPECT_EQ(document.LV.SortOrder, 0);
     EXPECT_EQ(document.LV.arrangement(), before);
-    RecordsList& bare = document.searchLV; // no Totals row either
-    shell::list_ColumnClick(app, bare, 1);
-    EXPECT_EQ(bare.SortOrder, 0);
+    shell::list_ColumnClick(app, results, 1); // no Totals row either
+    EXPECT_EQ(results.SortOrder, 0);
 }
 
 // The first column of the invoice list names the records shown, so a sort must leave it alone.
@@ -89,45 +76,36 @@ TEST_F(ListEventsTest, aSortOfInvoicesKeepsTheKeysInTheFirstColumn) {
 }
 
 TEST_F(ListEventsTest, doubleClickOnARecord) {
+    const char* noColumn =
+        "i Your database has no columns, please add some in the database properties dialog.";
     const struct {
-        const char* what;
-        const char* names;
-        const char* types;
+        std::vector<int> types;
         bool toLayout, invoice;
         const char* expected;
-    } cases[] = {
-        {"date", "A|", "1|", false, false, "entryFrm"},
-        {"currency", "A|", "2|", false, false, "entryFrm"},
-        {"text among others", "A|B|C|", "5|3|7|", false, false, "entryFrm"},
-        {"number", "A|", "4|", false, false, "entryFrm"},
-        {"nothing to type in", "A|B|", "5|7|", false, false, ""},
-        {"no column", "", "", false, false,
-         "Your database has no columns, please add some in the database properties dialog."},
-        {"no column, but the option", "", "", true, false, "layout"},
-        {"the option", "A|", "3|", true, false, "layout"},
-        {"an invoice", "A|", "3|", false, true, "layout"},
-    };
+    } cases[] = {{{1}, false, false, "entryFrm"},
+                 {{2}, false, false, "entryFrm"},
+                 {{5, 3, 7}, false, false, "entryFrm"},
+                 {{4}, false, false, "entryFrm"},
+                 {{5, 7}, false, false, ""},
+                 {{}, false, false, noColumn},
+                 {{}, true, false, "layout"},
+                 {{3}, true, false, "layout"},
+                 {{3}, false, true, "layout"}};
     for (const auto& c : cases) {
-        DataFile data;
-        data.names = c.names;
-        data.types = c.types;
-        data.widths = "1|1|1|";
-        data.spots = "";
+        DataFile data{std::initializer_list<std::pair<const char*, int>>()};
+        for (const int type : c.types) data.addColumn(std::to_string(type), type);
         data.rows = "a|\r\n-|\r\n";
         data.more = c.invoice ? "[DatabaseStyle ]True\r\n" : "";
         mainFrm.bLayoutDblClick = c.toLayout;
-        program.open(program.make("rows.fwk", data.text()));
-        EXPECT_EQ(doubleClick(document.LV), c.expected) << c.what;
-        if (!platform.messages.empty()) {
-            EXPECT_EQ(platform.messages[0].icon, platform::Icon::Information);
-            EXPECT_EQ(platform.messages[0].caption, "Ferrowick");
-        }
+        openData(data);
+        EXPECT_EQ(doubleClick(document.LV), c.expected) << data.types << c.toLayout << c.invoice;
     }
 }
 
 TEST_F(ListEventsTest, doubleClickOnAnInvoiceOrItsItems) {
     program.openCopyOf("invoices.fwk");
     RecordsList& shown = document.iLV;
+    EXPECT_EQ(&shell::visibleList(app), &shown);
     shown.setSelectedItem(&shown.at(2));
     EXPECT_EQ(doubleClick(shown), "layout");
     EXPECT_EQ(document.LV.selectedItem(), &document.LV.byKey(shown.at(2).Text));
@@ -139,7 +117,7 @@ TEST_F(ListEventsTest, doubleClickOnAnInvoiceOrItsItems) {
 
 TEST_F(ListEventsTest, doubleClickOnAResult) {
     openRows("a|1|2|\r\nb|1|2|\r\n-|-|-|\r\n");
-    RecordsList& results = document.searchLV;
+    EXPECT_EQ(&shell::visibleList(app), &document.LV);
     results.columns.add("Index", "Index", 0);
     core::addTotalsRow(results);
     mainFrm.theListView = &results;
@@ -176,17 +154,9 @@ TEST_F(ListEventsTest, ctrlAddsAndTakesAway) {
     EXPECT_EQ(click(4, true), "110|;$4.50|;") << "the sums are no record";
     EXPECT_EQ(mainFrm.selectedRows, std::vector<int>{1}) << "filled by a plain click alone";
     shell::list_KeyUp(app);
-    EXPECT_FALSE(mainFrm.bCtrlDown);
     list.at(4).Selected = false;
     EXPECT_EQ(click(2, true), "10|;$.50|;");
     EXPECT_EQ(mainFrm.selectedRows, (std::vector<int>{2, 3}));
-}
-
-TEST_F(ListEventsTest, theListOnView) {
-    program.openCopyOf("books.fwk");
-    EXPECT_EQ(&shell::visibleList(app), &document.LV);
-    program.openCopyOf("invoices.fwk");
-    EXPECT_EQ(&shell::visibleList(app), &document.iLV);
 }
 
 } // namespace

@@ -1,11 +1,10 @@
 #include "shell/samples.h"
 
 #include "calc/recalculation.h"
-#include "databases.h"
+#include "programTest.h"
 #include "storage/saveFile.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -13,13 +12,9 @@ namespace fs = std::filesystem;
 
 const fs::path samples = SAMPLES_DIR;
 
-std::string dataOf(const std::string& file) {
-    platform::Zip Zip;
-    Zip.OpenArchive(file);
-    return Zip.readEntry("data.dat", 1 << 20).value();
-}
+using Samples = ProgramTest;
 
-TEST(Samples, AreAllThereAndAlreadyCalculated) {
+TEST(AllSamples, AreThereAndAlreadyCalculated) {
     const std::vector<shell::Sample> all = shell::samplesIn(samples);
     ASSERT_EQ(all.size(), 5U);
     for (const shell::Sample& sample : all) {
@@ -32,48 +27,39 @@ TEST(Samples, AreAllThereAndAlreadyCalculated) {
         calc::RecalculateAll(program.app, program.app.document.LV);
         storage::SaveFile(program.app, false, false);
         EXPECT_THAT(program.platform.messages, testing::IsEmpty());
-        EXPECT_EQ(dataOf(copy), dataOf(sample.file.string()));
+        EXPECT_EQ(Program::dataFileOf(copy), Program::dataFileOf(sample.file.string()));
     }
 }
 
-TEST(Samples, AreOfferedOnlyWhereTheyStand) {
-    const Program program;
+TEST_F(Samples, AreOfferedOnlyWhereTheyStand) {
     EXPECT_THAT(shell::samplesIn(program.path("absent")), testing::IsEmpty());
     fs::copy_file(samples / "invoices.fwk", program.path("invoices.fwk"));
-    const std::vector<shell::Sample> found = shell::samplesIn(program.platform.folder);
+    const std::vector<shell::Sample> found = shell::samplesIn(platform.folder);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].name, "Invoices");
 }
 
-TEST(Samples, ACopyThatIsThereIsOpenedAsItWasLeft) {
-    Program program;
-    const fs::path copy = program.path("Ferrowick/library.fwk");
+// Installed files are read-only for the user. The copy is his to change, and opened as he left it.
+TEST_F(Samples, AreCopiedOnce) {
+    const fs::path installed = program.path("garden.fwk"), copy = program.path("Ferrowick/library.fwk");
     fs::create_directories(copy.parent_path());
     fs::copy_file(samples / "garden.fwk", copy);
-    shell::openSample(program.app, {samples / "library.fwk", "Library", "", ""}, program.platform.folder);
-    EXPECT_NE(program.app.document.LV.columns.find("Plant"), nullptr);
-    EXPECT_EQ(program.app.mainFrm.control("mnuFile1").Caption, copy.string());
-}
-
-// As it is installed: read-only for the user. The copy is his to change.
-TEST(Samples, TheCopyCanBeWritten) {
-    Program program;
-    const fs::path installed = program.path("garden.fwk");
+    shell::openSample(app, {samples / "library.fwk", "Library", "", ""}, platform.folder);
+    EXPECT_NE(document.LV.columns.find("Plant"), nullptr);
+    EXPECT_EQ(mainFrm.control("mnuFile1").Caption, copy.string());
     fs::copy_file(samples / "garden.fwk", installed);
     fs::permissions(installed, fs::perms::owner_read);
-    shell::openSample(program.app, {installed, "Garden", "", ""}, program.platform.folder / "documents");
-    const fs::perms perms = fs::status(program.app.document.currentFile).permissions();
-    EXPECT_NE(perms & fs::perms::owner_write, fs::perms::none);
+    shell::openSample(app, {installed, "Garden", "", ""}, platform.folder);
+    EXPECT_NE(fs::status(document.currentFile).permissions() & fs::perms::owner_write, fs::perms::none);
 }
 
-TEST(Samples, WithoutAPlaceForTheCopyThereIsAMessage) {
-    Program program;
+TEST_F(Samples, WithoutAPlaceForTheCopyThereIsAMessage) {
     const fs::path blocked = program.path("documents");
     fs::copy_file(samples / "garden.fwk", blocked); // a file where the folder should be
-    shell::openSample(program.app, {samples / "garden.fwk", "Garden", "", ""}, blocked);
-    EXPECT_THAT(program.platform.lastMessage(),
+    shell::openSample(app, {samples / "garden.fwk", "Garden", "", ""}, blocked);
+    EXPECT_THAT(platform.lastMessage(),
                 testing::StartsWith("The sample could not be copied to " + (blocked / "Ferrowick").string()));
-    EXPECT_EQ(program.app.document.currentFile, "");
+    EXPECT_EQ(document.currentFile, "");
 }
 
 } // namespace

@@ -1,17 +1,10 @@
-#include "databases.h"
+#include "programTest.h"
 #include "shell/mainWindow.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
-class WindowStateTest : public testing::Test {
+class WindowStateTest : public ProgramTest {
 protected:
-    Program program;
-    app::App& app = program.app;
-    app::MainFrm& mainFrm = app.mainFrm;
-    core::Document& document = app.document;
-
     bool isEnabled(const char* key) { return mainFrm.control(key).Enabled; }
     std::string tabButtons() {
         std::string all;
@@ -25,12 +18,10 @@ TEST_F(WindowStateTest, enableControls) {
         bool bInvoiceStyle, bInvoiceView;
         bool deleteOff, deleteOn; // with bEnable False and True; the others do not hang on it
         bool layouts, multiple, duplicate, frame;
-    } cases[] = {
-        {false, false, false, true, true, true, true, false},
-        {false, true, false, true, true, true, true, false}, // left over from the invoices before
-        {true, false, true, true, true, false, false, true},
-        {true, true, false, false, false, false, false, true},
-    };
+    } cases[] = {{false, false, false, true, true, true, true, false},
+                 {false, true, false, true, true, true, true, false}, // left over from the invoices before
+                 {true, false, true, true, true, false, false, true},
+                 {true, true, false, false, false, false, false, true}};
     for (const auto& c : cases)
         for (const bool bEnable : {true, false, true}) {
             document.bInvoiceStyle = c.bInvoiceStyle;
@@ -64,8 +55,7 @@ TEST_F(WindowStateTest, fileSizesAreCutNotRounded) {
         {0, "0 bytes."},       {7, "7 bytes."},        {999, "999 bytes."},    {1'000, "1 KB"},
         {9'999, "9 KB"},       {10'000, "10 KB"},      {99'999, "99 KB"},      {100'000, "100 KB"},
         {999'999, "999 KB"},   {1'000'000, "1 MB"},    {9'999'999, "9 MB"},    {10'000'000, "10 MB"},
-        {99'999'999, "99 MB"}, {100'000'000, "10 MB"}, {123'456'789, "12 MB"}, {4'294'967'296, "42 MB"},
-    };
+        {99'999'999, "99 MB"}, {100'000'000, "10 MB"}, {123'456'789, "12 MB"}, {4'294'967'296, "42 MB"}};
     for (const auto& [bytes, text] : cases) EXPECT_EQ(app::fileSizeText(bytes), text) << bytes;
     document.currentFile = program.path("a.fwk");
     mainFrm.panels[app::fileSizePanel] = "as it was";
@@ -77,31 +67,22 @@ TEST_F(WindowStateTest, fileSizesAreCutNotRounded) {
     EXPECT_EQ(mainFrm.panels[app::fileSizePanel], "Filesize: 960 bytes.");
 }
 
-TEST_F(WindowStateTest, setDocumentModified) {
-    app::setDocumentModified(app, true);
-    EXPECT_TRUE(document.bModified);
-    EXPECT_EQ(mainFrm.panels[app::documentPanel], "Document Modified");
-    app::setDocumentModified(app, false);
-    EXPECT_FALSE(document.bModified);
-    EXPECT_EQ(mainFrm.panels[app::documentPanel], "Document Saved");
-}
-
 TEST_F(WindowStateTest, tabsOfAStandardDatabase) {
     program.openCopyOf("books.fwk");
-    shell::SSTab1_Click(app, app::layoutTab);
-    EXPECT_EQ(mainFrm.SSTab1, app::layoutTab);
-    EXPECT_EQ(mainFrm.iPrintMode, app::printLayout);
-    EXPECT_FALSE(document.LV.MultiSelect);
-    EXPECT_EQ(tabButtons(), "000");
-    shell::SSTab1_Click(app, app::previewTab);
-    EXPECT_EQ(mainFrm.SSTab1, app::previewTab);
-    EXPECT_EQ(mainFrm.iPrintMode, app::printLayout) << "the preview shows what the tab before it prints";
-    EXPECT_EQ(tabButtons(), "000");
-    shell::SSTab1_Click(app, app::reportTab);
-    EXPECT_EQ(mainFrm.SSTab1, app::reportTab);
-    EXPECT_EQ(mainFrm.iPrintMode, app::printReport);
-    EXPECT_TRUE(document.LV.MultiSelect);
-    EXPECT_EQ(tabButtons(), "111");
+    const struct {
+        int tab, iPrintMode;
+        bool multiSelect;
+        const char* buttons;
+    } clicks[] = {{app::layoutTab, app::printLayout, false, "000"},
+                  {app::previewTab, app::printLayout, false, "000"}, // shows what the tab before it prints
+                  {app::reportTab, app::printReport, true, "111"}};
+    for (const auto& click : clicks) {
+        shell::SSTab1_Click(app, click.tab);
+        EXPECT_EQ(mainFrm.SSTab1, click.tab);
+        EXPECT_EQ(mainFrm.iPrintMode, click.iPrintMode) << click.tab;
+        EXPECT_EQ(document.LV.MultiSelect, click.multiSelect) << click.tab;
+        EXPECT_EQ(tabButtons(), click.buttons) << click.tab;
+    }
     EXPECT_FALSE(mainFrm.invoiceFrameVisible);
     mainFrm.theListView = &document.searchLV; // results are on view
     shell::SSTab1_Click(app, app::layoutTab);
@@ -152,13 +133,11 @@ TEST(PrinterCheck, withoutAPrinterTheTabStays) {
     for (const int tab : {app::layoutTab, app::previewTab}) {
         shell::SSTab1_Click(app, tab);
         EXPECT_EQ(app.mainFrm.SSTab1, app::reportTab);
-        ASSERT_EQ(platform.messages.size(), 1U);
-        EXPECT_EQ(platform.messages[0].text, "You need to first install a printer on this system.");
-        EXPECT_EQ(platform.messages[0].caption, "Printer Not Installed");
-        platform.messages.clear();
+        EXPECT_EQ(toldBy(platform),
+                  "i Printer Not Installed: You need to first install a printer on this system.");
     }
     shell::SSTab1_Click(app, app::reportTab);
-    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(toldBy(platform), "");
 }
 
 } // namespace

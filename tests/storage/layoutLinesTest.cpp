@@ -17,10 +17,8 @@ std::string again(std::string_view line) {
 }
 
 TEST(LayoutLines, comeBackAsTheyWereOrInTheShortestForm) {
-    const struct {
-        const char* line;
-        const char* written; // nullptr: the same
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
+        // nullptr: the same
         {"F|Price|2880|3000|1815|285|True|False|True|MS Sans Serif|8.25|255|", nullptr},
         {"F||0|0|0|0|False|False|False||1|0|", nullptr},
         {"F|A|1|2|3|4|False|True|False|Arial|10|-2147483640|more|and more|",
@@ -59,9 +57,9 @@ TEST(LayoutLines, comeBackAsTheyWereOrInTheShortestForm) {
         {"LNX|1|2|3|4|5|", "skipped"},
         {" C|a|1|2|3|4|", "skipped"},
         {"|", "skipped"},
-        {"", "skipped"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(again(c.line), c.written == nullptr ? c.line : c.written) << c.line;
+        {"", "skipped"}};
+    for (const auto& [line, written] : cases)
+        EXPECT_EQ(again(line), written == nullptr ? line : written) << line;
 }
 
 TEST(LayoutLines, thatCannotBeUnderstoodRaiseAndLeaveNoObject) {
@@ -80,8 +78,7 @@ TEST(LayoutLines, thatCannotBeUnderstoodRaiseAndLeaveNoObject) {
         {"B|1|2|3|4|red|1|", errors::typeMismatch},
         {"B|1|2|3|4|0|32768|", errors::overflow},
         {"B|1|2|3|4|99999999999|1|", errors::overflow},
-        {"C|a|1E39|2|3|4|", errors::overflow},
-    };
+        {"C|a|1E39|2|3|4|", errors::overflow}};
     for (const auto& [line, number] : cases) {
         core::LayoutObjects layout;
         EXPECT_EQ(raisedBy([&, text = line] { storage::readLayoutLine(text, layout); }), number) << line;
@@ -93,7 +90,7 @@ TEST(LayoutLines, thatCannotBeUnderstoodRaiseAndLeaveNoObject) {
 
 TEST(LayoutLines, goFamilyByFamilyInIndexOrderAndWithoutTheTemplate) {
     core::LayoutObjects layout;
-    for (const char* line : {"C|c1|1|2|3|4|", "P|p1|1|2|3|4|", "B|1|2|3|4|5|6|", "VLN|1|2|3|4|5|",
+    for (const char* line : {"C|c1|1|2|3|4|", "P|p1|1|2|3|4|stamp.gif|", "B|1|2|3|4|5|6|", "VLN|1|2|3|4|5|",
                              "LN|1|2|3|4|5|", "L|l1|1|2|3|4|True|False|False|A|8|0||0|",
                              "F|f1|1|2|3|4|True|False|False|A|8|0|", "C|c2|1|2|3|4|", "C|c3|1|2|3|4|"})
         ASSERT_TRUE(storage::readLayoutLine(line, layout)) << line;
@@ -103,22 +100,15 @@ TEST(LayoutLines, goFamilyByFamilyInIndexOrderAndWithoutTheTemplate) {
     EXPECT_TRUE(layout.clipPic[4].Visible);
     EXPECT_EQ(layout.clipPic[4].clipImage.Width, 70);
     EXPECT_EQ(layout.clipPic[4].clipImage.Height, 80);
+    EXPECT_EQ(layout.imgHolder[1].ToolTipText, "stamp.gif") << "from behind the separator";
+    EXPECT_EQ(layout.imgHolder[1].viewImage.Width, 3);
+    EXPECT_EQ(layout.imgHolder[1].viewImage.Height, 4);
     std::string out;
     storage::writeLayoutLines(out, layout, "\n");
     EXPECT_EQ(out, "F|f1|1|2|3|4|True|False|False|A|8|0|\n"
                    "L|l1|1|2|3|4|True|False|False|A|8|0||0|\n"
                    "LN|1|2|3|4|5|\nVLN|1|2|3|4|5|\nB|1|2|3|4|5|6|\nP|p1|1|2|3|4|\n"
                    "C|c1|1|2|3|4|\nC|c3|1|2|3|4|\nC|c4|5|6|70|80|\n");
-}
-
-TEST(LayoutLines, aPictureBoxTakesItsTipFromBehindTheSeparator) {
-    core::LayoutObjects layout;
-    ASSERT_TRUE(storage::readLayoutLine("P|Cover|1|2|300|400|", layout));
-    ASSERT_TRUE(storage::readLayoutLine("P|Cover|1|2|300|400|stamp.gif|", layout));
-    EXPECT_EQ(layout.imgHolder[1].ToolTipText, "");
-    EXPECT_EQ(layout.imgHolder[2].ToolTipText, "stamp.gif");
-    EXPECT_EQ(layout.imgHolder[1].viewImage.Width, 300);
-    EXPECT_EQ(layout.imgHolder[1].viewImage.Height, 400);
 }
 
 } // namespace

@@ -1,25 +1,15 @@
 #include "storage/newDatabase.h"
-#include "databases.h"
+#include "programTest.h"
 #include "storage/databaseTypeFrm.h"
 #include "storage/saveFile.h"
-
-#include <gtest/gtest.h>
-
-#include <fstream>
 
 namespace {
 
 namespace fs = std::filesystem;
 using platform::Answer;
-using platform::Icon;
 
-class NewDatabaseTest : public testing::Test {
+class NewDatabaseTest : public ProgramTest {
 protected:
-    Program program;
-    app::App& app = program.app;
-    core::Document& document = app.document;
-    app::MainFrm& mainFrm = app.mainFrm;
-    ScriptedPlatform& platform = program.platform;
     bool invoice = false;           // the style that the user picks
     std::function<void()> onDesign; // what he does in the database properties
 
@@ -39,12 +29,11 @@ protected:
         platform.files = {target};
         storage::newDatabase(app, bStartUp);
     }
-    bool designWasShown() const { return std::ranges::count(platform.forms, "designFrm") > 0; }
-    std::vector<std::string> questions() const {
-        std::vector<std::string> texts;
-        for (const auto& message : platform.messages) texts.push_back(message.text);
-        return texts;
+    void addColumns() {
+        document.LV.columns.add("Name", "Name").setTypeFromFile("3");
+        document.LV.columns.add("Qty", "Qty").setTypeFromFile("4");
     }
+    bool designWasShown() const { return std::ranges::count(platform.forms, "designFrm") > 0; }
 };
 
 TEST_F(NewDatabaseTest, isClearedDefinedAndSetUp) {
@@ -67,46 +56,35 @@ TEST_F(NewDatabaseTest, isClearedDefinedAndSetUp) {
             EXPECT_TRUE(document.LV.empty());
             EXPECT_EQ(document.iLV.Visible, style);
             EXPECT_EQ(mainFrm.SSTab1, app::reportTab);
-            EXPECT_EQ(mainFrm.panels[app::fileSizePanel], "");
-            EXPECT_EQ(mainFrm.panels[app::documentPanel], "");
-            document.LV.columns.add("Name", "Name").setTypeFromFile("3");
-            document.LV.columns.add("Qty", "Qty").setTypeFromFile("4");
+            EXPECT_EQ(mainFrm.panels[app::fileSizePanel] + mainFrm.panels[app::documentPanel], "");
+            addColumns();
         };
         platform.forms.clear();
-        platform.dialogs.clear();
         make(target);
         EXPECT_EQ(platform.forms, (std::vector<std::string>{"databaseTypeFrm", "designFrm"}));
-        ASSERT_EQ(platform.dialogs.size(), 1U);
-        EXPECT_EQ(platform.dialogs[0].title, "Specify Name For New Database");
-        EXPECT_EQ(platform.dialogs[0].fileName, "");
-        EXPECT_EQ(platform.dialogs[0].filter, "Database (*.fwk)|*.fwk|All Files (*.*)|*.*");
-        EXPECT_TRUE(platform.messages.empty());
+        EXPECT_EQ(dialogs(), "Specify Name For New Database//Database (*.fwk)|*.fwk|All Files (*.*)|*.*");
+        EXPECT_EQ(told(), "");
 
         EXPECT_EQ(Program::cells(document.LV), "------|------|;");
         EXPECT_TRUE(document.LV.at(1).isTotals());
         EXPECT_EQ(document.iLastKey, 0);
         EXPECT_EQ(document.layoutOptions.layoutTopMargin, 1);
-        EXPECT_EQ(document.reportData.reportTitle, "");
+        EXPECT_EQ(document.reportData.reportTitle + document.lockPassword, "");
         EXPECT_EQ(document.layout.layoutField.count() + document.layout.tLabel.count(), 0);
-        EXPECT_EQ(document.lockPassword, "");
         EXPECT_TRUE(document.formulas.empty() && document.optionedCols.empty() && document.SerialsLV.empty());
         EXPECT_EQ(mainFrm.panels[app::stylePanel],
                   style ? "Database Style: Invoice" : "Database Style: Standard");
         EXPECT_EQ(mainFrm.iPrintMode, app::printReport);
         EXPECT_EQ(mainFrm.iFieldFocus, 0);
-        EXPECT_FALSE(document.bInvoiceView);
         EXPECT_EQ(mainFrm.viewOpt, 1);
-        EXPECT_FALSE(document.bModified);
+        EXPECT_FALSE(document.bInvoiceView || document.bModified);
         EXPECT_TRUE(mainFrm.control("Save").Enabled);
         EXPECT_EQ(document.LV3.count(), style ? 0 : 1) << "the sums of the numeric columns";
     }
 }
 
 TEST_F(NewDatabaseTest, opensAfterItsFirstSaveAndNotBefore) {
-    onDesign = [&] {
-        document.LV.columns.add("Name", "Name").setTypeFromFile("3");
-        document.LV.columns.add("Qty", "Qty").setTypeFromFile("4");
-    };
+    onDesign = [&] { addColumns(); };
     for (const bool style : {false, true}) {
         invoice = style;
         const std::string target = program.path(style ? "invoice.fwk" : "standard.fwk");
@@ -115,7 +93,6 @@ TEST_F(NewDatabaseTest, opensAfterItsFirstSaveAndNotBefore) {
         EXPECT_EQ(document.currentFile, "");
         platform.answers = {Answer::Yes};
         make(target);
-        platform.messages.clear();
         storage::SaveFile(app, false, false);
         program.open(target);
         EXPECT_EQ(document.currentFile, target);
@@ -125,12 +102,11 @@ TEST_F(NewDatabaseTest, opensAfterItsFirstSaveAndNotBefore) {
 }
 
 TEST_F(NewDatabaseTest, cancelChangesNothingButTheStyleThatWasPicked) {
-    const std::string file = program.openCopyOf("books.fwk");
-    app::setDocumentModified(app, true);
+    const std::string file = openChanged();
     mainFrm.SSTab1 = app::layoutTab;
     invoice = true;
     storage::newDatabase(app, false); // the file dialog is cancelled
-    EXPECT_EQ(platform.dialogs.size(), 1U);
+    EXPECT_NE(dialogs(), "");
     EXPECT_TRUE(document.bInvoiceStyle);
     document.bInvoiceStyle = false;
     platform.onForm = [&](std::string_view) {
@@ -142,77 +118,60 @@ TEST_F(NewDatabaseTest, cancelChangesNothingButTheStyleThatWasPicked) {
     mainFrm.bDatabaseTypeChosen = true;
     make(program.path("new.fwk"));
     EXPECT_FALSE(document.bInvoiceStyle);
-    EXPECT_EQ(platform.dialogs.size(), 1U) << "no name is asked for";
+    EXPECT_EQ(dialogs() + told(), "") << "no name is asked for";
     EXPECT_EQ(document.currentFile, file);
     EXPECT_EQ(document.LV.count(), 43);
     EXPECT_EQ(mainFrm.SSTab1, app::layoutTab);
-    EXPECT_TRUE(platform.messages.empty());
     EXPECT_FALSE(fs::exists(program.path("new.fwk")));
 }
 
 TEST_F(NewDatabaseTest, offersToSaveWhatIsOpen) {
-    const struct {
-        Answer answer;
-        bool saved;
-    } cases[] = {{Answer::Yes, true}, {Answer::No, false}, {Answer::Cancel, true}};
-    for (const auto& c : cases) {
-        const std::string file = program.openCopyOf("books.fwk");
-        document.LV.at(1).cells[1] = "changed";
-        app::setDocumentModified(app, true);
-        platform.messages.clear();
-        platform.answers = {c.answer};
+    const std::pair<Answer, bool> cases[] = {
+        {Answer::Yes, true}, {Answer::No, false}, {Answer::Cancel, true}};
+    for (const auto& [answer, isSaved] : cases) {
+        const std::string file = openChanged();
+        platform.answers = {answer};
         make(program.path("new.fwk"));
-        ASSERT_EQ(platform.messages.size(), 1U);
-        EXPECT_EQ(platform.messages[0].text, "Save current file " + file + "?");
-        EXPECT_EQ(platform.messages[0].caption, "Ferrowick");
-        EXPECT_EQ(Program::dataFileOf(file).find("|changed|") != std::string::npos, c.saved);
-        EXPECT_EQ(document.bModified, !c.saved) << "a refusal leaves the flag for the next question";
+        EXPECT_EQ(told(), "- Save current file " + file + "?");
+        EXPECT_EQ(holdsChange(file), isSaved);
+        EXPECT_EQ(document.bModified, !isSaved) << "a refusal leaves the flag for the next question";
         fs::remove(program.path("new.fwk"));
     }
     // Nothing to save, or nowhere.
     program.openCopyOf("books.fwk");
-    platform.messages.clear();
     app::setDocumentModified(app, false);
     make(program.path("new.fwk"));
     document.currentFile.clear();
     app::setDocumentModified(app, true);
     make(program.path("other.fwk"));
-    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(told(), "");
 }
 
 TEST_F(NewDatabaseTest, aRefusedOverwritingLeavesAnEmptyWindowUnderTheOldName) {
-    const std::string target = program.copyOf("invoices.fwk");
-    const auto size = fs::file_size(target);
+    const std::string target = program.copyOf("invoices.fwk"), other = bytesOf(target);
     for (const bool bStartUp : {false, true}) {
         const std::string file = program.openCopyOf("books.fwk");
-        platform.messages.clear();
         platform.answers = {Answer::No};
         make(target, bStartUp);
-        ASSERT_EQ(platform.messages.size(), 1U);
-        EXPECT_EQ(platform.messages[0].text, "Overwrite Existing File?");
-        EXPECT_EQ(platform.messages[0].icon, Icon::Critical);
-        EXPECT_EQ(platform.messages[0].caption, "Ferrowick");
+        EXPECT_EQ(told(), "x Overwrite Existing File?");
         EXPECT_EQ(document.currentFile, file);
         EXPECT_EQ(document.LV.count(), 0);
         EXPECT_EQ(document.LV.columns.count(), 1);
         EXPECT_EQ(mainFrm.Caption, bStartUp ? "Ferrowick" : "Ferrowick - " + file);
         EXPECT_EQ(mainFrm.control("Save").Enabled, !bStartUp);
-        EXPECT_EQ(fs::file_size(target), size);
+        EXPECT_EQ(bytesOf(target), other);
         EXPECT_FALSE(designWasShown());
     }
+    const std::string file = program.openCopyOf("books.fwk");
+    make(""); // an empty name ends it behind the clearing
+    EXPECT_EQ(document.currentFile, file);
+    EXPECT_EQ(document.LV.count(), 0);
+    EXPECT_FALSE(designWasShown());
+    EXPECT_EQ(told(), "");
     platform.answers = {Answer::Yes};
     make(target);
     EXPECT_EQ(document.currentFile, target);
     EXPECT_LT(fs::file_size(target), 30U) << "an archive without entries";
-}
-
-TEST_F(NewDatabaseTest, anEmptyNameEndsItBehindTheClearing) {
-    const std::string file = program.openCopyOf("books.fwk");
-    make("");
-    EXPECT_EQ(document.currentFile, file);
-    EXPECT_EQ(document.LV.count(), 0);
-    EXPECT_FALSE(designWasShown());
-    EXPECT_TRUE(platform.messages.empty());
 }
 
 // When the archive cannot be made, a save that follows must not reach the file that was open.
@@ -220,19 +179,16 @@ TEST_F(NewDatabaseTest, aFailureIsSilentAndNeverLeadsASaveIntoTheOldFile) {
     const std::string readOnly = program.copyOf("invoices.fwk");
     fs::permissions(readOnly, fs::perms(0444));
     for (const std::string& target : {program.path("no/such/folder.fwk"), readOnly}) {
-        const std::string file = program.openCopyOf("books.fwk");
-        const std::string before = Program::dataFileOf(file);
-        platform.messages.clear();
+        const std::string file = program.openCopyOf("books.fwk"), before = Program::dataFileOf(file);
         platform.answers = {Answer::Yes};
         make(target);
         platform.answers.clear();
-        EXPECT_EQ(questions(), target == readOnly ? std::vector<std::string>{"Overwrite Existing File?"}
-                                                  : std::vector<std::string>());
+        EXPECT_EQ(told(), target == readOnly ? "x Overwrite Existing File?" : "");
         EXPECT_EQ(document.currentFile, target);
         EXPECT_EQ(mainFrm.Caption, "Ferrowick - " + target);
         EXPECT_FALSE(designWasShown());
         storage::SaveFile(app, false, false);
-        EXPECT_TRUE(platform.lastMessage().starts_with("There was an error writing to the file."));
+        EXPECT_TRUE(told().starts_with("! There was an error writing to the file."));
         EXPECT_EQ(Program::dataFileOf(file), before);
     }
     EXPECT_GT(Program::dataFileOf(readOnly).size(), 1000U);

@@ -41,20 +41,15 @@ TEST_F(ReaderTest, pageValuesStandInTwoOrders) {
     text.replace(text.find(usual), usual.size(), "3.5|7|0.1|0.2|0.3|0.4|256|2|1E-2|");
     storage::readDataFile(text, document);
     const core::LayoutOptions& layout = document.layoutOptions;
-    EXPECT_FLOAT_EQ(layout.customPaperLength, 3.5F);
-    EXPECT_FLOAT_EQ(layout.customPaperHeight, 7);
-    EXPECT_FLOAT_EQ(layout.layoutLeftMargin, 0.1F);
-    EXPECT_FLOAT_EQ(layout.layoutTopMargin, 0.2F);
-    EXPECT_FLOAT_EQ(layout.layoutBottomMargin, 0.3F);
-    EXPECT_FLOAT_EQ(layout.layoutRightMargin, 0.4F);
+    const core::ReportData& report = document.reportData;
+    const std::vector<float> values = {
+        layout.customPaperLength, layout.customPaperHeight,  layout.layoutLeftMargin,
+        layout.layoutTopMargin,   layout.layoutBottomMargin, layout.layoutRightMargin,
+        layout.layoutSpacing,     report.reportLeftMargin,   report.reportRightMargin,
+        report.reportTopMargin,   report.reportBottomMargin};
+    EXPECT_EQ(values, (std::vector<float>{3.5F, 7, 0.1F, 0.2F, 0.3F, 0.4F, 0.01F, 1.5F, 2.5F, 0.25F, 4}));
     EXPECT_EQ(layout.layoutPaperSize, core::customPaper);
     EXPECT_EQ(layout.layoutOrientation, core::landscape);
-    EXPECT_FLOAT_EQ(layout.layoutSpacing, 0.01F);
-    const core::ReportData& report = document.reportData;
-    EXPECT_FLOAT_EQ(report.reportLeftMargin, 1.5F);
-    EXPECT_FLOAT_EQ(report.reportRightMargin, 2.5F);
-    EXPECT_FLOAT_EQ(report.reportTopMargin, 0.25F);
-    EXPECT_FLOAT_EQ(report.reportBottomMargin, 4);
     EXPECT_EQ(report.reportPaperSize, core::legalPaper);
     EXPECT_EQ(report.reportOrientation, core::landscape);
     EXPECT_EQ(report.reportTitle, "A title, with comma");
@@ -66,16 +61,14 @@ TEST_F(ReaderTest, theBoldFlagIsReadFromExactlyNineElements) {
         const char* value;
         bool before, after;
         const char* title;
-    } cases[] = {
-        {"1|1|1|1|1|1|Title|True|", false, true, "Title"},
-        {"1|1|1|1|1|1|Title|False|", true, false, "Title"},
-        {"1|1|1|1|1|1|Title|-1|", false, true, "Title"},
-        {"1|1|1|1|1|1|A|B|True|", false, false, "A"}, // a title with a separator is cut
-        {"1|1|1|1|1|1|A|B|False|", true, true, "A"},
-        {"1|1|1|1|1|1|Title|False", true, true, "Title"}, // no separator at the end
-        {"1|1|1|1|1|1|Title|", true, true, "Title"},      // a file from before the flag
-        {"1|1|1|1|1|1||True|", false, true, ""},
-    };
+    } cases[] = {{"1|1|1|1|1|1|Title|True|", false, true, "Title"},
+                 {"1|1|1|1|1|1|Title|False|", true, false, "Title"},
+                 {"1|1|1|1|1|1|Title|-1|", false, true, "Title"},
+                 {"1|1|1|1|1|1|A|B|True|", false, false, "A"}, // a title with a separator is cut
+                 {"1|1|1|1|1|1|A|B|False|", true, true, "A"},
+                 {"1|1|1|1|1|1|Title|False", true, true, "Title"}, // no separator at the end
+                 {"1|1|1|1|1|1|Title|", true, true, "Title"},      // a file from before the flag
+                 {"1|1|1|1|1|1||True|", false, true, ""}};
     for (const auto& c : cases) {
         document.reportData.bReportBoldHeaders = c.before;
         readMore(std::string("[Report Data   ]") + c.value + "\r\n");
@@ -86,15 +79,14 @@ TEST_F(ReaderTest, theBoldFlagIsReadFromExactlyNineElements) {
 
 TEST_F(ReaderTest, listsTakeItemAndKeyAsEachOfThemIsLookedUp) {
     const struct {
-        const char* marker;
-        const char* value;
+        const char *marker, *value;
         core::NamedCollection Document::*list;
         Texts items, keys;
     } cases[] = {
         {"[Formulas      ]",
-         "Sum,Qty * ( Price , 2 )|Half,Sum / 2|",
+         "Sum,Qty * ( 2 , 2 )|Half,Sum|",
          &Document::formulas,
-         {"Sum,Qty * ( Price , 2 )", "Half,Sum / 2"},
+         {"Sum,Qty * ( 2 , 2 )", "Half,Sum"},
          {"Sum", "Half"}},
         {"[Formulas      ]", "Bare|", &Document::formulas, {"Bare"}, {"Bare"}},
         {"[InvoiceCols   ]", "1|3|3|", &Document::invoiceCols, {"1", "3", "3"}, {"", "", ""}},
@@ -112,8 +104,7 @@ TEST_F(ReaderTest, listsTakeItemAndKeyAsEachOfThemIsLookedUp) {
         {"[Locks         ]", "", &Document::locks, {}, {}},
         // What stands behind the last separator is no element.
         {"[Totaled Cols  ]", "Qty|Price", &Document::totaledCols, {"Qty"}, {"Qty"}},
-        {"[Totaled Cols  ]", "Qty", &Document::totaledCols, {}, {}},
-    };
+        {"[Totaled Cols  ]", "Qty", &Document::totaledCols, {}, {}}};
     for (const auto& c : cases) {
         readMore(std::string(c.marker) + c.value + "\r\n");
         EXPECT_EQ((document.*c.list).items(), c.items) << c.marker << c.value;
@@ -129,15 +120,12 @@ TEST_F(ReaderTest, aKeyThatComesTwiceEndsTheReading) {
         EXPECT_EQ(raisedBy([&] { readMore(lines + std::string("\r\n")); }), errors::keyInUse) << lines;
     EXPECT_EQ(raisedBy([&] { readMore("[Increments    ]Qty,1|QTY,2|\r\n"); }), errors::keyNotUnique);
     EXPECT_EQ(raisedBy([&] { readMore("[Increments    ]Qty|\r\n"); }), errors::subscriptOutOfRange);
-    // The hidden column has taken its name already.
-    data.names = "Name|index|Price|";
-    EXPECT_EQ(raisedBy([&] { readMore(""); }), errors::keyNotUnique);
-}
-
-TEST_F(ReaderTest, serialCounters) {
     readMore("[Increments    ]No,42|Long name, with comma,7|Empty,|\r\n");
     EXPECT_EQ(Program::cells(document.SerialsLV), "42|; with comma|;|;");
     EXPECT_EQ(document.SerialsLV.byKey("no").Text, "No");
+    // The hidden column has taken its name already.
+    data.names = "Name|index|Price|";
+    EXPECT_EQ(raisedBy([&] { readMore(""); }), errors::keyNotUnique);
 }
 
 TEST_F(ReaderTest, styleViewAndLock) {
@@ -152,8 +140,7 @@ TEST_F(ReaderTest, styleViewAndLock) {
         {"[Lock          ]  a|b,c \r\n[DatabaseStyle ]True\r\n", true, false, "  a|b,c "},
         // A scrambled password can hold line ends.
         {"[Lock          ]a\rb\r\n", false, false, "a\rb"},
-        {"[Lock          ]a\r\nb\n\x01\r\r\n[InvoiceView   ]True\r\n", false, true, "a\r\nb\n\x01\r"},
-    };
+        {"[Lock          ]a\r\nb\n\x01\r\r\n[InvoiceView   ]True\r\n", false, true, "a\r\nb\n\x01\r"}};
     for (const auto& c : cases) {
         document.bInvoiceStyle = document.bInvoiceView = false;
         readMore(c.lines);
@@ -196,76 +183,55 @@ TEST_F(ReaderTest, columnsTakeAlignmentAndIconFromTheirType) {
     data.spots = "1|9|8|7|6|5|4|3|2|";
     data.rows = "";
     read();
-    const struct {
-        const char* name;
-        core::Alignment align;
-        const char* icon;
-        float width;
-        int position;
-    } cases[] = {
-        {"D", core::Alignment::Right, "", 700, 9},  {"C", core::Alignment::Right, "", 1, 8},
-        {"T", core::Alignment::Left, "", 0.5F, 7},  {"N", core::Alignment::Right, "", 0, 6},
-        {"K", core::Alignment::Right, "", -1, 5},   {"P", core::Alignment::Left, "Picture", 1234, 4},
-        {"Six", core::Alignment::Left, "", 9, 3},   {"None", core::Alignment::Left, "", 1440, 2},
-        {"Index", core::Alignment::Left, "", 0, 1},
-    };
-    for (const auto& c : cases) {
-        const core::Column& column = document.LV.columns[c.name];
-        EXPECT_EQ(column.align, c.align) << c.name;
-        EXPECT_EQ(column.Icon, c.icon) << c.name;
-        EXPECT_FLOAT_EQ(column.Width, c.width) << c.name;
-        EXPECT_EQ(column.Position, c.position) << c.name;
-    }
+    std::ostringstream all;
+    for (const core::Column& column : document.LV.columns)
+        all << column.Text << (column.align == core::Alignment::Right ? " right " : " left ") << column.Icon
+            << column.Width << " at " << column.Position << "\n";
+    EXPECT_EQ(all.str(),
+              "Index left 0 at 1\nD right 700 at 9\nC right 1 at 8\nT left 0.5 at 7\nN right 0 at 6\n"
+              "K right -1 at 5\nP left Picture1234 at 4\nSix left 9 at 3\nNone left 1440 at 2\n");
 }
 
 TEST_F(ReaderTest, positionsThatAreMissingOrTooMany) {
-    data.spots = "1|3|";
-    readMore("");
-    EXPECT_EQ(document.LV.columns.displayOrder(), (std::vector<int>{1, 3, 2, 4}));
-    data.spots = "";
-    readMore("");
-    EXPECT_EQ(document.LV.columns.displayOrder(), (std::vector<int>{1, 2, 3, 4}));
+    const std::pair<const char*, std::vector<int>> cases[] = {{"1|3|", {1, 3, 2, 4}}, {"", {1, 2, 3, 4}}};
+    for (const auto& [spots, order] : cases) {
+        data.spots = spots;
+        readMore("");
+        EXPECT_EQ(document.LV.columns.displayOrder(), order);
+    }
     data.spots = "1|2|3|4|5|";
     EXPECT_EQ(raisedBy([&] { readMore(""); }), errors::indexOutOfBounds);
     EXPECT_EQ(document.LV.count(), 3) << "what was read so far stays";
 }
 
 TEST_F(ReaderTest, rows) {
-    const struct {
-        const char* what;
-        std::string rows;
-        const char* cells;
-        const char* keys;
-    } cases[] = {
-        {"the last line is the Totals row, whatever it holds", "a|1|2|\r\nb|3|4|\r\n", "a|1|2|;b|3|4|;",
-         "i1;Totals;"},
-        {"a single line too", "a|1|2|\r\n", "a|1|2|;", "Totals;"},
-        {"no line", "", "", ""},
-        {"no end of the last line", "a|1|2|\r\nb|3|4|", "a|1|2|;b|3|4|;", "i1;Totals;"},
-        {"blank lines anywhere", "\r\na|1|2|\r\n\r\n\r\nb|3|4|\r\n\r\n\r\n", "a|1|2|;b|3|4|;", "i1;Totals;"},
-        {"mixed line ends behind the last row", "a|1|2|\r\nb|3|4|\r\r\n\n", "a|1|2|;b|3|4|;", "i1;Totals;"},
-        {"a line of blanks is a row", "   \r\na|1|2|\r\n", "|||;a|1|2|;", "i1;Totals;"},
-        {"only Text keeps its blanks", " a |  1 | $2.00 |\r\n-|-|-|\r\n", " a |1|$2.00|;-|-|-|;",
-         "i1;Totals;"},
-        {"other white space stays", "a|\t1\t|2|\r\n-|-|-|\r\n", "a|\t1\t|2|;-|-|-|;", "i1;Totals;"},
-        {"cells too few", "a|\r\nb|1|\r\n|\r\n-|\r\n", "a|||;b|1||;|||;-|||;", "i1;i2;i3;Totals;"},
-        {"cells too many", "a|1|2|3|4|\r\n-|-|-|-|\r\n", "a|1|2|;-|-|-|;", "i1;Totals;"},
-        {"text behind the last separator", "a|1|2|x\r\nb|1\r\nc\r\n-|-|-|\r\n", "a|1|2|;b|||;|||;-|-|-|;",
-         "i1;i2;i3;Totals;"},
-        {"a separator in a cell shifts what follows", "a|b|1|2|\r\n-|-|-|\r\n", "a|b|1|;-|-|-|;",
-         "i1;Totals;"},
-        {"a line feed in a cell", "a\nb|1|2|\r\n-|-|-|\r\n", "a\nb|1|2|;-|-|-|;", "i1;Totals;"},
-    };
-    for (const auto& c : cases) {
-        data.rows = c.rows;
+    const std::pair<const char*, const char*> cases[] = {
+        {"a|1|2|\r\nb|3|4|\r\n", "a|1|2|;b|3|4|;"}, // the last line is the Totals row, whatever it holds
+        {"a|1|2|\r\n", "a|1|2|;"},
+        {"", ""},
+        {"a|1|2|\r\nb|3|4|", "a|1|2|;b|3|4|;"},
+        {"\r\na|1|2|\r\n\r\n\r\nb|3|4|\r\n\r\n\r\n", "a|1|2|;b|3|4|;"},
+        {"a|1|2|\r\nb|3|4|\r\r\n\n", "a|1|2|;b|3|4|;"},
+        {"   \r\na|1|2|\r\n", "|||;a|1|2|;"},                             // a line of blanks is a row
+        {" a |  1 | $2.00 |\r\n-|-|-|\r\n", " a |1|$2.00|;-|-|-|;"},      // only Text keeps its blanks
+        {"a|\t1\t|2|\r\n-|-|-|\r\n", "a|\t1\t|2|;-|-|-|;"},               // other white space stays
+        {"a|\r\nb|1|\r\n|\r\n-|\r\n", "a|||;b|1||;|||;-|||;"},            // cells too few
+        {"a|1|2|3|4|\r\n-|-|-|-|\r\n", "a|1|2|;-|-|-|;"},                 // and too many
+        {"a|1|2|x\r\nb|1\r\nc\r\n-|-|-|\r\n", "a|1|2|;b|||;|||;-|-|-|;"}, // text behind the last separator
+        {"a|b|1|2|\r\n-|-|-|\r\n", "a|b|1|;-|-|-|;"},                     // a separator shifts what follows
+        {"a\nb|1|2|\r\n-|-|-|\r\n", "a\nb|1|2|;-|-|-|;"}};
+    for (const auto& [rows, cells] : cases) {
+        data.rows = rows;
         document.iLastKey = 99;
         readMore("");
-        EXPECT_EQ(Program::cells(document.LV), c.cells) << c.what;
-        EXPECT_EQ(keys(), c.keys) << c.what;
+        EXPECT_EQ(Program::cells(document.LV), cells) << rows;
+        std::string expected;
+        for (int i = 1; i < document.LV.count(); ++i) expected += "i" + std::to_string(i) + ";";
+        EXPECT_EQ(keys(), expected + (*rows == '\0' ? "" : "Totals;")) << rows;
     }
 }
 
-TEST_F(ReaderTest, linesOfOtherSystems) {
+TEST_F(ReaderTest, linesOfOtherSystemsAndBlankOnes) {
     const std::string text = data.text();
     for (const std::string lineEnd : {"\n", "\r"}) {
         std::string other = text;
@@ -276,15 +242,12 @@ TEST_F(ReaderTest, linesOfOtherSystems) {
         EXPECT_EQ(Program::cells(document.LV), "Bolt|12|$1.50|;Nut|7|$.25|;------|------|------|;");
         EXPECT_EQ(document.LV.columns.count(), 4);
     }
-}
-
-TEST_F(ReaderTest, withoutColumnsThereAreNoCells) {
     data.names = data.types = data.widths = "";
     data.spots = "1|";
-    data.rows = "\r\n\r\n";
-    read();
+    data.rows = "\r\n\r\n"; // without columns rows are blank lines
+    readMore("");
     EXPECT_EQ(document.LV.columns.count(), 1);
-    EXPECT_TRUE(document.LV.empty()) << "the rows are blank lines";
+    EXPECT_TRUE(document.LV.empty());
 }
 
 TEST_F(ReaderTest, theCounterStartsAnewAndEndsTheReadingWhenItIsUsedUp) {

@@ -1,7 +1,5 @@
 #include "storage/recovery.h"
-#include "databases.h"
-
-#include <gtest/gtest.h>
+#include "programTest.h"
 
 #include <fstream>
 
@@ -9,23 +7,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class RecoveryTest : public testing::Test {
+class RecoveryTest : public ProgramTest {
 protected:
-    Program program;
-    app::App& app = program.app;
-    core::Document& document = app.document;
-
     std::string nameOfCopy() {
         const std::optional<std::string> copy = storage::keepRecoveryCopy(app);
-        return copy ? fs::relative(*copy, program.platform.workFolder()).string() : "(none)";
+        return copy ? fs::relative(*copy, platform.workFolder()).string() : "(none)";
     }
 };
 
 TEST_F(RecoveryTest, keepsTheDocumentAndItsImagesAndNothingElseChanges) {
-    const std::string file = program.openCopyOf("books.fwk");
-    const std::string before = Program::dataFileOf(file);
-    document.LV.at(1).cells[1] = "not yet saved";
-    app::setDocumentModified(app, true);
+    const std::string file = openChanged(), before = Program::dataFileOf(file);
     const std::optional<std::string> copy = storage::keepRecoveryCopy(app);
     ASSERT_TRUE(copy);
     EXPECT_TRUE(document.bModified);
@@ -35,14 +26,14 @@ TEST_F(RecoveryTest, keepsTheDocumentAndItsImagesAndNothingElseChanges) {
 
     program.open(*copy);
     EXPECT_EQ(document.currentFile, *copy) << "an open does not clear it away";
-    EXPECT_EQ(document.LV.at(1).cells[1], "not yet saved");
-    platform::Zip Zip;
-    Zip.OpenArchive(*copy);
-    EXPECT_TRUE(Zip.contains("cover1.jpg") && Zip.contains("logo.gif"));
-    EXPECT_EQ(Zip.commentAt(0), "Main Data File");
+    EXPECT_EQ(document.LV.at(1).cells[1], "changed");
+    auto entries = entriesOf(*copy, false), originals = entriesOf(file, false);
+    std::ranges::sort(entries);
+    std::ranges::sort(originals);
+    EXPECT_EQ(entries, originals);
 }
 
-TEST_F(RecoveryTest, needsNoArchive) {
+TEST_F(RecoveryTest, needsNoArchiveAndNeverRaises) {
     EXPECT_EQ(nameOfCopy(), "(none)") << "nothing is open";
     const std::string file = program.openCopyOf("books.fwk");
     fs::remove(file);
@@ -55,10 +46,7 @@ TEST_F(RecoveryTest, needsNoArchive) {
         program.open(copy.path().string());
         EXPECT_EQ(document.LV.count(), 43) << copy.path();
     }
-}
-
-TEST_F(RecoveryTest, neverRaises) {
-    program.openCopyOf("books.fwk");
+    fs::remove_all(program.path("work/Recovered"));
     std::ofstream(program.path("work/Recovered")) << "a file where the folder should be";
     EXPECT_EQ(nameOfCopy(), "(none)");
 }
