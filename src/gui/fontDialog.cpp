@@ -1,6 +1,7 @@
 #include "gui/fontDialog.h"
 
 #include "core/layoutObjects.h"
+#include "gui/formView.h"
 #include "gui/qtText.h"
 #include "gui/textBox.h"
 
@@ -36,6 +37,7 @@ FontDialog::FontDialog(const platform::FontChoice& present, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(fonts_, 1);
     column->addWidget(buttons);
+    nameLists(*this);
     showColour();
 }
 

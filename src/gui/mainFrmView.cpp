@@ -2,6 +2,7 @@
 
 #include "gui/forms.h"
 #include "gui/icon.h"
+#include "gui/paneKeys.h"
 #include "gui/qtText.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
@@ -42,6 +43,7 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     actions_->addMenuBar(*this);
     actions_->addToolbar(*this);
     makeTabs();
+    new PaneKeys(*this, *tabs_);
     setStatusBar(status_);
     resize(firstSize);
     restoreGeometry(platform_.windowGeometry());
@@ -62,6 +64,7 @@ MainFrmView::~MainFrmView() {
 
 void MainFrmView::makeTabs() {
     tabs_->setObjectName(QStringLiteral("SSTab1"));
+    tabs_->setAccessibleName(tr("Pages"));
     tabs_->setDocumentMode(true);
     tabs_->addTab(report_, tr("Report"));
     tabs_->addTab(layout_, tr("Layout"));

@@ -16,8 +16,10 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
       shownList_(new QStackedWidget), listStates_{&app.document.LV, &app.document.iLV,
                                                   &app.document.searchLV},
       sums_(new SelectedTotalsView(app.document.LV3)) {
+    const std::array<QString, 3> names = {tr("Records"), tr("Items and invoices"), tr("Search results")};
     for (std::size_t i = 0; i < lists_.size(); ++i) {
         lists_[i] = new RecordsView(app, *listStates_[i], events);
+        lists_[i]->setAccessibleName(names[i]);
         shownList_->addWidget(lists_[i]);
     }
     auto* splitter = new QSplitter(Qt::Vertical);
@@ -59,6 +61,7 @@ void ReportPage::refresh() {
     start_->refresh();
     if (!open) {
         setCurrentWidget(start_);
+        setFocusProxy(start_->findChild<QWidget*>(QStringLiteral("start_mnuNew")));
         return;
     }
     invoiceFrame_->setVisible(app_.mainFrm.invoiceFrameVisible);
@@ -69,6 +72,7 @@ void ReportPage::refresh() {
         const bool another = currentWidget() != records_ || shownList_->currentWidget() != lists_[i];
         shownList_->setCurrentWidget(lists_[i]);
         setCurrentWidget(records_);
+        setFocusProxy(lists_[i]);
         lists_[i]->refresh();
         // The keys go to the records as soon as they are there.
         if (another) lists_[i]->setFocus();

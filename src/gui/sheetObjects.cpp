@@ -30,6 +30,20 @@ QWidget* SheetObjects::widgetOf(ObjectRef object) const {
     return found == widgets_.end() ? nullptr : found->second;
 }
 
+std::vector<ObjectRef> SheetObjects::inReadingOrder() const {
+    std::vector<ObjectRef> order;
+    for (const auto& [ref, widget] : widgets_) {
+        const core::LayoutField* field =
+            ref.family == Family::layoutField ? app_.document.layout.layoutField.find(ref.Index) : nullptr;
+        if (widget->isVisible() && (field == nullptr || field->Enabled)) order.push_back(ref);
+    }
+    std::ranges::stable_sort(order, {}, [this](ObjectRef ref) {
+        const QPoint place = widgetOf(ref)->pos();
+        return std::pair(place.y(), place.x());
+    });
+    return order;
+}
+
 void SheetObjects::refresh(qreal pixelsPerTwip) {
     pixelsPerTwip_ = pixelsPerTwip;
     const core::LayoutObjects& layout = app_.document.layout;
@@ -173,6 +187,7 @@ void SheetObjects::showObject(QWidget& widget, const core::ImgHolder& holder) {
     widget.setToolTip(designing                    ? QString()
                       : holder.ToolTipText.empty() ? tr("Double-click to choose a picture")
                                                    : toQt(holder.ToolTipText));
+    widget.setFocusPolicy(designing ? Qt::NoFocus : Qt::TabFocus); // Enter chooses the picture
     widget.setAccessibleName(toQt(holder.Tag));
 }
 

@@ -36,7 +36,9 @@ private:
     bool designEvent(core::ObjectRef object, QEvent* event);
     bool browseEvent(core::ObjectRef object, QEvent* event);
     bool gripEvent(QEvent* event);
-    bool keyEvent(QEvent* event);
+    bool keyEvent(QObject* watched, QEvent* event);
+    bool paperKey(const QKeyEvent& key);
+    bool selectNext(int direction);
     void press(core::ObjectRef object, QMouseEvent& mouse);
     void release(core::ObjectRef object, QMouseEvent& mouse);
     void doubleClick(core::ObjectRef object);
