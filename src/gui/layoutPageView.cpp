@@ -67,7 +67,6 @@ LayoutPageView::LayoutPageView(app::App& app, EventBoundary& events, QWidget* pa
     column->setSpacing(0);
     column->addLayout(top);
     column->addLayout(grid, 1);
-    setFocusProxy(sheet_->focusProxy());
 }
 
 QWidget* LayoutPageView::makeNavBar() {

@@ -20,6 +20,8 @@ public:
     LayoutPageView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
 
     void refresh();
+    // Takes the keys when somebody goes to the page with them.
+    QWidget* keyHolder() const { return sheet_->keyHolder(); }
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -43,7 +43,12 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     actions_->addMenuBar(*this);
     actions_->addToolbar(*this);
     makeTabs();
-    new PaneKeys(*this, *tabs_);
+    new PaneKeys(*this, *tabs_, [this] {
+        const int tab = tabs_->currentIndex();
+        return tab == app::layoutTab    ? layout_->keyHolder()
+               : tab == app::previewTab ? preview_->keyHolder()
+                                        : report_->keyHolder();
+    });
     setStatusBar(status_);
     resize(firstSize);
     restoreGeometry(platform_.windowGeometry());

@@ -7,6 +7,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace gui {
 
@@ -32,7 +33,8 @@ bool isBar(const QWidget* widget) {
 
 } // namespace
 
-PaneKeys::PaneKeys(QMainWindow& window, QTabWidget& tabs) : QObject(&window), window_(window), tabs_(tabs) {
+PaneKeys::PaneKeys(QMainWindow& window, QTabWidget& tabs, std::function<QWidget*()> keyHolder)
+    : QObject(&window), window_(window), tabs_(tabs), keyHolder_(std::move(keyHolder)) {
     const auto add = [&](const QKeySequence& keys, auto&& act) {
         connect(new QShortcut(keys, &window), &QShortcut::activated, this, act);
     };
@@ -57,7 +59,7 @@ std::vector<PaneKeys::Pane> PaneKeys::panes() const {
     if (tabs_.tabBar()->isEnabled()) all.push_back({tabs_.tabBar(), tabs_.tabBar()});
     QWidget* page = tabs_.currentWidget();
     addBars(*page, Qt::FindChildrenRecursively);
-    all.push_back({page, page->focusProxy() != nullptr ? page->focusProxy() : page});
+    all.push_back({page, keyHolder_()});
     return all;
 }
 
@@ -105,9 +107,8 @@ void PaneKeys::press(QWidget& widget, bool opensMenu) {
 }
 
 void PaneKeys::goBack() {
-    QWidget* page = tabs_.currentWidget();
     const bool there = before_ != nullptr && before_->isVisible() && before_->isEnabled();
-    takeKeys(there ? *before_ : *page, Qt::OtherFocusReason);
+    takeKeys(there ? *before_ : *keyHolder_(), Qt::OtherFocusReason);
 }
 
 bool PaneKeys::eventFilter(QObject* watched, QEvent* event) {

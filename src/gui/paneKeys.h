@@ -5,6 +5,9 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include <functional>
+#include <vector>
+
 namespace gui {
 
 // The main window by the keyboard alone. F6 goes on to its next part and Shift+F6 back: the toolbar, the
@@ -15,7 +18,8 @@ class PaneKeys : public QObject {
     Q_OBJECT
 
 public:
-    PaneKeys(QMainWindow& window, QTabWidget& tabs);
+    // keyHolder is what takes the keys in the page that is shown.
+    PaneKeys(QMainWindow& window, QTabWidget& tabs, std::function<QWidget*()> keyHolder);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,6 +38,7 @@ private:
 
     QMainWindow& window_;
     QTabWidget& tabs_;
+    std::function<QWidget*()> keyHolder_;
     QPointer<QWidget> before_; // had the keys in the page
 };
 

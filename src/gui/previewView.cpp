@@ -22,7 +22,6 @@ PreviewView::PreviewView(app::App& app, EventBoundary& events, QWidget* parent)
     : QWidget(parent), app_(app), events_(events), reportToolbar_(makeToolbar()), port_(new PreviewPort(app)),
       rptHScroll1_(makeScrollBar(Qt::Horizontal)), rptVScroll1_(makeScrollBar(Qt::Vertical)) {
     setObjectName(QStringLiteral("previewPage"));
-    setFocusProxy(port_);
     connect(port_, &PreviewPort::resized, this, &PreviewView::portResized);
     connect(port_, &PreviewPort::scrolled, this, [this](int horizontal, int vertical) {
         rptHScroll1_->setValue(rptHScroll1_->value() + horizontal);

@@ -56,12 +56,15 @@ QFrame* ReportPage::makeInvoiceFrame(EventBoundary& events) {
     return frame;
 }
 
+QWidget* ReportPage::keyHolder() const {
+    return currentWidget() == records_ ? shownList_->currentWidget() : start_->keyHolder();
+}
+
 void ReportPage::refresh() {
     const bool open = app_.mainFrm.SSTab1Enabled;
     start_->refresh();
     if (!open) {
         setCurrentWidget(start_);
-        setFocusProxy(start_->findChild<QWidget*>(QStringLiteral("start_mnuNew")));
         return;
     }
     invoiceFrame_->setVisible(app_.mainFrm.invoiceFrameVisible);
@@ -72,7 +75,6 @@ void ReportPage::refresh() {
         const bool another = currentWidget() != records_ || shownList_->currentWidget() != lists_[i];
         shownList_->setCurrentWidget(lists_[i]);
         setCurrentWidget(records_);
-        setFocusProxy(lists_[i]);
         lists_[i]->refresh();
         // The keys go to the records as soon as they are there.
         if (another) lists_[i]->setFocus();

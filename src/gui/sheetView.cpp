@@ -73,7 +73,6 @@ SheetView::SheetView(app::App& app, EventBoundary& events, QWidget* parent)
     grip_->setCursor(Qt::SizeFDiagCursor);
     corner_->setObjectName(QStringLiteral("Shape1"));
     corner_->setAutoFillBackground(true);
-    setFocusProxy(paper_);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Mid);
     // Or they would take the grey of what they lie on.
@@ -209,7 +208,8 @@ bool SheetView::paperKey(const QKeyEvent& key) {
     events_.run([&] {
         const LayoutPage::Grip& grip = app_.mainFrm.layoutPage.Handle;
         const long x = std::lround(grip.Left), y = std::lround(grip.Top);
-        const int step = static_cast<int>(app_.mainFrm.bSnapToGrid ? app::gridStep
+        // With the snap a drag counts from just beyond one step of the grid.
+        const int step = static_cast<int>(app_.mainFrm.bSnapToGrid ? app::gridStep + 1
                                                                    : app_.mainFrm.layoutPage.TwipsPerPixelX);
         layout::Handle_MouseDown(app_, x, y);
         if (app_.mainFrm.layoutPage.drag == LayoutPage::Drag::Resize)

@@ -22,6 +22,7 @@ public:
     void refresh();
     qreal pixelsPerTwip() const;
     void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
+    QWidget* keyHolder() const { return paper_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
