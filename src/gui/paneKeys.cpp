@@ -95,7 +95,7 @@ void PaneKeys::press(QWidget& widget, bool opensMenu) {
     auto& button = static_cast<QToolButton&>(widget);
     bool done = !opensMenu;
     if (opensMenu) {
-        if (button.menu() == nullptr) return;
+        if (button.menu() == nullptr || button.menu()->isEmpty()) return; // it would hold the keys unseen
         const auto chosen = connect(button.menu(), &QMenu::triggered, this, [&done] { done = true; });
         button.showMenu();
         disconnect(chosen);
