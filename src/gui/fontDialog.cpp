@@ -31,6 +31,7 @@ FontDialog::FontDialog(const platform::FontChoice& present, QWidget* parent)
     colourBtn_->setObjectName(QStringLiteral("colourBtn"));
     connect(colourBtn_, &QPushButton::clicked, this, &FontDialog::chooseColour);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    for (QAbstractButton* button : buttons->buttons()) button->setIcon({}); // as in the other windows
     buttons->addButton(colourBtn_, QDialogButtonBox::ActionRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -31,14 +31,16 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     const bool isRound = element == PE_IndicatorRadioButton;
     const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
     const bool isText = element == PE_FrameLineEdit;
-    if ((!isRound && !isBox && !isText) || !isDark(option->palette) ||
+    // Only whoever goes by the keys is shown where they are.
+    const bool isFocus = element == PE_FrameFocusRect && option->state.testFlag(State_KeyboardFocusChange);
+    if ((!isRound && !isBox && !isText && !isFocus) || !isDark(option->palette) ||
         baseStyle()->name() != QLatin1String("fusion"))
         return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(isText && option->state.testFlag(State_HasFocus) ? focusColor(option->palette)
-                    : isText                                         ? edgeColor(*option, textEdgeStrength)
-                                                                     : edgeColor(*option, edgeStrength));
+    const bool hasKeys = isFocus || (isText && option->state.testFlag(State_HasFocus));
+    painter->setPen(hasKeys ? focusColor(option->palette)
+                            : edgeColor(*option, isText ? textEdgeStrength : edgeStrength));
     painter->setBrush(Qt::NoBrush);
     const QRectF box = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
     if (isRound)

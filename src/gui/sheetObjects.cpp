@@ -187,8 +187,20 @@ void SheetObjects::showObject(QWidget& widget, const core::ImgHolder& holder) {
     widget.setToolTip(designing                    ? QString()
                       : holder.ToolTipText.empty() ? tr("Double-click to choose a picture")
                                                    : toQt(holder.ToolTipText));
+    const bool comesIntoReach = !designing && widget.focusPolicy() == Qt::NoFocus;
     widget.setFocusPolicy(designing ? Qt::NoFocus : Qt::TabFocus); // Enter chooses the picture
+    if (comesIntoReach) putBehindFields(widget);
     widget.setAccessibleName(toQt(holder.Tag));
+}
+
+// Tab goes from box to box, and to the pictures behind the last one.
+void SheetObjects::putBehindFields(QWidget& picture) {
+    QWidget* last = nullptr;
+    for (const auto& [ref, widget] : widgets_) {
+        if (widget == &picture) break;
+        if (ref.family == Family::layoutField || ref.family == Family::imgHolder) last = widget;
+    }
+    if (last != nullptr) QWidget::setTabOrder(last, &picture);
 }
 
 void SheetObjects::showObject(QWidget& widget, const core::ClipPic& clip) {

@@ -54,6 +54,7 @@ private:
     void showObject(QWidget& widget, const core::BoxObject& box);
     void showObject(QWidget& widget, const core::ImgHolder& holder);
     void showObject(QWidget& widget, const core::ClipPic& clip);
+    void putBehindFields(QWidget& picture);
     void removeGone(const std::vector<Placed>& placed);
     void stack(std::vector<Placed> placed);
 
