@@ -32,6 +32,7 @@ disclaimFrmView::disclaimFrmView(QWidget* parent) : QDialog(parent) {
     setWindowTitle(tr("Disclaimer"));
     auto* text = new QTextBrowser;
     text->setObjectName(QStringLiteral("RichTextBox1"));
+    text->setAccessibleName(windowTitle());
     text->setHtml(QString::fromUtf8(disclaimer));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
     QPushButton* close = buttons->button(QDialogButtonBox::Ok);

@@ -1,6 +1,7 @@
 #include "gui/fontDialog.h"
 
 #include "core/layoutObjects.h"
+#include "gui/formView.h"
 #include "gui/qtText.h"
 #include "gui/textBox.h"
 
@@ -30,12 +31,14 @@ FontDialog::FontDialog(const platform::FontChoice& present, QWidget* parent)
     colourBtn_->setObjectName(QStringLiteral("colourBtn"));
     connect(colourBtn_, &QPushButton::clicked, this, &FontDialog::chooseColour);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    for (QAbstractButton* button : buttons->buttons()) button->setIcon({}); // as in the other windows
     buttons->addButton(colourBtn_, QDialogButtonBox::ActionRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addWidget(fonts_, 1);
     column->addWidget(buttons);
+    nameLists(*this);
     showColour();
 }
 

@@ -1,8 +1,14 @@
 #include "gui/formView.h"
 
+#include <QAbstractItemView>
 #include <QDialogButtonBox>
+#include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace gui {
 
@@ -12,7 +18,25 @@ FormView::FormView(EventBoundary& events, const char* name, const QString& capti
     setWindowTitle(caption);
 }
 
+void nameLists(const QWidget& window) {
+    const QList<QLabel*> labels = window.findChildren<QLabel*>();
+    for (auto* list : window.findChildren<QAbstractItemView*>()) {
+        if (!list->accessibleName().isEmpty()) continue;
+        const auto label = std::ranges::find(labels, list, &QLabel::buddy);
+        const auto* frame = qobject_cast<QGroupBox*>(list->parentWidget());
+        QString name = label != labels.end() ? (*label)->text() : QString();
+        if (name.isEmpty() && frame != nullptr) name = frame->title();
+        if (name.isEmpty() && list->model() != nullptr)
+            name = list->model()->headerData(0, Qt::Horizontal).toString();
+        name = name.remove(QLatin1Char('&')).trimmed();
+        list->setAccessibleName(name);
+        for (auto* box : window.findChildren<QLineEdit*>())
+            if (box->focusProxy() == list) box->setAccessibleName(name); // shows what is chosen in the list
+    }
+}
+
 void FormView::showModal() {
+    nameLists(*this);
     activate();
     if (isUnloaded()) return;
     refresh();

@@ -49,6 +49,10 @@ private:
     bool showing_ = false;
 };
 
+// Gives each list of a window, which Qt leaves without one, the name that it is told by: that of its label,
+// its frame or its header.
+void nameLists(const QWidget& window);
+
 // Gives a widget the name of its control.
 template <typename Widget>
 Widget* named(const char* name, Widget* widget) {

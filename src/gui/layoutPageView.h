@@ -21,6 +21,8 @@ public:
 
     void refresh();
     void takeKeysOf(QWidget& other) { sheet_->takeKeysOf(other); }
+    // Takes the keys when somebody goes to the page with them.
+    QWidget* keyHolder() const { return sheet_->keyHolder(); }
 
 protected:
     void showEvent(QShowEvent* event) override;

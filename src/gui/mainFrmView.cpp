@@ -2,6 +2,7 @@
 
 #include "gui/forms.h"
 #include "gui/icon.h"
+#include "gui/paneKeys.h"
 #include "gui/qtText.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
@@ -42,6 +43,12 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     actions_->addMenuBar(*this);
     actions_->addToolbar(*this);
     makeTabs();
+    new PaneKeys(*this, *tabs_, [this] {
+        const int tab = tabs_->currentIndex();
+        return tab == app::layoutTab    ? layout_->keyHolder()
+               : tab == app::previewTab ? preview_->keyHolder()
+                                        : report_->keyHolder();
+    });
     setStatusBar(status_);
     resize(firstSize);
     restoreGeometry(platform_.windowGeometry());
@@ -62,6 +69,7 @@ MainFrmView::~MainFrmView() {
 
 void MainFrmView::makeTabs() {
     tabs_->setObjectName(QStringLiteral("SSTab1"));
+    tabs_->setAccessibleName(tr("Pages"));
     tabs_->setDocumentMode(true);
     tabs_->addTab(report_, tr("Report"));
     tabs_->addTab(layout_, tr("Layout"));

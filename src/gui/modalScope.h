@@ -8,7 +8,7 @@
 namespace gui {
 
 // Ahead of a modal dialog the windows behind it show the state that the handler has reached, and the
-// hourglass rests as long as the user is asked.
+// hourglass rests as long as the user is asked. Behind it the keys are with those windows again.
 class QtPlatform::ModalScope {
 public:
     explicit ModalScope(QtPlatform& owner) : owner_(owner), hourglass_(owner.hourglass_) {
@@ -18,6 +18,9 @@ public:
     }
     ~ModalScope() {
         if (hourglass_) owner_.setMousePointer(platform::MousePointer::Hourglass);
+        // Where no window manager does it, the keys would be left with no window at all.
+        if (QWidget* window = owner_.dialogParent(); window != nullptr && window->isVisible())
+            window->activateWindow();
     }
     ModalScope(const ModalScope&) = delete;
     ModalScope& operator=(const ModalScope&) = delete;

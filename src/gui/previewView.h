@@ -17,6 +17,8 @@ public:
     PreviewView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
 
     void refresh();
+    // Takes the keys when somebody goes to the page with them.
+    QWidget* keyHolder() const { return port_; }
 
 private:
     QToolBar* makeToolbar();

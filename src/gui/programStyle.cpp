@@ -2,6 +2,7 @@
 
 #include "gui/palette.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -9,7 +10,18 @@ namespace gui {
 
 namespace {
 
-constexpr int edgeStrength = 110; // of 255, in the colour of the text
+constexpr int edgeStrength = 110;    // of 255, in the colour of the text
+constexpr int textEdgeStrength = 60; // a box for text stands out by its ground as well
+
+QColor focusColor(const QPalette& palette) {
+    return palette.color(isDark(palette) ? QPalette::Link : QPalette::Highlight);
+}
+
+QColor edgeColor(const QStyleOption& option, int strength) {
+    QColor edge = option.palette.color(QPalette::WindowText);
+    edge.setAlpha(strength);
+    return edge;
+}
 
 } // namespace
 
@@ -18,19 +30,35 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isRound = element == PE_IndicatorRadioButton;
     const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
-    if ((!isRound && !isBox) || !isDark(option->palette) || baseStyle()->name() != QLatin1String("fusion"))
+    const bool isText = element == PE_FrameLineEdit;
+    // Only whoever goes by the keys is shown where they are.
+    const bool isFocus = element == PE_FrameFocusRect && option->state.testFlag(State_KeyboardFocusChange);
+    if ((!isRound && !isBox && !isText && !isFocus) || !isDark(option->palette) ||
+        baseStyle()->name() != QLatin1String("fusion"))
         return;
-    QColor edge = option->palette.color(QPalette::WindowText);
-    edge.setAlpha(edgeStrength);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(edge);
+    const bool hasKeys = isFocus || (isText && option->state.testFlag(State_HasFocus));
+    painter->setPen(hasKeys ? focusColor(option->palette)
+                            : edgeColor(*option, isText ? textEdgeStrength : edgeStrength));
     painter->setBrush(Qt::NoBrush);
     const QRectF box = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
     if (isRound)
         painter->drawEllipse(box);
     else
         painter->drawRoundedRect(box, 1.5, 1.5);
+    painter->restore();
+}
+
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element != CE_ShapedFrame || !option->state.testFlag(State_HasFocus) ||
+        qobject_cast<const QAbstractItemView*>(widget) == nullptr)
+        return;
+    painter->save();
+    painter->setPen(focusColor(option->palette));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     painter->restore();
 }
 

@@ -5,7 +5,8 @@
 namespace gui {
 
 // The desktop's style. Fusion draws the edges of its boxes darker than the window, so that in a dark
-// palette an empty check box cannot be seen; there they are drawn anew in a lighter colour.
+// palette an empty check box or box for text cannot be seen; there they are drawn anew in a lighter colour.
+// And it does not tell which of several lists has the keys; here its frame does, as that of a box for text.
 class ProgramStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -14,6 +15,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
 };
 
 } // namespace gui

@@ -229,7 +229,13 @@ void RecordsView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void RecordsView::keyPressEvent(QKeyEvent* event) {
     shell::list_KeyDown(app_, event->key() == Qt::Key_Control ? shell::ctrlKey : event->key());
-    QTreeView::keyPressEvent(event);
+    // Enter is the keyboard's double click.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        events_.run([&] { shell::list_DblClick(app_, list_); });
+    else
+        QTreeView::keyPressEvent(event);
+    // And Space its click, which the sums follow.
+    if (event->key() == Qt::Key_Space) events_.run([&] { shell::list_Click(app_, list_); });
 }
 
 void RecordsView::keyReleaseEvent(QKeyEvent* event) {

@@ -33,7 +33,9 @@ repeatFrmView::repeatFrmView(app::App& app, EventBoundary& events, QWidget* pare
     grid->addWidget(rows, 0, 0);
     grid->addWidget(Text1_, 0, 1);
     grid->addWidget(available, 1, 0);
-    grid->addWidget(new QLabel(tr("Selected Columns and Order:")), 1, 1);
+    auto* selected = new QLabel(tr("Selected Columns and Order:"));
+    selected->setBuddy(List2_);
+    grid->addWidget(selected, 1, 1);
     grid->addWidget(List1_, 2, 0);
     grid->addWidget(List2_, 2, 1);
     grid->addWidget(clear, 3, 1, Qt::AlignRight);

@@ -1,5 +1,6 @@
 #include "gui/replaceFrmView.h"
 
+#include "gui/formView.h"
 #include "gui/listLook.h"
 #include "gui/qtText.h"
 
@@ -13,7 +14,7 @@ namespace gui {
 
 namespace {
 
-QLabel* named(const char* name, const QString& text) {
+QLabel* labelled(const char* name, const QString& text) {
     auto* label = new QLabel(text);
     label->setObjectName(QLatin1String(name));
     return label;
@@ -26,7 +27,7 @@ replaceFrmView::replaceFrmView(app::App& app, EventBoundary& events, QWidget* pa
     setObjectName(QStringLiteral("replaceFrm"));
     setWindowTitle(tr("Find and Replace"));
     auto* column = new QVBoxLayout(this);
-    QLabel* listLabel = named("Label1", tr("Column to find and replace in:"));
+    QLabel* listLabel = labelled("Label1", tr("Column to find and replace in:"));
     QTreeWidget* list = makeList();
     listLabel->setBuddy(list);
     column->addWidget(listLabel);
@@ -45,6 +46,7 @@ replaceFrmView::replaceFrmView(app::App& app, EventBoundary& events, QWidget* pa
     column->addWidget(add("Command3", tr("&Replace in all rows for selected columns."),
                           [this] { run([&] { form_.Command3_Click(); }); }));
     column->addWidget(add("Command2", tr("&Close"), [this] { reject(); }), 0, Qt::AlignRight);
+    nameLists(*this);
     const int em = fontMetrics().height();
     resize(QSize(em * 26, em * 30).expandedTo(minimumSizeHint()));
 }
@@ -68,11 +70,15 @@ QWidget* replaceFrmView::makeOptions() {
     auto* frame = new QGroupBox(tr(" Replace Options "));
     frame->setObjectName(QStringLiteral("Frame1"));
     auto* form = new QFormLayout(frame);
-    form->addRow(named("Label3", tr("Find:")), makeBox("Text1", form_.Text1));
-    form->addRow(named("Label2", tr("Replace with:")), makeBox("Text2", form_.Text2));
+    const auto addBox = [&](QLabel* label, QLineEdit* box) {
+        label->setBuddy(box);
+        form->addRow(label, box);
+    };
+    addBox(labelled("Label3", tr("Find:")), makeBox("Text1", form_.Text1));
+    addBox(labelled("Label2", tr("Replace with:")), makeBox("Text2", form_.Text2));
     QLabel* hint =
-        named("Label4", tr("  Searches are word based, not within string based.  So for example, a "
-                           "search for lap would not find lapdog."));
+        labelled("Label4", tr("  Searches are word based, not within string based.  So for example, a "
+                              "search for lap would not find lapdog."));
     hint->setWordWrap(true);
     form->addRow(hint);
     return frame;

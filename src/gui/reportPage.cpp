@@ -16,8 +16,10 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
       shownList_(new QStackedWidget), listStates_{&app.document.LV, &app.document.iLV,
                                                   &app.document.searchLV},
       sums_(new SelectedTotalsView(app.document.LV3)) {
+    const std::array<QString, 3> names = {tr("Records"), tr("Items and invoices"), tr("Search results")};
     for (std::size_t i = 0; i < lists_.size(); ++i) {
         lists_[i] = new RecordsView(app, *listStates_[i], events);
+        lists_[i]->setAccessibleName(names[i]);
         shownList_->addWidget(lists_[i]);
     }
     auto* splitter = new QSplitter(Qt::Vertical);
@@ -52,6 +54,10 @@ QFrame* ReportPage::makeInvoiceFrame(EventBoundary& events) {
     }
     row->addStretch();
     return frame;
+}
+
+QWidget* ReportPage::keyHolder() const {
+    return currentWidget() == records_ ? shownList_->currentWidget() : start_->keyHolder();
 }
 
 void ReportPage::refresh() {

@@ -23,6 +23,8 @@ public:
     ReportPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent = nullptr);
 
     void refresh();
+    // Takes the keys when somebody goes to the page with them.
+    QWidget* keyHolder() const;
 
 private:
     QFrame* makeInvoiceFrame(EventBoundary& events);

@@ -59,6 +59,7 @@ QVBoxLayout* searchFrmView::makeGroup(int group) {
     auto* list = new QListWidget;
     lists_.at(place) = list;
     list->setObjectName(QStringLiteral("List%1").arg(group + 1));
+    list->setAccessibleName(tr("Column to search, %1").arg(group + 1));
     for (const std::string& title : form_.list(group).items) list->addItem(toQt(title));
     connect(list, &QListWidget::currentRowChanged, this, [this, group](int row) {
         if (!showing_ && row >= 0) run([&] { form_.List_Click(group, row); });

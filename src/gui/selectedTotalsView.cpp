@@ -10,6 +10,7 @@ namespace gui {
 SelectedTotalsView::SelectedTotalsView(const core::RecordsList& list, QWidget* parent)
     : QTreeWidget(parent), list_(list) {
     setObjectName(toQt(list.Name));
+    setAccessibleName(tr("Sums of the selected records"));
     setColumnCount(2);
     setHeaderLabels({tr("Column"), tr("Sum of the selected records")});
     headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);

@@ -30,6 +30,20 @@ QWidget* SheetObjects::widgetOf(ObjectRef object) const {
     return found == widgets_.end() ? nullptr : found->second;
 }
 
+std::vector<ObjectRef> SheetObjects::inReadingOrder() const {
+    std::vector<ObjectRef> order;
+    for (const auto& [ref, widget] : widgets_) {
+        const core::LayoutField* field =
+            ref.family == Family::layoutField ? app_.document.layout.layoutField.find(ref.Index) : nullptr;
+        if (widget->isVisible() && (field == nullptr || field->Enabled)) order.push_back(ref);
+    }
+    std::ranges::stable_sort(order, {}, [this](ObjectRef ref) {
+        const QPoint place = widgetOf(ref)->pos();
+        return std::pair(place.y(), place.x());
+    });
+    return order;
+}
+
 void SheetObjects::refresh(qreal pixelsPerTwip) {
     pixelsPerTwip_ = pixelsPerTwip;
     const core::LayoutObjects& layout = app_.document.layout;
@@ -173,7 +187,20 @@ void SheetObjects::showObject(QWidget& widget, const core::ImgHolder& holder) {
     widget.setToolTip(designing                    ? QString()
                       : holder.ToolTipText.empty() ? tr("Double-click to choose a picture")
                                                    : toQt(holder.ToolTipText));
+    const bool comesIntoReach = !designing && widget.focusPolicy() == Qt::NoFocus;
+    widget.setFocusPolicy(designing ? Qt::NoFocus : Qt::TabFocus); // Enter chooses the picture
+    if (comesIntoReach) putBehindFields(widget);
     widget.setAccessibleName(toQt(holder.Tag));
+}
+
+// Tab goes from box to box, and to the pictures behind the last one.
+void SheetObjects::putBehindFields(QWidget& picture) {
+    QWidget* last = nullptr;
+    for (const auto& [ref, widget] : widgets_) {
+        if (widget == &picture) break;
+        if (ref.family == Family::layoutField || ref.family == Family::imgHolder) last = widget;
+    }
+    if (last != nullptr) QWidget::setTabOrder(last, &picture);
 }
 
 void SheetObjects::showObject(QWidget& widget, const core::ClipPic& clip) {

@@ -27,6 +27,8 @@ public:
     // The object that a widget belongs to, and the other way round.
     core::ObjectRef objectOf(const QObject* widget) const;
     QWidget* widgetOf(core::ObjectRef object) const;
+    // From the top left on, without those that the mouse does not reach.
+    std::vector<core::ObjectRef> inReadingOrder() const;
 
 signals:
     void created(QWidget* widget);
@@ -52,6 +54,7 @@ private:
     void showObject(QWidget& widget, const core::BoxObject& box);
     void showObject(QWidget& widget, const core::ImgHolder& holder);
     void showObject(QWidget& widget, const core::ClipPic& clip);
+    void putBehindFields(QWidget& picture);
     void removeGone(const std::vector<Placed>& placed);
     void stack(std::vector<Placed> placed);
 

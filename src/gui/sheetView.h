@@ -24,6 +24,7 @@ public:
     // The sheet sees the keys of that widget first.
     void takeKeysOf(QWidget& other) { other.installEventFilter(this); }
     void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
+    QWidget* keyHolder() const { return paper_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,7 +39,9 @@ private:
     bool designEvent(core::ObjectRef object, QEvent* event);
     bool browseEvent(core::ObjectRef object, QEvent* event);
     bool gripEvent(QEvent* event);
-    bool keyEvent(QEvent* event);
+    bool keyEvent(QObject* watched, QEvent* event);
+    bool paperKey(const QKeyEvent& key);
+    bool selectNext(int direction);
     void press(core::ObjectRef object, QMouseEvent& mouse);
     void release(core::ObjectRef object, QMouseEvent& mouse);
     void doubleClick(core::ObjectRef object);

@@ -22,6 +22,8 @@ public:
     StartPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent = nullptr);
 
     void refresh();
+    // Takes the keys when somebody goes to the page with them.
+    QWidget* keyHolder() const { return new_; }
 
 private:
     QPushButton* addButton(const char* key, const QString& text);

@@ -19,8 +19,11 @@ public:
         setIndent(fontMetrics().averageCharWidth() / 2);
     }
 
+    // As wide as the text: in a narrow window the shares must not leave one panel empty room while they cut
+    // the text of another. Where not all find room, the longest are cut.
     QSize minimumSizeHint() const override {
-        return {fontMetrics().averageCharWidth() * 6, QLabel::minimumSizeHint().height()};
+        return {fontMetrics().horizontalAdvance(text()) + 2 * indent() + 1,
+                QLabel::minimumSizeHint().height()};
     }
 
 protected:
@@ -48,6 +51,11 @@ StatusPanels::StatusPanels(app::App& app, QWidget* parent) : QStatusBar(parent),
         panels_[i]->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         addWidget(panels_[i], shares[i]);
     }
+}
+
+// The window may become narrower than the texts.
+QSize StatusPanels::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * 40, QStatusBar::minimumSizeHint().height()};
 }
 
 void StatusPanels::refresh() {

@@ -16,6 +16,7 @@ public:
     explicit StatusPanels(app::App& app, QWidget* parent = nullptr);
 
     void refresh();
+    QSize minimumSizeHint() const override;
 
 private:
     class Panel;
