@@ -107,8 +107,9 @@ void PaneKeys::press(QWidget& widget, bool opensMenu) {
 }
 
 void PaneKeys::goBack() {
-    const bool there = before_ != nullptr && before_->isVisible() && before_->isEnabled();
-    takeKeys(there ? *before_ : *keyHolder_(), Qt::OtherFocusReason);
+    QWidget* const before = before_.data();
+    const bool there = before != nullptr && before->isVisible() && before->isEnabled();
+    takeKeys(there ? *before : *keyHolder_(), Qt::OtherFocusReason);
 }
 
 bool PaneKeys::eventFilter(QObject* watched, QEvent* event) {
