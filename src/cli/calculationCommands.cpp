@@ -42,6 +42,9 @@ int printExpression(const Options& options) {
 int setExpression(const Options& options) {
     Session session(options.file);
     session.open();
+    if (options.column.find(',') != std::string::npos)
+        throw Failure(session.file, "the column \"" + options.column +
+                                        "\" can have no expression: a comma divides names from expressions");
     session.changeAndCalculate([&] {
         calc::formulateFrm form(session.app);
         form.colList_Click(rowOf(session, form, options.column));

@@ -102,7 +102,7 @@ void tellOfImages(const Options& options, const CsvTable& table, const std::vect
 
 // Made elsewhere; it takes its place as a copy of a finished database does.
 void makeDatabase(const Options& options, const CsvTable& table) {
-    const std::vector<TableColumn> columns = exchange::columnsOf(table);
+    const std::vector<TableColumn> columns = exchange::columnsOf(table, options.invoice);
     if (columns.size() > calc::mostColumns)
         throw Failure(options.table, "it has " + std::to_string(columns.size()) +
                                          " columns, a database has at most " +
@@ -239,7 +239,7 @@ int run(const Options& options) {
         append(options, *table);
     else
         makeDatabase(options, *table);
-    writeOut(std::to_string(table->rowCount()) + "\n");
+    writeOutcome(std::to_string(table->rowCount()) + "\n");
     return done;
 }
 

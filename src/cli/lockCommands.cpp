@@ -5,6 +5,7 @@
 #include "lock/designLock.h"
 
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <iostream>
 #include <termios.h>
 #include <unistd.h>
@@ -18,26 +19,38 @@ struct Options {
     bool yes = false;
 };
 
+termios shownTyping{};
+
+// Whoever breaks off at the prompt wants a terminal that shows again what he types.
+extern "C" void showTypingAndEnd(int signal) {
+    ::tcsetattr(STDIN_FILENO, TCSANOW, &shownTyping);
+    ::signal(signal, SIG_DFL);
+    ::raise(signal);
+}
+
 // Keeps what is typed from being shown, where somebody types.
 class HiddenTyping {
 public:
-    HiddenTyping() : isTerminal_(::isatty(STDIN_FILENO) == 1 && ::tcgetattr(STDIN_FILENO, &before_) == 0) {
+    HiddenTyping()
+        : isTerminal_(::isatty(STDIN_FILENO) == 1 && ::tcgetattr(STDIN_FILENO, &shownTyping) == 0) {
         if (!isTerminal_) return;
         std::cerr << "Password: ";
-        termios hidden = before_;
+        for (const int ending : endings) ::signal(ending, showTypingAndEnd);
+        termios hidden = shownTyping;
         hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
         ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
     }
     ~HiddenTyping() {
         if (!isTerminal_) return;
-        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
+        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &shownTyping);
+        for (const int ending : endings) ::signal(ending, SIG_DFL);
         std::cerr << '\n';
     }
     HiddenTyping(const HiddenTyping&) = delete;
     HiddenTyping& operator=(const HiddenTyping&) = delete;
 
 private:
-    termios before_{};
+    static constexpr int endings[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
     bool isTerminal_;
 };
 

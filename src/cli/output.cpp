@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iostream>
 #include <unistd.h>
 
 namespace cli {
@@ -26,6 +27,14 @@ void writeOut(std::string_view text) {
         if (written < 0 && errno == EINTR) continue;
         if (written < 0) throw Failure("standard output", std::strerror(errno));
         text.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+void writeOutcome(std::string_view text) {
+    try {
+        writeOut(text);
+    } catch (const Failure& failure) {
+        std::cerr << "fwk: saved, but " << failure.what() << '\n';
     }
 }
 

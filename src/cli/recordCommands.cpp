@@ -28,7 +28,7 @@ int add(const Options& options) {
     const core::Item& added = isInvoice ? addInvoice(session, values) : addRecord(session, values);
     const std::string key = added.Key.str();
     session.save();
-    writeOut(key + "\n");
+    writeOutcome(key + "\n");
     return done;
 }
 

@@ -25,7 +25,7 @@ int run(const Options& options) {
         form.List1.at(static_cast<std::size_t>(session.column(name).Index - 1)).Selected = true;
     const int changed = options.columns.empty() ? form.Command1_Click() : form.Command3_Click();
     session.save();
-    writeOut(std::to_string(changed) + "\n");
+    writeOutcome(std::to_string(changed) + "\n");
     return done;
 }
 

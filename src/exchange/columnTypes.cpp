@@ -13,6 +13,8 @@ namespace exchange {
 
 namespace {
 
+constexpr char itemSeparator = '@';
+
 using core::ColumnType;
 
 constexpr std::array types = {ColumnType::Text, ColumnType::Number,  ColumnType::Currency,
@@ -103,20 +105,32 @@ std::optional<std::string> readDate(std::string_view text) {
     return core::formatDate(year, month, day);
 }
 
-ColumnType guess(const CsvTable& table, std::size_t column) {
+ColumnType guess(const CsvTable& table, std::size_t column, bool hasItemRows) {
     bool numbers = true, amounts = true, dates = true, isBlank = true;
-    for (std::size_t row = 0; row < table.rowCount() && (numbers || amounts || dates); ++row) {
-        const std::string_view cell = core::trim(table.cell(row, column));
-        if (cell.empty()) continue;
+    const auto look = [&](std::string_view value) {
+        if (value.empty()) return;
         isBlank = false;
-        numbers = numbers && isNumber(cell);
-        amounts = amounts && isAmount(cell);
-        dates = dates && readDate(cell).has_value();
+        numbers = numbers && isNumber(value);
+        amounts = amounts && isAmount(value);
+        dates = dates && readDate(value).has_value();
+    };
+    for (std::size_t row = 0; row < table.rowCount() && (numbers || amounts || dates); ++row) {
+        const std::string_view cell = table.cell(row, column);
+        if (!hasItemRows || cell.find(itemSeparator) == std::string_view::npos)
+            look(core::trim(cell));
+        else
+            for (const std::string_view value : core::split(cell, itemSeparator)) look(core::trim(value));
     }
     if (isBlank) return ColumnType::Text;
     if (numbers) return ColumnType::Number;
     if (amounts) return ColumnType::Currency;
     return dates ? ColumnType::Date : ColumnType::Text;
+}
+
+std::string storedValue(ColumnType type, std::string_view value) {
+    if (type == ColumnType::Currency) return core::format(value, core::Mask::Money);
+    if (type == ColumnType::Date) return readDate(value).value_or(std::string(value));
+    return std::string(value);
 }
 
 ColumnType typeNamed(std::string_view name) {
@@ -152,20 +166,24 @@ std::optional<std::vector<TableColumn>> typedColumns(const CsvTable& table) {
     return columns;
 }
 
-std::vector<TableColumn> columnsOf(const CsvTable& table) {
+std::vector<TableColumn> columnsOf(const CsvTable& table, bool hasItemRows) {
     if (auto typed = typedColumns(table)) return *std::move(typed);
     std::vector<TableColumn> columns;
     for (std::size_t i = 0; i < table.header().size(); ++i)
-        columns.push_back({columnName(table.header()[i]), guess(table, i), true});
+        columns.push_back({columnName(table.header()[i]), guess(table, i, hasItemRows), true});
     return columns;
 }
 
 std::string storedCell(const TableColumn& column, std::string_view cell) {
     if (!column.isGuessed || column.type == ColumnType::Text) return std::string(cell);
-    const std::string_view value = core::trim(cell);
-    if (column.type == ColumnType::Currency) return core::format(value, core::Mask::Money);
-    if (column.type == ColumnType::Date) return readDate(value).value_or(std::string(value));
-    return std::string(value);
+    std::string stored;
+    bool isFirst = true;
+    for (const std::string_view value : core::split(cell, itemSeparator)) {
+        if (!isFirst) stored.push_back(itemSeparator);
+        stored.append(storedValue(column.type, core::trim(value)));
+        isFirst = false;
+    }
+    return stored;
 }
 
 } // namespace exchange

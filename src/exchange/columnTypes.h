@@ -27,8 +27,9 @@ std::string typedHeader(const core::Column& column);
 std::optional<std::vector<TableColumn>> typedColumns(const CsvTable& table);
 // The columns of any table, with guessed types where the header has none: Number, Currency or Date
 // when all cells that are not blank read as such, and show in that type what the table shows; else
-// Text. So what is a code and no number ("00123", "1e5", twenty digits) stays as it is written.
-std::vector<TableColumn> columnsOf(const CsvTable& table);
+// Text. So what is a code and no number ("00123", "1e5", twenty digits) stays as it is written. In an
+// invoice a cell has a value for each of its item rows.
+std::vector<TableColumn> columnsOf(const CsvTable& table, bool hasItemRows = false);
 
 // What a cell becomes in a column of a guessed type: an amount has its cents and commas, a date its
 // leading zeros, and blanks around both are gone. Cells of told types stay to the letter.

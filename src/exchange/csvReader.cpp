@@ -3,6 +3,7 @@
 #include "core/encoding.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <limits>
@@ -67,7 +68,10 @@ void CsvTable::readHeader() {
 void CsvTable::readRows() {
     std::vector<std::string_view> row;
     while (nextRecord(row)) {
-        const bool isBlankLine = row.size() == 1 && header_.size() > 1 && core::trim(row[0]).empty();
+        // Spreadsheets hand on rows of separators alone, as long as their widest row.
+        const bool isOther = row.size() > header_.size() || (row.size() == 1 && header_.size() > 1);
+        const bool isBlankLine =
+            isOther && std::ranges::all_of(row, [](const auto& cell) { return core::trim(cell).empty(); });
         if (isBlankLine) continue;
         if (lines_.size() == mostRows)
             throw TableError("it has more than " + std::to_string(mostRows) + " rows");

@@ -32,7 +32,9 @@ bool passesAsItStands(const std::string& text) {
 
 QStringList argumentsFor(const platform::MailMessage& message) {
     QStringList arguments{QStringLiteral("--utf8")};
-    const bool plain = message.address.find('@') != std::string::npos && passesAsItStands(message.address) &&
+    // Several addresses would be taken for one with a comma in it.
+    const bool plain = message.address.find('@') != std::string::npos &&
+                       message.address.find(',') == std::string::npos && passesAsItStands(message.address) &&
                        passesAsItStands(message.subject) && passesAsItStands(message.body);
     if (plain) {
         arguments << QStringLiteral("--subject") << toQt(message.subject);
@@ -48,7 +50,7 @@ QStringList argumentsFor(const platform::MailMessage& message) {
 
 bool startMailProgram(const platform::MailMessage& message, QObject* owner, std::function<void()> failed) {
     const QString program = QStandardPaths::findExecutable(QStringLiteral("xdg-email"));
-    if (program.isEmpty()) return false;
+    if (program.isEmpty() || !passesAsItStands(message.attachment)) return false;
     auto* mail = new QProcess;
     for (const auto channel : {&QProcess::setStandardOutputFile, &QProcess::setStandardErrorFile})
         (mail->*channel)(QProcess::nullDevice(), QIODevice::Truncate);

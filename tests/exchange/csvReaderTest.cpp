@@ -79,6 +79,7 @@ TEST(ColumnTypes, AreGuessed) {
                                {" 3/4/2024\n12/31/1999", "Date", "03/04/2024/12/31/1999/"},
                                {"a\nb", "Text", "a/b/"},
                                {" \n\"\"", "Text", " //"},
+                               {"5\n,,,", "Number", "5/"},
                                {"1\n$2", "Text", "1/$2/"},
                                {"00123\n5", "Text", "00123/5/"},
                                {"\"1,234\"", "Text", "1,234/"},
@@ -95,6 +96,17 @@ TEST(ColumnTypes, AreGuessed) {
             all += exchange::storedCell(column, table.cell(row, 0)) + "/";
         EXPECT_EQ(all, stored) << cells;
     }
+}
+
+TEST(ColumnTypes, AreGuessedFromTheValuesOfItemRows) {
+    const CsvTable table("Qty,Price,Day,Item\n2@3@,$1@@$1250.5@,1/2/2024@,a@1@\n@@,,,\n");
+    const auto columns = exchange::columnsOf(table, true);
+    std::string all;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        all += std::string(core::typeName(columns[i].type)) + " " +
+               exchange::storedCell(columns[i], table.cell(0, i)) + "; ";
+    EXPECT_EQ(all, "Number 2@3@; Currency $1.00@@$1,250.50@; Date 01/02/2024@; Text a@1@; ");
+    EXPECT_EQ(exchange::columnsOf(table)[0].type, core::ColumnType::Text);
 }
 
 TEST(ColumnTypes, StandInTheHeader) {
