@@ -10,7 +10,8 @@ namespace cli {
 
 // Raises Failure when standard output takes no more.
 void writeOut(std::string_view text);
-// The same for the outcome of a command that has saved: the command is done, whether it can be printed or not.
+// The same for the outcome of a command that has saved: the command is done, whether it can be printed or
+// not.
 void writeOutcome(std::string_view text);
 
 // The text in quotes, as JSON has it.
