@@ -62,4 +62,10 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
     painter->restore();
 }
 
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 } // namespace gui
