@@ -35,8 +35,9 @@ void SortFormulas(std::vector<std::string>& formulas) {
 }
 
 std::string resultText(double result, bool bDecimal) {
+    if (bDecimal) return core::format(result, core::Mask::Money);
     std::string text = core::numberText(result);
-    if (bDecimal || text.find('.') != std::string::npos) return core::format(result, core::Mask::Money);
+    if (text.find('.') != std::string::npos) return core::format(std::string_view(text), core::Mask::Money);
     return text;
 }
 

@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <malloc.h>
 #include <map>
 
 namespace cli {
@@ -101,6 +102,11 @@ void addYesFlag(CLI::App& command, bool& yes, const char* description) {
 } // namespace cli
 
 int main(int argc, char** argv) {
+    // The text of a database goes through some large buffers, one behind the other. Kept, their memory serves
+    // the next one; handed back, the system clears it anew.
+    constexpr int keptBytes = 256 * 1024 * 1024;
+    ::mallopt(M_MMAP_THRESHOLD, keptBytes);
+    ::mallopt(M_TRIM_THRESHOLD, keptBytes);
     try {
         return cli::runProgram(argc, argv);
     } catch (const std::bad_alloc&) {

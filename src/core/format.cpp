@@ -3,6 +3,7 @@
 #include "core/number.h"
 
 #include <array>
+#include <cmath>
 
 namespace core {
 
@@ -85,6 +86,17 @@ std::string format(std::string_view text, Mask mask) {
 }
 
 std::string format(double value, Mask mask) {
+    // Fifteen digits decide how a value is rounded. Unless it lies next to a half they cannot differ from the
+    // value itself, and the way through its text can be spared.
+    const Shape shape = shapeOf(mask);
+    constexpr double most = 1e9, nextToHalf = 1e-4;
+    const double scaled = std::abs(value) * (shape.places == 0 ? 1 : 100);
+    if (scaled < most) {
+        const double whole = std::floor(scaled);
+        const double rest = scaled - whole;
+        if (std::abs(rest - 0.5) > nextToHalf)
+            return formatDigits(static_cast<std::uint64_t>(whole) + (rest > 0.5 ? 1 : 0), value < 0, shape);
+    }
     return format(std::string_view(numberText(value)), mask);
 }
 

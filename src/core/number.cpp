@@ -267,8 +267,11 @@ std::string shortText(std::int64_t tenThousandths) {
 
 std::string numberText(double value) {
     if (value == 0 || !std::isfinite(value)) return "0";
-    constexpr double tenThousand = 10000, most = 1e9;
-    if (const double size = std::abs(value); size >= 1 && size < most) {
+    constexpr double tenThousand = 10000, most = 1e9, mostWhole = 1e15;
+    const double size = std::abs(value);
+    if (size >= 1 && size < mostWhole && std::trunc(value) == value)
+        return std::to_string(static_cast<std::int64_t>(value));
+    if (size >= 1 && size < most) {
         const double scaled = value * tenThousand;
         const auto whole = static_cast<std::int64_t>(scaled);
         if (static_cast<double>(whole) == scaled) return shortText(whole);

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
 using namespace core;
@@ -72,6 +73,17 @@ TEST(FormatTest, bothWaysOfWritingAgree) {
             EXPECT_EQ(format("-" + text, mask), format("-" + text + "e0", mask)) << text;
         EXPECT_EQ(format(format(text, Mask::Money), Mask::Money), format(text, Mask::Money));
     }
+}
+
+// A value goes a shorter way than its text does, and must come out alike, next to a half above all.
+TEST(FormatTest, ofAValueIsThatOfItsText) {
+    for (int i = -3000; i < 3000; ++i)
+        for (const double scale : {1.0, 1.0 / 3, 1.0 / 200, 1e-7, 1e5 + 0.01, 1e8 + 0.5}) {
+            const double value = i * scale;
+            for (const double near : {value, std::nextafter(value, 1e300), value + 0.005, value + 1e-13})
+                for (const Mask mask : {Mask::Money, Mask::TwoDecimals, Mask::Whole, Mask::WholeCommas})
+                    ASSERT_EQ(format(near, mask), format(std::string_view(numberText(near)), mask)) << near;
+        }
 }
 
 } // namespace
