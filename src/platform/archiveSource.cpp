@@ -6,10 +6,12 @@
 
 namespace platform {
 
-ArchiveSource::ArchiveSource(FileHandle file) : input(std::move(file)) {
+ArchiveSource::ArchiveSource(FileHandle file, const std::string& name) : input(std::move(file)) {
     zip_error_init(&error);
+    if (!input.isOpen()) return;
+    // Without a size, libzip would take the file for an archive without entries.
     struct stat status {};
-    if (!input.isOpen() || ::fstat(input.get(), &status) != 0) return;
+    if (::fstat(input.get(), &status) != 0) raiseSystemError(errno, name);
     inputSize = static_cast<std::uint64_t>(status.st_size);
     modified = status.st_mtime;
 }

@@ -14,8 +14,8 @@ namespace platform {
 // owner, so it is only given the bytes to move.
 class ArchiveSource {
 public:
-    // Without an open file: a new archive.
-    explicit ArchiveSource(FileHandle file);
+    // Without an open file: a new archive. The name is what errors tell.
+    ArchiveSource(FileHandle file, const std::string& name);
     ~ArchiveSource() { zip_error_fini(&error); }
     ArchiveSource(const ArchiveSource&) = delete;
     ArchiveSource& operator=(const ArchiveSource&) = delete;

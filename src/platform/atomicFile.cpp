@@ -30,7 +30,10 @@ fs::path resolveLink(fs::path file) {
     std::error_code error;
     for (int i = 0; i < 40; ++i) {
         const fs::path next = fs::read_symlink(file, error);
-        if (error) return file;
+        if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
+            return file;
+        // A link that cannot be read must not be taken for the file itself, which would take its place.
+        if (error) raiseSystemError(error.value(), file.string());
         file = file.parent_path() / next;
     }
     raiseSystemError(ELOOP, file.string());
@@ -79,6 +82,14 @@ void removeLeftOvers(const fs::path& target) {
     }
 }
 
+// False where the user may not give it, or the file system has no such owner; raises what else goes wrong.
+bool give(int fd, uid_t owner, gid_t group, const fs::path& target) {
+    if (::fchown(fd, owner, group) == 0) return true;
+    if (errno != EPERM && errno != EINVAL && errno != EOPNOTSUPP && errno != ENOSYS)
+        raiseSystemError(errno, target.string());
+    return false;
+}
+
 } // namespace
 
 AtomicFile::AtomicFile(const fs::path& file) : target(resolveLink(file)) {
@@ -122,17 +133,18 @@ void AtomicFile::createBeside() {
         if (failure == 0) beside = std::move(name);
     }
     if (failure != 0) raiseSystemError(failure, target.string());
+    // Where the file system has no locks, no left-over can be told from a file in use either.
     ::flock(handle.get(), LOCK_EX | LOCK_NB);
 }
 
 void AtomicFile::takeOverAttributes() const {
     if (!replaces) return;
     struct stat status {};
-    if (::fstat(fd(), &status) != 0) return;
+    if (::fstat(fd(), &status) != 0) raiseSystemError(errno, target.string());
     // Another's file in a shared folder becomes ours when we may not give it back; the owner goes first,
     // since a change of owner clears bits of the mode.
     if (status.st_uid != owner || status.st_gid != group) {
-        if (::fchown(fd(), owner, group) != 0) (void)!::fchown(fd(), static_cast<uid_t>(-1), group);
+        if (!give(fd(), owner, group, target)) (void)give(fd(), static_cast<uid_t>(-1), group, target);
     }
     if (::fchmod(fd(), mode) != 0) raiseSystemError(errno, target.string());
 }

@@ -129,7 +129,8 @@ std::vector<Piece> packPieces(std::string_view bytes, int level) {
     const std::vector<std::size_t> ends = pieceEnds(bytes.size(), pieces);
     std::vector<std::future<Piece>> others;
     for (std::size_t i = 1; i < pieces; ++i)
-        others.push_back(std::async(std::launch::async, pack,
+        // Where the system has no thread left, the piece is packed when it is asked for.
+        others.push_back(std::async(std::launch::async | std::launch::deferred, pack,
                                     bytes.substr(ends[i - 1], ends[i] - ends[i - 1]), level,
                                     i + 1 == pieces));
     std::vector<Piece> packed;

@@ -13,8 +13,7 @@ namespace platform {
 
 namespace {
 
-// Past a limit on file size the system would end the program; ignored, the write fails with EFBIG and
-// is told as a full disk.
+// Past a limit on file size the system would end the program; ignored, the write fails.
 void surviveFileSizeLimit() {
     static const bool once = [] {
         struct sigaction ignore {};
@@ -28,7 +27,6 @@ int errorNumberOf(int errnoValue) {
     switch (errnoValue) {
     case ENOSPC:
     case EDQUOT:
-    case EFBIG:
         return core::errors::diskFull;
     case EACCES:
     case EPERM:
@@ -60,7 +58,7 @@ void FileHandle::reset(int descriptor) {
 
 void raiseSystemError(int errnoValue, const std::string& detail) {
     const int number = errorNumberOf(errnoValue);
-    if (number != core::errors::deviceIO) core::raise(number, detail);
+    if (number == core::errors::fileNotFound) core::raise(number, detail);
     core::raise(number, detail + " (" + std::generic_category().message(errnoValue) + ")");
 }
 
@@ -71,8 +69,8 @@ FileHandle openRegularFile(const std::filesystem::path& file) {
     // Should a pipe take its place in between, opening it does not block.
     FileHandle handle(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!handle.isOpen()) raiseSystemError(errno, file.string());
-    if (::fstat(handle.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        core::raise(core::errors::pathAccess, file.string() + " is not a file");
+    if (::fstat(handle.get(), &status) != 0) raiseSystemError(errno, file.string());
+    if (!S_ISREG(status.st_mode)) core::raise(core::errors::pathAccess, file.string() + " is not a file");
     return handle;
 }
 
@@ -91,20 +89,16 @@ int writeAt(int fd, const char* bytes, std::size_t count, long long place) {
 }
 
 std::optional<std::string> readSmallFile(const std::filesystem::path& file, std::size_t maxBytes) {
-    try {
-        const FileHandle handle = openRegularFile(file);
-        std::string bytes;
-        char chunk[8192];
-        for (;;) {
-            const ssize_t count = ::read(handle.get(), chunk, sizeof chunk);
-            if (count < 0 && errno == EINTR) continue;
-            if (count < 0) return std::nullopt;
-            if (count == 0) return bytes;
-            bytes.append(chunk, static_cast<std::size_t>(count));
-            if (bytes.size() > maxBytes) return std::nullopt;
-        }
-    } catch (const core::RunTimeError&) {
-        return std::nullopt;
+    const FileHandle handle = openRegularFile(file);
+    std::string bytes;
+    char chunk[8192];
+    for (;;) {
+        const ssize_t count = ::read(handle.get(), chunk, sizeof chunk);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) raiseSystemError(errno, file.string());
+        if (count == 0) return bytes;
+        bytes.append(chunk, static_cast<std::size_t>(count));
+        if (bytes.size() > maxBytes) return std::nullopt;
     }
 }
 

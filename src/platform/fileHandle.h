@@ -30,7 +30,7 @@ private:
 };
 
 // Raises the run-time error that stands for a system error: disk full, path access, file not found,
-// bad file name, or device I/O.
+// bad file name, or device I/O. Its text ends in what the system says, unless the error says all.
 [[noreturn]] void raiseSystemError(int errnoValue, const std::string& detail);
 
 // Opens a regular file for reading. Anything else at that path (a folder, a pipe that would block) is
@@ -40,7 +40,8 @@ FileHandle openRegularFile(const std::filesystem::path& file);
 // Writes all bytes at the place; answers 0 or the errno of the failure.
 int writeAt(int fd, const char* bytes, std::size_t count, long long place);
 
-// The bytes of a regular file; nothing when it is absent, unreadable or larger than maxBytes.
+// The bytes of a regular file; nothing when it is larger than maxBytes. Raises what openRegularFile does,
+// and deviceIO.
 std::optional<std::string> readSmallFile(const std::filesystem::path& file, std::size_t maxBytes);
 
 } // namespace platform

@@ -122,8 +122,14 @@ std::vector<Line> parse(std::string_view text) {
     return lines;
 }
 
+// A file that is there and cannot be read raises the reason.
 std::vector<Line> parseFile(const std::filesystem::path& file) {
-    const std::optional<std::string> text = readSmallFile(file, maxBytes);
+    std::optional<std::string> text;
+    try {
+        text = readSmallFile(file, maxBytes);
+    } catch (const core::RunTimeError& error) {
+        if (error.number != core::errors::fileNotFound) throw;
+    }
     // A file with a zero byte is none of ours, or was torn by a failing disk.
     if (!text || text->find('\0') != std::string::npos) return {};
     return parse(*text);
@@ -169,9 +175,13 @@ std::filesystem::path SettingsFile::defaultFile() {
 }
 
 SettingsFile::SettingsFile(std::filesystem::path path) : file(std::move(path)) {
-    // Of two lines for one setting the first counts, here and when it is changed.
-    for (Line& line : parseFile(file))
-        if (!line.key.empty()) read.try_emplace({line.section, line.key}, std::move(line.value));
+    try {
+        // Of two lines for one setting the first counts, here and when it is changed.
+        for (Line& line : parseFile(file))
+            if (!line.key.empty()) read.try_emplace({line.section, line.key}, std::move(line.value));
+    } catch (const core::RunTimeError&) {
+        // The defaults have to do for this time.
+    }
 }
 
 std::string SettingsFile::GetSetting(std::string_view section, std::string_view key,
@@ -188,7 +198,12 @@ void SettingsFile::SaveSetting(std::string_view section, std::string_view key, s
 
 bool SettingsFile::flush() {
     if (saved.empty()) return true;
-    std::vector<Line> lines = parseFile(file);
+    std::vector<Line> lines;
+    try {
+        lines = parseFile(file);
+    } catch (const core::RunTimeError&) {
+        return false; // what cannot be read now would be lost
+    }
     for (const auto& [name, value] : saved) put(lines, name.first, name.second, value);
     std::string text;
     for (const Line& line : lines) text += line.text + "\n";

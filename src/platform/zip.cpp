@@ -103,14 +103,15 @@ void unpackInto(int fd, EntryReader& entry, const fs::path& file) {
     }
 }
 
-void copyFile(int from, int to, const std::string& detail) {
+// All of a file that has so many bytes.
+void copyFile(int from, int to, std::uint64_t size, const std::string& detail) {
     std::vector<char> chunk(chunkBytes);
     long long place = 0;
-    for (;;) {
+    while (static_cast<std::uint64_t>(place) < size) {
         const ssize_t count = ::pread(from, chunk.data(), chunk.size(), place);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) raiseSystemError(errno, detail);
-        if (count == 0) return;
+        if (count == 0) raiseDamaged(detail + " ended too early");
         if (const int failure = writeAt(to, chunk.data(), static_cast<std::size_t>(count), place))
             raiseSystemError(failure, detail);
         place += count;
@@ -129,7 +130,8 @@ void writeEmptyArchive(int fd, const std::string& comment, const std::string& de
 } // namespace
 
 struct Zip::Archive {
-    Archive(fs::path path, FileHandle handle, int flags) : file(std::move(path)), source(std::move(handle)) {
+    Archive(fs::path path, FileHandle handle, int flags)
+        : file(std::move(path)), source(std::move(handle), file.string()) {
         zip_error_t error;
         zip_error_init(&error);
         zip_source_t* created = zip_source_function_create(&ArchiveSource::respond, &source, &error);
@@ -171,11 +173,12 @@ struct Zip::Archive {
     [[nodiscard]] std::string unpacked(zip_uint64_t index) const {
         zip_stat_t status;
         zip_stat_init(&status);
-        zip_file_t* entry = zip_fopen_index(zip, index, 0);
-        if (entry == nullptr || zip_stat_index(zip, index, 0, &status) != 0) return {};
+        if (zip_stat_index(zip, index, 0, &status) != 0) return {};
+        const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> entry(zip_fopen_index(zip, index, 0),
+                                                                      &zip_fclose);
+        if (!entry) return {};
         std::string bytes(status.size, '\0');
-        const zip_int64_t count = zip_fread(entry, bytes.data(), bytes.size());
-        zip_fclose(entry);
+        const zip_int64_t count = zip_fread(entry.get(), bytes.data(), bytes.size());
         return count == static_cast<zip_int64_t>(bytes.size()) ? bytes : std::string();
     }
 
@@ -242,7 +245,7 @@ struct Zip::Archive {
                               comment ? std::string(comment, static_cast<std::size_t>(length)) : "",
                               target.string());
         } else if (!changed) {
-            copyFile(source.descriptor(), result.fd(), target.string());
+            copyFile(source.descriptor(), result.fd(), source.size(), target.string());
         } else {
             source.writeInto(result.fd());
             if (zip_close(zip) != 0) raiseZipError(*zip_get_error(zip), target.string());
@@ -271,7 +274,9 @@ void Zip::OpenArchive(const fs::path& file) {
     archive.reset();
     FileHandle handle = openRegularFile(file);
     // libzip takes a file without a byte for an archive without entries.
-    if (::lseek(handle.get(), 0, SEEK_END) == 0) raiseDamaged(file.string() + " is empty");
+    const off_t size = ::lseek(handle.get(), 0, SEEK_END);
+    if (size < 0) raiseSystemError(errno, file.string());
+    if (size == 0) raiseDamaged(file.string() + " is empty");
     archive = std::make_unique<Archive>(file, std::move(handle), 0);
 }
 
@@ -290,7 +295,7 @@ void Zip::CloseArchive() {
     if (!closing->changed && !closing->isNew) return;
     std::error_code error;
     if (!closing->isNew && !fs::exists(closing->file, error))
-        core::raise(core::errors::fileNotFound, closing->file.string());
+        raiseSystemError(error ? error.value() : ENOENT, closing->file.string());
     closing->writeTo(closing->file);
 }
 

@@ -1,4 +1,5 @@
 #include "archiveFixture.h"
+#include "platform/archiveSource.h"
 
 #include <algorithm>
 #include <chrono>
@@ -86,6 +87,8 @@ TEST_F(ZipDamageTest, RefusesWhatIsNoArchive) {
         Zip Zip;
         EXPECT_EQ(raisedBy([&] { Zip.OpenArchive(folder / name); }), number) << name;
     }
+    const auto unreadable = [] { platform::ArchiveSource(platform::FileHandle(1 << 20), "no size"); };
+    EXPECT_EQ(raisedBy(unreadable), errors::deviceIO) << "an archive without a size is none without entries";
     const std::string whole = readBytes(TEST_DATA_DIR "/books.fwk");
     for (std::size_t length = 1; length < whole.size(); length += length < whole.size() - 300 ? 97 : 1) {
         writeBytes(archive, whole.substr(0, length));
