@@ -21,7 +21,7 @@ public:
     std::optional<Decimal> read() {
         readPrefix();
         if (!readDigits() || !readExponent() || !readSuffix() || at_ != text_.size()) return std::nullopt;
-        if (parenthesis_) number_.negative = !number_.negative;
+        if (parenthesis_) number_.negative = true; // with a minus sign as well
         stripZeros();
         return number_;
     }

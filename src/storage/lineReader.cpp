@@ -6,8 +6,15 @@
 
 namespace storage {
 
+namespace {
+
+constexpr std::string_view doubledEnd = "\r\r\n";
+
+}
+
 LineReader::LineReader(std::string_view text)
-    : text_(text), lineEnd_(text.find('\r') == std::string_view::npos ? '\n' : '\r') {}
+    : text_(text), lineEnd_(text.find('\r') == std::string_view::npos ? '\n' : '\r'),
+      doubledEnds_(lineEnd_ == '\r' && text.substr(text.find('\r')).starts_with(doubledEnd)) {}
 
 std::size_t LineReader::endOfLine(std::size_t from) const {
     return std::min(text_.find(lineEnd_, from), text_.size());
@@ -15,6 +22,7 @@ std::size_t LineReader::endOfLine(std::size_t from) const {
 
 std::size_t LineReader::startAfter(std::size_t end) const {
     if (end >= text_.size()) return text_.size();
+    if (doubledEnds_ && text_.substr(end).starts_with(doubledEnd)) return end + doubledEnd.size();
     if (lineEnd_ == '\r' && end + 1 < text_.size() && text_[end + 1] == '\n') return end + 2;
     return end + 1;
 }

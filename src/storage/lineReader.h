@@ -8,7 +8,8 @@ namespace storage {
 
 // Walks the lines of a text. A line ends at CR LF or CR; a text without any CR, as other systems'
 // tools write it, is taken to end its lines with LF. So a line feed that came into a cell by itself
-// stays part of the cell.
+// stays part of the cell. Where the first line ends in CR CR LF, as in a text that was converted once too
+// often, the empty line that this makes of every line's end is passed over.
 class LineReader {
 public:
     explicit LineReader(std::string_view text);
@@ -34,6 +35,7 @@ private:
 
     std::string_view text_;
     char lineEnd_;
+    bool doubledEnds_;
     std::size_t position_ = 0;
     int number_ = 0;
 };

@@ -149,6 +149,15 @@ TEST_F(ReaderTest, styleViewAndLock) {
         EXPECT_EQ(document.lockPassword, c.lock) << c.lines;
     }
     EXPECT_EQ(raisedBy([&] { readMore("[DatabaseStyle ]Invoice\r\n"); }), errors::typeMismatch);
+    // Lines with another carriage return at their ends make no lock of it.
+    data.more = "[Lock          ]\r\n[InvoiceView   ]True\r\n";
+    std::string doubled = data.text();
+    for (std::size_t end = 0; (end = doubled.find("\r\n", end)) != std::string::npos; end += 3)
+        doubled.insert(end, 1, '\r');
+    document.clear();
+    storage::readDataFile(doubled, document);
+    EXPECT_EQ(document.lockPassword + keys(), "i1;i2;Totals;");
+    EXPECT_TRUE(document.bInvoiceView);
 }
 
 TEST_F(ReaderTest, sectionsComeInAnyOrderAmongUnknownOnes) {
