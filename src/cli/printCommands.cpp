@@ -60,7 +60,10 @@ void printInto(Session& session, const Options& options,
         const std::string name = std::filesystem::path(options.file).stem().string();
         const std::unique_ptr<DrawTarget> target = session.platform.openPrinter(name);
         print(app, *target);
-        if (!target->close()) throw Failure(options.output, "could not be written; the disk may be full");
+        if (!target->close()) {
+            const std::string why = target->failure();
+            throw Failure(options.output, "could not be written" + (why.empty() ? "" : ": " + why));
+        }
     } catch (const core::RunTimeError& error) {
         throw Failure(options.output, error.what());
     }
@@ -120,7 +123,8 @@ void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) 
     app.mainFrm.previewPage.bLayoutSelectedOnly = !rows.empty();
     app.mainFrm.previewPage.iLayoutIndex = 0;
     app.mainFrm.theListView->MultiSelect = false;
-    print::PrintMultipleLayouts(app, target);
+    if (!print::PrintMultipleLayouts(app, target))
+        throw Failure(app.document.currentFile, "no layout fits on a sheet");
 }
 
 int printLayouts(const Options& options) {

@@ -81,6 +81,8 @@ public:
     void EndDoc();
     // Finishes the output of all jobs. False when it could not be written.
     virtual bool close() { return true; }
+    // Why not, where that is known.
+    virtual std::string failure() const { return {}; }
 
 protected:
     virtual TextMetrics& metrics() = 0;

@@ -82,12 +82,13 @@ public:
         : app_(app), page_(app.mainFrm.previewPage), target_(target), list_(*app.mainFrm.theListView),
           chosen_(app.mainFrm.selectedRows) {}
 
-    void print();
+    bool print();
 
 private:
     enum class Step { GoOn, PageGivenUp, Finished };
 
     void measure();
+    bool tellWhetherItFits() const;
     Step printPage(Progress& progress);
     Step printNext(float x, float y);
     bool wantsAnotherSheet() const;
@@ -119,6 +120,15 @@ void LayoutGrid::measure() {
     page_.iLayoutsPerPage = core::toInt16(page_.iLayoutRows * page_.iLayoutCols);
     padX_ = paddingOf(roomX, eachX, page_.iLayoutCols, spacing_);
     padY_ = paddingOf(roomY, eachY, page_.iLayoutRows, spacing_);
+}
+
+bool LayoutGrid::tellWhetherItFits() const {
+    if (page_.iLayoutCols > 0 && page_.iLayoutRows > 0) return true;
+    app::inform(app_,
+                "The layout is too large for its paper: with its spacing, not even one fits within the "
+                "margins.  Make it smaller, or change the paper, the margins or the spacing in the page "
+                "setup.");
+    return false;
 }
 
 LayoutGrid::Step LayoutGrid::printNext(float x, float y) {
@@ -163,18 +173,17 @@ void LayoutGrid::restoreSelection() {
         if (row <= list_.count()) list_.setSelectedItem(&list_.at(row));
 }
 
-void LayoutGrid::print() {
+bool LayoutGrid::print() {
     usePage(app_, target_, layoutPage(app_));
     measure();
     if (!list_.MultiSelect) list_.clearSelection();
+    const bool fits = tellWhetherItFits();
     {
         Progress progress(app_, available());
         for (;;) {
-            const int before = page_.iLayoutIndex;
             if (printPage(progress) == Step::Finished) break;
-            if (!target_.isPrinter() || !wantsAnotherSheet()) break;
             // A layout larger than the paper would call for sheets without end.
-            if (page_.iLayoutIndex == before) break;
+            if (!fits || !target_.isPrinter() || !wantsAnotherSheet()) break;
             target_.NewPage();
         }
     }
@@ -183,6 +192,7 @@ void LayoutGrid::print() {
         target_.EndDoc();
     else
         drawMarginGuides(target_, margins_);
+    return fits;
 }
 
 } // namespace
@@ -211,8 +221,8 @@ void PrintLayout(App& app, DrawTarget& target) {
         drawMarginGuides(target, margins);
 }
 
-void PrintMultipleLayouts(App& app, DrawTarget& target) {
-    LayoutGrid(app, target).print();
+bool PrintMultipleLayouts(App& app, DrawTarget& target) {
+    return LayoutGrid(app, target).print();
 }
 
 } // namespace print

@@ -8,8 +8,9 @@ namespace print {
 // Draws the objects of the layout as they stand: the current record. On a printer each call is a job.
 void PrintLayout(app::App& app, platform::DrawTarget& target);
 
-// Draws the next page of layouts on the preview, or all pages on a printer.
-void PrintMultipleLayouts(app::App& app, platform::DrawTarget& target);
+// Draws the next page of layouts on the preview, or all pages on a printer. A layout that does not fit within
+// the margins is told to the user, and leaves the page empty. Answers whether it fits.
+bool PrintMultipleLayouts(app::App& app, platform::DrawTarget& target);
 
 // Makes a row the current one and shows its record in the layout. A row that is not there changes nothing
 // but what is shown. In a list without MultiSelect the selection goes from the row before: to take it from

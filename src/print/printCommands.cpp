@@ -31,7 +31,9 @@ void printOn(App& app, const std::function<void(DrawTarget& printer)>& print) {
     if (!printer) return;
     const app::Hourglass hourglass(app);
     print(*printer);
-    if (!printer->close()) app::warn(app, "The print could not be written. The disk may be full.");
+    if (printer->close()) return;
+    const std::string why = printer->failure();
+    app::warn(app, "The print could not be written" + (why.empty() ? "." : ": " + why + "."));
 }
 
 void printReport(App& app, bool bSelectedOnly) {

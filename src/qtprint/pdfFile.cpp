@@ -37,6 +37,9 @@ public:
 
     // A print without a sheet is no file: an older one stays.
     bool close() override { return PaperTarget::close() && (!hasSheets() || file.commit()); }
+    std::string failure() const override {
+        return file.error() == QFileDevice::NoError ? std::string() : file.errorString().toStdString();
+    }
 };
 
 // Qt measures and draws texts for an application object only; this one shows nothing.

@@ -91,11 +91,15 @@ TEST_F(PrintTest, InvoicesPrintTheirRows) {
 TEST_F(PrintTest, RefusalsLeaveTheOldFile) {
     copyOf("books.fwk");
     std::ofstream(path("old.pdf")) << "old";
+    DataFile wide;
+    wide.layout = "F|Name|1440|1440|12000|1000|False|False|False|Arial|10|0|\r\n";
+    make("wide.fwk", wide.text());
     expectRefused({{"report absent.fwk -o old.pdf", 1, "File not found"},
                    {"report books.fwk -o old.pdf --columns Prise", 1, "no column \"Prise\""},
                    {"layouts books.fwk -o old.pdf --records i1,i99", 1, "no record \"i99\""},
                    {"layouts books.fwk -o old.pdf --records Totals", 1, "no record \"Totals\""},
                    {"report books.fwk -o no/such/folder.pdf", 1, "folder.pdf"},
+                   {"layouts wide.fwk -o old.pdf --many", 1, "wide.fwk: no layout fits on a sheet\n"},
                    {"report books.fwk", 2, "--output"}});
 }
 

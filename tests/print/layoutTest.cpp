@@ -230,10 +230,11 @@ TEST_F(Layout, ALayoutLargerThanThePaperIsOneEmptyPage) {
     EXPECT_EQ(page.iLayoutsPerPage, 0);
     EXPECT_TRUE(textsOf(preview()).empty());
     for (const char* key : {"Next", "Last", "Back"}) click(key);
+    EXPECT_EQ(platform.messages.size(), 4U) << "each page tells why it is empty";
     shell::runCommand(app, "Print_All_As_Multiple_Layouts");
     EXPECT_THAT(platform.printed.jobs, ElementsAre(1U));
     EXPECT_TRUE(textsOf(platform.printed.sheets[0]).empty());
-    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_THAT(platform.messages.back().text, testing::HasSubstr("not even one fits"));
 }
 
 TEST_F(Layout, NoLayoutAndNoSpacingEndInTheMessage) {
