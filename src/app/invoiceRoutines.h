@@ -2,6 +2,9 @@
 
 #include "app/app.h"
 
+#include <optional>
+#include <string>
+
 namespace app {
 
 // What an invoice database does in its own way and other subsystems need. They are declared here and
@@ -12,5 +15,7 @@ void rebuildInvoiceView(App& app);
 
 // Works out all formulas of one invoice, item rows included. Sets bCalcError when one failed.
 void calculateInvoice(App& app, core::RecordsList& list, int rowIndex);
+// The same without the message: answers what went wrong first.
+std::optional<std::string> tryCalculateInvoice(App& app, core::RecordsList& list, int rowIndex);
 
 } // namespace app

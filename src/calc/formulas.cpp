@@ -69,7 +69,25 @@ RowCalculator::RowCalculator(app::App& app, RecordsList& list) : app_(app) {
     }
 }
 
+bool isExpression(const RecordsList& list, const Formula& formula) {
+    std::string joined;
+    for (const std::string_view token : formula.tokens())
+        joined += list.columns.find(token) == nullptr ? token : std::string_view("1");
+    try {
+        evaluate(joined);
+    } catch (const core::RunTimeError& error) {
+        return error.number != core::errors::syntax;
+    }
+    return true;
+}
+
 bool RowCalculator::calculate(Item& row) {
+    if (!tryCalculate(row)) return true;
+    reportCalculationError(app_);
+    return false;
+}
+
+std::optional<std::string> RowCalculator::tryCalculate(Item& row) {
     // Errors end in the message from the first evaluation on; before it they are the program's end.
     bool armed = false;
     for (const Prepared& formula : formulas_) {
@@ -83,13 +101,12 @@ bool RowCalculator::calculate(Item& row) {
             joinTokens(formula, row);
             armed = true;
             evaluateInto(RecordsList::cell(row, *formula.target));
-        } catch (const core::RunTimeError&) {
+        } catch (const core::RunTimeError& error) {
             if (!armed) throw;
-            reportCalculationError(app_);
-            return false;
+            return error.what();
         }
     }
-    return true;
+    return std::nullopt;
 }
 
 void RowCalculator::joinTokens(const Prepared& formula, const Item& row) {

@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,9 @@ class RowCalculator {
 public:
     RowCalculator(app::App& app, core::RecordsList& list);
 
+    // As calculate, but without the message: answers what went wrong.
+    std::optional<std::string> tryCalculate(core::Item& row);
+
     // Writes the results into the row's cells. False, after the message, when a formula failed: its
     // cell stays as it was and the formulas behind it are not worked out. A formula for a column that
     // is not there raises elementNotFound as long as nothing has been evaluated in the row.
@@ -65,6 +69,15 @@ private:
 
 // One row of a standard database; the flag bCalcError is set when it failed.
 void CalculateRow(app::App& app, int rowIndex, core::RecordsList& list);
+
+// Whether an expression can be worked out at all: what is wrong with it for every record, and not for the
+// numbers of one.
+bool isExpression(const core::RecordsList& list, const Formula& formula);
+
+// A record with a formula that could not be worked out.
+struct Uncalculated {
+    std::string key, reason;
+};
 
 // Tells that an expression is wrong, and remembers it for a recalculation of all rows.
 void reportCalculationError(app::App& app);

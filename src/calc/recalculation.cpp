@@ -3,7 +3,6 @@
 #include "app/hourglass.h"
 #include "app/invoiceRoutines.h"
 #include "app/layoutRoutines.h"
-#include "calc/formulas.h"
 #include "core/number.h"
 #include "core/totalsRow.h"
 
@@ -66,6 +65,24 @@ void RecalculateAll(App& app, RecordsList& list) {
         totals.update(core::TotalsMode::Add, row);
     }
     app.mainFrm.panels[app::calculationPanel] = "Done.";
+}
+
+std::vector<Uncalculated> recalculateEveryRow(App& app) {
+    RecordsList& records = app.document.LV;
+    core::resetTotalsRow(records);
+    RowCalculator calculator(app, records);
+    const core::TotalsRowUpdater totals(app.document, records);
+    std::vector<Uncalculated> failed;
+    for (int index = 1; index <= records.count(); ++index) {
+        Item& row = records.at(index);
+        if (row.isTotals()) continue;
+        const auto reason = app.document.bInvoiceStyle ? app::tryCalculateInvoice(app, records, index)
+                                                       : calculator.tryCalculate(row);
+        if (reason) failed.push_back({row.Key.str(), *reason});
+        totals.update(core::TotalsMode::Add, row);
+    }
+    app::rebuildInvoiceView(app);
+    return failed;
 }
 
 void recalculateAfterDialog(App& app) {

@@ -37,6 +37,16 @@ int printExpression(const Options& options) {
     return done;
 }
 
+// A number that one record lacks is that record's matter, an expression that no record could be calculated
+// with is a slip.
+void requireExpression(Session& session, const std::string& column) {
+    const core::RecordsList& records = session.app.document.LV;
+    const auto* formula = session.app.document.formulas.find(session.column(column).Text);
+    if (records.count() > 1 && formula != nullptr &&
+        !calc::isExpression(records, calc::Formula(formula->item)))
+        throw Failure(session.file, "the calculation failed, so that nothing is saved");
+}
+
 // The buttons of the window can build anything that they have; what is wrong with an expression shows
 // when it is worked out.
 int setExpression(const Options& options) {
@@ -52,6 +62,7 @@ int setExpression(const Options& options) {
         form.addCalcBtn_Click();
         form.donebtn_Click();
     });
+    requireExpression(session, options.column);
     session.save();
     return done;
 }

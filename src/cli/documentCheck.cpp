@@ -3,9 +3,11 @@
 #include "calc/formulas.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "entry/invoiceRecords.h"
 
 #include <algorithm>
 #include <cctype>
+#include <map>
 
 namespace cli {
 
@@ -30,6 +32,7 @@ public:
         checkLayout();
         checkLocks();
         checkCells();
+        if (document_.bInvoiceStyle) checkInvoices();
         for (const std::string& image : images_)
             if (!named_.contains(image)) report_("nothing names the image " + inQuotes(image));
     }
@@ -137,6 +140,39 @@ private:
                 for (const std::string_view name : core::split(core::RecordsList::cell(item, *column), '@'))
                     if (!name.empty()) wantImage(item.Key.str() + " in " + inQuotes(column->Text), name);
         });
+    }
+
+    // Cells that the layout cannot hold as they are: whoever stores the invoice there changes them.
+    void checkInvoices() const {
+        std::map<const Column*, std::size_t> rows; // fields of each column
+        document_.layout.layoutField.forEach([&](const core::LayoutField& field) {
+            const Column* column = find(field.Tag);
+            if (column != nullptr && !column->isType(core::ColumnType::Calculation)) ++rows[column];
+        });
+        for (const Column& column : document_.LV.columns) {
+            const auto found = rows.find(&column);
+            if (found == rows.end()) continue;
+            document_.LV.forEach([&](const core::Item& item) {
+                if (item.isTotals()) return;
+                const std::string cell = core::RecordsList::cell(item, column).str();
+                const std::string becomes = found->second == 1 ? entry::invoiceCell(column, cell)
+                                                               : storedItems(column, cell, found->second);
+                if (becomes != cell)
+                    report_(item.Key.str() + " in " + inQuotes(column.Text) + ": " + inQuotes(cell) +
+                            " becomes " + inQuotes(becomes) + " when the layout stores it");
+            });
+        }
+    }
+
+    // What of the values of item rows comes out of so many fields. Slots that nothing stands in do not count.
+    static std::string storedItems(const Column& column, const std::string& cell, std::size_t rows) {
+        std::vector<std::string_view> values = core::split(cell, '@');
+        if (values.size() == 1 || values.back().empty()) values.pop_back(); // no value of a row
+        std::string stored;
+        for (std::size_t row = 0; row < values.size(); ++row)
+            if (row < rows || values[row].empty())
+                stored += entry::itemValue(column, std::string(values[row])) + '@';
+        return stored;
     }
 
     // The last row counts as the Totals row whatever it holds, so a file that a simple tool wrote

@@ -169,7 +169,8 @@ std::string boxText(const Column& column, std::string_view cell) {
     return std::string(core::trim(cell));
 }
 
-void appendRecords(Session& session, const CsvTable& table, const std::vector<const Column*>& columns) {
+std::vector<calc::Uncalculated> appendRecords(Session& session, const CsvTable& table,
+                                              const std::vector<const Column*>& columns) {
     app::App& app = session.app;
     std::vector<const Column*> others; // that can be typed into
     for (const Column& column : app.document.LV.columns)
@@ -186,12 +187,15 @@ void appendRecords(Session& session, const CsvTable& table, const std::vector<co
         for (std::size_t i = 0; i < others.size(); ++i)
             boxes[columns.size() + i].Text = calc::proposedValue(app, others[i]->Text).value_or("");
     };
-    session.changeAndCalculate([&] { entry::addRecords(app, static_cast<int>(table.rowCount()), fill); });
+    std::vector<calc::Uncalculated> failed;
+    session.change([&] { failed = entry::addRecords(app, static_cast<int>(table.rowCount()), fill); });
+    return failed;
 }
 
 // An invoice is stored through the fields of the layout. What a column without a field lacks anyway, and
 // what is calculated, needs none.
-void appendInvoices(Session& session, const CsvTable& table, const std::vector<const Column*>& columns) {
+std::vector<calc::Uncalculated> appendInvoices(Session& session, const CsvTable& table,
+                                               const std::vector<const Column*>& columns) {
     const core::Document& document = session.app.document;
     std::set<std::string_view> calculated, onLayout;
     for (const auto& formula : document.formulas) {
@@ -208,8 +212,10 @@ void appendInvoices(Session& session, const CsvTable& table, const std::vector<c
         }
         fillInvoice(session, values);
     };
-    session.changeAndCalculate(
-        [&] { entry::addInvoices(session.app, static_cast<int>(table.rowCount()), fill); });
+    std::vector<calc::Uncalculated> failed;
+    session.change(
+        [&] { failed = entry::addInvoices(session.app, static_cast<int>(table.rowCount()), fill); });
+    return failed;
 }
 
 void append(const Options& options, const CsvTable& table) {
@@ -224,11 +230,14 @@ void append(const Options& options, const CsvTable& table) {
         throw Failure(options.file, "it would have " + std::to_string(records + table.rowCount()) +
                                         " records, " + std::to_string(mostRecords) + " is the most");
     session.change([&] { askAboutImages(options, table, columns); });
-    if (document.bInvoiceStyle)
-        appendInvoices(session, table, columns);
-    else
-        appendRecords(session, table, columns);
+    const std::vector<calc::Uncalculated> failed = document.bInvoiceStyle
+                                                       ? appendInvoices(session, table, columns)
+                                                       : appendRecords(session, table, columns);
     session.save();
+    std::vector<std::string> rows;
+    for (const auto& [key, reason] : failed)
+        rows.push_back(key + " is stored, but cannot be calculated (" + reason + ")");
+    tellRows(options.file, rows);
 }
 
 int run(const Options& options) {

@@ -3,7 +3,6 @@
 #include "core/text.h"
 #include "entry/invoiceRecords.h"
 #include "entry/navBar.h"
-#include "invoice/records.h"
 
 namespace cli {
 
@@ -36,9 +35,9 @@ void fillFields(Session& session, const CellValue& value) {
         fields[row]->Text = row < parts.size() ? std::string(parts[row]) : std::string();
 }
 
-void store(Session& session, const std::vector<CellValue>& values) {
+void store(Session& session, const std::vector<CellValue>& values, const entry::ColumnNames* only) {
     fillInvoice(session, values);
-    session.changeAndCalculate([&] { entry::editInvoiceRecord(session.app, true); });
+    session.change([&] { entry::editInvoiceRecord(session.app, true, only); });
 }
 
 } // namespace
@@ -50,7 +49,7 @@ void fillInvoice(Session& session, const std::vector<CellValue>& values) {
 core::Item& addInvoice(Session& session, const std::vector<CellValue>& values) {
     session.change([&] { entry::layoutNavBar_ButtonClick(session.app, "New"); });
     core::Item& record = *session.app.document.LV.selectedItem();
-    store(session, values);
+    store(session, values, nullptr);
     return record;
 }
 
@@ -58,9 +57,11 @@ void updateInvoice(Session& session, core::Item& record, const std::vector<CellV
     session.change([&] {
         session.app.document.LV.MultiSelect = false;
         session.app.document.LV.setSelectedItem(&record);
-        invoice::retrieveInvoiceRecord(session.app);
     });
-    store(session, values);
+    // A cell that the layout's fields cannot hold as it is would come out of them as another one.
+    entry::ColumnNames named;
+    for (const CellValue& value : values) named.insert(value.column->Text);
+    store(session, values, &named);
 }
 
 } // namespace cli

@@ -1,10 +1,13 @@
 #include "cli/session.h"
 
+#include "calc/recalculation.h"
+#include "cli/output.h"
 #include "core/encoding.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <iostream>
@@ -25,8 +28,21 @@ bool isSameFile(const std::string& a, const std::string& b) {
     return !error && first == fs::weakly_canonical(b, error) && !error;
 }
 
-// The save routine says that it failed, but not why; what it ran into is still there to be seen.
-std::string whyNotWritten(const std::string& target) {
+// The line begins with the name of the file anyway, so that "File not found: a.fwk (No such file)"
+// becomes "File not found (No such file)".
+std::string withoutName(const std::string& file, const std::string& reason) {
+    const std::size_t place = file.empty() ? std::string::npos : reason.find(": " + file);
+    if (place == std::string::npos) return reason;
+    const std::string rest = reason.substr(place + 2 + file.size());
+    const bool joins = rest.empty() || rest.starts_with(" (");
+    return reason.substr(0, place) + (joins ? "" : ":") + rest;
+}
+
+// What the user can do something about is told in his words, the rest as the system tells it.
+std::string whyNotWritten(const std::string& target, const core::RunTimeError& error) {
+    if (error.number == core::errors::diskFull) return "writing failed; the disk may be full";
+    const std::string reason = withoutName(target, error.what());
+    if (error.number != core::errors::pathAccess && error.number != core::errors::fileNotFound) return reason;
     const fs::path folder = fs::path(target).parent_path();
     const char* place = folder.empty() ? "." : folder.c_str();
     struct stat status {};
@@ -39,7 +55,7 @@ std::string whyNotWritten(const std::string& target) {
         if (!writable || ::access(target.c_str(), W_OK) != 0) return "it is read-only";
     }
     if (::access(place, W_OK) != 0) return "its folder is read-only";
-    return "writing failed; the disk may be full";
+    return reason;
 }
 
 // The end of the process gives the document back at once; to free its cells one by one would take a
@@ -51,6 +67,15 @@ app::App& untilTheEnd(std::unique_ptr<app::App> app) {
 }
 
 } // namespace
+
+void tellRows(const std::string& file, const std::vector<std::string>& rows) {
+    constexpr std::size_t mostRows = 20;
+    const auto tell = [&](const std::string& what) {
+        std::cerr << "fwk: " << printable(file + ": " + what) << '\n';
+    };
+    for (std::size_t i = 0; i < std::min(rows.size(), mostRows); ++i) tell(rows[i]);
+    if (rows.size() > mostRows) tell("and " + std::to_string(rows.size() - mostRows) + " more");
+}
 
 Session::Session(std::string databaseFile)
     : file(std::move(databaseFile)), platform(std::cerr),
@@ -69,51 +94,49 @@ std::string Session::whyNotOpened(const core::RunTimeError& error) const {
     constexpr auto mostRecords = std::numeric_limits<decltype(app.document.iLastKey)>::max();
     if (error.number == core::errors::overflow && app.document.iLastKey == mostRecords)
         return "it has more than " + std::to_string(mostRecords) + " records";
-    // The line begins with the name of the file anyway, so that "File not found: a.fwk (No such file)"
-    // becomes "File not found (No such file)".
-    std::string reason = error.what();
-    const std::size_t place = file.empty() ? std::string::npos : reason.find(": " + file);
-    if (place == std::string::npos) return reason;
-    const std::string rest = reason.substr(place + 2 + file.size());
-    const bool joins = rest.empty() || rest.starts_with(" (");
-    return reason.substr(0, place) + (joins ? "" : ":") + rest;
+    return withoutName(file, error.what());
 }
 
 void Session::change(const std::function<void()>& routine) const {
     try {
         routine();
     } catch (const core::RunTimeError& error) {
-        throw Failure(file, error.what());
+        throw Failure(file, withoutName(file, error.what()));
     }
 }
 
 void Session::changeAndCalculate(const std::function<void()>& routine) const {
     const int messages = platform.exclamations();
     change(routine);
-    if (platform.exclamations() != messages)
-        throw Failure(file, "the calculation failed, so that nothing is saved");
+    if (platform.exclamations() == messages) return;
+    change([this] {
+        std::vector<std::string> rows;
+        for (const calc::Uncalculated& row : calc::recalculateEveryRow(app))
+            rows.push_back(row.key + " cannot be calculated (" + row.reason + ")");
+        tellRows(file, rows);
+    });
 }
 
 void Session::save() {
-    run(file, [this] { storage::SaveFile(app, false, false); });
+    run(file, [this] { return storage::SaveFile(app, false, false); });
 }
 
 void Session::saveAs(const std::string& target) {
     // The routine compares names as texts; a file has more than one of them.
     const std::string& current = app.document.currentFile;
     platform.setSaveName(isSameFile(target, current) ? current : target);
-    run(target, [this] { storage::SaveFile(app, true, false); });
+    run(target, [this] { return storage::SaveFile(app, true, false); });
 }
 
 void Session::clone(const std::string& target) {
     platform.setSaveName(target);
-    run(target, [this] { storage::SaveFile(app, false, true); });
+    run(target, [this] { return storage::SaveFile(app, false, true); });
 }
 
 void Session::saveSearch(const std::string& target) {
     const bool itself = isSameFile(target, file);
     platform.setSaveName(itself ? app.document.currentFile : target);
-    run(target, [this] { storage::saveSearchResults(app); });
+    run(target, [this] { return storage::saveSearchResults(app); });
     if (itself) throw Failure(target, "is the database that was searched");
 }
 
@@ -122,15 +145,13 @@ void Session::refuseAsOutput(const std::string& output) const {
     if (fs::equivalent(file, output, none)) throw Failure(output, "is the database itself");
 }
 
-void Session::run(const std::string& target, const std::function<void()>& save) {
+void Session::run(const std::string& target, const std::function<std::optional<core::RunTimeError>()>& save) {
     if (target.empty()) throw Failure("a database needs a file name");
-    const int messages = platform.exclamations();
     const int refusals = platform.refusedQuestions();
-    save();
+    const std::optional<core::RunTimeError> error = save();
     if (platform.refusedQuestions() != refusals)
         throw Failure(target, "it exists already, --yes overwrites it");
-    if (platform.exclamations() != messages)
-        throw Failure(target, "could not be saved: " + whyNotWritten(target));
+    if (error) throw Failure(target, "could not be saved: " + whyNotWritten(target, *error));
 }
 
 core::Column& Session::column(std::string_view name) {

@@ -5,6 +5,7 @@
 #include "platform/headlessPlatform.h"
 
 #include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -18,6 +19,9 @@ public:
     Failure(const std::string& file, const std::string& reason) : std::runtime_error(file + ": " + reason) {}
 };
 
+// Tells what is wrong with rows that are stored all the same, a line each.
+void tellRows(const std::string& file, const std::vector<std::string>& rows);
+
 // One run of a command on one database: the program without its window.
 class Session {
 public:
@@ -30,7 +34,8 @@ public:
     std::string whyNotOpened(const core::RunTimeError& error) const;
     // Runs a routine of the window. The error that would end the window is the failure of the command.
     void change(const std::function<void()>& routine) const;
-    // The same for a routine that calculates: it tells by a message alone that an expression is wrong.
+    // The same for a routine that calculates. The window stops at the first record that fails, and its user
+    // sees what is left; here all records are calculated, and those that fail are told and stay as they are.
     void changeAndCalculate(const std::function<void()>& routine) const;
     // Saves through the window's own routine. A failure leaves the file as it was and raises Failure.
     void save();
@@ -61,7 +66,7 @@ public:
     app::App& app;
 
 private:
-    void run(const std::string& target, const std::function<void()>& save);
+    void run(const std::string& target, const std::function<std::optional<core::RunTimeError>()>& save);
 };
 
 } // namespace cli

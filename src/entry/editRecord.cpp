@@ -1,6 +1,5 @@
 #include "entry/editRecord.h"
 
-#include "calc/formulas.h"
 #include "calc/serialNumbers.h"
 #include "core/format.h"
 #include "core/number.h"
@@ -112,11 +111,13 @@ Item* EditRecord(App& app, bool bUpdate, const std::vector<BoxText>& theFields,
     return record;
 }
 
-bool addRecords(App& app, int count, const std::function<void(int row, std::vector<BoxText>& boxes)>& fill) {
+std::vector<calc::Uncalculated>
+addRecords(App& app, int count, const std::function<void(int row, std::vector<BoxText>& boxes)>& fill) {
     Document& document = app.document;
     RecordsList& records = document.LV;
     requireKeys(document, count);
-    if (count < 1) return true;
+    std::vector<calc::Uncalculated> failed;
+    if (count < 1) return failed;
     records.reserve(static_cast<std::size_t>(records.count() + count));
     calc::RowCalculator formulas(app, records);
     std::vector<const Item*> added;
@@ -125,7 +126,7 @@ bool addRecords(App& app, int count, const std::function<void(int row, std::vect
         fill(row, boxes);
         Item& record = records.add(document.nextKey());
         writeCells(app, record, boxes, false);
-        if (!formulas.calculate(record)) return false;
+        if (const auto reason = formulas.tryCalculate(record)) failed.push_back({record.Key.str(), *reason});
         added.push_back(&record);
     }
     core::moveTotals(records); // and the last record is the selected one
@@ -134,7 +135,7 @@ bool addRecords(App& app, int count, const std::function<void(int row, std::vect
     for (const Item* record : added) totals.update(core::TotalsMode::Add, *record);
     showCount(app);
     app::setDocumentModified(app, true);
-    return true;
+    return failed;
 }
 
 bool deleteRecords(App& app) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "calc/formulas.h"
 
 #include <functional>
 #include <string>
@@ -30,10 +31,10 @@ core::Item* EditRecord(app::App& app, bool bUpdate, const std::vector<BoxText>& 
 
 // Writes many new records of a standard database, each as EditRecord does, and puts the list, its totals
 // and the status bar in order once at the end. `fill` puts what the row, from 0, is to hold into the
-// boxes, which keep what they held for the row before. False, after the message, when a formula
-// failed; the document is then half written. Keys that would run out raise overflow before anything is.
-bool addRecords(app::App& app, int count,
-                const std::function<void(int row, std::vector<BoxText>& boxes)>& fill);
+// boxes, which keep what they held for the row before. Keys that would run out raise overflow before anything
+// is written. Answers the records that could not be calculated, without a message; they are stored as well.
+std::vector<calc::Uncalculated>
+addRecords(app::App& app, int count, const std::function<void(int row, std::vector<BoxText>& boxes)>& fill);
 
 // Deletes the selected records. False when it stopped: the Totals row has the focus, the list is
 // empty, or the user said no.

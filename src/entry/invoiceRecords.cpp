@@ -39,17 +39,6 @@ std::string filledCell(const Column& column, const std::string& text) {
                                                : text;
 }
 
-std::string singleCell(const Column& column, const std::string& text) {
-    if (!text.empty()) return filledCell(column, text);
-    if (column.isType(ColumnType::Currency)) return "$.00";
-    return column.isType(ColumnType::Number) ? "0" : "";
-}
-
-// An empty box of an item row leaves an empty slot.
-std::string itemValue(const Column& column, const std::string& text) {
-    return text.empty() ? std::string() : filledCell(column, text);
-}
-
 Item* invoiceToUpdate(App& app) {
     Document& document = app.document;
     if (app.mainFrm.theListView != &document.searchLV) return document.LV.selectedItem();
@@ -58,16 +47,17 @@ Item* invoiceToUpdate(App& app) {
     return document.LV.find(result->Key.empty() ? result->Text : result->Key);
 }
 
-void writeCells(App& app, Item& record, bool bUpdate) {
+void writeCells(App& app, Item& record, bool bUpdate, const ColumnNames* only) {
     Document& document = app.document;
     const invoice::ItemColumns items(document);
     std::set<std::string, std::less<>> begun; // groups that have their first value
     document.layout.layoutField.forEach([&](const LayoutField& field) {
         const Column* column = document.LV.columns.find(field.Tag);
-        if (column == nullptr || column->Index == 1) return;
+        if (column == nullptr || column->Index == 1 || (only != nullptr && !only->contains(field.Tag)))
+            return;
         core::CellText& cell = RecordsList::cell(record, *column);
         if (!items.contains(field.Tag)) {
-            cell = singleCell(*column, field.Text);
+            cell = invoiceCell(*column, field.Text);
             return;
         }
         const bool isFirst = begun.insert(field.Tag).second;
@@ -105,14 +95,25 @@ void refreshResults(App& app) {
 
 } // namespace
 
-void editInvoiceRecord(App& app, bool bUpdate) {
+std::string invoiceCell(const Column& column, const std::string& text) {
+    if (!text.empty()) return filledCell(column, text);
+    if (column.isType(ColumnType::Currency)) return "$.00";
+    return column.isType(ColumnType::Number) ? "0" : "";
+}
+
+// An empty box of an item row leaves an empty slot.
+std::string itemValue(const Column& column, const std::string& text) {
+    return text.empty() ? std::string() : filledCell(column, text);
+}
+
+void editInvoiceRecord(App& app, bool bUpdate, const ColumnNames* only) {
     RecordsList& records = app.document.LV;
     records.MultiSelect = false;
     Item* record = bUpdate ? invoiceToUpdate(app) : &invoice::addInvoiceRecord(app);
     if (record == nullptr || record->isTotals()) return;
     if (bUpdate)
         core::UpdateTotalsRow(app.document, core::TotalsMode::Subtract, records, records.indexOf(*record));
-    writeCells(app, *record, bUpdate);
+    writeCells(app, *record, bUpdate, only);
     app::calculateInvoice(app, records, records.indexOf(*record));
     core::UpdateTotalsRow(app.document, core::TotalsMode::Add, records, records.indexOf(*record));
     records.setSelectedItem(record);
@@ -131,28 +132,28 @@ void proposeValues(App& app) {
     });
 }
 
-bool addInvoices(App& app, int count, const std::function<void(int row)>& fill) {
+std::vector<calc::Uncalculated> addInvoices(App& app, int count, const std::function<void(int row)>& fill) {
     RecordsList& records = app.document.LV;
     requireKeys(app.document, count);
     std::vector<const Item*> added;
-    app.mainFrm.bCalcError = false;
+    std::vector<calc::Uncalculated> failed;
     for (int row = 0; row < count; ++row) {
         proposeValues(app);
         fill(row);
         Item& record = records.add(app.document.nextKey());
-        writeCells(app, record, true);
-        app::calculateInvoice(app, records, records.count());
-        if (app.mainFrm.bCalcError) return false;
+        writeCells(app, record, true, nullptr);
+        if (const auto reason = app::tryCalculateInvoice(app, records, records.count()))
+            failed.push_back({record.Key.str(), *reason});
         added.push_back(&record);
     }
-    if (added.empty()) return true;
+    if (added.empty()) return failed;
     core::moveTotals(records); // and the last invoice is the selected one
     records.MultiSelect = false;
     const core::TotalsRowUpdater totals(app.document, records);
     for (const Item* record : added) totals.update(core::TotalsMode::Add, *record);
     app::setDocumentModified(app, true);
     app::rebuildInvoiceView(app);
-    return true;
+    return failed;
 }
 
 bool deleteInvoices(App& app) {

@@ -1,15 +1,25 @@
 #pragma once
 
 #include "app/app.h"
+#include "calc/formulas.h"
 
 #include <functional>
+#include <set>
 #include <string>
+#include <vector>
 
 namespace entry {
 
+using ColumnNames = std::set<std::string, std::less<>>;
+
 // Writes the layout's fields into the selected invoice, or a new one, and works it out. The values of a
-// repeated field go into one cell, each followed by "@". Silent for the Totals row.
-void editInvoiceRecord(app::App& app, bool bUpdate);
+// repeated field go into one cell, each followed by "@". Silent for the Totals row. With a set of columns the
+// other cells stay as they are.
+void editInvoiceRecord(app::App& app, bool bUpdate, const ColumnNames* only = nullptr);
+
+// What the cell of a column gets from the layout's field, or from one of its fields in an item row.
+std::string invoiceCell(const core::Column& column, const std::string& text);
+std::string itemValue(const core::Column& column, const std::string& text);
 
 // Fills the layout's fields with what a new record proposes. A new invoice is in the list at once, so its
 // serial numbers are used up at once.
@@ -17,9 +27,10 @@ void proposeValues(app::App& app);
 
 // Adds many invoices, each as "New" and then editInvoiceRecord do, and puts the lists and the totals in
 // order once at the end. `fill` puts what the row, from 0, is to hold into the fields, which hold the
-// proposed values. False, after the message, when a formula failed; the document is then half written.
-// Keys that would run out raise overflow before anything is.
-bool addInvoices(app::App& app, int count, const std::function<void(int row)>& fill);
+// proposed values. Keys that would run out raise overflow before anything is written. Answers the invoices
+// that could not be calculated, without a message; they are stored as well.
+std::vector<calc::Uncalculated> addInvoices(app::App& app, int count,
+                                            const std::function<void(int row)>& fill);
 
 // Deletes the invoices selected in the invoice list. False when the user said no.
 bool deleteInvoices(app::App& app);

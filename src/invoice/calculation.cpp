@@ -50,12 +50,13 @@ int itemRows(const Item& record) {
 
 // The handler that the first evaluation of a routine arms.
 template <typename Routine>
-void guarded(app::App& app, const bool& armed, Routine&& routine) {
+std::optional<std::string> guarded(const bool& armed, Routine&& routine) {
     try {
         routine();
-    } catch (const core::RunTimeError&) {
+        return std::nullopt;
+    } catch (const core::RunTimeError& error) {
         if (!armed) throw;
-        calc::reportCalculationError(app);
+        return error.what();
     }
 }
 
@@ -132,7 +133,7 @@ void calculateItemRows(RecordsList& list, Item& record, const Formula& formula, 
 
 } // namespace
 
-void RecalculateInvoice(app::App& app, int rowIndex, RecordsList& list) {
+std::optional<std::string> RecalculateInvoice(app::App& app, int rowIndex, RecordsList& list) {
     Item& record = list.at(rowIndex);
     const ItemColumns items(app.document);
     const int rows = itemRows(record);
@@ -140,7 +141,7 @@ void RecalculateInvoice(app::App& app, int rowIndex, RecordsList& list) {
     // Set by the first formula that refers to a cell of one value, and never cleared: all later line
     // calculations of the invoice are skipped with it. It is wanted so.
     bool bSkip = false;
-    guarded(app, armed, [&] {
+    return guarded(armed, [&] {
         for (const auto& entry : app.document.formulas) {
             const Formula formula(entry.item);
             if (!items.contains(formula.name)) continue;
@@ -188,11 +189,11 @@ void RecalculateSegmentedTotals(app::App& app, int rowIndex, RecordsList& list) 
     }
 }
 
-void RecalculateNormalInvoiceColumns(app::App& app, int rowIndex, RecordsList& list) {
+std::optional<std::string> RecalculateNormalInvoiceColumns(app::App& app, int rowIndex, RecordsList& list) {
     Item& record = list.at(rowIndex);
     const ItemColumns items(app.document);
     bool armed = false;
-    guarded(app, armed, [&] {
+    return guarded(armed, [&] {
         for (const auto& entry : app.document.formulas) {
             const Formula formula(entry.item);
             const std::vector<std::string_view> tokens = formula.tokens();
@@ -229,7 +230,14 @@ void RecalculateNormalInvoiceColumns(app::App& app, int rowIndex, RecordsList& l
 } // namespace invoice
 
 void app::calculateInvoice(App& app, core::RecordsList& list, int rowIndex) {
-    invoice::RecalculateInvoice(app, rowIndex, list);
+    if (invoice::RecalculateInvoice(app, rowIndex, list)) calc::reportCalculationError(app);
     invoice::RecalculateSegmentedTotals(app, rowIndex, list);
-    invoice::RecalculateNormalInvoiceColumns(app, rowIndex, list);
+    if (invoice::RecalculateNormalInvoiceColumns(app, rowIndex, list)) calc::reportCalculationError(app);
+}
+
+std::optional<std::string> app::tryCalculateInvoice(App& app, core::RecordsList& list, int rowIndex) {
+    const std::optional<std::string> items = invoice::RecalculateInvoice(app, rowIndex, list);
+    invoice::RecalculateSegmentedTotals(app, rowIndex, list);
+    const std::optional<std::string> others = invoice::RecalculateNormalInvoiceColumns(app, rowIndex, list);
+    return items ? items : others;
 }

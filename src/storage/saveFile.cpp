@@ -1,7 +1,6 @@
 #include "storage/saveFile.h"
 
 #include "app/windowState.h"
-#include "core/runTimeError.h"
 #include "platform/zip.h"
 #include "storage/dataWriter.h"
 #include "storage/saveSteps.h"
@@ -58,19 +57,18 @@ void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool
 
 } // namespace
 
-void SaveFile(App& app, bool bSaveAs, bool bClone) {
+std::optional<core::RunTimeError> SaveFile(App& app, bool bSaveAs, bool bClone) {
     std::optional<std::string> target;
     if (bSaveAs) {
         target = app.platform.showSave({"Save As...", "Untitled.fwk", std::string(platform::databaseFilter)});
-        if (!target) return;
+        if (!target) return std::nullopt;
         if (*target == app.document.currentFile) target.reset(); // a plain save
     }
     try {
         writeAndPack(app, target, bClone);
-    } catch (const core::RunTimeError& error) {
-        tellFailure(app, target.has_value(), error.number);
-    } catch (const std::exception&) {
-        tellFailure(app, target.has_value(), 0);
+        return std::nullopt;
+    } catch (const std::exception& error) {
+        return tellFailure(app, target.has_value(), error);
     }
 }
 

@@ -1,7 +1,6 @@
 #include "storage/saveSearch.h"
 
 #include "core/number.h"
-#include "core/runTimeError.h"
 #include "storage/dataWriter.h"
 #include "storage/saveSteps.h"
 
@@ -51,21 +50,20 @@ void writeAndPack(App& app, const std::string& target) {
 
 } // namespace
 
-void saveSearchResults(App& app) {
+std::optional<core::RunTimeError> saveSearchResults(App& app) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Save As...", "Untitled Search Results.fwk", std::string(platform::databaseFilter)});
-    if (!target) return;
+    if (!target) return std::nullopt;
     if (*target == app.document.currentFile) {
         app::inform(app, "You cannot save your search results to a file named the same as the one that is "
                          "currently open.");
-        return;
+        return std::nullopt;
     }
     try {
         writeAndPack(app, *target);
-    } catch (const core::RunTimeError& error) {
-        tellFailure(app, true, error.number);
-    } catch (const std::exception&) {
-        tellFailure(app, false, 0);
+        return std::nullopt;
+    } catch (const std::exception& error) {
+        return tellFailure(app, true, error);
     }
 }
 

@@ -1,6 +1,5 @@
 #include "storage/saveSteps.h"
 
-#include "core/runTimeError.h"
 #include "storage/workFiles.h"
 
 namespace storage {
@@ -34,7 +33,9 @@ void packAlone(const std::string& target, const std::string& bytes) {
     Zip.CloseArchive();
 }
 
-void tellFailure(App& app, bool bSaveAs, int number) {
+core::RunTimeError tellFailure(App& app, bool bSaveAs, const std::exception& error) {
+    const auto* known = dynamic_cast<const core::RunTimeError*>(&error);
+    const int number = known == nullptr ? 0 : known->number;
     if (bSaveAs && number == core::errors::diskNotReady)
         app::warn(app,
                   "  Please insert your working source disk or device that you have been saving to up "
@@ -45,6 +46,7 @@ void tellFailure(App& app, bool bSaveAs, int number) {
         app::warn(app,
                   "There was an error writing to the file.  If saving to removable media, please make sure "
                   "that the disk is inserted properly, or that the device is plugged in.");
+    return {number, error.what()};
 }
 
 } // namespace storage

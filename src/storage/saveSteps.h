@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "core/runTimeError.h"
 #include "platform/zip.h"
 
 #include <string>
@@ -17,7 +18,7 @@ void keepDataFile(app::App& app, const std::string& bytes);
 void addData(platform::Zip& Zip, const std::string& bytes);
 // A new archive that holds the text of the database alone.
 void packAlone(const std::string& target, const std::string& bytes);
-// Says that the database could not be written.
-void tellFailure(app::App& app, bool bSaveAs, int number);
+// Says that the database could not be written, and answers why.
+core::RunTimeError tellFailure(app::App& app, bool bSaveAs, const std::exception& error);
 
 } // namespace storage
