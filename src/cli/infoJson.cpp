@@ -102,7 +102,7 @@ Json layoutOf(const Document& document) {
     });
     const auto addLines = [&](const char* family, const core::ControlArray<core::LineObject>& lines) {
         lines.forEach([&](const core::LineObject& line) {
-            objects.emplace_back(objectOf(family, line))["BackColor"] = line.fileBackColor;
+            objects.emplace_back(objectOf(family, line))["BackColor"] = line.BackColor;
         });
     };
     addLines("pbLine", layout.pbLine);

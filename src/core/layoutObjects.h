@@ -50,9 +50,6 @@ struct Label : LayoutObject, ObjectFont {
 struct LineObject : LayoutObject {
     std::int32_t ForeColor = 0;
     std::int32_t BackColor = white;
-    // The colour in the line's place in the file. It is never shown: a line is redrawn in the template's
-    // colour. It is kept so that a file comes back as it was.
-    std::int32_t fileBackColor = white;
     int DrawWidth = 2; // pixels
 };
 

@@ -82,10 +82,7 @@ void readLine(const Elements& fields, core::LayoutObjects& layout,
     const Place place(fields, 1);
     core::LineObject& line = loadNext(layout, family);
     place.putInto(line);
-    if (fields.count() <= 5) return;
-    // Nothing is drawn in it, so a colour that is none does no harm.
-    const double colour = core::val(fields.text(5));
-    if (colour >= INT32_MIN && colour <= INT32_MAX) line.fileBackColor = core::toInt32(colour);
+    // The colour behind the place is not taken: a line is shown, and written again, in the template's.
 }
 
 void readBox(const Elements& fields, core::LayoutObjects& layout) {
@@ -195,7 +192,7 @@ void writeLayoutLines(std::string& out, const core::LayoutObjects& layout, std::
     });
     const auto writeLines = [&](std::string_view word, const core::ControlArray<core::LineObject>& family) {
         family.forEach([&](const core::LineObject& object) {
-            Line(out, word, lineEnd).place(object).number(object.fileBackColor);
+            Line(out, word, lineEnd).place(object).number(object.BackColor);
         });
     };
     writeLines("LN", layout.pbLine);

@@ -56,7 +56,7 @@ TEST_F(FwkTest, InfoTellsWhatTheFileHolds) {
     EXPECT_EQ(jsonWithout(info, {"columns", "entries", "layout"}), expected);
     const std::pair<const char*, const char*> parts[] = {
         {"/columns/3", R"({"name": "Bought", "type": "Date", "width": 1300, "position": 6})"},
-        {"/entries/0", R"({"name": "data.dat", "comment": "Main Data File", "size": 5840})"},
+        {"/entries/0", R"({"name": "data.dat", "comment": "Main Data File", "size": 5854})"},
         {"/entries/5", R"({"name": "logo.gif", "comment": "Clip Art", "size": 3270})"},
         {"/layout/6", R"({"family": "layoutField", "index": 7, "Tag": "Value", "Left": 2880, "Top": 3720,
             "Width": 1815, "Height": 285, "FontBold": false, "FontItalic": false, "FontUnderline": false,
@@ -66,7 +66,7 @@ TEST_F(FwkTest, InfoTellsWhatTheFileHolds) {
             "FontItalic": false, "FontUnderline": false, "FontName": "MS Sans Serif", "FontSize": 8.25,
             "ForeColor": 0, "Alignment": 2})"},
         {"/layout/19", R"({"family": "vLine", "index": 1, "Tag": "", "Left": 7400, "Top": 1560, "Width": 75,
-            "Height": 3300, "BackColor": 0})"},
+            "Height": 3300, "BackColor": 16777215})"},
         {"/layout/20", R"({"family": "pBox", "index": 1, "Tag": "", "Left": 1320, "Top": 960, "Width": 9000,
             "Height": 4500, "ForeColor": 128, "DrawWidth": 3})"},
         {"/layout/22", R"({"family": "clipPic", "index": 1, "Tag": "logo.gif", "Left": 9000, "Top": 990,

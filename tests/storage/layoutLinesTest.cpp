@@ -36,12 +36,11 @@ TEST(LayoutLines, comeBackAsTheyWereOrInTheShortestForm) {
          "L|Long|1|2|3|4|True|False|False|Arial|10|0||0|"},
         // No alignment that there is.
         {"L|A|1|2|3|4|True|False|False|Arial|10|0|x|3|", "L|A|1|2|3|4|True|False|False|Arial|10|0|x|0|"},
-        {"LN|1440|1440|8640|75|255|", nullptr},
+        // A line is written in the template's colour, whatever stands there.
+        {"LN|1440|1440|8640|75|255|", "LN|1440|1440|8640|75|16777215|"},
         {"VLN|7400|1560|75|3300|16777215|", nullptr},
-        // The colour of a line is not used, so it can be missing or none at all.
         {"LN|1|2|3|4", "LN|1|2|3|4|16777215|"},
         {"VLN|1|2|3|4|99999999999|", "VLN|1|2|3|4|16777215|"},
-        {"VLN|1|2|3|4|-99999999999|", "VLN|1|2|3|4|16777215|"},
         {"B|1320|960|9000|4500|128|3|", nullptr},
         {"P|Cover|7680|1560|2400|3000|", nullptr},
         {"P|Cover|1|2|3|4|tip|", "P|Cover|1|2|3|4|"},
@@ -107,7 +106,7 @@ TEST(LayoutLines, goFamilyByFamilyInIndexOrderAndWithoutTheTemplate) {
     storage::writeLayoutLines(out, layout, "\n");
     EXPECT_EQ(out, "F|f1|1|2|3|4|True|False|False|A|8|0|\n"
                    "L|l1|1|2|3|4|True|False|False|A|8|0||0|\n"
-                   "LN|1|2|3|4|5|\nVLN|1|2|3|4|5|\nB|1|2|3|4|5|6|\nP|p1|1|2|3|4|\n"
+                   "LN|1|2|3|4|16777215|\nVLN|1|2|3|4|16777215|\nB|1|2|3|4|5|6|\nP|p1|1|2|3|4|\n"
                    "C|c1|1|2|3|4|\nC|c3|1|2|3|4|\nC|c4|5|6|70|80|\n");
 }
 
