@@ -1,12 +1,12 @@
 #include "qtprint/pdfFile.h"
 
 #include "core/runTimeError.h"
+#include "platform/atomicFile.h"
 #include "qtprint/paperTarget.h"
 #include "qtprint/pictureFile.h"
 
 #include <QGuiApplication>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QTemporaryDir>
 
 #include <optional>
@@ -15,20 +15,56 @@ namespace qtprint {
 
 namespace {
 
-struct PdfDevice {
-    explicit PdfDevice(const QString& path) : file(path), writer(&file) {}
+// What Qt writes a PDF to. Its writer does not ask whether a write has failed, so the first failure is kept
+// until the file is to take its place.
+class NewFile : public QIODevice {
+public:
+    explicit NewFile(std::filesystem::path path) : path_(std::move(path)), file_(path_) { open(WriteOnly); }
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
 
-    QSaveFile file;
+    // Raises what went wrong.
+    void commit() {
+        flush();
+        if (failure_ != 0) platform::raiseSystemError(failure_, path_.string());
+        file_.commit();
+    }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* bytes, qint64 count) override {
+        constexpr std::size_t most = 64 * 1024;
+        buffer_.append(bytes, static_cast<std::size_t>(count));
+        if (buffer_.size() >= most) flush();
+        return failure_ == 0 ? count : -1;
+    }
+
+private:
+    void flush() {
+        if (failure_ == 0) failure_ = platform::writeAt(file_.fd(), buffer_.data(), buffer_.size(), place_);
+        place_ += static_cast<long long>(buffer_.size());
+        buffer_.clear();
+    }
+
+    std::filesystem::path path_;
+    platform::AtomicFile file_;
+    std::string buffer_;
+    long long place_ = 0;
+    int failure_ = 0;
+};
+
+struct PdfDevice {
+    explicit PdfDevice(const std::filesystem::path& path) : file(path), writer(&file) {}
+
+    NewFile file;
     QPdfWriter writer;
 };
 
 class PdfTarget : private PdfDevice, public PaperTarget {
 public:
-    PdfTarget(const QString& path, const QString& title, platform::TextMetrics& textMetrics)
+    PdfTarget(const std::filesystem::path& path, const QString& title, platform::TextMetrics& textMetrics)
         : PdfDevice(path), PaperTarget(writer, textMetrics, Jobs::InOneFile) {
         constexpr int dotsPerInch = 1440; // a dot is a twip
-        if (!file.open(QIODevice::WriteOnly))
-            core::raise(core::errors::pathAccess, file.errorString().toStdString());
         writer.setResolution(dotsPerInch);
         writer.setTitle(title);
         writer.setCreator(QStringLiteral("Ferrowick"));
@@ -36,10 +72,19 @@ public:
     ~PdfTarget() override { PaperTarget::close(); } // unless it has been closed, the file stays as it was
 
     // A print without a sheet is no file: an older one stays.
-    bool close() override { return PaperTarget::close() && (!hasSheets() || file.commit()); }
-    std::string failure() const override {
-        return file.error() == QFileDevice::NoError ? std::string() : file.errorString().toStdString();
+    bool close() override {
+        if (!PaperTarget::close()) return false;
+        try {
+            if (hasSheets()) file.commit();
+        } catch (const core::RunTimeError& error) {
+            failure_ = error.what();
+        }
+        return failure_.empty();
     }
+    std::string failure() const override { return failure_; }
+
+private:
+    std::string failure_;
 };
 
 // Qt measures and draws texts for an application object only; this one shows nothing.
@@ -87,7 +132,7 @@ private:
 std::unique_ptr<platform::DrawTarget> openPdfFile(const std::filesystem::path& file,
                                                   const std::string& documentName,
                                                   platform::TextMetrics& metrics) {
-    return std::make_unique<PdfTarget>(toQString(file.string()), toQString(documentName), metrics);
+    return std::make_unique<PdfTarget>(file, toQString(documentName), metrics);
 }
 
 std::unique_ptr<platform::Printer> makePdfPrinter(const std::filesystem::path& file) {

@@ -10,7 +10,7 @@
 namespace qtprint {
 
 // Prints into a PDF file, which takes the place of an older one when it is closed and complete. Raises
-// pathAccess when the file cannot be written.
+// what AtomicFile does when the file cannot be written.
 std::unique_ptr<platform::DrawTarget> openPdfFile(const std::filesystem::path& file,
                                                   const std::string& documentName,
                                                   platform::TextMetrics& metrics);

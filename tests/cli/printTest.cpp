@@ -101,6 +101,12 @@ TEST_F(PrintTest, RefusalsLeaveTheOldFile) {
                    {"report books.fwk -o no/such/folder.pdf", 1, "folder.pdf"},
                    {"layouts wide.fwk -o old.pdf --many", 1, "wide.fwk: no layout fits on a sheet\n"},
                    {"report books.fwk", 2, "--output"}});
+    // The last bytes are written when all has been drawn.
+    const std::string narrow =
+        "cd " + files.string() + " && ulimit -f 4 && " + FWK_PROGRAM + " report books.fwk -o old.pdf 2>why";
+    EXPECT_EQ(WEXITSTATUS(std::system(narrow.c_str())), 1);
+    EXPECT_THAT(read(path("why")), HasSubstr("File too large"));
+    EXPECT_EQ(read(path("old.pdf")), "old");
 }
 
 } // namespace
