@@ -111,6 +111,13 @@ void SheetView::placeMark() {
     paper_->setAccessibleDescription(toQt(layout::selectionText(app_)));
 }
 
+void SheetView::takeFirstField() {
+    QWidget* field = objects_->firstField();
+    if (field == nullptr) return;
+    field->setFocus(Qt::TabFocusReason);
+    bringIntoView(objects_->objectOf(field)); // it may have had the keys already
+}
+
 void SheetView::bringIntoView(ObjectRef object) {
     const QWidget* widget = objects_->widgetOf(object);
     if (widget == nullptr) return;

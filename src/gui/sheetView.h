@@ -25,6 +25,7 @@ public:
     // The sheet sees the keys of that widget first.
     void takeKeysOf(QWidget& other) { other.installEventFilter(this); }
     void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
+    void takeFirstField();
     QWidget* keyHolder() const { return paper_; }
 
 protected:
