@@ -81,7 +81,10 @@ void newRecord(App& app) {
     Document& document = app.document;
     proposeValues(app);
     clearPictures(app);
-    if (!document.bInvoiceStyle) return;
+    if (!document.bInvoiceStyle) {
+        app.mainFrm.control("layoutNavBar.New").Value = true; // until a record is shown
+        return;
+    }
     invoice::addInvoiceRecord(app);
     // It is none of those found: what is typed must not reach the one that was on the sheet before.
     if (document.searchLV.Visible) {
@@ -217,6 +220,11 @@ std::span<const NavButton> navButtons() {
 bool isNavButtonEnabled(const App& app, std::string_view key) {
     const auto control = app.mainFrm.controls.find("layoutNavBar." + std::string(key));
     return control == app.mainFrm.controls.end() || control->second.Enabled;
+}
+
+bool isSheetNew(const App& app) {
+    const auto control = app.mainFrm.controls.find("layoutNavBar.New");
+    return control != app.mainFrm.controls.end() && control->second.Value;
 }
 
 void layoutNavBar_ButtonClick(App& app, std::string_view key) {

@@ -23,6 +23,7 @@ std::string shownText(const Column& column, std::string_view cell) {
 }
 
 void retrieveFields(App& app) {
+    app.mainFrm.control("layoutNavBar.New").Value = false;
     if (app.document.bInvoiceStyle) {
         invoice::retrieveInvoiceRecord(app);
         return;

@@ -78,6 +78,7 @@ QWidget* LayoutPageView::makeNavBar() {
         action->setObjectName(QStringLiteral("layoutNavBar.") + toQt(button.key));
         connect(action, &QAction::triggered, this, [this, key = button.key] {
             events_.run([&] { entry::layoutNavBar_ButtonClick(app_, key); });
+            if (key == "New" || (key == "Add" && entry::isSheetNew(app_))) sheet_->takeFirstField();
         });
         if (button.key == "Delete") layoutNavBar_->addSeparator();
     }
@@ -190,7 +191,9 @@ void LayoutPageView::refreshBars() {
     const int records = std::max(list.count() - 1, 0);
     const int row = current == nullptr ? 0 : list.indexOf(*current);
     Slider1_->setValue(row);
-    position_->setText(row >= 1 && row <= records ? tr("Record %1 of %2").arg(row).arg(records) : QString());
+    position_->setText(entry::isSheetNew(app_)      ? tr("New record")
+                       : row >= 1 && row <= records ? tr("Record %1 of %2").arg(row).arg(records)
+                                                    : QString());
 }
 
 void LayoutPageView::refreshScrollBar(QScrollBar& bar, const app::LayoutPage::ScrollBar& state, int visible) {

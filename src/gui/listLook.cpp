@@ -12,8 +12,9 @@ namespace {
 class RowDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-        return {0, option.fontMetrics.height() + option.fontMetrics.height() / 3};
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {QStyledItemDelegate::sizeHint(option, index).width(),
+                option.fontMetrics.height() + option.fontMetrics.height() / 3};
     }
 };
 

@@ -30,6 +30,12 @@ QWidget* SheetObjects::widgetOf(ObjectRef object) const {
     return found == widgets_.end() ? nullptr : found->second;
 }
 
+QWidget* SheetObjects::firstField() const {
+    for (const auto& [ref, widget] : widgets_)
+        if (ref.family == Family::layoutField && widget->isVisible()) return widget;
+    return nullptr;
+}
+
 std::vector<ObjectRef> SheetObjects::inReadingOrder() const {
     std::vector<ObjectRef> order;
     for (const auto& [ref, widget] : widgets_) {

@@ -27,6 +27,8 @@ public:
     // The object that a widget belongs to, and the other way round.
     core::ObjectRef objectOf(const QObject* widget) const;
     QWidget* widgetOf(core::ObjectRef object) const;
+    // The one that Tab begins with.
+    QWidget* firstField() const;
     // From the top left on, without those that the mouse does not reach.
     std::vector<core::ObjectRef> inReadingOrder() const;
 

@@ -40,9 +40,6 @@ void SheetShape::paintEvent(QPaintEvent*) {
         paintBox(painter);
     else
         paintPicture(painter);
-    if (!hasFocus()) return;
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 void SheetShape::paintLine(QPainter& painter) const {

@@ -1,5 +1,6 @@
 #include "gui/sheetView.h"
 
+#include "gui/qtText.h"
 #include "gui/textBox.h"
 #include "layout/dragging.h"
 #include "layout/images.h"
@@ -27,34 +28,6 @@ layout::MouseButton buttonOf(const QMouseEvent& event) {
     return layout::MouseButton::Left;
 }
 
-// The key codes of the handlers; 0 for all that no handler tells apart.
-int keyCodeOf(const QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return layout::keyLeft;
-    case Qt::Key_Up:
-        return layout::keyUp;
-    case Qt::Key_Right:
-        return layout::keyRight;
-    case Qt::Key_Down:
-        return layout::keyDown;
-    case Qt::Key_Delete:
-        return layout::keyDelete;
-    default:
-        return 0;
-    }
-}
-
-int shiftOf(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    return (modifiers & Qt::ShiftModifier ? 1 : 0) + (modifiers & Qt::ControlModifier ? 2 : 0) +
-           (modifiers & Qt::AltModifier ? 4 : 0);
-}
-
-bool isActivation(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
 bool isMouseEvent(const QEvent& event) {
     return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonRelease ||
            event.type() == QEvent::MouseButtonDblClick || event.type() == QEvent::MouseMove;
@@ -64,8 +37,8 @@ bool isMouseEvent(const QEvent& event) {
 
 SheetView::SheetView(app::App& app, EventBoundary& events, QWidget* parent)
     : QWidget(parent), app_(app), events_(events), paper_(new SheetPaper(app, this)),
-      objects_(new SheetObjects(app, events, *paper_)), grip_(new QWidget(paper_)),
-      ruler1_(new RulerView(app, events, Qt::Horizontal, this)),
+      objects_(new SheetObjects(app, events, *paper_)), mark_(new SheetMark(paper_)),
+      grip_(new QWidget(paper_)), ruler1_(new RulerView(app, events, Qt::Horizontal, this)),
       ruler2_(new RulerView(app, events, Qt::Vertical, this)), corner_(new QWidget(this)) {
     setObjectName(QStringLiteral("layoutPic1"));
     grip_->setObjectName(QStringLiteral("Handle"));
@@ -104,6 +77,7 @@ void SheetView::refresh() {
     paper_->setGeometry(pixels(sheet.Left), pixels(sheet.Top), pixels(sheet.Width), pixels(sheet.Height));
     paper_->show(scale);
     paper_->setVisible(sheet.Visible);
+    placeMark();
     placeGrip();
     ruler1_->setGeometry(pixels(page.ruler1.Left), 0, pixels(page.ruler1.Width), pixels(page.ruler1.Height));
     ruler2_->setGeometry(0, pixels(page.ruler2.Top), pixels(page.ruler2.Width), pixels(page.ruler2.Height));
@@ -126,6 +100,45 @@ void SheetView::placeGrip() {
     if (colours != grip_->palette()) grip_->setPalette(colours);
     grip_->setVisible(grip.Visible);
     if (grip.Visible) grip_->raise();
+}
+
+void SheetView::placeMark() {
+    const bool designing = layout::isDesignMode(app_);
+    const ObjectRef object =
+        designing ? app_.mainFrm.layoutPage.selectedObject : objects_->objectOf(window()->focusWidget());
+    mark_->surround(objects_->widgetOf(object), designing);
+    if (designing) grip_->raise();
+    paper_->setAccessibleDescription(toQt(layout::selectionText(app_)));
+}
+
+void SheetView::takeFirstField() {
+    QWidget* field = objects_->firstField();
+    if (field == nullptr) return;
+    field->setFocus(Qt::TabFocusReason);
+    bringIntoView(objects_->objectOf(field)); // it may have had the keys already
+}
+
+void SheetView::bringIntoView(ObjectRef object) {
+    const QWidget* widget = objects_->widgetOf(object);
+    if (widget == nullptr) return;
+    constexpr int margin = 8; // pixels of the surroundings
+    QRect place = widget->geometry();
+    const auto* box = qobject_cast<const TextBox*>(widget);
+    if (box != nullptr && box->hasFocus() && place.height() > height())
+        place = box->cursorRect().translated(place.topLeft());
+    place = place.translated(paper_->pos()).adjusted(-margin, -margin, margin, margin);
+    QRect room = rect();
+    if (corner_->isVisible()) room.setTopLeft(corner_->geometry().bottomRight());
+    // The beginning of what is larger than the room.
+    const auto excess = [](int first, int last, int roomFirst, int roomLast) {
+        return first < roomFirst ? first - roomFirst
+                                 : std::clamp(last - roomLast, 0, std::max(first - roomFirst, 0));
+    };
+    const int x = excess(place.left(), place.right(), room.left(), room.right());
+    const int y = excess(place.top(), place.bottom(), room.top(), room.bottom());
+    if (x == 0 && y == 0) return;
+    const auto twips = [this](int pixels) { return static_cast<int>(std::lround(pixels / pixelsPerTwip())); };
+    emit scrolled(twips(x), twips(y));
 }
 
 void SheetView::resizeEvent(QResizeEvent*) {
@@ -154,6 +167,14 @@ bool SheetView::eventFilter(QObject* watched, QEvent* event) {
     if (refreshing_) return false;
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
         return keyEvent(watched, event);
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        placeMark();
+        // A press must find what it has hit where it was.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (event->type() == QEvent::FocusIn && reason != Qt::MouseFocusReason && !isPassing(reason))
+            bringIntoView(objects_->objectOf(watched));
+        return false;
+    }
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (widget == nullptr || !isAncestorOf(widget)) return false; // nothing but its keys are taken
     if (event->type() == QEvent::Wheel) {
@@ -163,80 +184,20 @@ bool SheetView::eventFilter(QObject* watched, QEvent* event) {
     }
     if (!isMouseEvent(*event)) return false;
     if (watched == grip_) return gripEvent(event);
-    const ObjectRef object = objects_->objectOf(watched);
-    return object.isObject() && objectEvent(object, event);
+    return mouseEvent(watched, *static_cast<QMouseEvent*>(event));
 }
 
-bool SheetView::keyEvent(QObject* watched, QEvent* event) {
-    if (app_.mainFrm.SSTab1 != app::layoutTab) return false;
-    const auto& key = *static_cast<QKeyEvent*>(event);
-    const bool isPress = event->type() == QEvent::KeyPress;
-    if (!layout::isDesignMode(app_)) {
-        const ObjectRef object = objects_->objectOf(watched);
-        const bool opens = isPress && object.family == Family::imgHolder && isActivation(key);
-        if (opens) doubleClick(object);
-        return opens;
+bool SheetView::mouseEvent(QObject* watched, QMouseEvent& mouse) {
+    ObjectRef object = objects_->objectOf(watched);
+    if (layout::isDesignMode(app_)) {
+        if (mouse.type() == QEvent::MouseButtonPress || mouse.type() == QEvent::MouseButtonDblClick) {
+            const QPoint place = sheetTwips(mouse.globalPosition());
+            grabbed_ = layout::grabbedObject(app_, object, place.x(), place.y());
+        }
+        if (grabbed_.isObject()) object = grabbed_;
+        if (mouse.type() == QEvent::MouseButtonRelease) grabbed_ = {};
     }
-    if (!isPress) {
-        // Delete and the arrows are for the sheet, not for the menus.
-        if (keyCodeOf(key) != 0) event->accept();
-        return false;
-    }
-    bool used = false;
-    events_.run([&] { used = layout::Form_KeyDown(app_, keyCodeOf(key), shiftOf(key)); });
-    return used || (watched == paper_ && paperKey(key));
-}
-
-// What the mouse does on the sheet: Tab is a click on the next object and Enter the double click, Ctrl+Shift
-// and an arrow draws the grip, and the menu key is the right button.
-bool SheetView::paperKey(const QKeyEvent& key) {
-    const ObjectRef selected = app_.mainFrm.layoutPage.selectedObject;
-    if (key.key() == Qt::Key_Tab) return selectNext(1);
-    if (key.key() == Qt::Key_Backtab) return selectNext(-1);
-    const QWidget* widget = objects_->widgetOf(selected);
-    if (widget == nullptr) return false;
-    if (isActivation(key)) {
-        doubleClick(selected);
-        return true;
-    }
-    if (key.key() == Qt::Key_Menu) {
-        bool wantsMenu = false;
-        events_.run([&] { wantsMenu = layout::object_MouseUp(app_, selected, layout::MouseButton::Right); });
-        if (wantsMenu) showImportMenu(widget->mapToGlobal(widget->rect().center()));
-        return wantsMenu;
-    }
-    constexpr int ctrlAndShift = 3;
-    const int code = keyCodeOf(key);
-    if (shiftOf(key) != ctrlAndShift || code == 0 || code == layout::keyDelete) return false;
-    events_.run([&] {
-        const LayoutPage::Grip& grip = app_.mainFrm.layoutPage.Handle;
-        const long x = std::lround(grip.Left), y = std::lround(grip.Top);
-        // With the snap a drag counts from just beyond one step of the grid.
-        const int step = static_cast<int>(app_.mainFrm.bSnapToGrid ? app::gridStep + 1
-                                                                   : app_.mainFrm.layoutPage.TwipsPerPixelX);
-        layout::Handle_MouseDown(app_, x, y);
-        if (app_.mainFrm.layoutPage.drag == LayoutPage::Drag::Resize)
-            layout::dragTo(app_, x + step * ((code == layout::keyRight) - (code == layout::keyLeft)),
-                           y + step * ((code == layout::keyDown) - (code == layout::keyUp)));
-        layout::Handle_MouseUp(app_);
-    });
-    return true;
-}
-
-// Line by line over the sheet. Behind the last one the key leaves the sheet, as it leaves any page.
-bool SheetView::selectNext(int direction) {
-    const std::vector<ObjectRef> order = objects_->inReadingOrder();
-    const auto here = std::ranges::find(order, app_.mainFrm.layoutPage.selectedObject);
-    const auto count = static_cast<int>(order.size());
-    int next = here == order.end() ? (direction > 0 ? 0 : count - 1)
-                                   : static_cast<int>(here - order.begin()) + direction;
-    if (next < 0 || next >= count) return false;
-    const ObjectRef object = order[static_cast<std::size_t>(next)];
-    events_.run([&] {
-        layout::object_Click(app_, object);
-        layout::placeHandle(app_, object);
-    });
-    return true;
+    return object.isObject() && objectEvent(object, &mouse);
 }
 
 bool SheetView::gripEvent(QEvent* event) {

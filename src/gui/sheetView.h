@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "gui/eventBoundary.h"
 #include "gui/rulerView.h"
+#include "gui/sheetMark.h"
 #include "gui/sheetObjects.h"
 #include "gui/sheetPaper.h"
 
@@ -24,6 +25,7 @@ public:
     // The sheet sees the keys of that widget first.
     void takeKeysOf(QWidget& other) { other.installEventFilter(this); }
     void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
+    void takeFirstField();
     QWidget* keyHolder() const { return paper_; }
 
 protected:
@@ -35,6 +37,7 @@ signals:
     void scrolled(int horizontal, int vertical); // by the wheel, in twips
 
 private:
+    bool mouseEvent(QObject* watched, QMouseEvent& mouse);
     bool objectEvent(core::ObjectRef object, QEvent* event);
     bool designEvent(core::ObjectRef object, QEvent* event);
     bool browseEvent(core::ObjectRef object, QEvent* event);
@@ -50,15 +53,20 @@ private:
     // A place on the screen, in twips on the sheet.
     QPoint sheetTwips(QPointF global) const;
     void placeGrip();
+    void placeMark();
+    // Scrolls as far as it takes to show the object, or the part of a high box that is typed in.
+    void bringIntoView(core::ObjectRef object);
 
     app::App& app_;
     EventBoundary& events_;
     SheetPaper* paper_;
     SheetObjects* objects_;
+    SheetMark* mark_;
     QWidget* grip_;
     RulerView* ruler1_;
     RulerView* ruler2_;
-    QWidget* corner_; // Shape1
+    QWidget* corner_;         // Shape1
+    core::ObjectRef grabbed_; // has the mouse until the button goes up
     bool pressed_ = false;
     bool refreshing_ = false;
 };

@@ -1,6 +1,7 @@
 #include "gui/statusPanels.h"
 
 #include "gui/qtText.h"
+#include "layout/selection.h"
 
 #include <QDate>
 #include <QLabel>
@@ -13,8 +14,9 @@ namespace gui {
 // One panel. A text that is too long is cut with dots, and the tip has all of it.
 class StatusPanels::Panel final : public QLabel {
 public:
-    explicit Panel(int number) {
-        setObjectName(QStringLiteral("SB1_%1").arg(number));
+    explicit Panel(const QString& name) {
+        setObjectName(name);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         setTextFormat(Qt::PlainText);
         setIndent(fontMetrics().averageCharWidth() / 2);
     }
@@ -41,16 +43,18 @@ namespace {
 
 // How the panels share the width, by the longest texts that they show.
 constexpr std::array<int, 6> shares = {14, 10, 26, 16, 18, 22};
+constexpr int placeShare = 24;
 
 } // namespace
 
-StatusPanels::StatusPanels(app::App& app, QWidget* parent) : QStatusBar(parent), app_(app) {
+StatusPanels::StatusPanels(app::App& app, QWidget* parent)
+    : QStatusBar(parent), app_(app), place_(new Panel(QStringLiteral("selectionPlace"))) {
     setObjectName(QStringLiteral("SB1"));
     for (std::size_t i = 0; i < panels_.size(); ++i) {
-        panels_[i] = new Panel(static_cast<int>(i) + 1);
-        panels_[i]->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        panels_[i] = new Panel(QStringLiteral("SB1_%1").arg(i + 1));
         addWidget(panels_[i], shares[i]);
     }
+    addWidget(place_, placeShare);
 }
 
 // The window may become narrower than the texts.
@@ -64,6 +68,8 @@ void StatusPanels::refresh() {
     const QDate date(static_cast<int>(today.year()), static_cast<int>(static_cast<unsigned>(today.month())),
                      static_cast<int>(static_cast<unsigned>(today.day())));
     panels_[app::datePanel - 1]->setText(QLocale().toString(date, QLocale::ShortFormat));
+    place_->setText(toQt(layout::selectionText(app_)));
+    place_->setVisible(!place_->text().isEmpty());
 }
 
 } // namespace gui

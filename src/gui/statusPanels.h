@@ -8,7 +8,7 @@
 
 namespace gui {
 
-// The six panels of the status bar.
+// The six panels of the status bar, and while a page is designed the place of what is selected.
 class StatusPanels : public QStatusBar {
     Q_OBJECT
 
@@ -23,6 +23,7 @@ private:
 
     app::App& app_;
     std::array<Panel*, 6> panels_{};
+    Panel* place_;
 };
 
 } // namespace gui

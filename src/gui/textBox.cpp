@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QUrl>
@@ -181,24 +182,29 @@ void TextBox::insertFromMimeData(const QMimeData* source) {
     insertPlainText(text);
 }
 
-namespace {
-
-// The focus comes back to the box from another window, a pop-up or the menu bar: it is still being typed in.
 bool isPassing(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason;
 }
 
-} // namespace
+// A text that is longer than its box prints from its beginning, wherever somebody has typed in it.
+void TextBox::showBeginning() {
+    moveCursor(QTextCursor::Start);
+    verticalScrollBar()->setValue(0);
+}
 
 void TextBox::focusInEvent(QFocusEvent* event) {
     QTextEdit::focusInEvent(event);
     if (!isPassing(event->reason()) && gotFocus) gotFocus();
+    // Behind the handler, which may show another text.
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) selectAll();
 }
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QTextEdit::focusOutEvent(event);
-    if (!isPassing(event->reason()) && lostFocus) lostFocus();
+    if (isPassing(event->reason())) return;
+    showBeginning();
+    if (lostFocus) lostFocus();
 }
 
 } // namespace gui

@@ -44,10 +44,14 @@ private:
     void showText(const QString& text);
     QString wholeText() const;
     QString allowed(const QString& typed) const;
+    void showBeginning();
 
     bool showing_ = false;
     QString text_;
 };
+
+// The focus comes back to the box from another window, a pop-up or the menu bar: it is still being typed in.
+bool isPassing(Qt::FocusReason reason);
 
 // A font of the document, or the nearest one there is.
 QFont toQtFont(const core::ObjectFont& font);

@@ -9,6 +9,7 @@
 #include "core/number.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace layout {
@@ -52,9 +53,19 @@ void moveByKey(App& app, int KeyCode) {
     if (KeyCode == keyLeft) object->Left -= stepX;
     if (KeyCode == keyDown) object->Top += stepY;
     if (KeyCode == keyUp) object->Top -= stepY;
-    if (page.selectedObject.family != Family::layoutField) return;
-    if (const core::LayoutField* field = app.document.layout.layoutField.find(page.selectedObject.Index))
-        stackCopies(app, *field, false);
+}
+
+// How far a place is from an object, in twips; 0 inside it.
+float distance(const LayoutObject& object, float x, float y) {
+    const float across = std::max({object.Left - x, x - object.Left - object.Width, 0.0F});
+    const float down = std::max({object.Top - y, y - object.Top - object.Height, 0.0F});
+    return std::max(across, down);
+}
+
+bool givesWayToLines(const App& app, ObjectRef object) {
+    if (object.family != Family::layoutField) return object.family == Family::pBox || !object.isObject();
+    const core::LayoutField* field = app.document.layout.layoutField.find(object.Index);
+    return field != nullptr && !field->Enabled; // a copy, which the mouse goes through
 }
 
 // Where locks names the object. Files may write the index in another way than this program does.
@@ -113,6 +124,36 @@ void select(App& app, ObjectRef object) {
 void selectNothing(App& app) {
     app.mainFrm.layoutPage.selectedObject = {};
     app.mainFrm.layoutPage.Handle.Visible = false;
+}
+
+ObjectRef grabbedObject(const App& app, ObjectRef hit, long pointerX, long pointerY) {
+    if (!givesWayToLines(app, hit)) return hit;
+    const core::LayoutObjects& layout = app.document.layout;
+    const LayoutObject* behind = hit.family == Family::pBox ? findObject(layout, hit) : nullptr;
+    ObjectRef nearest = hit;
+    float least = lineReach * app.mainFrm.layoutPage.TwipsPerPixelX;
+    const auto consider = [&](Family family, const core::LineObject& line) {
+        if (!line.Visible || (behind != nullptr && line.zOrder < behind->zOrder)) return;
+        const float far = distance(line, static_cast<float>(pointerX), static_cast<float>(pointerY));
+        if (far > least) return;
+        least = far;
+        nearest = {family, line.Index};
+    };
+    layout.pbLine.forEach([&](const core::LineObject& line) { consider(Family::pbLine, line); });
+    layout.vLine.forEach([&](const core::LineObject& line) { consider(Family::vLine, line); });
+    return nearest;
+}
+
+std::string selectionText(App& app) {
+    const LayoutPage& page = app.mainFrm.layoutPage;
+    const LayoutObject* object = findObject(app.document.layout, page.selectedObject);
+    if (object == nullptr || app.mainFrm.SSTab1 != app::layoutTab || !isDesignMode(app)) return {};
+    const auto inches = [](float twips) {
+        constexpr double twipsPerInch = 1440, decimals = 100;
+        return core::numberText(core::roundHalfEven(twips / twipsPerInch * decimals) / decimals);
+    };
+    return "At " + inches(object->Left) + ", " + inches(object->Top) + "   Size " + inches(object->Width) +
+           " x " + inches(object->Height) + " in";
 }
 
 void object_MouseDown(App& app, ObjectRef object, MouseButton button, int X, int Y, long pointerX,
@@ -199,7 +240,11 @@ bool Form_KeyDown(App& app, int KeyCode, int Shift) {
         used = true;
     }
     // For every key, whether or not anything has moved: it is wanted so.
-    placeHandle(app, app.mainFrm.layoutPage.selectedObject);
+    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    if (selected.family == Family::layoutField)
+        if (const core::LayoutField* field = app.document.layout.layoutField.find(selected.Index))
+            stackCopies(app, *field, false);
+    placeHandle(app, selected);
     return used;
 }
 

@@ -2,10 +2,18 @@
 
 #include "app/app.h"
 
+#include <string>
+
 namespace layout {
 
 // The right button is 2 and the middle one 4.
 enum class MouseButton { Left = 1, Right = 2, Middle = 4 };
+
+// Lines are thin: a press on the bare sheet or on a box behind them takes the one that is that near, in
+// pixels.
+constexpr float lineReach = 8;
+// What a press takes that has hit this object, or the sheet.
+core::ObjectRef grabbedObject(const app::App& app, core::ObjectRef hit, long pointerX, long pointerY);
 
 // Events of every kind of object on the sheet. X and Y are twips inside the object (inside its border,
 // for a field or a picture box); the pointer is in twips on the sheet. A mouse-down that starts a drag is
@@ -29,6 +37,9 @@ void placeHandle(app::App& app, core::ObjectRef object);
 // The new object is the selected one.
 void select(app::App& app, core::ObjectRef object);
 void selectNothing(app::App& app);
+
+// Where the selected object stands and how large it is, in inches; empty while nothing is designed.
+std::string selectionText(app::App& app);
 
 // MainFrm sees keys first: Delete, and Ctrl with an arrow in design mode. True when the key has been used up.
 enum Key { keyLeft = 37, keyUp = 38, keyRight = 39, keyDown = 40, keyDelete = 46 };

@@ -20,7 +20,7 @@ using core::LayoutField;
 namespace {
 
 constexpr double twipsPerInch = 1440;
-constexpr std::int32_t lightCyan = 0xFFFF55;
+constexpr std::int32_t cyan = 0xFFFF00;
 constexpr std::int32_t grey = 0x808080;
 
 platform::Extent letter() {
@@ -117,7 +117,7 @@ bool isDesignMode(App& app) {
 std::int32_t fieldBackColor(const App& app, const LayoutField& field) {
     if (!app.mainFrm.bHighlightCalc) return core::white;
     const core::Column* column = app.document.LV.columns.find(field.Tag);
-    return column != nullptr && column->isType(core::ColumnType::Calculation) ? lightCyan : core::white;
+    return column != nullptr && column->isType(core::ColumnType::Calculation) ? cyan : core::white;
 }
 
 void InitLayout(App& app, bool bDesign) {

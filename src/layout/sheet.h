@@ -37,7 +37,7 @@ void forEachCopy(core::LayoutObjects& layout, const core::LayoutField& field, Vi
 // Removes all objects of the page. Nothing is selected any more.
 void unloadObjects(app::App& app);
 
-// The back colour of a field: calculated boxes are light cyan when the user wants them highlighted.
+// The back colour of a field: calculated boxes are cyan when the user wants them highlighted.
 std::int32_t fieldBackColor(const app::App& app, const core::LayoutField& field);
 
 } // namespace layout

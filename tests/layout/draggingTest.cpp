@@ -221,6 +221,33 @@ TEST_F(Sheet, ARepeatedFieldMovesAndSizesAsOne) {
     layout::Form_KeyDown(app, layout::keyUp, layout::ctrlShift);
     EXPECT_EQ(place(objects.layoutField[4]), "1200 2085 1000 500");
     EXPECT_EQ(place(objects.layoutField[2]), "100 5000 1800 300");
+    // Any key puts the others below the one that is selected, a copy too.
+    layout::select(app, {Family::layoutField, 4});
+    layout::Form_KeyDown(app, 'A', 0);
+    EXPECT_EQ(place(objects.layoutField[1]), "1200 2585 1000 500");
+}
+
+// A line of 75 twips from 1000 to 3910 across a box, in front of it, and a pixel of 15 twips.
+TEST_F(Sheet, ALineIsGrabbedFromBesideIt) {
+    open(
+        "B|0|0|5000|5000|0|1|\r\nLN|1000|1000|2910|75|0|\r\nF|Name|1000|1100|900|300|False|False|False|A|8|0|"
+        "\r\n");
+    design();
+    const ObjectRef line{Family::pbLine, 1}, box{Family::pBox, 1}, field{Family::layoutField, 1};
+    struct Case {
+        ObjectRef hit;
+        long X, Y;
+        ObjectRef taken;
+    };
+    for (const Case& c : {Case{{}, 2000, 880, line}, Case{{}, 2000, 879, {}}, Case{{}, 4030, 1195, line},
+                          Case{{}, 4031, 1000, {}}, Case{box, 2000, 900, line}, Case{box, 2000, 1200, box},
+                          Case{field, 1100, 1110, field}})
+        EXPECT_EQ(layout::grabbedObject(app, c.hit, c.X, c.Y), c.taken) << c.X << " " << c.Y;
+    EXPECT_EQ(layout::selectionText(app), "");
+    layout::select(app, line);
+    EXPECT_EQ(layout::selectionText(app), "At 0.69, 0.69   Size 2.02 x 0.05 in");
+    layout::sendToBack(app);
+    EXPECT_EQ(layout::grabbedObject(app, box, 2000, 900), box);
 }
 
 TEST_F(Sheet, TheMouseMovesNothingWhileBrowsing) {

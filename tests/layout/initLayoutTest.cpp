@@ -13,7 +13,7 @@ TEST_F(Sheet, BothModesShowTheirSide) {
     EXPECT_TRUE(page.layoutPic2.Visible);
     EXPECT_EQ(objects.layoutField[1].Text, "Bolt");
     EXPECT_FALSE(objects.layoutField[1].Locked);
-    EXPECT_EQ(objects.layoutField[2].BackColor, 0xFFFF55); // light cyan
+    EXPECT_EQ(objects.layoutField[2].BackColor, 0xFFFF00); // cyan
     EXPECT_EQ(objects.imgHolder[1].BackColor, core::white);
     EXPECT_EQ(objects.imgHolder[1].ToolTipText, "bolt.jpg");
     EXPECT_EQ(objects.clipPic[1].BorderStyle, 0);
@@ -22,7 +22,7 @@ TEST_F(Sheet, BothModesShowTheirSide) {
     design();
     EXPECT_EQ(objects.layoutField[1].Text, "Name");
     EXPECT_TRUE(objects.layoutField[1].Locked);
-    EXPECT_EQ(objects.layoutField[2].BackColor, 0xFFFF55);
+    EXPECT_EQ(objects.layoutField[2].BackColor, 0xFFFF00);
     EXPECT_EQ(objects.imgHolder[1].BackColor, 0x808080);
     const core::FittedImage& image = objects.imgHolder[1].viewImage;
     EXPECT_EQ(image.path, "");
