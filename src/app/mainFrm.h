@@ -16,6 +16,9 @@ enum Tab { reportTab = 0, layoutTab = 1, previewTab = 2 };
 
 enum PrintMode { printReport = 1, printLayout = 2, printMultipleLayouts = 3 };
 
+// Where the list on view stands when it is shown anew.
+enum class ListScroll { ToCurrent, Stay, ToTop };
+
 // The status bar's panels, by their numbers.
 enum Panel { recordsPanel = 1, datePanel, calculationPanel, fileSizePanel, documentPanel, stylePanel };
 
@@ -53,6 +56,9 @@ struct MainFrm {
     core::RecordsList* theListView; // the list that commands work on
     std::vector<int> selectedRows;  // 1-based; filled by collectSelected
     bool bCtrlDown = false;
+    // What the list on view does when it is shown next; the view takes both back.
+    ListScroll listScroll = ListScroll::ToCurrent;
+    bool bListFocus = false; // it takes the keys
     int iPrintMode = printReport;
     int iFieldFocus = 0;     // Index of the layout field that last had the focus
     bool bCalcError = false; // a calculation has failed; a recalculation of all rows reads and clears it

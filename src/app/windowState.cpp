@@ -1,5 +1,7 @@
 #include "app/windowState.h"
 
+#include "core/objectRef.h"
+
 #include <filesystem>
 #include <system_error>
 
@@ -59,17 +61,32 @@ void showCaption(App& app) {
 
 void enableTabButtons(App& app) {
     const bool onReport = app.mainFrm.SSTab1 == reportTab;
-    for (const std::string_view key : {"Totals", "Properties", "Delete"})
-        app.mainFrm.control(key).Enabled = onReport;
+    for (const std::string_view key : {"Totals", "Properties"}) app.mainFrm.control(key).Enabled = onReport;
+    // What is found is not deleted in its list.
+    app.mainFrm.control("Delete").Enabled = onReport && !app.document.searchLV.Visible;
 }
 
 void showReportTab(App& app) {
-    if (app.mainFrm.SSTab1 == reportTab) return;
-    app.mainFrm.SSTab1 = reportTab;
-    app.mainFrm.iPrintMode = printReport;
-    app.mainFrm.theListView->MultiSelect = true;
-    app.mainFrm.invoiceFrameVisible = app.document.bInvoiceStyle;
-    enableTabButtons(app);
+    if (app.mainFrm.SSTab1 != reportTab) {
+        app.mainFrm.SSTab1 = reportTab;
+        app.mainFrm.iPrintMode = printReport;
+        app.mainFrm.theListView->MultiSelect = true;
+        app.mainFrm.invoiceFrameVisible = app.document.bInvoiceStyle;
+        enableTabButtons(app);
+    }
+    allowManySelected(app);
+}
+
+void allowManySelected(App& app) {
+    if (app.mainFrm.SSTab1 == reportTab) app.document.LV.MultiSelect = true;
+}
+
+void forgetLostObject(App& app) {
+    LayoutPage& page = app.mainFrm.layoutPage;
+    if (!page.selectedObject.isObject() || findObject(app.document.layout, page.selectedObject) != nullptr)
+        return;
+    page.selectedObject = {};
+    page.Handle.Visible = false;
 }
 
 } // namespace app

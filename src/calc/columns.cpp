@@ -93,8 +93,9 @@ void renameColumn(Document& document, const std::string& oldName, const std::str
     // The column table refuses a name that is there in another case, so it goes first.
     document.LV.columns.rename(document.LV.columns[oldName].Index, newName);
     renameInFormulas(document, oldName, newName);
-    renameInCollection(document.printedCols, oldName, newName);
-    renameInCollection(document.totaledCols, oldName, newName);
+    for (core::NamedCollection* names :
+         {&document.printedCols, &document.prnInvoiceCols, &document.prnItemCols, &document.totaledCols})
+        renameInCollection(*names, oldName, newName);
 }
 
 void removeColumn(Document& document, const std::string& name) {

@@ -1,6 +1,7 @@
 #include "calc/designFrm.h"
 
 #include "app/invoiceRoutines.h"
+#include "app/windowState.h"
 #include "calc/columns.h"
 #include "core/number.h"
 #include "core/runTimeError.h"
@@ -143,6 +144,7 @@ void designFrm::deleteBtn_Click() {
     const std::string name = List1[static_cast<std::size_t>(selectedRow)].Name;
     if (name.empty() || !confirmRemoval(name)) return;
     removeColumn(app_.document, name);
+    app::forgetLostObject(app_); // it may have been a field of the column
     fieldTxt.clear();
     List1.erase(List1.begin() + selectedRow);
     selectedRow = std::min(selectedRow, static_cast<int>(List1.size()) - 1);

@@ -21,13 +21,17 @@ void serialFrm::List1_Click(int entry) {
 
 void serialFrm::setBtn_Click() {
     Text1 = std::string(core::trim(Text1));
+    const std::optional<double> number = core::toDouble(Text1);
     if (!core::isNumeric(Text1)) {
         app::inform(app_, "You entered a non numeric value.");
         return;
     }
     core::Item* serial = selectedSerial();
     if (serial == nullptr) return;
+    // A counter is read up to the first comma or sign of money, so it is stored without.
+    if (number && *number != core::val(Text1)) Text1 = core::numberText(*number);
     serial->subItem(1) = Text1;
+    app::setDocumentModified(app_, true);
     app_.platform.msgBox(serial->Text.str() + "'s value has been set to " + Text1, platform::Icon::None,
                          app::title);
     text1HasFocus = true;

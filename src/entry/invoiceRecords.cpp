@@ -170,8 +170,16 @@ bool deleteInvoices(App& app) {
         gone.insert(row.Text.str());
         row.Selected = false;
     });
+    const Item* row = document.iLV.selectedItem();
+    const Item* next = row == nullptr ? nullptr : nextThatStays(document.iLV, *row, [&](const Item& item) {
+        return gone.contains(item.Text.view());
+    });
     document.LV.removeIf(
         [&](const Item& record) { return !record.isTotals() && gone.contains(record.Key.view()); });
+    if (!gone.empty()) {
+        document.LV.clearSelection();
+        document.LV.setSelectedItem(next == nullptr ? nullptr : document.LV.find(next->Text));
+    }
     app::setDocumentModified(app, true);
     invoice::refreshRows(app);
     if (document.LV.count() >= 3) {

@@ -44,12 +44,12 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
             [this](int section, int, int newSize) { columnResized(section, newSize); });
 }
 
-void RecordsView::refresh() {
+void RecordsView::refresh(app::ListScroll scroll) {
     const QScopedValueRollback guard(showing_, true);
+    const int offset = horizontalScrollBar()->value();
+    const int top = verticalScrollBar()->value();
     setSelectionMode(list_.MultiSelect ? ExtendedSelection : SingleSelection);
     if (model_->isStale()) {
-        const int offset = horizontalScrollBar()->value();
-        const int top = verticalScrollBar()->value();
         model_->reload();
         showColumns();
         executeDelayedItemsLayout();
@@ -61,6 +61,9 @@ void RecordsView::refresh() {
         showSelection();
         viewport()->update();
     }
+    // To choose the current row has scrolled to it.
+    if (scroll == app::ListScroll::Stay) verticalScrollBar()->setValue(top);
+    if (scroll == app::ListScroll::ToTop) scrollToTop();
     showSortArrow();
 }
 
@@ -212,11 +215,7 @@ void RecordsView::mouseReleaseEvent(QMouseEvent* event) {
     if (!pressed_ || event->button() != Qt::LeftButton) return;
     pressed_ = false;
     events_.run([&] {
-        // The key may have gone down or up while another window had the keyboard.
-        if (event->modifiers().testFlag(Qt::ControlModifier))
-            shell::list_KeyDown(app_, shell::ctrlKey);
-        else
-            shell::list_KeyUp(app_);
+        followCtrl(event->modifiers().testFlag(Qt::ControlModifier));
         shell::list_Click(app_, list_);
     });
 }
@@ -227,8 +226,16 @@ void RecordsView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) events_.run([&] { shell::list_DblClick(app_, list_); });
 }
 
+// The key may go down or up while another window has the keyboard, so every event says anew how it is.
+void RecordsView::followCtrl(bool isDown) {
+    if (isDown)
+        shell::list_KeyDown(app_, shell::ctrlKey);
+    else
+        shell::list_KeyUp(app_);
+}
+
 void RecordsView::keyPressEvent(QKeyEvent* event) {
-    shell::list_KeyDown(app_, event->key() == Qt::Key_Control ? shell::ctrlKey : event->key());
+    followCtrl(event->key() == Qt::Key_Control || event->modifiers().testFlag(Qt::ControlModifier));
     // Enter is the keyboard's double click.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         events_.run([&] { shell::list_DblClick(app_, list_); });
@@ -239,8 +246,13 @@ void RecordsView::keyPressEvent(QKeyEvent* event) {
 }
 
 void RecordsView::keyReleaseEvent(QKeyEvent* event) {
-    shell::list_KeyUp(app_);
+    followCtrl(event->key() != Qt::Key_Control && event->modifiers().testFlag(Qt::ControlModifier));
     QTreeView::keyReleaseEvent(event);
+}
+
+void RecordsView::focusOutEvent(QFocusEvent* event) {
+    followCtrl(false);
+    QTreeView::focusOutEvent(event);
 }
 
 } // namespace gui

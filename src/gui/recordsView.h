@@ -20,11 +20,12 @@ class RecordsView : public QTreeView {
 public:
     RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent = nullptr);
 
-    void refresh();
+    void refresh(app::ListScroll scroll);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -37,6 +38,7 @@ private:
         bool operator==(const Rows&) const = default;
     };
 
+    void followCtrl(bool isDown);
     void showColumns();
     void showSortArrow();
     void showSelection();

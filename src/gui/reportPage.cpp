@@ -8,6 +8,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace gui {
 
 ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
@@ -75,9 +77,10 @@ void ReportPage::refresh() {
         const bool another = currentWidget() != records_ || shownList_->currentWidget() != lists_[i];
         shownList_->setCurrentWidget(lists_[i]);
         setCurrentWidget(records_);
-        lists_[i]->refresh();
+        lists_[i]->refresh(std::exchange(app_.mainFrm.listScroll, app::ListScroll::ToCurrent));
         // The keys go to the records as soon as they are there.
-        if (another) lists_[i]->setFocus();
+        const bool opened = std::exchange(app_.mainFrm.bListFocus, false);
+        if (another || opened) lists_[i]->setFocus();
     }
     sums_->refresh();
 }

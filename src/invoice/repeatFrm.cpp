@@ -1,5 +1,6 @@
 #include "invoice/repeatFrm.h"
 
+#include "app/windowState.h"
 #include "core/number.h"
 #include "core/objectRef.h"
 
@@ -59,6 +60,7 @@ void repeatFrm::OKButton_Click() {
         return;
     }
     repeatItemRows(app_, core::toInt16(rows), cColumns_);
+    app::setDocumentModified(app_, true);
     unloaded = true;
 }
 
@@ -75,6 +77,7 @@ bool repeatFrm::hasRoomFor(double rows) const {
 void repeatItemRows(App& app, int iItems, const std::vector<std::string>& cColumns) {
     core::LayoutObjects& layout = app.document.layout;
     for (const std::string& name : cColumns) unloadFieldsOf(layout, name);
+    app::forgetLostObject(app); // before another field takes the number of the one that was selected
     float top = firstTop;
     for (int row = 1; row <= iItems; ++row) {
         float left = firstLeft;

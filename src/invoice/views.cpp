@@ -105,6 +105,12 @@ bool isItemColumn(const Document& document, std::string_view name) {
     return fields > 1;
 }
 
+void choosePrintedCols(Document& document) {
+    document.printedCols.clear();
+    for (const auto& column : document.bInvoiceView ? document.prnItemCols : document.prnInvoiceCols)
+        document.printedCols.add(column.item, column.item);
+}
+
 void BuildInvoicesView(app::App& app) {
     Document& document = app.document;
     RecordsList& view = document.iLV;

@@ -27,6 +27,9 @@ private:
 void BuildItemsView(app::App& app);
 void BuildInvoicesView(app::App& app);
 
+// The report's columns are those that have been chosen for the view on show.
+void choosePrintedCols(core::Document& document);
+
 // The view on show after a record has been written: its columns stay as the user has sized and dragged
 // them, and the row of the selected record is selected.
 void refreshRows(app::App& app);

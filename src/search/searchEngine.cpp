@@ -21,6 +21,7 @@ void showEmptyResults(App& app) {
     results.Visible = true;
     results.clear();
     app.mainFrm.theListView = &results;
+    app.mainFrm.listScroll = app::ListScroll::ToTop;
     core::addTotalsRow(results);
 }
 

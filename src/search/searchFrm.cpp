@@ -1,5 +1,6 @@
 #include "search/searchFrm.h"
 
+#include "calc/selectedTotals.h"
 #include "core/dates.h"
 #include "core/text.h"
 #include "search/searchMode.h"
@@ -112,6 +113,7 @@ void searchFrm::Form_QueryUnload() {
 void searchFrm::Form_Unload() {
     if (!app_.document.searchLV.Visible && app_.mainFrm.SSTab1 == app::reportTab)
         app_.mainFrm.control("Delete").Enabled = true;
+    calc::RefreshSelectedTotals(app_);
     unloaded = true;
 }
 

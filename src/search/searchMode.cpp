@@ -1,19 +1,39 @@
 #include "search/searchMode.h"
 
+#include "app/layoutRoutines.h"
+#include "app/windowState.h"
 #include "calc/selectedTotals.h"
+#include "core/totalsRow.h"
 #include "search/searchEngine.h"
 
+#include <algorithm>
+#include <unordered_map>
 #include <vector>
 
 namespace search {
 
 using app::App;
 using core::Column;
+using core::Item;
+using core::RecordsList;
 
 namespace {
 
 bool hasColumns(const App& app) {
     return app.document.LV.columns.count() > 1;
+}
+
+// What a result has in its Tag.
+std::string keyOf(const core::Document& document, const Item& row) {
+    return (document.bInvoiceStyle ? row.Text : row.Key).str();
+}
+
+// But for what is calculated.
+bool isTheSame(const core::ColumnHeaders& columns, const Item& result, const Item& row) {
+    return result.cells.size() == row.cells.size() && std::ranges::all_of(columns, [&](const Column& column) {
+               return column.Index == 1 || column.isType(core::ColumnType::Calculation) ||
+                      RecordsList::cell(result, column) == RecordsList::cell(row, column);
+           });
 }
 
 void openDialog(App& app) {
@@ -67,8 +87,33 @@ void takeOverColumns(App& app) {
 void showAllRecords(App& app) {
     app.document.searchLV.Visible = false;
     app.mainFrm.theListView = &app.document.LV;
+    app.mainFrm.listScroll = app::ListScroll::ToCurrent;
+    app::allowManySelected(app); // the layout page may have taken it from the records in the meantime
     app.mainFrm.control("Formulas").Enabled = true;
     app::showRecordCount(app, app.document.LV);
+}
+
+void refreshResults(App& app) {
+    core::Document& document = app.document;
+    RecordsList& results = document.searchLV;
+    if (!results.Visible || results.empty()) return;
+    std::unordered_map<std::string, std::vector<const Item*>> rows;
+    sourceList(document).forEach([&](const Item& row) { rows[keyOf(document, row)].push_back(&row); });
+    core::resetTotalsRow(results);
+    const core::TotalsRowUpdater totals(document, results);
+    results.forEach([&](Item& result) {
+        if (result.isTotals()) return;
+        std::vector<const Item*>& sources = rows[result.Tag.str()];
+        // An invoice can have several item rows, of which some were found.
+        const auto source = std::ranges::find_if(
+            sources, [&](const Item* row) { return isTheSame(results.columns, result, *row); });
+        if (source != sources.end()) {
+            result.cells = (*source)->cells;
+            sources.erase(source);
+        }
+        totals.update(core::TotalsMode::Add, result);
+    });
+    app::refreshShownRecord(app);
 }
 
 } // namespace search

@@ -17,4 +17,7 @@ void takeOverColumns(app::App& app);
 // Puts the records back in place of the results.
 void showAllRecords(app::App& app);
 
+// The results on show, and their sums, take over what has been calculated anew in the records.
+void refreshResults(app::App& app);
+
 } // namespace search

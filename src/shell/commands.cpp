@@ -1,6 +1,7 @@
 #include "shell/commands.h"
 
 #include "app/commandRoutines.h"
+#include "app/windowState.h"
 #include "core/runTimeError.h"
 #include "entry/editRecord.h"
 #include "lock/designLock.h"
@@ -35,9 +36,13 @@ std::function<void(App&)> showing(const char* form) {
     return [=](App& app) { app.platform.showForm(form); };
 }
 
+void press(App& app, std::string_view key) {
+    if (isCommandEnabled(app, key)) command(key).run(app);
+}
+
 // A menu item that stands for a button.
 std::function<void(App&)> pressing(const char* button) {
-    return [=](App& app) { runCommand(app, button); };
+    return [=](App& app) { press(app, button); };
 }
 
 std::function<void(App&)> printing(const char* key) {
@@ -109,8 +114,8 @@ std::vector<Command> menuCommands() {
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
-        {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, pressTotals},
-        {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, pressing("Formulas")},
+        {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
+        {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, showExpressionEditor},
         {"mnuDatabaseProperties", "Database &Properties", "", "properties", false, showDatabaseProperties},
         {"mnuTotalColumns", "Choose Columns To Total", "", "totalColumns", false, showing("TotalsFrm")},
         {"mnuSerialAdjust", "&Adjust Serial Number Increment", "", "serial", false, showing("serialFrm")},
@@ -168,14 +173,13 @@ bool hasCommand(std::string_view key) {
 
 bool isCommandEnabled(const App& app, std::string_view key) {
     if (!command(key).run) return false;
-    // This item does what the button does, and nothing where the button is disabled.
-    if (key == "mnuSelectedTotals" && !isControlEnabled(app, "Totals")) return false;
     const std::string_view menu = menuOf(key);
     return isControlEnabled(app, key) && (menu.empty() || isControlEnabled(app, menu));
 }
 
 void runCommand(App& app, std::string_view key) {
-    if (isCommandEnabled(app, key)) command(key).run(app);
+    press(app, key);
+    app::allowManySelected(app);
 }
 
 std::span<const std::string_view> toolbarKeys() {
@@ -243,6 +247,7 @@ std::span<const Menu> menuBar() {
 
 } // namespace shell
 
+// The form goes on with one record at a time.
 void app::Toolbar_ButtonClick(App& app, std::string_view key) {
-    shell::runCommand(app, key);
+    shell::press(app, key);
 }

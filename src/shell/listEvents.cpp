@@ -68,6 +68,7 @@ void list_ColumnClick(App& app, RecordsList& list, int columnIndex) {
     else
         core::sortByHiddenColumn(list, column);
     core::moveTotals(list);
+    app.mainFrm.listScroll = app::ListScroll::Stay; // though the last record is the current one now
 }
 
 void list_DblClick(App& app, RecordsList& list) {
@@ -79,6 +80,7 @@ void list_DblClick(App& app, RecordsList& list) {
         SSTab1_Click(app, app::layoutTab);
     else
         showEntryForm(app);
+    app::allowManySelected(app);
 }
 
 void list_KeyDown(App& app, int keyCode) {
@@ -91,7 +93,8 @@ void list_KeyUp(App& app) {
 
 RecordsList& visibleList(App& app) {
     if (app.document.searchLV.Visible) return app.document.searchLV;
-    return app.document.bInvoiceStyle ? app.document.iLV : app.document.LV;
+    // Not by the style: a new database that is cancelled half-way has chosen one for the records on view.
+    return app.document.iLV.Visible ? app.document.iLV : app.document.LV;
 }
 
 } // namespace shell

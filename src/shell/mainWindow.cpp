@@ -2,6 +2,7 @@
 
 #include "app/invoiceRoutines.h"
 #include "app/printRoutines.h"
+#include "invoice/views.h"
 #include "layout/sheet.h"
 #include "print/previewNavigation.h"
 #include "print/printerCheck.h"
@@ -115,9 +116,7 @@ void viewOpt_Click(App& app, int index) {
     if (document.searchLV.Visible) search::showAllRecords(app);
     app::rebuildInvoiceView(app);
     app::enableControls(app, true);
-    document.printedCols.clear();
-    for (const auto& column : items ? document.prnItemCols : document.prnInvoiceCols)
-        document.printedCols.add(column.item, column.item);
+    invoice::choosePrintedCols(document);
 }
 
 } // namespace shell

@@ -35,8 +35,10 @@ void toggleSelectedTotals(App& app) {
     app.document.LV3.Visible = button.Value;
 }
 
-void pressTotals(App& app) {
-    if (app.mainFrm.control("Totals").Enabled) toggleSelectedTotals(app);
+// The button is disabled while search results are shown, the menu item is not.
+void showExpressionEditor(App& app) {
+    app.platform.showForm("formulateFrm");
+    search::refreshResults(app);
 }
 
 void showProperties(App& app) {

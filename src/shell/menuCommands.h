@@ -17,8 +17,8 @@ void openRecentFile(app::App& app, std::string_view key);
 
 // The button "Totals" has been pressed or released.
 void toggleSelectedTotals(app::App& app);
-// The menu item presses the button.
-void pressTotals(app::App& app);
+// The Tools menu's way to the expressions.
+void showExpressionEditor(app::App& app);
 
 // The button "Properties". The menu item goes to the dialog without asking for the lock: it is wanted so.
 void showProperties(app::App& app);

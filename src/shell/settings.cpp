@@ -15,7 +15,7 @@ struct Toggle {
 
 constexpr Toggle toggles[] = {
     {"ConfirmDelete", true, &app::MainFrm::bConfirmDelete, "mnuConfirmDelete"},
-    {"SnapToGrid", true, &app::MainFrm::bSnapToGrid, "Snap"},
+    {"SnapToGrid", true, &app::MainFrm::bSnapToGrid, "layoutToolbar.Snap"},
     {"AutoLoad", false, &app::MainFrm::bAutoLoad, "mnuAutoLoad"},
     {"Disclaimer", false, &app::MainFrm::bDisclaimerSeen, ""},
     {"LayoutDBLClick", false, &app::MainFrm::bLayoutDblClick, "mnuLayoutDoubleClick"},

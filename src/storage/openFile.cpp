@@ -4,6 +4,7 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "invoice/views.h"
 #include "layout/images.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
@@ -42,9 +43,6 @@ void showInvoiceLists(App& app) {
     Document& document = app.document;
     document.iLV.Visible = document.bInvoiceStyle;
     if (!document.bInvoiceStyle) return;
-    document.printedCols.clear();
-    for (const auto& column : document.bInvoiceView ? document.prnItemCols : document.prnInvoiceCols)
-        document.printedCols.add(column.item, column.item);
     app.mainFrm.viewOpt = document.bInvoiceView ? 0 : 1;
     if (!document.iLV.empty()) calc::list_Click(app, document.iLV);
 }
@@ -94,6 +92,7 @@ void showOpened(App& app, bool StartUp) {
     alignFields(document);
     rememberFile(app, StartUp);
     mainFrm.theListView = &document.LV;
+    mainFrm.bListFocus = true;
 }
 
 void takeOver(App& app, const std::string& path) {
@@ -107,6 +106,8 @@ void takeOver(App& app, const std::string& path) {
     app.mainFrm.control("Search").Value = false;
     app.mainFrm.theListView = &app.document.LV;
     app.mainFrm.selectedRows.clear();
+    app.mainFrm.bCtrlDown = false; // held for the shortcut perhaps; no row is clicked with it
+    app.mainFrm.listScroll = app::ListScroll::ToCurrent;
 }
 
 } // namespace
@@ -127,6 +128,7 @@ void readArchive(App& app, const std::string& path) {
     if (app.platform.keepsDataFile()) writeWorkFile(app.platform.workFolder() / "data.dat", *text);
     readDataFile(*std::move(text), document);
     if (document.LV.empty()) core::addTotalsRow(document.LV);
+    if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
     app::rebuildInvoiceView(app);
 }
 

@@ -50,7 +50,7 @@ struct Settings {
 
 constexpr Settings booleans[] = {
     {"ConfirmDelete", true, &app::MainFrm::bConfirmDelete, "mnuConfirmDelete"},
-    {"SnapToGrid", true, &app::MainFrm::bSnapToGrid, "Snap"},
+    {"SnapToGrid", true, &app::MainFrm::bSnapToGrid, "layoutToolbar.Snap"},
     {"AutoLoad", false, &app::MainFrm::bAutoLoad, "mnuAutoLoad"},
     {"LayoutDBLClick", false, &app::MainFrm::bLayoutDblClick, "mnuLayoutDoubleClick"},
     {"HighlightCalc", false, &app::MainFrm::bHighlightCalc, "mnuCalcHighlight"},
