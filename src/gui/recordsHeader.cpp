@@ -16,6 +16,7 @@ RecordsHeader::RecordsHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
     setStretchLastSection(false);
     setHighlightSections(false);
     setMinimumSectionSize(narrowestColumn);
+    setResizeContentsPrecision(-1); // a double click on a divider counts the rows out of sight too
 }
 
 // The styles that come with Qt clip a name in the middle of a letter, and one at the right edge loses
