@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "core/totalsRow.h"
 #include "entry/editRecord.h"
+#include "entry/shownRecord.h"
 #include "invoice/calculation.h"
 #include "invoice/records.h"
 #include "invoice/views.h"
@@ -48,14 +49,6 @@ std::string singleCell(const Column& column, const std::string& text) {
 // An empty box of an item row leaves an empty slot.
 std::string itemValue(const Column& column, const std::string& text) {
     return text.empty() ? std::string() : filledCell(column, text);
-}
-
-Item* invoiceToUpdate(App& app) {
-    Document& document = app.document;
-    if (app.mainFrm.theListView != &document.searchLV) return document.LV.selectedItem();
-    const Item* result = document.searchLV.selectedItem();
-    if (result == nullptr) return document.LV.selectedItem(); // a new one, which was not searched for
-    return document.LV.find(result->Key.empty() ? result->Text : result->Key);
 }
 
 void writeCells(App& app, Item& record, bool bUpdate) {
@@ -108,7 +101,7 @@ void refreshResults(App& app) {
 void editInvoiceRecord(App& app, bool bUpdate) {
     RecordsList& records = app.document.LV;
     records.MultiSelect = false;
-    Item* record = bUpdate ? invoiceToUpdate(app) : &invoice::addInvoiceRecord(app);
+    Item* record = bUpdate ? recordOfRow(app) : &invoice::addInvoiceRecord(app);
     if (record == nullptr || record->isTotals()) return;
     if (bUpdate)
         core::UpdateTotalsRow(app.document, core::TotalsMode::Subtract, records, records.indexOf(*record));

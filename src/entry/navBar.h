@@ -17,6 +17,9 @@ struct NavButton {
 std::span<const NavButton> navButtons(); // in their order
 bool isNavButtonEnabled(const app::App& app, std::string_view key);
 
+// A record that is being typed and is not stored yet is on the sheet.
+bool isSheetNew(const app::App& app);
+
 void layoutNavBar_ButtonClick(app::App& app, std::string_view key);
 void Slider1_Change(app::App& app, int value);
 

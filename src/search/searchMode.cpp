@@ -1,5 +1,6 @@
 #include "search/searchMode.h"
 
+#include "app/layoutRoutines.h"
 #include "calc/selectedTotals.h"
 #include "search/searchEngine.h"
 
@@ -69,6 +70,7 @@ void showAllRecords(App& app) {
     app.mainFrm.theListView = &app.document.LV;
     app.mainFrm.control("Formulas").Enabled = true;
     app::showRecordCount(app, app.document.LV);
+    app::refreshShownRecord(app);
 }
 
 } // namespace search

@@ -1,5 +1,6 @@
 #include "shell/listEvents.h"
 
+#include "app/layoutRoutines.h"
 #include "shell/mainWindow.h"
 
 #include <algorithm>
@@ -68,6 +69,7 @@ void list_ColumnClick(App& app, RecordsList& list, int columnIndex) {
     else
         core::sortByHiddenColumn(list, column);
     core::moveTotals(list);
+    app::refreshShownRecord(app);
 }
 
 void list_DblClick(App& app, RecordsList& list) {
