@@ -3,6 +3,9 @@
 #include "app/app.h"
 #include "dataFile.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <map>
 #include <optional>
 #include <random>
 #include <vector>
@@ -20,12 +23,7 @@ inline DataFile numberedRecords(bool invoices) {
         return "F|" + std::string(name) + "|" + std::to_string(left) + "|" + std::to_string(top) +
                "|1200|285|False|False|False|Arial|8|0|\r\n";
     };
-    DataFile file(invoices ? std::initializer_list<std::pair<const char*, int>>{{"No", 4},
-                                                                                {"Name", 3},
-                                                                                {"Qty", 4},
-                                                                                {"Sum", 5}}
-                           : std::initializer_list<std::pair<const char*, int>>{
-                                 {"No", 4}, {"Name", 3}, {"Qty", 4}, {"Sum", 5}});
+    DataFile file({{"No", 4}, {"Name", 3}, {"Qty", 4}, {"Sum", 5}});
     file.layout =
         field("No", 200, 200) + field("Name", 200, 600) + field("Sum", 200, 1000) + field("Qty", 200, 1400);
     if (invoices) file.layout += field("Qty", 200, 1685);
