@@ -2,6 +2,7 @@
 
 #include "core/controlArray.h"
 #include "core/objectRef.h"
+#include "core/recordsList.h"
 
 #include <optional>
 #include <string>
@@ -58,6 +59,11 @@ struct LayoutPage {
         bool Visible = false;
         bool bLocked = false; // red in place of black
     } Handle;
+
+    // The record that the sheet shows: the list that it was read from, and its key in LV. Empty when it shows
+    // none, or a new one that is not stored yet.
+    const core::RecordsList* shownList = nullptr;
+    std::string shownKey;
 
     bool layoutToolbarInFront = false; // otherwise layoutNavBar is
     std::vector<std::string> fieldMenu, pictureMenu;

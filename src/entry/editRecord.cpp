@@ -6,6 +6,7 @@
 #include "core/runTimeError.h"
 #include "core/totalsRow.h"
 #include "entry/invoiceRecords.h"
+#include "entry/shownRecord.h"
 
 #include <limits>
 
@@ -30,13 +31,6 @@ void showCount(App& app) {
     if (records.count() < 3) return;
     app::showRecordCount(app, records);
     app.mainFrm.Slider1.Max = records.count() - 1;
-}
-
-Item* recordToUpdate(App& app) {
-    RecordsList& records = app.document.LV;
-    if (!worksOnResults(app)) return records.selectedItem();
-    const Item* result = app.document.searchLV.selectedItem();
-    return result == nullptr ? nullptr : records.find(result->Key);
 }
 
 // A name that is no column is found out before anything is written, so that the document stays whole.
@@ -88,7 +82,7 @@ Item* EditRecord(App& app, bool bUpdate, const std::vector<BoxText>& theFields,
     Item* record = nullptr;
     if (bUpdate) {
         records.MultiSelect = false; // and so it stays when there is nothing to write to
-        record = recordToUpdate(app);
+        record = recordOfRow(app);
         if (record == nullptr || record->isTotals()) return nullptr;
     }
     checkColumns(records, theFields);
@@ -195,7 +189,7 @@ void duplicateRecord(App& app, Item& source, int copies) {
 }
 
 void mnuDuplicate_Click(App& app) {
-    Item* source = recordToUpdate(app);
+    Item* source = recordOfRow(app);
     if (source == nullptr || source->isTotals()) {
         app::inform(app, "You cannot duplicate the totals row.");
         return;

@@ -5,6 +5,7 @@
 #include "entry/invoiceRecords.h"
 #include "entry/masks.h"
 #include "entry/retrieveData.h"
+#include "entry/shownRecord.h"
 #include "layout/sheet.h"
 
 namespace entry {
@@ -29,7 +30,8 @@ const Column* columnOf(const App& app, const LayoutField* field) {
 void layoutField_GotFocus(App& app, int index) {
     if (!isBrowsing(app)) return;
     app.mainFrm.iFieldFocus = index;
-    if (!app.document.bInvoiceStyle) return;
+    // The focus can come back to a field before the page shows its record: what stands there is an older one.
+    if (!app.document.bInvoiceStyle || recordOnSheet(app) == nullptr) return;
     // Each arrival in a single or a calculated field stores the whole sheet and works it out: this is how the
     // sums of an invoice keep up with typing.
     const LayoutField* field = app.document.layout.layoutField.find(index);

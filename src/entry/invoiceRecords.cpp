@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "core/totalsRow.h"
 #include "entry/editRecord.h"
+#include "entry/shownRecord.h"
 #include "invoice/calculation.h"
 #include "invoice/records.h"
 #include "invoice/views.h"
@@ -37,14 +38,6 @@ std::string withCents(const std::string& text) {
 std::string filledCell(const Column& column, const std::string& text) {
     return column.isType(ColumnType::Currency) ? core::format(withCents(text), core::Mask::InvoiceMoney)
                                                : text;
-}
-
-Item* invoiceToUpdate(App& app) {
-    Document& document = app.document;
-    if (app.mainFrm.theListView != &document.searchLV) return document.LV.selectedItem();
-    const Item* result = document.searchLV.selectedItem();
-    if (result == nullptr) return document.LV.selectedItem(); // a new one, which was not searched for
-    return document.LV.find(result->Key.empty() ? result->Text : result->Key);
 }
 
 void writeCells(App& app, Item& record, bool bUpdate, const ColumnNames* only) {
@@ -109,7 +102,7 @@ std::string itemValue(const Column& column, const std::string& text) {
 void editInvoiceRecord(App& app, bool bUpdate, const ColumnNames* only) {
     RecordsList& records = app.document.LV;
     records.MultiSelect = false;
-    Item* record = bUpdate ? invoiceToUpdate(app) : &invoice::addInvoiceRecord(app);
+    Item* record = bUpdate ? recordOfRow(app) : &invoice::addInvoiceRecord(app);
     if (record == nullptr || record->isTotals()) return;
     if (bUpdate)
         core::UpdateTotalsRow(app.document, core::TotalsMode::Subtract, records, records.indexOf(*record));

@@ -6,6 +6,8 @@
 #include "entry/editRecord.h"
 #include "entry/fieldEvents.h"
 #include "entry/invoiceRecords.h"
+#include "entry/retrieveData.h"
+#include "entry/shownRecord.h"
 #include "invoice/records.h"
 #include "layout/images.h"
 
@@ -69,18 +71,12 @@ void goLast(App& app) {
     app::showRecord(app);
 }
 
-void clearPictures(App& app) {
-    app.document.layout.imgHolder.forEach([](core::ImgHolder& holder) {
-        holder.viewImage.path.clear();
-        holder.ToolTipText.clear();
-    });
-}
-
 void newRecord(App& app) {
     app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
     Document& document = app.document;
+    clearSheet(app);
     proposeValues(app);
-    clearPictures(app);
+    unbindSheet(app);
     if (!document.bInvoiceStyle) {
         app.mainFrm.control("layoutNavBar.New").Value = true; // until a record is shown
         return;
@@ -91,13 +87,16 @@ void newRecord(App& app) {
         document.searchLV.clearSelection();
         document.searchLV.setSelectedItem(nullptr);
     }
+    bindSheet(app);
     app.mainFrm.layoutPage.layoutPic2.Visible = true;
 }
 
-bool isTotalsRowSelected(App& app) {
-    const RecordsList& list = *app.mainFrm.theListView;
-    const Item* item = list.selectedItem();
-    return item == nullptr || item->isTotals();
+// The record that is meant by a button. A sheet of a new record has none yet, though there is a current one:
+// the button would change or delete what nobody sees.
+Item* recordMeant(App& app) {
+    if (isSheetNew(app))
+        app::inform(app, "This record is new.  To store it please click on the Add toolbar button.");
+    return recordOnSheet(app);
 }
 
 // A damaged file can have objects of a column that is not there.
@@ -125,7 +124,6 @@ std::optional<std::vector<BoxText>> pictureTexts(App& app) {
 }
 
 bool writeSheet(App& app, bool bUpdate) {
-    if (bUpdate && isTotalsRowSelected(app)) return true;
     // The field that is being typed in has kept the focus; it gets its check and format all the same.
     if (app.mainFrm.iFieldFocus != 0) layoutField_LostFocus(app, app.mainFrm.iFieldFocus);
     std::vector<BoxText> fields;
@@ -140,6 +138,7 @@ bool writeSheet(App& app, bool bUpdate) {
 
 void addSheet(App& app) {
     if (app.document.bInvoiceStyle) {
+        if (recordOnSheet(app) == nullptr) return;
         editInvoiceRecord(app, true);
         app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
         return;
@@ -148,6 +147,7 @@ void addSheet(App& app) {
 }
 
 void updateSheet(App& app) {
+    if (recordMeant(app) == nullptr) return;
     if (app.document.bInvoiceStyle) {
         editInvoiceRecord(app, true);
         app::showRecord(app);
@@ -162,35 +162,23 @@ void selectBehindGone(RecordsList& list, int row) {
         list.setSelectedItem(&list.at(std::clamp(row, 1, list.count() - 1)));
 }
 
-// The record of a result that is on the sheet. False when it is gone already.
-bool selectAlone(RecordsList& records, std::string_view key) {
-    Item* record = records.find(key);
-    if (record == nullptr) return false;
-    records.MultiSelect = false;
-    records.setSelectedItem(record);
-    return true;
-}
-
 void deleteShown(App& app) {
+    Item* record = recordMeant(app);
+    if (record == nullptr) return;
     const int row = currentRow(app);
-    // The records behind an invoice list are never on view: those that were shown or printed on the way have
-    // stayed selected, and only the one on the sheet is meant.
-    if (app.document.bInvoiceStyle) {
-        app.document.LV.MultiSelect = false;
-        app.document.LV.setSelectedItem(app.document.LV.selectedItem());
-    }
+    // Others may be selected in the list, or have stayed so from being shown or printed.
+    app.document.LV.MultiSelect = false;
+    app.document.LV.setSelectedItem(record);
     RecordsList& results = app.document.searchLV;
     Item* result = results.Visible && !app.document.bInvoiceStyle ? results.selectedItem() : nullptr;
-    if (result != nullptr && !selectAlone(app.document.LV, result->Key)) return;
     if (!deleteRecords(app)) return;
     if (result != nullptr && !result->isTotals()) results.remove(*result);
     if (results.Visible && results.count() > 1)
         selectRow(app, std::clamp(row, 1, results.count() - 1));
     else
         selectBehindGone(app.document.LV, row);
-    app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
-    clearPictures(app);
-    app::showRecord(app);
+    clearSheet(app);
+    app::refreshShownRecord(app);
 }
 
 const std::map<std::string_view, std::function<void(App&)>>& routines() {

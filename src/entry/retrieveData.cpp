@@ -2,7 +2,9 @@
 
 #include "app/layoutRoutines.h"
 
+#include "app/windowState.h"
 #include "core/text.h"
+#include "entry/shownRecord.h"
 #include "invoice/records.h"
 #include "layout/images.h"
 
@@ -24,7 +26,12 @@ std::string shownText(const Column& column, std::string_view cell) {
 
 void retrieveFields(App& app) {
     app.mainFrm.control("layoutNavBar.New").Value = false;
+    bindSheet(app);
     if (app.document.bInvoiceStyle) {
+        // What is shown is LV's current record, which has to be the one of the row.
+        Item* record = recordOfRow(app);
+        if (record == nullptr) return;
+        if (record != app.document.LV.selectedItem()) app.document.LV.setSelectedItem(record);
         invoice::retrieveInvoiceRecord(app);
         return;
     }
@@ -53,10 +60,29 @@ void retrievePictures(App& app) {
     });
 }
 
+void clearSheet(App& app) {
+    app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
+    app.document.layout.imgHolder.forEach([](core::ImgHolder& holder) {
+        holder.viewImage.path.clear();
+        holder.ToolTipText.clear();
+    });
+}
+
 } // namespace entry
 
 void app::refreshShownRecord(App& app) {
-    if (app.mainFrm.SSTab1 == app::layoutTab) entry::retrieveFields(app);
+    if (app.mainFrm.SSTab1 != app::layoutTab) return;
+    if (app.mainFrm.control("Design").Value) {
+        entry::retrieveFields(app); // the pictures keep the frames they are designed in
+        return;
+    }
+    const core::Document& document = app.document;
+    if (document.bInvoiceStyle && document.searchLV.Visible && document.searchLV.count() < 2) {
+        app::showReportTab(app); // no invoice to show: the page is no place to stay, as it is none to go to
+        return;
+    }
+    if (entry::currentRecord(app) == nullptr) entry::clearSheet(app);
+    app::showRecord(app);
 }
 
 void app::showRecord(App& app) {

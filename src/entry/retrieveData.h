@@ -9,6 +9,9 @@ namespace entry {
 void retrieveFields(app::App& app);
 void retrievePictures(app::App& app);
 
+// Empties the fields and the picture boxes.
+void clearSheet(app::App& app);
+
 // The record on view, or nothing in a list of the Totals row alone.
 const core::Item* currentRecord(const app::App& app);
 

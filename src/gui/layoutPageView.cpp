@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QTabBar>
@@ -202,10 +203,16 @@ void LayoutPageView::refreshScrollBar(QScrollBar& bar, const app::LayoutPage::Sc
     bar.setValue(state.Value);
 }
 
-// Whoever comes by the mouse goes on with the sheet; the tabs keep the keys of whoever walks them.
 void LayoutPageView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (qobject_cast<QTabBar*>(QApplication::focusWidget()) == nullptr) sheet_->takeFocus();
+    arriving_ = true;
+}
+
+// The tabs would give the keys back to the field that had them, before the page shows another record.
+void LayoutPageView::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    QWidget* keyHolder = focusWidget();
+    if (!event->spontaneous() && keyHolder != nullptr) keyHolder->clearFocus();
 }
 
 void LayoutPageView::refresh() {
@@ -218,6 +225,10 @@ void LayoutPageView::refresh() {
     refreshScrollBar(*layoutHScroll_, page.layoutHScroll, static_cast<int>(page.viewportWidth));
     refreshScrollBar(*layoutVScroll_, page.layoutVScroll, static_cast<int>(page.viewportHeight));
     sheet_->refresh();
+    // Whoever comes by the mouse goes on with the sheet, once the record is there; the tabs keep the keys of
+    // whoever walks them.
+    if (std::exchange(arriving_, false) && qobject_cast<QTabBar*>(QApplication::focusWidget()) == nullptr)
+        sheet_->takeFocus();
 }
 
 } // namespace gui

@@ -26,6 +26,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     QWidget* makeNavBar();
@@ -51,6 +52,7 @@ private:
     QMenu* fieldMenu_ = nullptr;
     QMenu* pictureMenu_ = nullptr;
     bool refreshing_ = false;
+    bool arriving_ = false;  // the page has come to the front and not shown its record yet
     bool designing_ = false; // what is shown
 };
 

@@ -236,6 +236,8 @@ bool isRepeatedField(const core::LayoutObjects& layout, const LayoutField& field
 void unloadObjects(App& app) {
     app.document.layout.unloadAll();
     LayoutPage& page = app.mainFrm.layoutPage;
+    page.shownList = nullptr;
+    page.shownKey.clear();
     page.selectedObject = {};
     page.Handle.Visible = false;
     page.drag = LayoutPage::Drag::None;

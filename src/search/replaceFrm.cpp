@@ -1,5 +1,6 @@
 #include "search/replaceFrm.h"
 
+#include "app/layoutRoutines.h"
 #include "search/replaceWords.h"
 
 namespace search {
@@ -25,14 +26,19 @@ replaceFrm::replaceFrm(app::App& app) : app_(app) {
 }
 
 int replaceFrm::Command1_Click() {
-    return WordReplacer(Text1, Text2).replaceInList(app_.document.LV, [](int) { return true; });
+    return replaceIn([](int) { return true; });
 }
 
 int replaceFrm::Command3_Click() {
     // Entry 0 is the hidden column, which no sub-item belongs to.
-    return WordReplacer(Text1, Text2).replaceInList(app_.document.LV, [&](int subItem) {
-        return List1.at(static_cast<std::size_t>(subItem)).Selected;
-    });
+    return replaceIn([&](int subItem) { return List1.at(static_cast<std::size_t>(subItem)).Selected; });
+}
+
+int replaceFrm::replaceIn(const std::function<bool(int subItem)>& takesPart) {
+    const int changed = WordReplacer(Text1, Text2).replaceInList(app_.document.LV, takesPart);
+    // Or the next update of the sheet would put the old words back.
+    if (changed > 0) app::refreshShownRecord(app_);
+    return changed;
 }
 
 } // namespace search

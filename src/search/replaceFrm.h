@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,8 @@ public:
     void Command2_Click() { unloaded = true; }
 
 private:
+    int replaceIn(const std::function<bool(int subItem)>& takesPart);
+
     app::App& app_;
 };
 

@@ -1,5 +1,6 @@
 #include "search/searchEngine.h"
 
+#include "app/layoutRoutines.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
 
@@ -54,7 +55,9 @@ RecordsList& sourceList(Document& document) {
     return document.bInvoiceStyle ? document.iLV : document.LV;
 }
 
-void findRecords(App& app, const Groups& groups) {
+namespace {
+
+void fillResults(App& app, const Groups& groups) {
     const RecordsList& source = sourceList(app.document);
     RecordsList& results = app.document.searchLV;
     showEmptyResults(app);
@@ -69,6 +72,13 @@ void findRecords(App& app, const Groups& groups) {
     core::moveTotals(results);
     calc::list_Click(app, results);
     app::showRecordCount(app, results);
+}
+
+} // namespace
+
+void findRecords(App& app, const Groups& groups) {
+    fillResults(app, groups);
+    app::refreshShownRecord(app);
 }
 
 } // namespace search

@@ -91,6 +91,7 @@ void showAllRecords(App& app) {
     app::allowManySelected(app); // the layout page may have taken it from the records in the meantime
     app.mainFrm.control("Formulas").Enabled = true;
     app::showRecordCount(app, app.document.LV);
+    app::refreshShownRecord(app);
 }
 
 void refreshResults(App& app) {

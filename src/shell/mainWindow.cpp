@@ -41,7 +41,9 @@ bool selectInvoice(App& app) {
 
 void arriveAtLayout(App& app) {
     app.mainFrm.iPrintMode = app::printLayout;
-    app.mainFrm.theListView->MultiSelect = false;
+    RecordsList& list = *app.mainFrm.theListView;
+    list.MultiSelect = false;
+    list.setSelectedItem(list.selectedItem()); // one row stays selected: the one that is shown
     if (app.document.bInvoiceStyle && !selectInvoice(app)) {
         app::showReportTab(app);
         return;

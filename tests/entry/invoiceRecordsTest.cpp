@@ -1,4 +1,5 @@
 #include "entry/invoiceRecords.h"
+#include "app/layoutRoutines.h"
 #include "entry/fieldEvents.h"
 #include "invoiceFixture.h"
 
@@ -55,6 +56,8 @@ TEST_F(InvoiceRecords, TheSumsFollowOnArrivalInASingleOrACalculatedField) {
     formula("Subtotal", "Line");
     app.document.totaledCols.add("Subtotal", "Subtotal");
     core::Item& item = record({});
+    app.mainFrm.SSTab1 = app::layoutTab;
+    app::showRecord(app);
     type("Qty", {"2", "3"});
     type("Price", {"150", "200"});
     std::string subtotals; // behind each field, in the order of the sheet
