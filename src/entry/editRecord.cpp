@@ -194,7 +194,7 @@ void mnuDuplicate_Click(App& app) {
         app::inform(app, "You cannot duplicate the totals row.");
         return;
     }
-    const std::string answer = app.platform.inputBox("How many copies?", "Duplicate Record", "");
+    const std::string answer = app.platform.inputBox("How many copies?", "Duplicate Record", "1");
     try {
         duplicateRecord(app, *source, core::toInt16(core::val(answer)));
     } catch (const core::RunTimeError& error) {

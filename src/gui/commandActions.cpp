@@ -29,6 +29,7 @@ const std::vector<Shortcut>& shortcuts() {
         {"mnuSaveAs", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
         {"mnuPrint", "Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
         {"mnuSearch", "Search", QKeySequence(Qt::CTRL | Qt::Key_F)},
+        {"Design", "Design", QKeySequence(Qt::CTRL | Qt::Key_L)},
         {"mnuExit", "", QKeySequence(Qt::CTRL | Qt::Key_Q)},
         {"mnuContents", "Help", QKeySequence(Qt::Key_F1)},
         {"Delete", "Delete", QKeySequence(Qt::Key_Delete)},
@@ -52,7 +53,7 @@ CommandActions::CommandActions(app::App& app, EventBoundary& events, QObject* pa
     : QObject(parent), app_(app), events_(events) {
     const auto addAll = [this](const auto& keys) {
         for (const std::string_view key : keys)
-            if (key != separator) add(key);
+            if (key != separator && !actions_.contains(key)) add(key);
     };
     for (const shell::Menu& menu : shell::menuBar()) addAll(menu.items);
     addAll(shell::toolbarKeys());

@@ -1,5 +1,7 @@
 #include "gui/disclaimFrmView.h"
 
+#include "gui/dialogFit.h"
+
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QTextBrowser>
@@ -46,6 +48,7 @@ disclaimFrmView::disclaimFrmView(QWidget* parent) : QDialog(parent) {
     close->setFocus();
     const int em = fontMetrics().height();
     resize(em * 34, em * 24);
+    fitDialog(*this);
 }
 
 } // namespace gui

@@ -131,6 +131,7 @@ void entryFrmView::openAtSize() {
 QToolBar* entryFrmView::makeToolbar() {
     auto* bar = new QToolBar;
     bar->setObjectName(QStringLiteral("Toolbar1"));
+    bar->setAccessibleName(tr("Records"));
     bar->setIconSize({toolbarIconSize, toolbarIconSize});
     for (const ButtonLook& look : buttons()) {
         if (look.key == nullptr) {

@@ -2,12 +2,18 @@
 
 #include "platform/platform.h"
 
+#include <QCheckBox>
 #include <QDialog>
-#include <QFontDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include <optional>
 
 namespace gui {
 
-// Qt's font choice with a colour beside it.
+// The choice of font and colour. What is not changed in it comes back as it was, also a font that this system
+// does not have.
 class FontDialog : public QDialog {
     Q_OBJECT
 
@@ -17,12 +23,21 @@ public:
     platform::FontChoice choice() const;
 
 private:
+    void makeFamilies();
+    void makeSizes();
+    QLayout* makeStyles();
     void chooseColour();
-    void showColour();
+    std::optional<float> size() const; // nothing for a text that is no size
+    void refresh();
 
-    QFontDialog* fonts_;
-    QPushButton* colourBtn_;
-    QColor colour_;
+    const platform::FontChoice present_;
+    platform::FontChoice chosen_; // but the size, which stands in its box
+    QListWidget* families_;
+    QLineEdit* sizeTxt_;
+    QListWidget* sizes_;
+    QCheckBox *bold_, *italic_, *underline_, *strikethrough_;
+    QPushButton *colourBtn_, *okBtn_;
+    QLabel* sample_;
 };
 
 } // namespace gui

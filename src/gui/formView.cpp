@@ -1,5 +1,7 @@
 #include "gui/formView.h"
 
+#include "gui/dialogFit.h"
+
 #include <QAbstractItemView>
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -40,6 +42,7 @@ void FormView::showModal() {
     activate();
     if (isUnloaded()) return;
     refresh();
+    fitDialog(*this);
     exec();
 }
 

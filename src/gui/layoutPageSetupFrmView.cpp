@@ -6,6 +6,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 namespace gui {
 
@@ -26,12 +27,12 @@ layoutPageSetupFrmView::layoutPageSetupFrmView(app::App& app, EventBoundary& eve
     right->addWidget(makeSpacingFrame());
     right->addWidget(customFrm_);
     right->addStretch(1);
-    auto* grid = new QGridLayout(this);
-    grid->addWidget(papers, 0, 0);
-    grid->addLayout(right, 0, 1);
-    grid->addLayout(makeBottomRow(ok, cancel), 1, 0, 1, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
+    auto* sides = new QHBoxLayout;
+    sides->addWidget(papers, 1);
+    sides->addLayout(right, 1);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(sides, 1);
+    column->addLayout(makeBottomRow(ok, cancel));
     paperList_->setFocus();
     resize(em() * 34, sizeHint().height());
 }
@@ -65,6 +66,8 @@ QGroupBox* layoutPageSetupFrmView::makeCustomFrame() {
     QLineEdit* heightTxt = boundEdit("heightTxt", form_.heightTxt);
     length->setBuddy(lengthTxt);
     height->setBuddy(heightTxt);
+    for (QLineEdit* edit : {lengthTxt, heightTxt}) // "10.25" and the caret behind it
+        edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * 9);
     auto* accept = makeButton("customOkBtn", tr("&Accept"), [this] { form_.customOkBtn_Click(); });
     grid->addWidget(length, 0, 0);
     grid->addWidget(lengthTxt, 0, 1);

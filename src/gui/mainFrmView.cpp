@@ -1,5 +1,6 @@
 #include "gui/mainFrmView.h"
 
+#include "gui/dialogFit.h"
 #include "gui/forms.h"
 #include "gui/icon.h"
 #include "gui/paneKeys.h"
@@ -11,7 +12,6 @@
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QTabBar>
 
 #include <array>
@@ -52,7 +52,8 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     setStatusBar(status_);
     resize(firstSize);
     restoreGeometry(platform_.windowGeometry());
-    resize(size().boundedTo(screen()->availableSize())); // it may have been another screen, or another scale
+    if (!isMaximized())
+        resize(size().boundedTo(roomOnScreen(*this))); // it may have been another screen, or another scale
 
     platform_.attach({this, [this] { refresh(); },
                       [this] {

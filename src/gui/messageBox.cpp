@@ -1,8 +1,10 @@
 #include "gui/messageBox.h"
 
+#include "gui/dialogFit.h"
 #include "gui/qtText.h"
 
 #include <QAbstractButton>
+#include <QGridLayout>
 #include <QKeyEvent>
 
 namespace gui {
@@ -37,9 +39,13 @@ MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon 
     setTextFormat(Qt::PlainText);
     setText(toQt(text));
     setTextInteractionFlags(Qt::TextSelectableByMouse);
-    setStandardButtons(buttons == platform::Buttons::YesNo ? Yes | No : Ok);
+    setStandardButtons(buttons == platform::Buttons::Ok ? Ok : Yes | No);
+    if (buttons == platform::Buttons::YesNoDefaultNo) setDefaultButton(No);
     // The pictures that a theme puts on them are of another family than the icons of the program.
     for (QAbstractButton* button : QMessageBox::buttons()) button->setIcon({});
+    // Its size is its own affair; it has a row more, of the title's width.
+    if (auto* grid = qobject_cast<QGridLayout*>(layout()))
+        grid->addItem(new QSpacerItem(titleWidth(*this), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 platform::Answer MessageBox::ask() {

@@ -22,7 +22,7 @@ public:
     platform::Answer msgBox(const std::string& text, platform::Icon, const std::string&,
                             platform::Buttons buttons) override {
         std::cerr << "ferrowick: " << text << '\n';
-        return buttons == platform::Buttons::YesNo ? platform::Answer::No : platform::Answer::Ok;
+        return buttons == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::No;
     }
     std::string inputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
     std::optional<std::string> showOpen(const platform::FileDialog&) override { return std::nullopt; }

@@ -1,6 +1,7 @@
 #include "gui/qtPlatform.h"
 
 #include "core/runTimeError.h"
+#include "gui/dialogFit.h"
 #include "gui/fontDialog.h"
 #include "gui/formView.h"
 #include "gui/mailProgram.h"
@@ -40,7 +41,7 @@ void giveRoom(QFileDialog& dialog) {
     details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     details->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     const int em = dialog.fontMetrics().height();
-    dialog.resize(em * 50, em * 30);
+    dialog.resize(QSize(em * 50, em * 30).boundedTo(roomOnScreen(dialog)));
 }
 
 // Neither bitmaps nor JPEGs have transparency; what shines through is the paper.
@@ -55,10 +56,12 @@ QImage onPaper(const QImage& image) {
 // False when there is no program for it.
 bool openTarget(const std::string& target) {
     const QString link = toQt(target);
-    // A file is named by its whole path: an address must not open a file that happens to have its name.
     const QFileInfo file(link);
-    return QDesktopServices::openUrl(file.isAbsolute() && file.exists() ? QUrl::fromLocalFile(link)
-                                                                        : QUrl(link, QUrl::TolerantMode));
+    if (file.isAbsolute() && file.exists()) return QDesktopServices::openUrl(QUrl::fromLocalFile(link));
+    const QUrl url(link, QUrl::TolerantMode);
+    // Neither the folder that the program was started in nor an option of the opening program may be meant.
+    return QDesktopServices::openUrl(url.isRelative() ? QUrl::fromLocalFile(QDir::root().filePath(link))
+                                                      : url);
 }
 
 } // namespace
@@ -97,6 +100,7 @@ std::string QtPlatform::inputBox(const std::string& prompt, const std::string& t
     dialog.setLabelText(toQt(prompt));
     dialog.setWindowTitle(toQt(title));
     dialog.setTextValue(toQt(proposed));
+    fitDialog(dialog);
     return dialog.exec() == QDialog::Accepted ? fromQt(dialog.textValue()) : std::string();
 }
 
@@ -192,6 +196,10 @@ std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontCho
 
 std::optional<platform::Extent> QtPlatform::pictureExtent(const std::filesystem::path& path) {
     return qtprint::pictureExtent(path);
+}
+
+bool QtPlatform::isPictureTooLarge(const std::filesystem::path& path) {
+    return qtprint::isPictureTooLarge(toQt(path.string()));
 }
 
 bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {

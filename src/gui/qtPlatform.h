@@ -60,6 +60,7 @@ public:
     platform::TextMetrics& textMetrics() override { return textMetrics_; }
 
     std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) override;
+    bool isPictureTooLarge(const std::filesystem::path& path) override;
     bool saveClipboardPicture(const std::filesystem::path& path) override;
     void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
                        int quality) override;

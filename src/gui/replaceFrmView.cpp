@@ -1,5 +1,6 @@
 #include "gui/replaceFrmView.h"
 
+#include "gui/dialogFit.h"
 #include "gui/formView.h"
 #include "gui/listLook.h"
 #include "gui/qtText.h"
@@ -49,6 +50,7 @@ replaceFrmView::replaceFrmView(app::App& app, EventBoundary& events, QWidget* pa
     nameLists(*this);
     const int em = fontMetrics().height();
     resize(QSize(em * 26, em * 30).expandedTo(minimumSizeHint()));
+    fitDialog(*this);
 }
 
 QTreeWidget* replaceFrmView::makeList() {

@@ -5,16 +5,20 @@
 #include "gui/qtText.h"
 
 #include <QDialogButtonBox>
-#include <QGridLayout>
 #include <QGroupBox>
+#include <QVBoxLayout>
 
 namespace gui {
 
 reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, QWidget* parent)
     : FormView(events, "reportPageSetup", tr("Report Page Setup"), parent), form_(app),
-      LV3_(makeColumnList()) {
+      LV3_(makeColumnList()), allChk_(named("allChk", new QCheckBox(tr("A&ll")))) {
     auto* columns = new QGroupBox(tr(" Columns To Print "));
-    (new QVBoxLayout(columns))->addWidget(LV3_);
+    auto* choice = new QVBoxLayout(columns);
+    choice->addWidget(LV3_);
+    choice->addWidget(allChk_);
+    connect(allChk_, &QCheckBox::clicked, this,
+            [this](bool checked) { on([&] { form_.allChk_Click(checked); }); });
     auto* title = new QGroupBox(tr(" Report Title "));
     (new QVBoxLayout(title))->addWidget(boundEdit("titleTxt", form_.titleTxt));
 
@@ -36,12 +40,12 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     right->addWidget(makeOptionsFrame(tr(" Orientation "), "PortraitOpt", tr("Portrait"), "LandscapeOpt",
                                       tr("Landscape"), form_.PortraitOpt));
     right->addWidget(makeMarginsFrame(form_.leftTxt, form_.rightTxt, form_.TopTxt, form_.bottomTxt), 1);
-    auto* grid = new QGridLayout(this);
-    grid->addWidget(columns, 0, 0);
-    grid->addLayout(right, 0, 1);
-    grid->addWidget(buttons, 1, 0, 1, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
+    auto* sides = new QHBoxLayout;
+    sides->addWidget(columns, 1);
+    sides->addLayout(right, 1);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(sides, 1);
+    column->addWidget(buttons);
     LV3_->setFocus();
     resize(em() * 32, sizeHint().height());
 }
@@ -67,6 +71,7 @@ QTreeWidget* reportPageSetupView::makeColumnList() {
 }
 
 void reportPageSetupView::showMembers() {
+    allChk_->setChecked(form_.allChk());
     for (std::size_t row = 0; row < form_.LV3.size(); ++row)
         LV3_->topLevelItem(static_cast<int>(row))
             ->setCheckState(0, form_.LV3[row].Checked ? Qt::Checked : Qt::Unchecked);

@@ -3,6 +3,7 @@
 #include "gui/formView.h"
 #include "print/reportPageSetup.h"
 
+#include <QCheckBox>
 #include <QTreeWidget>
 
 namespace gui {
@@ -24,6 +25,7 @@ private:
 
     print::reportPageSetup form_;
     QTreeWidget* LV3_;
+    QCheckBox* allChk_;
 };
 
 } // namespace gui

@@ -1,5 +1,6 @@
 #include "gui/searchFrmView.h"
 
+#include "gui/dialogFit.h"
 #include "gui/qtText.h"
 
 #include <QFocusEvent>
@@ -50,6 +51,7 @@ searchFrmView::searchFrmView(app::App& app, EventBoundary& events, QWidget* pare
     resize(QSize(em * 40, em * 36).expandedTo(minimumSizeHint()));
     refresh();
     lists_.front()->setFocus();
+    fitDialog(*this);
 }
 
 QVBoxLayout* searchFrmView::makeGroup(int group) {

@@ -6,6 +6,8 @@
 #include "layout/sheet.h"
 #include "platform/zip.h"
 
+#include <cerrno>
+#include <fstream>
 #include <functional>
 #include <random>
 
@@ -43,14 +45,32 @@ void fit(const LayoutObject& holder, FittedImage& image, platform::Extent natura
     image.Visible = true;
 }
 
+// Why a file with the name of an image cannot be shown.
+std::string faultOf(App& app, const fs::path& file) {
+    const std::string name = file.filename().string();
+    if (app.platform.isPictureTooLarge(file)) return "The picture " + name + " is too large.";
+    errno = 0;
+    std::error_code error;
+    std::string reason;
+    if (fs::is_directory(file, error))
+        reason = std::generic_category().message(EISDIR);
+    else if (!std::ifstream(file).is_open() && errno != 0)
+        reason = std::generic_category().message(errno);
+    return "The picture " + name + " cannot be read" + (reason.empty() ? "." : ": " + reason + ".");
+}
+
 // The chosen file, or nothing after the message. A cancelled dialog has chosen nothing, which is no
-// image either: it is wanted so. A file that only has the name of an image is refused as well.
+// image either: it is wanted so.
 std::optional<fs::path> chooseImage(App& app, const char* title) {
     const std::string chosen =
         app.platform.showOpen({title, "", std::string(imageFilter)}).value_or(std::string());
     const std::string ending = core::upper(core::right(chosen, 3));
-    if ((ending == "GIF" || ending == "JPG") && app.platform.pictureExtent(chosen)) return fs::path(chosen);
-    app::inform(app, "You selected a file other than a GIF or JPEG.  Please try again.");
+    if (ending != "GIF" && ending != "JPG")
+        app::inform(app, "You selected a file other than a GIF or JPEG.  Please try again.");
+    else if (app.platform.pictureExtent(chosen))
+        return fs::path(chosen);
+    else
+        app::warn(app, faultOf(app, chosen));
     return std::nullopt;
 }
 

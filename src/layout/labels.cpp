@@ -1,9 +1,6 @@
 #include "layout/labels.h"
 
-#include "core/text.h"
 #include "layout/sheet.h"
-
-#include <algorithm>
 
 namespace layout {
 
@@ -12,18 +9,6 @@ using app::App;
 namespace {
 
 constexpr int enterKey = 13;
-
-// What can be opened, or nothing.
-std::string addressOf(std::string_view target) {
-    const std::string_view link = core::trim(target);
-    const bool isPlain = std::ranges::all_of(link, [](unsigned char c) { return c >= ' ' && c != 0x7f; });
-    if (!isPlain) return {};
-    const std::string upper = core::upper(link);
-    if (upper.starts_with("WWW.")) return "http://" + std::string(link);
-    for (const std::string_view scheme : {"HTTP://", "HTTPS://", "MAILTO:"})
-        if (upper.starts_with(scheme) && upper.size() > scheme.size()) return std::string(link);
-    return {};
-}
 
 } // namespace
 
@@ -60,11 +45,6 @@ void setLabelLink(App& app) {
         app.platform.inputBox("Enter URL or email address.  URL's should begin with http:// and emails "
                               "should start with mailto:",
                               "Insert Link", label->Tag);
-}
-
-void followLink(App& app, std::string_view target) {
-    const std::string address = addressOf(target);
-    if (!address.empty()) app.platform.openLink(address);
 }
 
 } // namespace layout

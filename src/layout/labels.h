@@ -2,7 +2,6 @@
 
 #include "app/app.h"
 
-#include <string>
 #include <string_view>
 
 namespace layout {
@@ -19,8 +18,5 @@ bool tLabel_KeyPress(app::App& app, int KeyAscii);
 
 // Asks for the link of the selected label.
 void setLabelLink(app::App& app);
-// Opens web and mail addresses. Anything else does nothing: a database may come by mail, and a click
-// must not start a program.
-void followLink(app::App& app, std::string_view target);
 
 } // namespace layout

@@ -3,6 +3,7 @@
 #include "layout/dragging.h"
 #include "layout/images.h"
 #include "layout/labels.h"
+#include "layout/links.h"
 #include "layout/objects.h"
 #include "layout/sheet.h"
 

@@ -23,7 +23,7 @@ std::string onOneLine(std::string_view text) {
 
 Answer HeadlessPlatform::msgBox(const std::string& text, Icon icon, const std::string& caption,
                                 Buttons buttons) {
-    if (buttons == Buttons::YesNo) {
+    if (buttons != Buttons::Ok) {
         if (answersYes_) return Answer::Yes;
         ++refusedQuestions_;
         return Answer::No;

@@ -16,7 +16,7 @@
 namespace platform {
 
 enum class Icon { None, Information, Exclamation, Question, Critical };
-enum class Buttons { Ok, YesNo };
+enum class Buttons { Ok, YesNo, YesNoDefaultNo }; // the last for what may do harm: Enter answers No
 enum class Answer { Ok, Yes, No, Cancel };
 enum class MousePointer { Default = 0, Hourglass = 11 };
 
@@ -108,6 +108,8 @@ public:
     // The natural size of a JPEG or GIF file; nothing for a file that is absent, damaged, or so large
     // that it could not be shown in reasonable memory.
     virtual std::optional<Extent> pictureExtent(const std::filesystem::path&) { return std::nullopt; }
+    // Whether that is what keeps it from being shown.
+    virtual bool isPictureTooLarge(const std::filesystem::path&) { return false; }
     // Writes the picture of the clipboard into a bitmap file. False when the clipboard holds a text or
     // an address, or no picture.
     virtual bool saveClipboardPicture(const std::filesystem::path&) { return false; }

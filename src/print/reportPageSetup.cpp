@@ -6,6 +6,8 @@
 #include "print/printerCheck.h"
 #include "print/reportPrinting.h"
 
+#include <algorithm>
+
 namespace print {
 
 namespace {
@@ -63,6 +65,14 @@ void reportPageSetup::saveReportSettings() {
     settings.bReportBoldHeaders = boldYesOpt;
     app::setDocumentModified(app_, true);
     app_.mainFrm.previewPage.iReportStartRow = 1;
+}
+
+bool reportPageSetup::allChk() const {
+    return std::ranges::all_of(LV3, &Row::Checked);
+}
+
+void reportPageSetup::allChk_Click(bool checked) {
+    for (Row& row : LV3) row.Checked = checked;
 }
 
 void reportPageSetup::ApplyBtn_Click() {

@@ -25,6 +25,8 @@ public:
     std::string leftTxt, rightTxt, TopTxt, bottomTxt;
     bool unloaded = false;
 
+    bool allChk() const; // whether all columns are checked
+    void allChk_Click(bool checked);
     void ApplyBtn_Click();
     void Command1_Click();
     void Command2_Click() { unloaded = true; }

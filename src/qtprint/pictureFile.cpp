@@ -15,15 +15,24 @@ constexpr qint64 mostFileBytes = 64'000'000;
 // A few bytes of a GIF can stand for any number of pixels, and all of them are unpacked.
 constexpr qint64 mostGifPixels = 16'000'000;
 
-bool isWithinBounds(QSize size, const QByteArray& format) {
-    return size.isValid() && !size.isEmpty() &&
-           static_cast<qint64>(size.width()) * static_cast<qint64>(size.height()) <=
-               (format == "gif" ? mostGifPixels : mostPixels);
-}
-
 // Only what may be chosen is read, whatever else Qt has decoders for.
 bool isAllowedFormat(const QByteArray& format) {
     return format == "jpeg" || format == "jpg" || format == "gif" || format == "bmp";
+}
+
+struct Measured {
+    QSize size; // empty for what is no picture
+    bool isTooLarge = false;
+};
+
+Measured measure(const QString& path) {
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    if (!reader.canRead() || !isAllowedFormat(reader.format())) return {};
+    if (QFileInfo(path).size() > mostFileBytes) return {{}, true};
+    const QSize size = reader.size();
+    const qint64 pixels = static_cast<qint64>(size.width()) * static_cast<qint64>(size.height());
+    return {size, !size.isEmpty() && pixels > (reader.format() == "gif" ? mostGifPixels : mostPixels)};
 }
 
 // A JPEG is quickly read at half, a quarter or an eighth of its size. At any other size it would be scaled by
@@ -41,13 +50,13 @@ QSize sizeToRead(QSize natural, QSize bounds) {
 } // namespace
 
 std::optional<QSize> pictureSize(const QString& path) {
-    if (QFileInfo(path).size() > mostFileBytes) return std::nullopt;
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    if (!reader.canRead() || !isAllowedFormat(reader.format())) return std::nullopt;
-    const QSize size = reader.size();
-    if (!isWithinBounds(size, reader.format())) return std::nullopt;
-    return size;
+    const Measured picture = measure(path);
+    if (picture.isTooLarge || picture.size.isEmpty()) return std::nullopt;
+    return picture.size;
+}
+
+bool isPictureTooLarge(const QString& path) {
+    return measure(path).isTooLarge;
 }
 
 std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) {

@@ -15,7 +15,9 @@ namespace qtprint {
 
 // The size in pixels that the file tells, when it is a picture that can be shown.
 std::optional<QSize> pictureSize(const QString& path);
-// The same in twips.
+// Whether it is a picture that takes too much to be shown.
+bool isPictureTooLarge(const QString& path);
+// The size in twips.
 std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path);
 
 // Another number for another content of the file.

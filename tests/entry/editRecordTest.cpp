@@ -294,6 +294,7 @@ TEST(DuplicateTest, howManyCopies) {
         EXPECT_EQ(shop.LV.count(), 2 + c.copies) << c.answer;
         EXPECT_TRUE(shop.document.bModified) << c.answer;
         EXPECT_EQ(shop.platform.told(), "0|Duplicate Record|How many copies?");
+        EXPECT_EQ(shop.platform.proposed.back(), "1");
     }
 }
 

@@ -56,6 +56,62 @@ private slots:
         QCOMPARE(ask([](QMessageBox& box) { box.close(); }), Answer::Cancel);
     }
 
+    // A font that is not installed, and a size that is in no list, stay what they are unless another is
+    // chosen.
+    void theFontBoxWritesWhatWasChanged() {
+        const platform::FontChoice present{"MS Sans Serif", 8.25F, true, false, false, true, -2147483640};
+        const auto told = [](const platform::FontChoice& c) {
+            return QStringLiteral("%1|%2|%3%4%5%6|%7")
+                .arg(gui::toQt(c.FontName))
+                .arg(static_cast<double>(c.FontSize))
+                .arg(c.FontBold)
+                .arg(c.FontItalic)
+                .arg(c.FontUnderline)
+                .arg(c.FontStrikethru)
+                .arg(c.ForeColor);
+        };
+        gui::QtPlatform platform;
+        const auto key = [](Qt::Key code, int times = 1) {
+            for (int i = 0; i < times; ++i) QTest::keyClick(QApplication::focusWidget(), code);
+        };
+        const auto choose = [&](const std::function<void(QDialog&)>& act) {
+            whenShown<QDialog>([&](QDialog& dialog) {
+                QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == &dialog; }));
+                act(dialog);
+                if (dialog.isVisible()) QFAIL("still open");
+            });
+            const auto choice = platform.showFont(present);
+            return choice ? told(*choice) : u"cancelled"_s;
+        };
+        const QString same = told(present);
+        QCOMPARE(choose([&](QDialog&) { key(Qt::Key_Enter); }), same);
+        QCOMPARE(choose([&](QDialog&) {
+                     key(Qt::Key_Tab, 9);
+                     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+                 }),
+                 same);
+        QCOMPARE(choose([&](QDialog&) { key(Qt::Key_Escape); }), u"cancelled"_s);
+        QCOMPARE(choose([&](QDialog& dialog) {
+                     auto* size = dialog.findChild<QLineEdit*>(u"sizeTxt"_s);
+                     size->setFocus();
+                     for (const char* wrong : {"", "0", "1601", "x", "nan"}) {
+                         size->setText(QLatin1String(wrong));
+                         key(Qt::Key_Return);
+                         QVERIFY2(dialog.isVisible(), wrong);
+                     }
+                     size->setText(u"9,75"_s);
+                     dialog.findChild<QAbstractButton*>(u"italicChk"_s)->click();
+                     dialog.findChild<QAbstractButton*>(u"boldChk"_s)->click();
+                     key(Qt::Key_Return);
+                 }),
+                 u"MS Sans Serif|9.75|0101|-2147483640"_s);
+        QCOMPARE(choose([&](QDialog& dialog) {
+                     QTest::keyClicks(dialog.focusWidget(), u"liberation se"_s);
+                     key(Qt::Key_Return);
+                 }),
+                 QString(same).replace(u"MS Sans Serif"_s, u"Liberation Serif"_s));
+    }
+
     void aboutAndDisclaimer() {
         gui::QtPlatform platform;
         app::App app(platform);

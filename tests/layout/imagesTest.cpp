@@ -103,12 +103,18 @@ TEST_F(Sheet, ChoosingAPictureForARecord) {
         layout::object_DblClick(app, {Family::imgHolder, 2});
         EXPECT_EQ(platform.lastMessage(), refusal) << name;
     }
+    layout::object_DblClick(app, {Family::imgHolder, 2}); // cancelled
+    EXPECT_EQ(platform.lastMessage(), refusal);
     ScriptedPlatform::write(platform.folder / "text.jpg", "no picture");
-    platform.files = {(platform.folder / "text.jpg").string(), (platform.folder / "none.jpg").string()};
-    for (int cancelledToo = 0; cancelledToo < 3; ++cancelledToo) {
-        platform.messages.clear();
+    ScriptedPlatform::write(platform.folder / "vast.GIF", "picture");
+    platform.tooLarge = "vast.GIF";
+    for (const auto& [name, message] :
+         {std::pair("text.jpg", "The picture text.jpg cannot be read."),
+          {"none.jpg", "The picture none.jpg cannot be read: No such file or directory."},
+          {"vast.GIF", "The picture vast.GIF is too large."}}) {
+        platform.files = {(platform.folder / name).string()};
         layout::object_DblClick(app, {Family::imgHolder, 2});
-        EXPECT_EQ(platform.lastMessage(), refusal);
+        EXPECT_EQ(platform.lastMessage(), message);
     }
     EXPECT_EQ(holder.ToolTipText, "");
     EXPECT_EQ(platform.dialogs.back().title, "Select image for picture box.");

@@ -211,36 +211,70 @@ TEST_F(Sheet, BorderWidthsFromOneToTen) {
     EXPECT_EQ(platform.proposed.back(), "1");
 }
 
-TEST_F(Sheet, LinksOpenWebAndMailAlone) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"http://example.org", "http://example.org"},
-        {"HTTPS://example.org/a?b=c", "HTTPS://example.org/a?b=c"},
-        {" mailto:me@example.org ", "mailto:me@example.org"},
-        {"mailto:me@example.org?subject=Two words", "mailto:me@example.org?subject=Two words"},
-        {"www.example.org", "http://www.example.org"},
-        {"WWW.example.org", "http://WWW.example.org"},
-        {"", nullptr},
-        {"   ", nullptr},
-        {"/bin/sh", nullptr},
-        {"file:///etc/passwd", nullptr},
-        {"C:\\Windows\\calc.exe", nullptr},
-        {"\\\\server\\share\\x.exe", nullptr},
-        {"javascript:alert(1)", nullptr},
-        {"ftp://example.org", nullptr},
-        {"httpx://example.org", nullptr},
-        {"http:example", nullptr},
-        {"http://", nullptr},
-        {"example.org", nullptr},
-        {"http://example.org\nfile:///x", nullptr},
-        {"--help", nullptr}};
+TEST_F(Sheet, LinksOpenWebAndMailAskAboutTheRestAndStartNoPrograms) {
+    const std::string folder = platform.folder.string() + "/";
+    for (const auto& [name, content] : {std::pair("notes.txt", "text"),
+                                        {"tool", "data"},
+                                        {"fake.pdf", "#!/bin/sh"},
+                                        {"it.desktop", "x"},
+                                        {"odd.txt", "\n[Desktop Entry]\nExec=x"}})
+        ScriptedPlatform::write(folder + name, content);
+    std::filesystem::permissions(folder + "tool", std::filesystem::perms::owner_all);
+    std::filesystem::create_symlink(folder + "it.desktop", folder + "alias.txt");
+    enum Outcome { opens, asks, refuses };
+    struct Case {
+        std::string target, opened;
+        Outcome outcome;
+    };
+    const Case cases[] = {
+        {"http://example.org", "http://example.org", opens},
+        {" mailto:me@example.org?subject=Two words ", "mailto:me@example.org?subject=Two words", opens},
+        {"HTTPS://example.org/setup.sh", "HTTPS://example.org/setup.sh", opens},
+        {"WWW.example.org", "http://WWW.example.org", opens},
+        {"http://", "http://", asks},
+        {"javascript:alert(1)", "javascript:alert(1)", asks},
+        {"ftp://example.org/list", "ftp://example.org/list", asks},
+        {"example.org", "example.org", asks},
+        {"--help", "--help", asks},
+        {"file:///etc/passwd", "file:///etc/passwd", asks},
+        {"/etc", "/etc", asks},
+        {"notes.txt", folder + "notes.txt", asks}, // beside the database
+        {folder + "notes.txt", folder + "notes.txt", asks},
+        {"http://example.org\nfile:///x", "", refuses},
+        {"/bin/sh", "", refuses},
+        {"bin/sh", "", refuses},
+        {"C:\\Windows\\calc.EXE", "", refuses},
+        {"\\\\server\\share\\x.exe", "", refuses},
+        {"smb://host/setup.sh", "", refuses},
+        {"/none/x.desktop/", "", refuses},
+        {"file:///none/x%2Edesktop?y=.txt", "", refuses},
+        {"FILE://host" + folder + "fake%2epdf#1", "", refuses},
+        {"tool", "", refuses},
+        {"fake.pdf", "", refuses},
+        {"odd.txt", "", refuses},
+        {"alias.txt", "", refuses},
+    };
     open("L|Go|0|0|9|9|False|False|False|Arial|9|0|\r\n");
-    for (const auto& [target, opened] : cases) {
-        SCOPED_TRACE(target);
-        platform.links.clear();
-        objects.tLabel[1].Tag = target;
-        layout::object_Click(app, {Family::tLabel, 1});
-        EXPECT_EQ(platform.links, opened ? std::vector<std::string>{opened} : std::vector<std::string>{});
+    for (const auto& [target, opened, outcome] : cases) {
+        for (const platform::Answer answer : {platform::Answer::Yes, platform::Answer::No}) {
+            SCOPED_TRACE(target);
+            platform.links.clear();
+            platform.messages.clear();
+            platform.answers = {answer};
+            objects.tLabel[1].Tag = target;
+            layout::object_Click(app, {Family::tLabel, 1});
+            const bool follows = outcome == opens || (outcome == asks && answer == platform::Answer::Yes);
+            EXPECT_EQ(platform.links, follows ? std::vector{opened} : std::vector<std::string>{});
+            if (outcome == asks) EXPECT_EQ(platform.told(), "3|Ferrowick|Open " + opened + "?");
+            if (outcome == refuses) EXPECT_EQ(platform.messages.back().icon, platform::Icon::Exclamation);
+            EXPECT_EQ(platform.messages.size(), outcome == opens ? 0U : 1U);
+        }
     }
+    platform.messages.clear();
+    platform.answers.clear();
+    objects.tLabel[1].Tag = "   ";
+    layout::object_Click(app, {Family::tLabel, 1});
+    EXPECT_TRUE(platform.messages.empty());
     platform.links.clear();
     objects.tLabel[1].Tag = "http://example.org";
     design();

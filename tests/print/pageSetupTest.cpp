@@ -38,7 +38,12 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     EXPECT_EQ(form.leftTxt + "," + form.rightTxt + "," + form.TopTxt + "," + form.bottomTxt, "1,0.5,0.25,2");
     EXPECT_EQ(form.titleTxt, "Old");
 
-    form.LV3[1].Checked = true;
+    EXPECT_FALSE(form.allChk());
+    form.allChk_Click(true);
+    EXPECT_TRUE(form.allChk());
+    form.allChk_Click(false);
+    EXPECT_FALSE(form.LV3[2].Checked);
+    form.LV3[0].Checked = form.LV3[1].Checked = true;
     form.titleTxt = "  New ";
     form.boldYesOpt = form.PortraitOpt = false;
     form.letterOpt = true;

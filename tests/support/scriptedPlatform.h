@@ -40,6 +40,7 @@ public:
     std::function<void(std::string_view)> onForm;
     std::deque<platform::FontChoice> fonts;
     std::map<std::string, platform::Extent> pictures; // by file name; any other file is no picture
+    std::string tooLarge;                             // the name of a picture that is
     std::string clipboardPicture; // the bytes of the clipboard's bitmap; empty for a text, or nothing
 
     // What was asked.
@@ -99,6 +100,7 @@ public:
         if (found == pictures.end() || !std::filesystem::exists(path)) return std::nullopt;
         return found->second;
     }
+    bool isPictureTooLarge(const std::filesystem::path& path) override { return path.filename() == tooLarge; }
     bool saveClipboardPicture(const std::filesystem::path& path) override {
         if (clipboardPicture.empty()) return false;
         write(path, clipboardPicture);
