@@ -1,4 +1,7 @@
 #include "invoiceFixture.h"
+#include "table.h"
+
+#include <sstream>
 
 namespace {
 
@@ -40,20 +43,15 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
 
 TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
     layoutWith(2);
-    const struct {
-        const char* what;
-        std::initializer_list<const char*> positions;
-        const char* columns;
-    } cases[] = {{"none", {}, "No|Customer|Subtotal|Tax|"},
-                 {"moved", {"1", "5", "2", "3", "4"}, "Customer|Subtotal|Tax|No|"},
-                 {"each moved past others", {"1", "4", "5", "3", "2"}, "Tax|Subtotal|No|Customer|"},
-                 {"beyond the table", {"1", "99"}, "Customer|Subtotal|Tax|No|"},
-                 {"more than columns", {"1", "2", "3", "4", "5", "6", "7"}, "No|Customer|Subtotal|Tax|"}};
-    for (const auto& c : cases) {
+    // Moved, each past others, beyond the table, more than there are columns.
+    for (const auto& c : table(" -> No|Customer|Subtotal|Tax|; 1 5 2 3 4 -> Customer|Subtotal|Tax|No|; "
+                               "1 4 5 3 2 -> Tax|Subtotal|No|Customer|; 1 99 -> Customer|Subtotal|Tax|No|; "
+                               "1 2 3 4 5 6 7 -> No|Customer|Subtotal|Tax|")) {
         app.document.invoiceCols.clear();
-        for (const char* position : c.positions) app.document.invoiceCols.add(position);
+        std::istringstream positions(c[0]);
+        for (std::string position; positions >> position;) app.document.invoiceCols.add(position);
         invoice::BuildInvoicesView(app);
-        EXPECT_EQ(view().substr(0, view().find(';')), c.columns) << c.what;
+        EXPECT_EQ(view().substr(0, view().find(';')), c[1]) << c[0];
     }
 }
 
@@ -66,32 +64,25 @@ TEST_F(InvoiceTest, RetrieveShowsAValueInEachRow) {
         });
         return text;
     };
-    const struct {
-        const char* cell;
-        const char* shown;
-    } cases[] = {{"a@b@c@", "a|b|c|"}, {"a@@c@", "a||c|"}, {"a@", "a|||"},
-                 {"single", "|||"},    {"", "|||"},        {"a@b@c@d@", "a|b|c|"}};
-    for (const auto& c : cases) {
-        core::Item& item = record({{"Item", c.cell}, {"No", " 7 "}, {"Customer", " Ann "}});
+    for (const auto& c : table("a@b@c@ -> a|b|c|; a@@c@ -> a||c|; a@ -> a|||; single -> |||;  -> |||; "
+                               "a@b@c@d@ -> a|b|c|")) {
+        core::Item& item = record({{"Item", c[0].c_str()}, {"No", " 7 "}, {"Customer", " Ann "}});
         app.document.LV.setSelectedItem(&item);
         invoice::retrieveInvoiceRecord(app);
-        EXPECT_EQ(fields("Item"), c.shown) << c.cell;
-        EXPECT_EQ(fields("No"), "7|");
-        EXPECT_EQ(fields("Customer"), " Ann |");
+        EXPECT_EQ(fields("Item") + fields("No") + fields("Customer"), c[1] + "7| Ann |") << c[0];
     }
 }
 
 TEST_F(InvoiceTest, ItemRowsArePlacedInAGrid) {
     app.document.LV.columns.add("Photo", "Photo", 1440).setTypeFromFile("7");
     invoice::repeatItemRows(app, 2, {"Qty", "Photo", "Customer"});
-    std::string places;
+    std::ostringstream places;
     app.document.layout.layoutField.forEach([&](const core::LayoutField& field) {
-        places += std::to_string(field.Index) + field.Tag + " " +
-                  std::to_string(static_cast<int>(field.Left)) + "," +
-                  std::to_string(static_cast<int>(field.Top)) + (field.Enabled ? "" : " off") +
-                  (field.align == core::Alignment::Right ? " right" : "") + "; ";
+        places << field.Index << field.Tag << " " << field.Left << "," << field.Top
+               << (field.Enabled ? "" : " off") << (field.align == core::Alignment::Right ? " right" : "")
+               << "; ";
     });
-    EXPECT_EQ(places,
+    EXPECT_EQ(places.str(),
               "1Qty 250,350 right; 2Customer 1525,350; 3Qty 250,635 off right; 4Customer 1525,635 off; ");
     // Made anew they take the place of the old ones.
     invoice::repeatItemRows(app, 1, {"Qty"});
@@ -106,26 +97,21 @@ TEST_F(InvoiceTest, ItemRowsArePlacedInAGrid) {
 TEST_F(InvoiceTest, TheItemRowDialog) {
     invoice::repeatFrm form(app);
     EXPECT_EQ(form.List1.size(), 8U);
-    for (const char* text : {"", "rows", "0"}) {
-        form.Text1 = text;
+    const auto enter = [&](const char* rows) {
+        form.Text1 = rows;
         form.OKButton_Click();
-        EXPECT_FALSE(form.unloaded) << text;
-        EXPECT_EQ(program.platform.lastMessage(), "You did not enter the number of rows to create.");
-    }
+        EXPECT_EQ(form.unloaded, program.platform.messages.empty());
+        return program.told();
+    };
+    for (const char* none : {"", "rows", "0"})
+        EXPECT_EQ(enter(none), "i You did not enter the number of rows to create.");
     form.List1_Click(0);
     form.Command1_Click();
-    form.List1_Click(3);
-    form.List1_Click(3);
+    for (const int entry : {3, -1, 8, 3}) form.List1_Click(entry);
     EXPECT_EQ(form.List2, (std::vector<std::string>{"Qty", "Qty"}));
-    for (const char* text : {"16384", "99999", "-99999"}) { // twice as many fields; beyond 16 bits
-        form.Text1 = text;
-        form.OKButton_Click();
-        EXPECT_FALSE(form.unloaded) << text;
-        EXPECT_EQ(program.platform.lastMessage(), "The layout has no room for so many rows.");
-    }
-    form.Text1 = "3 rows";
-    form.OKButton_Click();
-    EXPECT_TRUE(form.unloaded);
+    for (const char* many : {"16384", "99999", "-99999"}) // twice as many fields; beyond 16 bits
+        EXPECT_EQ(enter(many), "i The layout has no room for so many rows.");
+    EXPECT_EQ(enter("3 rows"), "");
     EXPECT_EQ(app.document.layout.layoutField.count(), 6);
 }
 

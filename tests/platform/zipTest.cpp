@@ -18,35 +18,6 @@ using platform::Zip;
 
 namespace {
 
-// All that a save must not touch in an entry, the packed bytes among it.
-struct Packed {
-    std::string name, comment, bytes;
-    time_t date;
-    zip_uint32_t crc;
-    zip_uint16_t method;
-    bool operator==(const Packed&) const = default;
-};
-
-std::vector<Packed> packedEntries(const fs::path& file) {
-    std::vector<Packed> result;
-    zip_t* zip = zip_open(file.c_str(), ZIP_RDONLY | ZIP_CHECKCONS, nullptr);
-    if (!zip) return result;
-    for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(zip_get_num_entries(zip, 0)); ++i) {
-        zip_stat_t status;
-        zip_stat_index(zip, i, 0, &status);
-        std::string bytes(status.comp_size, '\0');
-        zip_file_t* entry = zip_fopen_index(zip, i, ZIP_FL_COMPRESSED);
-        zip_fread(entry, bytes.data(), bytes.size());
-        zip_fclose(entry);
-        zip_uint32_t length = 0;
-        const char* comment = zip_file_get_comment(zip, i, &length, 0);
-        result.push_back({status.name, std::string(comment ? comment : "", length), bytes, status.mtime,
-                          status.crc, status.comp_method});
-    }
-    zip_discard(zip);
-    return result;
-}
-
 // Bytes that deflate cannot make smaller.
 std::string noise(std::size_t count) {
     std::mt19937 random(7);
@@ -59,8 +30,17 @@ class ZipTest : public ArchiveTest {};
 
 TEST_F(ZipTest, ReplacingTheDataLeavesAllElseAsItWas) {
     writeBytes(archive, readBytes(TEST_DATA_DIR "/books.fwk"));
-    std::vector<Packed> before = packedEntries(archive);
-    ASSERT_EQ(before.size(), 7U);
+    // The entries behind the first as they are packed, and what the directory tells of all.
+    const auto packed = [&] {
+        const std::string file = readBytes(archive);
+        const std::size_t second = file.find("PK\3\4", 4);
+        std::string all = file.substr(second, file.find("PK\1\2") - second);
+        Zip Zip;
+        Zip.OpenArchive(archive);
+        for (int i = 0; i < Zip.FileCount(); ++i) all += Zip.FileNameAt(i) + ":" + Zip.commentAt(i) + ";";
+        return all;
+    };
+    const std::string before = packed();
     const std::string text = dataOf(archive) + "one more line\r\n";
     writeBytes(folder / "data.dat", text);
     Zip Zip;
@@ -71,16 +51,10 @@ TEST_F(ZipTest, ReplacingTheDataLeavesAllElseAsItWas) {
     Zip.AddFile("data.dat", "Main Data File");
     Zip.CloseArchive();
 
-    std::vector<Packed> after = packedEntries(archive);
-    ASSERT_EQ(after.size(), before.size());
-    EXPECT_EQ(after[0].name, "data.dat");
-    EXPECT_EQ(after[0].comment, "Main Data File");
-    EXPECT_EQ(after[0].method, ZIP_CM_DEFLATE);
     EXPECT_EQ(dataOf(archive), text);
+    EXPECT_TRUE(packed() == before);
     const std::string file = readBytes(archive);
     EXPECT_EQ(file[file.find("PK\1\2") + 8] & 6, 0) << "not packed at the usual level";
-    after[0] = before[0];
-    EXPECT_TRUE(after == before);
 }
 
 // Sizes on both sides of those from which data are packed in pieces, and contents whose blocks end at all
@@ -97,9 +71,7 @@ TEST_F(ZipTest, LargeDataArePackedAsOneStreamThatEveryReaderUnderstands) {
             Zip.CreateArchive(archive, "");
             Zip.addBuffer("data.dat", std::string_view(bytes).substr(0, size), "");
             Zip.CloseArchive();
-            const std::vector<Packed> packed = packedEntries(archive);
-            ASSERT_EQ(packed.size(), 1U);
-            EXPECT_EQ(packed[0].method, ZIP_CM_DEFLATE);
+            EXPECT_EQ(readBytes(archive)[8], ZIP_CM_DEFLATE);
             EXPECT_TRUE(dataOf(archive) == bytes.substr(0, size)) << size;
         }
     }
@@ -133,7 +105,6 @@ TEST_F(ZipTest, AddsListsDeletesAndExtracts) {
     EXPECT_EQ(raisedBy([&] { (void)Zip.FileNameAt(2); }), errors::subscriptOutOfRange);
     EXPECT_FALSE(Zip.contains("empty.jpg"));
     Zip.CloseArchive();
-    EXPECT_EQ(packedEntries(archive).size(), 2U);
 
     Zip.OpenArchive(archive);
     Zip.DeleteFile("last.gif");

@@ -2,8 +2,8 @@
 #include "print/layoutPageSetupFrm.h"
 #include "print/reportPageSetup.h"
 #include "printRecorder.h"
-#include "shell/commands.h"
 #include "shell/mainWindow.h"
+#include "storage/dataWriter.h"
 
 #include <gmock/gmock.h>
 
@@ -11,32 +11,37 @@ using testing::ElementsAre;
 
 namespace {
 
-class PageSetup : public testing::Test, protected PrintProgram {};
+class PageSetup : public testing::Test, protected PrintProgram {
+protected:
+    // A section of the document as it would be saved.
+    std::string section(const std::string& name) {
+        const std::string text = storage::writeDataFile(app.document, false);
+        const std::size_t start = text.find(name) + 16;
+        return text.substr(start, text.find('\r', start) - start);
+    }
+};
 
 TEST_F(PageSetup, TheButtonShowsTheFormOfThePrintMode) {
     openRecords(1);
-    shell::runCommand(app, "mnuPageSetup");
+    run("mnuPageSetup");
     shell::SSTab1_Click(app, app::layoutTab);
-    shell::runCommand(app, "PageSetup");
+    run("PageSetup");
     app.mainFrm.iPrintMode = app::printMultipleLayouts;
-    shell::runCommand(app, "PageSetup");
+    run("PageSetup");
     EXPECT_THAT(platform.forms, ElementsAre("reportPageSetup", "layoutPageSetupFrm", "layoutPageSetupFrm"));
 }
 
 TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
-    open(DataFile{}.text());
-    core::Document& document = app.document;
-    document.printedCols.add("Price");
-    document.LV.columns.setPosition(4, 2); // Price in front
-    document.reportData = {1, 0.5F, 0.25F, 2, 5, 1, "Old", true};
+    open(DataFile().section("Printed Cols", "Price|").section("Report Data", "1|0.5|0.25|2|1|2|Old|True|"));
+    app.document.LV.columns.setPosition(4, 2); // Price in front
+    const std::string before = section("[Report Data");
     print::reportPageSetup form(app);
+    form.Command1_Click();
+    EXPECT_TRUE(form.unloaded && app.document.bModified);
+    EXPECT_EQ(section("[Report Data"), before) << "taken over without a change";
+    EXPECT_EQ(section("[Printed Cols"), "Price|");
     ASSERT_EQ(form.LV3.size(), 3U);
     EXPECT_EQ(form.LV3[0].Text, "Price");
-    EXPECT_TRUE(form.LV3[0].Checked);
-    EXPECT_FALSE(form.LV3[1].Checked);
-    EXPECT_TRUE(form.PortraitOpt && form.boldYesOpt && !form.letterOpt);
-    EXPECT_EQ(form.leftTxt + "," + form.rightTxt + "," + form.TopTxt + "," + form.bottomTxt, "1,0.5,0.25,2");
-    EXPECT_EQ(form.titleTxt, "Old");
 
     EXPECT_FALSE(form.allChk());
     form.allChk_Click(true);
@@ -44,109 +49,88 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     form.allChk_Click(false);
     EXPECT_FALSE(form.LV3[2].Checked);
     form.LV3[0].Checked = form.LV3[1].Checked = true;
+    form.unloaded = false;
+    form.LV3[1].Checked = true;
     form.titleTxt = "  New ";
-    form.boldYesOpt = form.PortraitOpt = false;
-    form.letterOpt = true;
+    form.PortraitOpt = true;
+    form.boldYesOpt = form.letterOpt = false;
     form.leftTxt = "1.5in";
     form.rightTxt = "wide";
+    form.TopTxt = "0.25";
     app.mainFrm.previewPage.iReportStartRow = 9;
     form.ApplyBtn_Click();
     EXPECT_FALSE(form.unloaded);
-    EXPECT_THAT(document.printedCols.items(), ElementsAre("Price", "Name"));
-    EXPECT_TRUE(document.prnInvoiceCols.empty());
-    EXPECT_EQ(document.reportData.reportTitle, "New");
-    EXPECT_EQ(document.reportData.reportLeftMargin, 1.5F);
-    EXPECT_EQ(document.reportData.reportRightMargin, 0); // a text reads as 0
-    EXPECT_EQ(document.reportData.reportPaperSize, 1);
-    EXPECT_EQ(document.reportData.reportOrientation, 2);
-    EXPECT_TRUE(document.bModified);
+    EXPECT_EQ(section("[Report Data"), "1.5|0|0.25|2|5|1|New|False|") << "a text reads as 0";
+    EXPECT_EQ(section("[Printed Cols"), "Price|Name|");
+    EXPECT_EQ(section("[PrnInvoiceCols"), "");
     EXPECT_EQ(textsOf(preview())[1], "Price@3350,360") << "the preview behind it follows";
     form.Command2_Click(); // takes nothing back
     EXPECT_TRUE(form.unloaded);
-    EXPECT_EQ(document.reportData.reportTitle, "New");
-
-    print::reportPageSetup empty(app);
-    for (auto& row : empty.LV3) row.Checked = false;
-    empty.Command1_Click();
-    EXPECT_TRUE(empty.unloaded);
-    EXPECT_EQ(wordsOf(preview()), "New");
+    EXPECT_EQ(app.document.reportData.reportTitle, "New");
 }
 
 TEST_F(PageSetup, EachViewOfAnInvoiceDatabaseKeepsItsColumns) {
     openCopyOf("invoices.fwk");
-    for (const bool itemView : {false, true}) {
-        app.document.bInvoiceView = itemView;
+    for (const std::size_t view : {0U, 1U}) {
+        app.document.bInvoiceView = view == 1;
         print::reportPageSetup form(app);
-        ASSERT_GT(form.LV3.size(), 1U);
         for (auto& row : form.LV3) row.Checked = false;
-        form.LV3[itemView ? 1 : 0].Checked = true;
+        form.LV3.at(view).Checked = true;
         form.ApplyBtn_Click();
-        const auto& kept = itemView ? app.document.prnItemCols : app.document.prnInvoiceCols;
-        EXPECT_THAT(kept.items(), ElementsAre(form.LV3[itemView ? 1 : 0].Text));
-        EXPECT_EQ(kept.items(), app.document.printedCols.items());
+        EXPECT_EQ(section(view == 1 ? "[PrnItemCols" : "[PrnInvoiceCols"), form.LV3[view].Text + "|");
+        EXPECT_EQ(section("[Printed Cols"), form.LV3[view].Text + "|");
     }
-    EXPECT_NE(app.document.prnItemCols.items(), app.document.prnInvoiceCols.items());
+    EXPECT_NE(section("[PrnItemCols"), section("[PrnInvoiceCols"));
 }
 
 TEST_F(PageSetup, LayoutSettingsGoIntoTheFormAndBack) {
-    openRecords(1, "F|Name|1440|1440|2000|1000|False|False|False|Arial|10|0|\r\n");
+    openRecords(1, "F|Name|1440|1440|2000|1000");
     shell::SSTab1_Click(app, app::layoutTab);
+    const std::string before = section("[Layout Options");
     print::layoutPageSetupFrm form(app);
-    ASSERT_EQ(form.paperList.ListItems.size(), 3U);
-    EXPECT_EQ(form.paperList.SelectedItem, 1U);
-    EXPECT_FALSE(form.customFrm.Visible);
-    EXPECT_EQ(form.spacingTxt, "0.15");
+    form.OKButton_Click();
+    EXPECT_EQ(section("[Layout Options"), before) << "taken over without a change";
+    EXPECT_TRUE(form.unloaded && !form.customFrm.Visible);
+    form.unloaded = false;
     form.paperList_ItemClick(2);
-    EXPECT_TRUE(form.customFrm.Visible);
-    for (const char* wrong : {"0", "-1", "x"}) {
-        form.lengthTxt = wrong;
-        form.heightTxt = "5";
-        form.customOkBtn_Click();
-        EXPECT_EQ(platform.lastMessage(), "Invalid values specified. Values must be greater than 0.");
+    form.heightTxt = "5";
+    for (const char* wrong : {"0", "-1", "x", "7"}) {
         EXPECT_TRUE(form.customFrm.Visible);
+        form.lengthTxt = wrong;
+        form.customOkBtn_Click();
+        EXPECT_EQ(told(), *wrong == '7' ? "" : "i Invalid values specified. Values must be greater than 0.");
     }
-    form.lengthTxt = "7";
-    form.customOkBtn_Click();
     EXPECT_FALSE(form.customFrm.Visible);
     form.CancelButton_Click();
-    EXPECT_EQ(app.document.layoutOptions.customPaperLength, 7) << "what was accepted stays";
-    EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 1);
+    EXPECT_EQ(section("[Layout Options"), "7|5|1|1|1|1|1|1|0.15|") << "the lengths accepted stay";
 
-    platform.messages.clear();
-    form.unloaded = false;
+    form.unloaded = app.document.bModified = false;
     form.leftTxt = "2";
+    form.rightTxt = "0.75";
     form.bottomTxt = "none";
-    form.spacingTxt = "0.5";
     form.PortraitOpt = false;
-    form.OKButton_Click();
-    EXPECT_TRUE(form.unloaded);
-    EXPECT_TRUE(platform.messages.empty());
-    const core::LayoutOptions& options = app.document.layoutOptions;
-    EXPECT_EQ(options.layoutLeftMargin, 2);
-    EXPECT_EQ(options.layoutBottomMargin, 0);
-    EXPECT_EQ(options.layoutSpacing, 0.5F);
-    EXPECT_EQ(options.layoutOrientation, 2);
-    EXPECT_EQ(options.layoutPaperSize, 256);
-    EXPECT_TRUE(app.document.bModified);
+    for (const auto& [spacing, message] : {std::pair("narrow", 1), {"0.5", 0}}) {
+        EXPECT_FALSE(form.unloaded || app.document.bModified);
+        form.spacingTxt = spacing;
+        form.OKButton_Click();
+        EXPECT_EQ(told().starts_with("i Printer Not Installed"), message == 1);
+    }
+    EXPECT_EQ(section("[Layout Options"), "7|5|2|1|0|0.75|256|2|0.5|");
+    EXPECT_TRUE(form.unloaded && app.document.bModified);
     EXPECT_EQ(app.mainFrm.layoutPage.layoutPic2.Width, 7 * 1440) << "the sheet follows";
     EXPECT_EQ(app.mainFrm.previewPage.rptPreview1.Width, 7 * 1440) << "and the preview";
     EXPECT_EQ(wordsOf(preview()), "r1");
 }
 
-TEST_F(PageSetup, OddPapersAndSpacings) {
-    openRecords(1, "F|Name|1440|1440|2000|1000|False|False|False|Arial|10|0|\r\n");
+TEST_F(PageSetup, ListsOfPapers) {
+    openRecords(3, "F|Name|1440|1440|2000|1000");
+    run("Multiple_Layout_Preview_All");
     app.document.layoutOptions.layoutPaperSize = 5; // the printer has no such paper
     print::layoutPageSetupFrm form(app);
     EXPECT_FALSE(form.paperList.SelectedItem.has_value());
-    form.spacingTxt = "narrow";
-    form.OKButton_Click();
-    EXPECT_EQ(platform.messages.back().caption, "Printer Not Installed");
-    EXPECT_FALSE(form.unloaded);
-    EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 5);
-    form.spacingTxt = "0";
     form.OKButton_Click();
     EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 9) << "the first of the list";
-
+    EXPECT_EQ(wordsOf(preview()), "r1 r2 r3");
     platform.paperNames = {{"A4", 9}, {"A4", 70}};
     EXPECT_THROW(print::layoutPageSetupFrm{app}, core::RunTimeError);
 }

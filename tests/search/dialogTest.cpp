@@ -1,237 +1,175 @@
 #include "searchProgram.h"
 
-#include "shell/commands.h"
 #include "shell/listEvents.h"
 #include "shell/mainWindow.h"
-
-#include <sstream>
 
 using namespace search;
 
 namespace {
 
-const DataFile shelf = [] {
-    DataFile data({{"Name", 3}, {"Qty", 4}, {"Price", 2}, {"Bought", 1}, {"Cover", 7}});
-    data.widths = "1440|900|800|1000|1200|";
-    data.spots = "1|3|2|4|5|6|";
-    data.rows =
-        "Bolt|12|$1.50|01/05/2004||\r\nNut|7|$.25|02/05/2004||\r\n------|------|------|------|------|\r\n";
-    return data;
-}();
+struct Dialog : testing::Test, SearchProgram {
+    Dialog()
+        : SearchProgram(DataFile("Name Qty:4 Price:2 Bought:1 Cover:7",
+                                 "Bolt|12|$1.50|01/05/2004|;Nut|7|$.25|02/05/2004|")) {}
+    core::Document& document = app.document;
+    // "results on show, Formulas, Delete, Search pressed, records", 1 for yes.
+    std::string state() {
+        EXPECT_EQ(app.mainFrm.theListView == &document.searchLV, document.searchLV.Visible);
+        std::string text(1, document.searchLV.Visible ? '1' : '0');
+        for (const char* key : {"Formulas", "Delete"}) text += app.mainFrm.control(key).Enabled ? '1' : '0';
+        return text + (app.mainFrm.control("Search").Value ? "1 " : "0 ") + panel(app::recordsPanel);
+    }
+};
 
-TEST(Dialog, OffersTheColumnsAndTakesThemOver) {
-    SearchProgram program(shelf);
-    program.app.document.LV.columns.setPosition(2, 4); // as the user dragged them
-    program.inDialog([&](searchFrm& form) {
+TEST_F(Dialog, TakesOverTheColumns) {
+    document.LV.columns.setPosition(2, 4); // as the user dragged them
+    inDialog([&](searchFrm& form) {
         for (int group = 0; group < 3; ++group) {
-            EXPECT_EQ(form.list(group).items,
-                      (std::vector<std::string>{"Name", "Qty", "Price", "Bought", "Cover"}));
+            EXPECT_EQ(form.list(group).items.size(), 5U);
             EXPECT_EQ(form.list(group).Text(), "Name");
             EXPECT_EQ(form.options(group).Value, greaterOrEqual);
         }
     });
-    const auto told = [](const core::ColumnHeaders& columns) {
-        std::ostringstream text;
-        for (const core::Column& c : columns)
-            text << c.Text << c.Tag << c.Width << "," << c.Position << static_cast<int>(c.align) << c.Icon
-                 << ";";
-        return text.str();
-    };
-    EXPECT_EQ(told(program.app.document.searchLV.columns), told(program.app.document.LV.columns));
+    EXPECT_EQ(document.searchLV.columns.displayOrder(), document.LV.columns.displayOrder());
+    for (const core::Column& c : document.LV.columns) {
+        const core::Column& copy = document.searchLV.columns.at(c.Index);
+        EXPECT_TRUE(copy.Text == c.Text && copy.Tag == c.Tag && copy.Width == c.Width &&
+                    copy.align == c.align);
+        EXPECT_EQ(copy.Icon, c.Icon);
+    }
 }
 
-TEST(Dialog, ChecksWhatIsTyped) {
-    const char* const noNumber = "You entered a non numeric value.";
-    const char* const noDate = "You entered an invalid date.";
-    struct {
-        const char* column;
-        const char* typed;
-        const char* left;
-        const char* message;
-    } const cases[] = {{"Price", "1234", "12.34", ""},
-                       {"Price", "5", "5.00", ""},
-                       {"Price", "x", "x", noNumber},
-                       {"Price", "", "", ""},
-                       {"Qty", "x", "x", ""},
-                       {"Name", "1234", "1234", ""},
-                       {"Bought", "13/13/2004", "", noDate},
-                       {"Bought", "12//", "", noDate},
-                       {"Bought", "1/5/2004", "1/5/2004", ""},
-                       {"Bought", "Jan 5", "Jan 5", ""},
-                       {"Bought", "  ", "  ", ""}};
-    for (const auto& c : cases)
-        for (const int index : {0, 3, 5}) {
-            SearchProgram program(shelf);
-            program.inDialog([&](searchFrm& form) {
-                SearchProgram::type(form, index / 2, c.column, exact, "");
-                form.SearchText.at(static_cast<std::size_t>(index)).Text = c.typed;
+// A box is left, or Enter is pressed in it.
+TEST_F(Dialog, ChecksWhatIsTyped) {
+    const auto cases =
+        table("Price -> 1234 -> 12.34; Price -> 5 -> 5.00; Price; Qty -> x -> x; Name -> 1234 -> 1234; "
+              "Price -> x -> x -> ! Verify Data: You entered a non numeric value.; Bought -> Jan 5 -> Jan 5; "
+              "Bought ->    "
+              "->   ; "
+              "Bought -> 13/13/2004 ->  -> i You entered an invalid date.; "
+              "Bought -> 12// ->  -> i You entered an invalid date.",
+              4);
+    inDialog([&](searchFrm& form) {
+        for (const auto& c : cases)
+            for (const int index : {0, 3, 5}) {
+                type(form, index / 2, c[0] + " = ");
+                auto& box = form.SearchText.at(static_cast<std::size_t>(index));
+                box.Text = c[1];
+                form.SearchText_KeyDown(index, 'A');
+                EXPECT_EQ(box.Text, c[1]);
                 form.SearchText_LostFocus(index);
-                EXPECT_EQ(form.SearchText.at(static_cast<std::size_t>(index)).Text, c.left)
-                    << c.column << c.typed;
-            });
-            EXPECT_EQ(program.platform.lastMessage(), c.message) << c.column << c.typed;
-        }
-}
-
-TEST(Dialog, SlashesComeByThemselvesInDateColumnsAlone) {
-    SearchProgram program(shelf);
-    program.inDialog([&](searchFrm& form) {
-        const auto change = [&](int index, const char* text) {
-            auto& box = form.SearchText.at(static_cast<std::size_t>(index));
-            box.Text = text;
-            form.SearchText_Change(index);
-            return box.Text;
-        };
-        EXPECT_EQ(change(2, "12"), "12");
-        SearchProgram::type(form, 1, "Bought", exact, "");
-        for (const int index : {2, 3}) {
-            EXPECT_EQ(change(index, "12"), "12/");
-            EXPECT_EQ(change(index, "12/31"), "12/31/");
-            EXPECT_EQ(change(index, "12/3"), "12/3");
-        }
-        EXPECT_EQ(change(0, "12"), "12"); // another group's
-        EXPECT_EQ(form.SearchText[3].SelStart, 6);
-    });
-}
-
-TEST(Dialog, ChoosingAColumnSetsRangeAndClearsBoxes) {
-    SearchProgram program(shelf);
-    program.inDialog([&](searchFrm& form) {
-        EXPECT_FALSE(form.Opt1.rangeEnabled);
-        SearchProgram::type(form, 0, "Qty", range, "5", "1/1/2004");
-        SearchProgram::type(form, 1, "Qty", range, "5", "6");
-        EXPECT_TRUE(form.Opt1.rangeEnabled);
-        form.List_Click(0, 3); // Bought
-        EXPECT_TRUE(form.Opt1.rangeEnabled);
-        EXPECT_EQ(form.SearchText[0].Text, "");
-        EXPECT_EQ(form.SearchText[1].Text, "1/1/2004");
-        EXPECT_EQ(form.SearchText[2].Text, "5");
-        form.List_Click(0, 4); // Cover
-        EXPECT_FALSE(form.Opt1.rangeEnabled);
-        EXPECT_EQ(form.Opt1.Value, range); // greyed, and still what the search goes by
-        form.List_Click(0, 0);
-        form.SearchText[0].Text = "A";
-        form.SearchText[1].Text = "C";
-        form.SearchText[2].Text = "";
-        form.searchBtn_Click();
-    });
-    EXPECT_EQ(program.found(), "i1");
-    EXPECT_TRUE(program.platform.messages.empty());
-}
-
-TEST(Dialog, EnterChecksTheBoxAndSearches) {
-    SearchProgram program(shelf);
-    program.inDialog([&](searchFrm& form) {
-        SearchProgram::type(form, 0, "Price", exact, "150");
-        form.SearchText_KeyDown(0, 'A');
-        EXPECT_FALSE(program.app.document.searchLV.Visible);
+                EXPECT_EQ(box.Text, c[2]) << c[0] << c[1];
+                EXPECT_EQ(told(), c[3]) << c[0] << c[1];
+            }
+        EXPECT_FALSE(document.searchLV.Visible);
+        type(form, 0, "Price = 150");
         form.SearchText_KeyDown(0, searchFrm::enterKey);
         EXPECT_EQ(form.SearchText[0].Text, "1.50");
-        EXPECT_EQ(program.found(), "i1");
+        EXPECT_EQ(found(), "i1");
     });
 }
 
-TEST(Mode, StatesOfTheWindow) {
-    SearchProgram program(shelf);
-    core::Document& document = program.app.document;
-    app::MainFrm& mainFrm = program.app.mainFrm;
-    const auto expectOff = [&](const char* when) {
-        EXPECT_FALSE(document.searchLV.Visible) << when;
-        EXPECT_EQ(mainFrm.theListView, &document.LV) << when;
-        EXPECT_TRUE(program.isEnabled("Formulas")) << when;
-        EXPECT_TRUE(program.isEnabled("Delete")) << when;
-        EXPECT_FALSE(program.isDown()) << when;
-        EXPECT_EQ(program.recordsPanel(), "2 records.") << when;
-    };
-    const auto expectResults = [&](const char* when) {
-        EXPECT_TRUE(document.searchLV.Visible) << when;
-        EXPECT_EQ(mainFrm.theListView, &document.searchLV) << when;
-        EXPECT_FALSE(program.isEnabled("Formulas")) << when;
-        EXPECT_FALSE(program.isEnabled("Delete")) << when;
-        EXPECT_TRUE(program.isDown()) << when;
-    };
-    expectOff("at start");
-    program.inDialog([&](searchFrm&) {
-        EXPECT_TRUE(program.isDown());
-        EXPECT_FALSE(program.isEnabled("Delete"));
-        EXPECT_TRUE(program.isEnabled("Formulas"));
-    });
-    expectOff("closed at once");
-    program.inDialog([&](searchFrm& form) {
-        SearchProgram::type(form, 0, "Name", exact, "nut");
+TEST_F(Dialog, TheColumnDecidesAboutSlashesRangesAndWhatStays) {
+    inDialog([&](searchFrm& form) {
+        const auto change = [&](std::size_t index, const char* text) {
+            form.SearchText.at(index).Text = text;
+            form.SearchText_Change(static_cast<int>(index));
+            return form.SearchText.at(index).Text;
+        };
+        EXPECT_EQ(change(2, "12"), "12");
+        type(form, 1, "Bought = ");
+        for (const std::size_t index : {2U, 3U})
+            for (const auto& [typed, text] : {std::pair("12", "12/"), {"12/3", "12/3"}, {"12/31", "12/31/"}})
+                EXPECT_EQ(change(index, typed), text);
+        EXPECT_EQ(form.SearchText[3].SelStart, 6);
+        EXPECT_EQ(change(0, "12"), "12"); // another group's
+
+        EXPECT_FALSE(form.Opt1.rangeEnabled);
+        type(form, 0, "Qty .. 5 to 1/1/2004");
+        type(form, 1, "Qty .. 5 to 6");
+        for (const auto& [column, enabled] : {std::pair(1, true), {3, true}, {4, false}}) {
+            form.List_Click(0, column);
+            EXPECT_EQ(form.Opt1.rangeEnabled, enabled);
+        }
+        EXPECT_EQ(form.SearchText[0].Text + "," + form.SearchText[1].Text, ",1/1/2004");
+        EXPECT_EQ(form.SearchText[2].Text + "," + form.SearchText[3].Text, "5,6");
+        EXPECT_EQ(form.Opt1.Value, range); // greyed, and still what the search goes by
+        form.List_Click(0, 0);
+        for (const auto& [box, text] : {std::pair(0U, "A"), {1U, "C"}, {2U, ""}})
+            form.SearchText.at(box).Text = text;
         form.searchBtn_Click();
-        expectResults("dialog open");
-        EXPECT_EQ(program.recordsPanel(), "1 records.");
-        form.allBtn_Click();
-        EXPECT_TRUE(program.isDown());
     });
-    expectOff("after All");
-    EXPECT_EQ(program.find({{"Name", exact, "nut", ""}}), "i2");
-    expectResults("dialog closed");
-    shell::runCommand(program.app, "Search"); // released
-    expectOff("button released");
-    EXPECT_EQ(program.find({}), "-");
-    // An empty value shows an empty list all the same, and keeps the panel.
-    expectResults("nothing typed");
-    EXPECT_EQ(document.searchLV.count(), 1);
-    EXPECT_EQ(program.recordsPanel(), "2 records.");
-    program.open(document.currentFile);
-    expectOff("another database opened");
+    EXPECT_EQ(found(), "i1");
+    EXPECT_EQ(told(), "");
 }
 
-TEST(Mode, DeleteStaysOffWhenTheDialogClosesOverAnotherTab) {
-    SearchProgram program(shelf);
-    shell::SSTab1_Click(program.app, app::layoutTab);
-    program.inDialog([](searchFrm&) {});
-    EXPECT_FALSE(program.isEnabled("Delete"));
+TEST_F(Dialog, StatesOfTheWindow) {
+    const std::string off = "0110 2 records.";
+    EXPECT_EQ(state(), off);
+    inDialog([&](searchFrm& form) {
+        EXPECT_EQ(state(), "0101 2 records.");
+        type(form, 0, "Name = nut");
+        form.searchBtn_Click();
+        EXPECT_EQ(state(), "1001 1 records.");
+        form.allBtn_Click();
+        EXPECT_EQ(state(), "0101 2 records.");
+    });
+    EXPECT_EQ(state(), off);
+    EXPECT_EQ(find("Name = nut"), "i2");
+    EXPECT_EQ(state(), "1001 1 records.");
+    run("Search"); // released
+    EXPECT_EQ(state(), off);
+    platform.forms.clear();
+    run("Search"); // and pressed
+    EXPECT_EQ(platform.forms.size(), 1U);
+    EXPECT_EQ(find(""), "-");
+    EXPECT_EQ(state(), "1001 2 records.") << "an empty value shows an empty list, and keeps the panel";
+    open(document.currentFile);
+    EXPECT_EQ(state(), off);
+    shell::SSTab1_Click(app, app::layoutTab);
+    inDialog([](searchFrm&) {});
+    EXPECT_FALSE(app.mainFrm.control("Delete").Enabled) << "the dialog closed over another tab";
+    open(DataFile("", ""));
+    platform.forms.clear();
+    for (const char* key : {"Search", "mnuSearch"}) run(key);
+    EXPECT_TRUE(platform.forms.empty()) << "without columns nothing happens";
+    EXPECT_FALSE(app.mainFrm.control("Search").Value);
 }
 
-TEST(Mode, WithoutColumnsNothingHappens) {
-    SearchProgram program(DataFile({}));
-    for (const char* key : {"Search", "mnuSearch"}) shell::runCommand(program.app, key);
-    EXPECT_TRUE(program.platform.forms.empty());
-    EXPECT_FALSE(program.isDown());
-}
-
-TEST(Mode, TheInvoiceListsGiveWayAndLVIsCounted) {
-    SearchProgram program("invoices.fwk");
-    core::Document& document = program.app.document;
-    shell::viewOpt_Click(program.app, 0);
+TEST_F(Dialog, TheInvoiceListsGiveWayAndLVIsCounted) {
+    openCopyOf("invoices.fwk");
+    shell::viewOpt_Click(app, 0);
     const int invoices = document.LV.count() - 1;
     ASSERT_NE(invoices, document.iLV.count() - 1);
-    program.inDialog([&](searchFrm& form) {
+    inDialog([&](searchFrm& form) {
         ASSERT_EQ(form.List1.items.size(), static_cast<std::size_t>(document.iLV.columns.count() - 1));
-        form.SearchText[0].Text = " ";
         form.searchBtn_Click();
-        EXPECT_EQ(&shell::visibleList(program.app), &document.searchLV);
+        EXPECT_EQ(&shell::visibleList(app), &document.searchLV);
         form.allBtn_Click();
-        EXPECT_EQ(&shell::visibleList(program.app), &document.iLV);
+        EXPECT_EQ(&shell::visibleList(app), &document.iLV);
     });
-    EXPECT_EQ(program.app.mainFrm.theListView, &document.LV);
-    EXPECT_EQ(program.recordsPanel(), std::to_string(invoices) + " records.");
+    EXPECT_EQ(app.mainFrm.theListView, &document.LV);
+    EXPECT_EQ(panel(app::recordsPanel), std::to_string(invoices) + " records.");
 }
 
-TEST(Mode, ResultsSortSelectAndLeadToTheRecord) {
-    SearchProgram program(shelf);
-    core::Document& document = program.app.document;
-    EXPECT_EQ(program.find({{"Qty", greaterOrEqual, "1", ""}}), "i1 i2");
-    shell::list_ColumnClick(program.app, document.searchLV, document.searchLV.columns["Qty"].Index);
-    EXPECT_EQ(program.found(), "i1 i2"); // the first sort is descending
-    shell::list_ColumnClick(program.app, document.searchLV, document.searchLV.columns["Price"].Index);
-    EXPECT_EQ(program.found(), "i2 i1");
-    EXPECT_TRUE(document.searchLV.at(3).isTotals());
-
-    document.searchLV.setSelectedItem(&document.searchLV.at(3));
-    const std::string sums = Program::cells(document.LV3);
-    shell::list_Click(program.app, document.searchLV);
-    EXPECT_EQ(Program::cells(document.LV3), sums); // the Totals row is no record
-
-    shell::list_DblClick(program.app, document.searchLV);
-    EXPECT_EQ(program.app.mainFrm.SSTab1, app::layoutTab);
-    shell::SSTab1_Click(program.app, app::reportTab);
-    EXPECT_EQ(program.find({{"Name", exact, "none", ""}}), "-");
-    shell::list_DblClick(program.app, document.searchLV);
-    EXPECT_EQ(program.app.mainFrm.SSTab1, app::reportTab);
+TEST_F(Dialog, ResultsSortSelectAndLeadToTheRecord) {
+    EXPECT_EQ(find("Qty >= 1"), "i1 i2");
+    core::RecordsList& results = document.searchLV;
+    for (const auto& [column, order] : {std::pair("Qty", "i1 i2"), {"Price", "i2 i1"}}) { // descending first
+        shell::list_ColumnClick(app, results, results.columns[column].Index);
+        EXPECT_EQ(found(), order);
+    }
+    EXPECT_TRUE(results.at(3).isTotals());
+    results.setSelectedItem(&results.at(3));
+    const std::string sums = cells(document.LV3);
+    shell::list_Click(app, results);
+    EXPECT_EQ(cells(document.LV3), sums); // the Totals row is no record
+    shell::list_DblClick(app, results);
+    EXPECT_EQ(app.mainFrm.SSTab1, app::layoutTab);
+    shell::SSTab1_Click(app, app::reportTab);
+    EXPECT_EQ(find("Name = none"), "-");
+    shell::list_DblClick(app, results);
+    EXPECT_EQ(app.mainFrm.SSTab1, app::reportTab);
 }
 
 } // namespace

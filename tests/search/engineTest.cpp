@@ -1,182 +1,124 @@
+#include "core/text.h"
+#include "raised.h"
 #include "searchProgram.h"
 
-#include "core/runTimeError.h"
-
-using namespace search;
+#include <random>
 
 namespace {
 
-constexpr const char* dateType = "1";
-constexpr const char* currencyType = "2";
-constexpr const char* textType = "3";
-constexpr const char* numberType = "4";
-constexpr const char* calculationType = "5";
-constexpr const char* pictureType = "7";
-
-// Each row of a table searches one column; the cells and what is found are named by their keys.
-struct Case {
-    const char* why;
-    const char* type;
-    int option;
-    const char* value;
-    const char* to;
-    const char* found;
-};
-
-void check(const std::vector<std::string>& cells, const std::vector<Case>& cases) {
-    for (const Case& c : cases) {
-        SearchProgram program(oneColumn(c.type, cells));
-        EXPECT_EQ(program.find({{"C", c.option, c.value, c.to}}), c.found) << c.why;
+// Searches of one column of a type, and what each finds; "error" where it ends in a run-time error.
+void check(const char* type, const std::string& cells, const char* cases) {
+    SearchProgram program(DataFile(std::string("C:") + type, cells));
+    for (const auto& each : table(cases)) {
+        std::string found;
+        const int error = raisedBy([&] { found = program.find("C " + each[0]); });
+        EXPECT_EQ(error == core::errors::typeMismatch ? "error" : found, each[1]) << type << each[0];
+        EXPECT_TRUE(program.app.document.searchLV.Visible) << each[0];
     }
 }
 
 TEST(Engine, NumbersInNumericColumns) {
-    check(
-        {"5", "5.00", "5.001", "5.01", "1,234", "$1,234.50", "-3", "", "12.5", "$5"},
-        {
-            {"rounded to two places", currencyType, exact, "5", "", "i1 i2 i3"},
-            {"the value is rounded too", currencyType, exact, "5.004", "", "i1 i2 i3"},
-            {"a half away from zero", numberType, exact, "5.005", "", "i4"},
-            {"a comma ends a cell without a point", numberType, exact, "1", "", "i5"},
-            {"with a point the comma does not", calculationType, exact, "$1,234.5", "", "i6"},
-            {"a dollar sign without a point", numberType, exact, "0", "", "i8 i10"},
-            {"what is no number is 0", numberType, greaterOrEqual, "abc", "", "i1 i2 i3 i4 i5 i6 i8 i9 i10"},
-            {"below", numberType, lessOrEqual, "0", "", "i7 i8 i10"},
-            {"both ends belong to it", numberType, range, "5", "12.5", "i1 i2 i3 i4 i9"},
-            {"no upper bound is 0", numberType, range, "1", "", "-"},
-            {"and reaches up to 0", currencyType, range, "-3", " ", "i7 i8 i10"},
-            {"the number is sought within", numberType, within, "12.50", "", "i9"},
-            {"in the cell as it stands", currencyType, within, "5.0", "", "i1 i2 i3 i4 i6 i9 i10"},
-            {"with its commas", numberType, within, "1,234", "", "-"},
-            {"blanks around are nothing", numberType, exact, "  12.5 ", "", "i9"},
-        });
+    // Cells and values with a point are rounded to two places, a half away from zero. A comma ends a cell
+    // without one, and a dollar sign makes it 0, as any text is. No upper bound is 0 too. What is within is
+    // sought as a number, in the cell as it stands.
+    for (const char* type : {"2", "4", "5"})
+        check(type, "5;5.00;5.001;5.01;1,234;$1,234.50;-3;;12.5;$5",
+              "= 5 -> i1 i2 i3; = 5.004 -> i1 i2 i3; = 5.005 -> i4; = 1 -> i5; = $1,234.5 -> i6; = 0 -> i8 "
+              "i10; "
+              "=   12.5  -> i9; >= abc -> i1 i2 i3 i4 i5 i6 i8 i9 i10; >= 12.5 -> i6 i9; <= 0 -> i7 i8 i10; "
+              ".. 5 to 12.5 -> i1 i2 i3 i4 i9; .. 1 -> -; .. -3 to   -> i7 i8 i10; "
+              "~ 12.50 -> i9; ~ 5.0 -> i1 i2 i3 i4 i6 i9 i10; ~ 1,234 -> -");
 }
 
 TEST(Engine, TextsInAllOtherColumns) {
-    check({"abc", " ABC ", "Janet", "BANANA", "", "\xC3\xA9t\xC3\xA9", "Abd", "lap dog"},
-          {
-              {"trimmed and in any case", textType, exact, " aBc ", "", "i1 i2"},
-              {"in a Picture column too", pictureType, exact, "ABC", "", "i1 i2"},
-              {"within", textType, within, "an", "", "i3 i4"},
-              {"within, blanks inside the value count", textType, within, "P D", "", "i8"},
-              {"accents fold", textType, exact, "\xC3\x89T\xC3\x89", "", "i6"},
-              {"above, by code", textType, greaterOrEqual, "abd", "", "i3 i4 i6 i7 i8"},
-              {"below: the empty cell too", textType, lessOrEqual, "abc", "", "i1 i2 i5"},
-              {"range: bounds in upper case, cells not", textType, range, "a", "b", "i7"},
-              {"range without an upper bound", textType, range, "a", "", "-"},
-              {"a Date column's texts are texts", dateType, within, "AN", "", "i3 i4"},
-          });
+    // The bounds of a range are in upper case, the cells not.
+    for (const char* type : {"1", "3", "7"})
+        check(type, "abc; ABC ;Janet;BANANA;;été;Abd;lap dog",
+              "=  aBc  -> i1 i2; ~ an -> i3 i4; ~ P D -> i8; = ÉTÉ -> i6; >= abd -> i3 i4 i6 i7 i8; "
+              "<= abc -> i1 i2 i5; .. banana to BANANA -> i4; .. a -> -");
+    check("3", "abc; ABC ;Abd;b", ".. a to b -> i3");
 }
 
 TEST(Engine, DatesWhereverACellReadsLikeOne) {
-    const std::vector<std::string> cells = {"01/05/2004", "Jan 5 2004", "2004-01-06",    "12/31/2003",
-                                            "",           "5 Jan 04",   "1/5/2004 10:30"};
-    for (const char* type : {dateType, textType, pictureType})
-        check(cells, {
-                         {"the day, in whatever form", type, exact, "1/5/2004", "", "i1 i2 i6 i7"},
-                         {"other form of the value", type, exact, "jan 5, 2004", "", "i1 i2 i6 i7"},
-                         {"from", type, greaterOrEqual, "01/06/2004", "", "i3"},
-                         {"up to, and blank cells as texts", type, lessOrEqual, "1/1/2004", "", "i4 i5"},
-                         {"range", type, range, "1/1/2004", "1/5/2004", "i1 i2 i6 i7"},
-                         {"within is upper case in the raw cell", type, within, "JAN", "", "-"},
-                         {"within digits", type, within, "/2004", "", "i1 i7"},
-                     });
-    // A numeric column never compares days.
-    check(cells, {{"numbers", numberType, exact, "1/5/2004", "", "i1 i7"}});
-}
-
-TEST(Engine, ADateThatCannotBeReadEndsTheSearch) {
-    struct {
-        int option;
-        const char* value;
-        const char* to;
-        bool fails;
-    } const cases[] = {{greaterOrEqual, "abc", "", true},
-                       {lessOrEqual, "abc", "", true},
-                       {exact, "12", "", true},
-                       {within, "abc", "", false},
-                       {range, "1/1/2004", "", true},
-                       {range, "1/1/2030", "abc", true},
-                       {range, "1/1/2004", "1/1/2005", false}};
-    for (const auto& c : cases) {
-        SearchProgram program(oneColumn(textType, {"abc", "1/5/2004", "xyz"}));
-        try {
-            program.find({{"C", c.option, c.value, c.to}});
-            EXPECT_FALSE(c.fails) << c.option << c.value;
-        } catch (const core::RunTimeError& error) {
-            EXPECT_TRUE(c.fails) << c.option << c.value;
-            EXPECT_EQ(error.number, core::errors::typeMismatch);
-            EXPECT_TRUE(program.app.document.searchLV.Visible); // it stopped in the middle
-        }
+    const std::string cells = "01/05/2004;Jan 5 2004;2004-01-06;12/31/2003;;5 Jan 04;1/5/2004 10:30";
+    for (const char* type : {"1", "3", "7"}) {
+        // Within is in upper case, and the cell is not.
+        check(type, cells,
+              "= 1/5/2004 -> i1 i2 i6 i7; = jan 5, 2004 -> i1 i2 i6 i7; >= 01/06/2004 -> i3; "
+              "<= 1/1/2004 -> i4 i5; .. 1/1/2004 to 1/5/2004 -> i1 i2 i6 i7; ~ JAN -> -; ~ /2004 -> i1 i7");
+        // A bound that is no date ends the search at the first cell that is one.
+        check(type, "abc;1/5/2004;xyz",
+              ">= abc -> error; <= abc -> error; = 12 -> error; ~ abc -> i1; .. 1/1/2004 -> error; "
+              ".. 1/1/2030 to abc -> error; .. 1/1/2004 to 1/1/2005 -> i2");
+        check(type, "abc;xyz", ">= x -> i2");
     }
-    // Only a cell that is a date asks for one.
-    SearchProgram program(oneColumn(dateType, {"abc", "xyz"}));
-    EXPECT_EQ(program.find({{"C", greaterOrEqual, "x", ""}}), "i2");
+    check("4", cells, "= 1/5/2004 -> i1 i7"); // a numeric column never compares days
 }
 
-TEST(Engine, GroupsAreChainedUpToTheFirstBlankOne) {
-    const std::string books = "Bolt|12|$1.50|\r\nNut|7|$.25|\r\nBolt|7|$2.00|\r\n------|------|------|\r\n";
-    DataFile data;
-    data.rows = books;
-    const Group bolt{"Name", exact, "bolt", ""};
-    const Group seven{"Qty", exact, "7", ""};
-    const Group cheap{"Price", lessOrEqual, "1.5", ""};
-    const Group blank{"Qty", exact, "  ", "9"};
-    struct {
-        std::vector<Group> groups;
-        const char* found;
-    } const cases[] = {{{bolt}, "i1 i3"},
-                       {{bolt, seven}, "i3"},
-                       {{seven, bolt, cheap}, "-"},
-                       {{seven, cheap}, "i2"},
-                       {{bolt, blank, cheap}, "i1 i3"},
-                       {{blank, bolt}, "-"},
-                       {{bolt, seven, blank}, "i3"},
-                       {{bolt, bolt, bolt}, "i1 i3"}};
-    for (const auto& c : cases) {
-        SearchProgram program(data);
-        EXPECT_EQ(program.find(c.groups), c.found);
+// Records of plain words and whole numbers, for which a loop can tell what is found; blank groups end the
+// chain.
+TEST(Engine, FindsWhatALoopFinds) {
+    std::mt19937 random(5);
+    const auto word = [&] { return std::string(1 + random() % 3, static_cast<char>('a' + random() % 4)); };
+    std::vector<std::pair<std::string, int>> rows;
+    std::string records;
+    for (int i = 0; i < 200; ++i) {
+        rows.emplace_back(word(), static_cast<int>(random() % 40) - 9);
+        records += rows.back().first + "|" + std::to_string(rows.back().second) + ";";
+    }
+    SearchProgram program(DataFile("Name Qty:4", records));
+    const auto holds = [](const std::string& option, const auto& cell, const auto& value) {
+        return option == ">=" ? cell >= value : option == "<=" ? cell <= value : cell == value;
+    };
+    const std::vector<std::string> options = {">=", "<=", "="};
+    for (int round = 0; round < 60; ++round) {
+        std::vector<bool> wanted(rows.size(), true);
+        std::string groups;
+        const std::size_t count = 1 + random() % 3, blank = random() % 5;
+        for (std::size_t group = 0; group < count; ++group) {
+            const std::string name = word(), option = options[random() % 3];
+            const int qty = static_cast<int>(random() % 40) - 9;
+            const bool byName = random() % 2 == 0;
+            groups += (group > 0 ? " & " : "") + std::string(byName ? "Name " : "Qty ") + option + " " +
+                      (group == blank ? " "
+                       : byName       ? core::upper(name)
+                                      : std::to_string(qty));
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                if (group < blank)
+                    wanted[i] = wanted[i] && (byName ? holds(option, rows[i].first, name)
+                                                     : holds(option, rows[i].second, qty));
+        }
+        std::string keys;
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            if (wanted[i] && blank > 0) keys += (keys.empty() ? "i" : " i") + std::to_string(i + 1);
+        EXPECT_EQ(program.find(groups), keys.empty() ? "-" : keys) << groups;
     }
 }
 
 TEST(Engine, ResultsAreCopiesWithATotalsRowOfTheirOwn) {
-    DataFile data;
-    data.more = "[Totaled Cols  ]Qty|Price|\r\n";
-    data.rows = "Bolt|12|$1.50|\r\nNut|7|$.25|\r\nBolt|7|$2.00|\r\n------|26|$3.75|\r\n";
-    SearchProgram program(data);
+    SearchProgram program(DataFile("Name Qty:4 Price:2", "Bolt|12|$1.50;Nut|7|$.25;Bolt|7|$2.00")
+                              .section("Totaled Cols", "Qty|Price|"));
     core::Document& document = program.app.document;
-    const std::string before = Program::cells(document.LV);
-    EXPECT_EQ(program.find({{"Name", exact, "bolt", ""}}), "i1 i3");
-    EXPECT_EQ(Program::cells(document.searchLV), "Bolt|12|$1.50|;Bolt|7|$2.00|;------|19|$3.50|;");
-    EXPECT_EQ(document.searchLV.at(1).Key, "i1");
-    EXPECT_TRUE(document.searchLV.at(3).isTotals());
-    EXPECT_EQ(program.recordsPanel(), "2 records.");
-    // The last record found is selected, and the sums of the selected ones are its own.
-    EXPECT_EQ(document.searchLV.selectedItem(), &document.searchLV.at(2));
-    EXPECT_EQ(document.LV3.at(1).subItem(1), "7");
-    EXPECT_EQ(document.LV3.at(2).subItem(1), "$2.00");
-    EXPECT_EQ(Program::cells(document.LV), before);
+    const std::string before = program.cells();
+    // Each search begins with all records. The sums of the selected are those of the last one found.
+    for (const auto& c : table("Name = bolt -> i1 i3 -> Bolt|12|$1.50|;Bolt|7|$2.00|;------|19|$3.50| -> 2 "
+                               "records. -> 7|;$2.00|; "
+                               "Name = nut -> i2 -> Nut|7|$.25|;------|7|$.25| -> 1 records. -> 7|;$.25|; "
+                               "Name = screw -> - -> ------|------|------| -> 1 records. -> |;|")) {
+        EXPECT_EQ(program.find(c[0]), c[1]);
+        EXPECT_EQ(Program::cells(document.searchLV), c[2] + ";");
+        EXPECT_EQ(program.panel(app::recordsPanel), c[3]);
+        EXPECT_EQ(Program::cells(document.LV3), c[4] + ";");
+        EXPECT_EQ(program.app.mainFrm.theListView, &document.searchLV);
+        EXPECT_TRUE(document.searchLV.at(document.searchLV.count()).isTotals());
+        EXPECT_EQ(program.cells(), before);
+    }
     EXPECT_FALSE(document.bModified);
 
-    // Again the same, not narrowed; and nothing found leaves the panel and the sums.
-    EXPECT_EQ(program.find({{"Name", within, "t", ""}}), "i1 i2 i3");
-    EXPECT_EQ(program.recordsPanel(), "3 records.");
-    EXPECT_EQ(program.find({{"Name", exact, "screw", ""}}), "-");
-    EXPECT_EQ(Program::cells(document.searchLV), "------|------|------|;");
-    EXPECT_EQ(program.recordsPanel(), "3 records.");
-    EXPECT_EQ(document.LV3.at(1).subItem(1), "");
-    EXPECT_EQ(program.app.mainFrm.theListView, &document.searchLV);
-}
-
-TEST(Engine, InvoicesAreFoundByTheRowsOnShow) {
-    SearchProgram program("invoices.fwk");
-    core::Document& document = program.app.document;
-    ASSERT_GT(document.iLV.count(), 3);
-    const core::Item& row = document.iLV.at(2);
+    program.openCopyOf("invoices.fwk"); // invoices are found by the rows on show
     const core::Column& column = document.iLV.columns.at(2);
-    const std::string cell = core::RecordsList::cell(row, column).str();
-    const std::string found = program.find({{column.Text, within, cell, ""}});
-    ASSERT_NE(found, "-");
+    const std::string cell = core::RecordsList::cell(document.iLV.at(2), column).str();
+    ASSERT_NE(program.find(column.Text + " ~ " + cell), "-");
     const core::Item& result = document.searchLV.at(1);
     EXPECT_EQ(result.Key, "");
     EXPECT_EQ(result.Text, result.Tag);

@@ -3,13 +3,15 @@
 #include "databases.h"
 #include "search/searchFrm.h"
 #include "search/searchMode.h"
+#include "table.h"
 
 #include <gtest/gtest.h>
 
-// A program with an open database and the search dialog on it.
+// A program with an open database and the search dialog on it. Searches are texts, "Name = bolt & Qty >= 7":
+// a column, what it is compared by ("~" is within, and ".." a range, "Qty .. 5 to 7"), and the value as
+// typed.
 struct SearchProgram : Program {
-    explicit SearchProgram(const DataFile& data) { open(make("search.fwk", "\xEF\xBB\xBF" + data.text())); }
-    explicit SearchProgram(const std::string& sample) { openCopyOf(sample); }
+    using Program::Program;
 
     // What the user does in the dialog. The dialog is over when it returns.
     void inDialog(const std::function<void(search::searchFrm&)>& act) {
@@ -21,22 +23,29 @@ struct SearchProgram : Program {
         search::mnuSearch_Click(app);
         platform.onForm = nullptr;
     }
-    static void type(search::searchFrm& form, int group, const std::string& column, int option,
-                     const std::string& value, const std::string& to = {}) {
+    static void type(search::searchFrm& form, int group, const std::string& wanted) {
+        using namespace search;
+        const std::map<std::string, int> comparisons = {
+            {">=", greaterOrEqual}, {"<=", lessOrEqual}, {"=", exact}, {"~", within}, {"..", range}};
+        const std::size_t column = wanted.find(' '), option = wanted.find(' ', column + 1);
         const auto& items = form.list(group).items;
-        const auto place = std::find(items.begin(), items.end(), column);
-        ASSERT_NE(place, items.end()) << column;
-        form.List_Click(group, static_cast<int>(place - items.begin()));
-        form.Opt_Click(group, option);
-        form.SearchText.at(static_cast<std::size_t>(2 * group)).Text = value;
-        form.SearchText.at(static_cast<std::size_t>(2 * group + 1)).Text = to;
+        form.List_Click(group,
+                        static_cast<int>(std::ranges::find(items, wanted.substr(0, column)) - items.begin()));
+        form.Opt_Click(group, comparisons.at(wanted.substr(column + 1, option - column - 1)));
+        const std::string value = wanted.substr(option + 1);
+        const std::size_t to = std::min(value.find(" to "), value.size());
+        form.SearchText.at(static_cast<std::size_t>(2 * group)).Text = value.substr(0, to);
+        form.SearchText.at(static_cast<std::size_t>(2 * group + 1)).Text =
+            to < value.size() ? value.substr(to + 4) : "";
     }
     // The Tags of the records found, in list order, "i1 i3"; "-" when there is none.
-    std::string find(const std::vector<search::Group>& groups) {
+    std::string find(std::string groups) {
         inDialog([&](search::searchFrm& form) {
-            int number = 0;
-            for (const search::Group& group : groups)
-                type(form, number++, group.column, group.comparison, group.value, group.to);
+            for (int group = 0; !groups.empty(); ++group) {
+                const std::size_t end = std::min(groups.find(" & "), groups.size());
+                type(form, group, groups.substr(0, end));
+                groups.erase(0, end + 3);
+            }
             form.searchBtn_Click();
         });
         return found();
@@ -48,15 +57,4 @@ struct SearchProgram : Program {
         });
         return tags.empty() ? "-" : tags;
     }
-    bool isEnabled(const char* key) { return app.mainFrm.control(key).Enabled; }
-    bool isDown() { return app.mainFrm.control("Search").Value; }
-    std::string recordsPanel() const { return app.mainFrm.panels[app::recordsPanel]; }
 };
-
-// One column and its cells, a row each.
-inline DataFile oneColumn(const char* type, const std::vector<std::string>& cells) {
-    DataFile data({{"C", *type - '0'}});
-    for (const std::string& cell : cells) data.rows += cell + "|\r\n";
-    data.addTotals();
-    return data;
-}

@@ -1,17 +1,32 @@
 #pragma once
 
+#include "core/totalsRow.h"
 #include "dataFile.h"
 #include "platform/zip.h"
 #include "scriptedPlatform.h"
+#include "shell/commands.h"
 #include "storage/openFile.h"
 
 #include <filesystem>
 #include <string>
 
-// A program with a scripted machine, and databases to work on.
-struct Program {
-    ScriptedPlatform platform;
+// A program with a scripted machine, and databases to work on. The usual test:
+//
+//     Program program(DataFile("Name Qty:4", "Bolt|12;Nut|7"));   // opened from a file; see dataFile.h
+//     program.platform.answers = {platform::Answer::Yes};        // what the user will answer
+//     program.run("Delete");                                     // a command, by its key
+//     EXPECT_EQ(program.cells(), "Nut|7|;------|------|;");
+//     EXPECT_EQ(program.told(), "? Confirm Deletion: Are you sure?");
+//
+// record(), formula() and total() add to what is open; cell(), totals(), panel() and dialogs() tell of it.
+template <typename Machine>
+struct ProgramOn {
+    Machine platform;
     app::App app{platform};
+
+    ProgramOn() = default;
+    explicit ProgramOn(const DataFile& data) { open(data); }
+    explicit ProgramOn(const char* sample) { openCopyOf(sample); }
 
     std::string path(const std::string& name) const { return (platform.folder / name).string(); }
 
@@ -26,6 +41,7 @@ struct Program {
         storage::OpenFile(app, true);
         return file;
     }
+    std::string open(const DataFile& data) { return open(make("test.fwk", "\xEF\xBB\xBF" + data.text())); }
     std::string openCopyOf(const std::string& name) { return open(copyOf(name)); }
 
     // An archive with that data.dat, and entries of the given names.
@@ -44,13 +60,62 @@ struct Program {
         return Zip.readEntry("data.dat", std::uint64_t{1} << 30).value_or("(none)");
     }
 
-    // The cells of a list's rows, "a|b;c|d;".
+    void run(const char* command) { shell::runCommand(app, command); }
+
+    core::Item& record(std::initializer_list<const char*> cells) {
+        const std::string key = app.document.nextKey();
+        core::Item& item = app.document.LV.add(key);
+        std::size_t place = 0;
+        for (const char* cell : cells) item.cells.at(place++) = cell;
+        core::moveTotals(app.document.LV);
+        return app.document.LV.byKey(key);
+    }
+    void formula(const std::string& name, const std::string& expression) {
+        app.document.formulas.add(name + "," + expression, name);
+    }
+    void total(std::initializer_list<const char*> columns) {
+        for (const char* column : columns) app.document.totaledCols.add(column, column);
+    }
+    void select(std::initializer_list<int> rows) {
+        app.document.LV.clearSelection();
+        for (const int row : rows) app.document.LV.at(row).Selected = true;
+    }
+
+    // The cells of a list's rows, "a|b|;c|d|;".
     static std::string cells(const core::RecordsList& list) {
         std::string all;
-        list.forEach([&](const core::Item& item) {
-            for (const core::CellText& cell : item.cells) all += cell.str() + "|";
-            all += ";";
-        });
+        list.forEach([&](const core::Item& item) { all += cells(item) + ";"; });
         return all;
     }
+    static std::string cells(const core::Item& item) {
+        std::string all;
+        for (const core::CellText& cell : item.cells) all += cell.str() + "|";
+        return all;
+    }
+    std::string cells() const { return cells(app.document.LV); }
+    std::string totals() { return cells(*app.document.LV.totals()); }
+    std::string cell(int row, const char* column) {
+        return core::RecordsList::cell(app.document.LV.at(row), app.document.LV.columns[column]).str();
+    }
+    // "a|b|" of the items of a collection.
+    static std::string text(const core::NamedCollection& collection) {
+        std::string all;
+        for (const auto& entry : collection) all += entry.item + "|";
+        return all;
+    }
+    std::string panel(int number) const { return app.mainFrm.panels.at(static_cast<std::size_t>(number)); }
+
+    // What the user was told since the last look; see toldBy.
+    std::string told() { return toldBy(platform); }
+    // The file dialogs since the last look, "title/proposed name/filter" each.
+    std::string dialogs() {
+        std::string all;
+        for (const platform::FileDialog& dialog : std::exchange(platform.dialogs, {}))
+            all += (all.empty() ? "" : "\n") + dialog.title + "/" + dialog.fileName + "/" + dialog.filter;
+        return all;
+    }
+};
+
+struct Program : ProgramOn<ScriptedPlatform> {
+    using ProgramOn::ProgramOn;
 };

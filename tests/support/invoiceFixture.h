@@ -9,27 +9,9 @@
 
 #include <gtest/gtest.h>
 
-// An invoice database of header and item columns; rows() says how many fields the item columns have.
+// An invoice database of header and item columns; layoutWith() says how many fields the item columns have.
 class InvoiceTest : public ::testing::Test {
 protected:
-    InvoiceTest() {
-        using core::ColumnType;
-        app.document.bInvoiceStyle = true;
-        const std::pair<const char*, ColumnType> columns[] = {{"No", ColumnType::Number},
-                                                              {"Customer", ColumnType::Text},
-                                                              {"Item", ColumnType::Text},
-                                                              {"Qty", ColumnType::Number},
-                                                              {"Price", ColumnType::Currency},
-                                                              {"Line", ColumnType::Calculation},
-                                                              {"Subtotal", ColumnType::Calculation},
-                                                              {"Tax", ColumnType::Calculation}};
-        for (const auto& [name, type] : columns) {
-            core::Column& column = app.document.LV.columns.add(name, name, 1440);
-            column.setTypeFromFile(std::to_string(static_cast<int>(type)));
-        }
-        addTotalsRow(app.document.LV);
-    }
-
     void layoutWith(int rows) {
         app.document.layout.unloadAll();
         for (const char* name : {"No", "Customer", "Subtotal", "Tax"})
@@ -37,12 +19,11 @@ protected:
         invoice::repeatItemRows(app, rows, {"Item", "Qty", "Price", "Line"});
     }
     void formula(const std::string& name, const std::string& expression) {
-        app.document.formulas.add(name + "," + expression, name);
+        program.formula(name, expression);
     }
     core::Item& record(std::initializer_list<std::pair<const char*, const char*>> cells) {
-        core::Item& added = app.document.LV.add(app.document.nextKey());
+        core::Item& added = program.record({});
         for (const auto& [name, text] : cells) cell(added, name) = text;
-        moveTotals(app.document.LV);
         return added;
     }
     core::CellText& cell(core::Item& item, const char* name) {
@@ -53,20 +34,19 @@ protected:
     }
     // The rows of iLV in the order of its columns' places, "Text: a|b; ".
     std::string view() {
-        std::vector<const core::Column*> shown;
-        for (const core::Column& column : app.document.iLV.columns)
-            if (column.Index != 1) shown.push_back(&column);
-        std::ranges::sort(shown, {}, [](const core::Column* column) { return column->Position; });
         std::string text;
-        for (const core::Column* column : shown) text += column->Text + "|";
+        const core::ColumnHeaders& columns = app.document.iLV.columns;
+        for (const int index : columns.displayOrder())
+            if (index != 1) text += columns.at(index).Text + "|";
         app.document.iLV.forEach([&](const core::Item& item) {
             text += "; " + item.Text.str() + ": ";
-            for (const core::Column* column : shown)
-                text += core::RecordsList::cell(item, *column).str() + "|";
+            for (const int index : columns.displayOrder())
+                if (index != 1) text += core::RecordsList::cell(item, columns.at(index)).str() + "|";
         });
         return text;
     }
 
-    Program program;
+    Program program{DataFile("No:4 Customer Item Qty:4 Price:2 Line:5 Subtotal:5 Tax:5")
+                        .section("DatabaseStyle", "True")};
     app::App& app = program.app;
 };

@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "databases.h"
 #include "platform/recordedPage.h"
+#include "print/previewNavigation.h"
 
 #include <cmath>
 #include <memory>
@@ -101,59 +102,54 @@ std::vector<Kind> drawnOf(const std::vector<platform::Drawn>& page) {
     return found;
 }
 
-// The texts of a page, "text@left,top" in whole twips.
+// A place on a page in whole twips, "left,top".
+inline std::string placeOf(float x, float y) {
+    return std::to_string(std::lround(x)) + "," + std::to_string(std::lround(y));
+}
+
+// The texts of a page, "text@left,top".
 inline std::vector<std::string> textsOf(const std::vector<platform::Drawn>& page) {
     std::vector<std::string> texts;
-    for (const platform::DrawnText& text : drawnOf<platform::DrawnText>(page))
-        texts.push_back(text.text + "@" + std::to_string(std::lround(text.Left)) + "," +
-                        std::to_string(std::lround(text.Top)));
+    for (const auto& each : drawnOf<platform::DrawnText>(page))
+        texts.push_back(each.text + "@" + placeOf(each.Left, each.Top));
     return texts;
 }
 
 // The lines of a page, "x1,y1-x2,y2", dotted ones with a "." in front.
 inline std::vector<std::string> linesOf(const std::vector<platform::Drawn>& page) {
     std::vector<std::string> lines;
-    const auto place = [](float x, float y) {
-        return std::to_string(std::lround(x)) + "," + std::to_string(std::lround(y));
-    };
-    for (const platform::DrawnLine& line : drawnOf<platform::DrawnLine>(page))
-        lines.push_back((line.pen.DrawStyle == platform::LineStyle::Dotted ? "." : "") +
-                        place(line.x1, line.y1) + "-" + place(line.x2, line.y2));
+    for (const auto& each : drawnOf<platform::DrawnLine>(page))
+        lines.push_back((each.pen.DrawStyle == platform::LineStyle::Dotted ? "." : "") +
+                        placeOf(each.x1, each.y1) + "-" + placeOf(each.x2, each.y2));
     return lines;
 }
 
-// A program with that machine, and databases made on the spot.
-struct PrintProgram {
-    PrintingPlatform platform;
-    app::App app{platform};
+// A program with that machine, and what it printed.
+struct PrintProgram : ProgramOn<PrintingPlatform> {
+    using ProgramOn::ProgramOn;
 
-    void open(const std::string& dataFile) {
-        const std::string file = (platform.folder / "test.fwk").string();
-        platform::Zip Zip;
-        Zip.CreateArchive(file);
-        Zip.addBuffer("data.dat", dataFile, "");
-        Zip.CloseArchive();
-        app.document.currentFile = file;
-        storage::OpenFile(app, true);
-    }
-    void openCopyOf(const char* name) {
-        std::filesystem::copy_file(std::filesystem::path(TEST_DATA_DIR) / name, platform.folder / name);
-        app.document.currentFile = (platform.folder / name).string();
-        storage::OpenFile(app, true);
-    }
-    // Records "r1", "r2", ... of one text column "Name", with a layout of one field when asked.
-    void openRecords(int count, const std::string& layout = {}) {
-        DataFile file({{"Name", 3}});
-        file.layout = layout;
+    // Records "r1", "r2", ... of one text column "Name" that is 1600 wide, on portrait paper.
+    void openRecords(int count, std::string_view objects = {}) {
+        std::string rows;
+        for (int i = 1; i <= count; ++i) rows += "r" + std::to_string(i) + ";";
+        DataFile file("Name", rows);
         file.widths = "1600|";
-        for (int i = 1; i <= count; ++i) file.rows += "r" + std::to_string(i) + "|\r\n";
-        file.addTotals();
-        open(file.text());
-        app.document.printedCols.add("Name");
+        open(file.objects(objects).section("Printed Cols", "Name|"));
         app.document.reportData.reportOrientation = 1;
     }
     const std::vector<platform::Drawn>& preview() const {
         return app.mainFrm.previewPage.rptPreview1.drawn();
+    }
+    const std::vector<platform::Drawn>& sheet(std::size_t number) const {
+        return platform.printed.sheets.at(number);
+    }
+    // What stands on each sheet printed since the last look, "r1 r2/r3".
+    std::string printed() {
+        std::string all;
+        for (const auto& page : platform.printed.sheets)
+            all += (&page == platform.printed.sheets.data() ? "" : "/") + wordsOf(page);
+        platform.printed = {};
+        return all;
     }
     // The texts of a page alone, without the blanks behind them.
     static std::string wordsOf(const std::vector<platform::Drawn>& page) {
@@ -162,9 +158,15 @@ struct PrintProgram {
             words += (words.empty() ? "" : " ") + std::string(core::rtrim(text.text));
         return words;
     }
-    void select(std::initializer_list<int> rows) {
-        app.document.LV.clearSelection();
-        for (const int row : rows) app.document.LV.at(row).Selected = true;
+    // The buttons of the preview one after the other, and what is to tell of the page behind each: "a; b; c".
+    template <typename Tell>
+    std::string walk(std::string_view buttons, Tell&& tell) {
+        std::string all;
+        for (const std::string_view key : core::split(buttons, ' ')) {
+            print::reportToolbar_ButtonClick(app, key);
+            all += std::string(all.empty() ? "" : "; ") + tell();
+        }
+        return all;
     }
     std::string selection() const {
         std::string rows;

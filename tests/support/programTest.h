@@ -4,26 +4,6 @@
 
 #include <gtest/gtest.h>
 
-// What a machine told its user since the last look, a line for each message: a mark for the icon, the caption
-// when it is not the program's name, and the text.
-inline std::string toldBy(ScriptedPlatform& machine) {
-    std::string all;
-    for (const ScriptedPlatform::Message& message : machine.messages)
-        all += (all.empty() ? "" : "\n") + std::string(1, "-i!?x"[static_cast<int>(message.icon)]) + " " +
-               (message.caption == "Ferrowick" ? "" : message.caption + ": ") + message.text;
-    machine.messages.clear();
-    return all;
-}
-
-// The file dialogs since the last look, "title/proposed name/filter" each.
-inline std::string dialogsOf(ScriptedPlatform& machine) {
-    std::string all;
-    for (const platform::FileDialog& dialog : machine.dialogs)
-        all += (all.empty() ? "" : "\n") + dialog.title + "/" + dialog.fileName + "/" + dialog.filter;
-    machine.dialogs.clear();
-    return all;
-}
-
 // Name, comment and bytes of every entry of an archive, in their order; those of data.dat on request.
 inline std::vector<std::string> entriesOf(const std::string& archive, bool withData) {
     std::vector<std::string> entries;
@@ -46,8 +26,8 @@ protected:
     app::MainFrm& mainFrm = app.mainFrm;
     ScriptedPlatform& platform = program.platform;
 
-    std::string told() { return toldBy(platform); }
-    std::string dialogs() { return dialogsOf(platform); }
+    std::string told() { return program.told(); }
+    std::string dialogs() { return program.dialogs(); }
     // A database made of that data is opened.
     void openData(const DataFile& data) { program.open(program.make("rows.fwk", data.text())); }
     // Books, with a change that is not saved yet.

@@ -164,3 +164,14 @@ private:
         return take(files);
     }
 };
+
+// What a machine told its user since the last look, a line for each message: a mark for the icon ("-" none,
+// "i", "!",
+// "?", "x"), the caption when it is not the program's name, and the text.
+inline std::string toldBy(ScriptedPlatform& machine) {
+    std::string all;
+    for (const ScriptedPlatform::Message& message : std::exchange(machine.messages, {}))
+        all += (all.empty() ? "" : "\n") + std::string(1, "-i!?x"[static_cast<int>(message.icon)]) + " " +
+               (message.caption == "Ferrowick" ? "" : message.caption + ": ") + message.text;
+    return all;
+}
