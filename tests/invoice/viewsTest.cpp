@@ -23,6 +23,16 @@ TEST_F(InvoiceTest, BothViews) {
     app.document.bInvoiceView = true;
     app::rebuildInvoiceView(app);
     EXPECT_EQ(app.document.iLV.count(), 7);
+    EXPECT_EQ(app.mainFrm.Slider1.Max, 3);
+    // A view made anew follows the columns, and leaves them the widths that it was given.
+    app.document.iLV.columns["Qty"].Width = 77;
+    app.document.LV.columns["Qty"].setTypeFromFile("3");
+    invoice::refreshRows(app);
+    EXPECT_EQ(app.document.iLV.columns["Qty"].Tag, "3");
+    EXPECT_EQ(app.document.LV.columns["Qty"].Width, 77);
+    app.document.LV.columns.remove(app.document.LV.columns["Line"].Index);
+    invoice::refreshRows(app);
+    EXPECT_EQ(app.document.iLV.columns.find("Line"), nullptr);
 }
 
 TEST_F(InvoiceTest, ViewsOfFewRecords) {
@@ -39,6 +49,10 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
     invoice::BuildInvoicesView(app);
     EXPECT_EQ(view(), "No|Customer|Item|Qty|Price|Line|Subtotal|Tax|; i1: |||1@2@|||||; Totals: "
                       "------|------|------|------|------|------|------|------|");
+    layoutWith(2); // without a cell of several values in the first record there is no item row
+    cell(app.document.LV.at(1), "Qty") = "7";
+    invoice::BuildItemsView(app);
+    EXPECT_EQ(app.document.iLV.count(), 1);
 }
 
 TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
@@ -53,6 +67,9 @@ TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
         invoice::BuildInvoicesView(app);
         EXPECT_EQ(view().substr(0, view().find(';')), c[1]) << c[0];
     }
+    for (const char* position : {"1", "6", "2", "3", "4", "5"}) app.document.itemLevelCols.add(position);
+    invoice::BuildItemsView(app);
+    EXPECT_EQ(view().substr(0, view().find(';')), "Item|Qty|Price|Line|Customer|");
 }
 
 TEST_F(InvoiceTest, RetrieveShowsAValueInEachRow) {
