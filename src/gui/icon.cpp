@@ -42,20 +42,24 @@ public:
     // The size is in pixels of the device.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
         const QPalette palette = QGuiApplication::palette();
-        const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
+        // A highlighted row has a colour of its own that the accents would be lost on.
+        const bool highlighted = mode == QIcon::Selected;
+        const QColor ink =
+            palette.color(QPalette::Active, highlighted ? QPalette::HighlightedText : QPalette::WindowText);
         const bool disabled = mode == QIcon::Disabled;
-        const QString key = QStringLiteral("ferrowick/%1/%2/%3x%4/%5")
+        const QString key = QStringLiteral("ferrowick/%1/%2/%3x%4/%5%6")
                                 .arg(name_, ink.name())
                                 .arg(size.width())
                                 .arg(size.height())
-                                .arg(disabled);
+                                .arg(disabled)
+                                .arg(highlighted);
         QPixmap drawn;
         if (QPixmapCache::find(key, &drawn)) return drawn;
         drawn = QPixmap(size);
         drawn.fill(Qt::transparent);
         QPainter painter(&drawn);
         if (disabled) painter.setOpacity(disabledOpacity);
-        QSvgRenderer(source(ink, isDark(palette))).render(&painter);
+        QSvgRenderer(source(ink, isDark(palette), highlighted)).render(&painter);
         painter.end();
         QPixmapCache::insert(key, drawn);
         return drawn;
@@ -65,13 +69,13 @@ public:
     QIconEngine* clone() const override { return new FamilyIconEngine(name_); }
 
 private:
-    QByteArray source(const QColor& ink, bool dark) const {
+    QByteArray source(const QColor& ink, bool dark, bool inkAlone) const {
         QFile file(QStringLiteral(":/icons/%1.svg").arg(name_));
         if (!file.open(QIODevice::ReadOnly)) return {};
         QByteArray svg = file.readAll();
         svg.replace(inkColour, ink.name().toLatin1());
-        if (dark)
-            for (const auto& [deep, light] : darkAccents) svg.replace(deep, light);
+        for (const auto& [deep, light] : darkAccents)
+            if (dark || inkAlone) svg.replace(deep, inkAlone ? ink.name().toLatin1() : QByteArray(light));
         return svg;
     }
 

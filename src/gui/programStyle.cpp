@@ -52,6 +52,16 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuItem && item != nullptr && !item->icon.isNull() &&
+        item->state.testFlag(State_Selected) && item->state.testFlag(State_Enabled)) {
+        QStyleOptionMenuItem highlighted = *item;
+        const int size = pixelMetric(PM_SmallIconSize, option, widget);
+        highlighted.icon = QIcon(
+            item->icon.pixmap(QSize(size, size), painter->device()->devicePixelRatioF(), QIcon::Selected));
+        QProxyStyle::drawControl(element, &highlighted, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element != CE_ShapedFrame || !option->state.testFlag(State_HasFocus) ||
         qobject_cast<const QAbstractItemView*>(widget) == nullptr)

@@ -61,6 +61,7 @@ QVBoxLayout* searchFrmView::makeGroup(int group) {
     auto* list = new QListWidget;
     lists_.at(place) = list;
     list->setObjectName(QStringLiteral("List%1").arg(group + 1));
+    list->setMinimumHeight(fontMetrics().height() * 3); // on a small screen what is typed matters more
     list->setAccessibleName(tr("Column to search, %1").arg(group + 1));
     for (const std::string& title : form_.list(group).items) list->addItem(toQt(title));
     connect(list, &QListWidget::currentRowChanged, this, [this, group](int row) {

@@ -70,6 +70,7 @@ void StatusPanels::refresh() {
     panels_[app::datePanel - 1]->setText(QLocale().toString(date, QLocale::ShortFormat));
     place_->setText(toQt(layout::selectionText(app_)));
     place_->setVisible(!place_->text().isEmpty());
+    place_->setMinimumWidth(place_->minimumSizeHint().width()); // where room is short, the others are cut
 }
 
 } // namespace gui

@@ -46,6 +46,8 @@ QStringList sharedLetters(const QStringList& captions) {
 QStringList complaints(QWidget& window) {
     QStringList all, captions;
     if (window.windowTitle().isEmpty()) all << QStringLiteral("no title");
+    for (QToolBar* bar : window.findChildren<QToolBar*>())
+        if (bar->isVisibleTo(&window) && nameOf(*bar).isEmpty()) all << told(*bar) + " has no name"_L1;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(&window) || widget->objectName().startsWith(QLatin1String("qt_"))) continue;
         if (const auto* button = qobject_cast<QAbstractButton*>(widget)) captions << button->text();

@@ -1,6 +1,7 @@
 #include "session.h"
 
 #include "gui/commandLine.h"
+#include "gui/dialogFit.h"
 #include "gui/icon.h"
 #include "gui/messageBox.h"
 #include "gui/palette.h"
@@ -12,6 +13,7 @@
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QVBoxLayout>
 
 // The platform's own dialogs, the icons, and the program as it is called.
 class Dialogs : public QObject {
@@ -54,6 +56,33 @@ private slots:
         QCOMPARE(ask([](QMessageBox& box) { box.button(QMessageBox::No)->click(); }), Answer::No);
         QCOMPARE(ask([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), Answer::Cancel);
         QCOMPARE(ask([](QMessageBox& box) { box.close(); }), Answer::Cancel);
+    }
+
+    // What is higher than the screen scrolls, but its buttons do not.
+    void aDialogFitsItsScreen() {
+        QDialog dialog;
+        dialog.setWindowTitle(QString(40, u'W'));
+        auto* column = new QVBoxLayout(&dialog);
+        QList<QLineEdit*> boxes;
+        for (int i = 0; i < 60; ++i) column->addWidget(boxes.emplace_back(new QLineEdit));
+        auto* row = new QHBoxLayout;
+        auto* button = new QPushButton(u"OK"_s);
+        row->addWidget(button);
+        column->addLayout(row);
+        boxes[1]->setFocus();
+        gui::fitDialog(dialog);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(dialog.height() <= dialog.screen()->availableSize().height());
+        QVERIFY(dialog.width() >= dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()));
+        QVERIFY(!button->visibleRegion().isEmpty());
+        QVERIFY(boxes[1]->hasFocus());
+        QVERIFY(boxes[59]->visibleRegion().isEmpty());
+        for (int i = 1; i < 59; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QVERIFY(boxes[59]->hasFocus());
+        QVERIFY(!boxes[59]->visibleRegion().isEmpty());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QVERIFY(button->hasFocus());
     }
 
     // A font that is not installed, and a size that is in no list, stay what they are unless another is

@@ -102,7 +102,9 @@ TEST_F(InvoiceTest, ItemRowsArePlacedInAGrid) {
     EXPECT_EQ(places.str(),
               "1Qty 250,350 right; 2Customer 1525,350; 3Qty 250,635 off right; 4Customer 1525,635 off; ");
     // Made anew they take the place of the old ones.
+    app.mainFrm.layoutPage.selectedObject = {core::Family::layoutField, 1};
     invoice::repeatItemRows(app, 1, {"Qty"});
+    EXPECT_FALSE(app.mainFrm.layoutPage.selectedObject.isObject()) << "not the one that has its number now";
     EXPECT_EQ(app.document.layout.layoutField.count(), 3);
     EXPECT_FALSE(invoice::isItemColumn(app.document, "Qty"));
     EXPECT_TRUE(invoice::isItemColumn(app.document, "Customer"));
@@ -128,8 +130,10 @@ TEST_F(InvoiceTest, TheItemRowDialog) {
     EXPECT_EQ(form.List2, (std::vector<std::string>{"Qty", "Qty"}));
     for (const char* many : {"16384", "99999", "-99999"}) // twice as many fields; beyond 16 bits
         EXPECT_EQ(enter(many), "i The layout has no room for so many rows.");
+    EXPECT_FALSE(app.document.bModified);
     EXPECT_EQ(enter("3 rows"), "");
     EXPECT_EQ(app.document.layout.layoutField.count(), 6);
+    EXPECT_TRUE(app.document.bModified);
 }
 
 } // namespace
