@@ -25,9 +25,10 @@ namespace {
 constexpr int iconSize = 20;
 constexpr int scrollStep = 240; // twips
 
-QToolBar* makeBar(const QString& name) {
+QToolBar* makeBar(const QString& name, const QString& told) {
     auto* bar = new QToolBar;
     bar->setObjectName(name);
+    bar->setAccessibleName(told);
     bar->setIconSize({iconSize, iconSize});
     return bar;
 }
@@ -73,7 +74,7 @@ LayoutPageView::LayoutPageView(app::App& app, EventBoundary& events, QWidget* pa
 }
 
 QWidget* LayoutPageView::makeNavBar() {
-    layoutNavBar_ = makeBar(QStringLiteral("layoutNavBar"));
+    layoutNavBar_ = makeBar(QStringLiteral("layoutNavBar"), tr("Record"));
     for (const entry::NavButton& button : entry::navButtons()) {
         QAction* action = layoutNavBar_->addAction(familyIcon(toQt(button.icon)), toQt(button.tip));
         action->setObjectName(QStringLiteral("layoutNavBar.") + toQt(button.key));
@@ -101,7 +102,7 @@ QWidget* LayoutPageView::makeNavBar() {
 }
 
 QToolBar* LayoutPageView::makeToolbar() {
-    layoutToolbar_ = makeBar(QStringLiteral("layoutToolbar"));
+    layoutToolbar_ = makeBar(QStringLiteral("layoutToolbar"), tr("Design"));
     for (const layout::ToolbarButton& button : layout::toolbarButtons()) {
         if (button.key == "-") {
             layoutToolbar_->addSeparator();

@@ -41,6 +41,7 @@ PreviewView::PreviewView(app::App& app, EventBoundary& events, QWidget* parent)
 QToolBar* PreviewView::makeToolbar() {
     auto* bar = new QToolBar;
     bar->setObjectName(QStringLiteral("reportToolbar"));
+    bar->setAccessibleName(tr("Preview"));
     bar->setIconSize({iconSize, iconSize});
     for (const print::PreviewButton& button : print::previewButtons()) {
         QAction* action = bar->addAction(familyIcon(toQt(button.icon)), toQt(button.tip));

@@ -44,7 +44,7 @@ struct SheetWindow : PrintProgram {
 
     explicit SheetWindow(bool invoices) {
         app.mainFrm.bConfirmDelete = true;
-        open(numberedRecords(invoices).text());
+        open(numberedRecords(invoices));
         layout::layoutPic1_Resize(app, 6000, 5000);
     }
     int count() const { return app.document.LV.count(); }

@@ -23,17 +23,17 @@ inline DataFile numberedRecords(bool invoices) {
         return "F|" + std::string(name) + "|" + std::to_string(left) + "|" + std::to_string(top) +
                "|1200|285|False|False|False|Arial|8|0|\r\n";
     };
-    DataFile file({{"No", 4}, {"Name", 3}, {"Qty", 4}, {"Sum", 5}});
+    std::string records;
+    int number = 0;
+    for (const char* name : {"Ann", "Bill", "Zoe", "Abe", "Bob"})
+        records += std::to_string(++number) + "|" + name + (invoices ? "|1@2@|3;" : "|1|1;");
+    DataFile file("No:4 Name Qty:4 Sum:5", records);
     file.layout =
         field("No", 200, 200) + field("Name", 200, 600) + field("Sum", 200, 1000) + field("Qty", 200, 1400);
     if (invoices) file.layout += field("Qty", 200, 1685);
     file.more = "[Formulas      ]Sum,Qty|\r\n[Optioned Cols ]No|\r\n[Increments    ]No,9|\r\n[Printed Cols  "
                 "]Name|\r\n";
     if (invoices) file.more += "[DatabaseStyle ]True\r\n";
-    int number = 0;
-    for (const char* name : {"Ann", "Bill", "Zoe", "Abe", "Bob"})
-        file.rows += std::to_string(++number) + "|" + name + (invoices ? "|1@2@|3|\r\n" : "|1|1|\r\n");
-    file.addTotals();
     return file;
 }
 
@@ -68,13 +68,14 @@ public:
         std::string wrong;
         for (const auto& [key, cells] : before_) {
             const auto same = now.find(key);
-            const bool isShown = wasInFront_ && number_ == cells.at(0);
+            const bool isShown = wasInFront_ && number_ == cellOf(cells, 0);
             if (same == now.end()) {
-                if (!isShown && !rowsGo) wrong += "record " + cells.at(0) + " has gone; ";
+                if (!isShown && !rowsGo) wrong += "record " + cellOf(cells, 0) + " has gone; ";
                 continue;
             }
-            if (same->second != cells && !isShown) wrong += "record " + cells.at(0) + " has changed; ";
-            if (isShown && stores && same->second.at(1) != name_) wrong += "what was typed is not stored; ";
+            if (same->second != cells && !isShown) wrong += "record " + cellOf(cells, 0) + " has changed; ";
+            if (isShown && stores && cellOf(same->second, 1) != name_)
+                wrong += "what was typed is not stored; ";
             if (isShown && deletes) wrong += "record " + number_ + " is still there; ";
         }
         return wrong + wrongSheet(now);
@@ -97,6 +98,9 @@ public:
 private:
     using Records = std::map<std::string, std::vector<std::string>>;
 
+    static std::string cellOf(const std::vector<std::string>& cells, std::size_t index) {
+        return index < cells.size() ? cells[index] : "";
+    }
     Records records() const {
         Records all;
         app_.document.LV.forEach([&](const core::Item& item) {
@@ -117,12 +121,12 @@ private:
         const core::Item* row = app_.mainFrm.theListView->selectedItem();
         const std::string number = onSheet("No");
         const bool isRecord =
-            std::ranges::any_of(now, [&](const auto& record) { return record.second.at(0) == number; });
+            std::ranges::any_of(now, [&](const auto& record) { return cellOf(record.second, 0) == number; });
         if (!isRecord || row == nullptr || row->isTotals()) return {};
         std::string key = (row->Key.empty() ? row->Text : row->Key).str();
-        return now.at(key).at(0) == number
+        return cellOf(now.at(key), 0) == number
                    ? ""
-                   : "the sheet shows " + number + " and not " + now.at(key).at(0) + "; ";
+                   : "the sheet shows " + number + " and not " + cellOf(now.at(key), 0) + "; ";
     }
 
     app::App& app_;
