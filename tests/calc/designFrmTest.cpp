@@ -145,7 +145,7 @@ TEST(DesignFrmTest, renamesEverywhereThatNamesTheColumn) {
     EXPECT_EQ(shop.cell(1, "NetPrice"), "$1.50");
     EXPECT_EQ(DesignShop::text(shop.document.printedCols), "Qty|NetPrice|Gone|");
     EXPECT_EQ(DesignShop::text(shop.document.totaledCols), "Qty|NetPrice|Gone|");
-    EXPECT_EQ(DesignShop::text(shop.document.prnItemCols), "Qty|Price|Gone|");
+    EXPECT_EQ(DesignShop::text(shop.document.prnItemCols), "Qty|NetPrice|Gone|");
     EXPECT_EQ(DesignShop::text(shop.document.optionedCols), "Qty|Price|Gone|");
     EXPECT_EQ(DesignShop::text(shop.document.formulas), "Sum,NetPrice * Qty|");
 }

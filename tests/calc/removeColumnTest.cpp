@@ -76,6 +76,9 @@ TEST(RemoveColumnTest, removesTheColumnWithAllThatBelongsToIt) {
     shop.document.SerialsLV.add("Qty", "Qty").subItem(1) = "7";
     shop.LV.columns.setPosition(4, 2);
     shop.platform.answers = {Answer::Yes, Answer::Yes};
+    app::LayoutPage& page = shop.app.mainFrm.layoutPage;
+    page.selectedObject = {core::Family::layoutField, 1};
+    page.Handle.Visible = true;
     designFrm form(shop.app);
     form.fieldTxt = "half typed";
     DesignShop::select(form, "Qty");
@@ -89,6 +92,7 @@ TEST(RemoveColumnTest, removesTheColumnWithAllThatBelongsToIt) {
     EXPECT_TRUE(shop.document.formulas.empty());
     EXPECT_EQ(layout.layoutField.count(), 1);
     EXPECT_NE(layout.layoutField.find(2), nullptr);
+    EXPECT_FALSE(page.selectedObject.isObject() || page.Handle.Visible);
     EXPECT_EQ(layout.imgHolder.count(), 1);
     EXPECT_NE(layout.imgHolder.find(2), nullptr);
     EXPECT_EQ(DesignShop::text(shop.document.totaledCols), "Price|");

@@ -41,10 +41,10 @@ TEST(SerialFrmTest, whatSetTakesAndRefuses) {
         const char *typed, *counter;
         bool isTaken;
     };
-    const Case cases[] = {{"-5", "-5", true},       {"1.5", "1.5", true},       {"$7", "$7", true},
-                          {"1,000", "1,000", true}, {"", "41", false},          {"   ", "41", false},
-                          {"abc", "41", false},     {"5 apples", "41", false},  {"--5", "41", false},
-                          {"1/2", "41", false},     {"01/02/2003", "41", false}};
+    const Case cases[] = {{"-5", "-5", true},      {"1.5", "1.5", true},       {"$7", "7", true},
+                          {"1,000", "1000", true}, {"", "41", false},          {"   ", "41", false},
+                          {"abc", "41", false},    {"5 apples", "41", false},  {"--5", "41", false},
+                          {"1/2", "41", false},    {"01/02/2003", "41", false}};
     for (const Case& c : cases) {
         Serials serials;
         serialFrm form(serials.app);
@@ -52,6 +52,7 @@ TEST(SerialFrmTest, whatSetTakesAndRefuses) {
         form.Text1 = c.typed;
         form.setBtn_Click();
         EXPECT_EQ(serials.counter(2), c.counter) << c.typed;
+        EXPECT_EQ(serials.document.bModified, c.isTaken) << c.typed;
         ASSERT_EQ(serials.platform.messages.size(), 1U) << c.typed;
         if (c.isTaken) continue;
         EXPECT_EQ(serials.platform.told(), "1|Ferrowick|You entered a non numeric value.");

@@ -88,11 +88,12 @@ TEST_F(Refusals, ColumnsAndNewDatabases) {
 
 TEST_F(Refusals, CalculationAndRecords) {
     DataFile stale;
-    stale.more = "[Totaled Cols  ]Gone|\r\n[Formulas      ]Gone,Qty * 2|\r\n";
+    stale.more = "[Totaled Cols  ]Gone|\r\n[Formulas      ]Gone,Qty * 2|\r\n[Increments    ]Qty,x|\r\n";
     make("stale.fwk", stale.text());
     expectUsage({"serial a.fwk No", "update a.fwk i1", "delete a.fwk", "duplicate a.fwk i1 many",
                  "duplicate a.fwk i1 1,000", "duplicate a.fwk i1 -1"});
     expectAll(notNumeric, {{"serial a.fwk No 12x", "a.fwk: the serial number of \"No\" is not set"},
+                           {"serial stale.fwk Qty x", "stale.fwk: the serial number of \"Qty\" is not set"},
                            {"serial a.fwk No ''", "a.fwk: the serial number of \"No\" is not set"}});
     expectAll(
         "", {{"expression a.fwk Vale 1", "a.fwk: no column \"Vale\""},

@@ -214,6 +214,8 @@ TEST(DeleteRecordsTest, deletesAllSelectedButTheTotalsRow) {
     EXPECT_TRUE(deleteRecords(shop.app));
     EXPECT_EQ(shop.names(), "beT");
     EXPECT_EQ(shop.keys(), "i2 i5 Totals ");
+    EXPECT_EQ(shop.LV.selectedItem(), &shop.LV.at(2)) << "the next one that stays";
+    EXPECT_TRUE(shop.LV.at(2).Selected && !shop.LV.at(1).Selected);
     EXPECT_EQ(shop.totals(), "------|------|$20.00|------|$40.00|------|");
     EXPECT_EQ(shop.panel(app::recordsPanel), "2 records.");
     EXPECT_EQ(shop.app.mainFrm.Slider1.Max, 2);
@@ -254,6 +256,9 @@ TEST(DeleteRecordsTest, whatStopsIt) {
     shop.platform.answers = {Answer::Yes};
     EXPECT_TRUE(deleteRecords(shop.app));
     EXPECT_EQ(shop.names(), "bT");
+    shop.platform.answers = {Answer::Yes};
+    EXPECT_TRUE(deleteRecords(shop.app)) << "again, with no click in between";
+    EXPECT_EQ(shop.names(), "T");
 }
 
 TEST(DeleteRecordsTest, sumsOfManyRecordsStayRightToTheCent) {

@@ -73,7 +73,8 @@ TEST_F(InvoiceRecords, DeletingThroughTheInvoiceList) {
     app.mainFrm.bConfirmDelete = true;
     for (const char* number : {"1", "2", "3", "4"}) record({{"No", number}, {"Qty", "1@1@"}});
     invoice::BuildInvoicesView(app);
-    for (const int row : {2, 4}) app.document.iLV.at(row).Selected = true;
+    app.document.iLV.clearSelection();
+    for (const int row : {2, 4}) app.document.iLV.setSelectedItem(&app.document.iLV.at(row));
     app.document.iLV.totals()->Selected = true;
     EXPECT_FALSE(entry::deleteInvoices(app));
     EXPECT_EQ(program.platform.messages.back().caption, "Confirm Deletion");
@@ -83,6 +84,9 @@ TEST_F(InvoiceRecords, DeletingThroughTheInvoiceList) {
     EXPECT_EQ(keys(app.document.LV), "i1 i3 Totals ");
     EXPECT_EQ(keys(app.document.iLV), "i1 i3 Totals ");
     EXPECT_EQ(app.mainFrm.panels[app::recordsPanel], "2 records.");
+    program.platform.answers = {platform::Answer::Yes};
+    EXPECT_TRUE(entry::deleteInvoices(app));
+    EXPECT_EQ(keys(app.document.iLV), "i1 Totals ") << "the last that stayed was the selected one";
 }
 
 // What the results show follows a write, row by row.

@@ -30,6 +30,7 @@ private slots:
         QVERIFY(run.action("Search")->isChecked());
         QVERIFY(!run.action("Formulas")->isEnabled() && !run.action("Delete")->isEnabled());
         QVERIFY(!run.list()->isVisible());
+        QCOMPARE(run.list("searchLV")->verticalScrollBar()->value(), 0);
         const int found = run.rows("searchLV") - 1;
         QVERIFY(found > 1);
         QCOMPARE(run.panel(1), u"%1 records."_s.arg(found));

@@ -94,7 +94,9 @@ TEST_F(InvoiceTest, ItemRowsArePlacedInAGrid) {
     EXPECT_EQ(places,
               "1Qty 250,350 right; 2Customer 1525,350; 3Qty 250,635 off right; 4Customer 1525,635 off; ");
     // Made anew they take the place of the old ones.
+    app.mainFrm.layoutPage.selectedObject = {core::Family::layoutField, 1};
     invoice::repeatItemRows(app, 1, {"Qty"});
+    EXPECT_FALSE(app.mainFrm.layoutPage.selectedObject.isObject()) << "not the one that has its number now";
     EXPECT_EQ(app.document.layout.layoutField.count(), 3);
     EXPECT_FALSE(invoice::isItemColumn(app.document, "Qty"));
     EXPECT_TRUE(invoice::isItemColumn(app.document, "Customer"));
@@ -123,10 +125,12 @@ TEST_F(InvoiceTest, TheItemRowDialog) {
         EXPECT_FALSE(form.unloaded) << text;
         EXPECT_EQ(program.platform.lastMessage(), "The layout has no room for so many rows.");
     }
+    EXPECT_FALSE(app.document.bModified);
     form.Text1 = "3 rows";
     form.OKButton_Click();
     EXPECT_TRUE(form.unloaded);
     EXPECT_EQ(app.document.layout.layoutField.count(), 6);
+    EXPECT_TRUE(app.document.bModified);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "shell/commands.h"
 #include "programTest.h"
 #include "raised.h"
+#include "search/searchEngine.h"
 #include "shell/mainWindow.h"
 
 #include <gmock/gmock.h>
@@ -108,6 +109,31 @@ TEST_F(CommandsTest, theLockStopsTheButtonAndNotTheMenuItem) {
     runCommand(app, "Properties");
     EXPECT_EQ(platform.forms, (std::vector<std::string>{"designFrm", "designFrm"}));
     EXPECT_EQ(told(), "");
+}
+
+// Buttons go off with the results and the tabs, the items of the Tools menu do not.
+TEST_F(CommandsTest, theToolsWorkOverSearchResultsAndFromEveryTab) {
+    DataFile data({{"A", 4}, {"B", 5}});
+    data.rows = "1|1|\r\n2|1|\r\n-|-|\r\n";
+    data.more = "[Totaled Cols  ]B|\r\n";
+    openData(data);
+    platform.onForm = [&](std::string_view form) {
+        if (form == "searchFrm") return search::findRecords(app, {{{"A", 0, "2", ""}, {}, {}}});
+        document.LV.at(1).cells[1] = "10";
+        document.LV.at(2).cells[1] = "20";
+    };
+    runCommand(app, "Search");
+    EXPECT_EQ(Program::cells(document.searchLV), "2|1|;------|1|;");
+    shell::SSTab1_Click(app, app::layoutTab);
+    EXPECT_FALSE(document.searchLV.MultiSelect);
+    runCommand(app, "mnuSelectedTotals");
+    EXPECT_TRUE(document.LV3.Visible && mainFrm.control("Totals").Value);
+    runCommand(app, "mnuExpressionEditor");
+    EXPECT_EQ(Program::cells(document.searchLV), "2|20|;------|20|;");
+    document.LV.MultiSelect = false;
+    shell::SSTab1_Click(app, app::reportTab);
+    EXPECT_FALSE(mainFrm.control("Delete").Enabled);
+    EXPECT_TRUE(document.LV.MultiSelect);
 }
 
 // The results are copies under the columns of their time.

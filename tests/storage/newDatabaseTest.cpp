@@ -1,5 +1,6 @@
 #include "storage/newDatabase.h"
 #include "programTest.h"
+#include "shell/listEvents.h"
 #include "storage/databaseTypeFrm.h"
 #include "storage/saveFile.h"
 
@@ -108,6 +109,7 @@ TEST_F(NewDatabaseTest, cancelChangesNothingButTheStyleThatWasPicked) {
     storage::newDatabase(app, false); // the file dialog is cancelled
     EXPECT_NE(dialogs(), "");
     EXPECT_TRUE(document.bInvoiceStyle);
+    EXPECT_EQ(&shell::visibleList(app), &document.LV) << "the records stay on view";
     document.bInvoiceStyle = false;
     platform.onForm = [&](std::string_view) {
         storage::databaseTypeFrm frm(app);
