@@ -72,6 +72,21 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
     painter->restore();
 }
 
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+    const bool isLeft = control == CC_ToolButton && button != nullptr && widget != nullptr &&
+                        button->state.testFlag(State_MouseOver) && !button->state.testFlag(State_Sunken) &&
+                        !widget->rect().contains(widget->mapFromGlobal(QCursor::pos()));
+    if (!isLeft) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QStyleOptionToolButton left = *button;
+    left.state.setFlag(State_MouseOver, false);
+    QProxyStyle::drawComplexControl(control, &left, painter, widget);
+}
+
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;

@@ -9,6 +9,8 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QStandardPaths>
+#include <QStyleOption>
+#include <QStylePainter>
 #include <QVBoxLayout>
 
 #include <set>
@@ -20,6 +22,22 @@ namespace {
 constexpr int pictureSize = 72;
 constexpr int samplesInRow = 3;
 constexpr int samplePictureSize = 32;
+
+// Qt gives such a button no sign of having the keys.
+class SampleButton final : public QCommandLinkButton {
+public:
+    using QCommandLinkButton::QCommandLinkButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QCommandLinkButton::paintEvent(event);
+        if (!hasFocus()) return;
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.rect = rect().adjusted(1, 1, -1, -1);
+        QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    }
+};
 
 QLabel* centred(const QString& text) {
     auto* label = new QLabel(text);
@@ -101,7 +119,7 @@ QWidget* StartPage::makeSamples() {
 }
 
 QWidget* StartPage::makeSampleButton(const shell::Sample& sample) {
-    auto* button = new QCommandLinkButton(withoutMnemonics(toQt(sample.name)), toQt(sample.shows));
+    auto* button = new SampleButton(withoutMnemonics(toQt(sample.name)), toQt(sample.shows));
     button->setObjectName(QStringLiteral("sample_") + toQt(sample.file.stem().string()));
     const QString picture = toQt(sample.picture);
     button->setIcon(familyIcon(picture));

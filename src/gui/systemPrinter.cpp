@@ -86,6 +86,8 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     dialog.setObjectName(QStringLiteral("printDialog"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
+    // Qt shows its choice of pages also where none is offered.
+    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) pages->hide();
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     if (isPdf()) fileName_ = chosen.outputFileName();
     platform::PrintChoice choice = present;
