@@ -80,7 +80,8 @@ QLayout* designFrmView::makeRightSide() {
     QHeaderView* header = List1_->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (const int section : {1, 2, 3}) header->resizeSection(section, em() * 11 / 2);
+    for (const int section : {1, 2, 3})
+        header->resizeSection(section, section == 1 ? em() * 6 : em() * 11 / 2);
     List1_->setMinimumWidth(em() * 22);
     List1_->installEventFilter(this);
     connect(List1_, &QTreeWidget::itemSelectionChanged, this, [this] {
