@@ -189,6 +189,7 @@ private slots:
         QTimer::singleShot(0, this, [&] {
             auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
             QVERIFY(dialog != nullptr);
+            QVERIFY(dialog->findChild<QWidget*>(u"printRange"_s)->parentWidget()->isHidden());
             auto* name = dialog->findChild<QLineEdit*>(u"filename"_s);
             QVERIFY(name != nullptr);
             QCOMPARE(name->text(), folders_.path("books.pdf")); // beside the database
