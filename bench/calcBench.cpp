@@ -3,6 +3,7 @@
 #include "calc/columns.h"
 #include "calc/recalculation.h"
 #include "entry/editRecord.h"
+#include "shell/program.h"
 #include "storage/openFile.h"
 
 #include <benchmark/benchmark.h>
@@ -32,7 +33,7 @@ struct Calculated {
     }
 
     CountingPlatform machine;
-    app::App app{machine};
+    shell::Program app{machine};
 };
 
 void recalculateAll(benchmark::State& state) {

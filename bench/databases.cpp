@@ -1,7 +1,7 @@
 #include "databases.h"
 
+#include "file/zip.h"
 #include "makeBigDatabase.h"
-#include "platform/zip.h"
 #include "storage/openFile.h"
 
 #include <array>
@@ -47,9 +47,9 @@ std::string makeLargest(const fs::path& folder) {
 }
 
 std::string readDataFileOf(const std::string& path) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(path);
-    return Zip.readEntry("data.dat", platform::Zip::maxFileBytes).value();
+    return Zip.readEntry("data.dat", file::Zip::maxFileBytes).value();
 }
 
 } // namespace

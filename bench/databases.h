@@ -24,7 +24,7 @@ struct OpenDatabase {
     explicit OpenDatabase(int database);
 
     platform::HeadlessPlatform machine{std::cerr};
-    app::App app{machine};
+    shell::Program app{machine};
 };
 
 } // namespace bench

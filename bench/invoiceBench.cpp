@@ -1,10 +1,10 @@
-#include "app/app.h"
-#include "app/invoiceRoutines.h"
 #include "calc/recalculation.h"
 #include "entry/invoiceRecords.h"
 #include "invoice/repeatFrm.h"
+#include "invoice/views.h"
 #include "platform/headlessPlatform.h"
 #include "shell/listEvents.h"
+#include "shell/program.h"
 
 #include <benchmark/benchmark.h>
 
@@ -37,7 +37,7 @@ struct Invoices {
         for (int i = 0; i < invoiceCount; ++i) addInvoice(i);
         addTotalsRow(document.LV);
         calc::RecalculateAll(app, document.LV);
-        app::rebuildInvoiceView(app);
+        invoice::rebuildView(app);
     }
 
     void addInvoice(int number) {
@@ -60,7 +60,7 @@ struct Invoices {
     }
 
     platform::HeadlessPlatform machine{std::cerr};
-    app::App app{machine};
+    shell::Program app{machine};
 };
 
 void label(benchmark::State& state, const Invoices& invoices) {
@@ -69,7 +69,7 @@ void label(benchmark::State& state, const Invoices& invoices) {
 
 void buildInvoiceView(benchmark::State& state, bool items) {
     Invoices invoices(items);
-    while (state.KeepRunning()) app::rebuildInvoiceView(invoices.app);
+    while (state.KeepRunning()) invoice::rebuildView(invoices.app);
     label(state, invoices);
 }
 BENCHMARK_CAPTURE(buildInvoiceView, items, true)->Unit(benchmark::kMillisecond);

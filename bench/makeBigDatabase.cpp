@@ -1,6 +1,6 @@
 #include "makeBigDatabase.h"
 
-#include "platform/zip.h"
+#include "file/zip.h"
 
 #include <array>
 #include <cstdint>
@@ -118,7 +118,7 @@ std::string bigDataFile(int records, int columns) {
 }
 
 void makeBigDatabase(const std::string& path, int records, int columns) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.CreateArchive(path, "");
     Zip.addBuffer("data.dat", bigDataFile(records, columns), "Main Data File");
     Zip.CloseArchive();

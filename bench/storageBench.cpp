@@ -1,7 +1,8 @@
 #include "databases.h"
 
-#include "storage/dataReader.h"
-#include "storage/dataWriter.h"
+#include "file/dataReader.h"
+#include "file/dataWriter.h"
+#include "shell/program.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 
@@ -30,7 +31,7 @@ void readText(benchmark::State& state) {
     const std::string& text = bench::dataFileOf(database);
     for (auto _ : state) {
         core::Document document;
-        storage::readDataFile(text, document);
+        file::readDataFile(text, document);
         benchmark::DoNotOptimize(document.LV.count());
     }
     countBytes(state, database);
@@ -41,7 +42,7 @@ void writeText(benchmark::State& state) {
     const int database = databaseOf(state);
     bench::OpenDatabase open(database);
     for (auto _ : state)
-        benchmark::DoNotOptimize(storage::encodeDataFile(storage::writeDataFile(open.app.document, false)));
+        benchmark::DoNotOptimize(file::encodeDataFile(file::writeDataFile(open.app.document, false)));
     countBytes(state, database);
 }
 BENCHMARK(writeText)->Apply(bothDatabases);
@@ -50,7 +51,7 @@ void openArchive(benchmark::State& state) {
     const int database = databaseOf(state);
     const std::string& path = bench::databasePath(database);
     platform::HeadlessPlatform machine(std::cerr);
-    app::App app(machine);
+    shell::Program app(machine);
     for (auto _ : state) storage::readArchive(app, path);
     countBytes(state, database);
 }

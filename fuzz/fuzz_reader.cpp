@@ -3,8 +3,8 @@
 
 #include "core/document.h"
 #include "core/runTimeError.h"
-#include "storage/dataReader.h"
-#include "storage/dataWriter.h"
+#include "file/dataReader.h"
+#include "file/dataWriter.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -28,8 +28,8 @@ void checkTotals(const core::Document& document) {
 
 std::string savedAgain(const std::string& bytes) {
     core::Document document;
-    storage::readDataFile(bytes, document);
-    return storage::encodeDataFile(storage::writeDataFile(document, false));
+    file::readDataFile(bytes, document);
+    return file::encodeDataFile(file::writeDataFile(document, false));
 }
 
 } // namespace
@@ -39,10 +39,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         core::Document document;
         int findings = 0;
-        const storage::ReadObserver observer{[&](int, std::string_view) { ++findings; }};
-        storage::readDataFile(std::string(reinterpret_cast<const char*>(data), size), document, &observer);
+        const file::ReadObserver observer{[&](int, std::string_view) { ++findings; }};
+        file::readDataFile(std::string(reinterpret_cast<const char*>(data), size), document, &observer);
         checkTotals(document);
-        saved = storage::encodeDataFile(storage::writeDataFile(document, false));
+        saved = file::encodeDataFile(file::writeDataFile(document, false));
     } catch (const core::RunTimeError&) {
         return 0; // no database
     }

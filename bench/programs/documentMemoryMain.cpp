@@ -1,5 +1,5 @@
-#include "app/app.h"
 #include "platform/headlessPlatform.h"
+#include "shell/program.h"
 #include "storage/openFile.h"
 
 #include <exception>
@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
     }
     try {
         platform::HeadlessPlatform machine(std::cerr);
-        app::App app(machine);
+        shell::Program app(machine);
         const long before = statusKilobytes("VmRSS");
         storage::readArchive(app, argv[1]);
         const long after = statusKilobytes("VmRSS");

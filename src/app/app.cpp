@@ -4,7 +4,7 @@ namespace app {
 
 void setDocumentModified(App& app, bool modified) {
     app.document.bModified = modified;
-    app.mainFrm.panels[documentPanel] = modified ? "Document Modified" : "Document Saved";
+    app.changes.announce(app, Change::Modified);
 }
 
 void showRecordCount(App& app, const core::RecordsList& list) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/changes.h"
 #include "app/mainFrm.h"
 #include "core/document.h"
 #include "platform/platform.h"
@@ -17,9 +18,10 @@ struct App {
     core::Document document;
     MainFrm mainFrm{document.LV};
     platform::Platform& platform;
+    Changes changes; // whoever follows a change is told of it here
 };
 
-// The only writer of bModified; tells it in the status bar.
+// The only writer of bModified.
 void setDocumentModified(App& app, bool modified);
 // The record count of a list in the status bar: the Totals row is not counted.
 void showRecordCount(App& app, const core::RecordsList& list);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recordedPage.h"
+#include "drawing/recordedPage.h"
 
 #include <cstdint>
 
@@ -8,8 +8,8 @@ namespace app {
 
 // The preview tab: the page in its port, and how far reports and layouts have come. Lengths in twips.
 struct PreviewPage {
-    platform::RecordedPage rptPreview1; // the page
-    float Left = 0, Top = 0;            // of the page, in the port
+    drawing::RecordedPage rptPreview1; // the page
+    float Left = 0, Top = 0;           // of the page, in the port
     bool Visible = false;
 
     struct Port {

@@ -54,6 +54,10 @@ void showFileSize(App& app) {
     if (!error) app.mainFrm.panels[fileSizePanel] = "Filesize: " + fileSizeText(bytes);
 }
 
+void showModified(App& app) {
+    app.mainFrm.panels[documentPanel] = app.document.bModified ? "Document Modified" : "Document Saved";
+}
+
 void showCaption(App& app) {
     app.mainFrm.Caption = title;
     if (!app.document.currentFile.empty()) app.mainFrm.Caption += " - " + app.document.currentFile;

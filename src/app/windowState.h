@@ -14,6 +14,9 @@ void enableControls(App& app, bool bEnable);
 void showFileSize(App& app);
 std::string fileSizeText(unsigned long long bytes);
 
+// Says in the status bar whether the document is as it is stored.
+void showModified(App& app);
+
 // The caption with the open file, or the title alone.
 void showCaption(App& app);
 

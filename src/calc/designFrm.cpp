@@ -1,6 +1,5 @@
 #include "calc/designFrm.h"
 
-#include "app/invoiceRoutines.h"
 #include "app/windowState.h"
 #include "calc/columns.h"
 #include "core/number.h"
@@ -63,7 +62,7 @@ bool designFrm::isNameTaken(std::string_view name) {
 }
 
 void designFrm::rebuildAfterChange() {
-    app::rebuildInvoiceView(app_);
+    app_.changes.announce(app_, app::Change::Columns);
 }
 
 void designFrm::addBtn_Click() {

@@ -1,8 +1,7 @@
 #include "calc/recalculation.h"
 
 #include "app/hourglass.h"
-#include "app/invoiceRoutines.h"
-#include "app/layoutRoutines.h"
+#include "calc/invoiceCalculation.h"
 #include "core/number.h"
 #include "core/totalsRow.h"
 
@@ -52,7 +51,7 @@ void RecalculateAll(App& app, RecordsList& list) {
         if (row.isTotals()) continue;
         progress.show(index);
         if (app.document.bInvoiceStyle)
-            app::calculateInvoice(app, list, index);
+            calculateInvoice(app, list, index);
         else
             calculator.calculate(row);
         if (app.mainFrm.bCalcError) {
@@ -76,20 +75,19 @@ std::vector<Uncalculated> recalculateEveryRow(App& app) {
     for (int index = 1; index <= records.count(); ++index) {
         Item& row = records.at(index);
         if (row.isTotals()) continue;
-        const auto reason = app.document.bInvoiceStyle ? app::tryCalculateInvoice(app, records, index)
+        const auto reason = app.document.bInvoiceStyle ? tryCalculateInvoice(app, records, index)
                                                        : calculator.tryCalculate(row);
         if (reason) failed.push_back({row.Key.str(), *reason});
         totals.update(core::TotalsMode::Add, row);
     }
-    app::rebuildInvoiceView(app);
+    app.changes.announce(app, app::Change::Values);
     return failed;
 }
 
 void recalculateAfterDialog(App& app) {
     const app::Hourglass hourglass(app);
     RecalculateAll(app, app.document.LV);
-    app::refreshShownRecord(app);
-    app::rebuildInvoiceView(app);
+    app.changes.announce(app, app::Change::Values);
 }
 
 } // namespace calc

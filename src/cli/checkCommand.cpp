@@ -1,4 +1,3 @@
-#include "app/invoiceRoutines.h"
 #include "cli/command.h"
 #include "cli/documentCheck.h"
 #include "cli/output.h"
@@ -6,10 +5,11 @@
 #include "core/encoding.h"
 #include "core/number.h"
 #include "core/text.h"
-#include "platform/zip.h"
-#include "storage/dataReader.h"
-#include "storage/lineReader.h"
-#include "storage/values.h"
+#include "file/dataReader.h"
+#include "file/lineReader.h"
+#include "file/values.h"
+#include "file/zip.h"
+#include "invoice/views.h"
 
 #include <CLI/CLI.hpp>
 #include <map>
@@ -47,24 +47,24 @@ private:
     }
 
     void checkAll() {
-        platform::Zip Zip;
+        file::Zip Zip;
         Zip.OpenArchive(session_.file);
         const std::set<std::string> images = checkEntries(Zip);
-        std::optional<std::string> bytes = Zip.readEntry(dataFile, platform::Zip::maxFileBytes);
+        std::optional<std::string> bytes = Zip.readEntry(dataFile, file::Zip::maxFileBytes);
         if (!bytes) core::raise(core::errors::fileNotFound, "data.dat is not in the archive");
         if (core::hasUtf8Mark(*bytes)) checkUtf8(*bytes);
-        const storage::ReadObserver observer{[this](int line, std::string_view what) {
+        const file::ReadObserver observer{[this](int line, std::string_view what) {
             report("line " + std::to_string(line) + ": " + std::string(what));
         }};
         core::Document& document = session_.app.document;
-        storage::readDataFile(*bytes, document, &observer);
-        checkSections(storage::decodeDataFile(*std::move(bytes)));
+        file::readDataFile(*bytes, document, &observer);
+        checkSections(file::decodeDataFile(*std::move(bytes)));
         checkDocument(document, images, [this](const std::string& finding) { report(finding); });
-        if (document.bInvoiceStyle) app::rebuildInvoiceView(session_.app); // raises for too many item rows
+        if (document.bInvoiceStyle) invoice::rebuildView(session_.app); // raises for too many item rows
     }
 
     // Answers the names of the images.
-    std::set<std::string> checkEntries(const platform::Zip& Zip) {
+    std::set<std::string> checkEntries(const file::Zip& Zip) {
         std::set<std::string> names;
         for (int i = 0; i < Zip.FileCount(); ++i) {
             const std::string name = Zip.FileNameAt(i);
@@ -73,10 +73,10 @@ private:
                 report(entry + " is there twice");
                 continue;
             }
-            if (!platform::isSafeEntryName(name)) report(entry + " has a name that is never unpacked");
+            if (!file::isSafeEntryName(name)) report(entry + " has a name that is never unpacked");
             if (name == dataFile) continue; // read later, where damage ends the check
             try {
-                (void)Zip.readEntry(name, platform::Zip::maxFileBytes);
+                (void)Zip.readEntry(name, file::Zip::maxFileBytes);
             } catch (const core::RunTimeError&) {
                 report(entry + " is damaged, or too large");
             }
@@ -97,7 +97,7 @@ private:
         constexpr std::size_t markerSize = 16;
         std::map<std::string_view, std::size_t> elements;
         std::string_view widths, spots;
-        storage::LineReader lines(text);
+        file::LineReader lines(text);
         while (lines.next() != "[LayoutEnd]") {
         }
         for (;;) {
@@ -129,7 +129,7 @@ private:
     void checkWidths(std::string_view line) {
         for (const std::string_view width : core::split(line, '|'))
             if (!width.empty() &&
-                (!core::isNumeric(width) || core::val(width) < 0 || core::val(width) > storage::widestColumn))
+                (!core::isNumeric(width) || core::val(width) < 0 || core::val(width) > file::widestColumn))
                 report("the width \"" + std::string(width) + "\" of a column is out of range");
     }
 

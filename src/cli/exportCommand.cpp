@@ -5,7 +5,7 @@
 #include "core/text.h"
 #include "exchange/columnTypes.h"
 #include "exchange/csvWriter.h"
-#include "platform/atomicFile.h"
+#include "file/atomicFile.h"
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
@@ -73,9 +73,9 @@ std::string tableAsJson(const core::Document& document, const Columns& columns) 
 
 void write(const std::string& file, std::string_view text) {
     try {
-        platform::AtomicFile target(file);
-        if (const int error = platform::writeAt(target.fd(), text.data(), text.size(), 0))
-            platform::raiseSystemError(error, file);
+        file::AtomicFile target(file);
+        if (const int error = file::writeAt(target.fd(), text.data(), text.size(), 0))
+            file::raiseSystemError(error, file);
         target.commit();
     } catch (const core::RunTimeError& error) {
         throw Failure(file, std::string("could not be written: ") + error.what());

@@ -10,7 +10,7 @@
 #include "entry/editRecord.h"
 #include "entry/invoiceRecords.h"
 #include "exchange/columnTypes.h"
-#include "platform/zip.h"
+#include "file/zip.h"
 #include "storage/newDatabase.h"
 
 #include <CLI/CLI.hpp>
@@ -149,7 +149,7 @@ std::vector<const Column*> matchingColumns(Session& session, const Options& opti
 
 void askAboutImages(const Options& options, const CsvTable& table,
                     const std::vector<const Column*>& columns) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(options.file);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         if (!columns[i]->isType(ColumnType::Picture)) continue;

@@ -3,7 +3,7 @@
 #include "cli/output.h"
 #include "cli/session.h"
 #include "core/number.h"
-#include "platform/zip.h"
+#include "file/zip.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,7 +21,7 @@ struct Options {
 
 std::vector<ArchiveEntry> entriesOf(const std::string& file) {
     std::vector<ArchiveEntry> entries;
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(file);
     entries.reserve(static_cast<std::size_t>(Zip.FileCount()));
     for (int i = 0; i < Zip.FileCount(); ++i)

@@ -19,7 +19,7 @@ namespace cli {
 
 namespace {
 
-using platform::DrawTarget;
+using drawing::DrawTarget;
 
 struct Options {
     std::string file;
@@ -32,13 +32,13 @@ struct Options {
 };
 
 #ifdef FERROWICK_PRINTS
-std::unique_ptr<platform::Printer> makePrinter(const Options& options) {
+std::unique_ptr<drawing::Printer> makePrinter(const Options& options) {
     return qtprint::makePdfPrinter(options.output);
 }
 #else
 // Goes on as the program that can print: beside this one where it is built, in its own folder where it is
 // installed.
-std::unique_ptr<platform::Printer> makePrinter(const Options&) {
+std::unique_ptr<drawing::Printer> makePrinter(const Options&) {
     std::error_code error;
     const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
     for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
@@ -50,7 +50,7 @@ std::unique_ptr<platform::Printer> makePrinter(const Options&) {
 // Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
 void printInto(Session& session, const Options& options,
                const std::function<void(app::App&, DrawTarget&)>& print) {
-    const std::unique_ptr<platform::Printer> printer = makePrinter(options);
+    const std::unique_ptr<drawing::Printer> printer = makePrinter(options);
     session.open();
     session.refuseAsOutput(options.output);
     session.platform.setPrinter(printer.get());

@@ -2,7 +2,7 @@
 
 #include "calc/serialNumbers.h"
 #include "entry/editRecord.h"
-#include "platform/zip.h"
+#include "file/zip.h"
 
 #include <algorithm>
 
@@ -28,7 +28,7 @@ CellValue cellValue(Session& session, const std::string& argument) {
 
 void requireImage(Session& session, const std::string& name) {
     if (name.empty()) return;
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(session.app.document.currentFile);
     if (!Zip.contains(name)) throw Failure(session.file, "it has no image \"" + name + "\"");
 }

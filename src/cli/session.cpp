@@ -3,6 +3,7 @@
 #include "calc/recalculation.h"
 #include "cli/output.h"
 #include "core/encoding.h"
+#include "shell/program.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
@@ -60,8 +61,8 @@ std::string whyNotWritten(const std::string& target, const core::RunTimeError& e
 
 // The end of the process gives the document back at once; to free its cells one by one would take a
 // good part of the time that reading them takes.
-app::App& untilTheEnd(std::unique_ptr<app::App> app) {
-    static auto* const kept = new std::vector<std::unique_ptr<app::App>>;
+shell::Program& untilTheEnd(std::unique_ptr<shell::Program> app) {
+    static auto* const kept = new std::vector<std::unique_ptr<shell::Program>>;
     kept->push_back(std::move(app));
     return *kept->back();
 }
@@ -79,7 +80,7 @@ void tellRows(const std::string& file, const std::vector<std::string>& rows) {
 
 Session::Session(std::string databaseFile)
     : file(std::move(databaseFile)), platform(std::cerr),
-      app(untilTheEnd(std::make_unique<app::App>(platform))) {}
+      app(untilTheEnd(std::make_unique<shell::Program>(platform))) {}
 
 void Session::open() {
     try {

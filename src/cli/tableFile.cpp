@@ -1,7 +1,7 @@
 #include "cli/tableFile.h"
 
 #include "cli/session.h"
-#include "platform/fileHandle.h"
+#include "file/fileHandle.h"
 
 #include <cerrno>
 #include <cstring>
@@ -16,7 +16,7 @@ constexpr std::size_t mostBytes = std::size_t{256} << 20U;
 constexpr std::size_t step = std::size_t{1} << 20U;
 
 std::string bytesOf(const std::string& file) {
-    const platform::FileHandle handle(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    const file::FileHandle handle(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
     if (!handle.isOpen()) throw Failure(file, std::strerror(errno));
     std::string bytes;
     for (std::size_t size = 0;;) {

@@ -1,9 +1,9 @@
 #include "entry/entryFrm.h"
 
-#include "app/commandRoutines.h"
 #include "calc/serialNumbers.h"
 #include "core/text.h"
 #include "entry/editRecord.h"
+#include "entry/invoiceRecords.h"
 #include "entry/retrieveData.h"
 #include "storage/saveFile.h"
 
@@ -306,7 +306,7 @@ void entryFrm::update() {
 void entryFrm::deleteRecord() {
     const int row = currentRow();
     const int before = list().count();
-    app::Toolbar_ButtonClick(app_, "Delete");
+    if (app_.mainFrm.control("Delete").Enabled) Delete_ButtonClick(app_);
     const int after = list().count();
     if (after == before) return;
     if (after < 2)

@@ -1,13 +1,13 @@
 #include "entry/invoiceRecords.h"
 
-#include "app/invoiceRoutines.h"
+#include "calc/invoiceCalculation.h"
+#include "calc/itemColumns.h"
 #include "calc/serialNumbers.h"
 #include "core/format.h"
 #include "core/text.h"
 #include "core/totalsRow.h"
 #include "entry/editRecord.h"
 #include "entry/shownRecord.h"
-#include "invoice/calculation.h"
 #include "invoice/records.h"
 #include "invoice/views.h"
 
@@ -42,7 +42,7 @@ std::string filledCell(const Column& column, const std::string& text) {
 
 void writeCells(App& app, Item& record, bool bUpdate, const ColumnNames* only) {
     Document& document = app.document;
-    const invoice::ItemColumns items(document);
+    const calc::ItemColumns items(document);
     std::set<std::string, std::less<>> begun; // groups that have their first value
     document.layout.layoutField.forEach([&](const LayoutField& field) {
         const Column* column = document.LV.columns.find(field.Tag);
@@ -107,7 +107,7 @@ void editInvoiceRecord(App& app, bool bUpdate, const ColumnNames* only) {
     if (bUpdate)
         core::UpdateTotalsRow(app.document, core::TotalsMode::Subtract, records, records.indexOf(*record));
     writeCells(app, *record, bUpdate, only);
-    app::calculateInvoice(app, records, records.indexOf(*record));
+    calc::calculateInvoice(app, records, records.indexOf(*record));
     core::UpdateTotalsRow(app.document, core::TotalsMode::Add, records, records.indexOf(*record));
     records.setSelectedItem(record);
     app::setDocumentModified(app, true);
@@ -135,7 +135,7 @@ std::vector<calc::Uncalculated> addInvoices(App& app, int count, const std::func
         fill(row);
         Item& record = records.add(app.document.nextKey());
         writeCells(app, record, true, nullptr);
-        if (const auto reason = app::tryCalculateInvoice(app, records, records.count()))
+        if (const auto reason = calc::tryCalculateInvoice(app, records, records.count()))
             failed.push_back({record.Key.str(), *reason});
         added.push_back(&record);
     }
@@ -145,7 +145,7 @@ std::vector<calc::Uncalculated> addInvoices(App& app, int count, const std::func
     const core::TotalsRowUpdater totals(app.document, records);
     for (const Item* record : added) totals.update(core::TotalsMode::Add, *record);
     app::setDocumentModified(app, true);
-    app::rebuildInvoiceView(app);
+    invoice::rebuildView(app);
     return failed;
 }
 
@@ -187,6 +187,14 @@ void removeInvoiceRows(App& app, const std::string& key) {
     if (results.Visible)
         results.removeIf([&](const Item& row) { return !row.isTotals() && row.Text == key; });
     invoice::refreshRows(app);
+}
+
+void Delete_ButtonClick(App& app) {
+    if (app.mainFrm.SSTab1 != app::reportTab || app.document.searchLV.Visible) return;
+    if (!app.document.bInvoiceStyle)
+        deleteRecords(app);
+    else if (!app.document.bInvoiceView)
+        deleteInvoices(app);
 }
 
 } // namespace entry

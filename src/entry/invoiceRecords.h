@@ -39,4 +39,7 @@ bool deleteInvoices(app::App& app);
 // built anew.
 void removeInvoiceRows(app::App& app, const std::string& key);
 
+// The button "Delete": the selected records, where the records are on view.
+void Delete_ButtonClick(app::App& app);
+
 } // namespace entry

@@ -1,6 +1,5 @@
 #include "entry/navBar.h"
 
-#include "app/layoutRoutines.h"
 #include "calc/serialNumbers.h"
 #include "core/runTimeError.h"
 #include "entry/editRecord.h"
@@ -49,26 +48,26 @@ int currentRow(const App& app) {
 
 void goFirst(App& app) {
     if (!app.mainFrm.theListView->empty()) selectRow(app, 1);
-    app::showRecord(app);
+    showRecord(app);
 }
 
 void goBack(App& app) {
     const int row = currentRow(app);
     if (row > 1) selectRow(app, row - 1);
-    app::showRecord(app);
+    showRecord(app);
 }
 
 // The Totals row, the last one, is never reached.
 void goNext(App& app) {
     const int row = currentRow(app);
     if (row + 1 <= app.mainFrm.theListView->count() - 1) selectRow(app, row + 1);
-    app::showRecord(app);
+    showRecord(app);
 }
 
 void goLast(App& app) {
     const int count = app.mainFrm.theListView->count();
     if (count > 1) selectRow(app, count - 1);
-    app::showRecord(app);
+    showRecord(app);
 }
 
 void newRecord(App& app) {
@@ -150,10 +149,10 @@ void updateSheet(App& app) {
     if (recordMeant(app) == nullptr) return;
     if (app.document.bInvoiceStyle) {
         editInvoiceRecord(app, true);
-        app::showRecord(app);
+        showRecord(app);
         return;
     }
-    if (writeSheet(app, true)) app::showRecord(app);
+    if (writeSheet(app, true)) showRecord(app);
 }
 
 // What follows the records that have gone takes their place on the sheet; at the end the last record does.
@@ -178,7 +177,7 @@ void deleteShown(App& app) {
     else
         selectBehindGone(app.document.LV, row);
     clearSheet(app);
-    app::refreshShownRecord(app);
+    app.changes.announce(app, app::Change::CurrentRecord);
 }
 
 const std::map<std::string_view, std::function<void(App&)>>& routines() {
@@ -225,7 +224,7 @@ void Slider1_Change(App& app, int value) {
     app.mainFrm.Slider1.Value = value;
     if (list.count() < 2) return;
     selectItem(app, list.at(std::clamp(value, 1, list.count() - 1))); // the Totals row is no record
-    app::showRecord(app);
+    showRecord(app);
 }
 
 } // namespace entry

@@ -1,7 +1,5 @@
 #include "entry/retrieveData.h"
 
-#include "app/layoutRoutines.h"
-
 #include "app/windowState.h"
 #include "core/text.h"
 #include "entry/shownRecord.h"
@@ -68,12 +66,10 @@ void clearSheet(App& app) {
     });
 }
 
-} // namespace entry
-
-void app::refreshShownRecord(App& app) {
+void refreshShownRecord(App& app) {
     if (app.mainFrm.SSTab1 != app::layoutTab) return;
     if (app.mainFrm.control("Design").Value) {
-        entry::retrieveFields(app); // the pictures keep the frames they are designed in
+        retrieveFields(app); // the pictures keep the frames they are designed in
         return;
     }
     const core::Document& document = app.document;
@@ -81,11 +77,13 @@ void app::refreshShownRecord(App& app) {
         app::showReportTab(app); // no invoice to show: the page is no place to stay, as it is none to go to
         return;
     }
-    if (entry::currentRecord(app) == nullptr) entry::clearSheet(app);
-    app::showRecord(app);
+    if (currentRecord(app) == nullptr) clearSheet(app);
+    showRecord(app);
 }
 
-void app::showRecord(App& app) {
-    entry::retrieveFields(app);
-    if (!app.document.bInvoiceStyle) entry::retrievePictures(app);
+void showRecord(App& app) {
+    retrieveFields(app);
+    if (!app.document.bInvoiceStyle) retrievePictures(app);
 }
+
+} // namespace entry

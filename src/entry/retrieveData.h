@@ -9,6 +9,13 @@ namespace entry {
 void retrieveFields(app::App& app);
 void retrievePictures(app::App& app);
 
+// Both, as the style of the database has them.
+void showRecord(app::App& app);
+
+// Shows the current record on the layout page anew, when that page is in front: whatever makes another record
+// the current one, or changes it behind the page, comes here, since the sheet and its record must not part.
+void refreshShownRecord(app::App& app);
+
 // Empties the fields and the picture boxes.
 void clearSheet(app::App& app);
 

@@ -1,11 +1,12 @@
-#include "gui/commandLine.h"
-#include "gui/icon.h"
-#include "gui/mainFrmView.h"
-#include "gui/palette.h"
-#include "gui/picture.h"
-#include "gui/programStyle.h"
-#include "gui/qtText.h"
+#include "gui/frame/commandLine.h"
+#include "gui/frame/mainFrmView.h"
+#include "gui/frame/picture.h"
+#include "gui/widgets/icon.h"
+#include "gui/widgets/palette.h"
+#include "gui/widgets/programStyle.h"
+#include "gui/widgets/qtText.h"
 #include "shell/mainWindow.h"
+#include "shell/program.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -16,7 +17,7 @@ namespace {
 
 int showWindow(const gui::CommandLine& line) {
     gui::QtPlatform platform;
-    app::App app(platform);
+    shell::Program app(platform);
     gui::MainFrmView window(app, platform);
     // Not with the last window: the disclaimer of the first start closes before the window opens.
     QApplication::setQuitOnLastWindowClosed(false);

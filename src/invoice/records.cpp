@@ -1,5 +1,6 @@
 #include "invoice/records.h"
 
+#include "calc/itemColumns.h"
 #include "core/text.h"
 #include "invoice/views.h"
 
@@ -48,7 +49,7 @@ void retrieveInvoiceRecord(App& app) {
     const Item* record = document.LV.selectedItem();
     if (document.LV.count() < 2 || record == nullptr) return;
     app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
-    const ItemColumns items(document);
+    const calc::ItemColumns items(document);
     std::map<std::string_view, std::size_t> rows; // how many fields of a group have been filled
     document.layout.layoutField.forEach([&](LayoutField& field) {
         const Column* column = document.LV.columns.find(field.Tag);

@@ -1,6 +1,6 @@
 #include "invoice/views.h"
 
-#include "app/invoiceRoutines.h"
+#include "calc/itemColumns.h"
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
@@ -92,19 +92,6 @@ void addItemRows(RecordsList& view, const Item& record, int rows, const std::vec
 
 } // namespace
 
-ItemColumns::ItemColumns(const Document& document) {
-    std::unordered_map<std::string, int> fields;
-    document.layout.layoutField.forEach([&](const core::LayoutField& field) {
-        if (++fields[field.Tag] == 2) names_.insert(field.Tag);
-    });
-}
-
-bool isItemColumn(const Document& document, std::string_view name) {
-    int fields = 0;
-    document.layout.layoutField.forEach([&](const core::LayoutField& field) { fields += field.Tag == name; });
-    return fields > 1;
-}
-
 void choosePrintedCols(Document& document) {
     document.printedCols.clear();
     for (const auto& column : document.bInvoiceView ? document.prnItemCols : document.prnInvoiceCols)
@@ -114,7 +101,7 @@ void choosePrintedCols(Document& document) {
 void BuildInvoicesView(app::App& app) {
     Document& document = app.document;
     RecordsList& view = document.iLV;
-    const ItemColumns items(document);
+    const calc::ItemColumns items(document);
     clearView(view);
     for (const Column& column : document.LV.columns)
         if (column.Index == 1 || !items.contains(column.Text)) copyColumn(view, column);
@@ -136,7 +123,7 @@ void BuildInvoicesView(app::App& app) {
 void BuildItemsView(app::App& app) {
     Document& document = app.document;
     RecordsList& view = document.iLV;
-    const ItemColumns items(document);
+    const calc::ItemColumns items(document);
     clearView(view);
     for (const Column& column : document.LV.columns) {
         const bool isItem = items.contains(column.Text);
@@ -165,7 +152,7 @@ void BuildItemsView(app::App& app) {
 void refreshRows(app::App& app) {
     RecordsList& view = app.document.iLV;
     const core::ColumnHeaders before = view.columns;
-    app::rebuildInvoiceView(app);
+    rebuildView(app);
     const auto isSame = [](const Column& a, const Column& b) { return a.Key == b.Key && a.Tag == b.Tag; };
     if (std::ranges::equal(before, view.columns, isSame)) view.columns = before;
     const Item* record = app.document.LV.selectedItem();
@@ -175,17 +162,17 @@ void refreshRows(app::App& app) {
     view.setSelectedItem(row);
 }
 
-} // namespace invoice
-
-void app::rebuildInvoiceView(App& app) {
+void rebuildView(app::App& app) {
     if (!app.document.bInvoiceStyle) return;
     // The widths that the user has given the columns on show are those of the columns.
-    for (const core::Column& shown : app.document.iLV.columns) {
-        core::Column* column = app.document.LV.columns.find(shown.Text);
+    for (const Column& shown : app.document.iLV.columns) {
+        Column* column = app.document.LV.columns.find(shown.Text);
         if (column != nullptr && column->Index != 1) column->Width = shown.Width;
     }
     if (app.document.bInvoiceView)
-        invoice::BuildItemsView(app);
+        BuildItemsView(app);
     else
-        invoice::BuildInvoicesView(app);
+        BuildInvoicesView(app);
 }
+
+} // namespace invoice

@@ -2,25 +2,10 @@
 
 #include "app/app.h"
 
-#include <string>
-#include <string_view>
-#include <unordered_set>
-
 namespace invoice {
 
-// Whether a column has several values in an invoice. The layout alone decides it: two or more fields
-// that show the column make it one of the item rows.
-bool isItemColumn(const core::Document& document, std::string_view name);
-
-// The layout asked once for all columns.
-class ItemColumns {
-public:
-    explicit ItemColumns(const core::Document& document);
-    bool contains(std::string_view name) const { return names_.contains(std::string(name)); }
-
-private:
-    std::unordered_set<std::string> names_;
-};
+// Rebuilds the list of the view on show; nothing in a standard database.
+void rebuildView(app::App& app);
 
 // Rebuild iLV from LV: one row an item row, and one row an invoice. A row's Text is the key of the
 // record in LV that it came from.

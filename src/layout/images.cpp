@@ -3,8 +3,8 @@
 #include "app/hourglass.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "file/zip.h"
 #include "layout/sheet.h"
-#include "platform/zip.h"
 
 #include <cerrno>
 #include <fstream>
@@ -33,7 +33,7 @@ void scaleInto(const LayoutObject& holder, FittedImage& image, double width, dou
     image.Height = static_cast<float>((holder.Width - 1) / width * height);
 }
 
-void fit(const LayoutObject& holder, FittedImage& image, platform::Extent natural) {
+void fit(const LayoutObject& holder, FittedImage& image, drawing::Extent natural) {
     const auto width = static_cast<float>(natural.Width);
     const auto height = static_cast<float>(natural.Height);
     image.Stretch = false;
@@ -88,14 +88,14 @@ bool tryToAdd(App& app, const std::function<void()>& add) {
 }
 
 void addToArchive(App& app, const fs::path& file, const std::string& comment) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     Zip.AddFile(file, comment);
     Zip.CloseArchive();
 }
 
 bool archiveHas(App& app, const std::string& name) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     const bool found = Zip.contains(name);
     Zip.CloseArchive();
@@ -123,14 +123,14 @@ void fitImage(App& app, const LayoutObject& holder, FittedImage& image, const fs
     std::error_code ignored;
     if (path.empty() || !fs::is_regular_file(path, ignored)) return;
     const app::Hourglass hourglass(app);
-    const std::optional<platform::Extent> natural = app.platform.pictureExtent(path);
+    const std::optional<drawing::Extent> natural = app.platform.pictureExtent(path);
     if (!natural || natural->Width <= 0 || natural->Height <= 0) return;
     image.path = path.string();
     fit(holder, image, *natural);
 }
 
 fs::path unpackedImage(App& app, const std::string& name, ImageArchive& archive) {
-    if (name.empty() || !platform::isSafeEntryName(name)) return {};
+    if (name.empty() || !file::isSafeEntryName(name)) return {};
     const fs::path file = app.platform.tempFolder() / name;
     std::error_code ignored;
     if (!fs::exists(file, ignored)) archive.extract(name);
@@ -138,7 +138,7 @@ fs::path unpackedImage(App& app, const std::string& name, ImageArchive& archive)
 }
 
 fs::path clipArtFile(App& app, const core::ClipPic& clip) {
-    if (clip.Tag.empty() || !platform::isSafeEntryName(clip.Tag)) return {};
+    if (clip.Tag.empty() || !file::isSafeEntryName(clip.Tag)) return {};
     return app.platform.tempFolder() / clip.Tag;
 }
 

@@ -2,7 +2,7 @@
 
 #include "app/app.h"
 #include "core/layoutObjects.h"
-#include "platform/zip.h"
+#include "file/zip.h"
 
 #include <filesystem>
 #include <string>
@@ -27,7 +27,7 @@ public:
 
 private:
     app::App& app_;
-    platform::Zip Zip_;
+    file::Zip Zip_;
     bool bOpen_ = false, bUnreadable_ = false;
 };
 

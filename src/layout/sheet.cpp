@@ -1,6 +1,5 @@
 #include "layout/sheet.h"
 
-#include "app/layoutRoutines.h"
 #include "core/number.h"
 #include "layout/images.h"
 
@@ -23,7 +22,7 @@ constexpr double twipsPerInch = 1440;
 constexpr std::int32_t cyan = 0xFFFF00;
 constexpr std::int32_t grey = 0x808080;
 
-platform::Extent letter() {
+drawing::Extent letter() {
     return {12240, 15840};
 }
 
@@ -97,7 +96,7 @@ void placeMargins(App& app) {
 
 } // namespace
 
-platform::Extent pageExtent(App& app) {
+drawing::Extent pageExtent(App& app) {
     const core::LayoutOptions& options = app.document.layoutOptions;
     const auto customTwips = [](float inches) {
         constexpr double longest = 500; // inches; a damaged file may say anything
@@ -105,7 +104,7 @@ platform::Extent pageExtent(App& app) {
     };
     if (options.layoutPaperSize == core::customPaper)
         return {customTwips(options.customPaperLength), customTwips(options.customPaperHeight)};
-    platform::Extent page = app.platform.paperExtent(options.layoutPaperSize).value_or(letter());
+    drawing::Extent page = app.platform.paperExtent(options.layoutPaperSize).value_or(letter());
     if (options.layoutOrientation == core::landscape) std::swap(page.Width, page.Height);
     return page;
 }
@@ -123,7 +122,7 @@ std::int32_t fieldBackColor(const App& app, const LayoutField& field) {
 void InitLayout(App& app, bool bDesign) {
     LayoutPage& page = app.mainFrm.layoutPage;
     page.layoutPic2.Visible = false;
-    const platform::Extent extent = pageExtent(app);
+    const drawing::Extent extent = pageExtent(app);
     page.layoutPic2.Width = static_cast<float>(extent.Width);
     page.layoutPic2.Height = static_cast<float>(extent.Height);
     page.marginLbl =
@@ -139,7 +138,7 @@ void InitLayout(App& app, bool bDesign) {
         designObjects(app);
     } else {
         browseObjects(app);
-        app::showRecord(app);
+        app.changes.announce(app, app::Change::Page);
     }
     enableToolbars(app, bDesign);
     placeMargins(app);

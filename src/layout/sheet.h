@@ -7,7 +7,7 @@
 namespace layout {
 
 // The page size in twips that the printer gives for the layout's paper, orientation and custom size.
-platform::Extent pageExtent(app::App& app);
+drawing::Extent pageExtent(app::App& app);
 
 // Puts the sheet into design or browse mode.
 void InitLayout(app::App& app, bool bDesign);

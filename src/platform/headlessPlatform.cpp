@@ -38,12 +38,12 @@ std::optional<std::string> HeadlessPlatform::chosen(const std::string& path) {
     return path;
 }
 
-Printer& HeadlessPlatform::printer() const {
+drawing::Printer& HeadlessPlatform::printer() const {
     if (printer_ == nullptr) core::raise(core::errors::deviceIO, "there is no printer");
     return *printer_;
 }
 
-std::optional<Extent> HeadlessPlatform::pictureExtent(const std::filesystem::path& picture) {
+std::optional<drawing::Extent> HeadlessPlatform::pictureExtent(const std::filesystem::path& picture) {
     return printer_ == nullptr ? std::nullopt : printer_->pictureExtent(picture);
 }
 

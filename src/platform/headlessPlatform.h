@@ -1,7 +1,7 @@
 #pragma once
 
+#include "drawing/printer.h"
 #include "platform/platform.h"
-#include "platform/printer.h"
 #include "platform/workFolder.h"
 
 #include <ostream>
@@ -25,7 +25,7 @@ public:
     // What the user would type into an input box. Empty: he cancels.
     void setInput(std::string text) { input_ = std::move(text); }
     // What is printed on; there is no printer as long as nobody gives one. It must outlive the platform.
-    void setPrinter(Printer* printer) { printer_ = printer; }
+    void setPrinter(drawing::Printer* printer) { printer_ = printer; }
     void setToday(std::chrono::year_month_day day) { today_ = day; }
 
     // Routines tell a failure by a message alone, and a refusal by a question answered No. Whoever
@@ -44,11 +44,11 @@ public:
     void paintStatus() override {}
     void openLink(const std::string&) override {}
     std::string printerDeviceName() override { return printer().DeviceName(); }
-    TextMetrics& textMetrics() override { return printer().textMetrics(); }
-    std::unique_ptr<DrawTarget> openPrinter(const std::string& documentName) override {
+    drawing::TextMetrics& textMetrics() override { return printer().textMetrics(); }
+    std::unique_ptr<drawing::DrawTarget> openPrinter(const std::string& documentName) override {
         return printer().open(documentName);
     }
-    std::optional<Extent> pictureExtent(const std::filesystem::path& picture) override;
+    std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& picture) override;
     // A folder of this run's own, made when somebody first asks for it.
     std::filesystem::path workFolder() override { return folder_.path(); }
     std::filesystem::path tempFolder() override { return folder_.temp(); }
@@ -62,12 +62,12 @@ public:
 
 private:
     static std::optional<std::string> chosen(const std::string& path);
-    Printer& printer() const;
+    drawing::Printer& printer() const;
 
     std::ostream& messages_;
     WorkFolder folder_ = WorkFolder::scratch();
     std::string openName_, saveName_, input_;
-    Printer* printer_ = nullptr;
+    drawing::Printer* printer_ = nullptr;
     std::optional<std::chrono::year_month_day> today_;
     bool answersYes_ = false;
     int exclamations_ = 0;

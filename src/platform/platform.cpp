@@ -1,28 +1,29 @@
 #include "platform/platform.h"
 
 #include "core/runTimeError.h"
-#include "platform/papers.h"
+#include "drawing/papers.h"
 
 namespace platform {
 
-std::optional<Extent> Platform::paperExtent(int code) {
-    const PaperSize* paper = findPaper(code);
+std::optional<drawing::Extent> Platform::paperExtent(int code) {
+    const drawing::PaperSize* paper = drawing::findPaper(code);
     if (paper == nullptr) return std::nullopt;
-    return Extent{paper->Width, paper->Height};
+    return drawing::Extent{paper->Width, paper->Height};
 }
 
 std::vector<PaperName> Platform::printerPapers() {
     std::vector<PaperName> names;
-    for (const PaperSize& paper : papers()) names.push_back({std::string(paper.name), paper.code});
-    names.push_back({"Custom", customPaperCode});
+    for (const drawing::PaperSize& paper : drawing::papers())
+        names.push_back({std::string(paper.name), paper.code});
+    names.push_back({"Custom", drawing::customPaperCode});
     return names;
 }
 
-std::unique_ptr<DrawTarget> Platform::openPrinter(const std::string&) {
+std::unique_ptr<drawing::DrawTarget> Platform::openPrinter(const std::string&) {
     core::raise(core::errors::deviceIO, "there is no printer");
 }
 
-TextMetrics& Platform::textMetrics() {
+drawing::TextMetrics& Platform::textMetrics() {
     core::raise(core::errors::deviceIO, "there is no printer");
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/drawTarget.h"
+#include "drawing/drawTarget.h"
 #include "platform/mailMessage.h"
 
 #include <chrono>
@@ -28,11 +28,6 @@ struct FileDialog {
 
 // The filter of every dialog that asks for a database.
 constexpr std::string_view databaseFilter = "Database (*.fwk)|*.fwk|All Files (*.*)|*.*";
-
-// Of a page or a picture, in twips.
-struct Extent {
-    long Width = 0, Height = 0;
-};
 
 // A paper of the printer by its own name; the code is what PaperSize takes.
 struct PaperName {
@@ -94,20 +89,22 @@ public:
     // Raises when there is no printer at all. The window always has one: its own "Print to PDF".
     virtual std::string printerDeviceName() { return "Print to PDF"; }
     // A paper of the printer, upright; nothing for a code that it does not know.
-    virtual std::optional<Extent> paperExtent(int code);
+    virtual std::optional<drawing::Extent> paperExtent(int code);
     // In the printer's own order; these are those of the built-in printer.
     virtual std::vector<PaperName> printerPapers();
     // Chooses printer, copies and paper for what is printed next. Nothing when the user cancelled.
     virtual std::optional<PrintChoice> showPrinterDialog(const PrintChoice&) { return std::nullopt; }
     // The printer, for the jobs of one command. nullptr when the user was asked for a file and cancelled.
-    virtual std::unique_ptr<DrawTarget> openPrinter(const std::string& documentName);
+    virtual std::unique_ptr<drawing::DrawTarget> openPrinter(const std::string& documentName);
     // Raises when there is nothing that could measure texts, as when there is no printer.
-    virtual TextMetrics& textMetrics();
+    virtual drawing::TextMetrics& textMetrics();
 
     // --- pictures ---
     // The natural size of a JPEG or GIF file; nothing for a file that is absent, damaged, or so large
     // that it could not be shown in reasonable memory.
-    virtual std::optional<Extent> pictureExtent(const std::filesystem::path&) { return std::nullopt; }
+    virtual std::optional<drawing::Extent> pictureExtent(const std::filesystem::path&) {
+        return std::nullopt;
+    }
     // Whether that is what keeps it from being shown.
     virtual bool isPictureTooLarge(const std::filesystem::path&) { return false; }
     // Writes the picture of the clipboard into a bitmap file. False when the clipboard holds a text or

@@ -1,8 +1,8 @@
 #include "platform/settingsFile.h"
 
 #include "core/runTimeError.h"
-#include "platform/atomicFile.h"
-#include "platform/fileHandle.h"
+#include "file/atomicFile.h"
+#include "file/fileHandle.h"
 #include "platform/userFolders.h"
 
 #include <algorithm>
@@ -126,7 +126,7 @@ std::vector<Line> parse(std::string_view text) {
 std::vector<Line> parseFile(const std::filesystem::path& file) {
     std::optional<std::string> text;
     try {
-        text = readSmallFile(file, maxBytes);
+        text = file::readSmallFile(file, maxBytes);
     } catch (const core::RunTimeError& error) {
         if (error.number != core::errors::fileNotFound) throw;
     }
@@ -158,8 +158,8 @@ void put(std::vector<Line>& lines, const std::string& section, const std::string
 bool write(const std::filesystem::path& file, const std::string& text) {
     if (file.empty() || !makePrivateFolder(file.parent_path())) return false;
     try {
-        AtomicFile result(file);
-        if (writeAt(result.fd(), text.data(), text.size(), 0) != 0) return false;
+        file::AtomicFile result(file);
+        if (file::writeAt(result.fd(), text.data(), text.size(), 0) != 0) return false;
         result.commit();
         return true;
     } catch (const core::RunTimeError&) {

@@ -66,7 +66,8 @@ WorkFolder::Taking WorkFolder::takeInstance(const fs::path& candidate) {
     if (!makePrivateFolder(candidate) ||
         ::faccessat(AT_FDCWD, candidate.c_str(), W_OK | X_OK, AT_EACCESS) != 0)
         return Taking::Unusable;
-    FileHandle held(::open((candidate / "lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+    file::FileHandle held(
+        ::open((candidate / "lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
     if (!held.isOpen()) return Taking::Unusable;
     if (::flock(held.get(), LOCK_EX | LOCK_NB) != 0)
         return errno == EWOULDBLOCK ? Taking::Busy : Taking::Unusable;
@@ -81,10 +82,10 @@ void WorkFolder::takePrivateFolder() {
     fs::path system = fs::temp_directory_path(error);
     if (error) system = "/tmp";
     std::string name = (system / "ferrowick-XXXXXX").string();
-    if (!::mkdtemp(name.data())) raiseSystemError(errno, system.string());
+    if (!::mkdtemp(name.data())) file::raiseSystemError(errno, system.string());
     folder = name;
     removedAtEnd = true;
-    if (!makeTemp(folder)) raiseSystemError(errno, name);
+    if (!makeTemp(folder)) file::raiseSystemError(errno, name);
 }
 
 const fs::path& WorkFolder::path() {
@@ -98,7 +99,8 @@ fs::path WorkFolder::temp() {
 
 void WorkFolder::clearTemp() {
     if (folder.empty() || !makeTemp(folder)) return;
-    FileHandle handle(::open((folder / tempName).c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    file::FileHandle handle(
+        ::open((folder / tempName).c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(handle.isOpen() ? ::fdopendir(handle.get()) : nullptr,
                                                       &::closedir);
     if (!entries) return;

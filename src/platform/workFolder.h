@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/fileHandle.h"
+#include "file/fileHandle.h"
 
 #include <filesystem>
 
@@ -43,7 +43,7 @@ private:
     void takePrivateFolder();
 
     std::filesystem::path folder; // empty until it is made
-    FileHandle lock;
+    file::FileHandle lock;
     bool removedAtEnd = false;
 };
 

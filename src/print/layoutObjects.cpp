@@ -8,14 +8,14 @@
 namespace print {
 
 using app::App;
-using platform::DrawTarget;
+using drawing::DrawTarget;
 
 namespace {
 
 void useLine(const core::LineObject& line, DrawTarget& target) {
     target.ForeColor = line.ForeColor;
     target.DrawWidth = line.DrawWidth;
-    target.DrawStyle = platform::LineStyle::Solid;
+    target.DrawStyle = drawing::LineStyle::Solid;
 }
 
 void drawText(const App& app, DrawTarget& target, const core::LayoutField& field) {
@@ -113,7 +113,7 @@ void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
     objects.pBox.forEach([&](const core::BoxObject& box) {
         target.DrawWidth = box.DrawWidth;
         target.ForeColor = box.ForeColor;
-        target.DrawStyle = platform::LineStyle::Solid;
+        target.DrawStyle = drawing::LineStyle::Solid;
         target.Rectangle(box.Left + dx + pixelX, box.Top + dy + pixelY, box.Width - 2 * pixelX,
                          box.Height - 2 * pixelY);
     });

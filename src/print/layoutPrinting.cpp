@@ -1,8 +1,8 @@
 #include "print/layoutPrinting.h"
 
-#include "app/layoutRoutines.h"
 #include "core/number.h"
 #include "core/runTimeError.h"
+#include "entry/retrieveData.h"
 #include "layout/sheet.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
@@ -16,12 +16,12 @@ namespace print {
 using app::App;
 using app::PreviewPage;
 using core::RecordsList;
-using platform::DrawTarget;
+using drawing::DrawTarget;
 
 namespace {
 
-platform::PageSetup layoutPage(App& app) {
-    const platform::Extent extent = layout::pageExtent(app);
+drawing::PageSetup layoutPage(App& app) {
+    const drawing::Extent extent = layout::pageExtent(app);
     return {app.document.layoutOptions.layoutPaperSize, app.document.layoutOptions.layoutOrientation,
             extent.Width, extent.Height};
 }
@@ -208,7 +208,7 @@ void showRecordOf(App& app, RecordsList& list, int row) {
         if (app.document.bInvoiceStyle && &list != &app.document.LV)
             if (core::Item* record = app.document.LV.find(item.Text)) app.document.LV.setSelectedItem(record);
     }
-    app::showRecord(app);
+    entry::showRecord(app);
 }
 
 void PrintLayout(App& app, DrawTarget& target) {

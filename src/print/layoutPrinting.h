@@ -6,11 +6,11 @@
 namespace print {
 
 // Draws the objects of the layout as they stand: the current record. On a printer each call is a job.
-void PrintLayout(app::App& app, platform::DrawTarget& target);
+void PrintLayout(app::App& app, drawing::DrawTarget& target);
 
 // Draws the next page of layouts on the preview, or all pages on a printer. A layout that does not fit within
 // the margins is told to the user, and leaves the page empty. Answers whether it fits.
-bool PrintMultipleLayouts(app::App& app, platform::DrawTarget& target);
+bool PrintMultipleLayouts(app::App& app, drawing::DrawTarget& target);
 
 // Makes a row the current one and shows its record in the layout. A row that is not there changes nothing
 // but what is shown. In a list without MultiSelect the selection goes from the row before: to take it from
@@ -18,12 +18,12 @@ bool PrintMultipleLayouts(app::App& app, platform::DrawTarget& target);
 void showRecordOf(app::App& app, core::RecordsList& list, int row);
 
 // The layout's objects at their places, moved by so much.
-void drawObjects(app::App& app, platform::DrawTarget& target, float dx, float dy);
+void drawObjects(app::App& app, drawing::DrawTarget& target, float dx, float dy);
 
-void copyObjectFont(const core::ObjectFont& object, std::int32_t ForeColor, platform::DrawTarget& target);
-void printInBoxRight(std::string_view text, float width, platform::DrawTarget& target, float x);
+void copyObjectFont(const core::ObjectFont& object, std::int32_t ForeColor, drawing::DrawTarget& target);
+void printInBoxRight(std::string_view text, float width, drawing::DrawTarget& target, float x);
 // Wraps words into a box, at blanks only. The last word is not measured and may stick out; a first word that
 // is too wide leaves empty lines down to the end of the box. Both are wanted so.
-void printWrapped(platform::DrawTarget& target, float x, float maxHeight, float width, std::string_view text);
+void printWrapped(drawing::DrawTarget& target, float x, float maxHeight, float width, std::string_view text);
 
 } // namespace print

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/drawTarget.h"
+#include "drawing/drawTarget.h"
 
 namespace print {
 
@@ -13,13 +13,13 @@ struct Margins {
 };
 
 // Preview alone: paper never shows them.
-inline void drawMarginGuides(platform::DrawTarget& target, const Margins& margins) {
+inline void drawMarginGuides(drawing::DrawTarget& target, const Margins& margins) {
     target.DrawWidth = 1;
     target.ForeColor = 0;
-    target.DrawStyle = platform::LineStyle::Dotted;
+    target.DrawStyle = drawing::LineStyle::Dotted;
     for (const float x : {margins.left, margins.right}) target.Line(x, 0, x, target.Height);
     for (const float y : {margins.top, margins.bottom}) target.Line(0, y, target.Width, y);
-    target.DrawStyle = platform::LineStyle::Solid;
+    target.DrawStyle = drawing::LineStyle::Solid;
 }
 
 } // namespace print

@@ -59,13 +59,13 @@ void placeLayouts(App& app, std::string_view key) {
 
 } // namespace
 
-platform::DrawTarget& rptPreview1(App& app) {
-    platform::RecordedPage& page = app.mainFrm.previewPage.rptPreview1;
+drawing::DrawTarget& rptPreview1(App& app) {
+    drawing::RecordedPage& page = app.mainFrm.previewPage.rptPreview1;
     page.measureWith(app.platform.textMetrics());
     return page;
 }
 
-void usePage(App& app, platform::DrawTarget& target, const platform::PageSetup& setup) {
+void usePage(App& app, drawing::DrawTarget& target, const drawing::PageSetup& setup) {
     target.setPage(setup);
     if (target.isPrinter()) return;
     app.mainFrm.previewPage.Visible = true;
@@ -143,7 +143,7 @@ bool showPreview(App& app) {
         return false;
     }
     underPrinterTrap(app, [&] {
-        platform::DrawTarget& target = rptPreview1(app);
+        drawing::DrawTarget& target = rptPreview1(app);
         if (app.mainFrm.iPrintMode == app::printReport) {
             RecordsList& list = reportList(app);
             calc::collectSelected(app, list);

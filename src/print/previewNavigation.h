@@ -8,10 +8,10 @@
 namespace print {
 
 // The page of the preview, ready to be drawn on.
-platform::DrawTarget& rptPreview1(app::App& app);
+drawing::DrawTarget& rptPreview1(app::App& app);
 
 // Chooses the paper of a print. The preview's page takes its size and is empty and in its place.
-void usePage(app::App& app, platform::DrawTarget& target, const platform::PageSetup& setup);
+void usePage(app::App& app, drawing::DrawTarget& target, const drawing::PageSetup& setup);
 
 // Scroll ranges and place of the page in its port.
 void InitReportPreview(app::App& app);

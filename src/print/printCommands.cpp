@@ -1,6 +1,5 @@
 #include "print/printCommands.h"
 
-#include "app/printRoutines.h"
 #include "calc/selectedTotals.h"
 #include "print/layoutPrinting.h"
 #include "print/previewNavigation.h"
@@ -17,7 +16,7 @@ namespace print {
 
 using app::App;
 using core::RecordsList;
-using platform::DrawTarget;
+using drawing::DrawTarget;
 
 namespace {
 
@@ -93,7 +92,7 @@ void previewMultiple(App& app, bool bSelectedOnly) {
     app.mainFrm.previewPage.bLayoutSelectedOnly = bSelectedOnly;
     app.mainFrm.previewPage.iLayoutIndex = 0;
     app.mainFrm.iPrintMode = app::printMultipleLayouts;
-    app::showPreviewTab(app);
+    app.changes.announce(app, app::Change::Preview);
 }
 
 const std::map<std::string_view, std::function<void(App&)>>& menuActions() {

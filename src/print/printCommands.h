@@ -17,7 +17,7 @@ void Toolbar_ButtonMenuClick(app::App& app, std::string_view key);
 bool showPrinterDialog(app::App& app);
 
 // Prints each record on a sheet of its own: all of the list, or the given rows.
-void printEachLayout(app::App& app, platform::DrawTarget& printer, core::RecordsList& list,
+void printEachLayout(app::App& app, drawing::DrawTarget& printer, core::RecordsList& list,
                      const std::vector<int>* rows = nullptr);
 
 } // namespace print

@@ -15,7 +15,7 @@ using app::App;
 using core::Column;
 using core::Item;
 using core::RecordsList;
-using platform::DrawTarget;
+using drawing::DrawTarget;
 
 namespace {
 
@@ -56,11 +56,11 @@ std::string padded(std::string_view text, std::size_t characters) {
     return result;
 }
 
-platform::PageSetup reportPage(App& app) {
+drawing::PageSetup reportPage(App& app) {
     core::ReportData& settings = app.document.reportData;
     if (settings.reportOrientation == 0) settings.reportOrientation = core::landscape;
     if (settings.reportPaperSize == 0) settings.reportPaperSize = core::letterPaper;
-    platform::PageSetup setup;
+    drawing::PageSetup setup;
     setup.PaperSize = settings.reportPaperSize;
     setup.Orientation = settings.reportOrientation;
     if (const auto paper = app.platform.paperExtent(setup.PaperSize)) {

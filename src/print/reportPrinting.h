@@ -9,19 +9,19 @@ core::RecordsList& reportList(app::App& app);
 
 // Draws the report: all of it on a printer, a page a call on the preview. A failure ends in a message and
 // leaves what has been drawn.
-void PrintReport(app::App& app, platform::DrawTarget& target, core::RecordsList& theList);
+void PrintReport(app::App& app, drawing::DrawTarget& target, core::RecordsList& theList);
 // The same, but a failure is raised.
-void drawReport(app::App& app, platform::DrawTarget& target, core::RecordsList& theList);
+void drawReport(app::App& app, drawing::DrawTarget& target, core::RecordsList& theList);
 
 // The sums of the selected records under a rule.
-void printSelectedTotals(app::App& app, platform::DrawTarget& target, const core::RecordsList& theList);
+void printSelectedTotals(app::App& app, drawing::DrawTarget& target, const core::RecordsList& theList);
 
 bool isPrintedColumn(const app::App& app, std::string_view title);
-void printTitleCentred(platform::DrawTarget& target, float x, int width, std::string_view text);
+void printTitleCentred(drawing::DrawTarget& target, float x, int width, std::string_view text);
 // After the end of a line the next one begins at the left margin of the report.
-void printLeftAligned(const app::App& app, platform::DrawTarget& target, float x, std::string_view text,
+void printLeftAligned(const app::App& app, drawing::DrawTarget& target, float x, std::string_view text,
                       bool bEndOfLine);
-void printRightAligned(const app::App& app, platform::DrawTarget& target, float x, int width,
+void printRightAligned(const app::App& app, drawing::DrawTarget& target, float x, int width,
                        std::string_view text, bool bEndOfLine);
 
 } // namespace print

@@ -6,7 +6,7 @@
 
 namespace qtprint {
 
-using platform::Drawn;
+using drawing::Drawn;
 
 namespace {
 
@@ -16,11 +16,11 @@ qreal onPaper(float twips) {
     return static_cast<qreal>(std::clamp(twips, -furthest, furthest));
 }
 
-QPen toPen(const platform::Pen& pen, Qt::PenCapStyle cap) {
-    QPen drawn(toColor(pen.ForeColor), std::max(pen.DrawWidth, 1) * platform::twipsPerLinePixel);
+QPen toPen(const drawing::Pen& pen, Qt::PenCapStyle cap) {
+    QPen drawn(toColor(pen.ForeColor), std::max(pen.DrawWidth, 1) * drawing::twipsPerLinePixel);
     drawn.setCapStyle(cap);
     drawn.setJoinStyle(Qt::MiterJoin);
-    if (pen.DrawStyle == platform::LineStyle::Dotted) {
+    if (pen.DrawStyle == drawing::LineStyle::Dotted) {
         drawn.setCapStyle(Qt::FlatCap);
         drawn.setDashPattern({1, 3}); // in widths of the line
     }
@@ -41,7 +41,7 @@ Overloaded(Visitors...) -> Overloaded<Visitors...>;
 
 } // namespace
 
-void PagePainter::useFont(const platform::TextFont& font) {
+void PagePainter::useFont(const drawing::TextFont& font) {
     if (fontKnown_ && known_ == font) return;
     known_ = font;
     font_ = twipsFont(font);
@@ -50,7 +50,7 @@ void PagePainter::useFont(const platform::TextFont& font) {
 }
 
 void PagePainter::drawText(QPainter& painter, float left, float top, std::string_view text,
-                           const platform::TextFont& font, std::int32_t ForeColor) {
+                           const drawing::TextFont& font, std::int32_t ForeColor) {
     // The blanks that fill up the columns of a report would make up most of a file.
     if (!font.FontUnderline && !font.FontStrikethru) text = withoutBlanksBehind(text);
     if (text.empty()) return;
@@ -62,13 +62,13 @@ void PagePainter::drawText(QPainter& painter, float left, float top, std::string
 }
 
 void PagePainter::drawLine(QPainter& painter, float x1, float y1, float x2, float y2,
-                           const platform::Pen& pen) {
+                           const drawing::Pen& pen) {
     painter.setPen(toPen(pen, Qt::FlatCap));
     painter.drawLine(QPointF(onPaper(x1), onPaper(y1)), QPointF(onPaper(x2), onPaper(y2)));
 }
 
 void PagePainter::drawRectangle(QPainter& painter, float left, float top, float width, float height,
-                                const platform::Pen& pen) {
+                                const drawing::Pen& pen) {
     painter.setPen(toPen(pen, Qt::SquareCap));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(onPaper(left), onPaper(top), onPaper(width), onPaper(height)));
@@ -98,17 +98,17 @@ void PagePainter::drawPicture(QPainter& painter, const std::filesystem::path& pi
 
 void PagePainter::draw(QPainter& painter, const std::vector<Drawn>& drawn) {
     for (const Drawn& each : drawn)
-        std::visit(Overloaded{[&](const platform::DrawnText& text) {
+        std::visit(Overloaded{[&](const drawing::DrawnText& text) {
                                   drawText(painter, text.Left, text.Top, text.text, text.font,
                                            text.ForeColor);
                               },
-                              [&](const platform::DrawnLine& line) {
+                              [&](const drawing::DrawnLine& line) {
                                   drawLine(painter, line.x1, line.y1, line.x2, line.y2, line.pen);
                               },
-                              [&](const platform::DrawnRectangle& box) {
+                              [&](const drawing::DrawnRectangle& box) {
                                   drawRectangle(painter, box.Left, box.Top, box.Width, box.Height, box.pen);
                               },
-                              [&](const platform::DrawnPicture& image) {
+                              [&](const drawing::DrawnPicture& image) {
                                   drawPicture(painter, image.picture, image.Left, image.Top, image.Width,
                                               image.Height);
                               }},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recordedPage.h"
+#include "drawing/recordedPage.h"
 #include "qtprint/twipsFont.h"
 
 #include <QCache>
@@ -13,21 +13,21 @@ namespace qtprint {
 class PagePainter {
 public:
     void drawText(QPainter& painter, float left, float top, std::string_view text,
-                  const platform::TextFont& font, std::int32_t ForeColor);
-    void drawLine(QPainter& painter, float x1, float y1, float x2, float y2, const platform::Pen& pen);
+                  const drawing::TextFont& font, std::int32_t ForeColor);
+    void drawLine(QPainter& painter, float x1, float y1, float x2, float y2, const drawing::Pen& pen);
     void drawRectangle(QPainter& painter, float left, float top, float width, float height,
-                       const platform::Pen& pen);
+                       const drawing::Pen& pen);
     void drawPicture(QPainter& painter, const std::filesystem::path& picture, float left, float top,
                      float width, float height);
 
     // The whole of a recorded page.
-    void draw(QPainter& painter, const std::vector<platform::Drawn>& drawn);
+    void draw(QPainter& painter, const std::vector<drawing::Drawn>& drawn);
 
 private:
-    void useFont(const platform::TextFont& font);
+    void useFont(const drawing::TextFont& font);
 
     // Made anew for each text otherwise, which takes longer than the text itself.
-    platform::TextFont known_;
+    drawing::TextFont known_;
     QFont font_;
     qreal ascent_ = 0;
     bool fontKnown_ = false;

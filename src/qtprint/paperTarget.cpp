@@ -8,7 +8,7 @@
 
 namespace qtprint {
 
-void PaperTarget::choosePaper(const platform::PageSetup& setup) {
+void PaperTarget::choosePaper(const drawing::PageSetup& setup) {
     constexpr qreal twipsPerPoint = 20;
     constexpr long shortest = 20;
     constexpr long longest = 288'000; // what a PDF can hold

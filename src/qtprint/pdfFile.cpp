@@ -1,7 +1,7 @@
 #include "qtprint/pdfFile.h"
 
 #include "core/runTimeError.h"
-#include "platform/atomicFile.h"
+#include "file/atomicFile.h"
 #include "qtprint/paperTarget.h"
 #include "qtprint/pictureFile.h"
 
@@ -26,7 +26,7 @@ public:
     // Raises what went wrong.
     void commit() {
         flush();
-        if (failure_ != 0) platform::raiseSystemError(failure_, path_.string());
+        if (failure_ != 0) file::raiseSystemError(failure_, path_.string());
         file_.commit();
     }
 
@@ -41,13 +41,13 @@ protected:
 
 private:
     void flush() {
-        if (failure_ == 0) failure_ = platform::writeAt(file_.fd(), buffer_.data(), buffer_.size(), place_);
+        if (failure_ == 0) failure_ = file::writeAt(file_.fd(), buffer_.data(), buffer_.size(), place_);
         place_ += static_cast<long long>(buffer_.size());
         buffer_.clear();
     }
 
     std::filesystem::path path_;
-    platform::AtomicFile file_;
+    file::AtomicFile file_;
     std::string buffer_;
     long long place_ = 0;
     int failure_ = 0;
@@ -62,7 +62,7 @@ struct PdfDevice {
 
 class PdfTarget : private PdfDevice, public PaperTarget {
 public:
-    PdfTarget(const std::filesystem::path& path, const QString& title, platform::TextMetrics& textMetrics)
+    PdfTarget(const std::filesystem::path& path, const QString& title, drawing::TextMetrics& textMetrics)
         : PdfDevice(path), PaperTarget(writer, textMetrics, Jobs::InOneFile) {
         constexpr int dotsPerInch = 1440; // a dot is a twip
         writer.setResolution(dotsPerInch);
@@ -108,16 +108,16 @@ private:
     std::unique_ptr<QGuiApplication> application_;
 };
 
-class PdfPrinter : public platform::Printer {
+class PdfPrinter : public drawing::Printer {
 public:
     explicit PdfPrinter(std::filesystem::path file) : file_(std::move(file)) {}
 
     std::string DeviceName() const override { return "Print to PDF"; }
-    platform::TextMetrics& textMetrics() override { return metrics_; }
-    std::unique_ptr<platform::DrawTarget> open(const std::string& documentName) override {
+    drawing::TextMetrics& textMetrics() override { return metrics_; }
+    std::unique_ptr<drawing::DrawTarget> open(const std::string& documentName) override {
         return openPdfFile(file_, documentName, metrics_);
     }
-    std::optional<platform::Extent> pictureExtent(const std::filesystem::path& picture) override {
+    std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& picture) override {
         return qtprint::pictureExtent(picture);
     }
 
@@ -129,13 +129,13 @@ private:
 
 } // namespace
 
-std::unique_ptr<platform::DrawTarget> openPdfFile(const std::filesystem::path& file,
-                                                  const std::string& documentName,
-                                                  platform::TextMetrics& metrics) {
+std::unique_ptr<drawing::DrawTarget> openPdfFile(const std::filesystem::path& file,
+                                                 const std::string& documentName,
+                                                 drawing::TextMetrics& metrics) {
     return std::make_unique<PdfTarget>(file, toQString(documentName), metrics);
 }
 
-std::unique_ptr<platform::Printer> makePdfPrinter(const std::filesystem::path& file) {
+std::unique_ptr<drawing::Printer> makePdfPrinter(const std::filesystem::path& file) {
     return std::make_unique<PdfPrinter>(file);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/drawTarget.h"
-#include "platform/printer.h"
+#include "drawing/drawTarget.h"
+#include "drawing/printer.h"
 
 #include <filesystem>
 #include <memory>
@@ -11,11 +11,11 @@ namespace qtprint {
 
 // Prints into a PDF file, which takes the place of an older one when it is closed and complete. Raises
 // what AtomicFile does when the file cannot be written.
-std::unique_ptr<platform::DrawTarget> openPdfFile(const std::filesystem::path& file,
-                                                  const std::string& documentName,
-                                                  platform::TextMetrics& metrics);
+std::unique_ptr<drawing::DrawTarget> openPdfFile(const std::filesystem::path& file,
+                                                 const std::string& documentName,
+                                                 drawing::TextMetrics& metrics);
 
 // A printer into that file for a program without a display.
-std::unique_ptr<platform::Printer> makePdfPrinter(const std::filesystem::path& file);
+std::unique_ptr<drawing::Printer> makePdfPrinter(const std::filesystem::path& file);
 
 } // namespace qtprint

@@ -59,11 +59,11 @@ bool isPictureTooLarge(const QString& path) {
     return measure(path).isTooLarge;
 }
 
-std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) {
+std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& path) {
     constexpr long twipsPerPixel = 15; // of the 96 dots per inch that pictures are measured by
     const std::optional<QSize> size = pictureSize(toQString(path.string()));
     if (!size) return std::nullopt;
-    return platform::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
+    return drawing::Extent{size->width() * twipsPerPixel, size->height() * twipsPerPixel};
 }
 
 qint64 pictureStamp(const QString& path) {

@@ -18,7 +18,7 @@ std::optional<QSize> pictureSize(const QString& path);
 // Whether it is a picture that takes too much to be shown.
 bool isPictureTooLarge(const QString& path);
 // The size in twips.
-std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path);
+std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& path);
 
 // Another number for another content of the file.
 qint64 pictureStamp(const QString& path);

@@ -15,7 +15,7 @@ bool isPlain(std::string_view text) {
 
 } // namespace
 
-QFont twipsFont(const platform::TextFont& font) {
+QFont twipsFont(const drawing::TextFont& font) {
     constexpr float smallest = 1;
     constexpr float largest = 1600;
     constexpr float twipsPerPoint = 20;
@@ -43,7 +43,7 @@ QColor toColor(std::int32_t colour) {
     return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
 }
 
-QtTextMetrics::Measured& QtTextMetrics::measured(const platform::TextFont& font) {
+QtTextMetrics::Measured& QtTextMetrics::measured(const drawing::TextFont& font) {
     const auto found = std::ranges::find_if(fonts_, [&](const auto& known) { return known->font == font; });
     if (found != fonts_.end()) return **found;
     const QFont shown = twipsFont(font);
@@ -53,7 +53,7 @@ QtTextMetrics::Measured& QtTextMetrics::measured(const platform::TextFont& font)
     return *fonts_.back();
 }
 
-float QtTextMetrics::textWidth(const platform::TextFont& font, std::string_view text) {
+float QtTextMetrics::textWidth(const drawing::TextFont& font, std::string_view text) {
     if (text.empty()) return 0;
     const Measured& known = measured(font);
     if (known.eachWidth > 0 && isPlain(text))
@@ -61,7 +61,7 @@ float QtTextMetrics::textWidth(const platform::TextFont& font, std::string_view 
     return static_cast<float>(known.metrics.horizontalAdvance(toQString(text)));
 }
 
-float QtTextMetrics::textHeight(const platform::TextFont& font) {
+float QtTextMetrics::textHeight(const drawing::TextFont& font) {
     return static_cast<float>(measured(font).metrics.height());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/drawTarget.h"
+#include "drawing/drawTarget.h"
 
 #include <QColor>
 #include <QFont>
@@ -14,7 +14,7 @@ namespace qtprint {
 
 // The font for a painter whose unit is a twip. Without hinting, so that a text takes the same room at
 // every resolution.
-QFont twipsFont(const platform::TextFont& font);
+QFont twipsFont(const drawing::TextFont& font);
 
 QColor toColor(std::int32_t colour); // 0x00BBGGRR
 
@@ -23,18 +23,18 @@ inline QString toQString(std::string_view text) {
 }
 
 // What texts measure on every target that Qt draws on. Needs the application object.
-class QtTextMetrics : public platform::TextMetrics {
+class QtTextMetrics : public drawing::TextMetrics {
 public:
-    float textWidth(const platform::TextFont& font, std::string_view text) override;
-    float textHeight(const platform::TextFont& font) override;
+    float textWidth(const drawing::TextFont& font, std::string_view text) override;
+    float textHeight(const drawing::TextFont& font) override;
 
 private:
     struct Measured {
-        platform::TextFont font;
+        drawing::TextFont font;
         QFontMetricsF metrics;
         qreal eachWidth = 0; // of all characters alike; 0 when they differ
     };
-    Measured& measured(const platform::TextFont& font);
+    Measured& measured(const drawing::TextFont& font);
 
     std::vector<std::unique_ptr<Measured>> fonts_; // few: those of a layout, or the two of a report
 };

@@ -1,6 +1,5 @@
 #include "search/replaceFrm.h"
 
-#include "app/layoutRoutines.h"
 #include "search/replaceWords.h"
 
 namespace search {
@@ -37,7 +36,7 @@ int replaceFrm::Command3_Click() {
 int replaceFrm::replaceIn(const std::function<bool(int subItem)>& takesPart) {
     const int changed = WordReplacer(Text1, Text2).replaceInList(app_.document.LV, takesPart);
     // Or the next update of the sheet would put the old words back.
-    if (changed > 0) app::refreshShownRecord(app_);
+    if (changed > 0) app_.changes.announce(app_, app::Change::CurrentRecord);
     return changed;
 }
 

@@ -1,6 +1,5 @@
 #include "search/searchEngine.h"
 
-#include "app/layoutRoutines.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
 
@@ -78,7 +77,7 @@ void fillResults(App& app, const Groups& groups) {
 
 void findRecords(App& app, const Groups& groups) {
     fillResults(app, groups);
-    app::refreshShownRecord(app);
+    app.changes.announce(app, app::Change::CurrentRecord);
 }
 
 } // namespace search

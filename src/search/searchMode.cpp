@@ -1,6 +1,5 @@
 #include "search/searchMode.h"
 
-#include "app/layoutRoutines.h"
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
@@ -91,7 +90,7 @@ void showAllRecords(App& app) {
     app::allowManySelected(app); // the layout page may have taken it from the records in the meantime
     app.mainFrm.control("Formulas").Enabled = true;
     app::showRecordCount(app, app.document.LV);
-    app::refreshShownRecord(app);
+    app.changes.announce(app, app::Change::CurrentRecord);
 }
 
 void refreshResults(App& app) {
@@ -114,7 +113,7 @@ void refreshResults(App& app) {
         }
         totals.update(core::TotalsMode::Add, result);
     });
-    app::refreshShownRecord(app);
+    app.changes.announce(app, app::Change::CurrentRecord);
 }
 
 } // namespace search

@@ -1,9 +1,9 @@
 #include "shell/commands.h"
 
-#include "app/commandRoutines.h"
 #include "app/windowState.h"
 #include "core/runTimeError.h"
 #include "entry/editRecord.h"
+#include "entry/invoiceRecords.h"
 #include "lock/designLock.h"
 #include "print/printCommands.h"
 #include "search/replaceFrm.h"
@@ -71,7 +71,7 @@ std::vector<Command> toolbarCommands() {
         {"Formulas", "Expressions", "Define Expressions", "formulas", false, showing("formulateFrm")},
         {"Properties", "Properties", "Database Properties", "properties", false, showProperties},
         {"Design", "Design", "Switch Layout To Design Mode", "design", true, pressDesign},
-        {"Delete", "Delete", "Delete Row", "delete", false, deleteRow},
+        {"Delete", "Delete", "Delete Row", "delete", false, entry::Delete_ButtonClick},
         {"Help", "Help", "Help", "help", false, openHelp},
         {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false,
          storage::saveSearchResults},
@@ -246,8 +246,3 @@ std::span<const Menu> menuBar() {
 }
 
 } // namespace shell
-
-// The form goes on with one record at a time.
-void app::Toolbar_ButtonClick(App& app, std::string_view key) {
-    shell::press(app, key);
-}

@@ -1,6 +1,5 @@
 #include "shell/listEvents.h"
 
-#include "app/layoutRoutines.h"
 #include "shell/mainWindow.h"
 
 #include <algorithm>
@@ -70,7 +69,7 @@ void list_ColumnClick(App& app, RecordsList& list, int columnIndex) {
         core::sortByHiddenColumn(list, column);
     core::moveTotals(list);
     app.mainFrm.listScroll = app::ListScroll::Stay; // though the last record is the current one now
-    app::refreshShownRecord(app);
+    app.changes.announce(app, app::Change::CurrentRecord);
 }
 
 void list_DblClick(App& app, RecordsList& list) {

@@ -1,7 +1,5 @@
 #include "shell/mainWindow.h"
 
-#include "app/invoiceRoutines.h"
-#include "app/printRoutines.h"
 #include "invoice/views.h"
 #include "layout/sheet.h"
 #include "print/previewNavigation.h"
@@ -116,13 +114,9 @@ void viewOpt_Click(App& app, int index) {
     app.mainFrm.control("Search").Value = false;
     // Commands work on the records again; on results out of sight they would change what nobody sees.
     if (document.searchLV.Visible) search::showAllRecords(app);
-    app::rebuildInvoiceView(app);
+    invoice::rebuildView(app);
     app::enableControls(app, true);
     invoice::choosePrintedCols(document);
 }
 
 } // namespace shell
-
-void app::showPreviewTab(App& app) {
-    shell::SSTab1_Click(app, previewTab);
-}

@@ -1,7 +1,5 @@
 #include "shell/menuCommands.h"
 
-#include "entry/editRecord.h"
-#include "entry/invoiceRecords.h"
 #include "layout/sheet.h"
 #include "lock/designLock.h"
 #include "platform/programFiles.h"
@@ -72,14 +70,6 @@ void toggleCalcHighlight(App& app) {
     app.mainFrm.bHighlightCalc = !app.mainFrm.bHighlightCalc;
     app.mainFrm.control("mnuCalcHighlight").Value = app.mainFrm.bHighlightCalc;
     layout::InitLayout(app, layout::isDesignMode(app));
-}
-
-void deleteRow(App& app) {
-    if (app.mainFrm.SSTab1 != app::reportTab || app.document.searchLV.Visible) return;
-    if (!app.document.bInvoiceStyle)
-        entry::deleteRecords(app);
-    else if (!app.document.bInvoiceView)
-        entry::deleteInvoices(app);
 }
 
 namespace {

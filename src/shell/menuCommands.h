@@ -28,9 +28,6 @@ void showDatabaseProperties(app::App& app);
 void pressDesign(app::App& app);
 void toggleCalcHighlight(app::App& app);
 
-// The button "Delete": the selected records, where the records are on view.
-void deleteRow(app::App& app);
-
 // Opens the help pages that come with the program; the user is told when they are not there.
 void openHelp(app::App& app);
 void showAbout(app::App& app);

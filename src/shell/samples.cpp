@@ -1,8 +1,8 @@
 #include "shell/samples.h"
 
 #include "core/runTimeError.h"
-#include "platform/atomicFile.h"
-#include "platform/fileHandle.h"
+#include "file/atomicFile.h"
+#include "file/fileHandle.h"
 #include "platform/programFiles.h"
 #include "shell/menuCommands.h"
 
@@ -34,18 +34,18 @@ constexpr std::array<Offer, 5> offers = {{
 
 // The new file belongs to the user, whatever the permissions of the installed one.
 void copyFile(const fs::path& from, const fs::path& to) {
-    const platform::FileHandle source = platform::openRegularFile(from);
-    platform::AtomicFile target(to);
+    const file::FileHandle source = file::openRegularFile(from);
+    file::AtomicFile target(to);
     std::array<char, 1 << 16> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): read() fills it
     for (;;) {
         const ssize_t size = ::read(source.get(), buffer.data(), buffer.size());
         if (size < 0 && errno == EINTR) continue;
-        if (size < 0) platform::raiseSystemError(errno, from.string());
+        if (size < 0) file::raiseSystemError(errno, from.string());
         if (size == 0) break;
         for (ssize_t done = 0; done < size;) {
             const ssize_t written =
                 ::write(target.fd(), buffer.data() + done, static_cast<std::size_t>(size - done));
-            if (written < 0 && errno != EINTR) platform::raiseSystemError(errno, to.string());
+            if (written < 0 && errno != EINTR) file::raiseSystemError(errno, to.string());
             if (written > 0) done += written;
         }
     }

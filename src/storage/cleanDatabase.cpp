@@ -3,7 +3,7 @@
 #include "app/hourglass.h"
 #include "app/windowState.h"
 #include "core/text.h"
-#include "platform/zip.h"
+#include "file/zip.h"
 
 #include <map>
 #include <set>
@@ -23,7 +23,7 @@ bool isCleaned(std::string_view name) {
 // images there are.
 class Unused {
 public:
-    explicit Unused(const platform::Zip& Zip) {
+    explicit Unused(const file::Zip& Zip) {
         for (int i = 0; i < Zip.FileCount(); ++i)
             if (const std::string name = Zip.FileNameAt(i); isCleaned(name)) {
                 names_.push_back(name);
@@ -64,7 +64,7 @@ void findInRecords(const core::RecordsList& records, Unused& unused) {
 } // namespace
 
 std::vector<std::string> cleanDatabase(App& app) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     Unused unused(Zip);
     findInRecords(app.document.LV, unused);

@@ -1,7 +1,7 @@
 #include "storage/mailFrm.h"
 
 #include "core/text.h"
-#include "storage/workFiles.h"
+#include "file/workFiles.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -30,7 +30,7 @@ void mailFrm::OKButton_Click() {
         return;
     }
     const std::string& file = app_.document.currentFile;
-    if (!fileExists(file)) {
+    if (!file::fileExists(file)) {
         tell(app_, "The database file could not be found:\n" + file);
         return;
     }

@@ -1,14 +1,14 @@
 #include "storage/newDatabase.h"
 
-#include "app/invoiceRoutines.h"
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "file/workFiles.h"
+#include "file/zip.h"
+#include "invoice/views.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
-#include "platform/zip.h"
 #include "storage/saveFile.h"
-#include "storage/workFiles.h"
 
 #include <filesystem>
 #include <optional>
@@ -53,7 +53,7 @@ void make(App& app, const std::string& path, bool bStartUp) {
     offerToSave(app);
     clearDocument(app);
     if (path.empty()) return;
-    if (fileExists(path) && !app::askYesNo(app, "Overwrite Existing File?", platform::Icon::Critical)) {
+    if (file::fileExists(path) && !app::askYesNo(app, "Overwrite Existing File?", platform::Icon::Critical)) {
         // The document is cleared already, and currentFile still names the old file. It is wanted so.
         if (bStartUp) app::enableControls(app, false);
         return;
@@ -73,7 +73,7 @@ void createEmptyArchive(App& app, const std::string& path) {
     // into the file that was open before.
     app.document.currentFile = path;
     app::showCaption(app);
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.CreateArchive(path, "");
     Zip.CloseArchive();
 }
@@ -92,7 +92,7 @@ void finishNewDatabase(App& app) {
     document.iLV.Visible = document.bInvoiceStyle;
     document.bInvoiceView = false;
     app.mainFrm.viewOpt = 1;
-    app::rebuildInvoiceView(app);
+    invoice::rebuildView(app);
 }
 
 void newDatabase(App& app, bool bStartUp) {

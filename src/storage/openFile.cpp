@@ -1,16 +1,15 @@
 #include "storage/openFile.h"
 
-#include "app/invoiceRoutines.h"
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "file/dataReader.h"
+#include "file/workFiles.h"
+#include "file/zip.h"
 #include "invoice/views.h"
 #include "layout/images.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
-#include "platform/zip.h"
-#include "storage/dataReader.h"
-#include "storage/workFiles.h"
 
 #include <filesystem>
 
@@ -33,7 +32,7 @@ std::optional<std::string> chooseFile(App& app, bool StartUp) {
         }
         path = *chosen;
     }
-    if (fileExists(path)) return path;
+    if (file::fileExists(path)) return path;
     app::inform(app, StartUp ? "Previously opened file could not be found." : "File does not exist!");
     app.document.currentFile.clear();
     return std::nullopt;
@@ -120,16 +119,16 @@ void readArchive(App& app, const std::string& path) {
     document.bInvoiceStyle = false;
     document.clear();
     app.platform.clearWorkFiles();
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(path);
     std::optional<std::string> text = Zip.readEntry("data.dat", mostBytes);
     Zip.CloseArchive();
     if (!text) core::raise(core::errors::fileNotFound, "data.dat is not in the archive");
-    if (app.platform.keepsDataFile()) writeWorkFile(app.platform.workFolder() / "data.dat", *text);
-    readDataFile(*std::move(text), document);
+    if (app.platform.keepsDataFile()) file::writeWorkFile(app.platform.workFolder() / "data.dat", *text);
+    file::readDataFile(*std::move(text), document);
     if (document.LV.empty()) core::addTotalsRow(document.LV);
     if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
-    app::rebuildInvoiceView(app);
+    invoice::rebuildView(app);
 }
 
 void extractClipArt(App& app) {

@@ -1,8 +1,8 @@
 #include "storage/recovery.h"
 
 #include "core/runTimeError.h"
-#include "platform/zip.h"
-#include "storage/dataWriter.h"
+#include "file/dataWriter.h"
+#include "file/zip.h"
 
 #include <filesystem>
 
@@ -18,7 +18,7 @@ std::filesystem::path freePath(const std::filesystem::path& folder, const std::s
 }
 
 // The archive with the images, or a new one when it has gone or is damaged: the records matter more.
-void openImages(platform::Zip& Zip, const std::string& archive, const std::string& target) {
+void openImages(file::Zip& Zip, const std::string& archive, const std::string& target) {
     try {
         Zip.OpenArchive(archive);
     } catch (const core::RunTimeError&) {
@@ -36,8 +36,8 @@ std::optional<std::string> keepRecoveryCopy(app::App& app) noexcept {
         std::filesystem::create_directories(folder);
         const std::string stem = std::filesystem::path(currentFile).stem().string();
         const std::string target = freePath(folder, stem.empty() ? "Untitled" : stem).string();
-        const std::string bytes = encodeDataFile(writeDataFile(app.document, false));
-        platform::Zip Zip;
+        const std::string bytes = file::encodeDataFile(file::writeDataFile(app.document, false));
+        file::Zip Zip;
         openImages(Zip, currentFile, target);
         Zip.addBuffer("data.dat", bytes, "Main Data File");
         Zip.CloseArchiveAs(target);

@@ -1,8 +1,8 @@
 #include "storage/saveFile.h"
 
 #include "app/windowState.h"
-#include "platform/zip.h"
-#include "storage/dataWriter.h"
+#include "file/dataWriter.h"
+#include "file/zip.h"
 #include "storage/saveSteps.h"
 
 #include <optional>
@@ -14,7 +14,7 @@ namespace {
 using app::App;
 
 void pack(const std::string& archive, const std::string& bytes) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(archive);
     addData(Zip, bytes);
     Zip.CloseArchive();
@@ -23,7 +23,7 @@ void pack(const std::string& archive, const std::string& bytes) {
 // The copy carries all the images along. It is finished beside its place and takes it in one step, so
 // that a file that is replaced stays until the new one is whole.
 void packCopy(App& app, const std::string& target, const std::string& bytes) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
     Zip.CloseArchiveAs(target);
@@ -39,7 +39,7 @@ void packClone(App& app, const std::string& bytes) {
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {
     if (saveAsTarget && !mayWriteTo(app, *saveAsTarget)) return;
-    const std::string bytes = encodeDataFile(writeDataFile(app.document, bClone));
+    const std::string bytes = file::encodeDataFile(file::writeDataFile(app.document, bClone));
     keepDataFile(app, bytes);
     // Said before the archive is touched: a failed pack does not show as unsaved. It is wanted so.
     if (!bClone) app::setDocumentModified(app, false);

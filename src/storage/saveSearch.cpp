@@ -1,7 +1,7 @@
 #include "storage/saveSearch.h"
 
 #include "core/number.h"
-#include "storage/dataWriter.h"
+#include "file/dataWriter.h"
 #include "storage/saveSteps.h"
 
 #include <optional>
@@ -22,8 +22,8 @@ const Item& recordOf(const RecordsList& records, std::string_view itemKey) {
 
 // An invoice can be listed once for each of its items; it is written once.
 std::string writeResults(core::Document& document) {
-    std::string text = writeDesign(document, false);
-    const RowWriter rows(document.LV.columns);
+    std::string text = file::writeDesign(document, false);
+    const file::RowWriter rows(document.LV.columns);
     RecordsList& written = document.scratchLV;
     written.clear();
     document.searchLV.forEach([&](const Item& result) {
@@ -42,7 +42,7 @@ std::string writeResults(core::Document& document) {
 
 void writeAndPack(App& app, const std::string& target) {
     if (!mayWriteTo(app, target)) return;
-    const std::string bytes = encodeDataFile(writeResults(app.document));
+    const std::string bytes = file::encodeDataFile(writeResults(app.document));
     keepDataFile(app, bytes);
     app::setDocumentModified(app, false);
     packAlone(target, bytes);

@@ -1,6 +1,6 @@
 #include "storage/saveSteps.h"
 
-#include "storage/workFiles.h"
+#include "file/workFiles.h"
 
 namespace storage {
 
@@ -15,19 +15,19 @@ constexpr const char* overwriteQuestion = "Overwrite Existing File?";
 } // namespace
 
 bool mayWriteTo(App& app, const std::string& target) {
-    return !fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
+    return !file::fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
 }
 
 void keepDataFile(App& app, const std::string& bytes) {
-    if (app.platform.keepsDataFile()) writeWorkFile(app.platform.workFolder() / dataFile, bytes);
+    if (app.platform.keepsDataFile()) file::writeWorkFile(app.platform.workFolder() / dataFile, bytes);
 }
 
-void addData(platform::Zip& Zip, const std::string& bytes) {
+void addData(file::Zip& Zip, const std::string& bytes) {
     Zip.addBuffer(dataFile, bytes, dataComment);
 }
 
 void packAlone(const std::string& target, const std::string& bytes) {
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.CreateArchive(target, "");
     addData(Zip, bytes);
     Zip.CloseArchive();

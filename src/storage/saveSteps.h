@@ -2,7 +2,7 @@
 
 #include "app/app.h"
 #include "core/runTimeError.h"
-#include "platform/zip.h"
+#include "file/zip.h"
 
 #include <string>
 
@@ -15,7 +15,7 @@ bool mayWriteTo(app::App& app, const std::string& target);
 // Writes the text of the database into the work folder, where the platform keeps one.
 void keepDataFile(app::App& app, const std::string& bytes);
 // Puts it into the open archive.
-void addData(platform::Zip& Zip, const std::string& bytes);
+void addData(file::Zip& Zip, const std::string& bytes);
 // A new archive that holds the text of the database alone.
 void packAlone(const std::string& target, const std::string& bytes);
 // Says that the database could not be written, and answers why.

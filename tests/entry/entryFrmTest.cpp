@@ -1,9 +1,9 @@
 #include "entry/entryFrm.h"
 
 #include "databases.h"
+#include "file/dataWriter.h"
 #include "raised.h"
 #include "results.h"
-#include "storage/dataWriter.h"
 
 #include <gmock/gmock.h>
 
@@ -376,10 +376,10 @@ TEST_F(EntryFrm, TheKeyBehindTheLastIsAnErrorThatLeavesAllAsItWas) {
     entryFrm form(program.app);
     form.Toolbar1_ButtonClick("New");
     document.iLastKey = 32767;
-    const std::string before = storage::writeDataFile(document, false);
+    const std::string before = file::writeDataFile(document, false);
     EXPECT_EQ(raisedBy([&] { form.FieldBox_KeyDown(4, keyReturn); }), core::errors::overflow);
     EXPECT_EQ(raisedBy([&] { form.Toolbar1_ButtonClick("Add"); }), core::errors::overflow);
-    EXPECT_EQ(storage::writeDataFile(document, false), before);
+    EXPECT_EQ(file::writeDataFile(document, false), before);
     EXPECT_FALSE(document.bModified);
     EXPECT_EQ(form.FieldBox[0].Text, "42"); // what was typed is still there
 }

@@ -1,6 +1,6 @@
 #include "entry/invoiceRecords.h"
-#include "app/layoutRoutines.h"
 #include "entry/fieldEvents.h"
+#include "entry/retrieveData.h"
 #include "invoiceFixture.h"
 
 namespace {
@@ -57,7 +57,7 @@ TEST_F(InvoiceRecords, TheSumsFollowOnArrivalInASingleOrACalculatedField) {
     app.document.totaledCols.add("Subtotal", "Subtotal");
     core::Item& item = record({});
     app.mainFrm.SSTab1 = app::layoutTab;
-    app::showRecord(app);
+    entry::showRecord(app);
     type("Qty", {"2", "3"});
     type("Price", {"150", "200"});
     std::string subtotals; // behind each field, in the order of the sheet
@@ -99,7 +99,7 @@ TEST_F(InvoiceRecords, AWriteReachesTheResults) {
     record({{"Customer", "Bo"}, {"Item", "c@d@"}, {"Qty", "3@4@"}});
     for (const bool items : {true, false}) {
         app.document.bInvoiceView = items;
-        app::rebuildInvoiceView(app);
+        invoice::rebuildView(app);
         core::RecordsList& results = app.document.searchLV;
         results.clear();
         results.columns.clear();

@@ -1,8 +1,8 @@
 #include "../layout/sheetFixture.h"
 
-#include "app/layoutRoutines.h"
 #include "entry/editRecord.h"
 #include "entry/navBar.h"
+#include "entry/retrieveData.h"
 #include "search/searchMode.h"
 
 namespace {
@@ -22,7 +22,7 @@ protected:
         app.mainFrm.theListView = &results;
         LV.setSelectedItem(&LV.at(1));
         results.setSelectedItem(&results.at(1));
-        app::showRecord(app);
+        entry::showRecord(app);
     }
     void press(const char* key) { entry::layoutNavBar_ButtonClick(app, key); }
     static std::string names(const core::RecordsList& list) {

@@ -1,7 +1,9 @@
-#include "app/invoiceRoutines.h"
+#include "calc/invoiceCalculation.h"
 #include "entry/editRecord.h"
 #include "entry/fieldEvents.h"
+#include "entry/invoiceRecords.h"
 #include "entry/navBar.h"
+#include "invoice/views.h"
 #include "layout/sheet.h"
 #include "print/printCommands.h"
 #include "printRecorder.h"
@@ -102,7 +104,7 @@ struct SheetWindow : PrintProgram {
                 shell::viewOpt_Click(app, static_cast<int>(event.which % 2));
             return;
         case Remove:
-            if (count() > 4) shell::deleteRow(app);
+            if (count() > 4) entry::Delete_ButtonClick(app);
             return;
         case Open:
             if (onReport() && shell::visibleList(app).selectedItem() != nullptr)

@@ -1,7 +1,7 @@
 #include "session.h"
 
-#include "gui/fontDialog.h"
-#include "gui/messageBox.h"
+#include "gui/dialogs/fontDialog.h"
+#include "gui/machine/messageBox.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

@@ -1,10 +1,11 @@
+#include "shell/program.h"
 #include "session.h"
 
-#include "gui/commandLine.h"
-#include "gui/dialogFit.h"
-#include "gui/icon.h"
-#include "gui/messageBox.h"
-#include "gui/palette.h"
+#include "gui/dialogs/dialogFit.h"
+#include "gui/frame/commandLine.h"
+#include "gui/machine/messageBox.h"
+#include "gui/widgets/icon.h"
+#include "gui/widgets/palette.h"
 #include "shell/commands.h"
 
 #include <QFileDialog>
@@ -143,7 +144,7 @@ private slots:
 
     void aboutAndDisclaimer() {
         gui::QtPlatform platform;
-        app::App app(platform);
+        shell::Program app(platform);
         gui::MainFrmView window(app, platform);
         window.load({});
         QString about;

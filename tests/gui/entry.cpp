@@ -1,6 +1,6 @@
 #include "session.h"
 
-#include "gui/entryFrmView.h"
+#include "gui/dialogs/entryFrmView.h"
 
 #include <QLabel>
 #include <QTimer>

@@ -120,7 +120,7 @@ private slots:
         QCOMPARE(again.list()->header()->visualIndex(again.section("Copies")), 0);
         QCOMPARE(again.cell(0, "Copies"), u"1"_s);
         QVERIFY(again.list()->header()->sectionSize(again.section("Title")) > 400);
-        platform::Zip zip;
+        file::Zip zip;
         zip.OpenArchive(gui::fromQt(file));
         QVERIFY(zip.contains("cover1.jpg"));
     }

@@ -1,3 +1,4 @@
+#include "shell/program.h"
 #include "layoutPage.h"
 
 #include "calc/columns.h"
@@ -55,7 +56,7 @@ private:
         const QString file = folders_.path("new.fwk");
         QFile::remove(file);
         ScriptedPlatform platform;
-        app::App app(platform);
+        shell::Program app(platform);
         storage::createEmptyArchive(app, gui::fromQt(file));
         calc::addColumn(app.document, "Name", "3");
         calc::addColumn(app.document, "Price", "2");
@@ -66,13 +67,13 @@ private:
         return file;
     }
     static QStringList linesOf(const QString& file) {
-        platform::Zip zip;
+        file::Zip zip;
         zip.OpenArchive(gui::fromQt(file));
         return gui::toQt(zip.readEntry("data.dat", 1 << 20).value_or("")).split(u"\r\n"_s);
     }
     static QStringList contentsOf(const QString& file) {
         QStringList names;
-        platform::Zip zip;
+        file::Zip zip;
         zip.OpenArchive(gui::fromQt(file));
         for (int i = 0; i < zip.FileCount(); ++i)
             names << gui::toQt(zip.FileNameAt(i) + ":" + zip.commentAt(i));
@@ -291,7 +292,7 @@ private slots:
         QCOMPARE(run.objects.imgHolder[1].ToolTipText, std::string("cbHolder"));
         run.navigate("Update");
         const std::string name = run.LV().at(1).cells[7].str();
-        platform::Zip zip;
+        file::Zip zip;
         zip.OpenArchive(gui::fromQt(file));
         const std::string bytes = zip.readEntry(name, 1 << 20).value_or("");
         const QImage stored = QImage::fromData(QByteArray::fromStdString(bytes), "JPEG");

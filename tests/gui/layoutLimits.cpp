@@ -1,6 +1,6 @@
 #include "layoutPage.h"
 
-#include "gui/pictures.h"
+#include "gui/layout/pictures.h"
 #include "layout/images.h"
 
 #include <QBuffer>
@@ -108,7 +108,7 @@ private slots:
     void damagedPicturesLeaveTheirHoldersEmpty() {
         const QString file = folders_.sample("books.fwk");
         {
-            platform::Zip zip;
+            file::Zip zip;
             zip.OpenArchive(gui::fromQt(file));
             zip.addBuffer("cover1.jpg", "no picture any more", "");
             zip.addBuffer("logo.gif", gif({65535, 65535}, {65535, 65535}).toStdString(), "Clip Art");
@@ -161,7 +161,7 @@ private slots:
             data.layout += "P|Photo" + number(i) + "|" + number(600 + i * 2600) + "|6500|2500|2500|\r\n";
         }
         const QString file = folders_.path("large.fwk");
-        platform::Zip zip;
+        file::Zip zip;
         zip.CreateArchive(gui::fromQt(file));
         std::vector<std::string> pictures;
         for (int seed = 1; seed <= 4; ++seed) pictures.push_back(jpeg({640, 480}, seed).toStdString());

@@ -26,11 +26,11 @@ private:
     QString text() const { return answerOf(u"pdftotext"_s, {u"-layout"_s, pdf_, u"-"_s}); }
     // The page that the preview holds, as a picture without the dotted margins.
     static QImage pageOf(Session& run, double dotsPerInch) {
-        const platform::RecordedPage& page = run.app.mainFrm.previewPage.rptPreview1;
-        std::vector<platform::Drawn> drawn;
-        for (const platform::Drawn& each : page.drawn()) {
-            const auto* line = std::get_if<platform::DrawnLine>(&each);
-            if (line == nullptr || line->pen.DrawStyle == platform::LineStyle::Solid) drawn.push_back(each);
+        const drawing::RecordedPage& page = run.app.mainFrm.previewPage.rptPreview1;
+        std::vector<drawing::Drawn> drawn;
+        for (const drawing::Drawn& each : page.drawn()) {
+            const auto* line = std::get_if<drawing::DrawnLine>(&each);
+            if (line == nullptr || line->pen.DrawStyle == drawing::LineStyle::Solid) drawn.push_back(each);
         }
         const double scale = dotsPerInch / 1440;
         QImage image(qRound(page.Width * scale), qRound(page.Height * scale), QImage::Format_RGB32);

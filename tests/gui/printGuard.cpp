@@ -1,7 +1,7 @@
 #include "formActs.h"
 
-#include "gui/layoutPageSetupFrmView.h"
-#include "gui/reportPageSetupView.h"
+#include "gui/dialogs/layoutPageSetupFrmView.h"
+#include "gui/dialogs/reportPageSetupView.h"
 #include "qtprint/pdfFile.h"
 #include "qtprint/twipsFont.h"
 

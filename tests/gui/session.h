@@ -1,11 +1,12 @@
 #pragma once
 
 #include "../support/dataFile.h"
-#include "gui/mainFrmView.h"
-#include "gui/qtText.h"
-#include "gui/recordsView.h"
-#include "platform/zip.h"
+#include "file/zip.h"
+#include "gui/frame/mainFrmView.h"
+#include "gui/records/recordsView.h"
+#include "gui/widgets/qtText.h"
 #include "shell/mainWindow.h"
+#include "shell/program.h"
 
 #include <QDialog>
 #include <QHeaderView>
@@ -83,7 +84,7 @@ private:
 // One run of the program, with the user's folders of the test.
 struct Session {
     ScriptedPlatform platform;
-    app::App app{platform};
+    shell::Program app{platform};
     gui::MainFrmView window{app, platform};
 
     explicit Session(const QString& file = {}) {
@@ -183,7 +184,7 @@ public:
     // A database made in the test.
     QString database(const char* name, const DataFile& file) const {
         QFile::remove(path(name));
-        platform::Zip zip;
+        file::Zip zip;
         zip.CreateArchive(gui::fromQt(path(name)));
         zip.addBuffer("data.dat", file.text(), "Main Data File");
         zip.CloseArchive();

@@ -1,3 +1,4 @@
+#include "calc/itemColumns.h"
 #include "invoiceFixture.h"
 #include "table.h"
 
@@ -21,7 +22,7 @@ TEST_F(InvoiceTest, BothViews) {
     // A new invoice has no cell of several values, so nothing decides, and all rows appear.
     invoice::addInvoiceRecord(app);
     app.document.bInvoiceView = true;
-    app::rebuildInvoiceView(app);
+    invoice::rebuildView(app);
     EXPECT_EQ(app.document.iLV.count(), 7);
     EXPECT_EQ(app.mainFrm.Slider1.Max, 3);
     // A view made anew follows the columns, and leaves them the widths that it was given.
@@ -39,7 +40,7 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
     layoutWith(2);
     for (const bool items : {false, true}) {
         app.document.bInvoiceView = items;
-        app::rebuildInvoiceView(app);
+        invoice::rebuildView(app);
         EXPECT_EQ(app.document.iLV.count(), 1);
         EXPECT_EQ(app.document.iLV.at(1).Text, "Totals");
     }
@@ -106,11 +107,11 @@ TEST_F(InvoiceTest, ItemRowsArePlacedInAGrid) {
     invoice::repeatItemRows(app, 1, {"Qty"});
     EXPECT_FALSE(app.mainFrm.layoutPage.selectedObject.isObject()) << "not the one that has its number now";
     EXPECT_EQ(app.document.layout.layoutField.count(), 3);
-    EXPECT_FALSE(invoice::isItemColumn(app.document, "Qty"));
-    EXPECT_TRUE(invoice::isItemColumn(app.document, "Customer"));
+    EXPECT_FALSE(calc::ItemColumns(app.document).contains("Qty"));
+    EXPECT_TRUE(calc::ItemColumns(app.document).contains("Customer"));
     // A column chosen twice has two fields in a row.
     invoice::repeatItemRows(app, 1, {"Qty", "Qty"});
-    EXPECT_TRUE(invoice::isItemColumn(app.document, "Qty"));
+    EXPECT_TRUE(calc::ItemColumns(app.document).contains("Qty"));
 }
 
 TEST_F(InvoiceTest, TheItemRowDialog) {

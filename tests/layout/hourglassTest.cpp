@@ -1,3 +1,4 @@
+#include "shell/program.h"
 #include "app/hourglass.h"
 #include "databases.h"
 #include "layout/images.h"
@@ -17,7 +18,7 @@ public:
 
 TEST(ImageHourglass, IsThereWhileAFileIsReadAndEndsNoOther) {
     Machine machine;
-    app::App app(machine);
+    shell::Program app(machine);
     const std::string picture = machine.pictureFile("a.jpg", {300, 200});
     ScriptedPlatform::write(machine.folder / "text.jpg", "no picture");
     const auto pointersOf = [&](const std::filesystem::path& file) {

@@ -9,7 +9,7 @@ const char* const lines =
 
 TEST_F(Sheet, ImagesAreFittedToTheTwip) {
     struct Case {
-        platform::Extent natural;
+        drawing::Extent natural;
         float left, top, width, height;
         bool stretched;
     };
@@ -145,7 +145,7 @@ TEST_F(Sheet, ChoosingClipArt) {
     EXPECT_EQ(platform.dialogs.back().title, "Select image for clip art.");
     EXPECT_EQ(objects.clipPic[1].Tag, "logo.gif");
     EXPECT_EQ(objects.clipPic[1].clipImage.path, platform.tempFolder() / "logo.gif");
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     EXPECT_EQ(Zip.FileNameAt(3), "logo.gif");
     EXPECT_EQ(Zip.commentAt(3), "Clip Art");
@@ -175,7 +175,7 @@ TEST_F(Sheet, TheClipboardFillsThePictureThatIsSelected) {
     layout::mnuImportImage_Click(app);
     EXPECT_EQ(objects.imgHolder[2].ToolTipText, "cbHolder");
     EXPECT_EQ(objects.imgHolder[2].viewImage.Width, 1814);
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     EXPECT_EQ(Zip.FileCount(), 3); // nothing is stored yet
     Zip.CloseArchive();

@@ -51,7 +51,7 @@ protected:
                core::numberText(object.Width) + " " + core::numberText(object.Height);
     }
     std::string entry(const std::string& name) const {
-        platform::Zip Zip;
+        file::Zip Zip;
         Zip.OpenArchive(app.document.currentFile);
         return Zip.readEntry(name, 1 << 20).value_or("(none)");
     }

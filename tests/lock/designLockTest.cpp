@@ -2,8 +2,8 @@
 #include "core/encoding.h"
 #include "core/text.h"
 #include "databases.h"
-#include "storage/dataReader.h"
-#include "storage/dataWriter.h"
+#include "file/dataReader.h"
+#include "file/dataWriter.h"
 #include "storage/saveFile.h"
 
 #include <gtest/gtest.h>
@@ -68,7 +68,7 @@ TEST_F(DesignLock, ALockedFileIsReadBack) {
         lockPassword.clear();
         click({password});
         core::Document again;
-        storage::readDataFile(storage::encodeDataFile(storage::writeDataFile(app.document, false)), again);
+        file::readDataFile(file::encodeDataFile(file::writeDataFile(app.document, false)), again);
         ASSERT_EQ(again.lockPassword, lockPassword) << password;
         ASSERT_EQ(again.LV.count(), app.document.LV.count()) << password;
     }

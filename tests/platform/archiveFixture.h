@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/zip.h"
+#include "file/zip.h"
 #include "raised.h"
 
 #include <cstdlib>
@@ -76,13 +76,13 @@ protected:
 
     [[nodiscard]] std::string dataOf(const std::filesystem::path& file,
                                      const std::string& name = "data.dat") const {
-        platform::Zip Zip;
+        file::Zip Zip;
         Zip.OpenArchive(file);
-        return Zip.readEntry(name, platform::Zip::maxFileBytes).value_or("(absent)");
+        return Zip.readEntry(name, file::Zip::maxFileBytes).value_or("(absent)");
     }
 
     void replaceData(const std::string& bytes) const {
-        platform::Zip Zip;
+        file::Zip Zip;
         Zip.OpenArchive(archive);
         Zip.addBuffer("data.dat", bytes, "Main Data File");
         Zip.CloseArchive();

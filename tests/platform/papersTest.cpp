@@ -1,4 +1,4 @@
-#include "platform/papers.h"
+#include "drawing/papers.h"
 #include "platform/mailMessage.h"
 #include "table.h"
 
@@ -9,11 +9,11 @@
 
 namespace {
 
-const platform::PaperSize& paper(const std::string& name) {
-    for (const platform::PaperSize& each : platform::papers())
+const drawing::PaperSize& paper(const std::string& name) {
+    for (const drawing::PaperSize& each : drawing::papers())
         if (each.name == name) return each;
     ADD_FAILURE() << "there is no paper " << name;
-    return platform::papers()[0];
+    return drawing::papers()[0];
 }
 
 // Papers are cut from each other, so that a wrong length shows at its neighbours.
@@ -33,9 +33,9 @@ TEST(Papers, HalvesOfLargerOnes) {
     }
     // Of all but these the height is the longer side.
     std::string across;
-    for (const platform::PaperSize& each : platform::papers()) {
+    for (const drawing::PaperSize& each : drawing::papers()) {
         if (each.Width > each.Height) across += std::string(each.name) + "; ";
-        EXPECT_EQ(platform::findPaper(each.code), &each);
+        EXPECT_EQ(drawing::findPaper(each.code), &each);
         int width = 0, height = 0; // as some names tell
         if (std::sscanf(each.name.data(), "%d x %d in", &width, &height) == 2) {
             EXPECT_EQ(each.Width, width * 1440) << each.name;
@@ -43,7 +43,7 @@ TEST(Papers, HalvesOfLargerOnes) {
         }
     }
     EXPECT_EQ(across, "Ledger; Envelope B6; 15 x 11 in; ");
-    EXPECT_EQ(platform::findPaper(platform::customPaperCode), nullptr);
+    EXPECT_EQ(drawing::findPaper(drawing::customPaperCode), nullptr);
     for (const auto& c :
          table("Legal -> 8.5 -> 14; Executive -> 7.25 -> 10.5; Folio -> 8.5 -> 13; Quarto -> 8.465 -> "
                "10.827; Envelope #10 -> 4.125 -> 9.5; Envelope DL -> 4.331 -> 8.661",

@@ -1,5 +1,5 @@
 #include "archiveFixture.h"
-#include "platform/archiveSource.h"
+#include "file/archiveSource.h"
 
 #include <algorithm>
 #include <chrono>
@@ -9,7 +9,7 @@
 
 namespace fs = std::filesystem;
 namespace errors = core::errors;
-using platform::Zip;
+using file::Zip;
 
 namespace {
 
@@ -68,7 +68,7 @@ TEST_F(ZipDamageTest, RefusesWhatIsNoArchive) {
         Zip Zip;
         EXPECT_EQ(raisedBy([&] { Zip.OpenArchive(folder / name); }), number) << name;
     }
-    const auto unreadable = [] { platform::ArchiveSource(platform::FileHandle(1 << 20), "no size"); };
+    const auto unreadable = [] { file::ArchiveSource(file::FileHandle(1 << 20), "no size"); };
     EXPECT_EQ(raisedBy(unreadable), errors::deviceIO) << "an archive without a size is none without entries";
     const std::string whole = readBytes(TEST_DATA_DIR "/books.fwk");
     for (std::size_t length = 1; length < whole.size(); length += length < whole.size() - 300 ? 97 : 1) {
@@ -96,7 +96,7 @@ TEST_F(ZipDamageTest, NeverUnpacksAnUnsafeName) {
     EXPECT_EQ(filesIn(folder).size(), 2U) << "the archive and the folder out";
     EXPECT_EQ(filesIn(folder / "out").size(), 2U);
     EXPECT_FALSE(fs::exists("/x.jpg"));
-    EXPECT_FALSE(platform::isSafeEntryName(std::string_view("x\0.jpg", 6)));
+    EXPECT_FALSE(file::isSafeEntryName(std::string_view("x\0.jpg", 6)));
 }
 
 TEST_F(ZipDamageTest, UnpackingReplacesALink) {

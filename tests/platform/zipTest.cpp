@@ -14,7 +14,7 @@
 
 namespace fs = std::filesystem;
 namespace errors = core::errors;
-using platform::Zip;
+using file::Zip;
 
 namespace {
 

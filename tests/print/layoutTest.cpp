@@ -45,13 +45,13 @@ TEST_F(Layout, WordsWrapIntoTheirBox) {
                "500 -> 600 -> Donaudampfschiff ahoi; 500 -> 0 -> x; 500 -> 600; "
                "500 -> 600 -> Donaudampfschiff -> Donaudampfschiff@0,",
                4)) {
-        platform::RecordedPage target;
+        drawing::RecordedPage target;
         target.measureWith(platform.metrics);
         target.setPage({});
         target.FontSize = 10;
         print::printWrapped(target, 500, std::stof(c[1]), std::stof(c[0]), c[2]);
         std::string lines;
-        for (const auto& line : drawnOf<platform::DrawnText>(target.drawn())) {
+        for (const auto& line : drawnOf<drawing::DrawnText>(target.drawn())) {
             lines += line.text + "@" + std::to_string(std::lround(line.Top)) + ",";
             EXPECT_EQ(line.Left, 500);
         }
@@ -70,12 +70,12 @@ TEST_F(Layout, EveryKindOfObjectHasItsPlaceOnThePage) {
                 ElementsAre("1440,4036-6440,4036", "6036,1440-6036,4440", ".1440,0-1440,15840",
                             ".10800,0-10800,15840", ".0,1440-12240,1440", ".0,14400-12240,14400"));
     std::string faces;
-    for (const auto& [left, top, text, font, color] : drawnOf<platform::DrawnText>(preview()))
+    for (const auto& [left, top, text, font, color] : drawnOf<drawing::DrawnText>(preview()))
         faces += font.FontName + std::to_string(std::lround(font.FontSize)) + (font.FontBold ? " bold" : "") +
                  (font.FontItalic ? " italic" : "") + (font.FontUnderline ? " underline " : " ") +
                  std::to_string(color) + "; ";
     EXPECT_EQ(faces, "Arial10 bold underline 255; Arial10 0; Times12 italic 65280; ");
-    const auto boxes = drawnOf<platform::DrawnRectangle>(preview());
+    const auto boxes = drawnOf<drawing::DrawnRectangle>(preview());
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_THAT((std::vector<float>{boxes[0].Left, boxes[0].Top, boxes[0].Width, boxes[0].Height}),
                 ElementsAre(1335, 975, 8970, 4470));
@@ -89,7 +89,7 @@ TEST_F(Layout, EveryKindOfObjectHasItsPlaceOnThePage) {
     app.document.layout.clipPic.load(1); // has no picture
     app.document.layout.layoutField.find(2)->Text.clear();
     run("Print");
-    const auto pictures = drawnOf<platform::DrawnPicture>(sheet(0));
+    const auto pictures = drawnOf<drawing::DrawnPicture>(sheet(0));
     ASSERT_EQ(pictures.size(), 1U);
     EXPECT_THAT(
         (std::vector<float>{pictures[0].Left, pictures[0].Top, pictures[0].Width, pictures[0].Height}),

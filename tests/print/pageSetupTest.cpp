@@ -1,9 +1,9 @@
 #include "core/runTimeError.h"
+#include "file/dataWriter.h"
 #include "print/layoutPageSetupFrm.h"
 #include "print/reportPageSetup.h"
 #include "printRecorder.h"
 #include "shell/mainWindow.h"
-#include "storage/dataWriter.h"
 
 #include <gmock/gmock.h>
 
@@ -15,7 +15,7 @@ class PageSetup : public testing::Test, protected PrintProgram {
 protected:
     // A section of the document as it would be saved.
     std::string section(const std::string& name) {
-        const std::string text = storage::writeDataFile(app.document, false);
+        const std::string text = file::writeDataFile(app.document, false);
         const std::size_t start = text.find(name) + 16;
         return text.substr(start, text.find('\r', start) - start);
     }

@@ -7,7 +7,7 @@
 
 #include <gmock/gmock.h>
 
-using platform::DrawnText;
+using drawing::DrawnText;
 using testing::ElementsAre;
 using Lines = std::vector<std::string>;
 
@@ -20,7 +20,7 @@ protected:
 
     void showPreview() { shell::SSTab1_Click(app, app::previewTab); }
     // The first and the last row of a page, title and headings left out: "r1..r63".
-    static std::string rowsOf(const std::vector<platform::Drawn>& sheet) {
+    static std::string rowsOf(const std::vector<drawing::Drawn>& sheet) {
         Lines rows;
         for (const DrawnText& text : drawnOf<DrawnText>(sheet))
             if (text.text.starts_with("r") || text.text.starts_with("-"))
@@ -51,7 +51,7 @@ TEST_F(Report, EverythingHasItsPlaceOnThePage) {
     EXPECT_EQ(linesOf(preview()), lines);
     EXPECT_TRUE(page.Visible);
     // Paper takes the same, without the dotted guides; its headings may be bold, as the title is anyway.
-    const auto faces = [](const std::vector<platform::Drawn>& sheet) {
+    const auto faces = [](const std::vector<drawing::Drawn>& sheet) {
         std::string bold;
         for (const DrawnText& text : drawnOf<DrawnText>(sheet)) bold += text.font.FontBold ? 'b' : '.';
         return bold + " " + drawnOf<DrawnText>(sheet)[3].font.FontName;

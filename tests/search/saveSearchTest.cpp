@@ -69,7 +69,7 @@ TEST_F(SaveSearch, RefusalsAndFailuresLeaveTheFilesAlone) {
     save(target);
     EXPECT_EQ(platform.lastMessage(), "Overwrite Existing File?");
     EXPECT_EQ(rows(), "Nut|7|$.25|\r\nBolt|7|$2.00|\r\n------|------|------|\r\n");
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(target);
     EXPECT_EQ(Zip.FileCount(), 1); // the images of the old file are gone
 }

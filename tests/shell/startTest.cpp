@@ -1,3 +1,4 @@
+#include "shell/program.h"
 #include "programTest.h"
 #include "shell/commands.h"
 #include "shell/mainWindow.h"
@@ -60,7 +61,7 @@ class StartTest : public testing::Test {
 protected:
     Program files;
     LoggingPlatform platform;
-    app::App app{platform};
+    shell::Program app{platform};
     app::MainFrm& mainFrm = app.mainFrm;
 
     StartTest() { platform.settings["Disclaimer"] = "True"; }

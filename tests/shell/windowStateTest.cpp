@@ -1,3 +1,4 @@
+#include "shell/program.h"
 #include "programTest.h"
 #include "shell/mainWindow.h"
 
@@ -129,7 +130,7 @@ public:
 
 TEST(PrinterCheck, withoutAPrinterTheTabStays) {
     NoPrinter platform;
-    app::App app{platform};
+    shell::Program app{platform};
     for (const int tab : {app::layoutTab, app::previewTab}) {
         shell::SSTab1_Click(app, tab);
         EXPECT_EQ(app.mainFrm.SSTab1, app::reportTab);

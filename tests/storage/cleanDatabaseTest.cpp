@@ -1,3 +1,4 @@
+#include "shell/program.h"
 #include "storage/cleanDatabase.h"
 #include "programTest.h"
 #include "raised.h"
@@ -31,7 +32,7 @@ protected:
 
     Program files;
     Machine machine;
-    app::App app{machine};
+    shell::Program app{machine};
 };
 
 TEST_F(CleanDatabase, whatNothingRefersToGoes) {

@@ -1,4 +1,4 @@
-#include "storage/layoutLines.h"
+#include "file/layoutLines.h"
 #include "raised.h"
 
 #include <gtest/gtest.h>
@@ -10,9 +10,9 @@ namespace errors = core::errors;
 // A line as it is read and written again.
 std::string again(std::string_view line) {
     core::LayoutObjects layout;
-    if (!storage::readLayoutLine(line, layout)) return "skipped";
+    if (!file::readLayoutLine(line, layout)) return "skipped";
     std::string out;
-    storage::writeLayoutLines(out, layout, "");
+    file::writeLayoutLines(out, layout, "");
     return out;
 }
 
@@ -80,9 +80,9 @@ TEST(LayoutLines, thatCannotBeUnderstoodRaiseAndLeaveNoObject) {
         {"C|a|1E39|2|3|4|", errors::overflow}};
     for (const auto& [line, number] : cases) {
         core::LayoutObjects layout;
-        EXPECT_EQ(raisedBy([&, text = line] { storage::readLayoutLine(text, layout); }), number) << line;
+        EXPECT_EQ(raisedBy([&, text = line] { file::readLayoutLine(text, layout); }), number) << line;
         std::string out;
-        storage::writeLayoutLines(out, layout, "");
+        file::writeLayoutLines(out, layout, "");
         EXPECT_EQ(out, "") << line;
     }
 }
@@ -92,9 +92,9 @@ TEST(LayoutLines, goFamilyByFamilyInIndexOrderAndWithoutTheTemplate) {
     for (const char* line : {"C|c1|1|2|3|4|", "P|p1|1|2|3|4|stamp.gif|", "B|1|2|3|4|5|6|", "VLN|1|2|3|4|5|",
                              "LN|1|2|3|4|5|", "L|l1|1|2|3|4|True|False|False|A|8|0||0|",
                              "F|f1|1|2|3|4|True|False|False|A|8|0|", "C|c2|1|2|3|4|", "C|c3|1|2|3|4|"})
-        ASSERT_TRUE(storage::readLayoutLine(line, layout)) << line;
+        ASSERT_TRUE(file::readLayoutLine(line, layout)) << line;
     layout.clipPic.unload(2);
-    ASSERT_TRUE(storage::readLayoutLine("C|c4|5|6|70|80|", layout));
+    ASSERT_TRUE(file::readLayoutLine("C|c4|5|6|70|80|", layout));
     EXPECT_EQ(layout.clipPic.upperBound(), 4) << "the next number, not the gap";
     EXPECT_TRUE(layout.clipPic[4].Visible);
     EXPECT_EQ(layout.clipPic[4].clipImage.Width, 70);
@@ -103,7 +103,7 @@ TEST(LayoutLines, goFamilyByFamilyInIndexOrderAndWithoutTheTemplate) {
     EXPECT_EQ(layout.imgHolder[1].viewImage.Width, 3);
     EXPECT_EQ(layout.imgHolder[1].viewImage.Height, 4);
     std::string out;
-    storage::writeLayoutLines(out, layout, "\n");
+    file::writeLayoutLines(out, layout, "\n");
     EXPECT_EQ(out, "F|f1|1|2|3|4|True|False|False|A|8|0|\n"
                    "L|l1|1|2|3|4|True|False|False|A|8|0||0|\n"
                    "LN|1|2|3|4|16777215|\nVLN|1|2|3|4|16777215|\nB|1|2|3|4|5|6|\nP|p1|1|2|3|4|\n"

@@ -1,3 +1,4 @@
+#include "shell/program.h"
 #include "storage/mailFrm.h"
 #include "programTest.h"
 
@@ -20,7 +21,7 @@ protected:
 
     Program files;
     Machine machine;
-    app::App app{machine};
+    shell::Program app{machine};
     storage::mailFrm form{app};
 };
 

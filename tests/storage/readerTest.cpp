@@ -1,6 +1,6 @@
 #include "databases.h"
+#include "file/dataReader.h"
 #include "raised.h"
-#include "storage/dataReader.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ protected:
     Document document;
     DataFile data;
 
-    void read() { storage::readDataFile(data.text(), document); }
+    void read() { file::readDataFile(data.text(), document); }
     // The data of the fixture with those section lines.
     void readMore(const std::string& lines) {
         data.more = lines;
@@ -39,7 +39,7 @@ TEST_F(ReaderTest, pageValuesStandInTwoOrders) {
     std::string text = data.text();
     const std::string usual = "4|6|1|1|1|1|1|1|0.15|";
     text.replace(text.find(usual), usual.size(), "3.5|7|0.1|0.2|0.3|0.4|256|2|1E-2|");
-    storage::readDataFile(text, document);
+    file::readDataFile(text, document);
     const core::LayoutOptions& layout = document.layoutOptions;
     const core::ReportData& report = document.reportData;
     const std::vector<float> values = {
@@ -155,7 +155,7 @@ TEST_F(ReaderTest, styleViewAndLock) {
     for (std::size_t end = 0; (end = doubled.find("\r\n", end)) != std::string::npos; end += 3)
         doubled.insert(end, 1, '\r');
     document.clear();
-    storage::readDataFile(doubled, document);
+    file::readDataFile(doubled, document);
     EXPECT_EQ(document.lockPassword + keys(), "i1;i2;Totals;");
     EXPECT_TRUE(document.bInvoiceView);
 }
@@ -163,13 +163,13 @@ TEST_F(ReaderTest, styleViewAndLock) {
 TEST_F(ReaderTest, sectionsComeInAnyOrderAmongUnknownOnes) {
     data.layout = "X|new kind|\r\n[Locks         ]pBox,9|\r\nC|a.gif|1|2|3|4|\r\n";
     std::vector<std::pair<int, std::string>> findings;
-    const storage::ReadObserver observer{
+    const file::ReadObserver observer{
         [&](int line, std::string_view what) { findings.emplace_back(line, what); }};
     const std::string text = "anything\r\n" + data.layout +
                              "[LayoutEnd]\r\n[Column Spots  ]1|3|2|\r\n\r\n[future thing  ]Qty|\r\n"
                              "[Totaled Cols ]Name|\r\n[Column Widths ]100|wide|\r\n[Column Types  ]4|3|\r\n"
                              "[Column Names  ]Qty|Name|\r\n[Begin Data    ] behind it\r\n1|a|\r\n2|b|\r\n";
-    storage::readDataFile(text, document, &observer);
+    file::readDataFile(text, document, &observer);
     EXPECT_EQ(Program::cells(document.LV), "1|a|;2|b|;");
     EXPECT_EQ(document.LV.columns["Name"].Position, 2);
     EXPECT_EQ(document.LV.columns["Qty"].Width, 100);
@@ -247,7 +247,7 @@ TEST_F(ReaderTest, linesOfOtherSystemsAndBlankOnes) {
         for (std::size_t at = other.find("\r\n"); at != std::string::npos; at = other.find("\r\n", at))
             other.replace(at, 2, lineEnd);
         document.clear();
-        storage::readDataFile(other, document);
+        file::readDataFile(other, document);
         EXPECT_EQ(Program::cells(document.LV), "Bolt|12|$1.50|;Nut|7|$.25|;------|------|------|;");
         EXPECT_EQ(document.LV.columns.count(), 4);
     }

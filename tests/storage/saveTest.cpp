@@ -1,3 +1,4 @@
+#include "shell/program.h"
 #include "programTest.h"
 #include "storage/saveFile.h"
 
@@ -180,7 +181,7 @@ public:
 TEST(SaveFailures, onlySaveAsAsksForTheDiskThatIsNotReady) {
     namespace errors = core::errors;
     FailingPlatform platform;
-    app::App app{platform};
+    shell::Program app{platform};
     app.document.currentFile = (platform.folder / "a.fwk").string();
     const std::string same = app.document.currentFile, other = (platform.folder / "b.fwk").string();
     const struct {

@@ -1,7 +1,7 @@
 #include "databases.h"
-#include "storage/dataReader.h"
-#include "storage/dataWriter.h"
-#include "storage/values.h"
+#include "file/dataReader.h"
+#include "file/dataWriter.h"
+#include "file/values.h"
 
 #include <gtest/gtest.h>
 
@@ -42,7 +42,7 @@ std::string designWith(const char* counter) {
 
 // A document in which every section has something to say.
 void fill(Document& document) {
-    storage::readDataFile(designWith("42") + " a |1|p.jpg|\r\n|\r\nx|2|\r\n-|3|-|\r\n", document);
+    file::readDataFile(designWith("42") + " a |1|p.jpg|\r\n|\r\nx|2|\r\n-|3|-|\r\n", document);
     document.invoiceCols.add("7");                 // a standard database has none
     document.reportData.reportTitle = "A | title"; // is cut when it is read
     document.reportData.bReportBoldHeaders = true;
@@ -54,23 +54,23 @@ void fill(Document& document) {
 TEST(Writer, everySectionInItsOrder) {
     Document document;
     fill(document);
-    EXPECT_EQ(storage::writeDataFile(document, false),
+    EXPECT_EQ(file::writeDataFile(document, false),
               designWith("42") + " a |1|p.jpg|\r\n|||\r\nx|y|2||\r\n------|3|------|\r\n");
-    EXPECT_EQ(storage::writeDataFile(document, true), designWith("0")) << "a clone";
+    EXPECT_EQ(file::writeDataFile(document, true), designWith("0")) << "a clone";
     EXPECT_EQ(document.SerialsLV.at(1).subItem(1), "42") << "the open document keeps counting";
 }
 
 TEST(Writer, anEmptyDocument) {
     Document document;
     core::addTotalsRow(document.LV);
-    const std::string text = storage::writeDataFile(document, false);
+    const std::string text = file::writeDataFile(document, false);
     EXPECT_NE(text.find("[Column Names  ]\r\n[Column Types  ]\r\n[Column Widths ]\r\n[Column Spots  ]1|\r\n"),
               std::string::npos);
     EXPECT_TRUE(text.ends_with("[Begin Data    ]\r\n\r\n"));
     Document again;
-    storage::readDataFile(text, again);
+    file::readDataFile(text, again);
     EXPECT_TRUE(again.LV.empty());
-    EXPECT_EQ(storage::writeDataFile(again, false), text.substr(0, text.size() - 2));
+    EXPECT_EQ(file::writeDataFile(again, false), text.substr(0, text.size() - 2));
 }
 
 TEST(Writer, theListOfTheInvoiceViewGivesItsWidthsAndPositions) {
@@ -84,7 +84,7 @@ TEST(Writer, theListOfTheInvoiceViewGivesItsWidthsAndPositions) {
         shown.add("Qty", "Qty", 500);
         shown.add("NAME", "NAME", 600.25F);
         shown.setPosition(3, 2);
-        const std::string text = storage::writeDataFile(document, false);
+        const std::string text = file::writeDataFile(document, false);
         const auto has = [&](const char* line) { return text.find(line) != std::string::npos; };
         EXPECT_EQ(has("[Column Widths ]600.25|500|1440|\r\n"), isInvoice);
         EXPECT_EQ(has("[Column Widths ]1234.5|1440|1440|\r\n"), !isInvoice);
@@ -103,21 +103,21 @@ TEST(Writer, databasesComeBackByteForByte) {
     for (const char* name : {"books.fwk", "books-clone.fwk", "packages-500.fwk", "packages-32000.fwk"}) {
         const std::string bytes = Program::dataFileOf(std::string(TEST_DATA_DIR) + "/" + name);
         Document document;
-        storage::readDataFile(bytes, document);
-        EXPECT_TRUE(storage::encodeDataFile(storage::writeDataFile(document, false)) == bytes) << name;
+        file::readDataFile(bytes, document);
+        EXPECT_TRUE(file::encodeDataFile(file::writeDataFile(document, false)) == bytes) << name;
     }
 }
 
 // An older file is written in today's form, and from then on it stays the same.
 TEST(Writer, anOlderFileIsBroughtUpToDate) {
     Document document, again;
-    storage::readDataFile(Program::dataFileOf(TEST_DATA_DIR "/books-older.fwk"), document);
-    const std::string text = storage::writeDataFile(document, false);
+    file::readDataFile(Program::dataFileOf(TEST_DATA_DIR "/books-older.fwk"), document);
+    const std::string text = file::writeDataFile(document, false);
     EXPECT_EQ(text.find("X|unknown") & text.find("Future"), std::string::npos);
     EXPECT_NE(text.find("L|No:|1440|1590|1695|195|True|False|False|MS Sans Serif|8.25|0||0|\r\n"),
               std::string::npos);
-    storage::readDataFile(storage::encodeDataFile(text), again);
-    EXPECT_EQ(storage::writeDataFile(again, false), text);
+    file::readDataFile(file::encodeDataFile(text), again);
+    EXPECT_EQ(file::writeDataFile(again, false), text);
     EXPECT_EQ(Program::cells(again.LV), Program::cells(document.LV));
 }
 
@@ -132,8 +132,8 @@ TEST(Encoding, everyByteOfTheCodePageComesBack) {
     data.rows = cell + "|1|2|\r\n------|1|2|\r\n";
     data.more = "[Lock          ]" + cell + "\r\n";
     Document document;
-    storage::readDataFile(data.text(), document);
-    const std::string bytes = storage::encodeDataFile(storage::writeDataFile(document, false));
+    file::readDataFile(data.text(), document);
+    const std::string bytes = file::encodeDataFile(file::writeDataFile(document, false));
     EXPECT_NE(bytes.find("\r\n" + data.rows), std::string::npos);
     EXPECT_NE(bytes.find(data.more), std::string::npos);
     EXPECT_TRUE(bytes.starts_with("[LayoutStart]"));
@@ -152,13 +152,13 @@ TEST(Encoding, theMarkComesOnlyWithACharacterThatNeedsIt) {
         {"e\xCC\x81", mark + "e\xCC\x81"}, // no single character of the code page
     };
     for (const auto& [text, bytes] : cases) {
-        EXPECT_EQ(storage::encodeDataFile(text), bytes) << text;
-        EXPECT_EQ(storage::decodeDataFile(bytes), text) << text;
+        EXPECT_EQ(file::encodeDataFile(text), bytes) << text;
+        EXPECT_EQ(file::decodeDataFile(bytes), text) << text;
     }
     // With a mark, text that would fit comes back without; damaged text is mended.
-    EXPECT_EQ(storage::encodeDataFile(storage::decodeDataFile(mark + "\xC3\xA9")), "\xE9");
-    EXPECT_EQ(storage::decodeDataFile(mark + "a\xFF"), "a\xEF\xBF\xBD");
-    EXPECT_EQ(storage::decodeDataFile(mark), "");
+    EXPECT_EQ(file::encodeDataFile(file::decodeDataFile(mark + "\xC3\xA9")), "\xE9");
+    EXPECT_EQ(file::decodeDataFile(mark + "a\xFF"), "a\xEF\xBF\xBD");
+    EXPECT_EQ(file::decodeDataFile(mark), "");
 }
 
 } // namespace

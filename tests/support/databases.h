@@ -2,9 +2,10 @@
 
 #include "core/totalsRow.h"
 #include "dataFile.h"
-#include "platform/zip.h"
+#include "file/zip.h"
 #include "scriptedPlatform.h"
 #include "shell/commands.h"
+#include "shell/program.h"
 #include "storage/openFile.h"
 
 #include <filesystem>
@@ -22,7 +23,7 @@
 template <typename Machine>
 struct ProgramOn {
     Machine platform;
-    app::App app{platform};
+    shell::Program app{platform};
 
     ProgramOn() = default;
     explicit ProgramOn(const DataFile& data) { open(data); }
@@ -47,7 +48,7 @@ struct ProgramOn {
     // An archive with that data.dat, and entries of the given names.
     std::string make(const std::string& name, std::string_view dataFile,
                      std::initializer_list<const char*> images = {}) const {
-        platform::Zip Zip;
+        file::Zip Zip;
         Zip.CreateArchive(path(name));
         Zip.addBuffer("data.dat", dataFile, "Main Data File");
         for (const char* image : images) Zip.addBuffer(image, std::string("bytes of ") + image, "");
@@ -55,7 +56,7 @@ struct ProgramOn {
         return path(name);
     }
     static std::string dataFileOf(const std::string& archive) {
-        platform::Zip Zip;
+        file::Zip Zip;
         Zip.OpenArchive(archive);
         return Zip.readEntry("data.dat", std::uint64_t{1} << 30).value_or("(none)");
     }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "app/invoiceRoutines.h"
+#include "calc/invoiceCalculation.h"
 #include "databases.h"
-#include "invoice/calculation.h"
 #include "invoice/records.h"
 #include "invoice/repeatFrm.h"
 #include "invoice/views.h"
@@ -30,7 +29,7 @@ protected:
         return core::RecordsList::cell(item, app.document.LV.columns[name]);
     }
     void calculate(core::Item& item) {
-        app::calculateInvoice(app, app.document.LV, app.document.LV.indexOf(item));
+        calc::calculateInvoice(app, app.document.LV, app.document.LV.indexOf(item));
     }
     // The rows of iLV in the order of its columns' places, "Text: a|b; ".
     std::string view() {

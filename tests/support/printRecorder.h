@@ -2,7 +2,7 @@
 
 #include "core/text.h"
 #include "databases.h"
-#include "platform/recordedPage.h"
+#include "drawing/recordedPage.h"
 #include "print/previewNavigation.h"
 
 #include <cmath>
@@ -11,26 +11,26 @@
 
 // Texts measured by plain rules: a character is half as wide as the font is high, and a line as high as the
 // font. So every place on a page can be told without a font.
-class PlainMetrics : public platform::TextMetrics {
+class PlainMetrics : public drawing::TextMetrics {
 public:
-    float textWidth(const platform::TextFont& font, std::string_view text) override {
+    float textWidth(const drawing::TextFont& font, std::string_view text) override {
         return static_cast<float>(core::length(text)) * font.FontSize * 10;
     }
-    float textHeight(const platform::TextFont& font) override { return font.FontSize * 20; }
+    float textHeight(const drawing::TextFont& font) override { return font.FontSize * 20; }
 };
 
 // What came out of a printer: for each sheet what stands on it.
 struct PrintedSheets {
-    std::vector<std::vector<platform::Drawn>> sheets;
+    std::vector<std::vector<drawing::Drawn>> sheets;
     std::vector<std::size_t> jobs; // sheets of each
-    std::vector<platform::PageSetup> papers;
+    std::vector<drawing::PageSetup> papers;
     bool closed = false;
 };
 
 // A printer that keeps its sheets.
-class RecordingPrinter : public platform::RecordedPage {
+class RecordingPrinter : public drawing::RecordedPage {
 public:
-    RecordingPrinter(PrintedSheets& printed, platform::TextMetrics& metrics) : printed_(printed) {
+    RecordingPrinter(PrintedSheets& printed, drawing::TextMetrics& metrics) : printed_(printed) {
         measureWith(metrics);
     }
     bool isPrinter() const override { return true; }
@@ -40,7 +40,7 @@ public:
     }
 
 protected:
-    void pageSet(const platform::PageSetup& setup) override {
+    void pageSet(const drawing::PageSetup& setup) override {
         RecordedPage::pageSet(setup);
         printed_.papers.push_back(setup);
     }
@@ -81,13 +81,13 @@ public:
         if (!hasPrinter) core::raise(core::errors::deviceIO);
         return "Recorder";
     }
-    platform::TextMetrics& textMetrics() override { return metrics; }
+    drawing::TextMetrics& textMetrics() override { return metrics; }
     std::vector<platform::PaperName> printerPapers() override { return paperNames; }
     std::optional<platform::PrintChoice> showPrinterDialog(const platform::PrintChoice& present) override {
         dialogsShown.push_back(present);
         return dialogAnswer;
     }
-    std::unique_ptr<platform::DrawTarget> openPrinter(const std::string&) override {
+    std::unique_ptr<drawing::DrawTarget> openPrinter(const std::string&) override {
         if (fileCancelled) return nullptr;
         return std::make_unique<RecordingPrinter>(printed, metrics);
     }
@@ -95,9 +95,9 @@ public:
 
 // What stands on a page, picked by kind.
 template <typename Kind>
-std::vector<Kind> drawnOf(const std::vector<platform::Drawn>& page) {
+std::vector<Kind> drawnOf(const std::vector<drawing::Drawn>& page) {
     std::vector<Kind> found;
-    for (const platform::Drawn& each : page)
+    for (const drawing::Drawn& each : page)
         if (const auto* drawn = std::get_if<Kind>(&each)) found.push_back(*drawn);
     return found;
 }
@@ -108,18 +108,18 @@ inline std::string placeOf(float x, float y) {
 }
 
 // The texts of a page, "text@left,top".
-inline std::vector<std::string> textsOf(const std::vector<platform::Drawn>& page) {
+inline std::vector<std::string> textsOf(const std::vector<drawing::Drawn>& page) {
     std::vector<std::string> texts;
-    for (const auto& each : drawnOf<platform::DrawnText>(page))
+    for (const auto& each : drawnOf<drawing::DrawnText>(page))
         texts.push_back(each.text + "@" + placeOf(each.Left, each.Top));
     return texts;
 }
 
 // The lines of a page, "x1,y1-x2,y2", dotted ones with a "." in front.
-inline std::vector<std::string> linesOf(const std::vector<platform::Drawn>& page) {
+inline std::vector<std::string> linesOf(const std::vector<drawing::Drawn>& page) {
     std::vector<std::string> lines;
-    for (const auto& each : drawnOf<platform::DrawnLine>(page))
-        lines.push_back((each.pen.DrawStyle == platform::LineStyle::Dotted ? "." : "") +
+    for (const auto& each : drawnOf<drawing::DrawnLine>(page))
+        lines.push_back((each.pen.DrawStyle == drawing::LineStyle::Dotted ? "." : "") +
                         placeOf(each.x1, each.y1) + "-" + placeOf(each.x2, each.y2));
     return lines;
 }
@@ -137,10 +137,8 @@ struct PrintProgram : ProgramOn<PrintingPlatform> {
         open(file.objects(objects).section("Printed Cols", "Name|"));
         app.document.reportData.reportOrientation = 1;
     }
-    const std::vector<platform::Drawn>& preview() const {
-        return app.mainFrm.previewPage.rptPreview1.drawn();
-    }
-    const std::vector<platform::Drawn>& sheet(std::size_t number) const {
+    const std::vector<drawing::Drawn>& preview() const { return app.mainFrm.previewPage.rptPreview1.drawn(); }
+    const std::vector<drawing::Drawn>& sheet(std::size_t number) const {
         return platform.printed.sheets.at(number);
     }
     // What stands on each sheet printed since the last look, "r1 r2/r3".
@@ -152,9 +150,9 @@ struct PrintProgram : ProgramOn<PrintingPlatform> {
         return all;
     }
     // The texts of a page alone, without the blanks behind them.
-    static std::string wordsOf(const std::vector<platform::Drawn>& page) {
+    static std::string wordsOf(const std::vector<drawing::Drawn>& page) {
         std::string words;
-        for (const platform::DrawnText& text : drawnOf<platform::DrawnText>(page))
+        for (const drawing::DrawnText& text : drawnOf<drawing::DrawnText>(page))
             words += (words.empty() ? "" : " ") + std::string(core::rtrim(text.text));
         return words;
     }

@@ -7,7 +7,7 @@
 // Name, comment and bytes of every entry of an archive, in their order; those of data.dat on request.
 inline std::vector<std::string> entriesOf(const std::string& archive, bool withData) {
     std::vector<std::string> entries;
-    platform::Zip Zip;
+    file::Zip Zip;
     Zip.OpenArchive(archive);
     for (int i = 0; i < Zip.FileCount(); ++i) {
         const std::string name = Zip.FileNameAt(i);

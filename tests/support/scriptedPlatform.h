@@ -39,8 +39,8 @@ public:
     std::deque<std::string> files;
     std::function<void(std::string_view)> onForm;
     std::deque<platform::FontChoice> fonts;
-    std::map<std::string, platform::Extent> pictures; // by file name; any other file is no picture
-    std::string tooLarge;                             // the name of a picture that is
+    std::map<std::string, drawing::Extent> pictures; // by file name; any other file is no picture
+    std::string tooLarge;                            // the name of a picture that is
     std::string clipboardPicture; // the bytes of the clipboard's bitmap; empty for a text, or nothing
 
     // What was asked.
@@ -95,7 +95,7 @@ public:
         shownFonts.push_back(present);
         return take(fonts);
     }
-    std::optional<platform::Extent> pictureExtent(const std::filesystem::path& path) override {
+    std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& path) override {
         const auto found = pictures.find(path.filename().string());
         if (found == pictures.end() || !std::filesystem::exists(path)) return std::nullopt;
         return found->second;
@@ -144,7 +144,7 @@ public:
         std::ofstream(path, std::ios::binary) << bytes;
     }
     // A file of that size in twips, to be chosen.
-    std::string pictureFile(const std::string& name, platform::Extent extent,
+    std::string pictureFile(const std::string& name, drawing::Extent extent,
                             std::string_view bytes = "picture") {
         pictures[name] = extent;
         write(folder / name, bytes);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "file/fileHandle.h"
+
+#include <filesystem>
+#include <sys/types.h>
+
+namespace file {
+
+// A file that takes its place in one step. What is written goes to a hidden file beside the target;
+// commit() syncs it and renames it over the target, so that after a crash at any moment the target
+// is either the old one or the new one, whole. Without commit() the target stays as it was and the
+// hidden file goes. An existing target hands on its permissions and, where the system lets us, its
+// owner; a symbolic link stays a link, and what it points to is replaced.
+// Raises pathAccess (folder or file not writable, also a file that merely lacks its write
+// permission), diskFull, fileNotFound (no such folder), deviceIO.
+class AtomicFile {
+public:
+    explicit AtomicFile(const std::filesystem::path& file);
+    ~AtomicFile();
+    AtomicFile(const AtomicFile&) = delete;
+    AtomicFile& operator=(const AtomicFile&) = delete;
+
+    [[nodiscard]] int fd() const { return handle.get(); }
+    void commit();
+
+private:
+    void checkTarget();
+    void createBeside();
+    void takeOverAttributes() const;
+
+    std::filesystem::path target;
+    std::filesystem::path beside;
+    FileHandle handle;
+    bool replaces = false;
+    mode_t mode = 0;
+    uid_t owner = 0;
+    gid_t group = 0;
+};
+
+} // namespace file

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <zip.h>
+
+namespace file {
+
+// An entry that comes to libzip packed already. Large texts are packed in pieces, on as many cores as there
+// are. The pieces together are one stream that every reader understands, hardly larger than if it had been
+// packed in one go.
+
+// The bytes are packed at once and need not stay. Level from 1 to 12. The source is the caller's until libzip
+// takes it. Raises deviceIO; throws std::bad_alloc.
+zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level);
+
+std::uint32_t checksum(std::string_view bytes); // as an archive has it
+
+} // namespace file

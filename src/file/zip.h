@@ -1,0 +1,73 @@
+#pragma once
+
+#include "file/entryName.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace file {
+
+// A zip archive. It is opened, used and closed within one routine; changes reach the disk with
+// CloseArchive() alone, all of them or none, and whoever does not get there leaves the archive as it
+// was. Entries that are not touched keep their bytes, order, comments and dates.
+// Raises core::RunTimeError: fileNotFound, pathAccess (not a regular file, not readable, or on
+// writing not writable), diskFull, badFileFormat (no zip, damaged, encrypted, or larger than it may
+// be), badFileName (an entry name that could never be unpacked again), deviceIO.
+class Zip {
+public:
+    // What one entry may unpack to in ExtractFile, and what AddFile takes.
+    static constexpr std::uint64_t maxFileBytes = std::uint64_t{256} << 20;
+
+    Zip();
+    ~Zip(); // gives up what CloseArchive() has not written
+    Zip(const Zip&) = delete;
+    Zip& operator=(const Zip&) = delete;
+
+    // The folder that AddFile takes relative names from and that ExtractFile unpacks into.
+    void SetBaseFolder(const std::filesystem::path& folder);
+    void OpenArchive(const std::filesystem::path& file);
+    // An existing file is replaced, on CloseArchive.
+    void CreateArchive(const std::filesystem::path& file, std::string_view comment = {});
+    void CloseArchive();
+    // Writes the archive with its changes to another place and leaves the opened one as it was.
+    void CloseArchiveAs(const std::filesystem::path& target);
+
+    // Adds a file, or replaces the entry of its name (the last component of the path) in its place.
+    // The file is read on closing, so it must stay until then.
+    void AddFile(const std::filesystem::path& file, std::string_view comment);
+    // The same with bytes from memory, which are copied.
+    void addBuffer(const std::string& name, std::string_view bytes, std::string_view comment);
+    // An absent entry passes silently.
+    void DeleteFile(const std::string& name);
+    // Unpacks an entry into the base folder, over a file of that name. An absent entry passes
+    // silently, and so does one whose name is not safe.
+    void ExtractFile(const std::string& name);
+
+    // Entries count from 0; deleted ones do not count. An index outside raises subscriptOutOfRange.
+    [[nodiscard]] int FileCount() const;
+    [[nodiscard]] std::string FileNameAt(int index) const;
+    [[nodiscard]] std::string commentAt(int index) const;
+    // Unpacked size in bytes, as the archive tells it.
+    [[nodiscard]] std::uint64_t sizeAt(int index) const;
+    [[nodiscard]] bool contains(const std::string& name) const;
+    // Unpacks an entry into memory; nothing when it is absent. Of two entries of one name the first
+    // counts, here as everywhere. More than maxBytes, told or found, is badFileFormat.
+    [[nodiscard]] std::optional<std::string> readEntry(const std::string& name, std::uint64_t maxBytes) const;
+
+private:
+    struct Archive;
+    [[nodiscard]] Archive& open() const;
+    [[nodiscard]] std::unique_ptr<Archive> takeOpen();
+    [[nodiscard]] std::uint64_t entryAt(int index) const;
+    [[nodiscard]] std::filesystem::path inBaseFolder(const std::filesystem::path& name) const;
+
+    std::unique_ptr<Archive> archive;
+    std::filesystem::path baseFolder;
+};
+
+} // namespace file

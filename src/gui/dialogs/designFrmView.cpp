@@ -1,0 +1,150 @@
+#include "gui/dialogs/designFrmView.h"
+
+#include "gui/records/listLook.h"
+#include "gui/widgets/qtText.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace gui {
+
+designFrmView::designFrmView(app::App& app, EventBoundary& events, QWidget* parent)
+    : FormView(events, "designFrm", tr("Database Properties"), parent), form_(app),
+      fieldTxt_(named("fieldTxt", new QLineEdit)), List1_(named("List1", new QTreeWidget)) {
+    auto* sides = new QHBoxLayout;
+    sides->addLayout(makeLeftSide());
+    sides->addSpacing(em() / 2);
+    sides->addLayout(makeRightSide(), 1);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(sides, 1);
+    column->addLayout(makeBottomRow(makeButton("doneBtn", tr("&Done"), [this] { form_.doneBtn_Click(); })));
+    resize(em() * 46, em() * 25);
+}
+
+QGroupBox* designFrmView::makeTypes() {
+    const std::array<QString, 6> captions = {tr("Date"),   tr("Currency"), tr("Calculation"),
+                                             tr("Number"), tr("Text"),     tr("Picture")};
+    auto* frame = new QGroupBox(tr(" Type "));
+    auto* grid = new QGridLayout(frame);
+    for (std::size_t i = 0; i < typeOpt_.size(); ++i) {
+        const int index = static_cast<int>(i);
+        typeOpt_[i] = new QRadioButton(captions[i]);
+        typeOpt_[i]->setObjectName(QStringLiteral("typeOpt%1").arg(index));
+        connect(typeOpt_[i], &QRadioButton::clicked, this,
+                [this, index] { on([&] { form_.typeOpt_Click(index); }); });
+        grid->addWidget(typeOpt_[i], index / 2, index % 2);
+    }
+    return frame;
+}
+
+QLayout* designFrmView::makeLeftSide() {
+    auto* caption = new QLabel(tr("Column Name:"));
+    caption->setBuddy(fieldTxt_);
+    fieldTxt_->setToolTip(tr("Name of column to create"));
+    connect(fieldTxt_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        on([&] { form_.fieldTxt_Change(fromQt(text)); });
+        // After every change the caret stands at the end, wherever the change was. It is wanted so.
+        fieldTxt_->end(false);
+    });
+    auto* add = makeButton("addBtn", tr("&Add"), [this] { form_.addBtn_Click(); });
+    add->setToolTip(tr("Add column to list"));
+    add->setDefault(true); // Enter in the name box
+    auto* change = makeButton("changeBtn", tr("&Change Name"), [this] { form_.changeBtn_Click(); });
+    auto* remove = makeButton("deleteBtn", tr("&Remove"), [this] { form_.deleteBtn_Click(); });
+    remove->setToolTip(tr("Delete selected column from list"));
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {add, change, remove}) buttons->addWidget(button);
+    auto* explanation =
+        new QLabel(tr("  To set entry options, simply double click on a row in the list to the right.  You "
+                      "can only set options for date and number columns."));
+    explanation->setWordWrap(true);
+
+    auto* column = new QVBoxLayout;
+    column->addWidget(caption);
+    column->addWidget(fieldTxt_);
+    column->addWidget(makeTypes());
+    column->addLayout(buttons);
+    column->addSpacing(em() / 2);
+    column->addWidget(explanation);
+    column->addStretch(1);
+    return column;
+}
+
+QLayout* designFrmView::makeRightSide() {
+    auto* caption = new QLabel(tr("Current Columns:"));
+    caption->setBuddy(List1_);
+    List1_->setHeaderLabels({tr("Column Name"), tr("Type"), tr("Auto-Date"), tr("Auto-Serial")});
+    useListLook(*List1_);
+    QHeaderView* header = List1_->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+    for (const int section : {1, 2, 3})
+        header->resizeSection(section, section == 1 ? em() * 6 : em() * 11 / 2);
+    List1_->setMinimumWidth(em() * 22);
+    List1_->installEventFilter(this);
+    connect(List1_, &QTreeWidget::itemSelectionChanged, this, [this] {
+        const QList<QTreeWidgetItem*> chosen = List1_->selectedItems();
+        on([&] {
+            form_.selectedRow = chosen.isEmpty() ? -1 : List1_->indexOfTopLevelItem(chosen.constFirst());
+        });
+    });
+    connect(List1_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
+        on([&] { form_.List1_DblClick(List1_->indexOfTopLevelItem(item)); });
+    });
+    auto* column = new QVBoxLayout;
+    column->addWidget(caption);
+    column->addWidget(List1_, 1);
+    return column;
+}
+
+// Enter on a row is the keyboard's double click.
+bool designFrmView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == List1_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            on([this] { form_.List1_DblClick(form_.selectedRow); });
+            return true;
+        }
+    }
+    return FormView::eventFilter(watched, event);
+}
+
+void designFrmView::showRows() {
+    const int count = static_cast<int>(form_.List1.size());
+    const bool grows = List1_->topLevelItemCount() < count;
+    while (List1_->topLevelItemCount() > count) delete List1_->takeTopLevelItem(count);
+    while (List1_->topLevelItemCount() < count) List1_->addTopLevelItem(new QTreeWidgetItem);
+    for (int row = 0; row < count; ++row) {
+        const calc::designFrm::Row& shown = form_.List1[static_cast<std::size_t>(row)];
+        QTreeWidgetItem* item = List1_->topLevelItem(row);
+        const std::array<const std::string*, 4> texts = {&shown.Name, &shown.Type, &shown.AutoDate,
+                                                         &shown.AutoSerial};
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            const int section = static_cast<int>(i);
+            item->setText(section, toQt(*texts[i]));
+            // What cannot be set for the column steps back.
+            item->setData(section, Qt::ForegroundRole,
+                          *texts[i] == "NA" && section >= 2
+                              ? QVariant(palette().brush(QPalette::Disabled, QPalette::Text))
+                              : QVariant());
+        }
+    }
+    List1_->setCurrentItem(List1_->topLevelItem(form_.selectedRow));
+    if (grows) List1_->scrollToItem(List1_->topLevelItem(count - 1));
+}
+
+void designFrmView::showMembers() {
+    const QString name = toQt(form_.fieldTxt);
+    if (fieldTxt_->text() != name) fieldTxt_->setText(name);
+    for (std::size_t i = 0; i < typeOpt_.size(); ++i)
+        typeOpt_[i]->setChecked(static_cast<int>(i) == form_.typeOpt);
+    typeOpt_.back()->setVisible(form_.pictureVisible);
+    showRows();
+    if (!form_.fieldTxtHasFocus) return;
+    form_.fieldTxtHasFocus = false;
+    fieldTxt_->setFocus();
+}
+
+} // namespace gui

@@ -1,0 +1,45 @@
+#include "gui/dialogs/forms.h"
+
+#include "gui/dialogs/TotalsFrmView.h"
+#include "gui/dialogs/databaseTypeFrmView.h"
+#include "gui/dialogs/designFrmView.h"
+#include "gui/dialogs/disclaimFrmView.h"
+#include "gui/dialogs/entryFrmView.h"
+#include "gui/dialogs/formulateFrmView.h"
+#include "gui/dialogs/layoutPageSetupFrmView.h"
+#include "gui/dialogs/mailFrmView.h"
+#include "gui/dialogs/repeatFrmView.h"
+#include "gui/dialogs/replaceFrmView.h"
+#include "gui/dialogs/reportPageSetupView.h"
+#include "gui/dialogs/searchFrmView.h"
+#include "gui/dialogs/serialFrmView.h"
+
+namespace gui {
+
+namespace {
+
+// A form is made anew for each show. What its loading raises goes to the handler that asked for it.
+template <typename View>
+QtPlatform::FormFactory shown(app::App& app, EventBoundary& events) {
+    return [&app, &events](QWidget* owner) { View(app, events, owner).showModal(); };
+}
+
+} // namespace
+
+void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
+    platform.registerForm("disclaimFrm", [](QWidget* owner) { disclaimFrmView(owner).exec(); });
+    platform.registerForm("databaseTypeFrm", shown<databaseTypeFrmView>(app, events));
+    platform.registerForm("designFrm", shown<designFrmView>(app, events));
+    platform.registerForm("entryFrm", shown<entryFrmView>(app, events));
+    platform.registerForm("formulateFrm", shown<formulateFrmView>(app, events));
+    platform.registerForm("TotalsFrm", shown<TotalsFrmView>(app, events));
+    platform.registerForm("reportPageSetup", shown<reportPageSetupView>(app, events));
+    platform.registerForm("layoutPageSetupFrm", shown<layoutPageSetupFrmView>(app, events));
+    platform.registerForm("mailFrm", shown<mailFrmView>(app, events));
+    platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
+    platform.registerForm("replaceFrm", [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
+    platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });
+    platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
+}
+
+} // namespace gui

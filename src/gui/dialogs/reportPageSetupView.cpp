@@ -1,0 +1,80 @@
+#include "gui/dialogs/reportPageSetupView.h"
+
+#include "gui/dialogs/pageSetupFrames.h"
+#include "gui/records/listLook.h"
+#include "gui/widgets/qtText.h"
+
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace gui {
+
+reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, QWidget* parent)
+    : FormView(events, "reportPageSetup", tr("Report Page Setup"), parent), form_(app),
+      LV3_(makeColumnList()), allChk_(named("allChk", new QCheckBox(tr("A&ll")))) {
+    auto* columns = new QGroupBox(tr(" Columns To Print "));
+    auto* choice = new QVBoxLayout(columns);
+    choice->addWidget(LV3_);
+    choice->addWidget(allChk_);
+    connect(allChk_, &QCheckBox::clicked, this,
+            [this](bool checked) { on([&] { form_.allChk_Click(checked); }); });
+    auto* title = new QGroupBox(tr(" Report Title "));
+    (new QVBoxLayout(title))->addWidget(boundEdit("titleTxt", form_.titleTxt));
+
+    auto* ok = makeButton("Command1", tr("&Ok"), [this] { form_.Command1_Click(); });
+    auto* apply = makeButton("ApplyBtn", tr("&Apply"), [this] { form_.ApplyBtn_Click(); });
+    auto* cancel = makeButton("Command2", tr("&Cancel"), [this] { form_.Command2_Click(); });
+    ok->setDefault(true);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(ok, QDialogButtonBox::AcceptRole);
+    buttons->addButton(apply, QDialogButtonBox::ApplyRole);
+    buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+
+    auto* right = new QVBoxLayout;
+    right->addWidget(title);
+    right->addWidget(makeOptionsFrame(tr(" Bold Headers "), "boldYesOpt", tr("Yes"), "boldNoOpt", tr("No"),
+                                      form_.boldYesOpt));
+    right->addWidget(makeOptionsFrame(tr(" Paper Size "), "letterOpt", tr("Letter"), "legalOpt", tr("Legal"),
+                                      form_.letterOpt));
+    right->addWidget(makeOptionsFrame(tr(" Orientation "), "PortraitOpt", tr("Portrait"), "LandscapeOpt",
+                                      tr("Landscape"), form_.PortraitOpt));
+    right->addWidget(makeMarginsFrame(form_.leftTxt, form_.rightTxt, form_.TopTxt, form_.bottomTxt), 1);
+    auto* sides = new QHBoxLayout;
+    sides->addWidget(columns, 1);
+    sides->addLayout(right, 1);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(sides, 1);
+    column->addWidget(buttons);
+    LV3_->setFocus();
+    resize(em() * 32, sizeHint().height());
+}
+
+QTreeWidget* reportPageSetupView::makeColumnList() {
+    auto* list = named("LV3", new QTreeWidget);
+    list->setHeaderLabels({tr("Columns To Print")});
+    useListLook(*list);
+    for (const auto& row : form_.LV3) {
+        auto* item = new QTreeWidgetItem(list, {toQt(row.Text)});
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
+                       Qt::ItemNeverHasChildren);
+        item->setCheckState(0, row.Checked ? Qt::Checked : Qt::Unchecked);
+    }
+    list->setCurrentItem(list->topLevelItem(0));
+    connect(list, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
+        on([&] {
+            form_.LV3[static_cast<std::size_t>(LV3_->indexOfTopLevelItem(item))].Checked =
+                item->checkState(0) == Qt::Checked;
+        });
+    });
+    return list;
+}
+
+void reportPageSetupView::showMembers() {
+    allChk_->setChecked(form_.allChk());
+    for (std::size_t row = 0; row < form_.LV3.size(); ++row)
+        LV3_->topLevelItem(static_cast<int>(row))
+            ->setCheckState(0, form_.LV3[row].Checked ? Qt::Checked : Qt::Unchecked);
+}
+
+} // namespace gui

@@ -1,0 +1,151 @@
+#include "gui/frame/commandActions.h"
+
+#include "gui/widgets/icon.h"
+#include "gui/widgets/qtText.h"
+#include "shell/commands.h"
+
+#include <QFontMetrics>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <array>
+
+namespace gui {
+
+namespace {
+
+struct Shortcut {
+    std::string_view key;    // the command that has it
+    std::string_view button; // the button that does the same, whose tip names it
+    QKeySequence keys;
+};
+
+const std::vector<Shortcut>& shortcuts() {
+    static const std::vector<Shortcut> all = {
+        {"mnuNew", "New", QKeySequence(Qt::CTRL | Qt::Key_N)},
+        {"mnuOpen", "Open", QKeySequence(Qt::CTRL | Qt::Key_O)},
+        {"mnuSave", "Save", QKeySequence(Qt::CTRL | Qt::Key_S)},
+        {"mnuSaveAs", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
+        {"mnuPrint", "Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
+        {"mnuSearch", "Search", QKeySequence(Qt::CTRL | Qt::Key_F)},
+        {"Design", "Design", QKeySequence(Qt::CTRL | Qt::Key_L)},
+        {"mnuExit", "", QKeySequence(Qt::CTRL | Qt::Key_Q)},
+        {"mnuContents", "Help", QKeySequence(Qt::Key_F1)},
+        {"Delete", "Delete", QKeySequence(Qt::Key_Delete)},
+    };
+    return all;
+}
+
+QKeySequence shortcutOfButton(std::string_view key) {
+    for (const Shortcut& shortcut : shortcuts())
+        if (shortcut.button == key) return shortcut.keys;
+    return {};
+}
+
+constexpr std::array<std::string_view, 3> recentKeys = {"mnuFile1", "mnuFile2", "mnuFile3"};
+constexpr int toolbarIconSize = 24;
+constexpr std::string_view separator = "-";
+
+} // namespace
+
+CommandActions::CommandActions(app::App& app, EventBoundary& events, QObject* parent)
+    : QObject(parent), app_(app), events_(events) {
+    const auto addAll = [this](const auto& keys) {
+        for (const std::string_view key : keys)
+            if (key != separator && !actions_.contains(key)) add(key);
+    };
+    for (const shell::Menu& menu : shell::menuBar()) addAll(menu.items);
+    addAll(shell::toolbarKeys());
+    for (const std::string_view button : shell::toolbarKeys()) addAll(shell::buttonMenuKeys(button));
+    for (const Shortcut& shortcut : shortcuts()) action(shortcut.key)->setShortcut(shortcut.keys);
+}
+
+QAction* CommandActions::add(std::string_view key) {
+    const shell::Command& command = shell::command(key);
+    auto* action = new QAction(familyIcon(toQt(command.icon)), toQt(command.caption), this);
+    action->setObjectName(toQt(key));
+    action->setCheckable(command.checkable);
+    // Only the Exit of the menu ends the program; Qt would else guess from the captions.
+    action->setMenuRole(QAction::NoRole);
+    if (!command.tip.empty()) {
+        const QString keys = shortcutOfButton(key).toString(QKeySequence::NativeText);
+        action->setToolTip(keys.isEmpty() ? toQt(command.tip)
+                                          : QStringLiteral("%1 (%2)").arg(toQt(command.tip), keys));
+    }
+    connect(action, &QAction::triggered, this,
+            [this, name = std::string(key)] { events_.run([&] { shell::runCommand(app_, name); }); });
+    actions_.emplace(key, action);
+    return action;
+}
+
+QAction* CommandActions::action(std::string_view key) const {
+    return actions_.find(key)->second;
+}
+
+void CommandActions::fill(QMenu& menu, const std::vector<std::string_view>& keys) {
+    for (const std::string_view key : keys) {
+        if (key == separator)
+            menu.addSeparator();
+        else
+            menu.addAction(action(key));
+    }
+}
+
+void CommandActions::addMenuBar(QMainWindow& window) {
+    for (const shell::Menu& menu : shell::menuBar()) {
+        QMenu* shown = window.menuBar()->addMenu(toQt(menu.caption));
+        shown->setObjectName(toQt(menu.key));
+        fill(*shown, menu.items);
+        menus_.emplace(menu.key, shown);
+    }
+}
+
+void CommandActions::addToolbar(QMainWindow& window) {
+    QToolBar* bar = window.addToolBar(tr("Toolbar"));
+    bar->setObjectName(QStringLiteral("Toolbar"));
+    bar->setIconSize({toolbarIconSize, toolbarIconSize});
+    bar->setMovable(false);
+    // There is no other way to bring it back.
+    bar->toggleViewAction()->setVisible(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    for (const std::string_view key : shell::toolbarKeys()) {
+        if (key == separator) {
+            bar->addSeparator();
+            continue;
+        }
+        bar->addAction(action(key));
+        auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action(key)));
+        const auto entries = shell::buttonMenuKeys(key);
+        if (entries.empty()) continue;
+        auto* menu = new QMenu(bar);
+        menu->setObjectName(toQt(key) + QStringLiteral("Menu"));
+        fill(*menu, {entries.begin(), entries.end()});
+        button->setMenu(menu);
+        button->setPopupMode(QToolButton::MenuButtonPopup);
+    }
+}
+
+void CommandActions::showRecentFile(QAction& action, int number, const std::string& path) {
+    constexpr int longestPath = 60; // characters of the menu's font
+    const QFontMetrics metrics(action.font());
+    const QString shown =
+        metrics.elidedText(toQt(path), Qt::ElideMiddle, longestPath * metrics.averageCharWidth());
+    action.setText(QStringLiteral("&%1  %2").arg(QString::number(number), withoutMnemonics(shown)));
+    action.setToolTip(toQt(path));
+    action.setData(toQt(path));
+    action.setVisible(!path.empty());
+}
+
+void CommandActions::refresh() {
+    int number = 0;
+    for (const std::string_view key : recentKeys)
+        showRecentFile(*action(key), ++number, app_.mainFrm.control(key).Caption);
+    for (const auto& [key, action] : actions_) {
+        action->setEnabled(shell::isCommandEnabled(app_, key));
+        if (action->isCheckable()) action->setChecked(app_.mainFrm.control(key).Value);
+    }
+    for (const auto& [key, menu] : menus_) menu->menuAction()->setEnabled(app_.mainFrm.control(key).Enabled);
+}
+
+} // namespace gui

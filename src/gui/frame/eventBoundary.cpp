@@ -1,0 +1,43 @@
+#include "gui/frame/eventBoundary.h"
+
+#include "core/runTimeError.h"
+#include "storage/recovery.h"
+
+#include <cstdlib>
+#include <new>
+#include <optional>
+
+namespace gui {
+
+EventBoundary::EventBoundary(app::App& app, std::function<void()> refresh)
+    : endProgram([] { std::_Exit(EXIT_FAILURE); }), app_(app), refresh_(std::move(refresh)) {}
+
+void EventBoundary::run(const std::function<void()>& handler) {
+    try {
+        handler();
+        refresh_();
+    } catch (const core::RunTimeError& error) {
+        fail("Error " + std::to_string(error.number) + ": " + error.what());
+    } catch (const std::bad_alloc&) {
+        fail("There is not enough memory.");
+    } catch (const std::exception& error) {
+        fail(error.what());
+    }
+}
+
+void EventBoundary::fail(const std::string& what) {
+    const std::optional<std::string> copy = storage::keepRecoveryCopy(app_);
+    try {
+        std::string text = std::string(app::title) + " has met an error and has to end.\n\n" + what;
+        if (copy)
+            text += "\n\nA copy of your database with all changes is kept in\n" + *copy;
+        else if (!app_.document.currentFile.empty())
+            text += "\n\nNo copy of your database could be kept. The file is as you last saved it.";
+        app_.platform.msgBox(text, platform::Icon::Critical, app::title);
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): the copy is kept, and nothing else can
+                                      // be done
+    }
+    endProgram();
+}
+
+} // namespace gui

@@ -1,0 +1,135 @@
+#include "gui/frame/mainFrmView.h"
+
+#include "gui/dialogs/dialogFit.h"
+#include "gui/dialogs/forms.h"
+#include "gui/frame/paneKeys.h"
+#include "gui/widgets/icon.h"
+#include "gui/widgets/qtText.h"
+#include "shell/mainWindow.h"
+#include "shell/menuCommands.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QTabBar>
+
+#include <array>
+
+namespace gui {
+
+namespace {
+
+constexpr QSize firstSize(1100, 720);
+
+// The one database among what is dragged over the window.
+QString droppedDatabase(const QMimeData* data) {
+    const QList<QUrl> urls = data->urls();
+    if (urls.size() != 1 || !urls.constFirst().isLocalFile()) return {};
+    const QString path = urls.constFirst().toLocalFile();
+    return path.endsWith(QLatin1String(".fwk"), Qt::CaseInsensitive) ? path : QString();
+}
+
+} // namespace
+
+MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
+    : QMainWindow(parent), app_(app), platform_(platform), events_(app, [this] { refresh(); }),
+      actions_(new CommandActions(app, events_, this)), tabs_(new QTabWidget),
+      report_(new ReportPage(app, events_, *actions_)), layout_(new LayoutPageView(app, events_)),
+      preview_(new PreviewView(app, events_)), status_(new StatusPanels(app)) {
+    setObjectName(QStringLiteral("MainFrm"));
+    setWindowIcon(programIcon());
+    setAcceptDrops(true);
+    actions_->addMenuBar(*this);
+    actions_->addToolbar(*this);
+    makeTabs();
+    new PaneKeys(*this, *tabs_, [this] {
+        const int tab = tabs_->currentIndex();
+        return tab == app::layoutTab    ? layout_->keyHolder()
+               : tab == app::previewTab ? preview_->keyHolder()
+                                        : report_->keyHolder();
+    });
+    setStatusBar(status_);
+    resize(firstSize);
+    restoreGeometry(platform_.windowGeometry());
+    if (!isMaximized())
+        resize(size().boundedTo(roomOnScreen(*this))); // it may have been another screen, or another scale
+
+    platform_.attach({this, [this] { refresh(); },
+                      [this] {
+                          status_->refresh();
+                          status_->repaint();
+                      },
+                      [this] { return app_.document.currentFile; }});
+    registerForms(platform_, app_, events_);
+}
+
+MainFrmView::~MainFrmView() {
+    platform_.attach({});
+}
+
+void MainFrmView::makeTabs() {
+    tabs_->setObjectName(QStringLiteral("SSTab1"));
+    tabs_->setAccessibleName(tr("Pages"));
+    tabs_->setDocumentMode(true);
+    tabs_->addTab(report_, tr("Report"));
+    tabs_->addTab(layout_, tr("Layout"));
+    tabs_->addTab(preview_, tr("Print Preview"));
+    layout_->takeKeysOf(*tabs_->tabBar());
+    connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+        if (!refreshing_) events_.run([&] { shell::SSTab1_Click(app_, tab); });
+    });
+    setCentralWidget(tabs_);
+}
+
+void MainFrmView::load(const std::string& Command) {
+    events_.run([&] {
+        shell::Form_Load(app_, Command, [this] {
+            refresh();
+            show();
+        });
+    });
+}
+
+void MainFrmView::refresh() {
+    if (refreshing_) return;
+    const QScopedValueRollback guard(refreshing_, true);
+    setWindowTitle(toQt(app_.mainFrm.Caption));
+    actions_->refresh();
+    tabs_->tabBar()->setEnabled(app_.mainFrm.SSTab1Enabled);
+    tabs_->setCurrentIndex(app_.mainFrm.SSTab1);
+    // Each of them when it comes into view: while an invoice is typed the list behind it is built over and
+    // over again.
+    if (app_.mainFrm.SSTab1 == app::reportTab) report_->refresh();
+    if (app_.mainFrm.SSTab1 == app::layoutTab) layout_->refresh();
+    if (app_.mainFrm.SSTab1 == app::previewTab) preview_->refresh();
+    status_->refresh();
+    if (app_.mainFrm.unloaded) close();
+}
+
+// Whichever way the window is closed: the menu's Exit has done the handler's part already.
+void MainFrmView::closeEvent(QCloseEvent* event) {
+    if (!app_.mainFrm.unloaded) events_.run([&] { shell::Form_QueryUnload(app_); });
+    platform_.saveWindowGeometry(saveGeometry());
+    event->accept();
+    emit closed();
+}
+
+void MainFrmView::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // The date in the status bar may have become another one.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) status_->refresh();
+}
+
+void MainFrmView::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedDatabase(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainFrmView::dropEvent(QDropEvent* event) {
+    const QString path = droppedDatabase(event->mimeData());
+    if (path.isEmpty()) return;
+    event->acceptProposedAction();
+    events_.run([&] { shell::openNamedFile(app_, fromQt(path)); });
+}
+
+} // namespace gui

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/app.h"
+#include "gui/frame/commandActions.h"
+#include "gui/frame/eventBoundary.h"
+#include "gui/frame/statusPanels.h"
+#include "gui/layout/layoutPageView.h"
+#include "gui/machine/qtPlatform.h"
+#include "gui/print/previewView.h"
+#include "gui/print/reportPage.h"
+
+#include <QMainWindow>
+#include <QTabWidget>
+
+namespace gui {
+
+// The main window: a frame of menus, toolbar, tabs and status bar around the pages.
+class MainFrmView : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent = nullptr);
+    ~MainFrmView() override;
+
+    // Shows the state of the window as it is now.
+    void refresh();
+    EventBoundary& events() { return events_; }
+
+    // Starts the program: Command is what the command line says, see shell::Form_Load.
+    void load(const std::string& Command);
+
+signals:
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void makeTabs();
+
+    app::App& app_;
+    QtPlatform& platform_;
+    EventBoundary events_;
+    CommandActions* actions_;
+    QTabWidget* tabs_;
+    ReportPage* report_;
+    LayoutPageView* layout_;
+    PreviewView* preview_;
+    StatusPanels* status_;
+    bool refreshing_ = false;
+};
+
+} // namespace gui

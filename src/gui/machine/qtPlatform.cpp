@@ -1,0 +1,260 @@
+#include "gui/machine/qtPlatform.h"
+
+#include "core/runTimeError.h"
+#include "gui/dialogs/dialogFit.h"
+#include "gui/dialogs/fontDialog.h"
+#include "gui/dialogs/formView.h"
+#include "gui/machine/mailProgram.h"
+#include "gui/machine/messageBox.h"
+#include "gui/widgets/modalScope.h"
+#include "gui/widgets/qtText.h"
+#include "qtprint/pictureFile.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDate>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QImage>
+#include <QInputDialog>
+#include <QMimeData>
+#include <QPainter>
+#include <QStandardPaths>
+#include <QTreeView>
+#include <QUrl>
+
+namespace gui {
+
+namespace {
+
+constexpr std::string_view logicSection = "StartUp";
+constexpr std::string_view windowSection = "Window";
+constexpr std::string_view geometryKey = "Geometry";
+
+// The file dialog that Qt draws itself comes so narrow that sizes and dates are cut.
+void giveRoom(QFileDialog& dialog) {
+    auto* details = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (details == nullptr) return; // the desktop's own dialog
+    details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    details->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    const int em = dialog.fontMetrics().height();
+    dialog.resize(QSize(em * 50, em * 30).boundedTo(roomOnScreen(dialog)));
+}
+
+// Neither bitmaps nor JPEGs have transparency; what shines through is the paper.
+QImage onPaper(const QImage& image) {
+    if (!image.hasAlphaChannel()) return image;
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, image);
+    return opaque;
+}
+
+// False when there is no program for it.
+bool openTarget(const std::string& target) {
+    const QString link = toQt(target);
+    const QFileInfo file(link);
+    if (file.isAbsolute() && file.exists()) return QDesktopServices::openUrl(QUrl::fromLocalFile(link));
+    const QUrl url(link, QUrl::TolerantMode);
+    // Neither the folder that the program was started in nor an option of the opening program may be meant.
+    return QDesktopServices::openUrl(url.isRelative() ? QUrl::fromLocalFile(QDir::root().filePath(link))
+                                                      : url);
+}
+
+} // namespace
+
+QtPlatform::QtPlatform(platform::WorkFolder folder, platform::SettingsFile settings)
+    : workFolder_(std::move(folder)), settings_(std::move(settings)) {}
+
+QByteArray QtPlatform::windowGeometry() const {
+    return QByteArray::fromBase64(
+        QByteArray::fromStdString(settings_.GetSetting(windowSection, geometryKey)));
+}
+
+void QtPlatform::saveWindowGeometry(const QByteArray& geometry) {
+    settings_.SaveSetting(windowSection, geometryKey, geometry.toBase64().toStdString());
+    settings_.flush();
+}
+
+QWidget* QtPlatform::dialogParent() const {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : window_.widget.data();
+}
+
+platform::Answer QtPlatform::msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
+                                    platform::Buttons buttons) {
+    const ModalScope scope(*this);
+    MessageBox box(dialogParent(), text, icon, caption, buttons);
+    return box.ask();
+}
+
+std::string QtPlatform::inputBox(const std::string& prompt, const std::string& title,
+                                 const std::string& proposed) {
+    const ModalScope scope(*this);
+    QInputDialog dialog(dialogParent());
+    dialog.setObjectName(QStringLiteral("inputBox"));
+    dialog.setInputMode(QInputDialog::TextInput);
+    dialog.setLabelText(toQt(prompt));
+    dialog.setWindowTitle(toQt(title));
+    dialog.setTextValue(toQt(proposed));
+    fitDialog(dialog);
+    return dialog.exec() == QDialog::Accepted ? fromQt(dialog.textValue()) : std::string();
+}
+
+QString QtPlatform::startFolder() const {
+    const std::string current = window_.currentFile ? window_.currentFile() : std::string();
+    if (!current.empty()) {
+        const QFileInfo folder(QFileInfo(toQt(current)).absolutePath());
+        if (folder.isDir()) return folder.filePath();
+    }
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+std::optional<std::string> QtPlatform::showOpen(const platform::FileDialog& dialog) {
+    const ModalScope scope(*this);
+    QFileDialog files(dialogParent(), toQt(dialog.title), startFolder());
+    files.setObjectName(QStringLiteral("CDialog"));
+    giveRoom(files);
+    // A name that is not there comes back too: what to say about it is for the handler.
+    files.setFileMode(QFileDialog::AnyFile);
+    files.setAcceptMode(QFileDialog::AcceptOpen);
+    files.setNameFilters(nameFilters(dialog.filter));
+    if (!dialog.fileName.empty()) files.selectFile(toQt(dialog.fileName));
+    if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty()) return std::nullopt;
+    const QString path = files.selectedFiles().constFirst();
+    return fromQt(QFileInfo::exists(path) ? path : withSuffix(path, dialog.filter));
+}
+
+std::optional<std::string> QtPlatform::askForNewName(const platform::FileDialog& dialog,
+                                                     const QString& acceptLabel) {
+    const ModalScope scope(*this);
+    QFileDialog files(dialogParent(), toQt(dialog.title), startFolder());
+    files.setObjectName(QStringLiteral("CDialog"));
+    giveRoom(files);
+    files.setFileMode(QFileDialog::AnyFile);
+    files.setAcceptMode(QFileDialog::AcceptSave);
+    // The handlers ask before they overwrite, and in their own words.
+    files.setOption(QFileDialog::DontConfirmOverwrite);
+    files.setNameFilters(nameFilters(dialog.filter));
+    if (!acceptLabel.isEmpty()) files.setLabelText(QFileDialog::Accept, acceptLabel);
+    if (!dialog.fileName.empty()) files.selectFile(toQt(dialog.fileName));
+    if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty()) return std::nullopt;
+    return fromQt(withSuffix(files.selectedFiles().constFirst(), dialog.filter));
+}
+
+std::optional<std::string> QtPlatform::showSave(const platform::FileDialog& dialog) {
+    return askForNewName(dialog, {});
+}
+
+std::optional<std::string> QtPlatform::showNew(const platform::FileDialog& dialog) {
+    return askForNewName(dialog, QStringLiteral("&Create"));
+}
+
+void QtPlatform::showForm(std::string_view name) {
+    const auto form = forms_.find(name);
+    if (form == forms_.end()) core::raise(core::errors::elementNotFound, std::string(name));
+    const ModalScope scope(*this);
+    form->second(dialogParent());
+}
+
+void QtPlatform::setMousePointer(platform::MousePointer pointer) {
+    const bool wanted = pointer == platform::MousePointer::Hourglass;
+    if (wanted == hourglass_) return;
+    hourglass_ = wanted;
+    if (wanted)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtPlatform::paintStatus() {
+    if (window_.paintStatus) window_.paintStatus();
+}
+
+void QtPlatform::openLink(const std::string& target) {
+    openTarget(target);
+}
+
+platform::MailStart QtPlatform::sendMail(const platform::MailMessage& message,
+                                         const std::function<void()>& failed) {
+    using platform::MailStart;
+    QObject* const owner = window_.widget != nullptr ? static_cast<QObject*>(window_.widget) : qApp;
+    if (startMailProgram(message, owner, failed)) return MailStart::WithAttachment;
+    return openTarget(platform::mailtoLink(message)) ? MailStart::WithoutAttachment : MailStart::NoProgram;
+}
+
+std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontChoice& present) {
+    const ModalScope scope(*this);
+    FontDialog dialog(present, dialogParent());
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.choice();
+}
+
+std::optional<drawing::Extent> QtPlatform::pictureExtent(const std::filesystem::path& path) {
+    return qtprint::pictureExtent(path);
+}
+
+bool QtPlatform::isPictureTooLarge(const std::filesystem::path& path) {
+    return qtprint::isPictureTooLarge(toQt(path.string()));
+}
+
+bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    if (content == nullptr || content->hasText() || content->hasUrls() || !content->hasImage()) return false;
+    const QImage image = onPaper(QGuiApplication::clipboard()->image());
+    return !image.isNull() && image.save(toQt(path.string()), "BMP");
+}
+
+void QtPlatform::convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
+                               int quality) {
+    const QImage image = onPaper(QImage(toQt(bitmap.string())));
+    if (image.isNull() || !image.save(toQt(jpeg.string()), "JPEG", quality))
+        core::raise(core::errors::pathAccess, jpeg.string());
+}
+
+void QtPlatform::clearWorkFiles() {
+    workFolder_.clearTemp();
+    workFolder_.removeDataFile();
+}
+
+std::string QtPlatform::getSetting(const std::string& key, const std::string& byDefault) {
+    return settings_.GetSetting(logicSection, key, byDefault);
+}
+
+void QtPlatform::saveSetting(const std::string& key, const std::string& value) {
+    settings_.SaveSetting(logicSection, key, value);
+}
+
+std::chrono::year_month_day QtPlatform::today() {
+    const QDate day = QDate::currentDate();
+    return std::chrono::year(day.year()) / day.month() / day.day();
+}
+
+QStringList nameFilters(std::string_view filter) {
+    QStringList filters;
+    const QStringList parts = toQt(filter).split(QLatin1Char('|'));
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+        // On this system a file without a dot in its name is a file as well.
+        const QString patterns = parts[i + 1] == QLatin1String("*.*")
+                                     ? QStringLiteral("*")
+                                     : QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
+        filters << QStringLiteral("%1 (%2)").arg(name, patterns);
+    }
+    return filters;
+}
+
+QString withSuffix(const QString& path, std::string_view filter) {
+    const QString pattern = toQt(filter).section(QLatin1Char('|'), 1, 1).section(QLatin1Char(';'), 0, 0);
+    if (!QFileInfo(path).suffix().isEmpty() || !pattern.startsWith(QLatin1String("*.")) || path.isEmpty())
+        return path;
+    const QString suffix = pattern.mid(1);
+    if (suffix == QLatin1String(".*")) return path;
+    return path.endsWith(QLatin1Char('.')) ? path.chopped(1) + suffix : path + suffix;
+}
+
+} // namespace gui

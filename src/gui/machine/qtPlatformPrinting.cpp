@@ -1,0 +1,63 @@
+#include "core/runTimeError.h"
+#include "gui/machine/qtPlatform.h"
+#include "gui/widgets/modalScope.h"
+#include "gui/widgets/qtText.h"
+#include "qtprint/pdfFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <filesystem>
+
+// What a print asks of the window's machine.
+
+namespace gui {
+
+std::vector<platform::PaperName> QtPlatform::printerPapers() {
+    return printer_.isPdf() ? Platform::printerPapers() : printer_.papers();
+}
+
+std::optional<platform::PrintChoice> QtPlatform::showPrinterDialog(const platform::PrintChoice& present) {
+    const ModalScope scope(*this);
+    const QString current = window_.currentFile ? toQt(window_.currentFile()) : QString();
+    const QString name = QFileInfo(current).completeBaseName() + QStringLiteral(".pdf");
+    return printer_.showDialog(present, QDir(startFolder()).filePath(name), dialogParent());
+}
+
+// The name that the dialog was given has been asked about there. Neither may be another name of the open
+// database, which the print would take the place of.
+std::optional<std::string> QtPlatform::askForPdfFile(const std::string& documentName) {
+    const QString named = printer_.takeFileName();
+    std::optional<std::string> file;
+    if (named.isEmpty())
+        file =
+            showSave({"Print to PDF", documentName + ".pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*"});
+    else
+        file = fromQt(named);
+    std::error_code none;
+    if (file && window_.currentFile && std::filesystem::equivalent(*file, window_.currentFile(), none)) {
+        msgBox(*file + " is the open database, and cannot be printed into.", platform::Icon::Exclamation,
+               "Print to PDF", platform::Buttons::Ok);
+        return std::nullopt;
+    }
+    if (named.isEmpty() && file && QFileInfo::exists(toQt(*file)) &&
+        msgBox("A file with that name exists. Overwrite it?", platform::Icon::Question, "Print to PDF",
+               platform::Buttons::YesNo) == platform::Answer::No)
+        return std::nullopt;
+    return file;
+}
+
+std::unique_ptr<drawing::DrawTarget> QtPlatform::openPrinter(const std::string& documentName) {
+    if (!printer_.isPdf()) return printer_.open(documentName, textMetrics_);
+    const std::optional<std::string> file = askForPdfFile(documentName);
+    if (!file) return nullptr;
+    try {
+        return qtprint::openPdfFile(*file, documentName, textMetrics_);
+    } catch (const core::RunTimeError& error) {
+        msgBox(*file + " could not be written.\n" + error.what(), platform::Icon::Exclamation,
+               "Print to PDF");
+        return nullptr;
+    }
+}
+
+} // namespace gui

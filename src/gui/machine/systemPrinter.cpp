@@ -1,0 +1,111 @@
+#include "gui/machine/systemPrinter.h"
+
+#include "drawing/papers.h"
+#include "gui/widgets/qtText.h"
+#include "qtprint/paperTarget.h"
+
+#include <QDir>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+
+#include <set>
+#include <utility>
+
+namespace gui {
+
+namespace {
+
+// A printer takes its own paper rather than one of the same size, so that it finds the tray.
+class PrinterTarget : public qtprint::PaperTarget {
+public:
+    PrinterTarget(QPrinter& printer, drawing::TextMetrics& metrics)
+        : PaperTarget(printer, metrics, Jobs::EachByItself), printer_(printer) {}
+    ~PrinterTarget() override { close(); }
+
+protected:
+    void choosePaper(const drawing::PageSetup& setup) override {
+        const QPageSize::PageSizeId id = QPageSize::id(setup.PaperSize);
+        printer_.setFullPage(true);
+        printer_.setColorMode(QPrinter::Color);
+        if (setup.PaperSize == drawing::customPaperCode || id == QPageSize::Custom) {
+            PaperTarget::choosePaper(setup);
+            return;
+        }
+        QPageLayout layout(QPageSize(id),
+                           setup.Orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait, {});
+        layout.setMode(QPageLayout::FullPageMode);
+        printer_.setPageLayout(layout);
+    }
+
+private:
+    QPrinter& printer_;
+};
+
+} // namespace
+
+QPrinter& SystemPrinter::printer() {
+    if (printer_) return *printer_;
+    QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    const QStringList names = info.isNull() ? QPrinterInfo::availablePrinterNames() : QStringList();
+    if (!names.isEmpty()) info = QPrinterInfo::printerInfo(names.constFirst());
+    printer_ = info.isNull() ? std::make_unique<QPrinter>(QPrinter::HighResolution)
+                             : std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+    if (info.isNull()) printer_->setOutputFormat(QPrinter::PdfFormat);
+    return *printer_;
+}
+
+bool SystemPrinter::isPdf() {
+    return printer().outputFormat() == QPrinter::PdfFormat;
+}
+
+std::string SystemPrinter::deviceName() {
+    return isPdf() ? "Print to PDF" : fromQt(printer().printerName());
+}
+
+std::vector<platform::PaperName> SystemPrinter::papers() {
+    const QPrinterInfo info = QPrinterInfo::printerInfo(printer().printerName());
+    std::vector<platform::PaperName> papers;
+    std::set<QString> names;
+    for (const QPageSize& size : info.supportedPageSizes()) {
+        const int code = size.windowsId();
+        // Those without a code could not be kept in the database.
+        if (code > 0 && drawing::findPaper(code) != nullptr && names.insert(size.name()).second)
+            papers.push_back({fromQt(size.name()), code});
+    }
+    if (info.supportsCustomPageSizes()) papers.push_back({"Custom", drawing::customPaperCode});
+    return papers;
+}
+
+std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::PrintChoice& present,
+                                                               const QString& pdfFile, QWidget* parent) {
+    QPrinter& chosen = printer();
+    if (isPdf()) chosen.setOutputFileName(pdfFile);
+    chosen.setPageSize(QPageSize(QPageSize::id(present.PaperSize)));
+    chosen.setPageOrientation(present.Orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPrintDialog dialog(&chosen, parent);
+    dialog.setObjectName(QStringLiteral("printDialog"));
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
+                      QAbstractPrintDialog::PrintCollateCopies);
+    // Qt shows its choice of pages also where none is offered.
+    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) pages->hide();
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    if (isPdf()) fileName_ = chosen.outputFileName();
+    platform::PrintChoice choice = present;
+    // A custom size comes back as no paper of a name; then the database keeps what it has.
+    const int code = chosen.pageLayout().pageSize().windowsId();
+    if (present.PaperSize != drawing::customPaperCode && code > 0) choice.PaperSize = code;
+    choice.Orientation = chosen.pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
+    return choice;
+}
+
+QString SystemPrinter::takeFileName() {
+    return std::exchange(fileName_, QString());
+}
+
+std::unique_ptr<drawing::DrawTarget> SystemPrinter::open(const std::string& documentName,
+                                                         drawing::TextMetrics& metrics) {
+    printer().setDocName(toQt(documentName));
+    return std::make_unique<PrinterTarget>(printer(), metrics);
+}
+
+} // namespace gui

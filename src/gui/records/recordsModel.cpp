@@ -1,0 +1,115 @@
+#include "gui/records/recordsModel.h"
+
+#include "gui/widgets/icon.h"
+#include "gui/widgets/palette.h"
+#include "gui/widgets/qtText.h"
+
+#include <QApplication>
+#include <QFont>
+
+namespace gui {
+
+namespace {
+
+int qtAlignment(core::Alignment align) {
+    switch (align) {
+    case core::Alignment::Right:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    case core::Alignment::Centre:
+        return Qt::AlignCenter;
+    case core::Alignment::Left:
+        break;
+    }
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+QColor totalsColour() {
+    // Pure blue cannot be read on a dark ground.
+    if (isDark(QApplication::palette())) return {0x8a, 0xb4, 0xf8};
+    return {core::blue & 0xFF, core::blue >> 8 & 0xFF, core::blue >> 16 & 0xFF};
+}
+
+QFont totalsFont() {
+    QFont font = QApplication::font("QAbstractItemView");
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+RecordsModel::RecordsModel(const core::RecordsList& list, QObject* parent)
+    : QAbstractTableModel(parent), list_(list), columns_(columnsNow()), rows_(list.count()),
+      arrangement_(list.arrangement()) {}
+
+std::vector<RecordsModel::Shown> RecordsModel::columnsNow() const {
+    std::vector<Shown> shown;
+    for (const core::Column& column : list_.columns)
+        if (column.Index > 1) shown.push_back({column.Text, column.Icon, column.align});
+    return shown;
+}
+
+bool RecordsModel::isStale() const {
+    return arrangement_ != list_.arrangement() || rows_ != list_.count() || columns_ != columnsNow();
+}
+
+void RecordsModel::reload() {
+    beginResetModel();
+    columns_ = columnsNow();
+    rows_ = list_.count();
+    arrangement_ = list_.arrangement();
+    endResetModel();
+}
+
+int RecordsModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+int RecordsModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+}
+
+const core::Item* RecordsModel::item(int row) const {
+    return row >= 0 && row < list_.count() ? &list_.at(row + 1) : nullptr;
+}
+
+QVariant RecordsModel::data(const QModelIndex& index, int role) const {
+    const auto section = static_cast<std::size_t>(index.column());
+    if (!index.isValid() || section >= columns_.size()) return {};
+    switch (role) {
+    case Qt::DisplayRole: {
+        const core::Item* row = item(index.row());
+        if (row == nullptr || section >= row->cells.size()) return {};
+        return toQt(row->cells[section].view());
+    }
+    case Qt::TextAlignmentRole:
+        return qtAlignment(columns_[section].align);
+    case Qt::ToolTipRole:
+        return toQt(columns_[section].text);
+    case Qt::ForegroundRole:
+    case Qt::FontRole: {
+        const core::Item* row = item(index.row());
+        if (row == nullptr || !row->isTotals()) return {};
+        return role == Qt::FontRole ? QVariant(totalsFont()) : QVariant(totalsColour());
+    }
+    default:
+        return {};
+    }
+}
+
+QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+    const Shown& column = columns_[static_cast<std::size_t>(section)];
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return toQt(column.text);
+    case Qt::TextAlignmentRole:
+        return qtAlignment(column.align);
+    case Qt::DecorationRole:
+        return column.icon == "Picture" ? QVariant(familyIcon(QStringLiteral("picture"))) : QVariant();
+    default:
+        return {};
+    }
+}
+
+} // namespace gui

@@ -1,0 +1,258 @@
+#include "gui/records/recordsView.h"
+
+#include "gui/records/listLook.h"
+#include "gui/records/recordsHeader.h"
+#include "gui/widgets/qtText.h"
+#include "shell/listEvents.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+namespace gui {
+
+namespace {
+
+constexpr int twipsPerInch = 1440;
+
+} // namespace
+
+RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent)
+    : QTreeView(parent), app_(app), list_(list), events_(events), model_(new RecordsModel(list, this)) {
+    setObjectName(toQt(list.Name));
+    setItemsExpandable(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setModel(model_);
+
+    auto* columns = new RecordsHeader(this);
+    setHeader(columns);
+    // A tree takes these from the header that it is given.
+    columns->setFirstSectionMovable(true);
+    columns->setSectionsClickable(true);
+    columns->setSortIndicatorShown(true);
+    useListLook(*this);
+    connect(columns, &QHeaderView::sectionClicked, this, &RecordsView::columnClicked);
+    connect(columns, &QHeaderView::sectionMoved, this,
+            [this](int section, int, int newVisual) { columnMoved(section, newVisual); });
+    connect(columns, &QHeaderView::sectionResized, this,
+            [this](int section, int, int newSize) { columnResized(section, newSize); });
+}
+
+void RecordsView::refresh(app::ListScroll scroll) {
+    const QScopedValueRollback guard(showing_, true);
+    const int offset = horizontalScrollBar()->value();
+    const int top = verticalScrollBar()->value();
+    setSelectionMode(list_.MultiSelect ? ExtendedSelection : SingleSelection);
+    if (model_->isStale()) {
+        model_->reload();
+        showColumns();
+        executeDelayedItemsLayout();
+        verticalScrollBar()->setValue(top);
+        showSelection();
+        horizontalScrollBar()->setValue(offset);
+    } else {
+        showColumns();
+        showSelection();
+        viewport()->update();
+    }
+    // To choose the current row has scrolled to it.
+    if (scroll == app::ListScroll::Stay) verticalScrollBar()->setValue(top);
+    if (scroll == app::ListScroll::ToTop) scrollToTop();
+    showSortArrow();
+}
+
+// --- columns ---
+
+int RecordsView::pixels(float twips) const {
+    return std::max(header()->minimumSectionSize(),
+                    static_cast<int>(std::lround(twips * static_cast<float>(logicalDpiX()) / twipsPerInch)));
+}
+
+std::vector<int> RecordsView::sectionOrder() const {
+    std::vector<int> order;
+    for (const int index : list_.columns.displayOrder())
+        if (index > 1) order.push_back(index - 2);
+    return order;
+}
+
+void RecordsView::showColumns() {
+    QHeaderView* columns = header();
+    int visual = 0;
+    for (const int section : sectionOrder()) {
+        const int place = columns->visualIndex(section);
+        if (place != visual) columns->moveSection(place, visual);
+        ++visual;
+        const int width = pixels(list_.columns.at(RecordsModel::columnIndex(section)).Width);
+        if (columns->sectionSize(section) != width) columns->resizeSection(section, width);
+    }
+}
+
+// Dragging and sizing columns goes into the column table and so into the next save, but it does not
+// make the document a modified one.
+void RecordsView::columnMoved(int section, int newVisual) {
+    if (showing_) return;
+    events_.run([&] {
+        const std::vector<int> before = sectionOrder();
+        const int displaced = RecordsModel::columnIndex(before.at(static_cast<std::size_t>(newVisual)));
+        list_.columns.setPosition(RecordsModel::columnIndex(section), list_.columns.at(displaced).Position);
+    });
+}
+
+void RecordsView::columnResized(int section, int pixels) {
+    if (showing_) return;
+    // No refresh: this comes with every pixel of the drag, and the column is already as wide.
+    list_.columns.at(RecordsModel::columnIndex(section)).Width =
+        static_cast<float>(pixels) * twipsPerInch / static_cast<float>(logicalDpiX());
+}
+
+void RecordsView::columnClicked(int section) {
+    events_.run([&] {
+        const std::uint64_t before = list_.arrangement();
+        shell::list_ColumnClick(app_, list_, RecordsModel::columnIndex(section));
+        if (list_.arrangement() != before) sort_ = {section, list_.arrangement()};
+    });
+}
+
+void RecordsView::showSortArrow() {
+    const bool sorted = sort_ && sort_->arrangement == list_.arrangement();
+    header()->setSortIndicator(sorted ? sort_->section : -1,
+                               list_.SortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+// --- selection ---
+
+std::vector<RecordsView::Rows> RecordsView::selectedInList() const {
+    std::vector<Rows> ranges;
+    int row = 0;
+    list_.forEach([&](const core::Item& item) {
+        if (item.Selected) {
+            if (!ranges.empty() && ranges.back().last == row - 1)
+                ranges.back().last = row;
+            else
+                ranges.push_back({row, row});
+        }
+        ++row;
+    });
+    return ranges;
+}
+
+std::vector<RecordsView::Rows> RecordsView::selectedInView() const {
+    std::vector<Rows> ranges;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        ranges.push_back({range.top(), range.bottom()});
+    std::ranges::sort(ranges, {}, &Rows::first);
+    std::vector<Rows> merged;
+    for (const Rows& range : ranges) {
+        if (!merged.empty() && range.first <= merged.back().last + 1)
+            merged.back().last = std::max(merged.back().last, range.last);
+        else
+            merged.push_back(range);
+    }
+    return merged;
+}
+
+void RecordsView::showSelection() {
+    const int lastSection = model_->columnCount() - 1;
+    if (lastSection < 0) return;
+    const std::vector<Rows> wanted = selectedInList();
+    if (wanted != selectedInView()) {
+        QItemSelection selection;
+        for (const Rows& rows : wanted)
+            selection.append(
+                QItemSelectionRange(model_->index(rows.first, 0), model_->index(rows.last, lastSection)));
+        selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    }
+    const core::Item* item = list_.selectedItem();
+    if (item == nullptr) return;
+    const QModelIndex current =
+        model_->index(list_.indexOf(*item) - 1, std::clamp(currentSection_, 0, lastSection));
+    if (currentIndex().row() == current.row()) return;
+    selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    scrollTo(current);
+}
+
+void RecordsView::markSelected(const QItemSelection& rows, bool selected) {
+    for (const QItemSelectionRange& range : rows)
+        for (int row = range.top(); row <= range.bottom() && row < list_.count(); ++row)
+            list_.at(row + 1).Selected = selected;
+}
+
+void RecordsView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    if (!showing_) {
+        markSelected(deselected, false);
+        markSelected(selected, true);
+    }
+    QTreeView::selectionChanged(selected, deselected);
+}
+
+void RecordsView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    if (!showing_ && current.isValid() && current.row() < list_.count()) {
+        currentSection_ = current.column();
+        core::Item& item = list_.at(current.row() + 1);
+        const bool selected = item.Selected;
+        list_.setSelectedItem(&item);
+        // A click with Ctrl can take the current row out of the selection, which selectionChanged tells.
+        if (list_.MultiSelect) item.Selected = selected;
+    }
+    QTreeView::currentChanged(current, previous);
+}
+
+// --- mouse and keys ---
+
+void RecordsView::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    QTreeView::mousePressEvent(event);
+}
+
+void RecordsView::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeView::mouseReleaseEvent(event);
+    if (!pressed_ || event->button() != Qt::LeftButton) return;
+    pressed_ = false;
+    events_.run([&] {
+        followCtrl(event->modifiers().testFlag(Qt::ControlModifier));
+        shell::list_Click(app_, list_);
+    });
+}
+
+void RecordsView::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeView::mouseDoubleClickEvent(event);
+    pressed_ = false; // the release that follows is no click of its own
+    if (event->button() == Qt::LeftButton) events_.run([&] { shell::list_DblClick(app_, list_); });
+}
+
+// The key may go down or up while another window has the keyboard, so every event says anew how it is.
+void RecordsView::followCtrl(bool isDown) {
+    if (isDown)
+        shell::list_KeyDown(app_, shell::ctrlKey);
+    else
+        shell::list_KeyUp(app_);
+}
+
+void RecordsView::keyPressEvent(QKeyEvent* event) {
+    followCtrl(event->key() == Qt::Key_Control || event->modifiers().testFlag(Qt::ControlModifier));
+    // Enter is the keyboard's double click.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        events_.run([&] { shell::list_DblClick(app_, list_); });
+    else
+        QTreeView::keyPressEvent(event);
+    // And Space its click, which the sums follow.
+    if (event->key() == Qt::Key_Space) events_.run([&] { shell::list_Click(app_, list_); });
+}
+
+void RecordsView::keyReleaseEvent(QKeyEvent* event) {
+    followCtrl(event->key() != Qt::Key_Control && event->modifiers().testFlag(Qt::ControlModifier));
+    QTreeView::keyReleaseEvent(event);
+}
+
+void RecordsView::focusOutEvent(QFocusEvent* event) {
+    followCtrl(false);
+    QTreeView::focusOutEvent(event);
+}
+
+} // namespace gui

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/app.h"
+#include "gui/frame/eventBoundary.h"
+#include "gui/records/recordsModel.h"
+
+#include <QTreeView>
+
+#include <optional>
+#include <vector>
+
+namespace gui {
+
+// One of the lists of the report tab. The selection stands in the items' Selected flags and in the
+// list's SelectedItem, and the places and widths of the columns in the column table; the view puts
+// there what the user does, and shows what stands there.
+class RecordsView : public QTreeView {
+    Q_OBJECT
+
+public:
+    RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent = nullptr);
+
+    void refresh(app::ListScroll scroll);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    struct Rows {
+        int first, last;
+        bool operator==(const Rows&) const = default;
+    };
+
+    void followCtrl(bool isDown);
+    void showColumns();
+    void showSortArrow();
+    void showSelection();
+    std::vector<Rows> selectedInList() const;
+    std::vector<Rows> selectedInView() const;
+    void markSelected(const QItemSelection& rows, bool selected);
+
+    void columnClicked(int section);
+    void columnMoved(int section, int newVisual);
+    void columnResized(int section, int pixels);
+    int pixels(float twips) const;
+    std::vector<int> sectionOrder() const;
+
+    app::App& app_;
+    core::RecordsList& list_;
+    EventBoundary& events_;
+    RecordsModel* model_;
+    bool showing_ = false;   // the view follows the state, not the user
+    bool pressed_ = false;   // the left button went down here
+    int currentSection_ = 0; // the column that typing searches in
+
+    // The last sort by a click, as long as the rows stand as it left them.
+    struct Sort {
+        int section;
+        std::uint64_t arrangement;
+    };
+    std::optional<Sort> sort_;
+};
+
+} // namespace gui

@@ -1,0 +1,42 @@
+#include "gui/records/selectedTotalsView.h"
+
+#include "gui/records/listLook.h"
+#include "gui/widgets/qtText.h"
+
+#include <QHeaderView>
+
+namespace gui {
+
+SelectedTotalsView::SelectedTotalsView(const core::RecordsList& list, QWidget* parent)
+    : QTreeWidget(parent), list_(list) {
+    setObjectName(toQt(list.Name));
+    setAccessibleName(tr("Sums of the selected records"));
+    setColumnCount(2);
+    setHeaderLabels({tr("Column"), tr("Sum of the selected records")});
+    headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    useListLook(*this);
+    header()->setStretchLastSection(false);
+    for (const int section : {0, 1}) header()->resizeSection(section, fontMetrics().averageCharWidth() * 32);
+    setMinimumHeight(fontMetrics().height() * 4);
+}
+
+void SelectedTotalsView::refresh() {
+    setVisible(list_.Visible);
+    if (!list_.Visible) return;
+    // At most one row a column, so the rows are simply written anew; their number stays as a rule.
+    while (topLevelItemCount() > list_.count()) delete takeTopLevelItem(topLevelItemCount() - 1);
+    while (topLevelItemCount() < list_.count()) addTopLevelItem(new QTreeWidgetItem);
+    int row = 0;
+    list_.forEach([&](const core::Item& sum) {
+        QTreeWidgetItem* shown = topLevelItem(row++);
+        shown->setText(0, toQt(sum.Text.view()));
+        shown->setText(1, sum.cells.empty() ? QString() : toQt(sum.cells.front().view()));
+        shown->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    });
+}
+
+QSize SelectedTotalsView::sizeHint() const {
+    return {QTreeWidget::sizeHint().width(), fontMetrics().height() * 8};
+}
+
+} // namespace gui
