@@ -21,6 +21,12 @@ if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER "env;CCACHE_SLOPPINESS=pch_defines,time_macros;${CCACHE_PROGRAM}")
 endif()
 
+# ferrowick_unity(TARGET ...)
+# A file must still include what it uses: builds without FERROWICK_UNITY, and the fuzz targets, check that.
+function(ferrowick_unity)
+    set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ${FERROWICK_UNITY} UNITY_BUILD_BATCH_SIZE 16)
+endfunction()
+
 # ferrowick_precompile(TARGET HEADER ...)
 # A file must still include what it uses: builds without FERROWICK_PCH, and the fuzz targets, check that.
 function(ferrowick_precompile target)

@@ -26,9 +26,6 @@ constexpr std::array<std::string_view, 60> keywords = {
     "Or",   "Preserve", "Private", "Property", "Public", "ReDim", "Rem",     "Resume", "Select",   "Set",
     "Stop", "Sub",      "Then",    "To",       "True",   "Until", "Wend",    "While",  "With",     "Xor"};
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 bool isAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }
@@ -104,7 +101,7 @@ private:
     double operand() {
         const char c = current();
         if (c == '(') return group();
-        if (isDigit(c) || c == '.') return number();
+        if (core::isDigit(c) || c == '.') return number();
         if (isNameStart(c)) return name();
         raise(errors::syntax, std::string(text_));
     }
@@ -156,7 +153,8 @@ private:
         const char c = text_[at_];
         const char32_t character = core::nextCodePoint(text_, next);
         const bool isStrayByte = !isAscii(c) && next == at_ + 1;
-        const bool belongs = isAscii(c) ? isNameStart(c) || isDigit(c) || c == '_' : isLetter(character);
+        const bool belongs =
+            isAscii(c) ? isNameStart(c) || core::isDigit(c) || c == '_' : isLetter(character);
         if (isStrayByte || !belongs) return false;
         at_ = next;
         return true;
@@ -165,7 +163,7 @@ private:
     // Behind an operand stands an operator, a parenthesis or the end.
     void endOperand() {
         const char c = current();
-        if (isDigit(c) || isNameStart(c) || c == '_' || c == '.' || c == '(')
+        if (core::isDigit(c) || isNameStart(c) || c == '_' || c == '.' || c == '(')
             raise(errors::syntax, std::string(text_));
     }
 

@@ -20,14 +20,12 @@ using core::Currency;
 using core::Item;
 using core::RecordsList;
 
-constexpr char itemSeparator = '@';
-
 bool hasPoint(std::string_view text) {
     return text.find('.') != std::string_view::npos;
 }
 
 bool isMultiValue(std::string_view cell) {
-    return cell.find(itemSeparator) != std::string_view::npos;
+    return cell.find(core::itemSeparator) != std::string_view::npos;
 }
 
 const Column* columnOf(const RecordsList& list, std::string_view token) {
@@ -42,7 +40,7 @@ CellText& targetCell(RecordsList& list, Item& record, const Formula& formula) {
 int itemRows(const Item& record) {
     std::ptrdiff_t rows = 0;
     for (const CellText& cell : record.cells)
-        rows = std::max(rows, std::ranges::count(cell.view(), itemSeparator));
+        rows = std::max(rows, std::ranges::count(cell.view(), core::itemSeparator));
     return static_cast<int>(rows);
 }
 
@@ -79,7 +77,7 @@ public:
             LineToken token{text, columnOf(list, text), {}};
             if (token.column != nullptr && token.column != target_) {
                 const std::string_view cell = RecordsList::cell(record, *token.column);
-                token.values = core::split(core::trim(cell), itemSeparator);
+                token.values = core::split(core::trim(cell), core::itemSeparator);
                 bAnyPoint_ = bAnyPoint_ || hasPoint(cell);
             }
             bAnyPoint_ =
@@ -105,7 +103,7 @@ public:
             const double result = evaluate(joined);
             if (hasPoint(joined)) bDecimal = true;
             done += resultText(result, bDecimal);
-            done += itemSeparator;
+            done += core::itemSeparator;
         }
     }
 
@@ -175,7 +173,7 @@ void RecalculateSegmentedTotals(app::App& app, int rowIndex, RecordsList& list) 
             const Column* column = columnOf(list, tokens[0]);
             const std::string values =
                 column == nullptr ? std::string() : RecordsList::cell(record, *column).str();
-            std::vector<std::string_view> parts = core::split(values, itemSeparator);
+            std::vector<std::string_view> parts = core::split(values, core::itemSeparator);
             parts.pop_back(); // what stands behind the last separator is no value
             for (const std::string_view part : parts) {
                 if (hasPoint(part)) bDecimal = true;

@@ -1,7 +1,7 @@
-#include "calc/TotalsFrm.h"
 #include "calc/formulateFrm.h"
 #include "calc/recalculation.h"
 #include "calc/serialFrm.h"
+#include "calc/totalsFrm.h"
 #include "cli/command.h"
 #include "cli/output.h"
 #include "cli/session.h"

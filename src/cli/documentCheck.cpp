@@ -137,7 +137,8 @@ private:
                 return;
             }
             for (const Column* column : pictures)
-                for (const std::string_view name : core::split(core::RecordsList::cell(item, *column), '@'))
+                for (const std::string_view name :
+                     core::split(core::RecordsList::cell(item, *column), core::itemSeparator))
                     if (!name.empty()) wantImage(item.Key.str() + " in " + inQuotes(column->Text), name);
         });
     }
@@ -166,12 +167,12 @@ private:
 
     // What of the values of item rows comes out of so many fields. Slots that nothing stands in do not count.
     static std::string storedItems(const Column& column, const std::string& cell, std::size_t rows) {
-        std::vector<std::string_view> values = core::split(cell, '@');
+        std::vector<std::string_view> values = core::split(cell, core::itemSeparator);
         if (values.size() == 1 || values.back().empty()) values.pop_back(); // no value of a row
         std::string stored;
         for (std::size_t row = 0; row < values.size(); ++row)
             if (row < rows || values[row].empty())
-                stored += entry::itemValue(column, std::string(values[row])) + '@';
+                stored += entry::itemValue(column, std::string(values[row])) + core::itemSeparator;
         return stored;
     }
 

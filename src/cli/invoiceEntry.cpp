@@ -8,8 +8,6 @@ namespace cli {
 
 namespace {
 
-constexpr char itemSeparator = '@';
-
 std::vector<core::LayoutField*> fieldsOf(Session& session, const core::Column& column) {
     std::vector<core::LayoutField*> fields;
     session.app.document.layout.layoutField.forEach([&](core::LayoutField& field) {
@@ -27,7 +25,7 @@ void fillFields(Session& session, const CellValue& value) {
         fields.front()->Text = value.text;
         return;
     }
-    std::vector<std::string_view> parts = core::split(value.text, itemSeparator);
+    std::vector<std::string_view> parts = core::split(value.text, core::itemSeparator);
     if (parts.back().empty()) parts.pop_back();
     if (parts.size() > fields.size())
         throw Failure(session.file, named + " has " + std::to_string(fields.size()) + " rows on the layout");

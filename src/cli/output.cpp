@@ -57,20 +57,6 @@ void appendJsonText(std::string& out, std::string_view text) {
     out.append(text.substr(plain)).push_back('"');
 }
 
-void appendCsvField(std::string& out, std::string_view text) {
-    const auto wantsQuotes = [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; };
-    if (std::ranges::none_of(text, wantsQuotes)) {
-        out.append(text);
-        return;
-    }
-    out.push_back('"');
-    for (const char c : text) {
-        if (c == '"') out.push_back('"');
-        out.push_back(c);
-    }
-    out.push_back('"');
-}
-
 std::string printable(std::string_view text) {
     std::string line(text);
     for (std::size_t i = 0; i < line.size(); ++i) {

@@ -16,8 +16,6 @@ void writeOutcome(std::string_view text);
 
 // The text in quotes, as JSON has it.
 void appendJsonText(std::string& out, std::string_view text);
-// One field of a CSV line, in quotes where RFC 4180 wants them.
-void appendCsvField(std::string& out, std::string_view text);
 // One line for people: whatever would break it or drive the terminal becomes a blank.
 std::string printable(std::string_view text);
 

@@ -1,6 +1,7 @@
 #include "cli/recordsOutput.h"
 
 #include "cli/output.h"
+#include "exchange/csvWriter.h"
 
 namespace cli {
 
@@ -51,22 +52,13 @@ std::string recordsAsJson(RecordsList& list, const Columns& columns) {
 
 std::string recordsAsCsv(const RecordsList& list, const Columns& columns) {
     std::string out;
-    const auto line = [&](auto&& textOf) {
-        const std::size_t start = out.size();
-        bool first = true;
-        for (const Column* column : columns) {
-            if (!first) out.push_back(',');
-            first = false;
-            appendCsvField(out, textOf(*column));
-        }
-        // A line without a character would be taken for none by most readers.
-        if (out.size() == start && !columns.empty()) out.append("\"\"");
-        out.push_back('\n');
-    };
-    line([](const Column& column) { return std::string_view(column.Text); });
+    exchange::CsvWriter table(out, ",\"\r\n");
+    for (const Column* column : columns) table.cell(column->Text);
+    table.endLine();
     list.forEach([&](const Item& item) {
-        if (!item.isTotals())
-            line([&](const Column& column) { return RecordsList::cell(item, column).view(); });
+        if (item.isTotals()) return;
+        for (const Column* column : columns) table.cell(RecordsList::cell(item, *column).view());
+        table.endLine();
     });
     return out;
 }

@@ -7,6 +7,9 @@
 
 namespace core {
 
+// Stands behind each value of a cell that has one for each item row of an invoice.
+constexpr char itemSeparator = '@';
+
 // The text of one cell in 16 bytes. Texts of up to 15 bytes, which is nearly every cell of a real
 // database, live inside the object; longer ones own a block of exactly their size. A list of a
 // million cells therefore costs a small factor of the file it came from.

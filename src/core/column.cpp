@@ -93,32 +93,30 @@ void ColumnHeaders::clear() {
     byUpperKey_.clear();
 }
 
-Column& ColumnHeaders::at(int index) {
+std::size_t ColumnHeaders::placeOf(int index) const {
     if (index < 1 || index > count()) raise(errors::indexOutOfBounds, "column " + std::to_string(index));
-    return columns_[static_cast<std::size_t>(index - 1)];
+    return static_cast<std::size_t>(index - 1);
 }
 
-const Column& ColumnHeaders::at(int index) const {
-    return const_cast<ColumnHeaders*>(this)->at(index);
+std::size_t ColumnHeaders::placeOf(std::string_view key) const {
+    const int index = indexOf(key);
+    if (index == 0) raise(errors::elementNotFound, std::string(key));
+    return static_cast<std::size_t>(index - 1);
 }
 
-Column& ColumnHeaders::operator[](std::string_view key) {
-    Column* column = find(key);
-    if (column == nullptr) raise(errors::elementNotFound, std::string(key));
-    return *column;
-}
-
-const Column& ColumnHeaders::operator[](std::string_view key) const {
-    return (*const_cast<ColumnHeaders*>(this))[key];
+int ColumnHeaders::indexOf(std::string_view key) const {
+    const auto found = byUpperKey_.find(upper(key));
+    return found == byUpperKey_.end() ? 0 : found->second;
 }
 
 Column* ColumnHeaders::find(std::string_view key) {
-    const auto found = byUpperKey_.find(upper(key));
-    return found == byUpperKey_.end() ? nullptr : &columns_[static_cast<std::size_t>(found->second - 1)];
+    const int index = indexOf(key);
+    return index == 0 ? nullptr : &at(index);
 }
 
 const Column* ColumnHeaders::find(std::string_view key) const {
-    return const_cast<ColumnHeaders*>(this)->find(key);
+    const int index = indexOf(key);
+    return index == 0 ? nullptr : &at(index);
 }
 
 void ColumnHeaders::setPosition(int index, int position) {

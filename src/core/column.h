@@ -58,11 +58,11 @@ public:
 
     int count() const { return static_cast<int>(columns_.size()); }
     // 1-based; raises indexOutOfBounds.
-    Column& at(int index);
-    const Column& at(int index) const;
+    Column& at(int index) { return columns_[placeOf(index)]; }
+    const Column& at(int index) const { return columns_[placeOf(index)]; }
     // Raises elementNotFound.
-    Column& operator[](std::string_view key);
-    const Column& operator[](std::string_view key) const;
+    Column& operator[](std::string_view key) { return columns_[placeOf(key)]; }
+    const Column& operator[](std::string_view key) const { return columns_[placeOf(key)]; }
     Column* find(std::string_view key);
     const Column* find(std::string_view key) const;
 
@@ -81,6 +81,9 @@ public:
 
 private:
     void reindex();
+    std::size_t placeOf(int index) const;
+    std::size_t placeOf(std::string_view key) const;
+    int indexOf(std::string_view key) const; // 0 for none
 
     std::vector<Column> columns_;
     std::unordered_map<std::string, int> byUpperKey_; // to table index, from 1

@@ -36,7 +36,7 @@ public:
     // Raises overflow beyond the highest Index there is, 32,767.
     Object& load(int index) {
         if (index > std::numeric_limits<std::int16_t>::max()) raise(errors::overflow, "objects of one kind");
-        const auto spot = position(index);
+        const auto spot = position(objects_, index);
         if (index < 1 || (spot != objects_.end() && (*spot)->Index == index))
             raise(errors::subscriptOutOfRange, "object " + std::to_string(index));
         auto object = std::make_unique<Object>(template_);
@@ -44,21 +44,18 @@ public:
         return **objects_.insert(spot, std::move(object));
     }
     void unload(int index) {
-        const auto spot = position(index);
+        const auto spot = position(objects_, index);
         if (spot != objects_.end() && (*spot)->Index == index) objects_.erase(spot);
     }
     void unloadAll() { objects_.clear(); }
-    Object* find(int index) {
-        const auto spot = position(index);
-        return spot != objects_.end() && (*spot)->Index == index ? spot->get() : nullptr;
-    }
+    Object* find(int index) { return findIn(objects_, index); }
+    const Object* find(int index) const { return findIn(objects_, index); }
     // Raises subscriptOutOfRange for an object that is not there.
     Object& operator[](int index) {
         Object* object = find(index);
         if (object == nullptr) raise(errors::subscriptOutOfRange, "object " + std::to_string(index));
         return *object;
     }
-    const Object* find(int index) const { return const_cast<ControlArray*>(this)->find(index); }
 
     // Without the template, in Index order.
     template <typename Visitor>
@@ -71,9 +68,13 @@ public:
     }
 
 private:
-    auto position(int index) {
-        return std::lower_bound(objects_.begin(), objects_.end(), index,
+    static auto position(auto& objects, int index) {
+        return std::lower_bound(objects.begin(), objects.end(), index,
                                 [](const auto& object, int wanted) { return object->Index < wanted; });
+    }
+    static Object* findIn(auto& objects, int index) {
+        const auto spot = position(objects, index);
+        return spot != objects.end() && (*spot)->Index == index ? spot->get() : nullptr;
     }
 
     Object template_;

@@ -10,7 +10,7 @@ namespace core {
 namespace {
 
 constexpr int places = 4;
-constexpr int mostDigits = 19; // of the number of ten thousandths
+constexpr int mostTenThousandths = 19; // of the number of ten thousandths
 constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
 
 } // namespace
@@ -28,7 +28,7 @@ Currency Currency::parse(std::string_view text) {
     const Decimal number = rounded(*read, places, Rounding::HalfEven);
     if (number.isZero()) return {};
     const int digits = number.point + places;
-    if (digits > mostDigits) raise(errors::overflow, std::string(text));
+    if (digits > mostTenThousandths) raise(errors::overflow, std::string(text));
     // A number of 19 digits fits into the unsigned type, and may be beyond the signed one.
     std::uint64_t magnitude = 0;
     for (int i = 0; i < digits; ++i) {

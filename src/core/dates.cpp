@@ -18,11 +18,8 @@ constexpr std::array<std::string_view, 12> monthNames = {"JANUARY",   "FEBRUARY"
 constexpr std::size_t shortName = 3;
 constexpr std::string_view marks = "/-,:";
 constexpr std::size_t mostTokens = 12; // "5 - Jan - 2004 10 : 30 : 15 PM" has eleven
-constexpr std::size_t mostDigits = 4;
+constexpr std::size_t mostNumberDigits = 4;
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 bool isLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
@@ -67,7 +64,7 @@ private:
     static std::size_t take(Token& token, std::string_view text) {
         if (const std::size_t digits = run(text, isDigit)) {
             token.kind = Token::Number;
-            if (digits > mostDigits) return 0;
+            if (digits > mostNumberDigits) return 0;
             token.digits = static_cast<std::int16_t>(digits);
             std::from_chars(text.data(), text.data() + digits, token.value);
             return digits;

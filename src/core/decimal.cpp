@@ -10,10 +10,6 @@ namespace {
 
 constexpr int farthestExponent = 100000; // beyond it all numbers are zero or out of every range
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 class DecimalReader {
 public:
     explicit DecimalReader(std::string_view text) : text_(trim(text)) {}

@@ -11,7 +11,7 @@ namespace {
 
 // More digits than any double has ahead of its point: no amount, and a text of any length could ask for
 // them with an exponent.
-constexpr int mostDigits = 309;
+constexpr int mostWholeDigits = 309;
 
 struct Shape {
     bool dollar = false;
@@ -81,7 +81,7 @@ std::string format(std::string_view text, Mask mask) {
         if (const auto digits = plain->digitsWith(shape.places, Rounding::HalfAwayFromZero))
             return formatDigits(*digits, plain->negative, shape);
     const std::optional<Decimal> number = readDecimal(text);
-    if (!number || number->point > mostDigits) return std::string(text);
+    if (!number || number->point > mostWholeDigits) return std::string(text);
     return formatDecimal(*number, shape);
 }
 

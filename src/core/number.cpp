@@ -13,10 +13,6 @@ namespace core {
 
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 constexpr int mostPlainDigits = 18;
 constexpr std::uint64_t largestExact = std::uint64_t{1} << 53; // up to here a double holds every integer
 constexpr double smallestPrecise = 1e-300;                     // well ahead of the doubles with fewer digits
@@ -109,8 +105,8 @@ public:
         readExponent();
         const std::optional<double> value = toDouble(number_);
         if (value) return *value;
-        const double largest = std::numeric_limits<double>::max();
-        return number_.front() == '-' ? -largest : largest;
+        const double most = std::numeric_limits<double>::max();
+        return number_.front() == '-' ? -most : most;
     }
 
 private:
@@ -137,9 +133,9 @@ private:
     }
     // A mark that no digits follow is none of the number's.
     void readExponent() {
-        constexpr std::string_view marks = "eEdD";
+        constexpr std::string_view exponentMarks = "eEdD";
         const std::size_t mantissa = number_.size();
-        if (marks.find(current()) == std::string_view::npos) return;
+        if (exponentMarks.find(current()) == std::string_view::npos) return;
         take();
         readSign();
         if (!takeDigits()) number_.resize(mantissa);

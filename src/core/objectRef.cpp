@@ -37,7 +37,9 @@ LayoutObject* findObject(LayoutObjects& layout, ObjectRef ref) {
 }
 
 const LayoutObject* findObject(const LayoutObjects& layout, ObjectRef ref) {
-    return findObject(const_cast<LayoutObjects&>(layout), ref);
+    const LayoutObject* found = nullptr;
+    visitFamily(layout, ref.family, [&](const auto& family) { found = family.find(ref.Index); });
+    return found;
 }
 
 ObjectFont* findFont(LayoutObjects& layout, ObjectRef ref) {

@@ -8,14 +8,10 @@
 
 namespace core {
 
-CellText& Item::subItem(int n) {
+std::size_t Item::placeOf(int n) const {
     if (n < 1 || static_cast<std::size_t>(n) > cells.size())
         raise(errors::indexOutOfBounds, "sub-item " + std::to_string(n));
-    return cells[static_cast<std::size_t>(n - 1)];
-}
-
-const CellText& Item::subItem(int n) const {
-    return const_cast<Item*>(this)->subItem(n);
+    return static_cast<std::size_t>(n - 1);
 }
 
 Item& RecordsList::add(std::string_view key, std::string_view text) {
@@ -62,16 +58,12 @@ void RecordsList::clear() {
     numbered_ = true;
 }
 
-Item& RecordsList::at(int index) {
+std::size_t RecordsList::placeOf(int index) const {
     if (index < 1 || index > count()) raise(errors::indexOutOfBounds, "item " + std::to_string(index));
-    return *items_[static_cast<std::size_t>(index - 1)];
+    return static_cast<std::size_t>(index - 1);
 }
 
-const Item& RecordsList::at(int index) const {
-    return const_cast<RecordsList*>(this)->at(index);
-}
-
-Item* RecordsList::find(std::string_view key) {
+Item* RecordsList::itemWith(std::string_view key) const {
     if (key.empty()) return nullptr;
     if (!keysIndexed_) {
         byKey_.clear();

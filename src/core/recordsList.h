@@ -29,10 +29,12 @@ struct Item {
 
     bool isTotals() const { return Key == totalsKey; }
     // n from 1; raises indexOutOfBounds.
-    CellText& subItem(int n);
-    const CellText& subItem(int n) const;
+    CellText& subItem(int n) { return cells[placeOf(n)]; }
+    const CellText& subItem(int n) const { return cells[placeOf(n)]; }
 
 private:
+    std::size_t placeOf(int n) const;
+
     friend class RecordsList;
     mutable int index_ = 0; // 1-based, kept by the list
 };
@@ -66,11 +68,11 @@ public:
     int count() const { return static_cast<int>(items_.size()); }
     bool empty() const { return items_.empty(); }
     // 1-based; raises indexOutOfBounds.
-    Item& at(int index);
-    const Item& at(int index) const;
+    Item& at(int index) { return *items_[placeOf(index)]; }
+    const Item& at(int index) const { return *items_[placeOf(index)]; }
     // By key, in any case; nullptr and elementNotFound when there is none.
-    Item* find(std::string_view key);
-    const Item* find(std::string_view key) const { return const_cast<RecordsList*>(this)->find(key); }
+    Item* find(std::string_view key) { return itemWith(key); }
+    const Item* find(std::string_view key) const { return itemWith(key); }
     Item& byKey(std::string_view key);
     // The first item with that Text, from the given index on; nullptr when there is none.
     Item* findText(std::string_view text, int from = 1);
@@ -110,13 +112,15 @@ public:
     std::uint64_t arrangement() const { return arrangement_; }
 
 private:
+    std::size_t placeOf(int index) const;
+    Item* itemWith(std::string_view key) const;
     void itemsMoved();
     void renumber() const;
 
     std::vector<std::unique_ptr<Item>> items_;
     mutable bool numbered_ = true;
-    std::unordered_map<std::string, Item*> byKey_;
-    bool keysIndexed_ = false;
+    mutable std::unordered_map<std::string, Item*> byKey_; // made when a key is looked for
+    mutable bool keysIndexed_ = false;
     Item* selectedItem_ = nullptr;
     std::uint64_t arrangement_ = 0;
 };

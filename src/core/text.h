@@ -10,6 +10,10 @@ namespace core {
 // Text is UTF-8. Lengths and cuts count characters; a stray byte counts as one. Nothing here depends
 // on the locale.
 
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 // Strip blanks (U+0020) at both ends, in front, behind.
 std::string_view trim(std::string_view text);
 std::string_view ltrim(std::string_view text);

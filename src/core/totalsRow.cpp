@@ -25,7 +25,7 @@ void TotalsRowUpdater::update(TotalsMode mode, const Item& item) const {
     for (const TotaledColumn& column : columns_) {
         const std::string_view cell = item.subItem(column.subItem);
         CellText& sum = totals_->subItem(column.subItem);
-        if (cell.find('@') != std::string_view::npos) {
+        if (cell.find(itemSeparator) != std::string_view::npos) {
             sum = multiValueSum;
             continue;
         }

@@ -25,8 +25,6 @@ using core::Item;
 using core::LayoutField;
 using core::RecordsList;
 
-constexpr char itemSeparator = '@';
-
 // The last two digits of an amount typed without a point are cents.
 std::string withCents(const std::string& text) {
     if (text.find('.') != std::string::npos) return text;
@@ -55,7 +53,7 @@ void writeCells(App& app, Item& record, bool bUpdate, const ColumnNames* only) {
         }
         const bool isFirst = begun.insert(field.Tag).second;
         const std::string before = isFirst && bUpdate ? std::string() : cell.str();
-        cell = before + itemValue(*column, field.Text) + itemSeparator;
+        cell = before + itemValue(*column, field.Text) + core::itemSeparator;
     });
 }
 

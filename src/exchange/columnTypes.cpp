@@ -1,5 +1,6 @@
 #include "exchange/columnTypes.h"
 
+#include "core/cellText.h"
 #include "core/dates.h"
 #include "core/format.h"
 #include "core/text.h"
@@ -13,21 +14,15 @@ namespace exchange {
 
 namespace {
 
-constexpr char itemSeparator = '@';
-
 using core::ColumnType;
 
 constexpr std::array types = {ColumnType::Text, ColumnType::Number,  ColumnType::Currency,
                               ColumnType::Date, ColumnType::Picture, ColumnType::Calculation};
 constexpr std::size_t mostDigits = 15; // that a sum keeps
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 // How many digits stand at the head.
 std::size_t digitsAt(std::string_view text) {
-    const auto end = std::ranges::find_if_not(text, isDigit);
+    const auto end = std::ranges::find_if_not(text, core::isDigit);
     return static_cast<std::size_t>(end - text.begin());
 }
 
@@ -75,7 +70,7 @@ bool isAmount(std::string_view text) {
     const std::size_t point = std::min(text.find('.'), text.size());
     const std::string_view whole = text.substr(0, point);
     const std::string_view cents = point < text.size() ? text.substr(point + 1) : std::string_view("00");
-    const auto digits = static_cast<std::size_t>(std::ranges::count_if(text, isDigit));
+    const auto digits = static_cast<std::size_t>(std::ranges::count_if(text, core::isDigit));
     return digits > 0 && digits <= mostDigits && isGrouped(whole) && !hasNeedlessZero(whole) &&
            !cents.empty() && cents.size() <= 2 && digitsAt(cents) == cents.size();
 }
@@ -116,10 +111,11 @@ ColumnType guess(const CsvTable& table, std::size_t column, bool hasItemRows) {
     };
     for (std::size_t row = 0; row < table.rowCount() && (numbers || amounts || dates); ++row) {
         const std::string_view cell = table.cell(row, column);
-        if (!hasItemRows || cell.find(itemSeparator) == std::string_view::npos)
+        if (!hasItemRows || cell.find(core::itemSeparator) == std::string_view::npos)
             look(core::trim(cell));
         else
-            for (const std::string_view value : core::split(cell, itemSeparator)) look(core::trim(value));
+            for (const std::string_view value : core::split(cell, core::itemSeparator))
+                look(core::trim(value));
     }
     if (isBlank) return ColumnType::Text;
     if (numbers) return ColumnType::Number;
@@ -178,8 +174,8 @@ std::string storedCell(const TableColumn& column, std::string_view cell) {
     if (!column.isGuessed || column.type == ColumnType::Text) return std::string(cell);
     std::string stored;
     bool isFirst = true;
-    for (const std::string_view value : core::split(cell, itemSeparator)) {
-        if (!isFirst) stored.push_back(itemSeparator);
+    for (const std::string_view value : core::split(cell, core::itemSeparator)) {
+        if (!isFirst) stored.push_back(core::itemSeparator);
         stored.append(storedValue(column.type, core::trim(value)));
         isFirst = false;
     }

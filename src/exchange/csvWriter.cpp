@@ -5,8 +5,7 @@ namespace exchange {
 void CsvWriter::cell(std::string_view text) {
     if (cells_++ > 0) out_.push_back(',');
     isEmpty_ = cells_ == 1 && text.empty();
-    // The other separators as well, so that no reader takes them for the table's own.
-    if (text.find_first_of(",;\t\"\r\n") == std::string_view::npos) {
+    if (text.find_first_of(quoted_) == std::string_view::npos) {
         out_.append(text);
         return;
     }

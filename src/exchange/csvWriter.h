@@ -5,16 +5,20 @@
 
 namespace exchange {
 
-// Writes a table as CsvTable reads it, line by line, behind what `out` holds.
+// Writes a table as CsvTable reads it, line by line, behind what `out` holds. A cell with one of `quoted` in
+// it is put into quotes; by default the other separators are among them, so that no reader takes them for the
+// table's own.
 class CsvWriter {
 public:
-    explicit CsvWriter(std::string& out) : out_(out) {}
+    explicit CsvWriter(std::string& out, std::string_view quoted = ",;\t\"\r\n")
+        : out_(out), quoted_(quoted) {}
 
     void cell(std::string_view text);
     void endLine();
 
 private:
     std::string& out_;
+    std::string_view quoted_;
     int cells_ = 0; // in the line so far
     bool isEmpty_ = true;
 };

@@ -13,14 +13,14 @@ namespace {
 using core::Column;
 using core::Document;
 
-constexpr std::string_view lineEnd = "\r\n";
+constexpr std::string_view dosLineEnd = "\r\n";
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
 class Writer {
 public:
     explicit Writer(std::string& out) : out_(out) {}
 
-    void line(std::string_view text) { out_.append(text).append(lineEnd); }
+    void line(std::string_view text) { out_.append(text).append(dosLineEnd); }
     void section(std::string_view marker) { out_.append(marker); }
     Writer& element(std::string_view text) {
         out_.append(text).push_back('|');
@@ -28,7 +28,7 @@ public:
     }
     Writer& element(float number) { return element(std::string_view(core::numberText(number))); }
     Writer& element(int number) { return element(std::string_view(std::to_string(number))); }
-    void end() { out_.append(lineEnd); }
+    void end() { out_.append(dosLineEnd); }
     void collection(std::string_view marker, const core::NamedCollection& items) {
         section(marker);
         for (const auto& entry : items) element(std::string_view(entry.item));
@@ -109,7 +109,7 @@ void appendDesign(std::string& text, Document& document, bool bClone) {
     Writer out(text);
     takeOverInvoiceColumns(document);
     out.line("[LayoutStart]");
-    writeLayoutLines(text, document.layout, lineEnd);
+    writeLayoutLines(text, document.layout, dosLineEnd);
     out.line("[LayoutEnd]");
     writeLayoutOptions(out, document.layoutOptions);
     writeColumns(out, document.LV.columns);

@@ -16,8 +16,6 @@ using core::RecordsList;
 
 namespace {
 
-constexpr char itemSeparator = '@';
-
 // The value of one row; a cell without a separator has none.
 std::string partOf(const std::vector<std::string_view>& parts, std::size_t row) {
     return parts.size() > 1 && row < parts.size() ? std::string(parts[row]) : std::string();
@@ -59,7 +57,7 @@ void retrieveInvoiceRecord(App& app) {
         }
         const std::string_view cell = RecordsList::cell(*record, *column);
         if (items.contains(field.Tag))
-            field.Text = partOf(core::split(cell, itemSeparator), rows[column->Text]++);
+            field.Text = partOf(core::split(cell, core::itemSeparator), rows[column->Text]++);
         else
             field.Text = column->isType(core::ColumnType::Text) ? cell : core::trim(cell);
     });

@@ -18,7 +18,6 @@ using core::Document;
 using core::Item;
 using core::RecordsList;
 
-constexpr char itemSeparator = '@';
 // No invoice list comes near them; a file that asks for more was made to fill the memory.
 constexpr long long mostRows = 4'000'000;
 constexpr long long mostCells = 60'000'000;
@@ -60,7 +59,7 @@ int itemRows(const RecordsList& records) {
     if (records.empty()) return 0;
     int rows = 0;
     for (const core::CellText& cell : records.at(1).cells) {
-        const auto values = std::ranges::count(cell.view(), itemSeparator);
+        const auto values = std::ranges::count(cell.view(), core::itemSeparator);
         if (values > 0) rows = static_cast<int>(values);
     }
     return rows;
@@ -76,7 +75,7 @@ void addItemRows(RecordsList& view, const Item& record, int rows, const std::vec
                  const core::TotalsRowUpdater& totals) {
     std::vector<std::vector<std::string_view>> parts;
     parts.reserve(record.cells.size());
-    for (const core::CellText& cell : record.cells) parts.push_back(core::split(cell, itemSeparator));
+    for (const core::CellText& cell : record.cells) parts.push_back(core::split(cell, core::itemSeparator));
     // The first cell of several values alone decides which item rows there are.
     const auto deciding = std::ranges::find_if(parts, [](const auto& values) { return values.size() > 1; });
     for (int row = 0; row < rows; ++row) {

@@ -55,8 +55,8 @@ void findInRecords(const core::RecordsList& records, Unused& unused) {
     records.forEach([&](const core::Item& item) {
         for (const std::string_view cell : item.cells) {
             unused.found(cell);
-            if (cell.find('@') == std::string_view::npos) continue;
-            for (const std::string_view value : core::split(cell, '@')) unused.found(value);
+            if (cell.find(core::itemSeparator) == std::string_view::npos) continue;
+            for (const std::string_view value : core::split(cell, core::itemSeparator)) unused.found(value);
         }
     });
 }

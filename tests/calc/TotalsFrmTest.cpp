@@ -1,4 +1,4 @@
-#include "calc/TotalsFrm.h"
+#include "calc/totalsFrm.h"
 
 #include "core/totalsRow.h"
 #include "recordsProgram.h"

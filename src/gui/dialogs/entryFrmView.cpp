@@ -1,6 +1,7 @@
 #include "gui/dialogs/entryFrmView.h"
 
 #include "gui/widgets/icon.h"
+#include "gui/widgets/measures.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/qtText.h"
 
@@ -25,10 +26,8 @@ namespace {
 
 using entry::entryFrm;
 
-constexpr float twipsPerInch = 1440;
 constexpr auto checkCaption = QT_TR_NOOP("Check Previous Entries");
 constexpr float leastWidth = 5000, leastHeight = 3 * 615; // of the viewport
-constexpr int toolbarIconSize = 24;
 constexpr int findBoxCharacters = 24;
 
 struct ButtonLook {

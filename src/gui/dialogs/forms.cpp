@@ -1,6 +1,5 @@
 #include "gui/dialogs/forms.h"
 
-#include "gui/dialogs/TotalsFrmView.h"
 #include "gui/dialogs/databaseTypeFrmView.h"
 #include "gui/dialogs/designFrmView.h"
 #include "gui/dialogs/disclaimFrmView.h"
@@ -13,6 +12,7 @@
 #include "gui/dialogs/reportPageSetupView.h"
 #include "gui/dialogs/searchFrmView.h"
 #include "gui/dialogs/serialFrmView.h"
+#include "gui/dialogs/totalsFrmView.h"
 
 namespace gui {
 

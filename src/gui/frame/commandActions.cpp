@@ -1,6 +1,7 @@
 #include "gui/frame/commandActions.h"
 
 #include "gui/widgets/icon.h"
+#include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "shell/commands.h"
 
@@ -44,7 +45,6 @@ QKeySequence shortcutOfButton(std::string_view key) {
 }
 
 constexpr std::array<std::string_view, 3> recentKeys = {"mnuFile1", "mnuFile2", "mnuFile3"};
-constexpr int toolbarIconSize = 24;
 constexpr std::string_view separator = "-";
 
 } // namespace

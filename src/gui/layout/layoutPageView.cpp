@@ -2,6 +2,7 @@
 
 #include "entry/navBar.h"
 #include "gui/widgets/icon.h"
+#include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
@@ -22,14 +23,11 @@ namespace gui {
 
 namespace {
 
-constexpr int iconSize = 20;
-constexpr int scrollStep = 240; // twips
-
 QToolBar* makeBar(const QString& name, const QString& told) {
     auto* bar = new QToolBar;
     bar->setObjectName(name);
     bar->setAccessibleName(told);
-    bar->setIconSize({iconSize, iconSize});
+    bar->setIconSize({pageIconSize, pageIconSize});
     return bar;
 }
 

@@ -1,5 +1,6 @@
 #include "gui/layout/rulerView.h"
 
+#include "gui/widgets/measures.h"
 #include "layout/dragging.h"
 #include "layout/rulers.h"
 
@@ -15,7 +16,6 @@ using app::LayoutPage;
 
 namespace {
 
-constexpr int twipsPerInch = 1440;
 constexpr int marksPerInch = 8;
 constexpr qreal firstTile = -15; // of the horizontal ruler, whose inches stand a pixel ahead; it is wanted so
 constexpr qreal tilePitch = twipsPerInch + 1; // the inches stand a twip further apart than an inch

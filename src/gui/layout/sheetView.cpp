@@ -1,5 +1,6 @@
 #include "gui/layout/sheetView.h"
 
+#include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "gui/widgets/textBox.h"
 #include "layout/dragging.h"
@@ -61,8 +62,7 @@ SheetView::SheetView(app::App& app, EventBoundary& events, QWidget* parent)
 }
 
 qreal SheetView::pixelsPerTwip() const {
-    constexpr qreal twipsPerInch = 1440;
-    return logicalDpiX() / twipsPerInch;
+    return logicalDpiX() / static_cast<qreal>(twipsPerInch);
 }
 
 void SheetView::refresh() {

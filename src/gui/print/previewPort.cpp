@@ -1,5 +1,6 @@
 #include "gui/print/previewPort.h"
 
+#include "gui/widgets/measures.h"
 #include <QKeyEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -27,8 +28,7 @@ void PreviewPort::refresh() {
 }
 
 qreal PreviewPort::pixelsPerTwip() const {
-    constexpr qreal twipsPerInch = 1440;
-    return logicalDpiX() / twipsPerInch;
+    return logicalDpiX() / static_cast<qreal>(twipsPerInch);
 }
 
 QRectF PreviewPort::pageRect() const {

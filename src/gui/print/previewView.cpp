@@ -1,6 +1,7 @@
 #include "gui/print/previewView.h"
 
 #include "gui/widgets/icon.h"
+#include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "print/previewNavigation.h"
 
@@ -11,12 +12,7 @@
 
 namespace gui {
 
-namespace {
-
-constexpr int iconSize = 20;
-constexpr int scrollStep = 240; // twips
-
-} // namespace
+namespace {} // namespace
 
 PreviewView::PreviewView(app::App& app, EventBoundary& events, QWidget* parent)
     : QWidget(parent), app_(app), events_(events), reportToolbar_(makeToolbar()), port_(new PreviewPort(app)),
@@ -42,7 +38,7 @@ QToolBar* PreviewView::makeToolbar() {
     auto* bar = new QToolBar;
     bar->setObjectName(QStringLiteral("reportToolbar"));
     bar->setAccessibleName(tr("Preview"));
-    bar->setIconSize({iconSize, iconSize});
+    bar->setIconSize({pageIconSize, pageIconSize});
     for (const print::PreviewButton& button : print::previewButtons()) {
         QAction* action = bar->addAction(familyIcon(toQt(button.icon)), toQt(button.tip));
         action->setObjectName(QStringLiteral("reportToolbar.") + toQt(button.key));

@@ -2,6 +2,7 @@
 
 #include "gui/records/listLook.h"
 #include "gui/records/recordsHeader.h"
+#include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "shell/listEvents.h"
 
@@ -15,11 +16,7 @@
 
 namespace gui {
 
-namespace {
-
-constexpr int twipsPerInch = 1440;
-
-} // namespace
+namespace {} // namespace
 
 RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent)
     : QTreeView(parent), app_(app), list_(list), events_(events), model_(new RecordsModel(list, this)) {

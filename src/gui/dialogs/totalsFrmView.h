@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calc/TotalsFrm.h"
+#include "calc/totalsFrm.h"
 #include "gui/dialogs/formView.h"
 
 #include <QTreeWidget>

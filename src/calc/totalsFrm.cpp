@@ -1,4 +1,4 @@
-#include "calc/TotalsFrm.h"
+#include "calc/totalsFrm.h"
 
 #include "calc/recalculation.h"
 #include "core/runTimeError.h"

@@ -1,4 +1,4 @@
-#include "gui/dialogs/TotalsFrmView.h"
+#include "gui/dialogs/totalsFrmView.h"
 
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
