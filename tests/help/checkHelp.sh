@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Checks the pages of help/: their links, their pictures, and that the menus and commands they name are the program's.
-#     tests/help/checkHelp.sh PROJECT
+#     tests/help/checkHelp.sh PROJECT PAGES    PAGES is the folder of the built pages
 set -euo pipefail
 export LC_ALL=C.UTF-8
 project=$(realpath "$1")
-cd "$project/help"
+cd "$2"
 
 faults=0
 fault() {
