@@ -32,10 +32,12 @@ std::string nameOf(std::string_view formula) {
 
 void renameInFormulas(Document& document, const std::string& oldName, const std::string& newName) {
     std::vector<std::string> entries = document.formulas.items();
+    const std::string oldAhead = oldName + ' ', oldBehind = ' ' + oldName;
+    const std::string newAhead = newName + ' ', newBehind = ' ' + newName;
     for (std::string& entry : entries) {
         if (nameOf(entry) == oldName) entry = core::replaceAll(entry, oldName, newName);
-        entry = core::replaceAll(entry, oldName + " ", newName + " ");
-        entry = core::replaceAll(entry, " " + oldName, " " + newName);
+        entry = core::replaceAll(entry, oldAhead, newAhead);
+        entry = core::replaceAll(entry, oldBehind, newBehind);
     }
     document.formulas.clear();
     for (const std::string& entry : entries) document.formulas.add(entry, nameOf(entry));

@@ -18,7 +18,7 @@ namespace file {
 
 namespace {
 
-constexpr std::size_t smallestPiece = 256 * 1024;
+constexpr std::size_t smallestPiece = std::size_t{256} * 1024;
 
 struct Piece {
     std::string packed;

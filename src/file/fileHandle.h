@@ -35,13 +35,13 @@ private:
 
 // Opens a regular file for reading. Anything else at that path (a folder, a pipe that would block) is
 // a path access error, an absent file file-not-found.
-FileHandle openRegularFile(const std::filesystem::path& file);
+[[nodiscard]] FileHandle openRegularFile(const std::filesystem::path& file);
 
 // Writes all bytes at the place; answers 0 or the errno of the failure.
-int writeAt(int fd, const char* bytes, std::size_t count, long long place);
+[[nodiscard]] int writeAt(int fd, const char* bytes, std::size_t count, long long place);
 
 // The bytes of a regular file; nothing when it is larger than maxBytes. Raises what openRegularFile does,
 // and deviceIO.
-std::optional<std::string> readSmallFile(const std::filesystem::path& file, std::size_t maxBytes);
+[[nodiscard]] std::optional<std::string> readSmallFile(const std::filesystem::path& file, std::size_t maxBytes);
 
 } // namespace file

@@ -5,7 +5,7 @@
 
 namespace file {
 
-bool fileExists(const std::filesystem::path& path);
+[[nodiscard]] bool fileExists(const std::filesystem::path& path);
 
 // Writes a file of the work folder. Raises diskFull, pathAccess, fileNotFound (no such folder), deviceIO.
 void writeWorkFile(const std::filesystem::path& path, std::string_view bytes);

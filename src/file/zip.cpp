@@ -25,13 +25,13 @@ namespace {
 
 // Large enough that the calls do not count, small enough that what was just unpacked is still in the
 // processor's cache when its checksum is taken.
-constexpr std::size_t chunkBytes = 128 * 1024;
+constexpr std::size_t chunkBytes = std::size_t{128} * 1024;
 // One below zlib's usual level: a third less time for files that are about one part in a hundred larger.
 constexpr int compressionLevel = 5;
 // Of the large texts, which libdeflate packs. It takes a fifth of the time of zlib's usual level; the text
 // becomes about eight parts in a hundred larger.
 constexpr int largeTextLevel = 1;
-constexpr std::size_t smallestDeflated = 64 * 1024;
+constexpr std::size_t smallestDeflated = std::size_t{64} * 1024;
 constexpr std::size_t maxCommentBytes = 0xffff;
 
 [[noreturn]] void raiseZipError(zip_error_t& error, const std::string& detail) {

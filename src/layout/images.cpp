@@ -131,7 +131,7 @@ void fitImage(App& app, const LayoutObject& holder, FittedImage& image, const fs
 
 fs::path unpackedImage(App& app, const std::string& name, ImageArchive& archive) {
     if (name.empty() || !file::isSafeEntryName(name)) return {};
-    const fs::path file = app.platform.tempFolder() / name;
+    fs::path file = app.platform.tempFolder() / name;
     std::error_code ignored;
     if (!fs::exists(file, ignored)) archive.extract(name);
     return file;
@@ -194,7 +194,7 @@ std::string storeClipboardImage(App& app, const FittedImage& image) {
     for (;;) {
         const std::string number = std::to_string(randomNumber());
         const std::string bmpName = "cb" + number + ".bmp";
-        const std::string jpgName = "cb" + number + ".jpg";
+        std::string jpgName = "cb" + number + ".jpg";
         // The names that are taken would be those of the .jpg files; it is the other that is asked for,
         // and it is wanted so.
         if (archiveHas(app, bmpName)) continue;

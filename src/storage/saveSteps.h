@@ -11,7 +11,7 @@ namespace storage {
 // What the commands that write a database have in common.
 
 // Asks before a file is overwritten; true also when there is none.
-bool mayWriteTo(app::App& app, const std::string& target);
+[[nodiscard]] bool mayWriteTo(app::App& app, const std::string& target);
 // Writes the text of the database into the work folder, where the platform keeps one.
 void keepDataFile(app::App& app, const std::string& bytes);
 // Puts it into the open archive.
@@ -19,6 +19,6 @@ void addData(file::Zip& Zip, const std::string& bytes);
 // A new archive that holds the text of the database alone.
 void packAlone(const std::string& target, const std::string& bytes);
 // Says that the database could not be written, and answers why.
-core::RunTimeError tellFailure(app::App& app, bool bSaveAs, const std::exception& error);
+[[nodiscard]] core::RunTimeError tellFailure(app::App& app, bool bSaveAs, const std::exception& error);
 
 } // namespace storage
