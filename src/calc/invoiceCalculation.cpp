@@ -185,6 +185,28 @@ void RecalculateSegmentedTotals(app::App& app, int rowIndex, RecordsList& list) 
     }
 }
 
+namespace {
+
+// The expression with the amounts of the record in the place of its columns. One of them asks for decimals.
+std::string withOperands(const RecordsList& list, const Item& record,
+                         const std::vector<std::string_view>& tokens, bool& bDecimal) {
+    std::string joined;
+    for (const std::string_view token : tokens) {
+        const Column* column = columnOf(list, token);
+        const std::string_view operand =
+            column == nullptr ? std::string_view() : core::trim(RecordsList::cell(record, *column));
+        if (column != nullptr && column->isType(core::ColumnType::Currency)) bDecimal = true;
+        if (hasPoint(operand)) bDecimal = true;
+        if (core::isNumeric(operand))
+            joined += Currency::parse(operand).text();
+        else
+            joined += token;
+    }
+    return joined;
+}
+
+} // namespace
+
 std::optional<std::string> RecalculateNormalInvoiceColumns(app::App& app, int rowIndex, RecordsList& list) {
     Item& record = list.at(rowIndex);
     const ItemColumns items(app.document);
@@ -204,18 +226,7 @@ std::optional<std::string> RecalculateNormalInvoiceColumns(app::App& app, int ro
                 continue;
             }
             bool bDecimal = false;
-            std::string joined;
-            for (const std::string_view token : tokens) {
-                const Column* column = columnOf(list, token);
-                const std::string_view operand =
-                    column == nullptr ? std::string_view() : core::trim(RecordsList::cell(record, *column));
-                if (column != nullptr && column->isType(core::ColumnType::Currency)) bDecimal = true;
-                if (hasPoint(operand)) bDecimal = true;
-                if (core::isNumeric(operand))
-                    joined += Currency::parse(operand).text();
-                else
-                    joined += token;
-            }
+            const std::string joined = withOperands(list, record, tokens, bDecimal);
             armed = true;
             const double result = evaluate(joined);
             cell = resultText(result, bDecimal || hasPoint(joined));

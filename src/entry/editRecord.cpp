@@ -112,7 +112,7 @@ addRecords(App& app, int count, const std::function<void(int row, std::vector<Bo
     requireKeys(document, count);
     std::vector<calc::Uncalculated> failed;
     if (count < 1) return failed;
-    records.reserve(static_cast<std::size_t>(records.count() + count));
+    records.reserve(static_cast<std::size_t>(records.count()) + static_cast<std::size_t>(count));
     calc::RowCalculator formulas(app, records);
     std::vector<const Item*> added;
     std::vector<BoxText> boxes;

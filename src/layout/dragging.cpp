@@ -57,24 +57,32 @@ void moveTo(App& app, LayoutObject& object, long X, long Y) {
     page.ruler2.line = object.Top;
 }
 
+// A line keeps its thickness.
+void sizeFreely(const LayoutPage& page, LayoutObject& object, long X, long Y) {
+    if (page.dragged.family != Family::vLine) object.Width = static_cast<float>(X) - object.Left;
+    if (page.dragged.family != Family::pbLine) object.Height = static_cast<float>(Y) - object.Top;
+}
+
+void sizeByGrid(LayoutPage& page, LayoutObject& object, long X, long Y) {
+    if (hasTravelled(X, page.lastX)) {
+        if (page.dragged.family != Family::vLine)
+            object.Width = snapped(static_cast<double>(X) - object.Left);
+        page.lastX = X;
+    }
+    if (hasTravelled(Y, page.lastY)) {
+        if (page.dragged.family != Family::pbLine)
+            object.Height = snapped(static_cast<double>(Y) - object.Top);
+        page.lastY = Y;
+    }
+}
+
 void sizeTo(App& app, LayoutObject& object, long X, long Y) {
     LayoutPage& page = app.mainFrm.layoutPage;
-    const bool hasWidth = page.dragged.family != Family::vLine; // a line keeps its thickness
-    const bool hasHeight = page.dragged.family != Family::pbLine;
     if (static_cast<float>(X) > object.Left && static_cast<float>(Y) > object.Top) {
-        if (app.mainFrm.bSnapToGrid) {
-            if (hasTravelled(X, page.lastX)) {
-                if (hasWidth) object.Width = snapped(static_cast<double>(X) - object.Left);
-                page.lastX = X;
-            }
-            if (hasTravelled(Y, page.lastY)) {
-                if (hasHeight) object.Height = snapped(static_cast<double>(Y) - object.Top);
-                page.lastY = Y;
-            }
-        } else {
-            if (hasWidth) object.Width = static_cast<float>(X) - object.Left;
-            if (hasHeight) object.Height = static_cast<float>(Y) - object.Top;
-        }
+        if (app.mainFrm.bSnapToGrid)
+            sizeByGrid(page, object, X, Y);
+        else
+            sizeFreely(page, object, X, Y);
     }
     if (const core::LayoutField* head = headOf(app, page.dragged)) stackCopies(app, *head, true);
     placeHandle(app, page.dragged);

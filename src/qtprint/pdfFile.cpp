@@ -33,7 +33,7 @@ public:
 protected:
     qint64 readData(char*, qint64) override { return -1; }
     qint64 writeData(const char* bytes, qint64 count) override {
-        constexpr std::size_t most = 64 * 1024;
+        constexpr std::size_t most = std::size_t{64} * 1024;
         buffer_.append(bytes, static_cast<std::size_t>(count));
         if (buffer_.size() >= most) flush();
         return failure_ == 0 ? count : -1;

@@ -22,6 +22,13 @@ constexpr qreal tilePitch = twipsPerInch + 1; // the inches stand a twip further
 constexpr QSizeF verticalMarker(135, 105);
 constexpr QSizeF horizontalMarker(120, 105);
 
+// Of a mark within its inch, as a share of the ruler's thickness.
+qreal markLength(int mark) {
+    if (mark == 0) return 1;
+    if (mark % 4 == 0) return 0.5;
+    return mark % 2 == 0 ? 0.35 : 0.2;
+}
+
 } // namespace
 
 RulerView::RulerView(app::App& app, EventBoundary& events, Qt::Orientation orientation, QWidget* parent)
@@ -69,13 +76,12 @@ void RulerView::paintEvent(QPaintEvent*) {
             painter.drawLine(QPointF(from, place), QPointF(to, place));
     };
     const qreal first = isHorizontal() ? firstTile * pixelsPerTwip_ : 0;
+    painter.setPen(palette().color(QPalette::Text));
     for (int inch = 0; first + inch * tilePitch * pixelsPerTwip_ <= length; ++inch) {
         const qreal start = first + inch * tilePitch * pixelsPerTwip_;
-        painter.setPen(palette().color(QPalette::Text));
         for (int mark = 0; mark < marksPerInch; ++mark) {
             const qreal place = std::round(start + mark * twipsPerInch * pixelsPerTwip_ / marksPerInch) + 0.5;
-            const qreal share = mark == 0 ? 1 : mark % 4 == 0 ? 0.5 : mark % 2 == 0 ? 0.35 : 0.2;
-            line(place, thickness * (1 - share), thickness);
+            line(place, thickness * (1 - markLength(mark)), thickness);
         }
         const QPointF label = isHorizontal() ? QPointF(start + 3, thickness * 0.55) : QPointF(2, start + 11);
         painter.drawText(label, QString::number(inch));

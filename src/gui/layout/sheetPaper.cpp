@@ -54,10 +54,11 @@ void SheetPaper::paintEvent(QPaintEvent* event) {
 void SheetPaper::paintGrid(QPainter& painter, const QRect& part) const {
     const qreal step = app::gridStep * pixelsPerTwip_;
     QList<QPointF> dots;
-    for (qreal x = std::max<qreal>(1, std::floor(part.left() / step)) * step; x <= part.right(); x += step)
-        for (qreal y = std::max<qreal>(1, std::floor(part.top() / step)) * step; y <= part.bottom();
-             y += step)
-            dots.append(QPointF(std::round(x), std::round(y)));
+    const auto first = [&](int edge) { return std::max(1, static_cast<int>(std::floor(edge / step))); };
+    const auto last = [&](int edge) { return static_cast<int>(std::floor(edge / step)); };
+    for (int column = first(part.left()); column <= last(part.right()); ++column)
+        for (int row = first(part.top()); row <= last(part.bottom()); ++row)
+            dots.append(QPointF(std::round(column * step), std::round(row * step)));
     painter.setPen(QColor::fromRgba(dotColor));
     painter.drawPoints(dots.constData(), int(dots.size()));
 }

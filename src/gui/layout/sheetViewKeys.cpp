@@ -96,8 +96,8 @@ bool SheetView::paperKey(const QKeyEvent& key) {
         const LayoutPage::Grip& grip = app_.mainFrm.layoutPage.Handle;
         const long x = std::lround(grip.Left), y = std::lround(grip.Top);
         // With the snap a drag counts from just beyond one step of the grid.
-        const int step = static_cast<int>(app_.mainFrm.bSnapToGrid ? app::gridStep + 1
-                                                                   : app_.mainFrm.layoutPage.TwipsPerPixelX);
+        const long step = static_cast<long>(
+            app_.mainFrm.bSnapToGrid ? app::gridStep + 1 : app_.mainFrm.layoutPage.TwipsPerPixelX);
         layout::Handle_MouseDown(app_, x, y);
         if (app_.mainFrm.layoutPage.drag == LayoutPage::Drag::Resize)
             layout::dragTo(app_, x + step * ((code == layout::keyRight) - (code == layout::keyLeft)),
