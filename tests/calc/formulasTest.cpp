@@ -83,20 +83,20 @@ TEST(Formulas, ResultsByWhatTheCellsHold) {
     // even one. What is no number leaves the name, which is worth 0. A further comma ends the expression; a
     // token with its sign is no column's name. What fails leaves the cell.
     for (const auto& c :
-         table("6 / 3 -> 2; 6/3 -> 2; 7 / 2 -> $3.50; 1 / 2 -> $.50; 2 / 3 -> $.67; 1 - 2 -> -1; "
+         table("6 / 3 -> 2; 7 / 2 -> $3.50; 2 / 3 -> $.67; 1 - 2 -> -1; "
                "0 - 7 / 2 -> -$3.50; 12345 * 1000 -> 12345000; 1 / 100000 -> 1E-05; "
                "1000000 * 1000000000 -> 1E+15; 1234567.891 * 1000 -> $1,234,567,891.00; 0.5 + 0.5 -> $1.00; "
                "1.0 - 1 -> $.00; Price -> $1,234.50 ->  -> $1,234.50; Price * 2 -> $20.00 ->  -> 10; "
-               "Price * 2 -> $.00; Price - 5 -> -$7.50 ->  -> ($2.50); Price -> -$1,000.00 ->  -> (1,000); "
+               "Price - 5 -> -$7.50 ->  -> ($2.50); Price -> -$1,000.00 ->  -> (1,000); "
                "Qty + Qty -> $5.00 -> 2.5; Qty + 1 -> $1.00 -> approx.; Name + 1 -> 1; Qty -> 7 ->   7 ; "
-               "Qty -> 1234 -> 1,234; Qty -> 7 -> $7; Qty * 2 -> 2000 -> 1e3; 10 - Qty -> 15 -> -5; "
-               "10 - Qty -> 15 -> (5); 10 - Qty -> 15 -> 5-; 10 * Qty -> -20 -> -2; "
+               "Qty -> 7 -> $7; Qty * 2 -> 2000 -> 1e3; "
+               "10 - Qty -> 15 -> (5); 10 * Qty -> -20 -> -2; "
                "Qty * 10000 -> $2.00 -> 0.00015; Qty * 10000 -> $2.00 -> 0.00025; Qty * 2 -> 0; "
-               "Qty * 2 -> 0 ->    ; Qty + 3 -> 3 -> a dozen; Qty + 3 -> 3 -> 1@2@; Day + 3 -> 3; "
+               "Qty * 2 -> 0 ->    ; Qty + 3 -> 3 -> a dozen; Day + 3 -> 3; "
                "qTY * 2 -> 8 -> 4; Qty5 + 1 -> 1 -> 4; PriceQty + 1 -> 1 -> 4 -> $2.00; 1 2 + 3 -> 15; "
                "Qty 5 -> 45 -> 4; Qty Qty -> -8 -> -4;  ( Qty + 2 )  / 2   -> 3 -> 4; Qty + 1,5 -> 5 -> 4; "
                "Index + 1 -> 1; 2 * -Qty -> 0; Undefined -> Undefined; 1 / Qty -> told old -> 0; "
-               "1 / Qty -> told old; 1 / Qty -> told old -> 0.00001; 1 + -> told old; ( 1 -> told old; "
+               "1 / Qty -> told old; 1 + -> told old; ( 1 -> told old; "
                "5 Qty -> told old; Qty Qty ) -> told old -> 1; 1 + + * 2 -> told old;  -> told old; "
                "Qty ^ 2 -> told old -> 3; #! -> told old; Mod -> told old; 1e308 * 10 -> told old; "
                "Next + 1 -> 5; Next + Day -> 4", // a word of the script language, while the cell is a number
@@ -130,11 +130,6 @@ TEST(Formulas, ARowOfSeveral) {
         Program program(DataFile("Qty:4 A:5 B:5 C:5", c[1]).section("Formulas", c[0] + "|"));
         EXPECT_EQ(calculated(program), c[2]) << c[0] << " of " << c[1];
     }
-    Program program(DataFile("Next:4 Undefined_Sum:5 undefined_sum2:5", "|2|3")
-                        .section("Formulas", "Undefined_Sum,1 + 1|undefined_sum2,1 + 1|"));
-    EXPECT_EQ(calculated(program), "|Undefined|2|");
-    program.formula("Next", "Next + 1");
-    EXPECT_EQ(calculated(program), "told |Undefined|2|") << "its cell is empty";
 }
 
 TEST(Formulas, TheOrderOfEvaluationIsOneExchangePass) {

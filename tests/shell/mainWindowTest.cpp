@@ -31,35 +31,54 @@ struct MainWindow : testing::Test, Program {
         for (const shell::Menu& menu : shell::menuBar()) append(menu.items);
         return all;
     }
-    // What a command brings up.
+    // What has come up since the last look.
+    std::string broughtUp() {
+        std::string all = dialogs();
+        all.erase(std::min(all.find('/'), all.size()));
+        for (const std::string& form : std::exchange(platform.forms, {})) all += form;
+        return all + told();
+    }
     std::string shown(const std::string& key) {
-        platform.forms.clear();
         run(key.c_str());
-        const std::string dialog = dialogs();
-        return (platform.forms.empty() ? "" : platform.forms[0]) + dialog.substr(0, dialog.find('/')) +
-               told();
+        return broughtUp();
     }
-    // The tab and what is printed from it, with what goes on and off by it.
-    std::string tab(int index) {
-        shell::SSTab1_Click(app, index);
-        std::string all = std::to_string(mainFrm.SSTab1) + std::to_string(mainFrm.iPrintMode);
-        for (const char* key : {"Totals", "Properties", "Delete"})
-            if (mainFrm.control(key).Enabled) all += " " + std::string(key);
-        return all + (mainFrm.invoiceFrameVisible ? " frame" : "") + (LV.MultiSelect ? " LV" : "") +
-               (results.MultiSelect ? " results" : "");
+    // The tab and what is printed from it; the buttons that are off and pressed; the frame of the invoices,
+    // the list on view, the one that commands work on, and whether many can be selected in the records; the
+    // current record and how many there are; what has come up.
+    std::string state() {
+        std::string all = std::to_string(mainFrm.SSTab1) + std::to_string(mainFrm.iPrintMode) + " ";
+        for (const char* key : {"Totals", "Properties", "Delete", "Formulas"})
+            if (!mainFrm.control(key).Enabled) all += key[0];
+        for (const char* key : {"Totals", "Search", "Design"})
+            if (mainFrm.control(key).Value) all += static_cast<char>(key[0] + 32);
+        all += (mainFrm.invoiceFrameVisible ? " f " : " ") + shell::visibleList(app).Name + "/" +
+               mainFrm.theListView->Name + (LV.MultiSelect ? "+ " : " ");
+        const core::Item* record = LV.selectedItem();
+        return all + (record == nullptr ? "none" : record->Key.str()) + "/" + std::to_string(LV.count()) +
+               " " + broughtUp();
     }
-    std::string doubleClick(RecordsList& list) {
-        platform.forms.clear();
-        mainFrm.SSTab1 = app::reportTab;
-        shell::list_DblClick(app, list);
-        if (mainFrm.SSTab1 == app::layoutTab) return "layout";
-        return platform.forms.empty() ? told() : platform.forms[0];
+    // Acts and the state after each: "open books", "tab 1", "row 2" of the list on view, "find KEY", "view
+    // 0", "double" for a click, or a command.
+    void play(std::string_view acts) {
+        for (const auto& c : table(acts)) {
+            const std::string what = c[0].substr(0, c[0].find(' ')), which = c[0].substr(c[0].rfind(' ') + 1);
+            RecordsList& list = shell::visibleList(app);
+            if (what == "open") openCopyOf(which + ".fwk");
+            if (what == "tab") shell::SSTab1_Click(app, std::stoi(which));
+            if (what == "row") list.setSelectedItem(&list.at(std::stoi(which)));
+            if (what == "find") find(which);
+            if (what == "view") shell::viewOpt_Click(app, std::stoi(which));
+            if (what == "double") shell::list_DblClick(app, list);
+            platform.answers = {Answer::Yes};
+            if (shell::hasCommand(what)) run(what.c_str());
+            EXPECT_EQ(state(), c[1]) << c[0];
+        }
     }
-    // Results on view, as a search leaves them.
-    void find(std::initializer_list<const char*> keys) {
+    // Results on view, as a search leaves them: one record, or none.
+    void find(const std::string& key) {
         search::takeOverColumns(app);
         core::addTotalsRow(results);
-        for (const char* key : keys) results.add(key, key).Tag = key;
+        if (LV.find(key) != nullptr) results.add(key, key).Tag = key;
         core::moveTotals(results);
         results.Visible = mainFrm.control("Search").Value = true;
         mainFrm.theListView = &results;
@@ -157,68 +176,40 @@ TEST_F(MainWindow, ToolsWorkOverSearchResultsAndFromEveryTab) {
         if (form == "designFrm") calc::addColumn(document, "C" + std::to_string(mainFrm.SSTab1), "3");
         LV.at(2).cells[1] = "20";
     };
-    for (const int at : {app::reportTab, app::layoutTab}) {
-        run("Search");
-        EXPECT_EQ(tab(app::layoutTab), "12 LV");
-        for (const bool pressed : {true, false}) {
-            run("mnuSelectedTotals");
-            EXPECT_TRUE(document.LV3.Visible == pressed && mainFrm.control("Totals").Value == pressed);
-        }
-        run("mnuExpressionEditor");
-        EXPECT_EQ(results.at(1).cells[1], "20");
-        LV.MultiSelect = false;
-        EXPECT_EQ(tab(app::reportTab), "01 Totals Properties LV results");
-        mainFrm.SSTab1 = at;
-        run("mnuDatabaseProperties");
-        EXPECT_EQ(mainFrm.theListView, &LV);
-        EXPECT_EQ(mainFrm.control("Delete").Enabled, at == app::reportTab);
-        EXPECT_EQ(mainFrm.layoutPage.fieldMenu.back(), "C" + std::to_string(at));
-    }
+    play("Search -> 01 DFs searchLV/searchLV+ i1/3 searchFrm; tab 1 -> 12 TPDFs searchLV/searchLV+ i1/3 ; "
+         "mnuSelectedTotals -> 12 TPDFts searchLV/searchLV+ i1/3 ; "
+         "mnuExpressionEditor -> 12 TPDFts searchLV/searchLV+ i1/3 formulateFrm");
+    EXPECT_EQ(results.at(1).cells[1], "20");
+    play("tab 0 -> 01 DFts searchLV/searchLV+ i1/3 ; mnuDatabaseProperties -> 01 t LV/LV+ i1/3 designFrm; "
+         "Search -> 01 DFts searchLV/searchLV+ i1/3 searchFrm; tab 1 -> 12 TPDFts searchLV/searchLV+ i1/3 ; "
+         "mnuSelectedTotals -> 12 TPDFs searchLV/searchLV+ i1/3 ; "
+         "mnuDatabaseProperties -> 12 TPD LV/LV+ i1/3 designFrm");
+    EXPECT_FALSE(document.LV3.Visible);
+    EXPECT_EQ(mainFrm.layoutPage.fieldMenu, (std::vector<std::string>{"A", "B", "C0", "C1"}));
 }
 
-TEST_F(MainWindow, DeleteWorksOnTheRecordsOnViewAlone) {
-    // Records, the layout, the preview, results, invoices, their items.
-    for (const int state : {0, 1, 2, 3, 6, 9}) {
-        openCopyOf(state > 3 ? "invoices.fwk" : "books.fwk");
-        if (state == 9) shell::viewOpt_Click(app, 0);
-        mainFrm.SSTab1 = state % 3;
-        results.Visible = state == 3;
-        const int before = LV.count();
-        platform.answers = {Answer::Yes};
-        EXPECT_EQ(shown("Delete").empty(), state % 6 != 0) << state;
-        EXPECT_EQ(LV.count(), before - (state % 6 == 0 ? 1 : 0)) << state;
-    }
-}
-
-TEST_F(MainWindow, Tabs) {
-    openCopyOf("books.fwk");
-    LV.at(3).Selected = true;
-    EXPECT_EQ(tab(app::layoutTab), "12 results");
-    EXPECT_TRUE(LV.at(1).Selected && !LV.at(3).Selected) << "the one that is shown";
-    EXPECT_EQ(tab(app::previewTab), "22 results") << "what the tab before it prints";
-    EXPECT_EQ(tab(app::reportTab), "01 Totals Properties Delete LV results");
-    openCopyOf("invoices.fwk");
-    iLV.setSelectedItem(&iLV.at(3));
-    EXPECT_EQ(tab(app::layoutTab), "12 results");
-    EXPECT_EQ(LV.selectedItem(), &LV.byKey("i3"));
-    EXPECT_EQ(tab(app::reportTab), "01 Totals Properties Delete frame LV results");
-    find({});
-    EXPECT_EQ(tab(app::layoutTab), "01 Totals Properties frame LV results") << "there is none to show";
-    find({"i1"});
-    EXPECT_EQ(tab(app::layoutTab), "12 LV");
-    EXPECT_EQ(LV.selectedItem(), &LV.byKey("i1"));
-}
-
-TEST(PrinterCheck, WithoutAPrinterTheTabStays) {
-    struct : ScriptedPlatform {
-        std::string printerDeviceName() override { core::raise(core::errors::deviceIO); }
-    } platform;
-    app::App app{platform};
-    for (const int tab : {app::reportTab, app::layoutTab, app::previewTab}) {
-        shell::SSTab1_Click(app, tab);
-        EXPECT_EQ(app.mainFrm.SSTab1, app::reportTab);
-        EXPECT_EQ(platform.messages.size(), static_cast<std::size_t>(tab));
-    }
+TEST_F(MainWindow, TabsListsAndViews) {
+    mainFrm.bConfirmDelete = false;
+    play("open books -> 01  LV/LV+ i1/43 ; row 3 -> 01  LV/LV+ i3/43 ; tab 1 -> 12 TPD LV/LV i3/43 ; "
+         "Delete -> 12 TPD LV/LV i3/43 ; "
+         "tab 2 -> 22 TPD LV/LV i3/43 i Printer Not Installed: You need to first install a printer on this "
+         "system.; "
+         "Delete -> 22 TPD LV/LV i3/43 ; tab 0 -> 01  LV/LV+ i3/43 ; double -> 01  LV/LV+ i3/43 entryFrm; "
+         "Delete -> 01  LV/LV+ i4/42 ; find i5 -> 01 s searchLV/searchLV+ i4/42 ; "
+         "Delete -> 01 s searchLV/searchLV+ i4/42 ; double -> 12 TPDs searchLV/searchLV+ i4/42 ; "
+         "tab 0 -> 01 Ds searchLV/searchLV+ i4/42 ; find none -> 01 Ds searchLV/searchLV+ i4/42 ; "
+         "double -> 01 Ds searchLV/searchLV+ i4/42 ; Search -> 01  LV/LV+ i4/42 ");
+    mainFrm.control("mnuLayoutDoubleClick").Enabled = false; // not whether it is checked
+    play("find i5 -> 01 s searchLV/searchLV+ i4/42 ; double -> 01 s searchLV/searchLV+ i4/42 entryFrm");
+    play("open invoices -> 01  f iLV/LV+ i1/5 ; row 3 -> 01  f iLV/LV+ i1/5 ; tab 1 -> 12 TPD iLV/LV i3/5 ; "
+         "tab 0 -> 01  f iLV/LV+ i3/5 ; view 0 -> 01 D f iLV/LV+ i3/5 ; Delete -> 01 D f iLV/LV+ i3/5 ; "
+         "double -> 12 TPD iLV/LV i4/5 ; tab 0 -> 01  f iLV/LV+ i4/5 ; "
+         "find i1 -> 01 s f searchLV/searchLV+ i4/5 ; view 1 -> 01  f iLV/LV+ i4/5 ; "
+         "Delete -> 01  f iLV/LV+ i3/4 ; find none -> 01 s f searchLV/searchLV+ i3/4 ; "
+         "tab 1 -> 01 Ds f searchLV/searchLV+ i3/4 ; double -> 01 Ds f searchLV/searchLV+ i3/4 ; "
+         "find i1 -> 01 Ds f searchLV/searchLV+ i3/4 ; tab 1 -> 12 TPDs searchLV/searchLV+ i1/4 ; "
+         "tab 0 -> 01 Ds f searchLV/searchLV+ i1/4 ; find i2 -> 01 Ds f searchLV/searchLV+ i1/4 ; "
+         "double -> 12 TPDs searchLV/searchLV i2/4 ");
 }
 
 TEST_F(MainWindow, AHeaderClickSortsAndTogglesAcrossColumns) {
@@ -233,9 +224,9 @@ TEST_F(MainWindow, AHeaderClickSortsAndTogglesAcrossColumns) {
         EXPECT_TRUE(LV.MultiSelect && mainFrm.listScroll == app::ListScroll::Stay);
     }
     EXPECT_FALSE(document.bModified) << "an order is no change";
-    tab(app::layoutTab);
+    shell::SSTab1_Click(app, app::layoutTab);
     open(document.currentFile);
-    tab(app::layoutTab);
+    shell::SSTab1_Click(app, app::layoutTab);
     shell::list_ColumnClick(app, LV, 2); // another database goes on toggling
     EXPECT_EQ(mainFrm.layoutPage.shownKey, "i2") << "the last one is the current one now";
     open(DataFile("Name", ""));
@@ -243,14 +234,12 @@ TEST_F(MainWindow, AHeaderClickSortsAndTogglesAcrossColumns) {
     EXPECT_FALSE(LV.Sorted || LV.SortOrder == 0) << "with one item nothing is sorted";
     // The first column of the invoice list names the records shown, so a sort must leave it alone.
     openCopyOf("invoices.fwk");
-    for (const char* keys : {"i4i3i2i1", "i1i2i3i4"}) {
+    for (const bool isUp : {false, true}) {
         shell::list_ColumnClick(app, iLV, iLV.columns["Day"].Index);
-        std::string shown;
         for (int row = 1; row < 5; ++row) {
-            shown += iLV.at(row).Text.str();
-            EXPECT_EQ(iLV.at(row).cells[0], LV.byKey(iLV.at(row).Text).cells[0]);
+            const int number = isUp ? row : 5 - row;
+            EXPECT_EQ(iLV.at(row).Text.str() + iLV.at(row).cells[0].str(), "i" + std::to_string(number * 11));
         }
-        EXPECT_EQ(shown, keys);
     }
 }
 
@@ -263,28 +252,10 @@ TEST_F(MainWindow, DoubleClicks) {
                3)) {
         mainFrm.bLayoutDblClick = c[2] == "option";
         open(DataFile(c[0], "a").section("DatabaseStyle", c[2] == "True" ? "True" : "False"));
-        EXPECT_EQ(&shell::visibleList(app), c[2] == "True" ? &iLV : &LV);
         LV.MultiSelect = false;
-        EXPECT_EQ(doubleClick(LV), c[1]) << c[0] << c[2];
+        shell::list_DblClick(app, LV);
+        EXPECT_EQ(mainFrm.SSTab1 == app::layoutTab ? "layout" : broughtUp(), c[1]) << c[0] << c[2];
         EXPECT_EQ(LV.MultiSelect, c[1] != "layout");
-    }
-    // Over results it is asked whether the option can be chosen, not whether it is.
-    open(DataFile("A", "a;b"));
-    find({});
-    EXPECT_EQ(doubleClick(results), "") << "the sums alone";
-    find({"i2"});
-    EXPECT_EQ(&shell::visibleList(app), &results);
-    for (const bool isEnabled : {true, false}) {
-        mainFrm.control("mnuLayoutDoubleClick").Enabled = isEnabled;
-        EXPECT_EQ(doubleClick(results), isEnabled ? "layout" : "entryFrm");
-    }
-    openCopyOf("invoices.fwk");
-    for (RecordsList* list : {&iLV, &results}) {
-        if (list == &results) find({"i3"});
-        EXPECT_EQ(doubleClick(*list), "layout");
-        EXPECT_EQ(LV.selectedItem(), &LV.byKey(list == &iLV ? "i4" : "i3"));
-        list->setSelectedItem(nullptr);
-        EXPECT_EQ(doubleClick(*list), "") << "on no row";
     }
     for (const int key : {16, 17}) { // Shift, and Ctrl
         shell::list_KeyDown(app, key);
@@ -294,19 +265,15 @@ TEST_F(MainWindow, DoubleClicks) {
     EXPECT_FALSE(mainFrm.bCtrlDown);
 }
 
-// Each view of the invoices keeps its columns' places, and leaves results that nobody sees any more.
+// Each view of the invoices keeps its columns' places and what is printed.
 TEST_F(MainWindow, TheViewsOfAnInvoiceDatabase) {
     openCopyOf("invoices.fwk");
     document.prnItemCols.add("Item", "Item");
     iLV.columns.setPosition(4, 2);
     const std::vector<int> moved = iLV.columns.displayOrder();
-    for (const int view : {0, 1, 0}) {
-        find({"i1"});
-        if (mainFrm.viewOpt == 0) results.Visible = false; // the list that commands work on stays then
+    for (const int view : {0, 1}) {
         shell::viewOpt_Click(app, view);
         EXPECT_TRUE(mainFrm.viewOpt == view && document.bInvoiceView == (view == 0));
-        EXPECT_FALSE(results.Visible || mainFrm.control("Search").Value);
-        EXPECT_EQ(mainFrm.theListView, view == 0 ? &LV : &results);
         EXPECT_EQ(iLV.columns.displayOrder() == moved, view == 1);
         EXPECT_EQ(text(document.printedCols), view == 0 ? "Item|" : "");
     }
