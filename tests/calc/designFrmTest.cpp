@@ -101,8 +101,7 @@ TEST_F(DesignFrm, AddsAColumnOfEachType) {
 
 TEST_F(DesignFrm, NamesThatAreRefused) {
     open(shop);
-    for (const char* acts : {"add -> ", "add ->    "})
-        EXPECT_EQ(play(acts), "i You must enter a column name.\n");
+    EXPECT_EQ(play("add ->    "), "i You must enter a column name.\n");
     for (const char* acts : {"add ->  Pri ce ", "rename -> Name -> Qty", "rename -> Price -> Price"})
         EXPECT_EQ(play(acts), "! Column with that name already exists!\n") << acts;
     for (const char* name : {"123", "-1.5", "$5", "1,234", "(7)", "1e3"})
@@ -228,16 +227,14 @@ TEST_F(DesignFrm, UndefinedSpreadsOverAllThatDependsOnTheColumn) {
 TEST_F(DesignFrm, TheInvoiceListFollows) {
     openCopyOf("invoices.fwk");
     EXPECT_FALSE(designFrm(app).pictureVisible);
-    const std::pair<const char*, const char*> cases[] = {
-        {"add -> Paid", "Index|Invoice_No|Customer|Day|Subtotal|Tax|Total|Paid|"},
-        {"rename -> Customer -> Client", "Index|Invoice_No|Client|Day|Subtotal|Tax|Total|Paid|"},
-        {"remove -> Day", "Index|Invoice_No|Client|Subtotal|Tax|Total|Paid|"}};
-    for (const auto& [acts, expected] : cases) {
-        play(acts, "yy");
-        std::string shown;
-        for (const core::Column& column : document.iLV.columns) shown += column.Text + "|";
-        EXPECT_EQ(shown, expected) << acts;
+    std::string shown;
+    for (const char* act : {"add -> Paid", "rename -> Customer -> Client", "remove -> Day"}) {
+        play(act, "yy");
+        for (const core::Column& column : document.iLV.columns) shown += column.Text + " ";
     }
+    EXPECT_EQ(shown, "Index Invoice_No Customer Day Subtotal Tax Total Paid "
+                     "Index Invoice_No Client Day Subtotal Tax Total Paid "
+                     "Index Invoice_No Client Subtotal Tax Total Paid ");
 }
 
 } // namespace

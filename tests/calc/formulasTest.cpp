@@ -55,10 +55,8 @@ TEST(Evaluator, DeepAndLongTexts) {
     EXPECT_EQ(outcome(repeated("(", 251) + "3" + repeated(")", 251)), "Syntax e");
     EXPECT_EQ(outcome(repeated("(1)+", 1000) + "0"), "1000") << "groups side by side are no nesting";
     EXPECT_EQ(outcome(repeated("-(", 1'000'000)), "Syntax e");
-    EXPECT_EQ(outcome("1" + repeated("*1/1", 250'000)), "1");
-    EXPECT_EQ(outcome(repeated("-", 1'000'001) + "1"), "-1");
-    EXPECT_EQ(outcome(repeated("a", 1'000'000) + "+1"), "1");
-    EXPECT_EQ(outcome(repeated("0", 1'000'000) + "7"), "7");
+    EXPECT_EQ(outcome(repeated("-", 1'000'001) + "1" + repeated("*1/1", 250'000)), "-1");
+    EXPECT_EQ(outcome(repeated("a", 1'000'000) + "+" + repeated("0", 1'000'000) + "7"), "7");
 }
 
 // Works out the first record. The error, or the cells after "told" when there was the message.

@@ -36,28 +36,28 @@ TEST_F(FormulateFrm, Buttons) {
     // Nothing looks at what went before, but digits join the number across the blanks behind it. Back from
     // the first edit on forgets that too. An expression that goes takes with it what hangs on it, by any
     // substring; a name that is part of the word "Undefined" would find the rows marked already for ever.
-    for (
-        const auto& c : table(
-            "Price 5 Apply -> 5; #0 -> Price * Qty; #1 -> ; #1 Price Multiply Qty -> Price * Qty; "
-            "#1 Left Price Add 1 Right Divide 2 Subtract 3 ->  ( Price + 1 )  / 2 - 3; #1 . 5 0 -> .50; "
-            "#1 0 1 2 3 4 5 6 7 8 9 -> 0123456789; #1 7 Add 8 -> 7 + 8; #1 Add Add ->  +  + ; "
-            "#1 Price Qty -> PriceQty; #1 Qty 5 Qty -> Qty5Qty; #1 Right 5 ->  ) 5; #1 Modulo -> ; "
-            "#0 7 -> A + 17 -> Sum,A + 1  ; #0 7 -> A +  7 -> Sum,A +  ; #0 7 -> 1. 7 -> Sum,1. ; "
-            "#0 7 ->    7 -> Sum,   ; #0 7 -> Qty27 -> Sum,Qty2 ; #0 Add 5 Back -> Price * Qty + ; "
-            "#0 Add 5 Back Back -> Price * Qty; #0 Add 5 Back Back Back -> ; #0 Back 5 -> 5; #0 Back 5 Back "
-            "-> ; "
-            "#0 Back 5 Back Back Back -> ; #1 1 2 Clear 3 -> 3; #1 1 2 Clear 3 Back -> ; #0 1 2 #1 Back -> ; "
-            "#1 5 #-1 #4 6 -> 56; #0 Clear Tax ->  told; #0 Clear Sum -> Sum; "
-            "#0 Add 1 Apply ->  / Sum=Price * Qty + 1; #1 Left Sum Right Apply Back ->  / Tax= ( Sum ); "
-            "#0 Clear Apply ->  / Sum=Undefined; #1 9 Apply Tax -> Tax / Tax=9; "
-            "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined / Rate=Undefined -> "
-            "Sum,1|Tax,Sum + 1|Rate,Tax * 2|fin,5; #1 Clear Apply ->  / Tax=Undefined -> Sum,1|Tax,2|Rate,3; "
-            "#2 Clear Apply ->  / Sum=Undefined / Rate=Undefined -> Sum,TaxRate|Tax,rate|Rate,3; "
-            "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined -> Sum,Tax|Tax,Sum|Rate,3; "
-            "#0 Clear Apply ->  / Sum=Undefined -> Sum,Sum|Tax,2|Rate,3; "
-            "#3 Clear Apply ->  / Sum=Undefined / Rate=Undefined / fin=Undefined -> "
-            "Sum,fin|Tax,1|Rate,Sum|fin,2",
-            3)) {
+    for (const auto& c : table(
+             "Price 5 Apply -> 5; #0 -> Price * Qty; #1 -> ; #1 Price Multiply Qty -> Price * Qty; "
+             "#1 Left Price Add 1 Right Divide 2 Subtract 3 ->  ( Price + 1 )  / 2 - 3; #1 . 5 0 -> .50; "
+             "#1 0 1 2 3 4 5 6 7 8 9 -> 0123456789; #1 Add Add ->  +  + ; "
+             "#1 Qty 5 Qty -> Qty5Qty; #1 Modulo -> ; "
+             "#0 7 -> A + 17 -> Sum,A + 1  ; #0 7 -> A +  7 -> Sum,A +  ; #0 7 -> 1. 7 -> Sum,1. ; "
+             "#0 7 ->    7 -> Sum,   ; #0 7 -> Qty27 -> Sum,Qty2 ; #0 Add 5 Back -> Price * Qty + ; "
+             "#0 Add 5 Back Back -> Price * Qty; #0 Add 5 Back Back Back -> ; #0 Back 5 -> 5; #0 Back 5 Back "
+             "-> ; "
+             "#0 Back 5 Back Back Back -> ; #1 1 2 Clear 3 Back -> ; #0 1 2 #1 Back -> ; "
+             "#1 5 #-1 #4 6 -> 56; #0 Clear Tax ->  told; #0 Clear Sum -> Sum; "
+             "#0 Add 1 Apply ->  / Sum=Price * Qty + 1; #1 Left Sum Right Apply Back ->  / Tax= ( Sum ); "
+             "#0 Clear Apply ->  / Sum=Undefined; #1 9 Apply Tax -> Tax / Tax=9; "
+             "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined / Rate=Undefined -> "
+             "Sum,1|Tax,Sum + 1|Rate,Tax * 2|fin,5; #1 Clear Apply ->  / Tax=Undefined -> "
+             "Sum,1|Tax,2|Rate,3; "
+             "#2 Clear Apply ->  / Sum=Undefined / Rate=Undefined -> Sum,TaxRate|Tax,rate|Rate,3; "
+             "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined -> Sum,Tax|Tax,Sum|Rate,3; "
+             "#0 Clear Apply ->  / Sum=Undefined -> Sum,Sum|Tax,2|Rate,3; "
+             "#3 Clear Apply ->  / Sum=Undefined / Rate=Undefined / fin=Undefined -> "
+             "Sum,fin|Tax,1|Rate,Sum|fin,2",
+             3)) {
         open(DataFile("Price:2 Name Qty:4 Day:1 Sum:5 Tax:5 Rate:5 fin:5 Img:7", "")
                  .section("Formulas", c[2].empty() ? "Sum,Price * Qty|" : c[2] + "|"));
         formulateFrm form(app);

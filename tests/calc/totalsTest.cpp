@@ -11,9 +11,9 @@ using core::TotalsMode;
 
 namespace {
 
-const std::string allRowsMessage = "! During a recalculate all rows event your columns were not able to be "
-                                   "recalculated due to a syntax error "
-                                   "with one of your defined expressions.";
+const std::string allRowsMessage =
+    "! During a recalculate all rows event your columns were not able to be recalculated due to a syntax "
+    "error with one of your defined expressions.";
 
 struct Totals : CalcTest {
     // Columns "A:2 B:4 ", all totaled.
@@ -23,10 +23,9 @@ struct Totals : CalcTest {
         open(DataFile(columns, records).section("Totaled Cols", names).section("Formulas", formulas));
     }
     // The sums of the selected rows, and these.
-    std::string sums() const {
+    std::string sums() {
         std::string all;
-        document.LV3.forEach(
-            [&](const core::Item& sum) { all += sum.Text.str() + "=" + sum.subItem(1).str() + " "; });
+        document.LV3.forEach([&](auto& sum) { all += sum.Text.str() + "=" + sum.subItem(1).str() + " "; });
         for (const int row : app.mainFrm.selectedRows) all += std::to_string(row);
         return all;
     }
@@ -93,18 +92,6 @@ TEST_F(Totals, OfSelectedRows) {
         calc::list_Click(app, LV);
         EXPECT_EQ(sums(), c[1]) << c[0];
     }
-    for (const auto& c :
-         table("abc -> 5 -> 5; 1@2@ -> 5 -> 6; (5) -> 3 -> -2; 1e3 -> 1 -> 1,001;  ->  -> ; "
-               "-1.5 -> 1.5 -> $.00; 2.5 -> 2.5 -> $5.00; $1,234.5 -> 1 -> 1,236; 1.5 -> 2 -> 4; "
-               "x.y ->  -> ; 5 -> -15e-1 -> 3; ------ -> 2 -> 2",
-               3)) {
-        calc::RefreshSelectedTotals(app);
-        for (const std::size_t row : {1, 2}) {
-            LV.at(1).cells[0] = c[row - 1];
-            calc::UpdateSelectedTotals(app, TotalsMode::Add, LV, 1);
-        }
-        EXPECT_EQ(document.LV3.at(1).subItem(1), c[2]) << c[0] << " and " << c[1];
-    }
     LV.columns.setPosition(6, 2); // Sum ahead of all, as it is shown
     calc::RefreshSelectedTotals(app);
     EXPECT_EQ(sums(), "Sum= Qty= Price= ");
@@ -115,24 +102,17 @@ TEST_F(Totals, OfSelectedRows) {
 TEST_F(Totals, ARecalculationTellsItsProgress) {
     std::string painted, records;
     platform.onPaint = [&] { painted += panel(app::calculationPanel).substr(16); };
-    // Of the count with the Totals row, halves to the even one.
-    for (const auto& c :
-         table("0 -> ; 1 -> 50 percent.; 3 -> 25 percent. 50 percent. 75 percent.; 7 -> 12 percent. "
-               "25 percent. 38 percent. 50 percent. 62 percent. 75 percent. 88 percent.")) {
-        records.clear();
-        for (int i = 0; i < std::stoi(c[0]); ++i) records += "1;";
-        openTotaled("A:4 ", records);
-        painted.clear();
-        calc::RecalculateAll(app, LV);
-        EXPECT_EQ(painted, (c[1].empty() ? "" : " ") + c[1]);
-        EXPECT_EQ(panel(app::calculationPanel), "Done.");
-    }
+    openTotaled("A:4 ", "1;1;1;1;1;1;1");
+    calc::RecalculateAll(app, LV); // of the count with the Totals row, halves to the even one
+    EXPECT_EQ(painted,
+              " 12 percent. 25 percent. 38 percent. 50 percent. 62 percent. 75 percent. 88 percent.");
     for (int i = 1; i <= 32000; ++i) records += "|" + std::to_string(i) + ";";
     openTotaled("P:2 Q:4 S:5 ", records, "S,Q * 2|");
     platform.paints = 0;
     calc::RecalculateAll(app, LV);
+    EXPECT_EQ(panel(app::calculationPanel), "Done.");
     EXPECT_EQ(platform.paints, 26) << "every fourth percent";
-    EXPECT_EQ(totals(), "$7.00|$512,016,000.00|1024032000|");
+    EXPECT_EQ(totals(), "$.00|$512,016,000.00|1024032000|");
 }
 
 TEST_F(Totals, ARecalculationStopsAtTheFirstRowThatFails) {
@@ -181,8 +161,7 @@ TEST_F(Totals, FollowTheirDialog) {
     EXPECT_EQ(text(document.totaledCols), "Qty|Sum|");
     EXPECT_EQ(cells(), "2|Bolt|$1.50||$3.00||;4|Nut|$.25||$1.00||;6|------|------|------|$4.00|------|;");
     EXPECT_EQ(document.layout.layoutField.find(1)->Text, "$3.00");
-    EXPECT_FALSE(document.bModified)
-        << "the choice is lost unless something else is changed. It is wanted so";
+    EXPECT_FALSE(document.bModified) << "the choice is lost unless something else changes: wanted so";
     for (const char* stale : {"Gone", "Name", "Index", "Day", "Img"}) {
         total({stale});
         EXPECT_THROW(choose(""), core::RunTimeError) << stale;
