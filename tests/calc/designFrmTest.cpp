@@ -113,8 +113,8 @@ TEST_F(DesignFrm, NamesThatAreRefused) {
     for (const char* acts : {"add -> price", "add -> INDEX"}) EXPECT_EQ(play(acts), notUnique);
     EXPECT_TRUE(play("rename -> Price -> qty").starts_with(labelsQuestion + notUnique));
     open(DataFile("A", "x"));
-    play("add -> 123; add -> a,b; add -> größe; add -> ___; add -> GRÖßE; rename -> A -> 1.5.2; rename -> "
-         "a,b -> c,d");
+    play("add -> 123; add -> a,b; add -> größe; add -> ___; add -> GRÖßE; rename -> A -> 1.5.2; "
+         "rename -> a,b -> c,d");
     EXPECT_EQ(saved()["Column Names"], "1.5.2|123|c,d|größe|___|");
     std::string acts;
     for (int i = 6; i <= 51; ++i) acts += "add -> C" + std::to_string(i) + "; ";
@@ -143,15 +143,15 @@ TEST_F(DesignFrm, RenamesEverywhereThatNamesTheColumn) {
     EXPECT_EQ(saved()["Increments"], "GONE,0|");
 }
 
-// Formulas are changed by plain substrings with a blank beside them, and as a whole under their own name.
+// Formulas are changed by plain substrings with a blank beside them, and as a whole under their own name. One
+// is changed twice. It is wanted so.
 TEST_F(DesignFrm, HowARenameChangesFormulas) {
-    for (const auto& c : table(
-             "Sum,Price + Tax -> Sum,Price + Duty; Sum,Tax + Price -> Sum,Duty + Price; Sum,Tax -> Sum,Tax; "
-             "Sum,SalesTax + 1 -> Sum,SalesDuty + 1; Sum,1 + TaxRate -> Sum,1 + DutyRate; Sum,SalesTax -> "
-             "Sum,SalesTax; Sum,tax + 1 -> Sum,tax + 1; Tax,Tax + SalesTax -> Duty,Duty + SalesDuty; "
-             "Tax,Undefined -> Duty,Undefined; Tax,C + Tax -> TaxB,C + TaxBB -> TaxB", // twice. It is wanted
-                                                                                       // so
-             3)) {
+    for (const auto& c : table("Sum,Price + Tax -> Sum,Price + Duty; Sum,Tax + Price -> Sum,Duty + Price; "
+                               "Sum,Tax -> Sum,Tax; Sum,SalesTax + 1 -> Sum,SalesDuty + 1; "
+                               "Sum,1 + TaxRate -> Sum,1 + DutyRate; Sum,SalesTax -> Sum,SalesTax; "
+                               "Sum,tax + 1 -> Sum,tax + 1; Tax,Tax + SalesTax -> Duty,Duty + SalesDuty; "
+                               "Tax,Undefined -> Duty,Undefined; Tax,C + Tax -> TaxB,C + TaxBB -> TaxB",
+                               3)) {
         open(DataFile("Tax:5").section("Formulas", c[0] + "|"));
         play("rename -> Tax -> " + (c[2].empty() ? "Duty" : c[2]));
         EXPECT_EQ(text(document.formulas), c[1] + "|") << c[0];

@@ -79,25 +79,24 @@ TEST(Formulas, ResultsByWhatTheCellsHold) {
     // money, and so is all with a point in the expression or in any cell, or of a Currency column. Cells may
     // have blanks, commas, signs, exponents and parentheses; they are taken to four decimals, a half to the
     // even one. What is no number leaves the name, which is worth 0. A further comma ends the expression; a
-    // token with its sign is no column's name. What fails leaves the cell.
+    // token with its sign is no column's name. What fails leaves the cell. Next is a
+    // word of the script language, and its cell a number.
     for (const auto& c :
-         table("6 / 3 -> 2; 7 / 2 -> $3.50; 2 / 3 -> $.67; 1 - 2 -> -1; "
-               "0 - 7 / 2 -> -$3.50; 12345 * 1000 -> 12345000; 1 / 100000 -> 1E-05; "
-               "1000000 * 1000000000 -> 1E+15; 1234567.891 * 1000 -> $1,234,567,891.00; 0.5 + 0.5 -> $1.00; "
-               "1.0 - 1 -> $.00; Price -> $1,234.50 ->  -> $1,234.50; Price * 2 -> $20.00 ->  -> 10; "
+         table("6 / 3 -> 2; 7 / 2 -> $3.50; 2 / 3 -> $.67; 1 - 2 -> -1; 0 - 7 / 2 -> -$3.50; "
+               "12345 * 1000 -> 12345000; 1 / 100000 -> 1E-05; 1000000 * 1000000000 -> 1E+15; "
+               "1234567.891 * 1000 -> $1,234,567,891.00; 0.5 + 0.5 -> $1.00; 1.0 - 1 -> $.00; "
+               "Price -> $1,234.50 ->  -> $1,234.50; Price * 2 -> $20.00 ->  -> 10; "
                "Price - 5 -> -$7.50 ->  -> ($2.50); Price -> -$1,000.00 ->  -> (1,000); "
                "Qty + Qty -> $5.00 -> 2.5; Qty + 1 -> $1.00 -> approx.; Name + 1 -> 1; Qty -> 7 ->   7 ; "
-               "Qty -> 7 -> $7; Qty * 2 -> 2000 -> 1e3; "
-               "10 - Qty -> 15 -> (5); 10 * Qty -> -20 -> -2; "
+               "Qty -> 7 -> $7; Qty * 2 -> 2000 -> 1e3; 10 - Qty -> 15 -> (5); 10 * Qty -> -20 -> -2; "
                "Qty * 10000 -> $2.00 -> 0.00015; Qty * 10000 -> $2.00 -> 0.00025; Qty * 2 -> 0; "
-               "Qty * 2 -> 0 ->    ; Qty + 3 -> 3 -> a dozen; Day + 3 -> 3; "
-               "qTY * 2 -> 8 -> 4; Qty5 + 1 -> 1 -> 4; PriceQty + 1 -> 1 -> 4 -> $2.00; 1 2 + 3 -> 15; "
-               "Qty 5 -> 45 -> 4; Qty Qty -> -8 -> -4;  ( Qty + 2 )  / 2   -> 3 -> 4; Qty + 1,5 -> 5 -> 4; "
-               "Index + 1 -> 1; 2 * -Qty -> 0; Undefined -> Undefined; 1 / Qty -> told old -> 0; "
-               "1 / Qty -> told old; 1 + -> told old; ( 1 -> told old; "
-               "5 Qty -> told old; Qty Qty ) -> told old -> 1; 1 + + * 2 -> told old;  -> told old; "
-               "Qty ^ 2 -> told old -> 3; #! -> told old; Mod -> told old; 1e308 * 10 -> told old; "
-               "Next + 1 -> 5; Next + Day -> 4", // a word of the script language, while the cell is a number
+               "Qty * 2 -> 0 ->    ; Qty + 3 -> 3 -> a dozen; Day + 3 -> 3; qTY * 2 -> 8 -> 4; "
+               "Qty5 + 1 -> 1 -> 4; PriceQty + 1 -> 1 -> 4 -> $2.00; 1 2 + 3 -> 15; Qty 5 -> 45 -> 4; "
+               "Qty Qty -> -8 -> -4;  ( Qty + 2 )  / 2   -> 3 -> 4; Qty + 1,5 -> 5 -> 4; Index + 1 -> 1; "
+               "2 * -Qty -> 0; Undefined -> Undefined; 1 / Qty -> told old -> 0; 1 / Qty -> told old; "
+               "1 + -> told old; ( 1 -> told old; 5 Qty -> told old; Qty Qty ) -> told old -> 1; "
+               "1 + + * 2 -> told old;  -> told old; Qty ^ 2 -> told old -> 3; #! -> told old; "
+               "Mod -> told old; 1e308 * 10 -> told old; Next + 1 -> 5; Next + Day -> 4",
                4)) {
         SCOPED_TRACE(c[0] + " of " + c[2] + " and " + c[3]);
         program.app.document.formulas.clear();
@@ -114,17 +113,17 @@ TEST(Formulas, ResultsByWhatTheCellsHold) {
 TEST(Formulas, ARowOfSeveral) {
     // Formulas read what the ones before them have written, and the first that fails is the last. What goes
     // wrong ahead of the first evaluation is no wrong expression.
-    for (const auto& c : table("B,A + 1|A,Qty / 2|C,A * 2 -> 3|1|1|1 -> 3|$1.50|2|$3.00|; "
-                               "A,Qty + 1|B,1 / Qty|C,2 -> 0|a|b|c -> told 0|1|b|c|; "
-                               "A,Undefined|B,1 + 1|C,fUndefinedx -> 1|a|b|c -> 1|Undefined|2|Undefined|; "
-                               "A,Undefined|C,1 Qty + -> 1|a|b|c -> told 1|Undefined|b|c|; "
-                               "A,Undefined|Gone,1 -> 1|a|b|c -> Element not found: Gone; "
-                               "Gone,Undefined -> 1|a|b|c -> Element not found: Gone; "
-                               "B,2|Gone,1 -> 1|a|b|c -> told 1|a|2|c|; "
-                               "A,Undefined|C,Qty + 1 -> 1e15|a|b|c -> Overflow: 1e15; "
-                               "C,Qty + 1 -> 1e999|a|b|c -> Overflow: 1e999; "
-                               "B,2|C,Qty + 1 -> 1e15|a|b|c -> told 1e15|a|2|c|",
-                               3)) {
+    for (const auto& c :
+         table("B,A + 1|A,Qty / 2|C,A * 2 -> 3|1|1|1 -> 3|$1.50|2|$3.00|; "
+               "A,Qty + 1|B,1 / Qty|C,2 -> 0|a|b|c -> told 0|1|b|c|; "
+               "A,Undefined|B,1 + 1|C,fUndefinedx -> 1|a|b|c -> 1|Undefined|2|Undefined|; "
+               "A,Undefined|C,1 Qty + -> 1|a|b|c -> told 1|Undefined|b|c|; "
+               "A,Undefined|Gone,1 -> 1|a|b|c -> Element not found: Gone; "
+               "Gone,Undefined -> 1|a|b|c -> Element not found: Gone; "
+               "B,2|Gone,1 -> 1|a|b|c -> told 1|a|2|c|; "
+               "A,Undefined|C,Qty + 1 -> 1e15|a|b|c -> Overflow: 1e15; "
+               "C,Qty + 1 -> 1e999|a|b|c -> Overflow: 1e999; B,2|C,Qty + 1 -> 1e15|a|b|c -> told 1e15|a|2|c|",
+               3)) {
         Program program(DataFile("Qty:4 A:5 B:5 C:5", c[1]).section("Formulas", c[0] + "|"));
         EXPECT_EQ(calculated(program), c[2]) << c[0] << " of " << c[1];
     }
@@ -133,11 +132,12 @@ TEST(Formulas, ARowOfSeveral) {
 TEST(Formulas, TheOrderOfEvaluationIsOneExchangePass) {
     // An exchange brings another entry to the end, and its name is looked for from there on; a full sort by
     // dependency would put B ahead of C. Any substring counts, in the name too, but not in another case.
-    for (const auto& c : table(" -> ; A,A + 1 -> A,A + 1; A,B + 1|B,2 -> B,2|A,B + 1; A,1|B,A -> A,1|B,A; "
-                               "X,Y|W,X|Y,1 -> Y,1|X,Y|W,X; X,Y|Z,W|Y,Z -> Z,W|Y,Z|X,Y; "
-                               "C,B|B,A|A,1 -> C,B|A,1|B,A; TaxRate,1|Tax,2 -> Tax,2|TaxRate,1; "
-                               "A,tax|Tax,1 -> A,tax|Tax,1; Sum,Undefined|fin,1 -> fin,1|Sum,Undefined; "
-                               "A,B|B,A -> B,A|A,B; A,1|no comma -> A,1|no comma")) {
+    for (const auto& c :
+         table(" -> ; A,A + 1 -> A,A + 1; A,B + 1|B,2 -> B,2|A,B + 1; A,1|B,A -> A,1|B,A; "
+               "X,Y|W,X|Y,1 -> Y,1|X,Y|W,X; X,Y|Z,W|Y,Z -> Z,W|Y,Z|X,Y; C,B|B,A|A,1 -> C,B|A,1|B,A; "
+               "TaxRate,1|Tax,2 -> Tax,2|TaxRate,1; A,tax|Tax,1 -> A,tax|Tax,1; "
+               "Sum,Undefined|fin,1 -> fin,1|Sum,Undefined; A,B|B,A -> B,A|A,B; A,1|no comma -> A,1|no "
+               "comma")) {
         std::vector<std::string> formulas;
         for (const std::string_view entry : core::split(c[0], '|')) formulas.emplace_back(entry);
         calc::SortFormulas(formulas);

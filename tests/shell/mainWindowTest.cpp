@@ -170,14 +170,14 @@ TEST_F(MainWindow, ToolsWorkOverSearchResultsAndFromEveryTab) {
         if (form == "designFrm") calc::addColumn(document, "C" + std::to_string(mainFrm.SSTab1), "3");
         LV.at(2).cells[1] = "20";
     };
-    play("Search -> 01 DFs searchLV/searchLV+ i1/3 searchFrm; tab 1 -> 12 TPDFs searchLV/searchLV+ i1/3 ; "
-         "mnuSelectedTotals -> 12 TPDFts searchLV/searchLV+ i1/3 ; "
+    play("Search -> 01 DFs searchLV/searchLV+ i1/3 searchFrm; tab 1 -> "
+         "12 TPDFs searchLV/searchLV+ i1/3 ; mnuSelectedTotals -> 12 TPDFts searchLV/searchLV+ i1/3 ; "
          "mnuExpressionEditor -> 12 TPDFts searchLV/searchLV+ i1/3 formulateFrm");
     EXPECT_EQ(results.at(1).cells[1], "20");
-    play("tab 0 -> 01 DFts searchLV/searchLV+ i1/3 ; mnuDatabaseProperties -> 01 t LV/LV+ i1/3 designFrm; "
-         "Search -> 01 DFts searchLV/searchLV+ i1/3 searchFrm; tab 1 -> 12 TPDFts searchLV/searchLV+ i1/3 ; "
-         "mnuSelectedTotals -> 12 TPDFs searchLV/searchLV+ i1/3 ; "
-         "mnuDatabaseProperties -> 12 TPD LV/LV+ i1/3 designFrm");
+    play("tab 0 -> 01 DFts searchLV/searchLV+ i1/3 ; mnuDatabaseProperties -> "
+         "01 t LV/LV+ i1/3 designFrm; Search -> 01 DFts searchLV/searchLV+ i1/3 searchFrm; "
+         "tab 1 -> 12 TPDFts searchLV/searchLV+ i1/3 ; mnuSelectedTotals -> "
+         "12 TPDFs searchLV/searchLV+ i1/3 ; mnuDatabaseProperties -> 12 TPD LV/LV+ i1/3 designFrm");
     EXPECT_FALSE(document.LV3.Visible);
     EXPECT_EQ(mainFrm.layoutPage.fieldMenu, (std::vector<std::string>{"A", "B", "C0", "C1"}));
 }
@@ -185,25 +185,25 @@ TEST_F(MainWindow, ToolsWorkOverSearchResultsAndFromEveryTab) {
 TEST_F(MainWindow, TabsListsAndViews) {
     mainFrm.bConfirmDelete = false;
     play("open books -> 01  LV/LV+ i1/43 ; row 3 -> 01  LV/LV+ i3/43 ; tab 1 -> 12 TPD LV/LV i3/43 ; "
-         "Delete -> 12 TPD LV/LV i3/43 ; "
-         "tab 2 -> 22 TPD LV/LV i3/43 i Printer Not Installed: You need to first install a printer on this "
-         "system.; "
-         "Delete -> 22 TPD LV/LV i3/43 ; tab 0 -> 01  LV/LV+ i3/43 ; double -> 01  LV/LV+ i3/43 entryFrm; "
-         "Delete -> 01  LV/LV+ i4/42 ; find i5 -> 01 s searchLV/searchLV+ i4/42 ; "
-         "Delete -> 01 s searchLV/searchLV+ i4/42 ; double -> 12 TPDs searchLV/searchLV+ i4/42 ; "
-         "tab 0 -> 01 Ds searchLV/searchLV+ i4/42 ; find none -> 01 Ds searchLV/searchLV+ i4/42 ; "
-         "double -> 01 Ds searchLV/searchLV+ i4/42 ; Search -> 01  LV/LV+ i4/42 ");
+         "Delete -> 12 TPD LV/LV i3/43 ; tab 2 -> "
+         "22 TPD LV/LV i3/43 i Printer Not Installed: You need to first install a printer on this system.; "
+         "Delete -> 22 TPD LV/LV i3/43 ; tab 0 -> 01  LV/LV+ i3/43 ; "
+         "double -> 01  LV/LV+ i3/43 entryFrm; Delete -> 01  LV/LV+ i4/42 ; "
+         "find i5 -> 01 s searchLV/searchLV+ i4/42 ; Delete -> 01 s searchLV/searchLV+ i4/42 ; "
+         "double -> 12 TPDs searchLV/searchLV+ i4/42 ; tab 0 -> 01 Ds searchLV/searchLV+ i4/42 ; "
+         "find none -> 01 Ds searchLV/searchLV+ i4/42 ; double -> 01 Ds searchLV/searchLV+ i4/42 ; "
+         "Search -> 01  LV/LV+ i4/42 ");
     mainFrm.control("mnuLayoutDoubleClick").Enabled = false; // not whether it is checked
     play("find i5 -> 01 s searchLV/searchLV+ i4/42 ; double -> 01 s searchLV/searchLV+ i4/42 entryFrm");
-    play("open invoices -> 01  f iLV/LV+ i1/5 ; row 3 -> 01  f iLV/LV+ i1/5 ; tab 1 -> 12 TPD iLV/LV i3/5 ; "
-         "tab 0 -> 01  f iLV/LV+ i3/5 ; view 0 -> 01 D f iLV/LV+ i3/5 ; Delete -> 01 D f iLV/LV+ i3/5 ; "
-         "double -> 12 TPD iLV/LV i4/5 ; tab 0 -> 01  f iLV/LV+ i4/5 ; "
-         "find i1 -> 01 s f searchLV/searchLV+ i4/5 ; view 1 -> 01  f iLV/LV+ i4/5 ; "
-         "Delete -> 01  f iLV/LV+ i3/4 ; find none -> 01 s f searchLV/searchLV+ i3/4 ; "
-         "tab 1 -> 01 Ds f searchLV/searchLV+ i3/4 ; double -> 01 Ds f searchLV/searchLV+ i3/4 ; "
-         "find i1 -> 01 Ds f searchLV/searchLV+ i3/4 ; tab 1 -> 12 TPDs searchLV/searchLV+ i1/4 ; "
-         "tab 0 -> 01 Ds f searchLV/searchLV+ i1/4 ; find i2 -> 01 Ds f searchLV/searchLV+ i1/4 ; "
-         "double -> 12 TPDs searchLV/searchLV i2/4 ");
+    play("open invoices -> 01  f iLV/LV+ i1/5 ; row 3 -> 01  f iLV/LV+ i1/5 ; "
+         "tab 1 -> 12 TPD iLV/LV i3/5 ; tab 0 -> 01  f iLV/LV+ i3/5 ; view 0 -> 01 D f iLV/LV+ i3/5 ; "
+         "Delete -> 01 D f iLV/LV+ i3/5 ; double -> 12 TPD iLV/LV i4/5 ; "
+         "tab 0 -> 01  f iLV/LV+ i4/5 ; find i1 -> 01 s f searchLV/searchLV+ i4/5 ; "
+         "view 1 -> 01  f iLV/LV+ i4/5 ; Delete -> 01  f iLV/LV+ i3/4 ; "
+         "find none -> 01 s f searchLV/searchLV+ i3/4 ; tab 1 -> 01 Ds f searchLV/searchLV+ i3/4 ; "
+         "double -> 01 Ds f searchLV/searchLV+ i3/4 ; find i1 -> 01 Ds f searchLV/searchLV+ i3/4 ; "
+         "tab 1 -> 12 TPDs searchLV/searchLV+ i1/4 ; tab 0 -> 01 Ds f searchLV/searchLV+ i1/4 ; "
+         "find i2 -> 01 Ds f searchLV/searchLV+ i1/4 ; double -> 12 TPDs searchLV/searchLV i2/4 ");
 }
 
 TEST_F(MainWindow, AHeaderClickSortsAndTogglesAcrossColumns) {
@@ -274,9 +274,9 @@ TEST_F(MainWindow, TheViewsOfAnInvoiceDatabase) {
 
 TEST_F(MainWindow, FileSizesAreCutNotRounded) {
     for (const auto& c :
-         table("999 -> 999 bytes.; 1000 -> 1 KB; 9999 -> 9 KB; 10000 -> 10 KB; 99999 -> 99 KB; 100000 -> 100 "
-               "KB; "
-               "999999 -> 999 KB; 1000000 -> 1 MB; 9999999 -> 9 MB; 10000000 -> 10 MB; 4294967296 -> 42 MB"))
+         table("999 -> 999 bytes.; 1000 -> 1 KB; 9999 -> 9 KB; 10000 -> 10 KB; 99999 -> 99 KB; "
+               "100000 -> 100 KB; 999999 -> 999 KB; 1000000 -> 1 MB; 9999999 -> 9 MB; 10000000 -> 10 MB; "
+               "4294967296 -> 42 MB"))
         EXPECT_EQ(app::fileSizeText(std::stoull(c[0])), c[1]);
 }
 
