@@ -7,6 +7,8 @@
 #include "shell/listEvents.h"
 #include "table.h"
 
+#include <set>
+
 namespace {
 
 using core::RecordsList;
@@ -86,12 +88,12 @@ struct MainWindow : testing::Test, Program {
 TEST_F(MainWindow, CommandsAreEnabledByWhatIsOpen) {
     // In one menu no two items answer to the same letter, or one of them cannot be reached by it.
     for (const shell::Menu& menu : shell::menuBar()) {
-        std::string letters;
+        std::set<int> letters;
         for (const std::string_view key : menu.items) {
             const std::string_view caption = key == "-" ? key : shell::command(key).caption;
-            const auto letter = static_cast<char>(std::tolower(caption[caption.find('&') + 1]));
-            EXPECT_TRUE(caption.find('&') == caption.npos || letters.find(letter) == letters.npos) << key;
-            if (caption.find('&') != caption.npos) letters += letter;
+            const std::size_t mark = caption.find('&');
+            EXPECT_TRUE(mark == caption.npos || letters.insert(std::tolower(caption[mark + 1])).second)
+                << key;
         }
     }
     const auto checkable = [](std::string_view key) { return shell::command(key).checkable; };
