@@ -70,6 +70,7 @@ struct LayoutSession : Session {
 private:
     State state() {
         const QWidget& holder = *window.focusWidget();
+        const QWidget& mark = *find<QWidget>("sheetMark");
         State now{{u"title"_s, window.windowTitle().section(u'/', -1)},
                   {u"status"_s, panel(app::recordsPanel) + u' ' + panel(app::documentPanel)},
                   {u"page"_s, QString::number(find<QTabWidget>("SSTab1")->currentIndex())},
@@ -79,9 +80,8 @@ private:
         if (const auto* box = qobject_cast<const QTextEdit*>(&holder)) {
             const QTextCursor caret = box->textCursor();
             now[u"keys"_s] += u" at %1-%2"_s.arg(caret.anchor()).arg(caret.position());
-            const bool inView = box->visibleRegion().boundingRect().size() == box->size();
-            const bool framed = find<QWidget>("sheetMark")->geometry().contains(box->geometry());
-            if (!inView || !framed) now[u"keys"_s] += u" unseen"_s;
+            const bool seen = box->visibleRegion().boundingRect().size() == box->size();
+            now[u"keys"_s] += seen && mark.geometry().contains(box->geometry()) ? u""_s : u" unseen"_s;
         }
         if (find<QWidget>("startPage")->isVisible()) now[u"list"_s] = u"start"_s;
         for (const char* name : {"LV", "iLV", "searchLV"})
@@ -101,17 +101,16 @@ private:
                 text += u'?';
         });
         text.replace(QDate::currentDate().toString(u"MM/dd/yyyy"_s), u"today"_s);
-        QString& guides = now[u"guides"_s];
-        app.mainFrm.layoutPage.rulePic2.forEach(
-            [&](const auto& each) { guides += u" |%1"_s.arg(each.line); });
-        app.mainFrm.layoutPage.rulePic.forEach([&](const auto& each) { guides += u" -%1"_s.arg(each.line); });
+        for (const auto* guides : {&app.mainFrm.layoutPage.rulePic2, &app.mainFrm.layoutPage.rulePic})
+            guides->forEach([&](const auto& each) { now[u"guides"_s] += QString::number(each.line) + u' '; });
+        now[u"guides"_s] += find<QWidget>("clearRulesBtn")->isEnabled() ? u"to clear"_s : QString();
     }
     void addList(State& now, const char* name) {
         const gui::RecordsView* view = list(name);
         const QStringList all = texts(name);
-        now[u"list"_s] =
-            view->objectName() + u' ' + (all.size() < 6 ? all.join(u"; "_s) : QString::number(all.size()));
         const int current = view->currentIndex().row();
+        now[u"list"_s] =
+            view->objectName() + u' ' + (all.size() < 6 ? all.join(u';') : QString::number(all.size()));
         now[u"current"_s] = u"%1 %2"_s.arg(current).arg(all.value(current).section(u'|', 0, 1));
         const core::RecordsList& records = shell::visibleList(app);
         for (int row = 0; row < records.count() && records.count() < 1000; ++row) {
@@ -120,15 +119,15 @@ private:
             if (selected != view->selectionModel()->isRowSelected(row)) now[u"rows"_s] += u'?';
         }
         now[u"top"_s] = QString::number(view->verticalScrollBar()->value());
-        const QHeaderView* header = view->header();
-        now[u"arrow"_s] =
-            QString::number(header->sortIndicatorSection()) + u"v^"[header->sortIndicatorOrder()];
+        const auto* head = view->header();
+        now[u"arrow"_s] = u"%1 %2"_s.arg(head->sortIndicatorSection()).arg(head->sortIndicatorOrder());
         const auto* sums = find<QTreeWidget>("LV3");
         for (int row = 0; row < sums->topLevelItemCount() && sums->isVisible(); ++row)
             now[u"sums"_s] += sums->topLevelItem(row)->text(0) + sums->topLevelItem(row)->text(1) + u' ';
     }
     void perform(const QStringList& words) {
         const QString& act = words[0];
+        const QDir folder = QFileInfo(qEnvironmentVariable("XDG_DATA_HOME")).dir();
         const QByteArray name = words.value(1).toUtf8();
         const auto point = [&](int word, QPoint byDefault) {
             const QStringList parts = words.value(word).split(u',');
@@ -149,7 +148,7 @@ private:
         if (act == u"fill"_s)
             return play(u"into "_s + words[1] + u"; key Ctrl+A; key Del; type "_s + words.mid(2).join(u' '));
         if (act == u"look"_s) return void(looked = words.mid(1));
-        if (act == u"file"_s) return void(platform.chosenFile = folder() + name.toStdString());
+        if (act == u"file"_s) return void(platform.chosenFile = folder.filePath(words[1]).toStdString());
         if (act == u"commit"_s) {
             QInputMethodEvent event;
             event.setCommitString(words[1]);
@@ -157,26 +156,22 @@ private:
         }
         mouse(act, object(name), point(2, {5, 5}), point(3, {10, 5}));
     }
-    static std::string folder() {
-        return QFileInfo(qEnvironmentVariable("XDG_DATA_HOME")).path().toStdString() + '/';
-    }
     // What takes the mouse.
     QWidget* object(const char* name) {
         auto* area = qobject_cast<QAbstractScrollArea*>(find<QWidget>(name));
         return area != nullptr ? area->viewport() : find<QWidget>(name);
     }
     static void mouse(const QString& act, QWidget* widget, QPoint at, QPoint from) {
-        const bool isDouble = act == u"double"_s, isAnother = act == u"another"_s;
-        if (act == u"click"_s || isDouble) QTest::mouseClick(widget, Qt::LeftButton, {}, at);
-        if (isDouble || isAnother)
-            QTest::mouseDClick(widget, isAnother ? Qt::RightButton : Qt::LeftButton, {}, at);
-        if (isDouble) QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
         const QPoint start = widget->mapToGlobal(from);
+        if (act == u"another"_s) return QTest::mouseDClick(widget, Qt::RightButton, {}, at);
         if (act == u"wheel"_s) {
             QWheelEvent wheel(from, start, {}, at, {}, {}, Qt::NoScrollPhase, false);
-            QApplication::sendEvent(widget, &wheel);
+            return void(QApplication::sendEvent(widget, &wheel));
         }
-        if (act != u"drag"_s) return;
+        if (act != u"drag"_s) QTest::mouseClick(widget, Qt::LeftButton, {}, at);
+        if (act == u"click"_s) return;
+        if (act == u"double"_s) QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
+        if (act == u"double"_s) return QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
         QTest::mousePress(widget, Qt::LeftButton, {}, from);
         for (int step = 1; step <= 8; ++step) // the widget may move along under the pointer
             QTest::mouseMove(widget, widget->mapFromGlobal(start + at * step / 8));
