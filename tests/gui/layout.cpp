@@ -147,15 +147,15 @@ tab 1; do Design -> guides 1455 to clear, keys layoutPic2, objects 21, page 1, r
         run.expect(R"(
 tab 1; nav New -> also 0, keys layoutField1 at 0-2, objects 23, page 1, record New record, sheet 19 0, text 43|||today|||||
 nav Next -> keys layoutField1 at 0-0, record Record 2 of 42, text 2|Les Misérables|Victor Hugo|04/04/2001|$28.60|4|$114.40||
-nav First; key Tab -> keys layoutField2 at 0-5, record Record 1 of 42, text 1|100 m|Homer|05/04/2001|$8.49|1|$8.49|spine worn|
-key End; type x -> keys layoutField2 at 6-6, text 1|100 mx|Homer|05/04/2001|$8.49|1|$8.49|spine worn|
+nav First; key Tab -> keys layoutField2 at 0-5, record Record 1 of 42, text 1|100~m|Homer|05/04/2001|$8.49|1|$8.49|spine worn|
+key End; type x -> keys layoutField2 at 6-6, text 1|100~mx|Homer|05/04/2001|$8.49|1|$8.49|spine worn|
 key Ctrl+A; key Ctrl+V -> keys layoutField2 at 13-13, text 1|one two three|Homer|05/04/2001|$8.49|1|$8.49|spine worn|
-key Ctrl+Z; key Return -> keys layoutField2 at 6-6, messages 1, text 1|100 mx|Homer|05/04/2001|$8.49|1|$8.49|spine worn|
-key Tab; key Tab; key Ctrl+A; key Del; type 12252004 -> keys layoutField4 at 10-10, text 1|100 mx|Homer|12/25/2004|$8.49|1|$8.49|spine worn|
-key Ctrl+A; key Del; type 12; key Backspace -> keys layoutField4 at 2-2, text 1|100 mx|Homer|12|$8.49|1|$8.49|spine worn|
-key Tab; key Ctrl+A; commit 1x2; key Backspace -> keys layoutField5 at 2-2, text 1|100 mx|Homer|12|12|1|$8.49|spine worn|
-key Tab; key Shift+Tab -> keys layoutField5 at 0-5, sheet 19 -6, text 1|100 mx|Homer|12|12.00|1|$8.49|spine worn|
-nav Update; nav Next; nav First -> keys layoutField5 at 0-0, status 42 records. Document Modified, text 1|100 mx|Homer|12|$12.00|1|$12.00|spine worn|
+key Ctrl+Z; key Return -> keys layoutField2 at 6-6, messages 1, text 1|100~mx|Homer|05/04/2001|$8.49|1|$8.49|spine worn|
+key Tab; key Tab; key Ctrl+A; key Del; type 12252004 -> keys layoutField4 at 10-10, text 1|100~mx|Homer|12/25/2004|$8.49|1|$8.49|spine worn|
+key Ctrl+A; key Del; type 12; key Backspace -> keys layoutField4 at 2-2, text 1|100~mx|Homer|12|$8.49|1|$8.49|spine worn|
+key Tab; key Ctrl+A; commit 1x2; key Backspace -> keys layoutField5 at 2-2, text 1|100~mx|Homer|12|12|1|$8.49|spine worn|
+key Tab; key Shift+Tab -> keys layoutField5 at 0-5, sheet 19 -6, text 1|100~mx|Homer|12|12.00|1|$8.49|spine worn|
+nav Update; nav Next; nav First -> keys layoutField5 at 0-0, status 42 records. Document Modified, text 1|100~mx|Homer|12|$12.00|1|$12.00|spine worn|
 key Tab; key Tab; key Tab -> keys layoutField8 at 0-10, sheet 19 -95
 key Tab; key Return -> keys imgHolder1, messages 2, sheet -13 -95
 another imgHolder1; drag tLabel10 0,60; another tLabel10; click tLabel1; double clipPic1 -> keys layoutPic2

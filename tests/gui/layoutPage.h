@@ -96,9 +96,9 @@ private:
         now[u"objects"_s] = QString::number(objects.count());
         QString& text = now[u"text"_s];
         objects.layoutField.forEach([&](const auto& each) {
-            text += gui::toQt(each.Text) + u'|';
-            if (field(each.Index)->toPlainText() != gui::toQt(each.Text).replace(u'\u00a0', u' '))
-                text += u'?';
+            const QString whole = field(each.Index)->document()->toRawText();
+            text +=
+                QString(whole).replace(u'\u00a0', u'~') + (whole == gui::toQt(each.Text) ? u"|"_s : u"?|"_s);
         });
         text.replace(QDate::currentDate().toString(u"MM/dd/yyyy"_s), u"today"_s);
         for (const auto* guides : {&app.mainFrm.layoutPage.rulePic2, &app.mainFrm.layoutPage.rulePic})
