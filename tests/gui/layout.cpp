@@ -97,6 +97,7 @@ C|logo.jpg|2640|3360|3240|2400|)"));
         run.play(u"tab 1"_s);
         run.expect(R"(
 look layoutPic2 66 480 -> also 0. 64#80868b 65. 163#80868b 164. 201! 203. 320#80868b 321. 359#80868b 360.
+look layoutPic2 241 130 -> also 0.
 look layoutPic2 132 400 -> also 0. 96#9aa0a6 97. 101! 102. 201! 203. 298! 299.
 look layoutPic2 -231 400 -> also 0. 96#9aa0a6 97. 101! 102. 178! 179. 201! 203.
 do Design; click ruler1 96,4; click ruler2 4,150; click pBox1; look layoutPic2 132 400 -> also 0. 96#9aa0a6 97#1e8e3e 98#308cc6 100. 101! 102. 201! 203. 298! 299. 300#308cc6 302., guides 1455 2240 to clear, place At 1.04, 1.04 Size 2.08 x 0.83 in, sheet 19 19, status Document Modified, text Name|Name|Name|
