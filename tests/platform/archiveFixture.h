@@ -1,92 +1,109 @@
 #pragma once
 
+#include "core/text.h"
 #include "platform/zip.h"
 #include "raised.h"
+#include "table.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <random>
+#include <set>
 #include <sstream>
 #include <string>
-#include <utility>
-#include <vector>
-#include <zip.h>
 
-inline std::string readBytes(const std::filesystem::path& file) {
+namespace fs = std::filesystem;
+
+inline std::string readBytes(const fs::path& file) {
     std::ostringstream bytes;
     bytes << std::ifstream(file, std::ios::binary).rdbuf();
     return bytes.str();
 }
 
-inline void writeBytes(const std::filesystem::path& file, const std::string& bytes) {
+inline void writeBytes(const fs::path& file, const std::string& bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
+}
+
+// Bytes that deflate cannot make smaller.
+inline std::string noise(std::size_t count) {
+    std::mt19937 random(7);
+    std::string bytes(count, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    return bytes;
 }
 
 class FolderTest : public ::testing::Test {
 protected:
     FolderTest() {
-        std::string name = (std::filesystem::temp_directory_path() / "platform-XXXXXX").string();
+        std::string name = (fs::temp_directory_path() / "platform-XXXXXX").string();
         if (::mkdtemp(name.data())) folder = name;
     }
-    ~FolderTest() override { std::filesystem::remove_all(folder); }
+    ~FolderTest() override { fs::remove_all(folder); }
 
-    [[nodiscard]] std::vector<std::string> filesIn(const std::filesystem::path& where) const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(where))
-            names.push_back(entry.path().filename());
-        return names;
+    // All that is below the folder, "a.fwk link@ out/ out/x.jpg ".
+    [[nodiscard]] std::string tree() const {
+        std::set<std::string> names;
+        for (const auto& each : fs::recursive_directory_iterator(folder)) {
+            const char* mark = each.is_symlink() ? "@ " : each.is_directory() ? "/ " : " ";
+            names.insert(each.path().lexically_relative(folder).string() + mark);
+        }
+        std::string all;
+        for (const std::string& name : names) all += name;
+        return all;
     }
 
-    std::filesystem::path folder;
+    fs::path folder;
 };
 
 class ArchiveTest : public FolderTest {
 protected:
-    ArchiveTest() : archive(folder / "a.fwk") {}
+    ArchiveTest() : archive(folder / "a.fwk") { fs::create_directory(folder / "out"); }
 
-    // An archive made by libzip itself, which takes every name.
-    void make(const std::vector<std::pair<std::string, std::string>>& entries,
-              const char* password = nullptr) const {
-        zip_t* zip = zip_open(archive.c_str(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
-        for (const auto& [name, data] : entries) {
-            zip_source_t* source = zip_source_buffer(zip, data.data(), data.size(), 0);
-            const zip_int64_t index = zip_file_add(zip, name.c_str(), source, ZIP_FL_ENC_GUESS);
-            ASSERT_GE(index, 0) << name;
-            if (password)
-                zip_file_set_encryption(zip, static_cast<zip_uint64_t>(index), ZIP_EM_TRAD_PKWARE, password);
+    // Does "open a.fwk, put data.dat text#comment, close" and the like. Files are named from the folder, and
+    // those to add or to extract from its out/; the entry "*" is each of all, and the text "*" the
+    // bytes. Comes back with what "read" and "list" tell, or with the kind of error that it ended
+    // with.
+    [[nodiscard]] std::string act(std::string_view script, const std::string& bytes = {}) const {
+        platform::Zip Zip;
+        Zip.SetBaseFolder(folder / "out");
+        std::string told, verb, name, text;
+        const auto one = [&] {
+            const std::size_t mark = std::min(text.find('#'), text.size());
+            if (verb == "create") Zip.CreateArchive(folder / name, text == "*" ? bytes : "");
+            if (verb == "open") Zip.OpenArchive(folder / name);
+            if (verb == "put")
+                Zip.addBuffer(name, text == "*" ? bytes : text.substr(0, mark), text.substr(mark));
+            if (verb == "add") Zip.AddFile(name, text);
+            if (verb == "delete") Zip.DeleteFile(name);
+            if (verb == "extract") Zip.ExtractFile(name);
+            if (verb == "read") told += Zip.readEntry(name, 1 << 21).value_or("(none)") + " ";
+            if (verb == "close") Zip.CloseArchive();
+            if (verb == "save") Zip.CloseArchiveAs(folder / name);
+        };
+        try {
+            for (const auto& each : table(core::replaceAll(script, ", ", "; "))) {
+                std::istringstream words(each[0]);
+                text.clear();
+                std::getline(words >> verb >> name >> std::ws, text);
+                const bool all = name == "*";
+                for (int i = 0; all && i < Zip.FileCount(); ++i, one()) {
+                    name = Zip.FileNameAt(i);
+                    if (verb == "list")
+                        told += name + ":" + std::to_string(Zip.sizeAt(i)) + Zip.commentAt(i) + " ";
+                }
+                if (!all) one();
+            }
+        } catch (const core::RunTimeError& error) {
+            return std::string(core::split(error.what(), ':')[0]);
         }
-        ASSERT_EQ(zip_close(zip), 0);
-    }
-
-    // Overwrites a field of the first entry in its local header and in the directory at the end.
-    void patch(std::size_t localOffset, std::size_t directoryOffset, const std::string& bytes) const {
-        std::string file = readBytes(archive);
-        file.replace(file.find("PK\3\4") + localOffset, bytes.size(), bytes);
-        file.replace(file.find("PK\1\2") + directoryOffset, bytes.size(), bytes);
-        writeBytes(archive, file);
+        return told;
     }
 
     void patchText(const std::string& from, const std::string& to) const {
-        std::string file = readBytes(archive);
-        for (std::size_t at = file.find(from); at != std::string::npos; at = file.find(from, at))
-            file.replace(at, from.size(), to);
-        writeBytes(archive, file);
+        writeBytes(archive, core::replaceAll(readBytes(archive), from, to));
     }
 
-    [[nodiscard]] std::string dataOf(const std::filesystem::path& file,
-                                     const std::string& name = "data.dat") const {
-        platform::Zip Zip;
-        Zip.OpenArchive(file);
-        return Zip.readEntry(name, platform::Zip::maxFileBytes).value_or("(absent)");
-    }
-
-    void replaceData(const std::string& bytes) const {
-        platform::Zip Zip;
-        Zip.OpenArchive(archive);
-        Zip.addBuffer("data.dat", bytes, "Main Data File");
-        Zip.CloseArchive();
-    }
-
-    std::filesystem::path archive;
+    fs::path archive;
 };
