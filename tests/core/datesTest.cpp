@@ -29,6 +29,7 @@ TEST(Dates, ReadTheWrittenForms) {
             ASSERT_TRUE(isDate(text, today));
             EXPECT_EQ(written(dateValueOrRaise(text, today)), date);
         });
+    EXPECT_TRUE(isDate("1/5/" + std::string(32, ' ') + "2004", today));
     for (DayValue day = -3000; day < 73000; day += 13) EXPECT_EQ(dateValue(written(day), today), day);
 }
 

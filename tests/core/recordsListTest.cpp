@@ -153,4 +153,8 @@ TEST_F(Records, SortLikeAPlainStableSort) {
     expectSorted([](const auto& a, const auto& b) { return std::stoi(a.second) > std::stoi(b.second); });
     sortByColumnKey(list, list.columns["No"]);
     expectSorted([](const auto& a, const auto& b) { return std::stoi(a.second) < std::stoi(b.second); });
+    open(DataFile("No:4", "1;2"));
+    list.remove(*list.totals());
+    sortByColumnKey(list, list.columns["No"]);
+    EXPECT_EQ(cells(), "2|;1|;");
 }
