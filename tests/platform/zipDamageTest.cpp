@@ -46,7 +46,8 @@ TEST_F(ZipDamageTest, RefusesWhatIsNoArchive) {
 
 TEST_F(ZipDamageTest, UnpacksNoUnsafeNameAndFollowsNoLink) {
     for (const std::string_view name : core::split(
-             "|../x.jpg|/x.jpg|a/b.jpg|C:x.jpg|..|.|a\\b.jpg|..\\x.jpg|x\n.jpg|x\x7f.jpg|\\\\s\\x.jpg", '|'))
+             "|../x.jpg|/x.jpg|a/b.jpg|C:x.jpg|C:|..|.|a\\b.jpg|..\\x.jpg|x\n.jpg|x\x7f.jpg|\\\\s\\x.jpg",
+             '|'))
         EXPECT_FALSE(platform::isSafeEntryName(name)) << name;
     EXPECT_FALSE(platform::isSafeEntryName(std::string(256, 'n')) ||
                  platform::isSafeEntryName(std::string_view("\0", 1)));

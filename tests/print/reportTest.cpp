@@ -85,9 +85,6 @@ TEST_F(Report, ThePagesOfAPreviewHoldAllRecords) {
             walk("Next", [] { return ""; });
         }
         EXPECT_EQ(page.iReportPageStart, 1) << "round again";
-        walk("Last", [] { return ""; });
-        EXPECT_EQ(page.iReportPageStart, std::max(1, count + 1 - 62));
-        EXPECT_EQ(std::ranges::count(linesOf(preview()), '-'), 6);
     }
 }
 

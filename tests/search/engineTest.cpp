@@ -100,7 +100,7 @@ TEST(Engine, ResultsAreCopiesWithATotalsRowOfTheirOwn) {
     // Each search begins with all records. The end of the dialog empties the sums of the selected.
     for (const auto& c : table("Name = bolt -> i1 i3 -> Bolt|12|$1.50|;Bolt|7|$2.00|;------|19|$3.50| -> 2 "
                                "records. |;|; Name = nut -> i2 -> Nut|7|$.25|;------|7|$.25| -> 1 records. "
-                               "|;|; Name = screw -> - -> ------|------|------| -> 1 records. |",
+                               "|;|; Name = screw -> - -> ------|------|------| -> 1 records. |;|",
                                4)) {
         EXPECT_EQ(program.find(c[0]), c[1]);
         EXPECT_EQ(Program::cells(document.searchLV), c[2] + ";");
