@@ -43,11 +43,20 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
         EXPECT_EQ(app.document.iLV.count(), 1);
         EXPECT_EQ(app.document.iLV.at(1).Text, "Totals");
     }
+    std::string shown; // what the navigation tells behind each new record; the first shows no count
+    for (int i = 0; i < 3; ++i) {
+        invoice::addInvoiceRecord(app);
+        shown += std::to_string(app.mainFrm.Slider1.Max) + " " + program.panel(app::recordsPanel) + " ";
+    }
+    EXPECT_EQ(shown, "1  2 2 records. 3 3 records. ");
+    EXPECT_EQ(app.document.LV.selectedItem(), &app.document.LV.at(3));
+    EXPECT_TRUE(app.document.bModified && !app.document.LV.MultiSelect);
+    app.document.LV.removeIf([](const core::Item& item) { return !item.isTotals(); });
     // With one field left, a column is of the invoice, and its values show as they are stored.
     record({{"Qty", "1@2@"}});
     layoutWith(1);
     invoice::BuildInvoicesView(app);
-    EXPECT_EQ(view(), "No|Customer|Item|Qty|Price|Line|Subtotal|Tax|; i1: |||1@2@|||||; Totals: "
+    EXPECT_EQ(view(), "No|Customer|Item|Qty|Price|Line|Subtotal|Tax|; i4: |||1@2@|||||; Totals: "
                       "------|------|------|------|------|------|------|------|");
     layoutWith(2); // without a cell of several values in the first record there is no item row
     cell(app.document.LV.at(1), "Qty") = "7";

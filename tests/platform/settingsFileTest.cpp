@@ -1,5 +1,5 @@
 #include "platform/settingsFile.h"
-#include "archiveFixture.h"
+#include "folderFixture.h"
 
 #include <sys/stat.h>
 

@@ -1,5 +1,5 @@
 #include "platform/workFolder.h"
-#include "archiveFixture.h"
+#include "folderFixture.h"
 
 #include <sys/wait.h>
 #include <unistd.h>

@@ -1,7 +1,10 @@
-#include "archiveFixture.h"
+#include "folderFixture.h"
+#include "platform/archiveSource.h"
 
+#include <ctime>
 #include <fcntl.h>
 #include <grp.h>
+#include <random>
 #include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -13,7 +16,63 @@ using platform::Zip;
 
 namespace {
 
-struct ZipTest : ArchiveTest {
+// Bytes that deflate cannot make smaller.
+std::string noise(std::size_t count) {
+    std::mt19937 random(7);
+    std::string bytes(count, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    return bytes;
+}
+
+struct ZipTest : FolderTest {
+    ZipTest() : archive(folder / "a.fwk") { fs::create_directory(folder / "out"); }
+
+    // Does "open a.fwk, put data.dat text#comment, close" and the like. Files are named from the folder, and
+    // those to add or to extract from its out/; the entry "*" is each of all, and the text "*" the
+    // bytes. Comes back with what "read" and "list" tell, or with the kind of error that it ended
+    // with.
+    [[nodiscard]] std::string act(std::string_view script, const std::string& bytes = {}) const {
+        Zip Zip;
+        Zip.SetBaseFolder(folder / "out");
+        std::string told, verb, name, text;
+        const auto one = [&] {
+            const std::size_t mark = std::min(text.find('#'), text.size());
+            if (verb == "create") Zip.CreateArchive(folder / name, text == "*" ? bytes : "");
+            if (verb == "open") Zip.OpenArchive(folder / name);
+            if (verb == "put")
+                Zip.addBuffer(name, text == "*" ? bytes : text.substr(0, mark), text.substr(mark));
+            if (verb == "add") Zip.AddFile(name, text);
+            if (verb == "delete") Zip.DeleteFile(name);
+            if (verb == "extract") Zip.ExtractFile(name);
+            if (verb == "read") told += Zip.readEntry(name, 1 << 21).value_or("(none)") + " ";
+            if (verb == "close") Zip.CloseArchive();
+            if (verb == "save") Zip.CloseArchiveAs(folder / name);
+        };
+        try {
+            for (const auto& each : table(core::replaceAll(script, ", ", "; "))) {
+                std::istringstream words(each[0]);
+                text.clear();
+                std::getline(words >> verb >> name >> std::ws, text);
+                const bool all = name == "*";
+                for (int i = 0; all && i < Zip.FileCount(); ++i, one()) {
+                    name = Zip.FileNameAt(i);
+                    if (verb == "list")
+                        told += name + ":" + std::to_string(Zip.sizeAt(i)) + Zip.commentAt(i) + " ";
+                }
+                if (!all) one();
+            }
+        } catch (const core::RunTimeError& error) {
+            return std::string(core::split(error.what(), ':')[0]);
+        }
+        return told;
+    }
+
+    void patchText(const std::string& from, const std::string& to) const {
+        writeBytes(archive, core::replaceAll(readBytes(archive), from, to));
+    }
+
+    fs::path archive;
+
     // "owner:group mode", and the number of the file, which each writing changes.
     static std::pair<std::string, ino_t> statusOf(const fs::path& file) {
         struct stat status {};
@@ -25,6 +84,21 @@ struct ZipTest : ArchiveTest {
     void sparseFile(const std::string& name, std::uint64_t size) const {
         writeBytes(folder / "out" / name, "");
         fs::resize_file(folder / "out" / name, size);
+    }
+    // Both ways of unpacking refuse it, and no half of a file stays.
+    void expectDamaged() const {
+        const std::string names = tree();
+        EXPECT_EQ(act("open a.fwk, read data.dat"), "Invalid file format");
+        EXPECT_EQ(act("open a.fwk, extract data.dat"), "Invalid file format");
+        EXPECT_EQ(tree(), names);
+    }
+    // Overwrites four bytes of the first entry in its local header and in the directory at the end.
+    void patch(std::uint32_t localOffset, std::uint32_t directoryOffset, std::uint32_t value) const {
+        std::string file = readBytes(archive);
+        for (const std::size_t at :
+             {file.find("PK\3\4") + localOffset, file.find("PK\1\2") + directoryOffset})
+            file.replace(at, 4, reinterpret_cast<const char*>(&value), 4);
+        writeBytes(archive, file);
     }
 };
 
@@ -204,6 +278,99 @@ TEST_F(ZipTest, RemovesWhatKilledWritersLeftAndNothingElse) {
     EXPECT_EQ(act("open a.fwk, put data.dat new, close"), "");
     ::close(writer);
     EXPECT_EQ(tree(), wanted);
+}
+
+TEST_F(ZipTest, RefusesWhatIsNoArchive) {
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    writeBytes(folder / "empty", "");
+    writeBytes(folder / "text", std::string(100000, 'x'));
+    fs::create_symlink("loop", folder / "loop");
+    for (const auto& c : table("no -> File not found; text/no -> File not found; out -> Path/file access "
+                               "error; pipe -> Path/file access error; loop -> Path/file access error; empty "
+                               "-> Invalid file format; text -> Invalid file format"))
+        EXPECT_EQ(act("open " + c[0]), c[1]) << c[0];
+    const auto unreadable = [] { platform::ArchiveSource(platform::FileHandle(1 << 20), "no size"); };
+    EXPECT_EQ(raisedBy(unreadable), core::errors::deviceIO) << "without a size it is not one without entries";
+    const std::string whole = readBytes(TEST_DATA_DIR "/books.fwk");
+    for (std::size_t length = 1; length < whole.size(); length += length < whole.size() - 300 ? 97 : 1) {
+        writeBytes(archive, whole.substr(0, length));
+        ASSERT_EQ(act("open a.fwk, read data.dat"), "Invalid file format") << "cut at " << length;
+    }
+}
+
+TEST_F(ZipTest, UnpacksNoUnsafeNameAndFollowsNoLink) {
+    for (const std::string_view name : core::split(
+             "|../x.jpg|/x.jpg|a/b.jpg|C:x.jpg|C:|..|.|a\\b.jpg|..\\x.jpg|x\n.jpg|x\x7f.jpg|\\\\s\\x.jpg",
+             '|'))
+        EXPECT_FALSE(platform::isSafeEntryName(name)) << name;
+    EXPECT_FALSE(platform::isSafeEntryName(std::string(256, 'n')) ||
+                 platform::isSafeEntryName(std::string_view("\0", 1)));
+    const std::string longest(255, 'n');
+    EXPECT_EQ(
+        act("create a.fwk, put xxxx.jpg evil, put good.jpg good, put x..jpg x, put " + longest + " x, close"),
+        "");
+    patchText("xxxx.jpg", "../x.jpg");
+    writeBytes(folder / "precious", "mine");
+    fs::create_symlink("../precious", folder / "out" / "good.jpg");
+    EXPECT_EQ(act("open a.fwk, extract *"), "");
+    EXPECT_EQ(tree(), "a.fwk out/ out/good.jpg out/" + longest + " out/x..jpg precious ");
+    EXPECT_EQ(readBytes(folder / "precious") + readBytes(folder / "out" / "good.jpg"), "minegood");
+}
+
+TEST_F(ZipTest, RefusesHeadersThatLie) {
+    const std::string text(10000, 'x');
+    // Smaller than it is, empty, larger, and larger than deflate can; packed larger than the archive, and
+    // smaller than it is; another checksum; an unknown method; encrypted; the directory points elsewhere.
+    const std::uint32_t lies[][3] = {
+        {22, 24, 16}, {22, 24, 0},          {22, 24, 10001}, {22, 24, 0xC0000}, {18, 20, 0x10000000},
+        {18, 20, 10}, {14, 16, 0x64636261}, {8, 10, 99},     {6, 8, 0x80001},   {30, 42, 1}};
+    for (const auto& [local, directory, value] : lies) {
+        SCOPED_TRACE(std::to_string(local) + " " + std::to_string(value));
+        EXPECT_EQ(act("create a.fwk, put data.dat *, close, open a.fwk, read data.dat", text), text + " ");
+        patch(local, directory, value);
+        expectDamaged();
+    }
+    EXPECT_EQ(act("create a.fwk, put data.dat *, put dat2.dat second, close", text), "");
+    patchText("dat2.dat", "data.dat"); // of two the first counts
+    Zip Zip;
+    Zip.OpenArchive(archive);
+    EXPECT_EQ(Zip.readEntry("data.dat", text.size()), text);
+    EXPECT_EQ(raisedBy([&] { (void)Zip.readEntry("data.dat", text.size() - 1); }),
+              core::errors::badFileFormat);
+    EXPECT_EQ(act("open a.fwk, put data.dat new, close, open a.fwk, read data.dat"), "new ");
+}
+
+TEST_F(ZipTest, ZipBombIsRefusedAtOnce) {
+    writeBytes(folder / "data.dat", "");
+    fs::resize_file(folder / "data.dat", Zip::maxFileBytes);
+    EXPECT_EQ(act("create a.fwk, add ../data.dat, close"), "");
+    for (const std::uint32_t toldSize : {257U << 20, 1U << 20}) {
+        patch(22, 24, toldSize);
+        const std::clock_t start = std::clock();
+        expectDamaged();
+        EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 2);
+    }
+}
+
+// Whatever a broken disk makes of an archive, it ends in a run-time error or in bytes, not in a crash.
+TEST_F(ZipTest, StandsFlippedBytes) {
+    const std::string whole = readBytes(TEST_DATA_DIR "/books.fwk");
+    std::mt19937 random(11);
+    int refused = 0;
+    for (int round = 0; round < 300; ++round) {
+        std::string bytes = whole;
+        for (int flip = 0; flip < 6; ++flip) { // mostly in the directory, which is the last kilobyte
+            const std::size_t end = flip < 4 ? 700 : bytes.size();
+            bytes[bytes.size() - 1 - random() % end] ^= static_cast<char>(1U << random() % 8);
+        }
+        writeBytes(archive, bytes);
+        for (const char* use : {"list *", "extract *", "read *", "put data.dat new, save b.fwk"}) {
+            const std::string told = act(std::string("open a.fwk, ") + use);
+            refused += told == "Invalid file format";
+            EXPECT_TRUE(told.find("error") == std::string::npos || use[0] == 'r') << told;
+        }
+    }
+    EXPECT_GT(refused, 100);
 }
 
 } // namespace

@@ -75,6 +75,16 @@ TEST_F(Layout, EveryKindOfObjectHasItsPlaceOnThePage) {
     EXPECT_EQ(allOf<platform::DrawnPicture>(sheet(0), picture), "1010,2020 300,400");
     EXPECT_EQ(linesOf(sheet(0)), "1440,4036-6440,4036; 6036,1440-6036,4440") << "paper has no guides";
     EXPECT_EQ(printed(), "Bolt A label|.");
+    // As one of many all of it moves along.
+    app.document.layout.layoutField.find(1)->Left = 5000;
+    run("Print_All_As_Multiple_Layouts");
+    EXPECT_EQ(textsOf(sheet(0)), "Bolt@5240,1734; $1.50@4740,2734; A label@5240,3234; Nut@5240,5970; "
+                                 "$.25@4840,6970; A label@5240,7470");
+    EXPECT_EQ(linesOf(sheet(0)),
+              "1680,4270-6680,4270; 6276,1674-6276,4674; 1680,8506-6680,8506; 6276,5910-6276,8910");
+    EXPECT_EQ(allOf<platform::DrawnRectangle>(sheet(0), box),
+              "1575,1209 8970,4470 3 128; 1575,5445 8970,4470 3 128");
+    EXPECT_EQ(allOf<platform::DrawnPicture>(sheet(0), picture), "1250,2254 300,400; 1250,6490 300,400");
 }
 
 TEST_F(Layout, ASavedLayoutGivesTheSamePages) {

@@ -61,6 +61,9 @@ TEST_F(Report, EverythingHasItsPlaceOnThePage) {
         "; $1,234,567,890.00@1690,1660; Hexagonal@3640,1660; 12@6030,1660; $.25@2730,1860; Æø       "
         "@3380,1860; 7@5870,1860; ------@2530,2060; ------   @3380,2060; ------@5370,2060"))
         << textsOf(preview());
+    app.document.LV.columns["Name"].Width = 40; // narrower than half a character
+    showPreview();
+    EXPECT_EQ(wordsOf(preview()).find('H'), std::string::npos) << wordsOf(preview());
     EXPECT_EQ(told(), "");
 }
 
