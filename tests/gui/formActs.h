@@ -23,6 +23,9 @@ inline void clickOn(QWidget& widget, const QString& row = {}, bool twice = false
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, place);
 }
+inline void click(QWidget* widget) {
+    clickOn(*widget);
+}
 inline void click(const QDialog& form, const char* name) {
     clickOn(*in<QWidget>(form, name));
 }
