@@ -2,7 +2,6 @@
 
 #include "app/layoutRoutines.h"
 #include "entry/fieldEvents.h"
-#include "entry/navBar.h"
 #include "invoiceFixture.h"
 #include "table.h"
 
@@ -29,11 +28,10 @@ struct InvoiceRecords : InvoiceTest {
 };
 
 TEST_F(InvoiceRecords, CellsAsTheyAreWritten) {
-    for (const auto& c :
-         table("Price -> 1234 -> 12 -> 12.5 -> $12.34@$12.00@$12.50@; "
-               "Price -> 12345678901234 ->  -> 7 -> $123,456,789,012.34@@$7.00@; "
-               "Price -> 1,234 -> abc -> -5 -> $12.34@a.bc@-$5.00@; Qty -> 1 ->  -> 3 -> 1@@3@; "
-               "Item ->  ->  ->  -> @@@; No ->  ->  ->  -> 0; Customer ->  Ann  ->  ->  ->  Ann ")) {
+    for (const auto& c : table("Price -> 1234 -> 12 -> 12.5 -> $12.34@$12.00@$12.50@; Price -> "
+                               "12345678901234 ->  -> 7 -> $123,456,789,012.34@@$7.00@; Price -> 1,234 -> "
+                               "abc -> -5 -> $12.34@a.bc@-$5.00@; Qty -> 1 ->  -> 3 -> 1@@3@; Item ->  ->  "
+                               "->  -> @@@; No ->  ->  ->  -> 0; Customer ->  Ann  ->  ->  ->  Ann ")) {
         layoutWith(3);
         core::Item& item = invoice::addInvoiceRecord(app);
         type(c[0], {c[1], c[2], c[3]});
@@ -61,28 +59,6 @@ TEST_F(InvoiceRecords, TheSumsFollowOnArrivalInASingleOrACalculatedField) {
     });
     EXPECT_EQ(subtotals, "Subtotal$9.00 Item Qty Price Line$9.00 Item Qty Price Line$9.00 ");
     EXPECT_EQ(cell(item, "Line"), "$3.00@$6.00@");
-}
-
-TEST_F(InvoiceRecords, ButtonsOfTheSheet) {
-    layoutWith(2);
-    app.mainFrm.SSTab1 = app::layoutTab;
-    const auto press = [&](std::initializer_list<const char*> buttons) {
-        for (const char* key : buttons) entry::layoutNavBar_ButtonClick(app, key);
-    };
-    press({"New"});
-    type("Customer", {"Ann"});
-    type("Price", {"1", "2"});
-    press({"Update", "New"});
-    type("Customer", {"Bo"});
-    press({"Add", "First"});
-    EXPECT_EQ(view(),
-              "No|Customer|Subtotal|Tax|; i1: 0|Ann|||; i2: 0|Bo|||; Totals: ------|------|------|------|");
-    EXPECT_EQ(keys(LV), ">i1 i2 Totals ");
-    EXPECT_EQ(cell(LV.at(1), "Price"), "$1.00@$2.00@");
-    program.platform.answers = {platform::Answer::Yes};
-    press({"Next", "Delete"});
-    EXPECT_EQ(keys(LV) + keys(app.document.iLV), ">i1 Totals >i1 Totals ");
-    EXPECT_EQ(app.document.layout.layoutField[2].Text, "Ann");
 }
 
 // The next that stays becomes the current one, or at the end the last.

@@ -19,10 +19,9 @@ TEST_F(Dragging, EveryKindFollowsThePointer) {
     for (const Family family : core::allFamilies) {
         it = {family, 1};
         openDesign(allKinds);
-        expect("take -> 1000 1000 1800 900, rulers 1000 1000; "
-               "by 1 0 by -134 177 -> 867 1177 1800 900, rulers 867 1177; "
-               "drop click -> 867 1177 1800 900, grip 2667 2077; "
-               "by 500 500 -> 867 1177 1800 900, grip 2667 2077");
+        expect("take -> 1000 1000 1800 900, rulers 1000 1000; by 1 0 by -134 177 -> 867 1177 1800 900, "
+               "rulers 867 1177; drop click -> 867 1177 1800 900, grip 2667 2077; by 500 500 -> 867 1177 "
+               "1800 900, grip 2667 2077");
         openDesign(allKinds, true);
         expect("take by -133 177 drop click -> 840 1200 1800 900, grip 2640 2100");
     }
@@ -56,9 +55,9 @@ TEST_F(Dragging, TheGripSizesEachKindInItsDirections) {
 TEST_F(Dragging, SnapWaitsForMoreThanAStepAndRoundsHalfToEven) {
     openDesign("B|0|0|1800|900|0|1|", true);
     for (const auto& c :
-         table("1000 -> 100 -> 1000; 1000 -> 120 -> 1000; 1000 -> 121 -> 1080; 1000 -> -121 -> 840; "
-               "1000 -> 60 60 1 -> 1080; 1000 -> 200 100 -> 1200; 1000 -> 200 121 -> 1320; "
-               "1020 -> 240 -> 1200; 1020 -> 360 -> 1440; 60 -> -240 -> -240; 300 -> -240 -> 0"))
+         table("1000 -> 100 -> 1000; 1000 -> 120 -> 1000; 1000 -> 121 -> 1080; 1000 -> -121 -> 840; 1000 -> "
+               "60 60 1 -> 1080; 1000 -> 200 100 -> 1200; 1000 -> 200 121 -> 1320; 1020 -> 240 -> 1200; 1020 "
+               "-> 360 -> 1440; 60 -> -240 -> -240; 300 -> -240 -> 0"))
         for (const bool vertical : {false, true}) {
             it = {Family::pBox, 1};
             object().Left = object().Top = std::stof(c[0]);
@@ -71,9 +70,9 @@ TEST_F(Dragging, SnapWaitsForMoreThanAStepAndRoundsHalfToEven) {
 
 TEST_F(Dragging, LocksStopTheMouseAlone) {
     openDesign(allKinds, false, records().section("Locks", "pBox,1|TLABEL, 01|"));
-    expect("tLabel,1 take by 300 300 drop click -> 1000 1000 1800 900, grip 2800 1900 locked; "
-           "pBox,1 take by 300 300 drop click -> 1000 1000 1800 900, grip 2800 1900 locked; "
-           "grip by 300 300 release key 39 2 -> 1015 1000 1800 900, grip 2815 1900 locked");
+    expect("tLabel,1 take by 300 300 drop click -> 1000 1000 1800 900, grip 2800 1900 locked; pBox,1 take by "
+           "300 300 drop click -> 1000 1000 1800 900, grip 2800 1900 locked; grip by 300 300 release key 39 "
+           "2 -> 1015 1000 1800 900, grip 2815 1900 locked");
     EXPECT_TRUE(app.mainFrm.control("layoutToolbar.Lock").Value);
     expect("layoutField,1 take by 15 0 drop click -> 1015 1000 1800 900, grip 2815 1900");
     EXPECT_FALSE(app.mainFrm.control("layoutToolbar.Lock").Value);
@@ -83,10 +82,10 @@ TEST_F(Dragging, LocksStopTheMouseAlone) {
 TEST_F(Dragging, ARepeatedFieldMovesAndSizesAsOne) {
     openDesign("F|Qty|1000|1000|900|300;F|Qty|0|0|900|300;F|Qty|0|0|900|300;F|Name|100|5000|1800|300");
     for (const auto& c :
-         table("1 take by 200 100 drop click -> 1200 1100 900 300, 1200 1400 900 300, 1200 1700 900 300; "
-               "1 grip by 100 200 release -> 1200 1100 1000 500, 1200 1600 1000 500, 1200 2100 1000 500; "
-               "1 key 38 2 -> 1200 1085 1000 500, 1200 1585 1000 500, 1200 2085 1000 500; "
-               "3 select key 65 0 -> 1200 2585 1000 500, 1200 3085 1000 500, 1200 2085 1000 500")) {
+         table("1 take by 200 100 drop click -> 1200 1100 900 300, 1200 1400 900 300, 1200 1700 900 300; 1 "
+               "grip by 100 200 release -> 1200 1100 1000 500, 1200 1600 1000 500, 1200 2100 1000 500; 1 key "
+               "38 2 -> 1200 1085 1000 500, 1200 1585 1000 500, 1200 2085 1000 500; 3 select key 65 0 -> "
+               "1200 2585 1000 500, 1200 3085 1000 500, 1200 2085 1000 500")) {
         after("layoutField," + c[0]);
         std::string places;
         for (it.Index = 1; it.Index <= 4; ++it.Index) places += place() + (it.Index < 4 ? ", " : "");
@@ -100,10 +99,9 @@ TEST_F(Dragging, ALineIsGrabbedFromBesideIt) {
                "F|Name|1000|1100|900|300;F|Name|1000|1100|900|300");
     for (const auto& c :
          table("2000 880  -> pbLine,1; 2000 879  -> layoutPic2,0; 4030 1195  -> pbLine,1; 880 1000  -> "
-               "pbLine,1; "
-               "4031 1000  -> layoutPic2,0; 879 1000  -> layoutPic2,0; 2000 900 pBox,1 -> pbLine,1; "
-               "2000 1200 pBox,1 -> pBox,1; 4450 1000 pBox,1 -> vLine,1; 4200 1050 pBox,1 -> pBox,1; "
-               "1100 1110 layoutField,1 -> layoutField,1; 1100 1110 layoutField,2 -> pbLine,1")) {
+               "pbLine,1; 4031 1000  -> layoutPic2,0; 879 1000  -> layoutPic2,0; 2000 900 pBox,1 -> "
+               "pbLine,1; 2000 1200 pBox,1 -> pBox,1; 4450 1000 pBox,1 -> vLine,1; 4200 1050 pBox,1 -> "
+               "pBox,1; 1100 1110 layoutField,1 -> layoutField,1; 1100 1110 layoutField,2 -> pbLine,1")) {
         std::string hit;
         std::istringstream(c[0]) >> X >> Y >> hit;
         EXPECT_EQ(layout::grabbedObject(app, ref(hit), X, Y).name(), c[1]) << c[0];
@@ -145,9 +143,9 @@ TEST_F(Dragging, TheButtonsOfTheMouse) {
 // By a pixel, or by a step of the grid, which is no line of it. Ctrl comes alone.
 TEST_F(Dragging, KeysMoveAndDelete) {
     openDesign("B|1000|1000|1800|900|0|1|");
-    for (const auto& c : table("key 39 2 -> 1015 1000 -> 1120 1000; key 37 2 -> 985 1000 -> 880 1000; "
-                               "key 40 2 -> 1000 1015 -> 1000 1120; key 38 2 -> 1000 985 -> 1000 880; "
-                               "key 39 3 -> 1000 1000 -> 1000 1000; key 41 2 -> 1000 1000 -> 1000 1000"))
+    for (const auto& c : table("key 39 2 -> 1015 1000 -> 1120 1000; key 37 2 -> 985 1000 -> 880 1000; key 40 "
+                               "2 -> 1000 1015 -> 1000 1120; key 38 2 -> 1000 985 -> 1000 880; key 39 3 -> "
+                               "1000 1000 -> 1000 1000; key 41 2 -> 1000 1000 -> 1000 1000"))
         for (const std::size_t snap : {0U, 1U}) {
             app.mainFrm.bSnapToGrid = snap == 1;
             after("pBox,1 select");

@@ -1,5 +1,4 @@
 #include "layout/images.h"
-#include "app/hourglass.h"
 #include "sheetFixture.h"
 
 namespace {
@@ -40,9 +39,9 @@ TEST_F(Images, AreFittedToTheTwip) {
     const core::ImgHolder holder = objects.imgHolder.templateElement(); // 1815 x 1575
     ScriptedPlatform::write(platform.folder / "text.jpg", "no picture");
     // By the height, which leaves two twips; when that is too wide, by the width, which leaves one.
-    for (const auto& c : table(
-             "100 100 -> 858 738 100 100; 1814 1574 -> 1 1 1814 1574; 100 1575 -> 858 1 100 1573 s; "
-             "3000 3000 -> 121 1 1573 1573 s; 30000 1500 -> 1 742 1814 91 s; 1815 100 -> 1 738 1814 100 s")) {
+    for (const auto& c :
+         table("100 100 -> 858 738 100 100; 1814 1574 -> 1 1 1814 1574; 100 1575 -> 858 1 100 1573 s; 3000 "
+               "3000 -> 121 1 1573 1573 s; 30000 1500 -> 1 742 1814 91 s; 1815 100 -> 1 738 1814 100 s")) {
         platform::Extent natural;
         std::istringstream(c[0]) >> natural.Width >> natural.Height;
         core::FittedImage image;
@@ -89,7 +88,7 @@ TEST_F(Images, DamagedOnesLeaveTheirHolderEmpty) {
 }
 
 TEST_F(Images, AreChosenForARecordOrAsClipArt) {
-    for (const char* name : {"photo.jpeg", "photo.png", "photo.JPG"})
+    for (const char* name : {"photo.jpeg", "photo.png", "photo.JPG", "photo.gif"})
         platform.pictureFile(name, {1500, 1500}, name);
     for (const char* name : {"text.jpg", "vast.GIF"})
         ScriptedPlatform::write(platform.folder / name, "no picture");
@@ -99,17 +98,14 @@ TEST_F(Images, AreChosenForARecordOrAsClipArt) {
     for (const bool designing : {false, true}) {
         openImages(designing);
         const char* const name = designing ? "clipPic,1" : "imgHolder,2";
+        dialogs();
         choose(designing ? "imgHolder,2" : "clipPic,1", "photo.JPG");
         EXPECT_EQ(dialogs(), ""); // that is the other mode's
-        for (const auto& [file, message] :
-             {std::pair("photo.jpeg", other),
-              {"photo.png", other},
-              {"", other},
-              {"text.jpg", "! The picture text.jpg cannot be read."},
-              {"none.jpg", "! The picture none.jpg cannot be read: No such file or directory."},
-              {"folder.jpg", "! The picture folder.jpg cannot be read: Is a directory."},
-              {"vast.GIF", "! The picture vast.GIF is too large."}})
-            EXPECT_EQ(choose(name, file), message);
+        for (const auto& c :
+             table("photo.jpeg -> other; photo.png -> other;  -> other; text.jpg -> cannot be read.; "
+                   "none.jpg -> cannot be read: No such file or directory.; folder.jpg -> cannot be read: Is "
+                   "a directory.; vast.GIF -> is too large."))
+            EXPECT_EQ(choose(name, c[0]), c[1] == "other" ? other : "! The picture " + c[0] + " " + c[1]);
         dialogs();
         ScriptedPlatform::write(platform.tempFolder() / "photo.JPG", "another record's");
         EXPECT_EQ(choose(name, "photo.JPG"), "");
@@ -124,17 +120,10 @@ TEST_F(Images, AreChosenForARecordOrAsClipArt) {
         EXPECT_EQ(app.document.LV.at(1).cells[6], ""); // the cell waits for Update
         // What was unpacked under that name was the old one.
         EXPECT_EQ(ScriptedPlatform::read(platform.tempFolder() / "photo.JPG"), designing ? "photo.JPG" : "");
-    }
-}
-
-TEST_F(Images, AnArchiveThatTakesNoneIsTold) {
-    platform.pictureFile("photo.jpg", {1500, 1500});
-    for (const bool designing : {false, true}) {
-        openImages(designing);
         const std::string before = shown();
-        std::filesystem::remove(app.document.currentFile);
-        EXPECT_TRUE(choose(designing ? "clipPic,1" : "imgHolder,1", "photo.jpg")
-                        .starts_with("! The picture could not be added to the database: "));
+        std::filesystem::remove(app.document.currentFile); // and cannot take another one
+        EXPECT_TRUE(
+            choose(name, "photo.gif").starts_with("! The picture could not be added to the database: "));
         EXPECT_EQ(shown(), before);
     }
 }
@@ -155,26 +144,6 @@ TEST_F(Images, TheClipboardFillsThePictureThatIsSelected) {
     Zip.OpenArchive(app.document.currentFile);
     EXPECT_EQ(Zip.FileCount(), 4); // the other one is not stored yet
     EXPECT_EQ(told(), "");
-}
-
-// The hourglass, as it is turned.
-struct Machine : ScriptedPlatform {
-    std::string pointers;
-    void setMousePointer(platform::MousePointer pointer) override {
-        pointers += pointer == platform::MousePointer::Hourglass ? "H" : "d";
-    }
-};
-
-TEST(ImageHourglass, IsThereWhileAFileIsReadAndEndsNoOther) {
-    ProgramOn<Machine> program;
-    core::FittedImage image;
-    const std::string file = program.platform.pictureFile("a.jpg", {300, 200});
-    const auto fit = [&] { layout::fitImage(program.app, core::LayoutObject(), image, file); };
-    fit();
-    EXPECT_EQ(program.platform.pointers, "Hd");
-    const app::Hourglass printing(program.app);
-    fit();
-    EXPECT_EQ(program.platform.pointers, "HdH");
 }
 
 } // namespace

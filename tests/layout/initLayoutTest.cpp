@@ -10,18 +10,25 @@ struct InitLayout : Sheet {
     // and of the buttons Picture and Rows, and Add.
     std::string look() {
         std::string all;
-        objects.layoutField.forEach([&](const core::LayoutField& field) {
-            all += field.Text + (field.Locked ? " locked" : "") + (field.Enabled ? "" : " off") +
-                   (field.BackColor == 0xFFFF00 ? " cyan; " : "; ");
+        const auto add = [&](const std::string& text,
+                             std::initializer_list<std::pair<bool, const char*>> marks) {
+            all += text;
+            for (const auto& [holds, mark] : marks) all += holds ? mark : "";
+        };
+        objects.layoutField.forEach([&](const auto& each) {
+            add(each.Text, {{each.Locked, " locked"},
+                            {!each.Enabled, " off"},
+                            {each.BackColor == 0xFFFF00, " cyan"},
+                            {true, "; "}});
         });
-        objects.imgHolder.forEach([&](const core::ImgHolder& holder) {
-            all += holder.ToolTipText + (holder.BackColor == core::white ? "" : " grey") +
-                   (holder.viewImage.path.empty() ? "; " : " shown; ");
+        objects.imgHolder.forEach([&](const auto& each) {
+            add(each.ToolTipText, {{each.BackColor != core::white, " grey"},
+                                   {!each.viewImage.path.empty(), " shown"},
+                                   {true, "; "}});
         });
-        objects.clipPic.forEach([&](const auto& clip) { all += clip.BorderStyle == 1 ? "framed; " : ""; });
-        objects.tLabel.forEach([&](const core::Label& label) {
-            all += label.BackColor == core::white ? "" : "marked ";
-            all += label.Locked ? "" : "open ";
+        objects.clipPic.forEach([&](const auto& each) { add("", {{each.BorderStyle == 1, "framed; "}}); });
+        objects.tLabel.forEach([&](const auto& each) {
+            add("", {{each.BackColor != core::white, "marked "}, {!each.Locked, "open "}});
         });
         const bool bars = page.layoutToolbarInFront;
         for (const bool shown : {page.layoutPic2.Visible, bars, page.bGrid, page.bRulersVisible})
@@ -51,23 +58,22 @@ TEST_F(InitLayout, BothModesShowTheirSide) {
     platform.pictures["bolt.jpg"] = {1500, 1500};
     app.mainFrm.bHighlightCalc = true;
     openSheet(fields);
-    expectLooks(" -> Bolt, 18 cyan, bolt.jpg shown, 1000001; "
-                "design -> Name locked, Sum locked cyan, bolt.jpg grey, framed, 1111100");
+    expectLooks(" -> Bolt, 18 cyan, bolt.jpg shown, 1000001; design -> Name locked, Sum locked cyan, "
+                "bolt.jpg grey, framed, 1111100");
     const core::FittedImage& image = objects.imgHolder[1].viewImage;
     EXPECT_EQ(texts({image.Left, image.Top, image.Width, image.Height}), "0 0 1815 1575");
     EXPECT_EQ(page.fieldMenu, (std::vector<std::string>{"Name", "Qty", "Price", "Made", "Sum"}));
     EXPECT_EQ(page.pictureMenu, (std::vector<std::string>{"Photo", "Second_Photo"}));
     app.document.bModified = false;
-    expectLooks("tLabel,1 click dblclick key 65 0 -> "
-                "Name locked, Sum locked cyan, bolt.jpg grey, framed, marked open 1111100; "
-                "design -> Bolt, 18 cyan, bolt.jpg shown, 1000001");
+    expectLooks("tLabel,1 click dblclick key 65 0 -> Name locked, Sum locked cyan, bolt.jpg grey, framed, "
+                "marked open 1111100; design -> Bolt, 18 cyan, bolt.jpg shown, 1000001");
     EXPECT_EQ(state(), "100 100 1695 195"); // without a grip
     EXPECT_TRUE(app.document.bModified && page.selectedObject == it);
     // The copies of a repeated field do not answer to the mouse.
     openSheet("F|Qty|1|1|900|300;F|Sum|1|1|900|300;F|Name|1|1|900|300;F|Qty|1|1|900|300");
     app.mainFrm.bHighlightCalc = false;
-    expectLooks("design -> Qty locked, Sum locked, Name locked, Qty locked off, 1111100; "
-                "design -> 12, 18, Bolt, 12, 1000001");
+    expectLooks("design -> Qty locked, Sum locked, Name locked, Qty locked off, 1111100; design -> 12, 18, "
+                "Bolt, 12, 1000001");
 }
 
 // A column's name would be taken for a value.
@@ -77,8 +83,8 @@ TEST_F(InitLayout, WithoutRecords) {
     EXPECT_EQ(told(), "");
     openSheet(fields, false, DataFile("Name Sum:5 Photo:7").section("DatabaseStyle", "True"));
     expectLooks(" -> , , , 0000000; design -> Name locked, Sum locked,  grey, framed, 1111010");
-    EXPECT_EQ(told(), "i To create a new invoice record please click on the New toolbar button.  "
-                      "It's the first one on the Layout Tab's toolbar.");
+    EXPECT_EQ(told(), "i To create a new invoice record please click on the New toolbar button.  It's the "
+                      "first one on the Layout Tab's toolbar.");
 }
 
 TEST_F(InitLayout, ThePaperGivesTheSheetItsSizeAndMargins) {
@@ -88,13 +94,12 @@ TEST_F(InitLayout, ThePaperGivesTheSheetItsSizeAndMargins) {
     options.layoutTopMargin = 0.25F;
     options.layoutRightMargin = 2;
     // Paper, orientation and custom size; the sheet's size and its margins.
-    for (const auto& c : table("1 1 4 6 -> 12240 15840 720 360 9360 14400 8.5 x 11; "
-                               "5 1 4 6 -> 12240 20160 720 360 9360 18720 8.5 x 14; "
-                               "9 2 4 6 -> 16838 11906 720 360 13958 10466 11.7 x 8.3; "
-                               "256 2 5.5 8.5 -> 7920 12240 720 360 5040 10800 5.5 x 8.5; "
-                               "256 1 4.1 3.05 -> 5904 4392 720 360 3024 2952 4.1 x 3; "
-                               "999 1 4 6 -> 12240 15840 720 360 9360 14400 8.5 x 11; "
-                               "256 1 -3 1e30 -> 0 720000 720 360 -2880 718560 0 x 500")) {
+    for (const auto& c :
+         table("1 1 4 6 -> 12240 15840 720 360 9360 14400 8.5 x 11; 5 1 4 6 -> 12240 20160 720 360 9360 "
+               "18720 8.5 x 14; 9 2 4 6 -> 16838 11906 720 360 13958 10466 11.7 x 8.3; 256 2 5.5 8.5 -> 7920 "
+               "12240 720 360 5040 10800 5.5 x 8.5; 256 1 4.1 3.05 -> 5904 4392 720 360 3024 2952 4.1 x 3; "
+               "999 1 4 6 -> 12240 15840 720 360 9360 14400 8.5 x 11; 256 1 -3 1e30 -> 0 720000 720 360 "
+               "-2880 718560 0 x 500")) {
         std::istringstream(c[0]) >> options.layoutPaperSize >> options.layoutOrientation >>
             options.customPaperLength >> options.customPaperHeight;
         layout::InitLayout(app, false);
@@ -113,13 +118,12 @@ TEST_F(InitLayout, ScrollingMovesSheetAndRulers) {
     openSheet();
     EXPECT_EQ(view(), "285 0 285 285, 12240 15840, 0/6240 0/10840");
     after("design");
-    for (const auto& c : table("v600 -> 285 -600 285 -315, 12240 15840, 0/6240 600/10840; "
-                               "v1 -> 285 285 285 284, 12240 15840, 0/6240 1/10840; "
-                               "v0 -> 285 285 285 240, 12240 15840, 0/6240 0/10840; "
-                               "h700 -> -700 285 -415 240, 12240 15840, 700/6240 0/10840; "
-                               "v99999 -> -700 -10840 -415 -10555, 12240 15840, 700/6240 10840/10840; "
-                               "v-5 -> -700 285 -415 240, 12240 15840, 700/6240 0/10840; "
-                               "h0 -> 285 285 285 240, 12240 15840, 0/6240 0/10840")) {
+    for (const auto& c :
+         table("v600 -> 285 -600 285 -315, 12240 15840, 0/6240 600/10840; v1 -> 285 285 285 284, 12240 "
+               "15840, 0/6240 1/10840; v0 -> 285 285 285 240, 12240 15840, 0/6240 0/10840; h700 -> -700 285 "
+               "-415 240, 12240 15840, 700/6240 0/10840; v99999 -> -700 -10840 -415 -10555, 12240 15840, "
+               "700/6240 10840/10840; v-5 -> -700 285 -415 240, 12240 15840, 700/6240 0/10840; h0 -> 285 285 "
+               "285 240, 12240 15840, 0/6240 0/10840")) {
         const int value = std::stoi(c[0].substr(1));
         c[0][0] == 'v' ? layout::layoutVScroll_Change(app, value) : layout::layoutHScroll_Change(app, value);
         EXPECT_EQ(view(), c[1]) << c[0];
