@@ -3,8 +3,12 @@
 #include "core/format.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "databases.h"
 #include "raised.h"
-#include "search/searchProgram.h"
+#include "table.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
 
 #include <random>
 
@@ -12,7 +16,7 @@ using entry::EditRecord;
 
 namespace {
 
-struct EditRecords : testing::Test, SearchProgram {
+struct EditRecords : testing::Test, Program {
     EditRecords() { openShop("Price * 2"); }
     core::RecordsList& LV = app.document.LV;
 
@@ -120,20 +124,6 @@ TEST_F(EditRecords, ManyAreAsManyTimesOne) {
     EXPECT_EQ(state(), wanted);
     EXPECT_EQ(raisedBy([&] { entry::addRecords(app, 32764, [](int, auto&) {}); }), core::errors::overflow);
     EXPECT_EQ(state(), wanted);
-}
-
-TEST_F(EditRecords, AnUpdateOfAResultReachesTheRecord) {
-    for (const char* name : {"a", "bx", "cx"}) add(std::string("No=1, Price=10, Name=") + name);
-    find("Name ~ x");
-    core::RecordsList& results = app.document.searchLV;
-    LV.setSelectedItem(&LV.at(1));
-    results.setSelectedItem(&results.at(2));
-    EXPECT_EQ(edit(true, "Name=C, Price=1"), &LV.at(3));
-    EXPECT_EQ(cells(), "1|a|$10.00||$20.00||;1|bx|$10.00||$20.00||;1|C|$1.00||$2.00||;"
-                       "------|------|$21.00|------|$42.00|------|;");
-    EXPECT_EQ(cells(results).substr(0, 41), "1|bx|$10.00||$20.00||;1|C|$1.00||$2.00||;");
-    results.setSelectedItem(results.totals());
-    EXPECT_EQ(edit(true, "Name=X"), nullptr);
 }
 
 TEST_F(EditRecords, DeleteAllSelectedButTheTotalsRow) {

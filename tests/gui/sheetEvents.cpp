@@ -40,7 +40,9 @@ struct Hands : LayoutSession {
     void command(const char* key) { action(key)->trigger(); }
     void sort(core::RecordsList& list) { clickHeader("Name", list.Name.c_str()); }
     void view(int index) { ::click(find<QRadioButton>(index == 1 ? "viewOpt1" : "viewOpt0")); }
-    void open(core::RecordsList& list) { QTest::keyClick(LayoutSession::list(list.Name.c_str()), Qt::Key_Return); }
+    void open(core::RecordsList& list) {
+        QTest::keyClick(LayoutSession::list(list.Name.c_str()), Qt::Key_Return);
+    }
 };
 
 // Every record keeps what belongs to it.
