@@ -135,6 +135,8 @@ private:
         });
         const std::string kept = ScriptedPlatform::read(platform.folder / "work/data.dat");
         const std::size_t first = std::min(kept.find("[Begin Data") + 18, kept.size());
+        std::error_code none;
+        const std::string size = "Filesize: " + number(fs::file_size(document.currentFile, none)) + " bytes.";
         const core::RecordsList& shown = shell::visibleList(app);
         return {{"caption",
                  mainFrm.Caption == "Ferrowick - " + document.currentFile ? "the file" : mainFrm.Caption},
@@ -160,7 +162,8 @@ private:
                 {"shown", &shown == &document.iLV  ? "invoices"
                           : &shown == &document.LV ? "records"
                                                    : "results"},
-                {"size", panel(app::fileSizePanel).substr(0, 13)},
+                {"size",
+                 panel(app::fileSizePanel) == size ? "of the file" : panel(app::fileSizePanel).substr(0, 9)},
                 {"style", panel(app::stylePanel)},
                 {"sums", cells(document.LV3)},
                 {"tab", number(mainFrm.SSTab1) + (mainFrm.SSTab1Enabled ? "" : " off")},
@@ -211,33 +214,34 @@ $ choose -> Open Database/ // caption: Ferrowick // save: off // tab: 0 off
 $ choose a.fwk -> Open Database/ // caption: the file // columns: 5 // current row: i1
 document: no/Document Opened // file: a.fwk // images: logo.gif; // kept: Bolt // last key: 2
 layout: LRL - - - // pointer: hourglass,arrow; // printed: Name| // recent: a.fwk;;; // records: 2 records.2
-rows: 3 // save: on // size: Filesize: 696 // style: Database Style: Standard // sums: 12|;$1.50|; // tab: 0
+rows: 3 // save: on // size: of the file // style: Database Style: Standard // sums: 12|;$1.50|; // tab: 0
 title: Stock
 $ choose -> Open Database/ // pointer: - && $ type changed -> document: yes/Document Modified
 $ choose -> Open Database/
 $ choose gone.fwk -> Open Database/ // i File does not exist! // caption: Ferrowick - a.fwk // file: -
+size: Filesize:
 $ open a.fwk -> caption: the file // document: yes/Document Opened // file: a.fwk // pointer: hourglass,arrow;
+size: of the file
 $ open folder -> i Previously opened file could not be fo // caption: Ferrowick - a.fwk // file: -
-pointer: -
-$ open a.fwk -> caption: the file // file: a.fwk // pointer: hourglass,arrow;
+pointer: - // size: Filesize:
+$ open a.fwk -> caption: the file // file: a.fwk // pointer: hourglass,arrow; // size: of the file
 $ open items.fwk -> columns: 4 // file: items.fwk // images: - // invoices: 4 // items: yes/0 // layout: RR
-pointer: - // printed: Qty| // shown: invoices // size: Filesize: 372 // style: Database Style: Invoice
-sums: 7|;
+pointer: - // printed: Qty| // shown: invoices // style: Database Style: Invoice // sums: 7|;
 $ choose inv.fwk -> Open Database/ // file: inv.fwk // invoices: 3 // items: no/1 // printed: Name|Price|
-recent: inv.fwk;a.fwk;; // size: Filesize: 374 // sums: $.25|;
+recent: inv.fwk;a.fwk;; // sums: $.25|;
 $ choose inv.fwk -> Open Database/ // recent: inv.fwk;inv.fwk;a.fwk;
 $ choose one.fwk -> Open Database/ // columns: 2 // file: one.fwk // invoices: hidden // kept: a
 last key: 1 // layout: - // printed: - // recent: one.fwk;inv.fwk;inv.fwk; // rows: 2 // shown: records
-size: Filesize: 248 // style: Database Style: Standard // sums: -
+style: Database Style: Standard // sums: -
 $ open bare.fwk -> columns: 4 // current row: Totals // file: bare.fwk // kept: - // last key: 0 // rows: 1
-size: Filesize: 260 // sums: |;|;
+sums: |;|;
 $ choose twice.fwk -> Open Database/ // caption: Ferrowick // columns: 1 // current row: - // file: -
-kept: Bolt // rows: 0 // save: off // tab: 0 off
+kept: Bolt // rows: 0 // save: off // size: Filesize: // tab: 0 off
 $ choose spots.fwk -> Open Database/ // columns: 4 // last key: 2 // rows: 3
 $ choose text.fwk -> Open Database/ // columns: 1 // kept: - // rows: 0
 $ open a.fwk -> caption: the file // columns: 5 // current row: i1 // file: a.fwk // images: logo.gif;
 kept: Bolt // layout: LRL - - - // pointer: hourglass,arrow; // printed: Name| // rows: 3 // save: on
-size: Filesize: 696 // sums: 12|;$1.50|; // tab: 0
+size: of the file // sums: 12|;$1.50|; // tab: 0
 )sh");
     document.searchLV.Visible = mainFrm.control("Search").Value = true;
     mainFrm.theListView = &document.searchLV;
@@ -248,7 +252,7 @@ size: Filesize: 696 // sums: 12|;$1.50|; // tab: 0
     expect(R"sh(
 $ open bare.fwk -> columns: 4 // current row: Totals // field: 0 // file: bare.fwk // images: - // kept: -
 last key: 0 // layout: - // printed: - // printing: 1 // rows: 1 // search: off // shown: records
-size: Filesize: 260 // sums: |;|; // tab: 0
+sums: |;|; // tab: 0
 )sh");
 }
 
@@ -270,18 +274,17 @@ $ clone clone.fwk -> Clone current file to.../Clone1.fwk // @ clone.fwk // -a.jp
 -One|12|$1.50|a.jpg| // -Nut|7|$.25|| // -------|------|------|------|
 $ answer yes
 $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File? // document: no/Document Saved
-file: taken.fwk // kept: Two // size: Filesize: 902 // ~a.jpg::bytes of a.jpg // ~logo.gif::bytes of logo.gif
+file: taken.fwk // kept: Two // ~a.jpg::bytes of a.jpg // ~logo.gif::bytes of logo.gif
 ~old.jpg::bytes of old.jpg // ~old.gif::bytes of old.gif // +F|Name|1|2|3|4|False|False|False|Arial|10|0|
 +F|Price|1|2|3|4|False|False|False|Arial|10|0| // +F|Gone|1|2|3|4|False|False|False|Arial|10|0|
 +C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4| // +[Column Names  ]Name|Qty|Price|Photo|
 +[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name| // +[Report Data   ]1|1|1|1|1|1|Stock|True|
 +[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| // +Nut|7|$.25|| // +------|------|------|------|
 $ type Ж -> document: yes/Document Modified
-$ save-as taken.fwk -> Save As.../Untitled.fwk // document: no/Document Saved // kept: Ж
-size: Filesize: 913 // ~Ж|12|$1.50|a.jpg|
+$ save-as taken.fwk -> Save As.../Untitled.fwk // document: no/Document Saved // kept: Ж // ~Ж|12|$1.50|a.jpg|
 $ type One -> document: yes/Document Modified
-$ save -> document: no/Document Saved // kept: One // size: Filesize: 903 // ~One|12|$1.50|a.jpg|
-$ clean -> pointer: hourglass,arrow; // size: Filesize: 795 // -old.jpg::bytes of old.jpg && $ clean
+$ save -> document: no/Document Saved // kept: One // ~One|12|$1.50|a.jpg|
+$ clean -> pointer: hourglass,arrow; // -old.jpg::bytes of old.jpg && $ clean
 $ save-results -> Save As.../Untitled Search Results.fwk // pointer: -
 $ save-results taken.fwk -> Save As.../Untitled Search Results.fwk // i You cannot save your search results to
 $ save-results clone.fwk -> Save As.../Untitled Search Results.fwk // - Overwrite Existing File?
@@ -312,13 +315,27 @@ $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
 $ save-as no/b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
 $ clone no/b.fwk -> Clone current file to.../Clone1.fwk // ! There was an error writing to the file // kept: -
 $ shell chmod 444 a.fwk && $ save -> ! There was an error writing to the file // kept: Two
-$ shell mv a.fwk away.fwk -> @ a.fwk gone // @ away.fwk && $ save -> ! There was an error writing to the file
+$ shell mv a.fwk away.fwk -> size: Filesize: // @ a.fwk gone // @ away.fwk
+$ save -> ! There was an error writing to the file
 $ save-as b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
 $ clean -> pointer: hourglass,arrow; && $ recover -> work/Recovered/a (recovered 1).fwk // pointer: -
 $ shell echo text > a.fwk -> @ a.fwk // +text && $ clean -> pointer: hourglass,arrow;
 $ recover -> work/Recovered/a (recovered 2).fwk // pointer: -
+$ shell mv ../work/Recovered/a*2* a.fwk -> ~data.dat:Main Data File:
++F|Name|1|2|3|4|False|False|False|Arial|10|0| // +F|Price|1|2|3|4|False|False|False|Arial|10|0|
++F|Gone|1|2|3|4|False|False|False|Arial|10|0| // +C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4|
++[Column Names  ]Name|Qty|Price|Photo| // +[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name|
++[Report Data   ]1|1|1|1|1|1|Stock|True| // +[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| // +Nut|7|$.25||
++------|------|------|------|
+$ shell mv away.fwk a.fwk -> size: of the file // @ away.fwk gone // +a.jpg::bytes of a.jpg
++[Totaled Cols  ]Qty| // ~Bolt|12|$1.50|a.jpg| // -Two|12|$1.50|a.jpg|
+$ type Three -> document: yes/Document Modified && $ recover -> work/Recovered/a (recovered 2).fwk
+$ shell mv ../work/Recovered/a*2* b.fwk -> @ b.fwk // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty|
++Three|12|$1.50|a.jpg|
 $ open gone.fwk -> i Previously opened file could not be fo // caption: Ferrowick - a.fwk // file: -
-$ save -> ! There was an error writing to the file && $ recover -> work/Recovered/Untitled (recovered 1).fwk
+size: Filesize:
+$ save -> ! There was an error writing to the file // document: no/Document Saved // kept: Three
+$ recover -> work/Recovered/Untitled (recovered 1).fwk
 )sh");
 }
 
@@ -341,26 +358,26 @@ $ open b.fwk -> caption: Ferrowick // columns: 1 // file: - // kept: - // rows: 
 $ new c.fwk invoice -> Specify Name For New Database/ // form databaseTypeFrm // form designFrm
 caption: the file // file: c.fwk // invoices: 0 // shown: invoices // columns: 2 // invoices: 1 // rows: 1
 save: on // style: Database Style: Invoice // sums: - // tab: 0 // @ c.fwk
-$ save -> document: no/Document Saved // kept: ------ // size: Filesize: 366 // +data.dat:Main Data File:
+$ save -> document: no/Document Saved // kept: ------ // size: of the file // +data.dat:Main Data File:
 +[Column Names  ]Qty| // +[Column Types  ]4| // +[DatabaseStyle ]True // +------|
 $ open inv.fwk -> columns: 4 // current row: i1 // document: no/Document Opened // file: inv.fwk
 invoices: 4 // items: yes/0 // kept: Bolt // last key: 2 // layout: RR // printed: Qty| // rows: 3
-size: Filesize: 372 // sums: 7|;
+sums: 7|;
 $ new taken.fwk -> Specify Name For New Database/ // x Overwrite Existing File? // form databaseTypeFrm
 columns: 1 // current row: - // invoices: hidden // printed: - // rows: 0 // shown: records
 $ open a.fwk -> columns: 5 // current row: i1 // file: a.fwk // layout: LRL - - - // printed: Name| // rows: 3
-size: Filesize: 495 // style: Database Style: Standard // sums: 12|;$1.50|; // title: Stock
+style: Database Style: Standard // sums: 12|;$1.50|; // title: Stock
 $ type One -> document: yes/Document Modified && $ answer yes
 $ new-at-start taken.fwk -> Specify Name For New Database/ // - Save current file a.fwk?
 x Overwrite Existing File? // form databaseTypeFrm // caption: Ferrowick // columns: 1 // current row: -
-document: no/Document Saved // kept: One // printed: - // rows: 0 // save: off // size: Filesize: 576
-tab: 0 off // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +[InvoiceView   ]True // +One|12|$1.50|a.jpg|
+document: no/Document Saved // kept: One // printed: - // rows: 0 // save: off // tab: 0 off
+-[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +[InvoiceView   ]True // +One|12|$1.50|a.jpg|
 $ open a.fwk -> caption: the file // columns: 5 // current row: i1 // document: no/Document Opened
 printed: Name| // rows: 3 // save: on // tab: 0
 $ type Two -> document: yes/Document Modified && $ answer cancel
 $ new no/b.fwk -> Specify Name For New Database/ // - Save current file a.fwk? // form databaseTypeFrm
 columns: 1 // current row: - // document: no/Document Saved // file: no/b.fwk // kept: Two // printed: -
-rows: 0 // @ a.fwk // ~Two|12|$1.50|a.jpg|
+rows: 0 // size: Filesize: // @ a.fwk // ~Two|12|$1.50|a.jpg|
 $ save -> ! There was an error writing to the file // kept: -
 $ recover -> work/Recovered/b (recovered 1).fwk
 )sh");
