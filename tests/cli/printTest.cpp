@@ -50,20 +50,17 @@ INVOICE 1 01/15/2004 Ærø Maskiner Item Qty Price Line Bolt M8 2 $1.50 $3.00 Nu
 TEST_F(Printing, RefusalsLeaveTheOldFile) {
     EXPECT_EQ(run("ln -s a.fwk link.fwk; echo old > old.pdf").code, 0);
     expect(R"sh(
-$1 fwk report absent.fwk -o old.pdf -> ! File not found
-$1 fwk report a.fwk -o old.pdf --columns Prise -> ! no column "Prise"
-$1 fwk report inv.fwk -o old.pdf --columns Total,Item -> ! the report does not show the column "Item"
-$1 fwk layouts a.fwk -o old.pdf --records i1,i99 -> ! no record "i99"
-$1 fwk layouts a.fwk -o old.pdf --records Totals -> ! no record "Totals"
-$1 fwk layouts none.fwk -o old.pdf -> ! there are no records
-$1 fwk layouts inv.fwk -o old.pdf --many -> ! invoices print one to a page only
-$1 fwk layouts wide.fwk -o old.pdf --many -> ! Ferrowick: The layout is... // ! no layout fits on a sheet
-$1 fwk report a.fwk -o no/such/folder.pdf -> ! no/such/folder.pdf: File not found: no/such/folder.pdf
-$1 fwk report a.fwk -o a.fwk -> ! is the database itself
-$1 fwk layouts a.fwk -o ./a.fwk -> ! ./a.fwk: is the database itself
-$1 fwk layouts a.fwk --many -o link.fwk -> ! link.fwk: is the database itself
-$2 fwk report a.fwk -> ! --output is required
-$1 ulimit -f 4; fwk report books.fwk -o old.pdf
+$1 fwk report absent.fwk -o old.pdf -> ! File not found && $1 fwk report a.fwk -o old.pdf --columns Prise
+! no column "Prise" && $1 fwk report inv.fwk -o old.pdf --columns Total,Item
+! the report does not show the column "Item" && $1 fwk layouts a.fwk -o old.pdf --records i1,i99
+! no record "i99" && $1 fwk layouts a.fwk -o old.pdf --records Totals -> ! no record "Totals"
+$1 fwk layouts none.fwk -o old.pdf -> ! there are no records && $1 fwk layouts inv.fwk -o old.pdf --many
+! invoices print one to a page only && $1 fwk layouts wide.fwk -o old.pdf --many
+! Ferrowick: The layout is... // ! no layout fits on a sheet && $1 fwk report a.fwk -o no/such/folder.pdf
+! no/such/folder.pdf: File not found: no/such/folder.pdf && $1 fwk report a.fwk -o a.fwk
+! is the database itself && $1 fwk layouts a.fwk -o ./a.fwk -> ! ./a.fwk: is the database itself
+$1 fwk layouts a.fwk --many -o link.fwk -> ! link.fwk: is the database itself && $2 fwk report a.fwk
+! --output is required && $1 ulimit -f 4; fwk report books.fwk -o old.pdf
 ! old.pdf: could not be written: Device I/O error: old.pdf (File too large)
 )sh");
 }

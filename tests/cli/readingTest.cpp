@@ -28,8 +28,7 @@ No      Number          700         2  serial number, last 42 // Title   Text   
 Price   Currency     1200.5         4 // Bought  Date           1300         5  today's date
 Value   Calculation    1200         7  = Price * No, totaled // Cover   Picture         900         6
 Entry     Bytes  Comment // --------  -----  -------------- // data.dat    966  Main Data File
-in.jpg       15
-$ fwk info a.fwk --json | tr -s ' \n' ' ' | fold -s -w 108 | sed 's/ $//'; echo
+in.jpg       15 && $ fwk info a.fwk --json | tr -s ' \n' ' ' | fold -s -w 108 | sed 's/ $//'; echo
 { "style": "standard", "view": "invoices", "locked": true, "records": 1, "columns": [ { "name": "No",
 "type": "Number", "width": 700, "position": 2 }, { "name": "Title", "type": "Text", "width": 3200,
 "position": 3 }, { "name": "Price", "type": "Currency", "width": 1200.5, "position": 4 }, { "name":
@@ -55,12 +54,12 @@ false, "FontUnderline": false, "FontName": "Serif", "FontSize": 8.25, "ForeColor
 "Height": 8 }, { "family": "clipPic", "index": 1, "Tag": "logo.gif", "Left": 9000, "Top": 990, "Width":
 1080, "Height": 420 }, { "family": "clipPic", "index": 2, "Tag": "logo.gif", "Left": 9, "Top": 9, "Width":
 1, "Height": 4 } ], "entries": [ { "name": "data.dat", "comment": "Main Data File", "size": 966 }, {
-"name": "in.jpg", "comment": "", "size": 15 } ] }
-$ fwk info b.fwk -> Style:    invoice // View:     invoices // Design:   not locked // Records:  0
-Layout:   empty; Letter, portrait // Report:   no title; paper 9, portrait
-Column  Type         Width  Position  By itself // ------  -----------  -----  --------  ---------
-Name    Text          1440         2 // Sum     Calculation   1440         3 // Entry     Bytes  Comment
---------  -----  -------------- // data.dat    258  Main Data File
+"name": "in.jpg", "comment": "", "size": 15 } ] } && $ fwk info b.fwk -> Style:    invoice
+View:     invoices // Design:   not locked // Records:  0 // Layout:   empty; Letter, portrait
+Report:   no title; paper 9, portrait // Column  Type         Width  Position  By itself
+------  -----------  -----  --------  --------- // Name    Text          1440         2
+Sum     Calculation   1440         3 // Entry     Bytes  Comment // --------  -----  --------------
+data.dat    258  Main Data File
 )sh");
 }
 
@@ -74,19 +73,15 @@ TEST_F(Reading, RecordsComeAsTheyAreStored) {
     expect(R"sh(
 $ fwk records odd.fwk -> Key     Name      Qty  Price // ------  --------  ---  ----- // i1      a "b", c    1
 i2        x y \    -2  $1.50 // i3      Ærø         3    (4) // i4 // ------  --------  ---  -----
-Totals  ------      2  $1.50
-$ fwk records odd.fwk --json -> {"columns": ["Name", "Qty", "Price"], //  "records": [
-  {"key": "i1", "cells": ["a \"b\", c", "1", ""]},
+Totals  ------      2  $1.50 && $ fwk records odd.fwk --json -> {"columns": ["Name", "Qty", "Price"],
+ "records": [ //   {"key": "i1", "cells": ["a \"b\", c", "1", ""]},
   {"key": "i2", "cells": ["  x\u000ay\u0009\\", "-2", "$1.50"]},
   {"key": "i3", "cells": ["Ærø", "3", "(4)"]}, //   {"key": "i4", "cells": ["\u007f", "", ""]}],
- "totals": ["------", "2", "$1.50"]}
-$ fwk records odd.fwk --csv -> Name,Qty,Price // "a ""b"", c",1, // "  x // y	\",-2,$1.50 // Ærø,3,(4) // ,,
-$ fwk records odd.fwk --csv --columns PRICE,Name -> Price,Name // ,"a ""b"", c" // $1.50,"  x // y	\"
-(4),Ærø // ,
-$ fwk records odd.fwk --csv --columns Price -> Price // "" // $1.50 // (4) // ""
-$ fwk records none.fwk --json -> {"columns": [], //  "records": [], //  "totals": []}
-$ fwk --version -> fwk 0.1.0
-$ fwk --help | grep save-as
+ "totals": ["------", "2", "$1.50"]} && $ fwk records odd.fwk --csv -> Name,Qty,Price // "a ""b"", c",1,
+"  x // y	\",-2,$1.50 // Ærø,3,(4) // ,, && $ fwk records odd.fwk --csv --columns PRICE,Name -> Price,Name
+,"a ""b"", c" // $1.50,"  x // y	\" // (4),Ærø // , && $ fwk records odd.fwk --csv --columns Price -> Price
+"" // $1.50 // (4) // "" && $ fwk records none.fwk --json -> {"columns": [], //  "records": [],
+ "totals": []} && $ fwk --version -> fwk 0.1.0 && $ fwk --help | grep save-as
   save-as                     Saves a database under another name, with its images
 $ fwk records --help | grep -e --columns ->   --columns A,B               These columns alone, in this order
 )sh");
@@ -103,31 +98,27 @@ TEST_F(Reading, SearchingAndReplacing) {
     expect(R"sh(
 $ fwk search a.fwk --where Name is bolt -> Key     Name    Qty   Price // ------  ------  ---  ------
 i1      Bolt     12   $1.50 // i3      Bolt      7  $12.34 // ------  ------  ---  ------
-Totals  ------   19  ------
-$ fwk search a.fwk --where name within 't, s' --json -> {"columns": ["Name", "Qty", "Price"], //  "records": [
+Totals  ------   19  ------ && $ fwk search a.fwk --where name within 't, s' --json
+{"columns": ["Name", "Qty", "Price"], //  "records": [
   {"key": "i2", "cells": ["Nut, small", "-7", "$.25"]}], //  "totals": ["------", "-7", "------"]}
 $ fwk search a.fwk --where Qty range -10 -1 --csv -> Name,Qty,Price // "Nut, small",-7,$.25
 $ fwk search a.fwk --where Qty le 0 --csv -> Name,Qty,Price // "Nut, small",-7,$.25
 $ fwk search a.fwk --where Qty ge 7 --where Price le 2 --csv -> Name,Qty,Price // Bolt,12,$1.50
 $ fwk search a.fwk --where Name within t --where Qty range 0 9 --where Price ge 1 --csv -> Name,Qty,Price
-Bolt,7,$12.34
-$ fwk search a.fwk --where Price is 1234 --csv -> Name,Qty,Price
+Bolt,7,$12.34 && $ fwk search a.fwk --where Price is 1234 --csv -> Name,Qty,Price
 $ fwk search a.fwk --where Name is bolt --where Name is '' --where Qty is 7 --csv -> Name,Qty,Price
-Bolt,12,$1.50 // Bolt,7,$12.34
-$ fwk search a.fwk --where Name is [a,b] --csv -> Name,Qty,Price
+Bolt,12,$1.50 // Bolt,7,$12.34 && $ fwk search a.fwk --where Name is [a,b] --csv -> Name,Qty,Price
 $ fwk search inv.fwk --where Customer within m --csv -> Invoice_No,Customer,Day,Subtotal,Tax,Total
 1,Ærø Maskiner,01/15/2004,$9.50,$.76,$10.26 // 2,Smith & Sons,02/15/2004,$25.75,$2.06,$27.81
 $ fwk search dates.fwk --where Bought ge 'Jan 5 2004' --csv -> Bought,Note // 01/05/2004,1/5/2004
-$ fwk search w.fwk --csv --where Name is -x -> Name // -x
-$ fwk search w.fwk --where=Name is --long --csv -> Name // --long
-$ fwk search w.fwk --where Name is -old --csv -> Name // -old
+$ fwk search w.fwk --csv --where Name is -x -> Name // -x && $ fwk search w.fwk --where=Name is --long --csv
+Name // --long && $ fwk search w.fwk --where Name is -old --csv -> Name // -old
 $ fwk search w.fwk --where Name within -x --where Name is -x --csv -> Name // -x
 $ fwk search w.fwk --where Name range -x -z --csv -> Name
 $ fwk search a.fwk --where Name is bolt -o found.fwk -> @ found.fwk // -Nut, small|-7|$.25|
 $ fwk search a.fwk --where Name is nut -o found.fwk --yes --csv -> Name,Qty,Price // @ found.fwk
--Bolt|12|$1.50| // -Bolt|7|$12.34|
-$ fwk replace a.fwk BOLT Screw -> 2 // ~Screw|12|$1.50| // ~Screw|7|$12.34|
-$ fwk replace a.fwk nut Dot --column Qty Price -> 0
+-Bolt|12|$1.50| // -Bolt|7|$12.34| && $ fwk replace a.fwk BOLT Screw -> 2 // ~Screw|12|$1.50|
+~Screw|7|$12.34| && $ fwk replace a.fwk nut Dot --column Qty Price -> 0
 $ fwk replace a.fwk nut Dot --column Qty --column Name -> 1 // ~Dot, small|-7|$.25|
 $ fwk replace a.fwk small '' -> 1 // ~Dot, |-7|$.25| && $ fwk replace a.fwk -- -7 -8 -> 1 // ~Dot, |-8|$.25|
 )sh");
@@ -161,8 +152,7 @@ TEST_F(Reading, CheckNamesWhatIsWrong) {
     for (int i = 0; i < 20000; ++i) endless.rows += "a|\r\n";
     make("endless.fwk", endless);
     expect(R"sh(
-$ fwk check good.fwk
-$1 fwk check names.fwk -> column "Price" has the unknown type "9"
+$ fwk check good.fwk && $1 fwk check names.fwk -> column "Price" has the unknown type "9"
 totaledCols names "Sum", which is no column // optionedCols names "Day", which is no column
 printedCols names "Nme", which is no column // prnInvoiceCols names "A", which is no column
 prnItemCols names "Index", which is no column // a serial counter names "No", which is no column
@@ -175,14 +165,12 @@ a lock names "imgHolder,2", which is not on the layout // a lock names "clipPic,
 a lock names "x,1", which is not on the layout // a lock names "pBox", which is not on the layout
 i2 in "Photo" names the image "lost.jpg", which is not in the archive
 i3 in "Photo" names the image "more.jpg", which is not in the archive // nothing names the image "orphan.jpg"
-! 23 findings
-$1 fwk check counts.fwk -> line 8: section [Column Names  ] is there twice
+! 23 findings && $1 fwk check counts.fwk -> line 8: section [Column Names  ] is there twice
 section [Column Types  ] has 4 elements in place of 3 // section [Column Widths ] has 5 elements in place of 3
-section [Column Spots  ] has 2 elements in place of 4 // ! 4 findings
-$1 fwk check order.fwk -> the width "1e9" of a column is out of range
-the width "-1" of a column is out of range // section [Column Spots  ] is no order of the columns
-the last row is no Totals row: it has "last" in "Name" // ! 4 findings
-$1 fwk check cut.fwk -> line 9: row with too few cells // line 10: row with too many cells
+section [Column Spots  ] has 2 elements in place of 4 // ! 4 findings && $1 fwk check order.fwk
+the width "1e9" of a column is out of range // the width "-1" of a column is out of range
+section [Column Spots  ] is no order of the columns // the last row is no Totals row: it has "last" in "Name"
+! 4 findings && $1 fwk check cut.fwk -> line 9: row with too few cells // line 10: row with too many cells
 line 11: row with too few cells // line 11: row without a separator at its end // ! 4 findings
 $ fwk check endless.fwk 2>&1 | tail -2 -> and 19001 more // fwk: endless.fwk: 20001 findings
 )sh");

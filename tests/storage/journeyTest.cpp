@@ -210,35 +210,28 @@ TEST_F(Journey, Opening) {
     fs::create_directory(folder / "folder");
     mainFrm.bCtrlDown = true; // of the shortcut
     expect(R"sh(
-$ choose -> Open Database/ // caption: Ferrowick // save: off // tab: 0 off
-$ choose a.fwk -> Open Database/ // caption: the file // columns: 5 // current row: i1
-document: no/Document Opened // file: a.fwk // images: logo.gif; // kept: Bolt // last key: 2
-layout: LRL - - - // pointer: hourglass,arrow; // printed: Name| // recent: a.fwk;;; // records: 2 records.2
-rows: 3 // save: on // size: of the file // style: Database Style: Standard // sums: 12|;$1.50|; // tab: 0
-title: Stock
-$ choose -> Open Database/ // pointer: - && $ type changed -> document: yes/Document Modified
-$ choose -> Open Database/
-$ choose gone.fwk -> Open Database/ // i File does not exist! // caption: Ferrowick - a.fwk // file: -
-size: Filesize:
-$ open a.fwk -> caption: the file // document: yes/Document Opened // file: a.fwk // pointer: hourglass,arrow;
-size: of the file
-$ open folder -> i Previously opened file could not be fo // caption: Ferrowick - a.fwk // file: -
-pointer: - // size: Filesize:
-$ open a.fwk -> caption: the file // file: a.fwk // pointer: hourglass,arrow; // size: of the file
-$ open items.fwk -> columns: 4 // file: items.fwk // images: - // invoices: 4 // items: yes/0 // layout: RR
-pointer: - // printed: Qty| // shown: invoices // style: Database Style: Invoice // sums: 7|;
-$ choose inv.fwk -> Open Database/ // file: inv.fwk // invoices: 3 // items: no/1 // printed: Name|Price|
-recent: inv.fwk;a.fwk;; // sums: $.25|;
-$ choose inv.fwk -> Open Database/ // recent: inv.fwk;inv.fwk;a.fwk;
-$ choose one.fwk -> Open Database/ // columns: 2 // file: one.fwk // invoices: hidden // kept: a
-last key: 1 // layout: - // printed: - // recent: one.fwk;inv.fwk;inv.fwk; // rows: 2 // shown: records
-style: Database Style: Standard // sums: -
-$ open bare.fwk -> columns: 4 // current row: Totals // file: bare.fwk // kept: - // last key: 0 // rows: 1
-sums: |;|;
-$ choose twice.fwk -> Open Database/ // caption: Ferrowick // columns: 1 // current row: - // file: -
-kept: Bolt // rows: 0 // save: off // size: Filesize: // tab: 0 off
-$ choose spots.fwk -> Open Database/ // columns: 4 // last key: 2 // rows: 3
-$ choose text.fwk -> Open Database/ // columns: 1 // kept: - // rows: 0
+$ choose -> Open Database/ // caption: Ferrowick // save: off // tab: 0 off && $ choose a.fwk
+Open Database/ // caption: the file // columns: 5 // current row: i1 // document: no/Document Opened
+file: a.fwk // images: logo.gif; // kept: Bolt // last key: 2 // layout: LRL - - -
+pointer: hourglass,arrow; // printed: Name| // recent: a.fwk;;; // records: 2 records.2 // rows: 3 // save: on
+size: of the file // style: Database Style: Standard // sums: 12|;$1.50|; // tab: 0 // title: Stock
+$ choose -> Open Database/ // pointer: - && $ type changed -> document: yes/Document Modified && $ choose
+Open Database/ && $ choose gone.fwk -> Open Database/ // i File does not exist! // caption: Ferrowick - a.fwk
+file: - // size: Filesize: && $ open a.fwk -> caption: the file // document: yes/Document Opened
+file: a.fwk // pointer: hourglass,arrow; // size: of the file && $ open folder
+i Previously opened file could not be fo // caption: Ferrowick - a.fwk // file: - // pointer: -
+size: Filesize: && $ open a.fwk -> caption: the file // file: a.fwk // pointer: hourglass,arrow;
+size: of the file && $ open items.fwk -> columns: 4 // file: items.fwk // images: - // invoices: 4
+items: yes/0 // layout: RR // pointer: - // printed: Qty| // shown: invoices // style: Database Style: Invoice
+sums: 7|; && $ choose inv.fwk -> Open Database/ // file: inv.fwk // invoices: 3 // items: no/1
+printed: Name|Price| // recent: inv.fwk;a.fwk;; // sums: $.25|; && $ choose inv.fwk -> Open Database/
+recent: inv.fwk;inv.fwk;a.fwk; && $ choose one.fwk -> Open Database/ // columns: 2 // file: one.fwk
+invoices: hidden // kept: a // last key: 1 // layout: - // printed: - // recent: one.fwk;inv.fwk;inv.fwk;
+rows: 2 // shown: records // style: Database Style: Standard // sums: - && $ open bare.fwk -> columns: 4
+current row: Totals // file: bare.fwk // kept: - // last key: 0 // rows: 1 // sums: |;|; && $ choose twice.fwk
+Open Database/ // caption: Ferrowick // columns: 1 // current row: - // file: - // kept: Bolt // rows: 0
+save: off // size: Filesize: // tab: 0 off && $ choose spots.fwk -> Open Database/ // columns: 4
+last key: 2 // rows: 3 && $ choose text.fwk -> Open Database/ // columns: 1 // kept: - // rows: 0
 $ open a.fwk -> caption: the file // columns: 5 // current row: i1 // file: a.fwk // images: logo.gif;
 kept: Bolt // layout: LRL - - - // pointer: hourglass,arrow; // printed: Name| // rows: 3 // save: on
 size: of the file // sums: 12|;$1.50|; // tab: 0
@@ -262,33 +255,28 @@ TEST_F(Journey, Saving) {
     open(folder / "a.fwk");
     run("Save");
     expect(R"sh(
-$ save -> pointer: - && $ type One -> document: yes/Document Modified
-$ save -> document: no/Document Saved // kept: One // ~One|12|$1.50|a.jpg|
-$ type Two -> document: yes/Document Modified && $ save-as -> Save As.../Untitled.fwk
-$ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File? && $ answer cancel
-$ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
-$ clone -> Clone current file to.../Clone1.fwk // kept: -
-$ clone taken.fwk -> Clone current file to.../Clone1.fwk // - Overwrite Existing File?
-$ clone clone.fwk -> Clone current file to.../Clone1.fwk // @ clone.fwk // -a.jpg::bytes of a.jpg
--logo.gif::bytes of logo.gif // -old.jpg::bytes of old.jpg // -old.gif::bytes of old.gif
--One|12|$1.50|a.jpg| // -Nut|7|$.25|| // -------|------|------|------|
-$ answer yes
-$ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File? // document: no/Document Saved
-file: taken.fwk // kept: Two // ~a.jpg::bytes of a.jpg // ~logo.gif::bytes of logo.gif
-~old.jpg::bytes of old.jpg // ~old.gif::bytes of old.gif // +F|Name|1|2|3|4|False|False|False|Arial|10|0|
-+F|Price|1|2|3|4|False|False|False|Arial|10|0| // +F|Gone|1|2|3|4|False|False|False|Arial|10|0|
-+C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4| // +[Column Names  ]Name|Qty|Price|Photo|
-+[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name| // +[Report Data   ]1|1|1|1|1|1|Stock|True|
-+[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| // +Nut|7|$.25|| // +------|------|------|------|
-$ type Ж -> document: yes/Document Modified
-$ save-as taken.fwk -> Save As.../Untitled.fwk // document: no/Document Saved // kept: Ж // ~Ж|12|$1.50|a.jpg|
-$ type One -> document: yes/Document Modified
-$ save -> document: no/Document Saved // kept: One // ~One|12|$1.50|a.jpg|
-$ clean -> pointer: hourglass,arrow; // -old.jpg::bytes of old.jpg && $ clean
-$ save-results -> Save As.../Untitled Search Results.fwk // pointer: -
-$ save-results taken.fwk -> Save As.../Untitled Search Results.fwk // i You cannot save your search results to
-$ save-results clone.fwk -> Save As.../Untitled Search Results.fwk // - Overwrite Existing File?
-$ answer yes
+$ save -> pointer: - && $ type One -> document: yes/Document Modified && $ save -> document: no/Document Saved
+kept: One // ~One|12|$1.50|a.jpg| && $ type Two -> document: yes/Document Modified && $ save-as
+Save As.../Untitled.fwk && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
+$ answer cancel && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File? && $ clone
+Clone current file to.../Clone1.fwk // kept: - && $ clone taken.fwk -> Clone current file to.../Clone1.fwk
+- Overwrite Existing File? && $ clone clone.fwk -> Clone current file to.../Clone1.fwk // @ clone.fwk
+-a.jpg::bytes of a.jpg // -logo.gif::bytes of logo.gif // -old.jpg::bytes of old.jpg
+-old.gif::bytes of old.gif // -One|12|$1.50|a.jpg| // -Nut|7|$.25|| // -------|------|------|------|
+$ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
+document: no/Document Saved // file: taken.fwk // kept: Two // ~a.jpg::bytes of a.jpg
+~logo.gif::bytes of logo.gif // ~old.jpg::bytes of old.jpg // ~old.gif::bytes of old.gif
++F|Name|1|2|3|4|False|False|False|Arial|10|0| // +F|Price|1|2|3|4|False|False|False|Arial|10|0|
++F|Gone|1|2|3|4|False|False|False|Arial|10|0| // +C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4|
++[Column Names  ]Name|Qty|Price|Photo| // +[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name|
++[Report Data   ]1|1|1|1|1|1|Stock|True| // +[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| // +Nut|7|$.25||
++------|------|------|------| && $ type Ж -> document: yes/Document Modified && $ save-as taken.fwk
+Save As.../Untitled.fwk // document: no/Document Saved // kept: Ж // ~Ж|12|$1.50|a.jpg| && $ type One
+document: yes/Document Modified && $ save -> document: no/Document Saved // kept: One // ~One|12|$1.50|a.jpg|
+$ clean -> pointer: hourglass,arrow; // -old.jpg::bytes of old.jpg && $ clean && $ save-results
+Save As.../Untitled Search Results.fwk // pointer: - && $ save-results taken.fwk
+Save As.../Untitled Search Results.fwk // i You cannot save your search results to && $ save-results clone.fwk
+Save As.../Untitled Search Results.fwk // - Overwrite Existing File? && $ answer yes
 $ save-results clone.fwk -> Save As.../Untitled Search Results.fwk // - Overwrite Existing File? // kept: -
 )sh");
 }
@@ -299,43 +287,37 @@ TEST_F(Journey, FailedSaves) {
     open(folder / "a.fwk");
     fs::permissions(folder / "taken.fwk", fs::perms(0444));
     expect(R"sh(
-$ type One -> document: yes/Document Modified && $ error 71
-$ save-as b.fwk -> Save As.../Untitled.fwk // !   Please insert your working source di
-$ save-as a.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
-$ save -> ! There was an error writing to the file
-$ clone b.fwk -> ! There was an error writing to the file
-$ save-results b.fwk -> Save As.../Untitled Search Results.fwk // !   Please insert your working source di
-$ error 75 && $ save-as b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
-$ error 0 && $ save-within 0 -> ! There was an error writing to the file // kept: -
-$ save-within 100 -> ! There was an error writing to the file // kept: Name
-$ save-within 500 -> ! There was an error writing to the file && $ type Two
-$ save-as-within 500 -> Save As.../Untitled.fwk // ! There was an error writing to the file && $ answer yes
-$ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
-! There was an error writing to the file // document: no/Document Saved // kept: Two
-$ save-as no/b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
+$ type One -> document: yes/Document Modified && $ error 71 && $ save-as b.fwk -> Save As.../Untitled.fwk
+!   Please insert your working source di && $ save-as a.fwk -> Save As.../Untitled.fwk
+! There was an error writing to the file && $ save -> ! There was an error writing to the file
+$ clone b.fwk -> ! There was an error writing to the file && $ save-results b.fwk
+Save As.../Untitled Search Results.fwk // !   Please insert your working source di && $ error 75
+$ save-as b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file && $ error 0
+$ save-within 0 -> ! There was an error writing to the file // kept: - && $ save-within 100
+! There was an error writing to the file // kept: Name && $ save-within 500
+! There was an error writing to the file && $ type Two && $ save-as-within 500 -> Save As.../Untitled.fwk
+! There was an error writing to the file && $ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk
+- Overwrite Existing File? // ! There was an error writing to the file // document: no/Document Saved
+kept: Two && $ save-as no/b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
 $ clone no/b.fwk -> Clone current file to.../Clone1.fwk // ! There was an error writing to the file // kept: -
 $ shell chmod 444 a.fwk && $ save -> ! There was an error writing to the file // kept: Two
-$ shell mv a.fwk away.fwk -> size: Filesize: // @ a.fwk gone // @ away.fwk
-$ save -> ! There was an error writing to the file
-$ save-as b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
-$ clean -> pointer: hourglass,arrow; && $ recover -> work/Recovered/a (recovered 1).fwk // pointer: -
-$ shell echo text > a.fwk -> @ a.fwk // +text && $ clean -> pointer: hourglass,arrow;
-$ recover -> work/Recovered/a (recovered 2).fwk // pointer: -
+$ shell mv a.fwk away.fwk -> size: Filesize: // @ a.fwk gone // @ away.fwk && $ save
+! There was an error writing to the file && $ save-as b.fwk -> Save As.../Untitled.fwk
+! There was an error writing to the file && $ clean -> pointer: hourglass,arrow; && $ recover
+work/Recovered/a (recovered 1).fwk // pointer: - && $ shell echo text > a.fwk -> @ a.fwk // +text && $ clean
+pointer: hourglass,arrow; && $ recover -> work/Recovered/a (recovered 2).fwk // pointer: -
 $ shell mv ../work/Recovered/a*2* a.fwk -> ~data.dat:Main Data File:
 +F|Name|1|2|3|4|False|False|False|Arial|10|0| // +F|Price|1|2|3|4|False|False|False|Arial|10|0|
 +F|Gone|1|2|3|4|False|False|False|Arial|10|0| // +C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4|
 +[Column Names  ]Name|Qty|Price|Photo| // +[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name|
 +[Report Data   ]1|1|1|1|1|1|Stock|True| // +[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| // +Nut|7|$.25||
-+------|------|------|------|
-$ shell mv away.fwk a.fwk -> size: of the file // @ away.fwk gone // +a.jpg::bytes of a.jpg
-+[Totaled Cols  ]Qty| // ~Bolt|12|$1.50|a.jpg| // -Two|12|$1.50|a.jpg|
++------|------|------|------| && $ shell mv away.fwk a.fwk -> size: of the file // @ away.fwk gone
++a.jpg::bytes of a.jpg // +[Totaled Cols  ]Qty| // ~Bolt|12|$1.50|a.jpg| // -Two|12|$1.50|a.jpg|
 $ type Three -> document: yes/Document Modified && $ recover -> work/Recovered/a (recovered 2).fwk
 $ shell mv ../work/Recovered/a*2* b.fwk -> @ b.fwk // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty|
-+Three|12|$1.50|a.jpg|
-$ open gone.fwk -> i Previously opened file could not be fo // caption: Ferrowick - a.fwk // file: -
-size: Filesize:
-$ save -> ! There was an error writing to the file // document: no/Document Saved // kept: Three
-$ recover -> work/Recovered/Untitled (recovered 1).fwk
++Three|12|$1.50|a.jpg| && $ open gone.fwk -> i Previously opened file could not be fo
+caption: Ferrowick - a.fwk // file: - // size: Filesize: && $ save -> ! There was an error writing to the file
+document: no/Document Saved // kept: Three && $ recover -> work/Recovered/Untitled (recovered 1).fwk
 )sh");
 }
 
@@ -347,39 +329,33 @@ TEST_F(Journey, NewDatabases) {
     mainFrm.SSTab1 = app::layoutTab;
     mainFrm.iFieldFocus = 4;
     expect(R"sh(
-$ new b.fwk cancel -> form databaseTypeFrm
-$ new - invoice -> Specify Name For New Database/ // form databaseTypeFrm
-$ type One -> document: yes/Document Modified
-$ new b.fwk -> Specify Name For New Database/ // - Save current file a.fwk? // form databaseTypeFrm
-form designFrm // columns: 1 // current row: - // document: yes/ // field: 0 // file: b.fwk // printed: -
-rows: 0 // size: - // tab: 0 // columns: 2 // last key: 0 // layout: - // rows: 1 // sums: |; // title: -
-@ b.fwk
-$ open b.fwk -> caption: Ferrowick // columns: 1 // file: - // kept: - // rows: 0 // save: off // tab: 0 off
+$ new b.fwk cancel -> form databaseTypeFrm && $ new - invoice -> Specify Name For New Database/
+form databaseTypeFrm && $ type One -> document: yes/Document Modified && $ new b.fwk
+Specify Name For New Database/ // - Save current file a.fwk? // form databaseTypeFrm // form designFrm
+columns: 1 // current row: - // document: yes/ // field: 0 // file: b.fwk // printed: - // rows: 0 // size: -
+tab: 0 // columns: 2 // last key: 0 // layout: - // rows: 1 // sums: |; // title: - // @ b.fwk && $ open b.fwk
+caption: Ferrowick // columns: 1 // file: - // kept: - // rows: 0 // save: off // tab: 0 off
 $ new c.fwk invoice -> Specify Name For New Database/ // form databaseTypeFrm // form designFrm
 caption: the file // file: c.fwk // invoices: 0 // shown: invoices // columns: 2 // invoices: 1 // rows: 1
-save: on // style: Database Style: Invoice // sums: - // tab: 0 // @ c.fwk
-$ save -> document: no/Document Saved // kept: ------ // size: of the file // +data.dat:Main Data File:
-+[Column Names  ]Qty| // +[Column Types  ]4| // +[DatabaseStyle ]True // +------|
-$ open inv.fwk -> columns: 4 // current row: i1 // document: no/Document Opened // file: inv.fwk
-invoices: 4 // items: yes/0 // kept: Bolt // last key: 2 // layout: RR // printed: Qty| // rows: 3
-sums: 7|;
-$ new taken.fwk -> Specify Name For New Database/ // x Overwrite Existing File? // form databaseTypeFrm
-columns: 1 // current row: - // invoices: hidden // printed: - // rows: 0 // shown: records
-$ open a.fwk -> columns: 5 // current row: i1 // file: a.fwk // layout: LRL - - - // printed: Name| // rows: 3
-style: Database Style: Standard // sums: 12|;$1.50|; // title: Stock
-$ type One -> document: yes/Document Modified && $ answer yes
-$ new-at-start taken.fwk -> Specify Name For New Database/ // - Save current file a.fwk?
-x Overwrite Existing File? // form databaseTypeFrm // caption: Ferrowick // columns: 1 // current row: -
-document: no/Document Saved // kept: One // printed: - // rows: 0 // save: off // tab: 0 off
--[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +[InvoiceView   ]True // +One|12|$1.50|a.jpg|
+save: on // style: Database Style: Invoice // sums: - // tab: 0 // @ c.fwk && $ save
+document: no/Document Saved // kept: ------ // size: of the file // +data.dat:Main Data File:
++[Column Names  ]Qty| // +[Column Types  ]4| // +[DatabaseStyle ]True // +------| && $ open inv.fwk
+columns: 4 // current row: i1 // document: no/Document Opened // file: inv.fwk // invoices: 4 // items: yes/0
+kept: Bolt // last key: 2 // layout: RR // printed: Qty| // rows: 3 // sums: 7|; && $ new taken.fwk
+Specify Name For New Database/ // x Overwrite Existing File? // form databaseTypeFrm // columns: 1
+current row: - // invoices: hidden // printed: - // rows: 0 // shown: records && $ open a.fwk -> columns: 5
+current row: i1 // file: a.fwk // layout: LRL - - - // printed: Name| // rows: 3
+style: Database Style: Standard // sums: 12|;$1.50|; // title: Stock && $ type One
+document: yes/Document Modified && $ answer yes && $ new-at-start taken.fwk -> Specify Name For New Database/
+- Save current file a.fwk? // x Overwrite Existing File? // form databaseTypeFrm // caption: Ferrowick
+columns: 1 // current row: - // document: no/Document Saved // kept: One // printed: - // rows: 0 // save: off
+tab: 0 off // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +[InvoiceView   ]True // +One|12|$1.50|a.jpg|
 $ open a.fwk -> caption: the file // columns: 5 // current row: i1 // document: no/Document Opened
-printed: Name| // rows: 3 // save: on // tab: 0
-$ type Two -> document: yes/Document Modified && $ answer cancel
-$ new no/b.fwk -> Specify Name For New Database/ // - Save current file a.fwk? // form databaseTypeFrm
-columns: 1 // current row: - // document: no/Document Saved // file: no/b.fwk // kept: Two // printed: -
-rows: 0 // size: Filesize: // @ a.fwk // ~Two|12|$1.50|a.jpg|
-$ save -> ! There was an error writing to the file // kept: -
-$ recover -> work/Recovered/b (recovered 1).fwk
+printed: Name| // rows: 3 // save: on // tab: 0 && $ type Two -> document: yes/Document Modified
+$ answer cancel && $ new no/b.fwk -> Specify Name For New Database/ // - Save current file a.fwk?
+form databaseTypeFrm // columns: 1 // current row: - // document: no/Document Saved // file: no/b.fwk
+kept: Two // printed: - // rows: 0 // size: Filesize: // @ a.fwk // ~Two|12|$1.50|a.jpg| && $ save
+! There was an error writing to the file // kept: - && $ recover -> work/Recovered/b (recovered 1).fwk
 )sh");
 }
 

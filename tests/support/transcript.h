@@ -10,7 +10,7 @@
 //     $ add Bolt 12
 //     records 1
 //     $ add Nut -> records 2 // modified      the same with " -> " and " // " for the ends of lines
-//     $1 add -> ! no cells && $1 add x        acts that share a line
+//     $1 add -> ! no cells && $1 add x        and " && " in front of an act that shares a line
 //
 // A code may stand behind the "$", which is told, and no part of the act. Blank lines do not count, nor do
 // those that begin with "#".
