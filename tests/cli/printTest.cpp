@@ -39,6 +39,7 @@ Nut Label Bolt and washer Label // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many; pdftotext -layout a.pdf - | xargs; pdfinfo a.pdf | grep Pages
 Bolt and washer Nut Label Label // Pages:           1 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many --records i2; pdftotext -layout a.pdf - | xargs -> Nut Label // @ a.pdf
+$ fwk layouts wide.fwk -o a.pdf -> @ a.pdf
 $ fwk layouts books.fwk -o a.pdf --records i1; pdfimages -list a.pdf | grep -c ' image ' -> 2 // @ a.pdf
 $ fwk layouts inv.fwk -o a.pdf --records i1; pdftotext -layout a.pdf - | xargs
 INVOICE 1 01/15/2004 Ærø Maskiner Item Qty Price Line Bolt M8 2 $1.50 $3.00 Nut M8 3 $2.00 $6.00 Washer 10 $.05 $.50 $.00 $.00 $.00 $9.50 $.76 $10.26
