@@ -1,282 +1,240 @@
-#include "designShop.h"
+#include "calc/designFrm.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "calcProgram.h"
 
 using calc::designFrm;
 using platform::Answer;
-using platform::Icon;
-using testing::ElementsAre;
-namespace errors = core::errors;
 
 namespace {
 
-constexpr const char* renameLabels =
-    "Would you like to rename all exact matching labels in your layout to the new name as well?";
+const std::string labelsQuestion =
+    "- Would you like to rename all exact matching labels in your layout to the new name as well?\n";
+const std::string formulasQuestion =
+    "! A column you intend to delete is either a member of a calculation column expression, or is a "
+    "calculation column itself.  You will need to redefine expressions for all affected calculation columns "
+    "that referenced this one. Are you sure you want to do this?\n";
+const std::string notUnique = "Key is not unique in collection\n";
 
-TEST(DesignFrmTest, showsTheColumnsWithTheirOptions) {
-    DesignShop shop;
-    for (const char* name : {"Qty", "Name", "Gone"}) shop.document.optionedCols.add(name, name);
-    designFrm form(shop.app);
-    EXPECT_EQ(DesignShop::rows(form), "Name Text NA NA;Price Currency NA NA;Qty Number NA ON;Day Date OFF NA;"
-                                      "Sum Calculation NA NA;");
-    EXPECT_TRUE(form.pictureVisible);
-    EXPECT_TRUE(form.fieldTxtHasFocus);
-    EXPECT_FALSE(shop.document.bModified);
-    form.Form_QueryUnload();
-    EXPECT_TRUE(shop.document.bModified);
-    shop.document.bInvoiceStyle = true;
-    EXPECT_FALSE(designFrm(shop.app).pictureVisible);
+std::string lossQuestion(const std::string& name) {
+    return "x Are you absolutely certain you want to do this?  ALL data in the column " + name +
+           " will be lost!\n";
 }
 
-TEST(DesignFrmTest, addsAColumnOfEachType) {
-    struct Case {
-        int option;
-        const char *tag, *row;
-        core::Alignment align;
-    };
-    using core::Alignment;
-    // Dates stand left and pictures right until the database is opened again. It is wanted so.
-    const Case cases[] = {{0, "1", "New_One Date OFF NA;", Alignment::Left},
-                          {1, "2", "New_One Currency NA NA;", Alignment::Right},
-                          {2, "5", "New_One Calculation NA NA;", Alignment::Right},
-                          {3, "4", "New_One Number NA OFF;", Alignment::Right},
-                          {4, "3", "New_One Text NA NA;", Alignment::Left},
-                          {5, "7", "New_One Picture NA NA;", Alignment::Right}};
-    for (const Case& c : cases) {
-        RecordsProgram program({});
-        program.record({});
-        designFrm form(program.app);
-        form.fieldTxtHasFocus = false;
-        for (const int option : {c.option, 6, -1}) form.typeOpt_Click(option); // of six
-        EXPECT_TRUE(form.fieldTxtHasFocus);
-        form.fieldTxt_Change("New One");
-        EXPECT_EQ(form.fieldTxt, "New_One");
-        form.fieldTxt_Enter();
-        EXPECT_EQ(DesignShop::rows(form), c.row);
-        EXPECT_EQ(form.fieldTxt, "");
-        const core::Column& column = program.LV.columns["New_One"];
-        EXPECT_EQ(column.Tag, c.tag);
-        EXPECT_EQ(column.Width, 1440);
-        EXPECT_EQ(column.align, c.align) << c.row;
-        EXPECT_EQ(column.Icon, c.option == 5 ? "Picture" : "");
-        EXPECT_EQ(program.cells(program.LV), "|;|;") << "empty in the Totals row too";
-    }
+std::string rows(const designFrm& form) {
+    std::string all;
+    for (const designFrm::Row& row : form.List1)
+        all += row.Name + " " + row.Type + " " + row.AutoDate + " " + row.AutoSerial + ";";
+    return all;
 }
 
-TEST(DesignFrmTest, namesThatAddTakesAndRefuses) {
-    DesignShop shop;
-    designFrm form(shop.app);
-    form.typeOpt_Click(3);
-    for (const char* blank : {"", "   "}) {
-        form.fieldTxt = blank;
-        form.addBtn_Click();
-        shop.expectMessage("You must enter a column name.", Icon::Information);
-    }
-    shop.type(form, "Price");
-    shop.expectMessage("Column with that name already exists!", Icon::Exclamation);
-    EXPECT_EQ(form.fieldTxt, "Price");
-    form.fieldTxt = " Pri ce "; // blanks that came into the box in another way
-    form.addBtn_Click();
-    shop.expectMessage("Column with that name already exists!", Icon::Exclamation);
-    EXPECT_EQ(shop.LV.columns.count(), 6);
-    for (const char* odd : {"123", "a,b", "Größe", "___"}) shop.type(form, odd);
-    EXPECT_TRUE(shop.platform.messages.empty());
-    EXPECT_EQ(shop.LV.columns.count(), 10);
-    // No message exists for a name that differs in case alone, or for that of the hidden column.
-    for (const char* taken : {"price", "GRÖßE", "Index", "INDEX"})
-        EXPECT_EQ(raisedBy([&] { shop.type(form, taken); }), errors::keyNotUnique) << taken;
-    EXPECT_EQ(shop.LV.columns.count(), 10);
-    EXPECT_EQ(form.List1.size(), 9U);
-    EXPECT_EQ(shop.LV.at(1).cells.size(), 9U);
-}
+// A database with a column of nearly each type, and all that can name one.
+const DataFile shop =
+    DataFile("Name Price:2 Qty:4 Day:1 Sum:5", "Bolt|$1.50|2|01/02/2003|$3.00;Nut|$.25|4||$1.00")
+        .objects("F|Price|0|0|9|9;F|price|0|0|9|9;F|Qty|0|0|9|9;F|Name|0|0|9|9;F|Qty|0|0|9|9;"
+                 "L| PRICE  |0|0|9|9;L|Price:|0|0|9|9;P|Price|0|0|9|9;P|Qty|0|0|9|9;P|Name|0|0|9|9")
+        .section("Printed Cols", "Qty|Price|Gone|")
+        .section("PrnInvoiceCols", "Price|Qty|")
+        .section("PrnItemCols", "Price|Gone|")
+        .section("Formulas", "Sum,Price * Qty|")
+        .section("Totaled Cols", "Qty|Price|Gone|")
+        .section("Optioned Cols", "Qty|Name|Gone|")
+        .section("Increments", "Qty,41|");
 
-TEST(DesignFrmTest, fiftyColumnsAreTheMost) {
-    RecordsProgram program({});
-    program.record({});
-    designFrm form(program.app);
-    for (int i = 1; i <= 51; ++i) {
-        form.fieldTxt_Change("C" + std::to_string(i));
-        form.addBtn_Click();
-        ASSERT_EQ(program.platform.messages.size(), i == 51 ? 1U : 0U) << i;
-    }
-    EXPECT_EQ(program.platform.lastMessage(),
-              "You have added the maximum number of columns to the database.");
-    EXPECT_EQ(program.platform.messages[0].icon, Icon::Information);
-    EXPECT_EQ(form.fieldTxt, "C51");
-    EXPECT_EQ(program.LV.columns.count(), 51);
-    EXPECT_EQ(program.LV.at(1).cells.size(), 50U);
-    // The number is looked at ahead of the name.
-    form.fieldTxt.clear();
-    form.addBtn_Click();
-    ASSERT_EQ(program.platform.messages.size(), 2U);
-    EXPECT_EQ(program.platform.messages[1].text, program.platform.messages[0].text);
-}
-
-TEST(DesignFrmTest, renamesEverywhereThatNamesTheColumn) {
-    DesignShop shop;
-    core::LayoutObjects& layout = shop.document.layout;
-    layout.layoutField.load(1).Tag = "Price";
-    layout.layoutField.load(2).Tag = "price";
-    layout.imgHolder.load(1).Tag = "Price";
-    for (const char* text : {" PRICE  ", "Price:", "Größe"})
-        layout.tLabel.load(layout.tLabel.lowestFreeIndex()).Text = text;
-    for (const char* name : {"Qty", "Price", "Gone"}) {
-        shop.document.printedCols.add(name, name);
-        shop.document.totaledCols.add(name, name);
-        shop.document.prnItemCols.add(name, name);
-        shop.document.optionedCols.add(name, name);
-    }
-    shop.platform.answers = {Answer::Yes};
-    designFrm form(shop.app);
-    DesignShop::select(form, "Price");
-    form.fieldTxt = " Net Price ";
-    form.changeBtn_Click();
-    EXPECT_EQ(form.fieldTxt, "NetPrice") << "blanks go, and the name stays in the box";
-    EXPECT_THAT(shop.platform.texts(), ElementsAre(renameLabels));
-    EXPECT_EQ(layout.layoutField.find(1)->Tag, "NetPrice");
-    EXPECT_EQ(layout.layoutField.find(2)->Tag, "price");
-    EXPECT_EQ(layout.imgHolder.find(1)->Tag, "NetPrice");
-    EXPECT_EQ(layout.tLabel.find(1)->Text, "NetPrice");
-    EXPECT_EQ(layout.tLabel.find(2)->Text, "Price:");
-    EXPECT_EQ(form.List1[1].Name, "NetPrice");
-    EXPECT_EQ(shop.LV.columns.find("Price"), nullptr);
-    EXPECT_EQ(shop.LV.columns["netprice"].Index, 3);
-    EXPECT_EQ(shop.cell(1, "NetPrice"), "$1.50");
-    EXPECT_EQ(DesignShop::text(shop.document.printedCols), "Qty|NetPrice|Gone|");
-    EXPECT_EQ(DesignShop::text(shop.document.totaledCols), "Qty|NetPrice|Gone|");
-    EXPECT_EQ(DesignShop::text(shop.document.prnItemCols), "Qty|NetPrice|Gone|");
-    EXPECT_EQ(DesignShop::text(shop.document.optionedCols), "Qty|Price|Gone|");
-    EXPECT_EQ(DesignShop::text(shop.document.formulas), "Sum,NetPrice * Qty|");
-}
-
-// Formulas are changed by plain substrings with a blank beside them, and as a whole under their own name.
-TEST(DesignFrmTest, howARenameChangesFormulas) {
-    struct Case {
-        const char *from, *to, *before, *after;
-    };
-    const Case cases[] = {
-        {"Tax", "Duty", "Sum,Price + Tax", "Sum,Price + Duty"},
-        {"Tax", "Duty", "Sum,Tax + Price", "Sum,Duty + Price"},
-        {"Tax", "Duty", "Sum,Tax", "Sum,Tax"},
-        {"Tax", "Duty", "Sum,SalesTax + 1", "Sum,SalesDuty + 1"},
-        {"Tax", "Duty", "Sum,1 + TaxRate", "Sum,1 + DutyRate"},
-        {"Tax", "Duty", "Sum,SalesTax", "Sum,SalesTax"},
-        {"Tax", "Duty", "Sum,tax + 1", "Sum,tax + 1"},
-        {"Tax", "Duty", "Tax,Tax + SalesTax", "Duty,Duty + SalesDuty"},
-        {"Tax", "Duty", "Tax,Undefined", "Duty,Undefined"},
-        {"A", "AB", "A,C + A", "AB,C + ABB"}, // changed twice. It is wanted so
-    };
-    for (const Case& c : cases) {
-        RecordsProgram program({{c.from, "5"}});
-        const std::string entry = c.before;
-        program.document.formulas.add(entry, entry.substr(0, entry.find(',')));
-        designFrm form(program.app);
-        form.selectedRow = 0;
-        form.fieldTxt_Change(c.to);
-        form.changeBtn_Click();
-        const std::string after = c.after;
-        EXPECT_EQ(RecordsProgram::text(program.document.formulas), after + "|") << c.before;
-        EXPECT_NE(program.document.formulas.find(after.substr(0, after.find(','))), nullptr) << c.before;
-    }
-}
-
-TEST(DesignFrmTest, namesThatChangeNameTakesAndRefuses) {
-    DesignShop shop;
-    const std::string before = shop.cells(shop.LV);
-    const auto names = [&] {
-        std::string all;
-        for (const core::Column& column : shop.LV.columns) all += column.Key + "|";
-        return all;
-    };
-    shop.rename("Price", "");
-    designFrm(shop.app).changeBtn_Click(); // no row is selected
-    EXPECT_TRUE(shop.platform.messages.empty());
-    for (const char* number : {"123", "-1.5", "$5", "1,234", "(7)", "1e3"}) {
-        shop.rename("Price", number);
-        shop.expectMessage("Column name must not be a number.", Icon::Information);
-    }
-    for (const char* taken : {"Qty", "Price"}) {
-        shop.rename("Price", taken);
-        shop.expectMessage("Column with that name already exists!", Icon::Exclamation);
-    }
-    EXPECT_EQ(raisedBy([&] { shop.rename("Price", "qty"); }), errors::keyNotUnique);
-    EXPECT_EQ(names(), "Index|Name|Price|Qty|Day|Sum|");
-    EXPECT_EQ(DesignShop::text(shop.document.formulas), "Sum,Price * Qty|");
-    shop.document.layout.tLabel.load(1).Text = "Price";
-    shop.rename("Price", "price,net");
-    EXPECT_EQ(shop.document.layout.tLabel.find(1)->Text, "Price") << "the answer was No";
-    EXPECT_EQ(names(), "Index|Name|price,net|Qty|Day|Sum|");
-    EXPECT_EQ(shop.cells(shop.LV), before);
-}
-
-// The printed columns keep the name of a column that is gone; a file with the name twice would not open.
-TEST(DesignFrmTest, aColumnMayTakeTheNameOfOneThatIsGone) {
-    DesignShop shop;
-    for (const char* name : {"Price", "Qty"}) shop.document.printedCols.add(name, name);
-    shop.remove("Price");
-    EXPECT_EQ(DesignShop::text(shop.document.printedCols), "Price|Qty|");
-    shop.rename("Qty", "Price");
-    EXPECT_EQ(DesignShop::text(shop.document.printedCols), "Price|");
-    EXPECT_EQ(shop.LV.columns["Price"].Tag, "4");
-}
-
-TEST(DesignFrmTest, entryOptionsAreAskedForDatesAndNumbers) {
-    DesignShop shop;
-    shop.platform.answers = {Answer::Yes, Answer::Yes};
-    designFrm form(shop.app);
-    for (const int row : {0, 1, 4, -1, 5}) form.List1_DblClick(row);
-    EXPECT_TRUE(shop.platform.messages.empty());
-    form.List1_DblClick(3);
-    form.List1_DblClick(2);
-    EXPECT_THAT(shop.platform.texts(), ElementsAre("Auto enter today's date when entering data?",
-                                                   "Auto increment value when entering data?"));
-    EXPECT_EQ(shop.platform.messages[0].caption, "Entry Options");
-    EXPECT_EQ(form.List1[3].AutoDate, "ON");
-    EXPECT_EQ(form.List1[2].AutoSerial, "ON");
-    form.List1_DblClick(3); // no answer left: No
-    EXPECT_EQ(form.List1[3].AutoDate, "OFF");
-    EXPECT_TRUE(shop.document.optionedCols.empty()) << "Done alone takes them over";
-}
-
-TEST(DesignFrmTest, doneKeepsCountersInStepWithTheOptions) {
-    DesignShop shop;
-    const auto choose = [&](std::initializer_list<int> rows, Answer answer) {
-        designFrm form(shop.app);
-        for (const int row : rows) {
-            shop.platform.answers = {answer};
-            form.List1_DblClick(row);
+struct DesignFrm : CalcTest {
+    // Acts in the dialog, with Yes and No as answers: "add -> A; rename -> A -> B; remove -> B; option ->
+    // Day; done". What is told, or the error, and what a save would write otherwise than before.
+    std::string play(std::string_view acts, std::string_view answers = "") {
+        const SavedState before = saved();
+        app::setDocumentModified(app, false);
+        platform.answers.clear();
+        for (const char c : answers) platform.answers.push_back(c == 'y' ? Answer::Yes : Answer::No);
+        designFrm form(app);
+        std::string said;
+        for (const auto& act : table(acts, 3)) {
+            const auto row =
+                std::ranges::find(form.List1, act[1], &designFrm::Row::Name) - form.List1.begin();
+            form.selectedRow = static_cast<int>(row); // beyond the end for a name that is not there
+            form.fieldTxt = act[0] == "add" ? act[1] : act[2];
+            try {
+                if (act[0] == "add") form.addBtn_Click();
+                if (act[0] == "rename") form.changeBtn_Click();
+                if (act[0] == "remove") form.deleteBtn_Click();
+                if (act[0] == "option") form.List1_DblClick(form.selectedRow);
+                if (act[0] == "done") form.doneBtn_Click();
+            } catch (const core::RunTimeError& error) {
+                said += std::string(error.what()).substr(0, 31) + "\n"; // without the name
+            }
+            box = form.fieldTxt;
+            selected = form.selectedRow;
         }
-        form.doneBtn_Click();
-        EXPECT_TRUE(form.unloaded && shop.document.bModified);
-    };
-    choose({2, 3}, Answer::Yes);
-    EXPECT_EQ(DesignShop::text(shop.document.optionedCols), "Qty|Day|");
-    EXPECT_EQ(shop.serials(), "Qty=0;");
-    shop.document.SerialsLV.at(1).subItem(1) = "41";
-    choose({}, Answer::Yes);
-    EXPECT_EQ(shop.serials(), "Qty=41;") << "a counter goes on";
-    choose({2}, Answer::No);
-    EXPECT_EQ(DesignShop::text(shop.document.optionedCols), "Day|");
-    EXPECT_EQ(shop.serials(), "");
-    choose({2}, Answer::Yes);
-    EXPECT_EQ(shop.serials(), "Qty=0;");
+        EXPECT_EQ(document.bModified, form.unloaded);
+        EXPECT_TRUE(!form.unloaded || rows(form) == rows(designFrm(app))) << acts;
+        const std::string messages = told();
+        return messages + (messages.empty() ? "" : "\n") + said + changesSince(before);
+    }
+    std::string box;
+    int selected = -1;
+};
+
+TEST_F(DesignFrm, AddsAColumnOfEachType) {
+    open(DataFile("A", "x"));
+    designFrm form(app);
+    EXPECT_TRUE(form.pictureVisible && form.fieldTxtHasFocus);
+    for (int type = 0; type < 6; ++type) {
+        form.fieldTxtHasFocus = false;
+        for (const int option : {type, 6, -1}) form.typeOpt_Click(option); // of six
+        EXPECT_TRUE(form.fieldTxtHasFocus);
+        form.fieldTxtHasFocus = false;
+        form.fieldTxt_Change("N " + std::to_string(type));
+        form.fieldTxt_Enter();
+        EXPECT_TRUE(form.fieldTxtHasFocus && form.fieldTxt.empty());
+    }
+    EXPECT_EQ(rows(form), "A Text NA NA;N_0 Date OFF NA;N_1 Currency NA NA;N_2 Calculation NA NA;"
+                          "N_3 Number NA OFF;N_4 Text NA NA;N_5 Picture NA NA;");
+    // Dates stand left and pictures right until the database is opened again. It is wanted so.
+    std::string looks;
+    for (const core::Column& column : LV.columns)
+        looks += column.Tag + (column.align == core::Alignment::Left ? "< " : "> ") + column.Icon;
+    EXPECT_EQ(looks, "< 3< 1< 2> 5> 4> 3< 7> Picture");
+    EXPECT_EQ(cells(), "x|||||||;------|||||||;") << "empty in the Totals row too";
 }
 
-// Another name is another counter, and so is another case: without one, the column would propose a date.
-TEST(DesignFrmTest, aRenamedSerialColumnCountsAfresh) {
-    for (const char* name : {"No", "qty"}) {
-        DesignShop shop;
-        shop.document.optionedCols.add("Qty", "Qty");
-        shop.document.SerialsLV.add("Qty", "Qty").subItem(1) = "41";
-        designFrm form(shop.app);
-        DesignShop::select(form, "Qty");
-        form.fieldTxt_Change(name);
-        form.changeBtn_Click();
-        form.doneBtn_Click();
-        EXPECT_EQ(DesignShop::text(shop.document.optionedCols), name + std::string("|"));
-        EXPECT_EQ(shop.serials(), name + std::string("=0;"));
+TEST_F(DesignFrm, NamesThatAreRefused) {
+    open(shop);
+    EXPECT_EQ(play("add ->    "), "i You must enter a column name.\n");
+    for (const char* acts : {"add ->  Pri ce ", "rename -> Name -> Qty", "rename -> Price -> Price"})
+        EXPECT_EQ(play(acts), "! Column with that name already exists!\n") << acts;
+    for (const char* name : {"123", "-1.5", "$5", "1,234", "(7)", "1e3"})
+        EXPECT_EQ(play(std::string("rename -> Price -> ") + name), "i Column name must not be a number.\n");
+    for (const char* acts :
+         {"rename -> Price ->   ", "rename -> Gone -> X", "remove -> Gone", "option -> Gone"})
+        EXPECT_EQ(play(acts, "yy"), "") << acts;
+    // No message exists for a name that differs in case alone, or for that of the hidden column.
+    for (const char* acts : {"add -> price", "add -> INDEX"}) EXPECT_EQ(play(acts), notUnique);
+    EXPECT_TRUE(play("rename -> Price -> qty").starts_with(labelsQuestion + notUnique));
+    open(DataFile("A", "x"));
+    play("add -> 123; add -> a,b; add -> größe; add -> ___; add -> GRÖßE; rename -> A -> 1.5.2; "
+         "rename -> a,b -> c,d");
+    EXPECT_EQ(saved()["Column Names"], "1.5.2|123|c,d|größe|___|");
+    std::string acts;
+    for (int i = 6; i <= 51; ++i) acts += "add -> C" + std::to_string(i) + "; ";
+    const std::string full = "i You have added the maximum number of columns to the database.\n";
+    EXPECT_TRUE(play(acts + "add -> ; add -> A").starts_with(full + full + full + "Begin Data"));
+    EXPECT_EQ(LV.columns.count(), 51);
+    EXPECT_EQ(box, "A");
+}
+
+TEST_F(DesignFrm, RenamesEverywhereThatNamesTheColumn) {
+    open(shop);
+    EXPECT_EQ(play("rename -> Price ->  Net Price ", "y"),
+              labelsQuestion +
+                  "Column Names: Name|NetPrice|Qty|Day|Sum|\nFormulas: Sum,NetPrice * Qty|\n"
+                  "LayoutStart: F|NetPrice;F|price;F|Qty;F|Name;F|Qty;L|NetPrice;L|Price:;P|NetPrice;P|Qty;"
+                  "P|Name;\nPrinted Cols: Qty|NetPrice|Gone|\nPrnInvoiceCols: NetPrice|Qty|\n"
+                  "PrnItemCols: NetPrice|Gone|\nTotaled Cols: Qty|NetPrice|Gone|\n");
+    EXPECT_EQ(box, "NetPrice") << "blanks go, and the name stays in the box";
+    // The printed columns keep the names of columns that are gone; a file with a name twice would not open.
+    // The counter is put right by Done: another name is another counter, and so is another case.
+    play("rename -> Qty -> Gone; done");
+    EXPECT_EQ(saved()["Printed Cols"], "Gone|NetPrice|");
+    EXPECT_EQ(saved()["Increments"], "Gone,0|");
+    document.SerialsLV.at(1).subItem(1) = "41";
+    play("rename -> Gone -> GONE; done");
+    EXPECT_EQ(saved()["Increments"], "GONE,0|");
+}
+
+// Formulas are changed by plain substrings with a blank beside them, and as a whole under their own name. One
+// is changed twice. It is wanted so.
+TEST_F(DesignFrm, HowARenameChangesFormulas) {
+    for (const auto& c : table("Sum,Price + Tax -> Sum,Price + Duty; Sum,Tax + Price -> Sum,Duty + Price; "
+                               "Sum,Tax -> Sum,Tax; Sum,SalesTax + 1 -> Sum,SalesDuty + 1; "
+                               "Sum,1 + TaxRate -> Sum,1 + DutyRate; Sum,SalesTax -> Sum,SalesTax; "
+                               "Sum,tax + 1 -> Sum,tax + 1; Tax,Tax + SalesTax -> Duty,Duty + SalesDuty; "
+                               "Tax,Undefined -> Duty,Undefined; Tax,C + Tax -> TaxB,C + TaxBB -> TaxB",
+                               3)) {
+        open(DataFile("Tax:5").section("Formulas", c[0] + "|"));
+        play("rename -> Tax -> " + (c[2].empty() ? "Duty" : c[2]));
+        EXPECT_EQ(text(document.formulas), c[1] + "|") << c[0];
+        EXPECT_NE(document.formulas.find(c[1].substr(0, c[1].find(','))), nullptr) << c[0];
     }
+}
+
+TEST_F(DesignFrm, DoneKeepsCountersInStepWithTheOptions) {
+    open(shop);
+    EXPECT_EQ(rows(designFrm(app)), "Name Text NA NA;Price Currency NA NA;Qty Number NA ON;Day Date OFF NA;"
+                                    "Sum Calculation NA NA;");
+    const std::string date = "- Entry Options: Auto enter today's date when entering data?\n";
+    const std::string serial = "- Entry Options: Auto increment value when entering data?\n";
+    EXPECT_EQ(play("option -> Name; option -> Price; option -> Sum; option -> Gone", "yyyy"), "");
+    EXPECT_EQ(play("option -> Day; option -> Qty; option -> Qty", "yn"), date + serial + serial);
+    EXPECT_EQ(play("done"), "Optioned Cols: Qty|\n") << "a counter goes on";
+    EXPECT_EQ(play("option -> Day; option -> Qty; done", "yn"),
+              date + serial + "Increments: \nOptioned Cols: Day|\n");
+    EXPECT_EQ(play("option -> Qty; done", "y"), serial + "Increments: Qty,0|\nOptioned Cols: Qty|Day|\n");
+}
+
+TEST_F(DesignFrm, RemovesTheColumnWithAllThatBelongsToIt) {
+    open(shop);
+    EXPECT_EQ(play("remove -> Price", "yn"), formulasQuestion + lossQuestion("Price"));
+    EXPECT_EQ(play("remove -> Price", "ny"), formulasQuestion);
+    EXPECT_EQ(play("remove -> Sum", "yn"), formulasQuestion + lossQuestion("Sum"));
+    EXPECT_EQ(play("remove -> Name", "ny"), lossQuestion("Name"));
+
+    LV.columns.setPosition(4, 2);
+    app::LayoutPage& page = app.mainFrm.layoutPage;
+    page.selectedObject = {core::Family::layoutField, 3};
+    page.Handle.Visible = true;
+    EXPECT_EQ(play("remove -> Qty -> half typed", "yy"),
+              formulasQuestion + lossQuestion("Qty") +
+                  "Begin Data: Bolt|$1.50|01/02/2003|Undefined|;Nut|$.25||Undefined|;"
+                  "------|------|------|Undefined|;\nColumn Names: Name|Price|Day|Sum|\n"
+                  "Column Spots: 1|2|3|4|5|\nColumn Types: 3|2|1|5|\nColumn Widths: 1440|1440|1440|1440|\n"
+                  "Formulas: \nLayoutStart: F|Price;F|price;F|Name;L| PRICE  ;L|Price:;P|Price;P|Name;\n"
+                  "Totaled Cols: Price|Gone|\n");
+    EXPECT_EQ(box, "");
+    EXPECT_EQ(selected, 2);
+    EXPECT_FALSE(page.selectedObject.isObject() || page.Handle.Visible);
+    EXPECT_EQ(play("done"), "Increments: \nOptioned Cols: \n") << "put right by Done alone";
+    play("remove -> Sum", "y");
+    EXPECT_EQ(selected, 2) << "the last row";
+    play("remove -> Name; remove -> Day; remove -> Price; done", "yyy");
+    EXPECT_EQ(cells(), ";;;");
+    EXPECT_EQ(LV.columns.count(), 1);
+    open(DataFile("ax").section("Formulas", "Sum,SalesTAX + 1|"));
+    EXPECT_EQ(play("remove -> ax", "n"), formulasQuestion) << "rather too often than not at all";
+}
+
+TEST_F(DesignFrm, UndefinedSpreadsOverAllThatDependsOnTheColumn) {
+    for (const auto& c :
+         table("X -> A,X + 1|B,A * 2|C,7 -> C,7| -> Undefined|Undefined|c|; "
+               // Alone it has no blank beside it.
+               "X -> C,B|B,A * 2|A,1 + X -> C,B| -> Undefined|Undefined|c|; "
+               "X -> A,X|B,1 -> A,X|B,1| -> a|b|c|; X -> A,1 + Xyz|B,1 -> B,1| -> Undefined|b|c|; "
+               "X -> A,x + 1|B,1 -> A,x + 1|B,1| -> a|b|c|; "
+               "X -> Gone,X + 1|Index,X + 1|C,Gone + 1 ->  -> a|b|Undefined|; "
+               "A -> A,1|B,A + 1|C,B + A ->  -> 1|Undefined|Undefined|; "
+               "A -> A,A + 1|B,Undefined -> B,Undefined| -> 1|b|c|; "
+               "A -> A,B + 1|B,A + 1 ->  -> 1|Undefined|c|; "
+               "A -> B,2|C,B + 1|A,C + 1 -> B,2|C,B + 1| -> 1|b|c|",
+               4)) {
+        open(DataFile("A:5 X:4 B:5 C:5", "a|1|b|c").section("Formulas", c[1] + "|"));
+        play("remove -> " + c[0], "yy");
+        EXPECT_EQ(text(document.formulas), c[2]) << c[1];
+        EXPECT_EQ(cells(LV.at(1)), c[3]) << c[1];
+    }
+}
+
+TEST_F(DesignFrm, TheInvoiceListFollows) {
+    openCopyOf("invoices.fwk");
+    EXPECT_FALSE(designFrm(app).pictureVisible);
+    std::string shown;
+    for (const char* act : {"add -> Paid", "rename -> Customer -> Client", "remove -> Day"}) {
+        play(act, "yy");
+        for (const core::Column& column : document.iLV.columns) shown += column.Text + " ";
+    }
+    EXPECT_EQ(shown, "Index Invoice_No Customer Day Subtotal Tax Total Paid "
+                     "Index Invoice_No Client Day Subtotal Tax Total Paid "
+                     "Index Invoice_No Client Subtotal Tax Total Paid ");
 }
 
 } // namespace

@@ -1,254 +1,146 @@
 #include "calc/formulateFrm.h"
 
-#include "recordsProgram.h"
-
-#include <gtest/gtest.h>
+#include "calc/serialFrm.h"
+#include "calc/serialNumbers.h"
+#include "calcProgram.h"
 
 using calc::formulateFrm;
 
 namespace {
 
-struct Shop : RecordsProgram {
-    Shop()
-        : RecordsProgram({{"Name", "3"},
-                          {"Price", "2"},
-                          {"Qty", "4"},
-                          {"Day", "1"},
-                          {"Sum", "5"},
-                          {"Tax", "5"},
-                          {"Img", "7"}}) {
-        record({"Bolt", "$1.50", "2", "01/02/2003", "old", "old", ""});
-        formula("Sum", "Price * Qty");
+struct FormulateFrm : CalcTest {
+    // Presses what the words stand for: a row of the columns ("#1"), a button, keys of the keypad, an
+    // operator, or an entry of the field list. What the box holds in the end, and the expressions that have
+    // changed.
+    std::string press(formulateFrm& form, const std::string& keys) {
+        const std::vector<formulateFrm::Row> before = form.colList;
+        for (const std::string_view key : core::split(keys, ' ')) {
+            if (key.starts_with('#')) form.colList_Click(std::stoi(std::string(key.substr(1))));
+            if (key == "Back") form.backBtn_Click();
+            if (key == "Clear") form.clearBtn_Click();
+            if (key == "Apply") form.addCalcBtn_Click();
+            if (key.size() == 1) form.NumKey_Click(key == "." ? 10 : key[0] - '0');
+            const auto field = std::ranges::find(form.fieldList, key) - form.fieldList.begin();
+            form.fieldList_Click(static_cast<std::size_t>(field)); // beyond the end for what is no field
+            form.operatorBtn_Click(key);
+        }
+        std::string all = form.expTxt;
+        for (std::size_t i = 0; i < before.size(); ++i)
+            if (form.colList[i].Formula != before[i].Formula)
+                all += " / " + form.colList[i].Name + "=" + form.colList[i].Formula;
+        return all + (told().empty() ? "" : " told");
     }
 };
 
-std::string rows(const formulateFrm& form) {
-    std::string all;
-    for (const formulateFrm::Row& row : form.colList) all += row.Name + "=" + row.Formula + ";";
-    return all;
-}
-
-// Presses what a word stands for: a keypad key, an operator, or an entry of the field list.
-void press(formulateFrm& form, std::initializer_list<std::string_view> keys) {
-    for (const std::string_view key : keys) {
-        if (key == "Back") {
-            form.backBtn_Click();
-        } else if (key == "Clear") {
-            form.clearBtn_Click();
-        } else if (key == ".") {
-            form.NumKey_Click(10);
-        } else if (key.size() == 1 && key[0] >= '0' && key[0] <= '9') {
-            form.NumKey_Click(key[0] - '0');
-        } else if (const auto field = std::ranges::find(form.fieldList, key); field != form.fieldList.end()) {
-            form.fieldList_Click(static_cast<std::size_t>(field - form.fieldList.begin()));
-        } else {
-            form.operatorBtn_Click(key);
-        }
+TEST_F(FormulateFrm, Buttons) {
+    // Nothing looks at what went before, but digits join the number across the blanks behind it. Back from
+    // the first edit on forgets that too. An expression that goes takes with it what hangs on it, by any
+    // substring; a name that is part of the word "Undefined" would find the rows marked already for ever.
+    for (const auto& c :
+         table("Price 5 Apply -> 5; #0 -> Price * Qty; #1 -> ; #1 Price Multiply Qty -> Price * Qty; "
+               "#1 Left Price Add 1 Right Divide 2 Subtract 3 ->  ( Price + 1 )  / 2 - 3; #1 . 5 0 -> .50; "
+               "#1 0 1 2 3 4 5 6 7 8 9 -> 0123456789; #1 Add Add ->  +  + ; #1 Qty 5 Qty -> Qty5Qty; "
+               "#1 Modulo -> ; #0 7 -> A + 17 -> Sum,A + 1  ; #0 7 -> A +  7 -> Sum,A +  ; "
+               "#0 7 -> 1. 7 -> Sum,1. ; #0 7 ->    7 -> Sum,   ; #0 7 -> Qty27 -> Sum,Qty2 ; "
+               "#0 Add 5 Back -> Price * Qty + ; #0 Add 5 Back Back -> Price * Qty; "
+               "#0 Add 5 Back Back Back -> ; #0 Back 5 -> 5; #0 Back 5 Back -> ; "
+               "#0 Back 5 Back Back Back -> ; #1 1 2 Clear 3 Back -> ; #0 1 2 #1 Back -> ; "
+               "#1 5 #-1 #4 6 -> 56; #0 Clear Tax ->  told; #0 Clear Sum -> Sum; "
+               "#0 Add 1 Apply ->  / Sum=Price * Qty + 1; #1 Left Sum Right Apply Back ->  / Tax= ( Sum ); "
+               "#0 Clear Apply ->  / Sum=Undefined; #1 9 Apply Tax -> Tax / Tax=9; "
+               "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined / Rate=Undefined -> Sum,1|Tax,Sum + "
+               "1|Rate,Tax * 2|fin,5; "
+               "#1 Clear Apply ->  / Tax=Undefined -> Sum,1|Tax,2|Rate,3; "
+               "#2 Clear Apply ->  / Sum=Undefined / Rate=Undefined -> Sum,TaxRate|Tax,rate|Rate,3; "
+               "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined -> Sum,Tax|Tax,Sum|Rate,3; "
+               "#0 Clear Apply ->  / Sum=Undefined -> Sum,Sum|Tax,2|Rate,3; "
+               "#3 Clear Apply ->  / Sum=Undefined / Rate=Undefined / fin=Undefined -> "
+               "Sum,fin|Tax,1|Rate,Sum|fin,2",
+               3)) {
+        open(DataFile("Price:2 Name Qty:4 Day:1 Sum:5 Tax:5 Rate:5 fin:5 Img:7", "")
+                 .section("Formulas", c[2].empty() ? "Sum,Price * Qty|" : c[2] + "|"));
+        formulateFrm form(app);
+        EXPECT_EQ(form.fieldList, (std::vector<std::string>{"Price", "Qty", "Sum", "Tax", "Rate", "fin"}));
+        EXPECT_EQ(press(form, c[0]), c[1]) << c[0];
+        EXPECT_EQ(form.fieldListEnabled && form.addCalcBtnEnabled, c[0].starts_with('#'));
     }
 }
 
-TEST(FormulateFrmTest, showsCalculationColumnsAndWhatTheyMayReferTo) {
-    Shop shop;
-    const formulateFrm form(shop.app);
-    EXPECT_EQ(rows(form), "Sum=Price * Qty;Tax=Undefined;");
-    EXPECT_EQ(form.fieldList, (std::vector<std::string>{"Price", "Qty", "Sum", "Tax"}));
-    EXPECT_FALSE(form.fieldListEnabled);
-    EXPECT_FALSE(form.addCalcBtnEnabled);
-}
-
-TEST(FormulateFrmTest, withoutCalculationColumnsItCloses) {
-    RecordsProgram program({{"Qty", "4"}});
-    program.formula("Stale", "1");
-    formulateFrm form(program.app);
+TEST_F(FormulateFrm, Closing) {
+    open(DataFile("A:5 B:5 C:5 Qty:4", "old|old|old|2")
+             .section("Totaled Cols", "A|")
+             .section("Formulas", "Stale,1|A,B + 1|B,2|"));
+    const SavedState before = saved();
+    formulateFrm form(app);
     form.Form_Activate();
-    EXPECT_EQ(program.platform.told(),
-              "0|Ferrowick|There are no calculation columns in the current database.");
-    EXPECT_TRUE(form.unloaded);
-    EXPECT_TRUE(program.document.formulas.empty()) << "every way of closing stores the list";
-    EXPECT_FALSE(program.document.bModified);
-    Shop shop;
-    formulateFrm other(shop.app);
-    other.Form_Activate();
-    EXPECT_FALSE(other.unloaded);
-    EXPECT_TRUE(shop.platform.messages.empty());
-}
-
-TEST(FormulateFrmTest, whatTheButtonsWrite) {
-    struct Case {
-        std::initializer_list<std::string_view> keys;
-        const char* expression;
-    };
-    const Case cases[] = {
-        {{"Price", "Multiply", "Qty"}, "Price * Qty"},
-        {{"Left", "Price", "Add", "1", "Right", "Divide", "2", "Subtract", "3"}, " ( Price + 1 )  / 2 - 3"},
-        {{"1", "2", ".", "5", "0"}, "12.50"},
-        {{".", "5"}, ".5"},
-        {{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}, "0123456789"},
-        {{"7", "Add", "8"}, "7 + 8"},
-        {{"Add", "Add"}, " +  + "},
-        {{"Price", "Qty"}, "PriceQty"}, // nothing looks at what went before
-        {{"Qty", "5"}, "Qty5"},
-        {{"5", "Qty"}, "5Qty"},
-        {{"Right", "5"}, " ) 5"},
-        {{"Modulo"}, ""}};
-    for (const Case& c : cases) {
-        Shop shop;
-        formulateFrm form(shop.app);
-        form.colList_Click(1);
-        press(form, c.keys);
-        EXPECT_EQ(form.expTxt, c.expression);
-    }
-}
-
-TEST(FormulateFrmTest, aDigitJoinsTheNumberAcrossBlanksBehindIt) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"A + 1  ", "A + 17"}, {"A +  ", "A +  7"}, {"1. ", "1. 7"}, {"   ", "   7"}, {"Qty2 ", "Qty27"}};
-    for (const auto& [before, after] : cases) {
-        Shop shop;
-        shop.document.formulas.clear();
-        shop.formula("Sum", before);
-        formulateFrm form(shop.app);
-        form.colList_Click(0);
-        form.NumKey_Click(7);
-        EXPECT_EQ(form.expTxt, after);
-    }
-}
-
-TEST(FormulateFrmTest, backAndClear) {
-    Shop shop;
-    formulateFrm form(shop.app);
-    form.colList_Click(0);
-    press(form, {"Add", "5"});
-    EXPECT_EQ(form.expTxt, "Price * Qty + 5");
-    press(form, {"Back"});
-    EXPECT_EQ(form.expTxt, "Price * Qty + ");
-    press(form, {"Back"});
-    EXPECT_EQ(form.expTxt, "Price * Qty");
-    press(form, {"Back"});
-    EXPECT_EQ(form.expTxt, "");
-    // The last edit is forgotten with it, so that Back from here on ends in the empty box.
-    press(form, {"5", "Back"});
-    EXPECT_EQ(form.expTxt, "");
-    press(form, {"Back", "Back"});
-    EXPECT_EQ(form.expTxt, "");
-    press(form, {"1", "2", "Clear", "3", "Back"});
-    EXPECT_EQ(form.expTxt, "");
-}
-
-TEST(FormulateFrmTest, choosingARowStartsAfresh) {
-    Shop shop;
-    formulateFrm form(shop.app);
-    form.colList_Click(0);
-    EXPECT_EQ(form.expTxt, "Price * Qty");
-    EXPECT_TRUE(form.fieldListEnabled && form.addCalcBtnEnabled);
-    press(form, {"1", "2"});
-    form.colList_Click(1);
-    EXPECT_EQ(form.expTxt, "") << "the word for a missing expression is none";
-    press(form, {"Back"});
-    EXPECT_EQ(form.expTxt, "");
-    for (const int row : {-1, 2}) form.colList_Click(row);
-    EXPECT_EQ(form.selectedRow, 1);
-}
-
-TEST(FormulateFrmTest, anUndefinedColumnIsNoOperand) {
-    Shop shop;
-    formulateFrm form(shop.app);
-    form.fieldList_Click(0); // disabled as yet
-    form.addCalcBtn_Click();
-    EXPECT_EQ(form.expTxt, "");
-    form.colList_Click(0);
-    press(form, {"Clear", "Tax"});
-    EXPECT_EQ(form.expTxt, "");
-    EXPECT_EQ(shop.platform.told(),
-              "1|Ferrowick|The column you selected is an undefined calculation column.  "
-              "Please define an expression for it first.");
-    press(form, {"Sum"}); // its own column
-    EXPECT_EQ(form.expTxt, "Sum");
-    form.fieldList_Click(99);
-    EXPECT_EQ(form.expTxt, "Sum");
-}
-
-TEST(FormulateFrmTest, applyStoresTheTextWithoutTrailingBlanks) {
-    Shop shop;
-    formulateFrm form(shop.app);
-    form.colList_Click(1);
-    press(form, {"Left", "Sum", "Right"});
-    form.addCalcBtn_Click();
-    EXPECT_EQ(rows(form), "Sum=Price * Qty;Tax= ( Sum );");
-    EXPECT_EQ(form.expTxt, "");
-    press(form, {"Back"});
-    EXPECT_EQ(form.expTxt, "");
-    EXPECT_EQ(RecordsProgram::text(shop.document.formulas), "Sum,Price * Qty|") << "until the form closes";
-}
-
-TEST(FormulateFrmTest, undefinedSpreadsByAnySubstring) {
-    struct Case {
-        std::vector<std::string> formulas; // of A, B, Rate, TaxRate
-        int cleared;
-        const char* after;
-    };
-    const Case cases[] = {
-        {{"1", "A + 1", "B * 2", "5"}, 0, "A=Undefined;B=Undefined;Rate=Undefined;TaxRate=5;"},
-        {{"1", "2", "3", "4"}, 1, "A=1;B=Undefined;Rate=3;TaxRate=4;"},
-        {{"TaxRate", "rate", "3", "4"}, 2, "A=Undefined;B=rate;Rate=Undefined;TaxRate=4;"},
-        {{"B", "A", "3", "4"}, 0, "A=Undefined;B=Undefined;Rate=3;TaxRate=4;"},
-        {{"A", "2", "3", "4"}, 0, "A=Undefined;B=2;Rate=3;TaxRate=4;"},
-        {{"TaxRate", "1", "A", "Undefined"}, 3, "A=Undefined;B=1;Rate=Undefined;TaxRate=Undefined;"}};
-    for (const Case& c : cases) {
-        RecordsProgram program({{"A", "5"}, {"B", "5"}, {"Rate", "5"}, {"TaxRate", "5"}});
-        const char* names[] = {"A", "B", "Rate", "TaxRate"};
-        for (std::size_t i = 0; i < 4; ++i) program.formula(names[i], c.formulas[i]);
-        formulateFrm form(program.app);
-        form.colList_Click(c.cleared);
-        form.clearBtn_Click();
-        form.addCalcBtn_Click();
-        EXPECT_EQ(rows(form), c.after) << testing::PrintToString(c.formulas);
-    }
-}
-
-// A name that is part of the word would find the rows marked already for ever.
-TEST(FormulateFrmTest, undefinedEndsForANameInsideTheWord) {
-    RecordsProgram program({{"fin", "5"}, {"B", "5"}});
-    program.formula("fin", "1");
-    program.formula("B", "fin + 1");
-    formulateFrm form(program.app);
-    form.colList_Click(0);
-    press(form, {"Clear"});
-    form.addCalcBtn_Click();
-    EXPECT_EQ(rows(form), "fin=Undefined;B=Undefined;");
-}
-
-TEST(FormulateFrmTest, closingSortsTheFormulasAndNamesTheMissingOnes) {
-    RecordsProgram program({{"A", "5"}, {"B", "5"}, {"C", "5"}});
-    program.formula("Stale", "1");
-    program.formula("A", "B + 1");
-    program.formula("B", "2");
-    program.record({"old", "old", "old"});
-    formulateFrm form(program.app);
+    EXPECT_FALSE(form.unloaded);
     form.donebtn_Click();
-    EXPECT_EQ(RecordsProgram::text(program.document.formulas), "B,2|A,B + 1|C,Undefined|");
-    EXPECT_EQ(program.document.formulas.find("b")->item, "B,2");
-    EXPECT_FALSE(program.document.bModified) << "nothing was applied";
-    EXPECT_EQ(program.cells(program.LV), "old|old|old|;------|------|------|;");
-    form.Form_QueryUnload(); // closing runs its steps once
-    EXPECT_EQ(program.document.formulas.count(), 3U);
+    form.Form_Activate();
+    // Sorted, and the missing ones named; nothing was applied, so that nothing is worked out.
+    EXPECT_EQ(changesSince(before), "Formulas: B,2|A,B + 1|C,Undefined|\n");
+    EXPECT_EQ(document.formulas.find("b")->item, "B,2");
+    formulateFrm again(app);
+    press(again, "#2 Qty Multiply . 1 0 Apply");
+    EXPECT_FALSE(document.bModified || cell(1, "C") != "old");
+    again.Form_QueryUnload();
+    EXPECT_EQ(changesSince(before),
+              "Begin Data: 3|2|$.20|2|;3|------|------|------|;\nFormulas: B,2|A,B + 1|C,Qty * .10|\n");
+    EXPECT_TRUE(document.bModified && again.unloaded);
+    EXPECT_EQ(panel(app::calculationPanel) + told(), "Done.");
+
+    app::setDocumentModified(app, false);
+    open(DataFile("Qty:4", "1").section("Formulas", "Stale,1|"));
+    formulateFrm closing(app);
+    closing.Form_Activate();
+    closing.Form_QueryUnload(); // once is enough
+    EXPECT_EQ(told(), "- There are no calculation columns in the current database.");
+    EXPECT_TRUE(closing.unloaded && document.formulas.empty()) << "every way of closing stores the list";
+    EXPECT_FALSE(document.bModified);
 }
 
-TEST(FormulateFrmTest, closingAfterApplyRecalculates) {
-    Shop shop;
-    shop.total({"Sum", "Tax"});
-    formulateFrm form(shop.app);
-    form.colList_Click(1);
-    press(form, {"Sum", "Multiply", ".", "1", "0"});
-    form.addCalcBtn_Click();
-    EXPECT_EQ(shop.cell(1, "Tax"), "old");
-    form.Form_QueryUnload();
-    EXPECT_EQ(RecordsProgram::text(shop.document.formulas), "Sum,Price * Qty|Tax,Sum * .10|");
-    EXPECT_EQ(shop.cell(1, "Sum"), "$3.00");
-    EXPECT_EQ(shop.cell(1, "Tax"), "$.30");
-    EXPECT_EQ(shop.totals(), "------|------|------|------|$3.00|$.30|------|");
-    EXPECT_TRUE(shop.document.bModified);
-    EXPECT_EQ(shop.panel(app::calculationPanel), "Done.");
+struct Serials : CalcTest {};
+
+TEST_F(Serials, SetChangesTheCounterOfTheChosenColumn) {
+    open(DataFile("No:4 Ticket:4 Day:1", "").section("Increments", "No,0|Ticket,41|"));
+    calc::serialFrm form(app);
+    form.List1_Click(1);
+    EXPECT_EQ(form.Text1, "41");
+    // The entry, what is typed, and what is stored; the number is looked at ahead of the entry.
+    for (const auto& c :
+         table("0 ->   100  -> No,100|Ticket,41|; 1 -> -5 -> No,100|Ticket,-5|; "
+               "1 -> 1.50 -> No,100|Ticket,1.50|; 1 -> $7 -> No,100|Ticket,7|; "
+               "1 -> 1,000 -> No,100|Ticket,1000|; -1 -> 8; 2 -> 8; 99 -> 8; -1 -> x -> no; 1 ->  -> no; "
+               "1 ->     -> no; 1 -> abc -> no; 0 -> 5 apples -> no; 1 -> --5 -> no; 1 -> 1/2 -> no; "
+               "1 -> 01/02/2003 -> no",
+               3)) {
+        const SavedState before = saved();
+        const bool isSet = c[2].size() > 2;
+        app::setDocumentModified(app, false);
+        form.text1HasFocus = false;
+        form.List1_Click(std::stoi(c[0]));
+        form.Text1 = c[1];
+        form.setBtn_Click();
+        EXPECT_EQ(changesSince(before), isSet ? "Increments: " + c[2] + "\n" : "") << c[1];
+        const std::string done =
+            (c[0] == "0" ? "- No's" : "- Ticket's") + (" value has been set to " + form.Text1);
+        EXPECT_EQ(told(), isSet ? done : c[2].empty() ? "" : "i You entered a non numeric value.") << c[1];
+        EXPECT_TRUE(document.bModified == isSet && form.text1HasFocus == isSet) << c[1];
+    }
+}
+
+TEST_F(Serials, WhatANewRecordProposes) {
+    open(DataFile("No:4 Day:1 Name", "").section("Optioned Cols", "Day|").section("Increments", "No,7|"));
+    for (const auto& c :
+         table(" -> 1; 100 -> 101; -5 -> -4; 1.5 -> 2.5; 1,000 -> 2; $7 -> 1; abc -> 1; 32767 -> 32768; "
+               "1e3 -> 1001; 99999999999999999999 -> 1E+20")) {
+        document.SerialsLV.at(1).subItem(1) = c[0];
+        EXPECT_EQ(calc::proposedValue(app, "no"), c[1]) << "even where no option is on";
+        EXPECT_EQ(saved()["Increments"], "No," + c[0] + "|") << "proposing uses up nothing";
+        for (const char* column : {"No", "Day"}) calc::advanceSerial(document, column); // one has no counter
+        EXPECT_EQ(saved()["Increments"], "No," + c[1] + "|");
+    }
+    EXPECT_EQ(calc::proposedValue(app, "Day"), "03/14/2026");
+    for (const char* none : {"Name", "day"}) EXPECT_EQ(calc::proposedValue(app, none), std::nullopt) << none;
 }
 
 } // namespace

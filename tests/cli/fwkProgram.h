@@ -1,70 +1,113 @@
 #pragma once
 
-#include "programTest.h"
+#include "folderWatch.h"
+#include "transcript.h"
 
-#include <sys/types.h>
+#include <ctime>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
-// How a run of the program ended.
+// How a run ended.
 struct Outcome {
-    int code = -1;   // exit code, or -1 when a signal ended it
-    int signal = 0;  // the signal that ended it
-    std::string out; // standard output
-    std::string err; // standard error
-    long maxKilobytes = 0;
+    int code;             // as the shell tells it: above 128 for a signal
+    std::string out, err; // standard output and standard error
+    long maxKilobytes;
 };
 
-// A command that fails, and a part of what it says.
-struct Refusal {
-    std::string line;
-    int code;
-    std::string reason;
-};
-
-// What a JSON pointer finds in a JSON text, as the shortest text with sorted keys; "(none)" for nothing.
-std::string jsonAt(const std::string& text, const std::string& pointer = "");
-std::string jsonWithout(const std::string& text, std::initializer_list<const char*> keys);
-
-// Runs the built program in a folder of its own, with a home and a folder for temporary files in which
-// whatever it leaves behind can be seen.
+// Runs lines of the shell, in which `fwk` is the built program, in a folder of their own. The home and the
+// folder for temporary files lie beside it, so that whatever is left behind is seen.
 class FwkTest : public ::testing::Test {
 protected:
-    FwkTest();
-
+    FwkTest() {
+        std::filesystem::create_directories(files);
+        std::filesystem::create_directories(temporary);
+    }
     std::filesystem::path path(const std::string& name) const { return files / name; }
-    static std::string read(const std::filesystem::path& file) { return ScriptedPlatform::read(file); }
-    void write(const std::string& name, std::string_view bytes) const {
-        ScriptedPlatform::write(path(name), bytes);
+    void copyOf(const std::string& name, const std::string& as) const {
+        std::filesystem::rename(program.copyOf(name), path(as));
+        std::filesystem::permissions(path(as), std::filesystem::perms(0644));
     }
-    std::string copyOf(const std::string& name, const std::string& as = {}) const;
-    std::string make(const std::string& name, const std::string& dataFile,
-                     std::initializer_list<const char*> images = {}) const;
-
-    // The started program; its output goes into files.
-    pid_t start(const std::vector<std::string>& arguments, const std::string& output = "out") const;
-    Outcome finish(pid_t child, const std::string& output = "out") const;
-    Outcome run(const std::vector<std::string>& arguments) const { return finish(start(arguments)); }
-    // The same with the arguments in one text, divided by blanks; what stands in '' is one argument.
-    Outcome run(const std::string& line) const;
-    std::string outputOf(const std::string& line) const; // of a command that works
-    void runAll(std::initializer_list<const char*> lines) const {
-        for (const char* line : lines) (void)outputOf(line);
+    void make(const std::string& name, const DataFile& data,
+              std::initializer_list<const char*> images = {}) const {
+        std::filesystem::rename(program.make(name, data.text(), images), path(name));
     }
-
-    // Each fails with its reason and nothing else of the program's own, and changes nothing on the disk.
-    void expectRefused(const std::vector<Refusal>& refusals) const;
-
     std::string dataFileOf(const std::string& name) const { return Program::dataFileOf(path(name)); }
-    std::string info(const std::string& name, const std::string& pointer) const {
-        return jsonAt(outputOf("info " + name + " --json"), pointer);
-    }
-    // The records and the sums, a line each: "i1|a|b|". A command that prints them can be told.
-    std::string rows(const std::string& name) const { return rowsOf("records " + name); }
-    std::string rowsOf(const std::string& line) const;
 
-    // All files of the folder with their bytes: what a command that fails or reads must not change.
-    std::map<std::string, std::string> state() const;
+    pid_t start(const std::string& line, const std::string& output = "out") const {
+        const pid_t child = ::fork();
+        if (child != 0) return child;
+        const std::string programs = std::filesystem::path(FWK_PROGRAM).parent_path().string();
+        ::setenv("PATH", (programs + ":" + std::getenv("PATH")).c_str(), 1);
+        ::setenv("HOME", (world / "home").c_str(), 1);
+        ::setenv("TMPDIR", temporary.c_str(), 1);
+        for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) ::unsetenv(folder);
+        const std::string out = program.path(output);
+        const bool ready = ::chdir(files.c_str()) == 0 && std::freopen("/dev/null", "r", stdin) &&
+                           std::freopen(out.c_str(), "w", stdout) &&
+                           std::freopen((out + ".err").c_str(), "w", stderr);
+        if (ready) ::execl("/bin/sh", "sh", "-c", line.c_str(), nullptr);
+        ::_exit(127);
+    }
+    Outcome finish(pid_t child, const std::string& output = "out") const {
+        int status = 0;
+        struct rusage usage {};
+        ::wait4(child, &status, 0, &usage);
+        const std::string out = program.path(output);
+        return {WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status),
+                ScriptedPlatform::read(out), ScriptedPlatform::read(out + ".err"), usage.ru_maxrss};
+    }
+    Outcome run(const std::string& line) const { return finish(start(line)); }
+
+    // A transcript of lines of the shell, each with its exit code behind the "$" when that is not 0. Behind
+    // it stand the lines of standard output, those of standard error with "! " in front, and what has changed
+    // on the disk, as folderWatch.h tells it:
+    //
+    //     $ fwk add a.fwk Name=Bolt -> i1 // +Bolt|12|
+    //     $1 fwk add a.fwk Nme=Bolt -> ! no column "Nme"
+    //
+    // Left out are "fwk: a.fwk: " in front of an error, the end of messages, and the help behind a wrong
+    // line.
+    void expect(const char* script) const {
+        FolderWatch watch(files);
+        expectTranscript(script, [&](const std::string& line) { return play(line, watch); });
+        EXPECT_TRUE(std::filesystem::is_empty(temporary));
+        EXPECT_EQ(run("ls -A $HOME").out, "tmp\n");
+    }
 
     Program program;
-    std::filesystem::path files = program.platform.folder / "world" / "files"; // where the program runs
-    std::filesystem::path outside = program.platform.folder / "world" / "home";
+    std::filesystem::path world = program.platform.folder / "world", files = world / "files";
+    std::filesystem::path temporary = world / "home" / "tmp";
+
+private:
+    std::string play(const std::string& line, FolderWatch& watch) const {
+        std::istringstream words(line);
+        std::string file;
+        while (words >> file && !file.ends_with(".fwk")) {
+        }
+        const std::string day = today();
+        const Outcome outcome = run(line);
+        std::string all = "$" + (outcome.code == 0 ? "" : std::to_string(outcome.code)) + " " + line + "\n";
+        all += outcome.out;
+        const bool hasHelp = outcome.err.find("\nUsage: fwk ") != std::string::npos;
+        std::istringstream errors(
+            outcome.err.substr(0, hasHelp ? outcome.err.find("\n\n") : std::string::npos));
+        for (std::string told; std::getline(errors, told);) {
+            for (const std::string& known : {std::string("fwk: "), file + ": "})
+                if (told.starts_with(known)) told.erase(0, known.size());
+            const bool isLong = told.starts_with("Ferrowick: ") && told.size() > 27;
+            all += "! " + (isLong ? told.substr(0, 24) + "..." : told) + "\n";
+        }
+        all += watch.changes(file);
+        for (const std::string& date : {day, today()})
+            for (std::size_t at = 0; (at = all.find(date)) != std::string::npos;)
+                all.replace(at, date.size(), "TODAY");
+        return all;
+    }
+    static std::string today() {
+        const std::time_t now = std::time(nullptr);
+        char text[16] = {};
+        std::strftime(text, sizeof text, "%m/%d/%Y", std::localtime(&now));
+        return text;
+    }
 };

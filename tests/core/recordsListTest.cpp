@@ -1,191 +1,159 @@
-#include "core/document.h"
-#include "core/runTimeError.h"
 #include "core/sorting.h"
+#include "core/text.h"
 #include "core/totalsRow.h"
+#include "databases.h"
+#include "raised.h"
+#include "table.h"
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <random>
+#include <sstream>
 
 using namespace core;
 
-namespace {
-
-struct Fixture : testing::Test {
-    Document document;
-    RecordsList& list = document.LV;
-
-    void addColumn(const char* name, const char* tag) { list.columns.add(name, name).setTypeFromFile(tag); }
-    Item& addRecord(std::initializer_list<const char*> cells) {
-        Item& item = list.add(document.nextKey());
-        std::size_t i = 0;
-        for (const char* cell : cells) item.cells.at(i++) = cell;
-        return item;
-    }
-    std::string column(int subItem) {
-        std::string all;
-        list.forEach([&](const Item& item) { all += item.subItem(subItem).str() + ";"; });
-        return all;
-    }
-    std::string totalsText() {
-        std::string all;
-        for (const CellText& cell : list.totals()->cells) all += cell.str() + ";";
-        return all;
-    }
-};
-
-using RecordsListTest = Fixture;
-using SortingTest = Fixture;
-using TotalsRowTest = Fixture;
-
-} // namespace
-
-TEST(CellText, keepsTextsOfEveryLengthThroughCopiesAndMoves) {
+TEST(CellText, KeepsTextsOfEveryLengthThroughCopiesAndMoves) {
     for (std::size_t size = 0; size < 40; ++size) {
         const std::string text(size, 'x'), other = "other text, longer than fits";
-        CellText cell(text);
-        CellText copy(cell);
-        CellText moved(std::move(cell));
-        EXPECT_EQ(copy, text) << size;
-        EXPECT_EQ(moved, text) << size;
+        CellText cell(text), copy(cell), moved(std::move(cell)), self(text + other);
+        EXPECT_TRUE(copy == text && moved == text && copy.empty() == (size == 0)) << size;
         copy = other;
         moved = copy;
-        EXPECT_EQ(moved, other);
         copy = text;
-        EXPECT_EQ(copy, text);
-        EXPECT_EQ(copy.empty(), size == 0);
+        EXPECT_TRUE(copy == text && moved == other && copy.size() == size) << size;
+        self = self.view().substr(size);
+        EXPECT_EQ(self, other);
     }
-    CellText self("a text that needs a block of its own");
-    self = self.view().substr(2, 20);
-    EXPECT_EQ(self, "text that needs a bl");
 }
 
-TEST(ColumnHeaders, findsByNameInAnyCaseAndRefusesASecond) {
+TEST(ColumnHeaders, FindByNameInAnyCaseAndRefuseASecond) {
     ColumnHeaders columns;
-    columns.add("Index", "Index", 0);
-    columns.add("Größe", "Größe");
+    for (const char* name : {"Index", "Größe", "Last"}) columns.add(name, name);
     EXPECT_EQ(columns.find("GRÖSSE"), nullptr);
-    ASSERT_NE(columns.find("GRÖßE"), nullptr);
-    EXPECT_THROW(columns.add("größe", "größe"), RunTimeError);
-    EXPECT_THROW(columns["Weight"], RunTimeError);
-    EXPECT_THROW(columns.at(3), RunTimeError);
+    EXPECT_EQ(columns["GRÖßE"].Index, 2);
+    EXPECT_EQ(raisedBy([&] { columns.add("größe", "größe"); }), errors::keyNotUnique);
+    EXPECT_EQ(raisedBy([&] { columns.rename(3, "größe"); }), errors::keyNotUnique);
+    EXPECT_EQ(raisedBy([&] { (void)columns["Weight"]; }), errors::elementNotFound);
+    for (const int beyond : {0, 4})
+        EXPECT_EQ(raisedBy([&] { columns.at(beyond); }), errors::indexOutOfBounds);
+    columns.rename(2, "GRÖßE");
     columns.rename(2, "Size");
     EXPECT_EQ(columns.find("Größe"), nullptr);
-    EXPECT_EQ(columns["size"].Index, 2);
+    columns.remove(2);
+    EXPECT_EQ(columns["LAST"].Index, 2);
 }
 
-TEST(ColumnHeaders, positions) {
-    const std::pair<std::vector<int>, std::vector<int>> cases[] = {
-        // asked, and table indexes as shown
-        {{1, 2, 3, 4}, {1, 2, 3, 4}}, {{4, 3, 2, 1}, {4, 3, 2, 1}},  {{2, 3, 1, 4}, {3, 1, 2, 4}},
-        {{1, 4}, {1, 3, 4, 2}},       {{9, 1, 1, -5}, {4, 3, 2, 1}}, {{}, {1, 2, 3, 4}}};
-    for (const auto& [asked, order] : cases) {
+TEST(ColumnHeaders, TakePositions) {
+    // Asked for, and the columns as shown; a whole arrangement is taken as it stands.
+    for (const auto& c :
+         table("1 2 3 4 -> 1 2 3 4; 4 3 2 1 -> 4 3 2 1; 2 3 1 4 -> 3 1 2 4; 1 4 -> 1 3 4 2; 9 1 1 -5 -> 4 3 "
+               "2 1; 1 2 3 5 -> 1 2 3 4; 2 2 2 2 -> 1 4 3 2;  -> 1 2 3 4; 1 2 3 4 5 -> ")) {
         ColumnHeaders columns;
         for (const char* name : {"Index", "A", "B", "C"}) columns.add(name, name);
-        columns.setPositions(asked);
-        EXPECT_EQ(columns.displayOrder(), order) << testing::PrintToString(asked);
+        std::istringstream numbers(c[0]);
+        const std::vector<int> asked(std::istream_iterator<int>(numbers), {});
+        std::string shown;
+        if (raisedBy([&] { columns.setPositions(asked); }) == 0)
+            for (const int index : columns.displayOrder())
+                shown += (shown.empty() ? "" : " ") + std::to_string(index);
+        EXPECT_EQ(shown, c[1]) << c[0];
+        columns.remove(2); // the rest closes up
+        EXPECT_EQ(columns.displayOrder().size(), 3U);
     }
-    ColumnHeaders columns;
-    columns.add("Index", "Index");
-    EXPECT_THROW(columns.setPositions({1, 2}), RunTimeError);
-    columns.add("A", "A");
-    columns.add("B", "B");
-    columns.remove(2);
-    EXPECT_EQ(columns.displayOrder(), (std::vector<int>{1, 2}));
 }
 
-TEST_F(RecordsListTest, keysAndIndexesFollowTheItems) {
-    addColumn("A", "3");
-    for (const char* cell : {"x", "y", "z"}) addRecord({cell});
-    addTotalsRow(list);
+struct Records : testing::Test, Program {
+    RecordsList& list = app.document.LV;
+};
+
+TEST_F(Records, KeysAndIndexesFollowTheItems) {
+    open(DataFile("A", "x;y;z"));
     EXPECT_EQ(list.find("I2"), &list.at(2));
     list.remove(list.at(1));
     EXPECT_EQ(list.indexOf(list.byKey("i2")), 1);
     EXPECT_EQ(list.find("i1"), nullptr);
-    EXPECT_EQ(list.add("i9").cells.size(), 1U);
+    list.setSelectedItem(&list.add("i9"));
     EXPECT_EQ(list.indexOf(list.byKey("i9")), 4);
-    EXPECT_THROW(list.byKey("i77"), RunTimeError);
+    EXPECT_EQ(raisedBy([&] { list.byKey("i77"); }), errors::elementNotFound);
+    for (const int beyond : {0, 5}) EXPECT_EQ(raisedBy([&] { list.at(beyond); }), errors::indexOutOfBounds);
     EXPECT_EQ(list.removeIf([](const Item& item) { return !item.isTotals(); }), 3);
     EXPECT_EQ(list.find("i9"), nullptr);
+    EXPECT_EQ(list.selectedItem(), nullptr);
     EXPECT_EQ(list.totals(), &list.at(1));
 }
 
-TEST_F(RecordsListTest, moveTotalsPutsTheRowLastAndSelectsTheOneBeforeIt) {
-    addColumn("A", "3");
-    addColumn("B", "3");
-    addTotalsRow(list).cells[0] = "12";
-    addRecord({"x", "y"});
+TEST_F(Records, TheTotalsRowGoesLastAndTheOneBeforeItIsSelected) {
+    open(DataFile("A B", "x|y"));
+    list.totals()->cells[0] = "12";
+    list.add("i2").cells = {"v", "w"};
     moveTotals(list);
-    EXPECT_TRUE(list.at(2).isTotals());
-    EXPECT_EQ(list.at(2).Text, "Totals");
-    EXPECT_EQ(totalsText(), "12;------;");
-    EXPECT_EQ(list.selectedItem(), &list.at(1));
-    EXPECT_TRUE(list.MultiSelect && list.at(1).Selected);
+    EXPECT_EQ(cells(), "x|y|;v|w|;12|------|;");
+    EXPECT_EQ(list.at(3).Text, "Totals");
+    EXPECT_EQ(list.selectedItem(), &list.at(2));
+    EXPECT_TRUE(list.MultiSelect && list.at(2).Selected);
     list.MultiSelect = false; // now one item takes the selection from the others
-    list.setSelectedItem(&list.at(2));
-    EXPECT_FALSE(list.at(1).Selected);
-    EXPECT_TRUE(list.at(2).Selected);
+    list.setSelectedItem(&list.at(3));
+    EXPECT_TRUE(!list.at(2).Selected && list.at(3).Selected);
     list.totals()->cells[0] = "1|2"; // travels as text, so what follows shifts
     moveTotals(list);
-    EXPECT_EQ(totalsText(), "1;2;");
+    EXPECT_EQ(totals(), "1|2|");
 }
 
-TEST_F(SortingTest, keysOfTheTypes) {
-    const std::string pad(20, ' ');
-    const struct {
-        ColumnType type;
-        std::string cell, key;
-    } cases[] = {{ColumnType::Date, "05/04/2001", "20010504"},
-                 {ColumnType::Date, "", ""},
-                 {ColumnType::Date, "5/4/2001", "20015//2"},
-                 {ColumnType::Number, "42", pad + "42"},
-                 {ColumnType::Currency, "é", pad + " é"},
-                 {ColumnType::Number, "1234567890123456789012345", "1234567890123456789012345"}};
-    for (const auto& c : cases) EXPECT_EQ(sortKeyOf(c.cell, c.type), c.key) << c.cell;
+TEST_F(Records, SumsAddAndSubtract) {
+    // Without money a comma ends the number.
+    open(DataFile("Qty:4 Price:2 Value:5 No:4 Name", "1,234|$1,234.50|3|1|a;2|$.50|4.50|2|b;1@2@|.25|7|3|c"));
+    total({"Qty", "Price", "Value", "Name", "Gone"});
+    std::string all;
+    for (const auto& [mode, row] : {std::pair(TotalsMode::Add, 1),
+                                    {TotalsMode::Add, 2},
+                                    {TotalsMode::Subtract, 1},
+                                    {TotalsMode::Add, 3},
+                                    {TotalsMode::Add, 0}}) {
+        UpdateTotalsRow(app.document, mode, list, row);
+        all += totals() + " ";
+    }
+    EXPECT_EQ(all, "1|$1,234.50|3|------|------| 3|$1,235.00|$7.50|------|------| 2|$.50|4.5|------|------| "
+                   "-----|$.75|11.5|------|------| -----|$.75|11.5|------|------| ");
+}
+
+TEST(Sorting, KeysOfTheTypes) {
+    for (const auto& c : table(
+             "1 -> 05/04/2001 -> 20010504; 1; 1 -> 5/4/2001 -> 20015//2; 4 -> 42 ->                     42; "
+             "2 -> é ->                      é; 4 -> 1234567890123456789012345 -> 1234567890123456789012345",
+             3))
+        EXPECT_EQ(sortKeyOf(c[1], static_cast<ColumnType>(std::stoi(c[0]))), c[2]) << c[1];
 }
 
 // The first click sorts downwards, each turns round, whatever its column; equal ones keep their order.
-TEST_F(SortingTest, agreesWithAPlainStableSortInBothDirections) {
-    addColumn("Name", "3");
-    addColumn("No", "4");
+TEST_F(Records, SortLikeAPlainStableSort) {
     std::mt19937 random(7);
     std::vector<std::pair<std::string, std::string>> rows;
+    std::string records;
     for (int i = 0; i < 500; ++i) {
-        std::string text;
-        for (unsigned size = random() % 12; size > 0; --size) text += static_cast<char>('A' + random() % 3);
+        std::string text(random() % 12, ' ');
+        for (char& c : text) c = static_cast<char>((i % 2 == 0 ? 'a' : 'A') + random() % 3);
         rows.emplace_back(text, std::to_string(i % 100));
-        if (i % 2 == 0) std::ranges::transform(text, text.begin(), [](char c) { return c + 'a' - 'A'; });
-        addRecord({text.c_str(), rows.back().second.c_str()});
+        records += text + "|" + rows.back().second + ";";
     }
-    const auto expectOrder = [&] {
-        std::string expected;
-        for (const auto& row : rows) expected += row.second + ";";
-        EXPECT_EQ(column(2), expected);
+    open(DataFile("Name No:4", records));
+    list.remove(*list.totals());
+    const auto expectSorted = [&](const auto& isLess) {
+        std::ranges::stable_sort(rows, isLess);
+        std::string wanted;
+        for (const auto& [name, no] : rows) wanted += name + "|" + no + "|;";
+        EXPECT_EQ(cells(), wanted);
     };
-    const auto name = &std::pair<std::string, std::string>::first;
     sortByColumnKey(list, list.columns["Name"]);
-    std::ranges::stable_sort(rows, std::greater<>(), name);
-    expectOrder();
+    expectSorted([](const auto& a, const auto& b) { return upper(a.first) > upper(b.first); });
     sortByColumnKey(list, list.columns["Name"]);
-    std::ranges::stable_sort(rows, {}, name);
-    expectOrder();
+    expectSorted([](const auto& a, const auto& b) { return upper(a.first) < upper(b.first); });
     sortByHiddenColumn(list, list.columns["No"]);
-    std::ranges::stable_sort(rows, std::greater<>(), [](const auto& row) { return std::stoi(row.second); });
-    expectOrder();
-    EXPECT_EQ(list.at(1).cells.size(), 2U);
-}
-
-TEST_F(TotalsRowTest, addsSubtractsAndSumsAll) {
-    for (const auto& [name, type] : {std::pair("Qty", "4"), {"Price", "2"}, {"Value", "5"}}) {
-        addColumn(name, type);
-        document.totaledCols.add(name, name);
-    }
-    document.totaledCols.add("Gone", "Gone");
-    addRecord({"1,234", "$1,234.50", "3"}); // without money a comma ends the number
-    addRecord({"2", "$.50", "4.50"});
-    addTotalsRow(list);
-    for (const int row : {1, 2}) UpdateTotalsRow(document, TotalsMode::Add, list, row);
-    EXPECT_EQ(totalsText(), "3;$1,235.00;$7.50;");
-    UpdateTotalsRow(document, TotalsMode::Subtract, list, 1);
-    EXPECT_EQ(totalsText(), "2;$.50;4.5;");
+    expectSorted([](const auto& a, const auto& b) { return std::stoi(a.second) > std::stoi(b.second); });
+    sortByColumnKey(list, list.columns["No"]);
+    expectSorted([](const auto& a, const auto& b) { return std::stoi(a.second) < std::stoi(b.second); });
+    open(DataFile("No:4", "1;2"));
+    list.remove(*list.totals());
+    sortByColumnKey(list, list.columns["No"]);
+    EXPECT_EQ(cells(), "2|;1|;");
 }

@@ -1,12 +1,8 @@
-#include "core/text.h"
-
-#include <gtest/gtest.h>
+#include "readings.h"
 
 using namespace core;
 
 namespace {
-
-using Pieces = std::vector<std::string_view>;
 
 std::string characterOf(char32_t c) {
     std::string text;
@@ -14,46 +10,45 @@ std::string characterOf(char32_t c) {
     return text;
 }
 
-TEST(TextTest, trimsBlanksAndNothingElse) {
-    const char* cases[][4] = {{"  a b ", "a b", "a b ", "  a b"},
-                              {"\ta\n", "\ta\n", "\ta\n", "\ta\n"},
-                              {"\u00A0a\u00A0", "\u00A0a\u00A0", "\u00A0a\u00A0", "\u00A0a\u00A0"},
-                              {"   ", "", "", ""},
-                              {"", "", "", ""}};
-    for (const auto& [text, both, front, behind] : cases) {
-        EXPECT_EQ(trim(text), both);
-        EXPECT_EQ(ltrim(text), front);
-        EXPECT_EQ(rtrim(text), behind);
-    }
+TEST(Text, TrimsBlanksAndNothingElse) {
+    for (const auto& c : table("  a b  -> a b -> a b  ->   a b; \ta\n -> \ta\n -> \ta\n -> \ta\n; \u00A0a -> "
+                               "\u00A0a -> \u00A0a -> \u00A0a;    ",
+                               4))
+        EXPECT_EQ((std::vector{trim(c[0]), ltrim(c[0]), rtrim(c[0])}),
+                  (std::vector<std::string_view>(c.begin() + 1, c.end())));
 }
 
-TEST(TextTest, upperCasesLatinGreekAndCyrillic) {
-    const char* cases[][2] = {{"Plain text, 19 bytes: az{`", "PLAIN TEXT, 19 BYTES: AZ{`"},
-                              {"straße à÷þÿ", "STRAßE À÷ÞŸ"},
-                              {"āăķĸĺňŉŋœŵŷźžſ", "ĀĂĶĸĹŇŉŊŒŴŶŹŽſ"},
-                              {"άέήίαβςσωϊϋόύώ", "ΆΈΉΊΑΒΣΣΩΪΫΌΎΏ"},
-                              {"абвяѐёџґңӂӏӑԯ", "АБВЯЀЁЏҐҢӁӀӐԮ"},
-                              {"日本 a\xE9z \xE2\x82z", "日本 A\xE9Z \xE2\x82Z"}};
+TEST(Text, UpperCasesLatinGreekAndCyrillic) {
     std::string out = "of before";
-    for (const auto& [text, wanted] : cases) {
-        EXPECT_EQ(upper(text), wanted);
-        EXPECT_EQ(upper(wanted), wanted);
-        upperInto(out, text);
-        EXPECT_EQ(out, wanted);
-        appendUpper(out, text);
-        EXPECT_EQ(out, std::string(wanted) + wanted);
+    for (const auto& c :
+         table("Plain text, 19 bytes: az{` -> PLAIN TEXT, 19 BYTES: AZ{`; straße à÷þÿ -> STRAßE À÷ÞŸ; "
+               "āăķĸĺňŉŋœŵŷźžſ -> ĀĂĶĸĹŇŉŊŒŴŶŹŽſ; άέήίαβςσωϊϋόύώ -> ΆΈΉΊΑΒΣΣΩΪΫΌΎΏ; "
+               "абвяѐёџґңӂӏӑԯ "
+               "-> "
+               "АБВЯЀЁЏҐҢӁӀӐԮ; ıķĺňŋŷźž -> ıĶĹŇŊŶŹŽ; ѡҁҋҿӂӎӑԯ -> "
+               "ѠҀҊҾӁӍӐԮ; "
+               "\u0482\u0487 "
+               "-> "
+               "\u0482\u0487; "
+               "日本 a\xE9z \xE2\x82z -> 日本 A\xE9Z \xE2\x82Z")) {
+        EXPECT_EQ(upper(c[0]), c[1]);
+        EXPECT_EQ(upper(c[1]), c[1]);
+        upperInto(out, c[0]);
+        EXPECT_EQ(out, c[1]);
+        appendUpper(out, c[0]);
+        EXPECT_EQ(out, c[1] + c[1]);
     }
-    // What is written over in place has to fit, in front of and behind other characters.
-    for (char32_t c = 0x80; c < 0x3000; ++c) {
-        const std::string text = "a" + characterOf(c) + "b";
-        const std::string wanted = upper(text);
-        EXPECT_EQ(wanted.size(), text.size()) << text;
-        EXPECT_EQ(length(wanted), 3U) << text;
+    // Every character is as long as its upper case, which takes its place among others, and is left by it.
+    for (char32_t c = 0x80; c < 0x110000; c += c < 0x3000 ? 1 : 0x101) {
+        const std::string text = "a" + characterOf(c) + "b", wanted = upper(text);
+        std::size_t offset = 1;
+        ASSERT_EQ(nextCodePoint(text, offset), c);
+        EXPECT_TRUE(offset == text.size() - 1 && wanted.size() == text.size() && length(wanted) == 3) << text;
+        EXPECT_EQ(upper(wanted), wanted);
     }
 }
 
-TEST(TextTest, comparesAsUpperCased) {
-    // Each is ahead of the next.
+TEST(Text, ComparesAsUpperCased) {
     const char* rising[] = {"", "1", "a", "AA", "ab", "B", "_", "é", "Ж", "日", "😀", "\xE9"};
     for (std::size_t i = 0; i < std::size(rising); ++i)
         for (std::size_t j = 0; j < std::size(rising); ++j) {
@@ -62,60 +57,48 @@ TEST(TextTest, comparesAsUpperCased) {
             EXPECT_EQ(equalsNoCase(rising[i], rising[j]), i == j);
             EXPECT_EQ(compareNoCase(rising[i], upper(rising[j])), i < j ? -1 : i > j ? 1 : 0);
         }
-    EXPECT_TRUE(equalsNoCase("Größe ÿ", "GRÖßE Ÿ"));
-    EXPECT_FALSE(equalsNoCase("Größe", "GROSSE"));
+    EXPECT_TRUE(equalsNoCase("Größe ÿ", "GRÖßE Ÿ") && !equalsNoCase("Größe", "GROSSE"));
 }
 
-TEST(TextTest, splitsIntoOnePieceMoreThanSeparators) {
-    EXPECT_EQ(split("", '@'), (Pieces{""}));
-    EXPECT_EQ(split("a", '@'), (Pieces{"a"}));
-    EXPECT_EQ(split("1@@3@", '@'), (Pieces{"1", "", "3", ""}));
-}
-
-TEST(TextTest, cutsByCharacters) {
-    const char* text = "aé日😀z";
-    EXPECT_EQ(length(text), 5U);
-    EXPECT_EQ(length(""), 0U);
-    const char* const heads[] = {"", "a", "aé", "aé日", "aé日😀", "aé日😀z", "aé日😀z"};
-    const char* const tails[] = {"", "z", "😀z", "日😀z", "é日😀z", "aé日😀z", "aé日😀z"};
-    for (std::size_t n = 0; n < std::size(heads); ++n) {
-        EXPECT_EQ(left(text, n), heads[n]);
-        EXPECT_EQ(right(text, n), tails[n]);
+TEST(Text, CutsByCharacters) {
+    const std::string all = "aé日😀z";
+    EXPECT_EQ(length(all), 5U);
+    const std::size_t offsets[] = {0, 1, 3, 6, 10, 11, 11}; // of the characters
+    for (std::size_t n = 0; n < std::size(offsets); ++n) {
+        EXPECT_EQ(left(all, n), all.substr(0, offsets[n]));
+        EXPECT_EQ(right(all, n), n > 5 ? all : all.substr(offsets[5 - n]));
+        for (std::size_t end = n; end < std::size(offsets); ++end)
+            EXPECT_EQ(mid(all, n + 1, end - n), all.substr(offsets[n], offsets[end] - offsets[n]));
     }
-    const struct {
-        std::size_t start, count;
-        const char* wanted;
-    } cases[] = {{1, 2, "aé"}, {3, 2, "日😀"}, {5, 9, "z"}, {6, 1, ""}, {0, 3, ""}, {2, 0, ""}};
-    for (const auto& c : cases) EXPECT_EQ(mid(text, c.start, c.count), c.wanted) << c.start;
+    EXPECT_EQ(mid(all, 0, 3), "");
+    // A stray byte is a character.
+    expectEach("0 -> ; 1 -> \xE9; 2 -> a\xC3|\xE2\x82|\x80\x80|\xFF\xFE|\xC0\x80|\xC1\x80|\xF5\x80; 3 -> "
+               "\xE2\x82z|\xF0\x9F\x98|\xE2\xFF\x82; 5 -> \xF0\x9F\x98 é; 12 -> eight by\xE9tes; 1 -> "
+               "\xC2\x80|\xDF\xBF|\xE0\xA0\x80|\xEF\xBF\xBF|\xF0\x90\x80\x80|\xF4\x8F\xBF\xBF",
+               [](const std::string& text) {
+                   EXPECT_EQ(right(text, length(text)), text);
+                   EXPECT_EQ(std::string(left(text, 1)) + std::string(mid(text, 2, 99)), text);
+                   return std::to_string(length(text));
+               });
 }
 
-TEST(TextTest, countsAStrayByteAsACharacter) {
-    const std::pair<std::string, std::size_t> cases[] = {
-        {"\xE9", 1},         {"a\xC3", 2},           {"\xE2\x82", 2}, {"\xE2\x82z", 3},
-        {"\x80\x80", 2},     {"\xF0\x9F\x98 é", 5},  {"\xFF\xFE", 2}, {"\xC0\x80", 2},
-        {"\xF0\x9F\x98", 3}, {"eight by\xE9tes", 12}};
-    for (const auto& [text, characters] : cases) {
-        EXPECT_EQ(length(text), characters) << text;
-        EXPECT_EQ(right(text, characters), text);
-        EXPECT_EQ(std::string(left(text, 1)) + std::string(mid(text, 2, 99)), text);
-    }
-}
-
-TEST(TextTest, findsTheEndOfAsciiAtEveryPlace) {
+TEST(Text, FindsTheEndOfAsciiAtEveryPlace) {
     for (std::size_t size = 1; size < 20; ++size)
-        for (std::size_t at = 0; at < size; ++at) {
-            std::string text(size, 'x');
-            EXPECT_EQ(asciiLength(text), size);
-            text[at] = '\x80';
+        for (std::size_t at = 0; at <= size; ++at) {
+            std::string text(size, '\x7F');
+            if (at < size) text[at] = '\x80';
             EXPECT_EQ(asciiLength(text), at) << "of " << size;
         }
 }
 
-TEST(TextTest, replacesEveryOccurrenceOnce) {
-    const char* cases[][4] = {{"a.b.c", ".", "..", "a..b..c"}, {"aaa", "aa", "b", "ba"},
-                              {"abc", "x", "y", "abc"},        {"abc", "", "y", "abc"},
-                              {"abab", "ab", "", ""},          {"", "a", "b", ""}};
-    for (const auto& [text, what, with, wanted] : cases) EXPECT_EQ(replaceAll(text, what, with), wanted);
+TEST(Text, SplitsAndReplaces) {
+    for (const auto& c : table("a.b.c -> . -> .. -> a..b..c; aaa -> aa -> b -> ba; abc -> x -> y -> abc; abc "
+                               "->  -> y -> abc; abab -> ab;  -> a -> b",
+                               4))
+        EXPECT_EQ(replaceAll(c[0], c[1], c[2]), c[3]);
+    using Pieces = std::vector<std::string_view>;
+    EXPECT_EQ(split("", '@'), (Pieces{""}));
+    EXPECT_EQ(split("1@@3@", '@'), (Pieces{"1", "", "3", ""}));
 }
 
 } // namespace

@@ -2,13 +2,6 @@
 
 #include "session.h"
 
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTreeWidget>
-
 // What a user does in a form, with its widgets found by their names.
 template <typename Widget = QPushButton>
 Widget* in(const QDialog& form, const char* name) {
@@ -17,60 +10,31 @@ Widget* in(const QDialog& form, const char* name) {
     return found;
 }
 
-inline void click(QWidget* widget) {
-    QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(8, widget->height() / 2));
-}
-inline void click(const QDialog& form, const char* name) {
-    click(in<QWidget>(form, name));
-}
-
-inline QTreeWidgetItem* rowOf(const QTreeWidget* list, const char* text) {
-    const auto rows = list->findItems(QLatin1String(text), Qt::MatchExactly);
-    if (rows.size() != 1) qFatal("%d rows %s", static_cast<int>(rows.size()), text);
-    return rows.constFirst();
-}
-inline void clickRow(const QDialog& form, const char* listName, const char* text) {
-    auto* list = in<QTreeWidget>(form, listName);
-    list->scrollToItem(rowOf(list, text));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(rowOf(list, text)).center());
-}
-inline void doubleClickRow(const QDialog& form, const char* listName, const char* text) {
-    clickRow(form, listName, text);
-    auto* list = in<QTreeWidget>(form, listName);
-    const QPoint place = list->visualItemRect(rowOf(list, text)).center();
+// A widget, or the row of a list that begins with a text.
+inline void clickOn(QWidget& widget, const QString& row = {}, bool twice = false) {
+    auto* list = qobject_cast<QAbstractItemView*>(&widget);
+    if (list == nullptr)
+        return QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(8, widget.height() / 2));
+    const QModelIndex index = list->model()->match(list->model()->index(0, 0), 0, row).value(0);
+    list->scrollTo(index);
+    const QPoint place = list->visualRect(index).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+    if (!twice) return;
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, place);
 }
-
-// "Name Type Auto-Date Auto-Serial" of each row.
-inline QStringList rows(const QDialog& form, const char* listName) {
-    const auto* list = in<QTreeWidget>(form, listName);
-    QStringList all;
-    for (int row = 0; row < list->topLevelItemCount(); ++row) {
-        QStringList texts;
-        for (int section = 0; section < list->columnCount(); ++section)
-            texts << list->topLevelItem(row)->text(section);
-        all << texts.join(u' ');
-    }
-    return all;
+inline void click(QWidget* widget) {
+    clickOn(*widget);
 }
-
-inline QString expression(const QDialog& form) {
-    return in<QPlainTextEdit>(form, "expTxt")->toPlainText();
+inline void click(const QDialog& form, const char* name) {
+    clickOn(*in<QWidget>(form, name));
 }
-
-inline void addColumn(const QDialog& form, const char* type, const char* name) {
-    click(form, type);
-    QTest::keyClicks(QApplication::focusWidget(), QLatin1String(name)); // the focus came back to the name box
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+inline void clickRow(const QDialog& form, const char* listName, const char* text) {
+    clickOn(*in<QWidget>(form, listName), QLatin1String(text));
 }
-
-inline void chooseColumn(const QDialog& form, const char* listName, const char* column) {
-    auto* columns = in<QListWidget>(form, listName);
-    QListWidgetItem* item = columns->findItems(QLatin1String(column), Qt::MatchExactly).value(0);
-    if (item == nullptr) qFatal("no column %s", column);
-    columns->scrollToItem(item);
-    QTest::mouseClick(columns->viewport(), Qt::LeftButton, {}, columns->visualItemRect(item).center());
+inline constexpr auto chooseColumn = clickRow;
+inline QTreeWidgetItem* rowOf(const QTreeWidget* list, const char* text) {
+    return list->findItems(QLatin1String(text), Qt::MatchExactly).at(0);
 }
 
 // Types in place of what stands in a box, and returns it.

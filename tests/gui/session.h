@@ -8,24 +8,17 @@
 #include "shell/mainWindow.h"
 #include "shell/program.h"
 
-#include <QDialog>
-#include <QHeaderView>
-#include <QTabBar>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <deque>
-#include <functional>
-#include <map>
 
 using namespace Qt::StringLiterals;
 
 // The platform of the window, but its dialogs are answered by the test.
-class ScriptedPlatform : public gui::QtPlatform {
-public:
+struct ScriptedPlatform : gui::QtPlatform {
     struct Message {
-        QString text, caption;
+        QString text;
         platform::Icon icon;
     };
     std::vector<Message> messages;
@@ -37,31 +30,27 @@ public:
     QStringList forms;
     // What the user does in a form. The script has to close it. A form without a script is not shown.
     std::map<QString, std::function<void(QDialog&)>> scripts;
+    std::function<void(QDialog&)> anyForm; // where there is no such script
 
-    platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
+    platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string&,
                             platform::Buttons) override {
-        messages.push_back({gui::toQt(text), gui::toQt(caption), icon});
-        if (answers.empty()) return platform::Answer::Ok;
-        const platform::Answer answer = answers.front();
-        answers.pop_front();
-        return answer;
+        messages.push_back({gui::toQt(text), icon});
+        return take(answers).value_or(platform::Answer::Ok);
     }
     std::optional<std::string> showOpen(const platform::FileDialog&) override { return chosenFile; }
     std::optional<std::string> showSave(const platform::FileDialog&) override { return chosenFile; }
     std::optional<std::string> showNew(const platform::FileDialog&) override { return chosenFile; }
     void showForm(std::string_view name) override {
         forms << gui::toQt(name);
-        const auto script = scripts.find(forms.last());
-        if (script == scripts.end()) return;
-        QTimer::singleShot(0, qApp, [form = forms.last(), act = script->second] {
+        const auto act = scripts.contains(forms.last()) ? scripts[forms.last()] : anyForm;
+        if (!act) return;
+        QTimer::singleShot(0, qApp, [form = forms.last(), act] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             if (dialog == nullptr || dialog->objectName() != form) return; // it did not come up
             if (!QTest::qWaitFor([&] { return QApplication::activeWindow() == dialog; }))
                 qFatal("%s is not active", qPrintable(form));
             act(*dialog);
-            if (!dialog->isVisible()) return;
-            QTest::qFail(qPrintable(form + u" is still open"_s), __FILE__, __LINE__);
-            std::_Exit(EXIT_FAILURE); // nobody would ever close it
+            if (dialog->isVisible()) qFatal("%s is still open", qPrintable(form)); // nobody would close it
         });
         QtPlatform::showForm(name);
     }
@@ -75,7 +64,7 @@ private:
     template <typename Value>
     static std::optional<Value> take(std::deque<Value>& queue) {
         if (queue.empty()) return std::nullopt;
-        Value value = queue.front();
+        const Value value = queue.front();
         queue.pop_front();
         return value;
     }
@@ -106,8 +95,7 @@ struct Session {
     int section(const char* column, const char* listName = "LV") {
         const QAbstractItemModel* model = list(listName)->model();
         for (int s = 0; s < model->columnCount(); ++s)
-            if (model->headerData(s, Qt::Horizontal, Qt::DisplayRole).toString() == QLatin1String(column))
-                return s;
+            if (model->headerData(s, Qt::Horizontal).toString() == QLatin1String(column)) return s;
         qFatal("no column %s", column);
     }
     QString cell(int row, const char* column, const char* listName = "LV") {
@@ -133,17 +121,15 @@ struct Session {
 
     QPoint headerPlace(int section, const char* listName = "LV") {
         const QHeaderView* header = list(listName)->header();
-        return {header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
-                header->height() / 2};
+        return {header->sectionViewportPosition(section) + header->sectionSize(section) / 2, 8};
     }
     void clickHeader(const char* column, const char* listName = "LV") {
         QTest::mouseClick(list(listName)->header()->viewport(), Qt::LeftButton, {},
                           headerPlace(section(column, listName), listName));
     }
     void clickRow(int row, Qt::KeyboardModifiers modifiers = {}, const char* listName = "LV") {
-        gui::RecordsView* view = list(listName);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers,
-                          view->visualRect(view->model()->index(row, 0)).center());
+        const QRect place = list(listName)->visualRect(list(listName)->model()->index(row, 0));
+        QTest::mouseClick(list(listName)->viewport(), Qt::LeftButton, modifiers, place.center());
     }
     void dragHeader(QPoint from, QPoint to) {
         QWidget* header = list()->header()->viewport();
@@ -151,20 +137,14 @@ struct Session {
         for (int step = 1; step <= 8; ++step) QTest::mouseMove(header, from + (to - from) * step / 8);
         QTest::mouseRelease(header, Qt::LeftButton, {}, to);
     }
-    QList<int> selectedRows() {
-        QList<int> rows;
-        for (const QModelIndex& index : list()->selectionModel()->selectedRows()) rows << index.row();
-        std::ranges::sort(rows);
-        return rows;
-    }
 };
 
 // Folders of the test's own, for the user's and for copies of the samples.
 class Folders {
 public:
     Folders() {
-        for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-            qputenv(variable, QFile::encodeName(folder_.filePath(QLatin1String(variable))));
+        for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "HOME"})
+            qputenv(variable, QFile::encodeName(path(variable)));
     }
     // Settings that hold nothing but that the disclaimer has been seen.
     static void forgetSettings() {
@@ -175,11 +155,10 @@ public:
     }
     QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
     QString sample(const char* name) const {
-        QString copy = path(name);
-        QFile::remove(copy);
-        QFile::copy(QStringLiteral(TEST_DATA_DIR "/") + QLatin1String(name), copy);
-        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
-        return copy;
+        QFile::remove(path(name));
+        QFile::copy(QStringLiteral(TEST_DATA_DIR "/") + QLatin1String(name), path(name));
+        QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner);
+        return path(name);
     }
     // A database made in the test.
     QString database(const char* name, const DataFile& file) const {

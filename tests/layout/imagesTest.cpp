@@ -1,195 +1,149 @@
-#include "sheetFixture.h"
-
 #include "layout/images.h"
+#include "sheetFixture.h"
 
 namespace {
 
-const char* const lines =
-    "P|Photo|0|0|1815|1575|\r\nP|Second_Photo|0|2000|1815|1575|\r\nC|art.gif|3000|0|2175|1815|\r\n";
+struct Images : Sheet {
+    void openImages(bool designing = false) {
+        platform.pictures["bolt.jpg"] = {1500, 1500};
+        openSheet("P|Photo|0|0|1815|1575|;P|Second_Photo|0|2000|1815|1575|;C|art.gif|3000|0|2175|1815|",
+                  designing);
+    }
+    // The name of each picture, and the file that is shown for it: "bolt.jpg/bolt.jpg /- ".
+    std::string shown() {
+        std::string all;
+        const auto add = [&](const std::string& name, const std::filesystem::path& file) {
+            const bool inWork = file.empty() || file.parent_path() == platform.tempFolder();
+            all += name + "/" + (inWork ? "" : "outside ") + (file.empty() ? "-" : file.filename().string()) +
+                   " ";
+        };
+        objects.imgHolder.forEach(
+            [&](const auto& holder) { add(holder.ToolTipText, holder.viewImage.path); });
+        objects.clipPic.forEach([&](const auto& clip) { add(clip.Tag, clip.clipImage.path); });
+        return all;
+    }
+    // Double-clicks a picture, chooses a file, and returns what was told.
+    std::string choose(const char* name, const std::string& file) {
+        platform.files = {file.empty() ? file : path(file)};
+        after(std::string(name) + " dblclick");
+        return told();
+    }
+    std::string import(const std::string& name) {
+        after(name + " select");
+        layout::mnuImportImage_Click(app);
+        return shown();
+    }
+};
 
-TEST_F(Sheet, ImagesAreFittedToTheTwip) {
-    struct Case {
+TEST_F(Images, AreFittedToTheTwip) {
+    const core::ImgHolder holder = objects.imgHolder.templateElement(); // 1815 x 1575
+    ScriptedPlatform::write(platform.folder / "text.jpg", "no picture");
+    // By the height, which leaves two twips; when that is too wide, by the width, which leaves one.
+    for (const auto& c :
+         table("100 100 -> 858 738 100 100; 1814 1574 -> 1 1 1814 1574; 100 1575 -> 858 1 100 1573 s; 3000 "
+               "3000 -> 121 1 1573 1573 s; 30000 1500 -> 1 742 1814 91 s; 1815 100 -> 1 738 1814 100 s")) {
         drawing::Extent natural;
-        float left, top, width, height;
-        bool stretched;
-    };
-    // In a holder of 1815 x 1575.
-    const Case cases[] = {
-        {{100, 100}, 857.5F, 737.5F, 100, 100, false},
-        {{1814, 1574}, 0.5F, 0.5F, 1814, 1574, false},
-        {{100, 1575}, 857.563492F, 1, 99.8730159F, 1573, true},    // as high as the holder
-        {{3000, 3000}, 121, 1, 1573, 1573, true},                  // by the height: two twips are left
-        {{30000, 1500}, 0.5F, 742.15F, 1814, 90.7F, true},         // too wide for that: one twip is left
-        {{1815, 100}, 0.5F, 737.527548F, 1814, 99.9449036F, true}, // a small height is scaled up first
-        {{15, 30000}, 907.10675F, 1, 0.7865F, 1573, true}};
-    open();
-    core::ImgHolder holder = objects.imgHolder.templateElement();
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.natural.Width << " x " << c.natural.Height);
-        const std::string file = platform.pictureFile("any.jpg", c.natural);
+        std::istringstream(c[0]) >> natural.Width >> natural.Height;
         core::FittedImage image;
-        layout::fitImage(app, holder, image, file);
-        EXPECT_EQ(image.path, file);
-        EXPECT_FLOAT_EQ(image.Width, c.width);
-        EXPECT_FLOAT_EQ(image.Height, c.height);
-        EXPECT_FLOAT_EQ(image.Left, c.left);
-        EXPECT_FLOAT_EQ(image.Top, c.top);
-        EXPECT_EQ(image.Stretch, c.stretched);
-        // Nothing, a missing file, a folder, and what is no picture leave the holder empty.
-        ScriptedPlatform::write(platform.folder / "text.jpg", "no picture");
-        for (const std::filesystem::path& none : {std::filesystem::path(), platform.folder / "none.jpg",
-                                                  platform.folder, platform.folder / "text.jpg"}) {
+        layout::fitImage(app, holder, image, platform.pictureFile("any.jpg", natural));
+        const auto whole = [](float value) { return std::round(value); };
+        EXPECT_EQ(texts({whole(image.Left), whole(image.Top), whole(image.Width), whole(image.Height)}) +
+                      (image.Stretch ? " s" : ""),
+                  c[1]);
+        for (const char* none : {"none.jpg", "", "text.jpg"}) {
             image.path = "old";
-            layout::fitImage(app, holder, image, none);
+            layout::fitImage(app, holder, image, platform.folder / none);
             EXPECT_EQ(image.path, "");
         }
     }
-    EXPECT_TRUE(platform.messages.empty());
 }
 
-TEST_F(Sheet, RecordsShowTheirImages) {
-    platform.pictures["bolt.jpg"] = {1500, 1500};
-    open(lines);
-    const core::ImgHolder& photo = objects.imgHolder[1];
-    EXPECT_EQ(photo.viewImage.path, platform.tempFolder() / "bolt.jpg");
-    EXPECT_EQ(objects.imgHolder[2].viewImage.path, "");
-    app.document.LV.setSelectedItem(&app.document.LV.at(3));
-    layout::InitLayout(app, false); // an image that the archive does not hold
-    EXPECT_EQ(photo.viewImage.path, "");
-    EXPECT_EQ(photo.ToolTipText, "gone.jpg");
-    EXPECT_TRUE(platform.messages.empty());
-    // A cell is a bare name: it leads nowhere else.
+// A cell is a bare name: it leads nowhere else. What was unpacked before needs no archive.
+TEST_F(Images, OfTheRecordThatIsShown) {
+    openImages();
     platform.pictureFile("outside.jpg", {1500, 1500});
-    app.document.LV.at(3).cells[5] = "../../outside.jpg";
-    layout::InitLayout(app, false);
-    EXPECT_EQ(photo.viewImage.path, "");
-    // Without its archive the database can be looked at all the same.
-    std::filesystem::remove(app.document.currentFile);
-    app.document.LV.setSelectedItem(&app.document.LV.at(1));
-    layout::InitLayout(app, false);
-    EXPECT_EQ(photo.viewImage.path, platform.tempFolder() / "bolt.jpg"); // unpacked before
+    for (const auto& c :
+         table("bolt.jpg -> bolt.jpg; gone.jpg -> -; ../../outside.jpg -> -; bolt.jpg -> bolt.jpg")) {
+        app.document.LV.at(1).cells[5] = c[0];
+        layout::InitLayout(app, false);
+        EXPECT_EQ(shown(), c[0] + "/" + c[1] + " /- art.gif/- ");
+        std::filesystem::remove(app.document.currentFile);
+    }
+    EXPECT_EQ(told(), "");
 }
 
-TEST_F(Sheet, ADamagedImageLeavesItsHolderEmpty) {
-    platform.pictures["bolt.jpg"] = {1500, 1500};
+// One byte of each image's contents is another one: the checksum tells.
+TEST_F(Images, DamagedOnesLeaveTheirHolderEmpty) {
     platform.pictures["art.gif"] = {1500, 1500};
-    DataFile data({{"Photo", 7}, {"Second_Photo", 7}});
-    data.layout = lines;
-    data.rows = "bolt.jpg|bolt.jpg|\r\n";
-    data.addTotals();
-    const std::string file = program.make("sheet.fwk", data.text(), {"bolt.jpg", "art.gif"});
-    // One byte of each image's contents is another one: the checksum tells.
+    openImages();
+    EXPECT_EQ(shown(), "bolt.jpg/bolt.jpg /- art.gif/art.gif ");
+    const std::string file = app.document.currentFile;
     std::string bytes = ScriptedPlatform::read(file);
-    for (const std::string name : {"bolt.jpg", "art.gif"}) {
-        const std::size_t place = bytes.find(name); // the contents follow the first mention
-        ASSERT_NE(place, std::string::npos);
-        bytes[place + name.size() + 4] ^= 0x10;
-    }
+    for (const std::string name : {"bolt.jpg", "art.gif"}) bytes[bytes.find(name) + name.size() + 4] ^= 0x10;
     ScriptedPlatform::write(file, bytes);
-    program.open(file);
-    EXPECT_EQ(app.document.currentFile, file); // the open has gone on
+    open(file);
     shell::SSTab1_Click(app, app::layoutTab);
-    EXPECT_EQ(objects.imgHolder[1].viewImage.path, "");
-    EXPECT_EQ(objects.clipPic[1].clipImage.path, "");
+    EXPECT_EQ(shown(), "bolt.jpg/- /- art.gif/- ");
     EXPECT_FALSE(std::filesystem::exists(platform.tempFolder() / "bolt.jpg"));
 }
 
-TEST_F(Sheet, ChoosingAPictureForARecord) {
-    open(lines);
-    const core::ImgHolder& holder = objects.imgHolder[2];
-    const char* const refusal = "You selected a file other than a GIF or JPEG.  Please try again.";
-    for (const char* name : {"photo.jpeg", "photo.png", "readme.txt"}) {
-        platform.files.push_back(platform.pictureFile(name, {1500, 1500}));
-        layout::object_DblClick(app, {Family::imgHolder, 2});
-        EXPECT_EQ(platform.lastMessage(), refusal) << name;
-    }
-    layout::object_DblClick(app, {Family::imgHolder, 2}); // cancelled
-    EXPECT_EQ(platform.lastMessage(), refusal);
-    ScriptedPlatform::write(platform.folder / "text.jpg", "no picture");
-    ScriptedPlatform::write(platform.folder / "vast.GIF", "picture");
+TEST_F(Images, AreChosenForARecordOrAsClipArt) {
+    for (const char* name : {"photo.jpeg", "photo.png", "photo.JPG", "photo.gif"})
+        platform.pictureFile(name, {1500, 1500}, name);
+    for (const char* name : {"text.jpg", "vast.GIF"})
+        ScriptedPlatform::write(platform.folder / name, "no picture");
+    std::filesystem::create_directory(platform.folder / "folder.jpg");
     platform.tooLarge = "vast.GIF";
-    for (const auto& [name, message] :
-         {std::pair("text.jpg", "The picture text.jpg cannot be read."),
-          {"none.jpg", "The picture none.jpg cannot be read: No such file or directory."},
-          {"vast.GIF", "The picture vast.GIF is too large."}}) {
-        platform.files = {(platform.folder / name).string()};
-        layout::object_DblClick(app, {Family::imgHolder, 2});
-        EXPECT_EQ(platform.lastMessage(), message);
-    }
-    EXPECT_EQ(holder.ToolTipText, "");
-    EXPECT_EQ(platform.dialogs.back().title, "Select image for picture box.");
-    EXPECT_EQ(platform.dialogs.back().filter, "Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif");
-
-    ScriptedPlatform::write(platform.tempFolder() / "photo.JPG", "another record's");
-    platform.files.push_back(platform.pictureFile("photo.JPG", {1500, 1500}, "first"));
-    layout::object_DblClick(app, {Family::imgHolder, 2});
-    EXPECT_EQ(holder.ToolTipText, "photo.JPG");
-    EXPECT_EQ(holder.viewImage.Left, 157.5F);
-    EXPECT_EQ(entry("photo.JPG"), "first");                                     // at once
-    EXPECT_EQ(app.document.LV.at(1).cells[6], "");                              // the cell waits for Update
-    EXPECT_FALSE(std::filesystem::exists(platform.tempFolder() / "photo.JPG")); // it was the old one
-
-    design();
-    const std::size_t asked = platform.dialogs.size();
-    layout::object_DblClick(app, {Family::imgHolder, 2});
-    EXPECT_EQ(platform.dialogs.size(), asked);
-}
-
-TEST_F(Sheet, ChoosingClipArt) {
-    open(lines);
-    layout::object_DblClick(app, {Family::clipPic, 1});
-    EXPECT_TRUE(platform.dialogs.empty()); // not while browsing
-    design();
-    platform.files.push_back(platform.pictureFile("logo.gif", {1500, 1500}, "logo"));
-    layout::object_DblClick(app, {Family::clipPic, 1});
-    EXPECT_EQ(platform.dialogs.back().title, "Select image for clip art.");
-    EXPECT_EQ(objects.clipPic[1].Tag, "logo.gif");
-    EXPECT_EQ(objects.clipPic[1].clipImage.path, platform.tempFolder() / "logo.gif");
-    file::Zip Zip;
-    Zip.OpenArchive(app.document.currentFile);
-    EXPECT_EQ(Zip.FileNameAt(3), "logo.gif");
-    EXPECT_EQ(Zip.commentAt(3), "Clip Art");
-    layout::object_DblClick(app, {Family::clipPic, 1}); // cancelled
-    EXPECT_EQ(objects.clipPic[1].Tag, "logo.gif");
-}
-
-TEST_F(Sheet, AnArchiveThatTakesNoPictureIsTold) {
-    open(lines);
-    std::filesystem::remove(app.document.currentFile);
+    const std::string other = "i You selected a file other than a GIF or JPEG.  Please try again.";
     for (const bool designing : {false, true}) {
-        if (designing) design();
-        platform.files.push_back(platform.pictureFile("photo.jpg", {1500, 1500}));
-        layout::object_DblClick(app, {designing ? Family::clipPic : Family::imgHolder, 1});
-        EXPECT_EQ(platform.messages.back().icon, platform::Icon::Exclamation);
+        openImages(designing);
+        const char* const name = designing ? "clipPic,1" : "imgHolder,2";
+        dialogs();
+        choose(designing ? "imgHolder,2" : "clipPic,1", "photo.JPG");
+        EXPECT_EQ(dialogs(), ""); // that is the other mode's
+        for (const auto& c :
+             table("photo.jpeg -> other; photo.png -> other;  -> other; text.jpg -> cannot be read.; "
+                   "none.jpg -> cannot be read: No such file or directory.; folder.jpg -> cannot be read: Is "
+                   "a directory.; vast.GIF -> is too large."))
+            EXPECT_EQ(choose(name, c[0]), c[1] == "other" ? other : "! The picture " + c[0] + " " + c[1]);
+        dialogs();
+        ScriptedPlatform::write(platform.tempFolder() / "photo.JPG", "another record's");
+        EXPECT_EQ(choose(name, "photo.JPG"), "");
+        EXPECT_EQ(dialogs(), std::string("Select image for ") + (designing ? "clip art." : "picture box.") +
+                                 "//Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif");
+        EXPECT_EQ(shown(), designing ? "bolt.jpg/- /- photo.JPG/photo.JPG "
+                                     : "bolt.jpg/bolt.jpg photo.JPG/outside photo.JPG art.gif/- ");
+        EXPECT_EQ(entry("photo.JPG"), "photo.JPG"); // at once
+        file::Zip Zip;
+        Zip.OpenArchive(app.document.currentFile);
+        EXPECT_EQ(Zip.commentAt(3), designing ? "Clip Art" : "");
+        EXPECT_EQ(app.document.LV.at(1).cells[6], ""); // the cell waits for Update
+        // What was unpacked under that name was the old one.
+        EXPECT_EQ(ScriptedPlatform::read(platform.tempFolder() / "photo.JPG"), designing ? "photo.JPG" : "");
+        const std::string before = shown();
+        std::filesystem::remove(app.document.currentFile); // and cannot take another one
+        EXPECT_TRUE(
+            choose(name, "photo.gif").starts_with("! The picture could not be added to the database: "));
+        EXPECT_EQ(shown(), before);
     }
-    EXPECT_EQ(objects.imgHolder[1].ToolTipText, "bolt.jpg");
-    EXPECT_EQ(objects.clipPic[1].Tag, "art.gif");
 }
 
-TEST_F(Sheet, TheClipboardFillsThePictureThatIsSelected) {
-    open(lines);
-    layout::select(app, {Family::imgHolder, 2});
-    layout::mnuImportImage_Click(app); // the clipboard holds a text
-    EXPECT_EQ(objects.imgHolder[2].ToolTipText, "");
+TEST_F(Images, TheClipboardFillsThePictureThatIsSelected) {
+    openImages();
+    EXPECT_EQ(import("imgHolder,2"), "bolt.jpg/bolt.jpg /- art.gif/- "); // the clipboard holds a text
     platform.clipboardPicture = "bitmap";
-    layout::mnuImportImage_Click(app);
-    EXPECT_EQ(objects.imgHolder[2].ToolTipText, "cbHolder");
+    EXPECT_EQ(import("imgHolder,2"), "bolt.jpg/bolt.jpg cbHolder/clipboard-2.bmp art.gif/- ");
     EXPECT_EQ(objects.imgHolder[2].viewImage.Width, 1814);
-    file::Zip Zip;
-    Zip.OpenArchive(app.document.currentFile);
-    EXPECT_EQ(Zip.FileCount(), 3); // nothing is stored yet
-    Zip.CloseArchive();
-
-    design();
-    layout::select(app, {Family::clipPic, 1});
-    layout::mnuImportImage_Click(app);
+    after("design");
+    import("clipPic,1");
     const std::string name = objects.clipPic[1].Tag;
     EXPECT_TRUE(name.starts_with("cb") && name.ends_with(".jpg")) << name;
+    EXPECT_EQ(shown(), "bolt.jpg/- cbHolder/- " + name + "/" + name + " ");
     EXPECT_EQ(entry(name), "quality 75 of bitmap"); // at once
-    EXPECT_EQ(objects.clipPic[1].clipImage.path, platform.tempFolder() / name);
-    layout::addBox(app);
-    layout::mnuImportImage_Click(app);
-    EXPECT_TRUE(platform.messages.empty());
+    file::Zip Zip;
+    Zip.OpenArchive(app.document.currentFile);
+    EXPECT_EQ(Zip.FileCount(), 4); // the other one is not stored yet
+    EXPECT_EQ(told(), "");
 }
 
 } // namespace

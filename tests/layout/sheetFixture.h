@@ -2,61 +2,115 @@
 
 #include "core/number.h"
 #include "core/text.h"
-#include "databases.h"
-#include "layout/objects.h"
+#include "file/layoutLines.h"
+#include "layout/dragging.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
-#include "objectAt.h"
+#include "layout/toolbar.h"
+#include "search/searchProgram.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 
-#include <gtest/gtest.h>
+#include <cmath>
+#include <sstream>
 
-// A database of all kinds of columns with its layout page in front. The viewport is 6000 x 5000 twips and a
-// pixel 15 twips, unless a test says otherwise.
-class Sheet : public testing::Test {
-protected:
-    Program program;
-    app::App& app = program.app;
+using core::Family;
+using core::ObjectRef;
+using layout::MouseButton;
+
+// A database of all kinds of columns with its layout page in front, in a viewport of 6000 x 5000 twips, where
+// a pixel is 15. What a user does is a text for after(): see there.
+struct Sheet : testing::Test, SearchProgram {
     app::LayoutPage& page = app.mainFrm.layoutPage;
     core::LayoutObjects& objects = app.document.layout;
-    ScriptedPlatform& platform = program.platform;
+    ObjectRef it;     // the object named last
+    int X = 0, Y = 0; // the pointer
 
-    void open(const std::string& layoutLines = "", const std::string& more = "") {
-        DataFile file({{"Name", 3},
-                       {"Qty", 4},
-                       {"Price", 2},
-                       {"Made", 1},
-                       {"Sum", 5},
-                       {"Photo", 7},
-                       {"Second_Photo", 7}});
-        file.layout = layoutLines;
-        file.more = more;
-        file.rows = "Bolt|12|$1.50|05/04/2001|18|bolt.jpg||\r\nNut|7|$.25||1.75|||\r\n"
-                    "Pin|1|$2.00||2|gone.jpg||\r\n";
-        file.addTotals();
-        program.open(program.make("sheet.fwk", file.text(), {"bolt.jpg", "art.gif"}));
-        page.TwipsPerPixelX = page.TwipsPerPixelY = 15;
+    static DataFile records() {
+        return DataFile("Name Qty:4 Price:2 Made:1 Sum:5 Photo:7 Second_Photo:7",
+                        "Bolt|12|$1.50|05/04/2001|18|bolt.jpg|;Nut|7|$.25||1.75||;Pin|1|$2.00||2|gone.jpg|");
+    }
+    void openSheet(std::string_view lines = {}, bool designing = false, DataFile file = records()) {
+        open(make("sheet.fwk", file.objects(lines).text(), {"bolt.jpg", "art.gif"}));
         layout::layoutPic1_Resize(app, 6000, 5000);
         shell::SSTab1_Click(app, app::layoutTab);
+        if (layout::isDesignMode(app) != designing) shell::pressDesign(app);
     }
-    void design() {
-        if (!layout::isDesignMode(app)) shell::pressDesign(app);
+    static ObjectRef ref(std::string_view name) {
+        const std::size_t comma = name.find(',');
+        for (const Family family : core::allFamilies)
+            if (nameOf(family) == name.substr(0, comma))
+                return {family, std::stoi(std::string(name.substr(comma + 1)))};
+        return {};
     }
-    void browse() {
-        if (layout::isDesignMode(app)) shell::pressDesign(app);
+    // Plays acts one after the other, "pBox,1 take by 300 300 drop": an object is named, and meant by what
+    // follows; words that are no acts are the toolbar's buttons, or columns of their menus.
+    std::string after(const std::string& text) {
+        std::istringstream words(text);
+        int a = 0, b = 0;
+        const std::map<std::string, std::function<void()>> acts = {
+            {"take", [&] { take(MouseButton::Left); }},
+            {"grip",
+             [&] { layout::Handle_MouseDown(app, X = int(page.Handle.Left), Y = int(page.Handle.Top)); }},
+            {"by", [&] { layout::dragTo(app, X += a, Y += b); }},
+            {"drop", [&] { layout::object_MouseUp(app, it, MouseButton::Left); }},
+            {"release", [&] { layout::Handle_MouseUp(app); }},
+            {"key", [&] { layout::Form_KeyDown(app, a, b); }},
+            {"select", [&] { layout::select(app, it); }},
+            {"click", [&] { layout::object_Click(app, it); }},
+            {"dblclick", [&] { layout::object_DblClick(app, it); }},
+            {"design", [&] { shell::pressDesign(app); }}};
+        for (std::string word; words >> word;) {
+            if (word == "by" || word == "key") words >> a >> b;
+            if (word.find(',') != std::string::npos)
+                it = ref(word);
+            else if (acts.contains(word))
+                acts.at(word)();
+            else if (word == "AutoLabel" || app.document.LV.columns.find(word) != nullptr)
+                layout::layoutToolbar_ButtonMenuClick(app, word);
+            else
+                layout::layoutToolbar_ButtonClick(app, word);
+        }
+        return state();
     }
-    static std::string place(const core::LayoutObject& object) {
-        return core::numberText(object.Left) + " " + core::numberText(object.Top) + " " +
-               core::numberText(object.Width) + " " + core::numberText(object.Height);
+    void expect(std::string_view cases) {
+        for (const auto& c : table(cases)) EXPECT_EQ(after(c[0]), c[1]) << c[0];
     }
+    // Takes the object at (50, 40) inside it.
+    void take(MouseButton button) {
+        const bool border = it.family == Family::layoutField || it.family == Family::imgHolder;
+        X = int(object().Left) + 50;
+        Y = int(object().Top) + 40;
+        layout::object_MouseDown(app, it, button, border ? 20 : 50, border ? 10 : 40, X, Y);
+    }
+    core::LayoutObject& object() { return *core::findObject(objects, it); }
+    // The object's place and size, the grip's place, and the rulers: "1000 1000 1800 900, grip 2800 1900
+    // locked, rulers 1000 1000"; without what is hidden.
+    std::string state() {
+        std::string all = place();
+        if (page.Handle.Visible) all += ", grip " + texts({page.Handle.Left, page.Handle.Top});
+        if (page.Handle.Visible && page.Handle.bLocked) all += " locked";
+        return all + (page.ruler1.line ? ", rulers " + texts({*page.ruler1.line, *page.ruler2.line}) : "");
+    }
+    std::string place() {
+        const core::LayoutObject* at = core::findObject(objects, it);
+        return at == nullptr ? "none" : texts({at->Left, at->Top, at->Width, at->Height});
+    }
+    // All objects as they would be saved.
+    std::string lines() const {
+        std::string all;
+        file::writeLayoutLines(all, objects, "; ");
+        return all;
+    }
+    static std::string texts(std::initializer_list<float> numbers) {
+        std::string all;
+        for (const float number : numbers) all += (all.empty() ? "" : " ") + core::numberText(number);
+        return all;
+    }
+    // An entry of the archive.
     std::string entry(const std::string& name) const {
         file::Zip Zip;
         Zip.OpenArchive(app.document.currentFile);
         return Zip.readEntry(name, 1 << 20).value_or("(none)");
     }
 };
-
-using core::Family;
-using core::ObjectRef;
-using layout::MouseButton;

@@ -1,96 +1,74 @@
 #include "platform/settingsFile.h"
-
-#include "archiveFixture.h"
+#include "folderFixture.h"
 
 #include <sys/stat.h>
 
-namespace fs = std::filesystem;
 using platform::SettingsFile;
+using namespace std::string_literals;
 
 namespace {
 
-class SettingsFileTest : public FolderTest {
-protected:
+struct SettingsFileTest : FolderTest {
+    SettingsFileTest() { fs::create_directory(folder / "config"); }
     fs::path file = folder / "config" / "ferrowick.conf";
-
-    void write(const std::string& text) {
-        fs::create_directories(file.parent_path());
-        writeBytes(file, text);
-    }
 };
 
 TEST_F(SettingsFileTest, AnyTextComesBack) {
-    std::vector<std::string> texts{std::string("zero\0byte", 9)};
-    for (const char* text :
-         {"", " ", "  both ends\t", "a=b=c", "[x]", "# no comment", "two\nlines\r\n", "C:\\new\\temp\\", "\\",
-          "\\ ", " \\n", "\"quoted\"", "\xFF not UTF-8", "\xC3\xBC\xF0\x9F\x98\x80"})
-        texts.emplace_back(text);
+    file = folder / "made" / "now" / "ferrowick.conf";
     SettingsFile settings(file);
-    for (const std::string& text : texts) {
-        settings.SaveSetting("StartUp", "as value of " + text, text);
-        settings.SaveSetting("in " + text, "key", text);
-    }
+    const std::string all =
+        "zero\0byte|| |  both ends\t|a=b=c|[x]|# no comment|;|two\nlines\r\n|C:\\new\\temp\\|\\|\\ | \\n|\"quoted\"|\xFF not UTF-8|\xC3\xBC\xF0\x9F\x98\x80"s;
+    for (const std::string_view text : core::split(all, '|'))
+        settings.SaveSetting("in " + std::string(text), "of " + std::string(text), text);
     ASSERT_TRUE(settings.flush());
     const SettingsFile again(file);
-    for (const std::string& text : texts) {
-        EXPECT_EQ(settings.GetSetting("StartUp", "as value of " + text, "default"), text);
-        EXPECT_EQ(again.GetSetting("StartUp", "as value of " + text, "default"), text);
-        EXPECT_EQ(again.GetSetting("in " + text, "key", "default"), text);
-    }
-    EXPECT_EQ(again.GetSetting("StartUp", "absent", "default"), "default");
+    for (const std::string_view text : core::split(all, '|'))
+        for (const SettingsFile* each : {&std::as_const(settings), &again})
+            EXPECT_EQ(each->GetSetting("in " + std::string(text), "of " + std::string(text), "default"),
+                      text);
+    EXPECT_EQ(again.GetSetting("in a=b=c", "absent", "default"), "default");
 }
 
 TEST_F(SettingsFileTest, KeepsWhatItDoesNotKnow) {
-    write("\xEF\xBB\xBF# mine\r\n[StartUp]\r\n File1 = C:\\docs "
-          "\r\nFile1=second\r\nnonsense\r\n\r\n[Other]\r\nx=1\r\n");
-    SettingsFile settings(file);
+    const std::string StartUp = "\xEF\xBB\xBF# mine\r\n[StartUp]\r\n File1 = C:\\docs \r\nFile1=second\r\n";
+    writeBytes(file, StartUp + "nonsense\r\n\r\n[Other]\r\n;y=0\r\nx=1\r\n");
+    SettingsFile settings(file), other(file);
     EXPECT_EQ(settings.GetSetting("StartUp", "File1"), "C:\\docs");
     EXPECT_EQ(settings.GetSetting("Other", "x"), "1");
     settings.SaveSetting("StartUp", "File1", "/a.fwk");
-    settings.SaveSetting("StartUp", "File2", "/b.fwk");
     settings.SaveSetting("New", "y", "2");
-    EXPECT_EQ(settings.GetSetting("StartUp", "File2"), "/b.fwk") << "told before it is written";
-    ASSERT_TRUE(settings.flush());
+    EXPECT_EQ(settings.GetSetting("New", "y"), "2") << "told before it is written";
+    other.SaveSetting("StartUp", "File2", "/b.fwk"); // of another instance
+    ASSERT_TRUE(settings.flush() && other.flush());
     EXPECT_EQ(readBytes(file), "# mine\n[StartUp]\nFile1=/a.fwk\nFile1=second\nnonsense\nFile2=/b.fwk\n\n"
-                               "[Other]\nx=1\n[New]\ny=2\n");
-
-    write("[StartUp]\nFile1=old\nFile2=old\n"); // two instances keep each other's changes
-    SettingsFile first(file), second(file);
-    first.SaveSetting("StartUp", "File1", "first");
-    second.SaveSetting("StartUp", "File2", "second");
-    ASSERT_TRUE(first.flush() && second.flush());
-    EXPECT_EQ(readBytes(file), "[StartUp]\nFile1=first\nFile2=second\n");
+                               "[Other]\n;y=0\nx=1\n[New]\ny=2\n");
 }
 
 TEST_F(SettingsFileTest, ADamagedFileMeansDefaults) {
-    const std::string zeros(100, '\0');
-    for (const std::string& damage :
-         {"[StartUp]\nFile1=x\n" + zeros, "[StartUp]\nFile1=x\n" + std::string(2 << 20, 'x'),
-          std::string("File1=x\n=x\n[StartUp\n]\n[Start"), std::string("\xFF\xFE\n")}) {
-        write(damage);
+    const std::string most(1 << 20, 'x'), head = "[StartUp]\nFile1=x\n";
+    const std::string texts[] = {head + most.substr(head.size()), head + most.substr(head.size() - 1),
+                                 head + "\0"s, "File1=x\n=x\n[StartUp\n]\n[Start", "\xFF\xFE\n"};
+    for (const std::string& text : texts) {
+        writeBytes(file, text);
         SettingsFile settings(file);
-        EXPECT_EQ(settings.GetSetting("StartUp", "File1", "default"), "default");
-        settings.SaveSetting("StartUp", "File1", "saved");
+        EXPECT_EQ(settings.GetSetting("StartUp", "File1", "default"), &text == texts ? "x" : "default");
+        settings.SaveSetting("StartUp", "File1", "");
         EXPECT_TRUE(settings.flush());
-        EXPECT_EQ(SettingsFile(file).GetSetting("StartUp", "File1"), "saved");
+        EXPECT_EQ(SettingsFile(file).GetSetting("StartUp", "File1", "default"), "");
     }
 }
 
 TEST_F(SettingsFileTest, SaysWhenItCannotWrite) {
-    write("[StartUp]\nFile1=old\n");
+    writeBytes(file, "[StartUp]\nFile1=old\n");
     ::chmod(file.c_str(), 0444);
-    SettingsFile settings(file);
-    EXPECT_TRUE(settings.flush()) << "nothing to write";
-    settings.SaveSetting("StartUp", "File1", "new");
-    EXPECT_FALSE(settings.flush());
-    EXPECT_EQ(settings.GetSetting("StartUp", "File1"), "new") << "for this run";
-    EXPECT_EQ(readBytes(file), "[StartUp]\nFile1=old\n");
-    for (const fs::path& impossible : {file / "x.conf", fs::path(), folder}) {
-        SettingsFile nowhere(impossible);
-        nowhere.SaveSetting("StartUp", "File1", "new");
-        EXPECT_FALSE(nowhere.flush()) << impossible;
+    for (const fs::path& impossible : {file, file / "x.conf", fs::path(), folder}) {
+        SettingsFile settings(impossible);
+        EXPECT_TRUE(settings.flush()) << "nothing to write";
+        settings.SaveSetting("StartUp", "File1", "new");
+        EXPECT_FALSE(settings.flush()) << impossible;
+        EXPECT_EQ(settings.GetSetting("StartUp", "File1"), "new") << "for this run";
     }
-    EXPECT_EQ(filesIn(folder), std::vector<std::string>{"config"});
+    EXPECT_EQ(readBytes(file) + tree(), "[StartUp]\nFile1=old\nconfig/ config/ferrowick.conf ");
 }
 
 } // namespace

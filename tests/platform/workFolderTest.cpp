@@ -1,127 +1,90 @@
 #include "platform/workFolder.h"
+#include "folderFixture.h"
 
-#include "archiveFixture.h"
-
-#include <csignal>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace fs = std::filesystem;
 using platform::WorkFolder;
 
 namespace {
 
-class WorkFolderTest : public FolderTest {
-protected:
+struct WorkFolderTest : FolderTest {
+    WorkFolderTest() { ::setenv("TMPDIR", folder.c_str(), 1); }
+    ~WorkFolderTest() override { ::unsetenv("TMPDIR"); }
     fs::path base = folder / "data" / "ferrowick";
 };
 
 TEST_F(WorkFolderTest, EachRunningInstanceHasItsOwn) {
-    std::optional<WorkFolder> first(base);
-    WorkFolder second(base);
-    WorkFolder third(base);
-    EXPECT_EQ(first->path(), base);
-    EXPECT_EQ(second.path(), base / "instance-2");
-    EXPECT_EQ(third.path(), base / "instance-3");
-    writeBytes(second.temp() / "x.jpg", "x");
-    writeBytes(second.path() / "data.dat", "x");
-    first->clearTemp();
-    first->removeDataFile();
-    EXPECT_TRUE(fs::exists(second.temp() / "x.jpg") && fs::exists(second.path() / "data.dat"));
-    first.reset();
-    EXPECT_EQ(WorkFolder(base).path(), base) << "free again, and its files stay for the next";
-    struct stat status {};
-    for (const fs::path& made : {base, base / "Temp", second.path()}) {
-        ASSERT_EQ(::stat(made.c_str(), &status), 0);
-        EXPECT_EQ(status.st_mode & 07777U, 0700U) << made;
-    }
-}
-
-TEST_F(WorkFolderTest, AKilledInstanceFreesItsFolder) {
-    int ready[2];
-    ASSERT_EQ(::pipe(ready), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
+    if (::fork() == 0) {
         WorkFolder held(base);
-        (void)!::write(ready[1], "x", 1);
-        for (;;) ::pause();
+        ::_exit(0); // as one that is killed: nobody cleans up
     }
-    char byte = 0;
-    ASSERT_EQ(::read(ready[0], &byte, 1), 1);
-    EXPECT_EQ(WorkFolder(base).path(), base / "instance-2");
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-    EXPECT_EQ(WorkFolder(base).path(), base);
-    ::close(ready[0]);
-    ::close(ready[1]);
+    ::wait(nullptr);
+    std::vector<WorkFolder> running;
+    for (int i = 0; i < 101; ++i) running.emplace_back(base);
+    EXPECT_EQ(running[0].path(), base);
+    EXPECT_EQ(running[99].path(), base / "instance-100");
+    EXPECT_EQ(running[100].path().parent_path(), folder) << "beyond the last there are private ones";
+    for (const char* name : {"Temp/x.jpg", "data.dat"}) writeBytes(base / "instance-2" / name, "x");
+    running[0].clearTemp();
+    running[0].removeDataFile();
+    EXPECT_TRUE(fs::exists(base / "instance-2" / "Temp" / "x.jpg"));
+    for (const auto& c : table(" -> 448; Temp -> 448; instance-2 -> 448; lock -> 384"))
+        EXPECT_EQ(static_cast<int>(fs::status(base / c[0]).permissions()), std::stoi(c[1])) << c[0];
+    running.clear();
+    EXPECT_EQ(WorkFolder(base).path(), base) << "free again, and its files stay for the next";
+    EXPECT_TRUE(fs::exists(base / "instance-2" / "data.dat"));
+    EXPECT_EQ(tree().find("ferrowick-"), std::string::npos) << tree();
 }
 
 TEST_F(WorkFolderTest, ClearingFollowsNoLink) {
+    fs::create_directories(base);
     fs::create_directory(folder / "mine");
     writeBytes(folder / "mine" / "precious", "mine");
-    fs::create_directories(base);
     fs::create_symlink(folder / "mine", base / "Temp"); // Temp itself a link
     WorkFolder work(base);
-    EXPECT_FALSE(fs::is_symlink(base / "Temp"));
-    writeBytes(work.temp() / "x.jpg", "x");
-    writeBytes(work.temp() / ".hidden", "x");
+    for (const char* name : {"Temp/x.jpg", "Temp/.hidden", "data.dat"}) writeBytes(base / name, "x");
     fs::create_symlink(folder / "mine" / "precious", work.temp() / "link.jpg");
     fs::create_symlink(folder / "mine", work.temp() / "folderLink");
     fs::create_directory(work.temp() / "sub");
     work.clearTemp();
-    EXPECT_EQ(filesIn(work.temp()), std::vector<std::string>{"sub"});
+    work.removeDataFile();
+    const std::string kept = "data/ data/ferrowick/ data/ferrowick/Temp/ ";
+    EXPECT_EQ(tree(), kept + "data/ferrowick/Temp/sub/ data/ferrowick/lock mine/ mine/precious ");
     fs::remove_all(work.temp());
     fs::create_symlink(folder / "mine", work.temp()); // put there while we run
     work.clearTemp();
-    EXPECT_TRUE(fs::is_directory(fs::symlink_status(work.temp())));
-    writeBytes(work.path() / "data.dat", "x");
-    work.removeDataFile();
-    EXPECT_FALSE(fs::exists(work.path() / "data.dat"));
-    EXPECT_EQ(readBytes(folder / "mine" / "precious"), "mine");
+    EXPECT_EQ(tree(), kept + "data/ferrowick/lock mine/ mine/precious ");
 }
 
 TEST_F(WorkFolderTest, FallsBackToAPrivateFolder) {
-    ::setenv("TMPDIR", folder.c_str(), 1);
     writeBytes(folder / "file", "");
     for (const fs::path& unusable :
          {folder / "file" / "ferrowick", fs::path(), fs::path("/proc/ferrowick")}) {
-        fs::path made;
-        {
-            WorkFolder work(unusable);
-            made = work.path();
-            EXPECT_EQ(made.parent_path(), folder) << unusable;
-            writeBytes(work.temp() / "x.jpg", "x");
-        }
-        EXPECT_FALSE(fs::exists(made));
+        WorkFolder work(unusable);
+        EXPECT_EQ(work.path().parent_path(), folder) << unusable;
+        writeBytes(work.temp() / "x.jpg", "x");
     }
-    {
-        WorkFolder scratch = WorkFolder::scratch();
-        scratch.clearTemp();
-        scratch.removeDataFile();
-        EXPECT_EQ(filesIn(folder).size(), 1U) << "made before anyone asked";
-        EXPECT_TRUE(fs::is_directory(scratch.temp()));
-        EXPECT_EQ(filesIn(folder).size(), 2U);
-        const WorkFolder moved = std::move(scratch);
-    }
-    EXPECT_EQ(filesIn(folder).size(), 1U);
-    ::unsetenv("TMPDIR");
+    EXPECT_EQ(tree(), "file ");
+    WorkFolder scratch = WorkFolder::scratch();
+    scratch.clearTemp();
+    scratch.removeDataFile();
+    EXPECT_EQ(tree(), "file ") << "made before anyone asked";
+    EXPECT_TRUE(fs::is_directory(scratch.temp()));
 }
 
 TEST(UserFolders, FollowTheDesktopStandard) {
-    const std::string home = std::getenv("HOME") ? std::getenv("HOME") : "";
-    ::setenv("HOME", "/home/ann", 1);
-    const std::pair<const char*, const char*> cases[] = {{"/xdg", "/xdg/ferrowick"},
-                                                         {"relative", "/home/ann/.local/share/ferrowick"},
-                                                         {"", "/home/ann/.local/share/ferrowick"}};
-    for (const auto& [variable, expected] : cases) {
-        ::setenv("XDG_DATA_HOME", variable, 1);
-        EXPECT_EQ(WorkFolder::defaultDataFolder(), expected);
+    const std::string home = std::getenv("HOME") ? std::getenv("HOME") : "/";
+    for (const auto& c :
+         table("/xdg -> /ann -> /xdg/ferrowick; relative -> /ann -> /ann/.local/share/ferrowick;  -> /ann -> "
+               "/ann/.local/share/ferrowick;  -> ann -> ",
+               3)) {
+        ::setenv("XDG_DATA_HOME", c[0].c_str(), 1);
+        ::setenv("HOME", c[1].c_str(), 1);
+        EXPECT_EQ(WorkFolder::defaultDataFolder(), c[2]);
     }
-    ::unsetenv("HOME");
-    EXPECT_EQ(WorkFolder::defaultDataFolder(), "");
     ::unsetenv("XDG_DATA_HOME");
-    if (!home.empty()) ::setenv("HOME", home.c_str(), 1);
+    ::setenv("HOME", home.c_str(), 1);
 }
 
 } // namespace

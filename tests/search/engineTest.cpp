@@ -2,6 +2,7 @@
 #include "raised.h"
 #include "searchProgram.h"
 
+#include <array>
 #include <random>
 
 namespace {
@@ -24,8 +25,8 @@ TEST(Engine, NumbersInNumericColumns) {
     for (const char* type : {"2", "4", "5"})
         check(type, "5;5.00;5.001;5.01;1,234;$1,234.50;-3;;12.5;$5",
               "= 5 -> i1 i2 i3; = 5.004 -> i1 i2 i3; = 5.005 -> i4; = 1 -> i5; = $1,234.5 -> i6; = 0 -> i8 "
+              "i10; =   12.5  -> i9; >= abc -> i1 i2 i3 i4 i5 i6 i8 i9 i10; >= 12.5 -> i6 i9; <= 0 -> i7 i8 "
               "i10; "
-              "=   12.5  -> i9; >= abc -> i1 i2 i3 i4 i5 i6 i8 i9 i10; >= 12.5 -> i6 i9; <= 0 -> i7 i8 i10; "
               ".. 5 to 12.5 -> i1 i2 i3 i4 i9; .. 1 -> -; .. -3 to   -> i7 i8 i10; "
               "~ 12.50 -> i9; ~ 5.0 -> i1 i2 i3 i4 i6 i9 i10; ~ 1,234 -> -");
 }
@@ -70,25 +71,21 @@ TEST(Engine, FindsWhatALoopFinds) {
     const auto holds = [](const std::string& option, const auto& cell, const auto& value) {
         return option == ">=" ? cell >= value : option == "<=" ? cell <= value : cell == value;
     };
-    const std::vector<std::string> options = {">=", "<=", "="};
     for (int round = 0; round < 60; ++round) {
         std::vector<bool> wanted(rows.size(), true);
-        std::string groups;
+        std::string groups, keys;
         const std::size_t count = 1 + random() % 3, blank = random() % 5;
         for (std::size_t group = 0; group < count; ++group) {
-            const std::string name = word(), option = options[random() % 3];
+            const std::string name = word(), option = std::array{">=", "<=", "="}[random() % 3];
             const int qty = static_cast<int>(random() % 40) - 9;
             const bool byName = random() % 2 == 0;
-            groups += (group > 0 ? " & " : "") + std::string(byName ? "Name " : "Qty ") + option + " " +
-                      (group == blank ? " "
-                       : byName       ? core::upper(name)
-                                      : std::to_string(qty));
-            for (std::size_t i = 0; i < rows.size(); ++i)
-                if (group < blank)
-                    wanted[i] = wanted[i] && (byName ? holds(option, rows[i].first, name)
-                                                     : holds(option, rows[i].second, qty));
+            const std::string value = byName ? core::upper(name) : std::to_string(qty);
+            groups += (group > 0 ? " & " : "") + std::string(byName ? "Name " : "Qty ") + option + " ";
+            groups += group == blank ? " " : value;
+            for (std::size_t i = 0; i < rows.size() && group < blank; ++i)
+                if (!(byName ? holds(option, rows[i].first, name) : holds(option, rows[i].second, qty)))
+                    wanted[i] = false;
         }
-        std::string keys;
         for (std::size_t i = 0; i < rows.size(); ++i)
             if (wanted[i] && blank > 0) keys += (keys.empty() ? "i" : " i") + std::to_string(i + 1);
         EXPECT_EQ(program.find(groups), keys.empty() ? "-" : keys) << groups;
@@ -102,27 +99,22 @@ TEST(Engine, ResultsAreCopiesWithATotalsRowOfTheirOwn) {
     const std::string before = program.cells();
     // Each search begins with all records. The end of the dialog empties the sums of the selected.
     for (const auto& c : table("Name = bolt -> i1 i3 -> Bolt|12|$1.50|;Bolt|7|$2.00|;------|19|$3.50| -> 2 "
-                               "records. -> |;|; "
-                               "Name = nut -> i2 -> Nut|7|$.25|;------|7|$.25| -> 1 records. -> |;|; "
-                               "Name = screw -> - -> ------|------|------| -> 1 records. -> |;|")) {
+                               "records. |;|; Name = nut -> i2 -> Nut|7|$.25|;------|7|$.25| -> 1 records. "
+                               "|;|; Name = screw -> - -> ------|------|------| -> 1 records. |;|",
+                               4)) {
         EXPECT_EQ(program.find(c[0]), c[1]);
         EXPECT_EQ(Program::cells(document.searchLV), c[2] + ";");
-        EXPECT_EQ(program.panel(app::recordsPanel), c[3]);
-        EXPECT_EQ(Program::cells(document.LV3), c[4] + ";");
+        EXPECT_EQ(program.panel(app::recordsPanel) + " " + Program::cells(document.LV3), c[3] + ";");
         EXPECT_EQ(program.app.mainFrm.theListView, &document.searchLV);
         EXPECT_TRUE(document.searchLV.at(document.searchLV.count()).isTotals());
-        EXPECT_EQ(program.cells(), before);
+        EXPECT_TRUE(program.cells() == before && !document.bModified);
     }
-    EXPECT_FALSE(document.bModified);
-
     program.openCopyOf("invoices.fwk"); // invoices are found by the rows on show
     const core::Column& column = document.iLV.columns.at(2);
-    const std::string cell = core::RecordsList::cell(document.iLV.at(2), column).str();
-    ASSERT_NE(program.find(column.Text + " ~ " + cell), "-");
+    ASSERT_NE(program.find(column.Text + " ~ " + core::RecordsList::cell(document.iLV.at(2), column).str()),
+              "-");
     const core::Item& result = document.searchLV.at(1);
-    EXPECT_EQ(result.Key, "");
-    EXPECT_EQ(result.Text, result.Tag);
-    EXPECT_NE(document.LV.find(result.Tag), nullptr);
+    EXPECT_TRUE(result.Key.empty() && result.Text == result.Tag && document.LV.find(result.Tag) != nullptr);
     EXPECT_EQ(document.searchLV.columns.count(), document.iLV.columns.count());
 }
 

@@ -1,243 +1,184 @@
-#include "shell/program.h"
+#include "calc/recalculation.h"
+#include "core/text.h"
 #include "programTest.h"
-#include "shell/commands.h"
 #include "shell/mainWindow.h"
-
-#include <algorithm>
+#include "shell/samples.h"
+#include "storage/saveFile.h"
+#include "table.h"
 
 namespace {
 
+namespace fs = std::filesystem;
 using platform::Answer;
-using platform::Icon;
 
-// Also remembers the order of what it is asked.
-class LoggingPlatform : public ScriptedPlatform {
-public:
-    std::vector<std::string> log;
+// Remembers the order of what it is asked too, equal things as one: "read form read ".
+struct LoggingPlatform : ScriptedPlatform {
+    std::string log;
 
-    Answer msgBox(const std::string& text, Icon icon, const std::string& caption,
-                  platform::Buttons buttons) override {
-        log.push_back("message: " + text);
-        return ScriptedPlatform::msgBox(text, icon, caption, buttons);
-    }
-    void showForm(std::string_view name) override {
-        log.push_back("form: " + std::string(name));
-        ScriptedPlatform::showForm(name);
-    }
+    void note(std::string_view what) { log += log.ends_with(what) ? "" : what; }
+    void showForm(std::string_view name) override { note(std::string(name) + " "); }
     std::string getSetting(const std::string& key, const std::string& byDefault) override {
-        log.push_back("read: " + key);
+        note("read ");
         return ScriptedPlatform::getSetting(key, byDefault);
     }
     void saveSetting(const std::string& key, const std::string& value) override {
-        log.push_back("write: " + key);
+        note("write ");
         ScriptedPlatform::saveSetting(key, value);
     }
-    void flushSettings() override { log.emplace_back("flush"); }
-
-    // Where the first entry that starts so stands, from 0; -1 when there is none.
-    long placeOf(std::string_view start) const {
-        const auto found =
-            std::ranges::find_if(log, [&](const std::string& entry) { return entry.starts_with(start); });
-        return found == log.end() ? -1 : found - log.begin();
-    }
+    void flushSettings() override { note(messages.empty() ? "flush " : "late "); }
 };
 
-struct Settings {
-    const char* key;
-    bool byDefault;
-    bool app::MainFrm::*variable;
-    const char* control;
-};
+struct Start : testing::Test, ProgramOn<LoggingPlatform> {
+    std::string books = copyOf("books.fwk"), invoices = copyOf("invoices.fwk");
 
-constexpr Settings booleans[] = {
-    {"ConfirmDelete", true, &app::MainFrm::bConfirmDelete, "mnuConfirmDelete"},
-    {"SnapToGrid", true, &app::MainFrm::bSnapToGrid, "layoutToolbar.Snap"},
-    {"AutoLoad", false, &app::MainFrm::bAutoLoad, "mnuAutoLoad"},
-    {"LayoutDBLClick", false, &app::MainFrm::bLayoutDblClick, "mnuLayoutDoubleClick"},
-    {"HighlightCalc", false, &app::MainFrm::bHighlightCalc, "mnuCalcHighlight"},
-    {"SavePrompt", true, &app::MainFrm::bSavePrompt, "mnuSavePrompt"}};
-
-class StartTest : public testing::Test {
-protected:
-    Program files;
-    LoggingPlatform platform;
-    shell::Program app{platform};
-    app::MainFrm& mainFrm = app.mainFrm;
-
-    StartTest() { platform.settings["Disclaimer"] = "True"; }
     void load(app::App& starting, const std::string& command = "") {
-        shell::Form_Load(starting, command, [&] { platform.log.emplace_back("show"); });
+        shell::Form_Load(starting, command, [&] { platform.note("show "); });
     }
-    void load(const std::string& command = "") { load(app, command); }
-    std::string copyOf(const char* name) const { return files.copyOf(name); }
-    static std::string quoted(const std::string& path) { return '"' + path + '"'; }
 };
 
-TEST_F(StartTest, theWindowStartsEmptyAndSaysSo) {
-    load();
-    const std::vector<std::string> panels(mainFrm.panels.begin(), mainFrm.panels.end());
-    EXPECT_EQ(panels, (std::vector<std::string>{"", "", "", "Calculation Status:", "Filesize:",
-                                                "No Open Document", "Database Style:"}));
-    EXPECT_EQ(mainFrm.Caption, "Ferrowick");
-    EXPECT_EQ(mainFrm.theListView, &app.document.LV);
-    EXPECT_FALSE(mainFrm.SSTab1Enabled);
-    EXPECT_FALSE(app.document.bModified);
-}
-
-TEST_F(StartTest, theOrderOfTheStart) {
-    platform.settings = {{"AutoLoad", "True"}, {"defaultFile", "/no/such/file.fwk"}};
-    load();
-    EXPECT_TRUE(mainFrm.bDisclaimerSeen);
-    const long lastSetting = platform.placeOf("read: SavePrompt"),
-               disclaimer = platform.placeOf("form: disclaimFrm");
-    const long shown = platform.placeOf("show"), file = platform.placeOf("read: defaultFile");
-    const long message = platform.placeOf("message: Previously opened file could not be found.");
-    EXPECT_TRUE(0 <= lastSetting && lastSetting < disclaimer) << "settings before the disclaimer";
-    EXPECT_LT(disclaimer, shown) << "which is read before the window is there";
-    EXPECT_LT(shown, file) << "and the file comes when the window shows";
-    EXPECT_LT(file, message);
-    EXPECT_EQ(platform.forms.size(), 1U);
-
+TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
+    load(app);
+    EXPECT_EQ(platform.log, "read disclaimFrm show read ");
+    std::string panels;
+    for (const std::string& panel : app.mainFrm.panels) panels += panel + "|";
+    EXPECT_EQ(panels, "|||Calculation Status:|Filesize:|No Open Document|Database Style:|");
+    EXPECT_FALSE(app.mainFrm.SSTab1Enabled || app.mainFrm.Caption != "Ferrowick");
     shell::Form_QueryUnload(app);
-    app::App again{platform};
-    load(again);
-    EXPECT_EQ(platform.forms.size(), 1U) << "the disclaimer is shown once";
+    std::string settings;
+    for (const auto& [key, value] : platform.settings) settings += key + "=" + value + " ";
+    EXPECT_EQ(settings,
+              "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= HighlightCalc=False "
+              "LayoutDBLClick=False SavePrompt=True SnapToGrid=True defaultFile= ");
+    platform.settings["AutoLoad"] = "True";
+    platform.settings["defaultFile"] = "/no/such/file.fwk";
+    platform.log.clear();
+    load(app);
+    EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
+    EXPECT_EQ(told(), "i Previously opened file could not be found.");
 }
 
-TEST_F(StartTest, settings) {
-    load();
-    for (const Settings& setting : booleans) {
-        EXPECT_EQ(mainFrm.*setting.variable, setting.byDefault) << setting.key;
-        EXPECT_EQ(mainFrm.control(setting.control).Value, setting.byDefault) << setting.key;
+TEST_F(Start, SettingsAreKept) {
+    platform.settings = {
+        {"File1", "1"}, {"File2", "2"}, {"File3", "3"}, {"Disclaimer", "True"}, {"defaultFile", ""}};
+    for (const std::string value : {"True", "False", "True"}) {
+        for (const char* key :
+             {"AutoLoad", "ConfirmDelete", "HighlightCalc", "LayoutDBLClick", "SavePrompt", "SnapToGrid"})
+            platform.settings[key] = value;
+        const auto before = platform.settings;
+        load(app);
+        int pressed = 0;
+        for (const auto& [key, control] : app.mainFrm.controls) pressed += control.Value ? 1 : 0;
+        EXPECT_EQ(pressed, value == "True" ? 6 : 0);
+        shell::Form_QueryUnload(app);
+        EXPECT_EQ(platform.settings, before);
     }
-    for (const bool value : {true, false, true}) {
-        for (const Settings& setting : booleans) platform.settings[setting.key] = value ? "True" : "False";
-        platform.settings["defaultFile"] = "";
-        app::App next{platform};
-        load(next);
-        for (const Settings& setting : booleans) {
-            EXPECT_EQ(next.mainFrm.*setting.variable, value) << setting.key;
-            EXPECT_EQ(next.mainFrm.control(setting.control).Value, value) << setting.key;
-            next.mainFrm.*setting.variable = !value;
-        }
-        next.mainFrm.control("mnuFile2").Caption = "/a b/c.fwk";
-        next.document.currentFile = "/open.fwk";
-        shell::Form_QueryUnload(next);
-        for (const Settings& setting : booleans)
-            EXPECT_EQ(platform.settings[setting.key], value ? "False" : "True") << setting.key;
-        EXPECT_EQ(platform.settings["Disclaimer"], "True");
-        EXPECT_EQ(platform.settings["defaultFile"], "/open.fwk");
-        EXPECT_EQ(platform.settings["File1"], "");
-        EXPECT_EQ(platform.settings["File2"], "/a b/c.fwk");
-    }
-    app::App last{platform};
-    load(last);
-    EXPECT_EQ(last.mainFrm.control("mnuFile2").Caption, "/a b/c.fwk");
     // Somebody else can have written anything.
-    const std::pair<const char*, bool> texts[] = {
-        {"true", true}, {"FALSE", false}, {"", true}, {"maybe", true}, {" False", true}};
-    for (const auto& [text, expected] : texts) {
-        platform.settings["SavePrompt"] = text;
-        app::App starting{platform};
-        load(starting);
-        EXPECT_EQ(starting.mainFrm.bSavePrompt, expected) << text;
+    for (const auto& c : table("true -> True; FALSE -> False;  -> True; maybe -> True;  False -> True")) {
+        platform.settings["SavePrompt"] = c[0];
+        load(app);
+        EXPECT_EQ(app.mainFrm.bSavePrompt, c[1] == "True") << c[0];
     }
 }
 
-TEST_F(StartTest, theFileOfTheStart) {
-    const std::string books = copyOf("books.fwk"), invoices = copyOf("invoices.fwk");
-    const struct {
-        const char* autoLoad;
-        std::string remembered, command, opened;
-        bool message;
-    } cases[] = {{"False", "", "", "", false},
-                 {"False", books, "", "", false},
-                 {"True", books, "", books, false},
-                 {"True", books, quoted(invoices), invoices, false}, // the command line wins
-                 {"False", books, quoted(invoices), invoices, false},
-                 {"True", "", "", "", false}, // nothing was ever opened
-                 {"True", "/gone.fwk", "", "", true},
-                 {"False", "/gone.fwk", "", "", false},
-                 {"False", books, quoted("/gone.fwk"), "", true},
-                 {"False", "", "x" + books + "y", books, false}, // whatever stands first and last
-                 {"False", "", books, "", true},
-                 {"True", books, "\"\"", "", false},
-                 {"True", books, "\"", "", false}};
-    for (const auto& c : cases) {
-        platform.settings["AutoLoad"] = c.autoLoad;
-        platform.settings["defaultFile"] = c.remembered;
-        platform.messages.clear();
+TEST_F(Start, TheFileOfTheStart) {
+    // Auto-load, what is remembered, the command line, and what is opened; "!" stands for the message. The
+    // command line wins, and its first and last character go, whatever they are.
+    for (const auto& c :
+         table("False; False -> ~books.fwk; True -> ~books.fwk ->  -> ~books.fwk; True; "
+               "True -> ~books.fwk -> \"~invoices.fwk\" -> ~invoices.fwk; True -> ~gone ->  -> !; "
+               "False -> ~books.fwk -> \"~invoices.fwk\" -> ~invoices.fwk; False -> ~gone; "
+               "False -> ~books.fwk -> \"~gone\" -> !; False ->  -> x~books.fwky -> ~books.fwk; "
+               "False ->  -> ~books.fwk -> !; True -> ~books.fwk -> \"\"; True -> ~books.fwk -> \"",
+               4)) {
+        const auto full = [&](const std::string& text) { return core::replaceAll(text, "~", path("")); };
+        platform.settings = {{"AutoLoad", c[0]}, {"defaultFile", full(c[1])}};
         app::App starting{platform};
-        load(starting, c.command);
-        const std::string what = std::string(c.autoLoad) + "; " + c.remembered + "; " + c.command;
-        EXPECT_EQ(starting.document.currentFile, c.opened) << what;
-        EXPECT_EQ(starting.mainFrm.control("Save").Enabled, !c.opened.empty()) << what;
-        EXPECT_EQ(starting.mainFrm.SSTab1Enabled, !c.opened.empty()) << what;
-        EXPECT_EQ(platform.lastMessage(), c.message ? "Previously opened file could not be found." : "")
-            << what;
+        load(starting, full(c[2]));
+        const std::string opened = c[3] == "!" ? "" : full(c[3]);
+        EXPECT_EQ(starting.document.currentFile, opened) << c[0] << c[1] << c[2];
+        EXPECT_EQ(starting.mainFrm.SSTab1Enabled, !opened.empty());
+        EXPECT_EQ(told(), c[3] == "!" ? "i Previously opened file could not be found." : "") << c[1] << c[2];
         shell::Form_QueryUnload(starting);
-        EXPECT_EQ(platform.settings["defaultFile"], c.opened) << what;
+        EXPECT_EQ(platform.settings["defaultFile"], opened);
     }
+    for (const auto& c :
+         table(" -> ; /a b.fwk -> \"/a b.fwk\"; \"/a.fwk\" -> \"/a.fwk\"; a -> \"a\"; \" -> \"\"\"; "
+               "\"\" -> \"\"; \"a -> \"\"a\"; a\" -> \"a\"\""))
+        EXPECT_EQ(shell::commandLineFor(c[0]), c[1]) << c[0];
 }
 
-TEST_F(StartTest, pathsOfDesktopsAndShells) {
-    const std::pair<const char*, const char*> cases[] = {{"", ""},
-                                                         {"/a b.fwk", "\"/a b.fwk\""},
-                                                         {"\"/a.fwk\"", "\"/a.fwk\""},
-                                                         {"a", "\"a\""},
-                                                         {"\"", "\"\"\""},
-                                                         {"\"\"", "\"\""},
-                                                         {"\"a", "\"\"a\""}};
-    for (const auto& [path, command] : cases) EXPECT_EQ(shell::commandLineFor(path), command) << path;
+TEST_F(Start, TheEndKeepsTheSettingsAndOffersToSave) {
+    for (int state = 0; state < 4; ++state)
+        for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel}) { // it cannot be cancelled
+            const bool isAsked = state == 3;
+            copyOf("books.fwk");
+            load(app, '"' + books + '"');
+            app.document.LV.at(1).cells[1] = "changed";
+            app.mainFrm.bSavePrompt = (state & 1) != 0;
+            app::setDocumentModified(app, (state & 2) != 0);
+            platform.log.clear();
+            platform.answers = {answer};
+            shell::Form_QueryUnload(app);
+            EXPECT_EQ(platform.log + told(),
+                      isAsked ? "write flush ? Save current document?" : "write flush ");
+            EXPECT_EQ(dataFileOf(books).find("|changed|") != std::string::npos,
+                      isAsked && answer != Answer::No);
+            EXPECT_TRUE(app.mainFrm.unloaded && fs::exists(platform.workFolder() / "data.dat"));
+        }
 }
 
-TEST_F(StartTest, theEndKeepsTheSettingsAndOffersToSave) {
-    const struct {
-        bool bModified, bSavePrompt;
-        Answer answer;
-        bool asked, saved;
-    } cases[] = {{true, true, Answer::Yes, true, true},    {true, true, Answer::No, true, false},
-                 {true, true, Answer::Cancel, true, true}, {true, false, Answer::Yes, false, false},
-                 {false, true, Answer::Yes, false, false}, {false, false, Answer::Yes, false, false}};
-    for (const auto& c : cases) {
-        const std::string file = copyOf("books.fwk");
-        app::App running{platform};
-        load(running, quoted(file));
-        running.document.LV.at(1).cells[1] = "changed";
-        running.mainFrm.bSavePrompt = c.bSavePrompt;
-        app::setDocumentModified(running, c.bModified);
-        platform.log.clear();
-        platform.answers = {c.answer};
-        shell::Form_QueryUnload(running);
-        platform.answers.clear();
-        EXPECT_TRUE(running.mainFrm.unloaded);
-        EXPECT_EQ(toldBy(platform), c.asked ? "? Save current document?" : "");
-        EXPECT_EQ(platform.placeOf("flush") < platform.placeOf("message"), c.asked) << "settings come first";
-        EXPECT_EQ(platform.log.front(), "write: defaultFile");
-        EXPECT_EQ(Program::dataFileOf(file).find("|changed|") != std::string::npos, c.saved)
-            << c.bModified << c.bSavePrompt;
-        EXPECT_TRUE(std::filesystem::exists(platform.workFolder() / "data.dat")) << "work files stay";
-    }
-}
-
-TEST_F(StartTest, recentFilesOpenWithoutAQuestion) {
-    load();
-    const std::string books = copyOf("books.fwk"), invoices = copyOf("invoices.fwk");
-    platform.files = {books, invoices};
-    shell::runCommand(app, "mnuOpen");
-    shell::runCommand(app, "Open");
+TEST_F(Start, RecentFilesOpenWithoutAQuestion) {
+    const std::string older = copyOf("books-older.fwk");
+    platform.files = {books, invoices, older};
+    for (const char* key : {"mnuOpen", "Open", "mnuOpen"}) run(key);
     app::setDocumentModified(app, true);
-    shell::runCommand(app, "mnuFile2");
-    EXPECT_EQ(app.document.currentFile, books);
-    EXPECT_EQ(mainFrm.control("mnuFile1").Caption, invoices) << "the order stays";
-    shell::runCommand(app, "mnuFile3");
-    EXPECT_EQ(app.document.currentFile, books) << "an empty entry does nothing";
-    std::filesystem::remove(invoices);
-    shell::runCommand(app, "mnuFile1");
-    EXPECT_EQ(app.document.currentFile, "");
-    EXPECT_EQ(toldBy(platform), "i Previously opened file could not be found.");
-    EXPECT_EQ(app.document.LV.count(), 43);
-    EXPECT_EQ(mainFrm.control("mnuFile1").Caption, invoices);
+    for (const auto& [key, file] :
+         {std::pair("mnuFile3", books), {"mnuFile2", invoices}, {"mnuFile1", older}}) {
+        run(key); // the order stays
+        EXPECT_EQ(app.document.currentFile + told(), file);
+    }
+    app.mainFrm.control("mnuFile2").Caption = "";
+    run("mnuFile2");
+    EXPECT_EQ(app.document.currentFile + told(), older) << "an empty entry does nothing";
+}
+
+struct Samples : testing::Test, Program {
+    const fs::path samples = SAMPLES_DIR;
+};
+
+TEST_F(Samples, AreThereAndAlreadyCalculated) {
+    for (const shell::Sample& sample : shell::samplesIn(samples)) {
+        shell::openSample(app, sample, path("documents"));
+        const std::string copy = path("documents/Ferrowick/" + sample.file.filename().string());
+        EXPECT_EQ(app.document.currentFile, copy);
+        calc::RecalculateAll(app, app.document.LV);
+        storage::SaveFile(app, false, false);
+        EXPECT_EQ(told(), "");
+        EXPECT_EQ(dataFileOf(copy), dataFileOf(sample.file.string()));
+    }
+    EXPECT_EQ(shell::samplesIn(samples).size(), 5U);
+    fs::copy_file(samples / "invoices.fwk", path("invoices.fwk"));
+    EXPECT_EQ(shell::samplesIn(platform.folder).at(0).name, "Invoices"); // those that are there
+}
+
+// Installed files are read-only for the user. The copy is his to change, and opened as he left it.
+TEST_F(Samples, AreCopiedOnce) {
+    const fs::path installed = path("garden.fwk"), copy = path("Ferrowick/library.fwk");
+    fs::create_directories(copy.parent_path());
+    fs::copy_file(samples / "garden.fwk", copy);
+    shell::openSample(app, {samples / "library.fwk", "Library", "", ""}, platform.folder);
+    EXPECT_NE(app.document.LV.columns.find("Plant"), nullptr);
+    EXPECT_EQ(app.mainFrm.control("mnuFile1").Caption, copy.string());
+    fs::copy_file(samples / "garden.fwk", installed);
+    fs::permissions(installed, fs::perms::owner_read);
+    shell::openSample(app, {installed, "Garden", "", ""}, platform.folder);
+    EXPECT_NE(fs::status(app.document.currentFile).permissions() & fs::perms::owner_write, fs::perms::none);
+    const std::string before = app.document.currentFile;
+    shell::openSample(app, {samples / "library.fwk", "", "", ""}, copy); // a file where the folder should be
+    EXPECT_TRUE(told().starts_with("! The sample could not be copied to " + copy.string() + "/Ferrowick: "));
+    shell::openSample(app, {platform.folder, "", "", ""}, path("b")); // no file at all
+    EXPECT_TRUE(told().starts_with("! The sample could not be copied to " + path("b/Ferrowick: ")));
+    EXPECT_EQ(app.document.currentFile, before) << "stays open";
 }
 
 } // namespace

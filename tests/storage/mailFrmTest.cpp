@@ -1,61 +1,58 @@
-#include "shell/program.h"
 #include "storage/mailFrm.h"
-#include "programTest.h"
+#include "databases.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
-class MailFrm : public testing::Test {
-protected:
-    class Machine : public ScriptedPlatform {
-    public:
-        platform::MailStart sendMail(const platform::MailMessage& message,
-                                     const std::function<void()>& failed) override {
-            mails.push_back(message);
-            tellFailure = failed;
-            return start;
-        }
-        platform::MailStart start = platform::MailStart::WithAttachment;
-        std::vector<platform::MailMessage> mails;
-        std::function<void()> tellFailure;
-    };
-
-    Program files;
-    Machine machine;
-    shell::Program app{machine};
-    storage::mailFrm form{app};
+class Machine : public ScriptedPlatform {
+public:
+    platform::MailStart sendMail(const platform::MailMessage& message,
+                                 const std::function<void()>& failed) override {
+        sent += message.address + "/" + message.subject + "/" + message.body + "/" + message.attachment + ";";
+        tellFailure = failed;
+        return start;
+    }
+    platform::MailStart start = platform::MailStart::WithAttachment;
+    std::string sent;
+    std::function<void()> tellFailure;
 };
 
-TEST_F(MailFrm, sending) {
-    const std::string file = app.document.currentFile = files.copyOf("books.fwk");
+TEST(MailFrm, Sending) {
+    ProgramOn<Machine> program("books.fwk");
+    storage::mailFrm form(program.app);
+    const std::string file = program.app.document.currentFile, mail = "a@b.c/Books/Hello/" + file + ";";
     using platform::MailStart;
     const struct {
-        const char *subject, *told;
+        const char *to, *subject;
         MailStart start;
-    } cases[] = {{" ", "i Send File: You did not enter either an address or a subject.", {}},
-                 {"Books", "", MailStart::WithAttachment},
-                 {"Books", "i Send File: Your mail program could not be started.", MailStart::NoProgram},
-                 {"Books", "i Send File: Please attach the database to the message yourself:\n",
-                  MailStart::WithoutAttachment}};
+        std::string told, sent;
+    } cases[] = {{"a@b.c", " ", {}, "i Send File: You did not enter either an address or a subject.", ""},
+                 {" ", "Books", {}, "i Send File: You did not enter either an address or a subject.", ""},
+                 {"a@b.c", "Books", MailStart::WithAttachment, "", mail},
+                 {"a@b.c", "Books", MailStart::NoProgram,
+                  "i Send File: Your mail program could not be started.", mail},
+                 {"a@b.c", "Books", MailStart::WithoutAttachment,
+                  "i Send File: Please attach the database to the message yourself:\n" + file, mail}};
+    form.Text3 = "Hello";
     for (const auto& c : cases) {
-        form.Text1 = "a@b.c";
+        form.Text1 = c.to;
         form.Text2 = c.subject;
-        machine.start = c.start;
+        program.platform.start = c.start;
         form.OKButton_Click();
-        const std::string told = toldBy(machine);
-        EXPECT_TRUE(told.starts_with(c.told) && told.empty() == (*c.told == '\0')) << told;
+        EXPECT_EQ(program.told(), c.told);
+        EXPECT_EQ(std::exchange(program.platform.sent, ""), c.sent);
         EXPECT_FALSE(form.unloaded);
     }
-    ASSERT_EQ(machine.mails.size(), 3U);
-    EXPECT_EQ(machine.mails[0].attachment, file);
-    machine.tellFailure();
-    EXPECT_EQ(machine.lastMessage(), "Your mail program could not be started.");
+    program.platform.tellFailure();
+    EXPECT_EQ(program.told(), "i Send File: Your mail program could not be started.");
     std::filesystem::remove(file);
     form.OKButton_Click();
-    EXPECT_EQ(machine.lastMessage(), "The database file could not be found:\n" + file);
-    EXPECT_EQ(machine.mails.size(), 3U);
+    EXPECT_EQ(program.told() + program.platform.sent,
+              "i Send File: The database file could not be found:\n" + file);
 }
 
-TEST_F(MailFrm, theMessageTakes500Characters) {
+TEST(MailFrm, TheMessageTakes500Characters) {
     const std::string full = std::string(499, 'x') + "\xC3\xA9", pasted = "ab" + full.substr(2);
     const struct {
         std::string text;
@@ -69,6 +66,8 @@ TEST_F(MailFrm, theMessageTakes500Characters) {
         {pasted + "cde", 503, pasted, 500},                   // pasted, of which a part fits
         {std::string(600, 'z'), 0, std::string(500, 'z'), 0}, // put in without a caret
     };
+    Program program;
+    storage::mailFrm form(program.app);
     for (const auto& c : cases) {
         form.Text3_Change(c.text, c.caret);
         EXPECT_EQ(form.Text3, c.kept) << c.caret;
@@ -76,7 +75,7 @@ TEST_F(MailFrm, theMessageTakes500Characters) {
     }
 }
 
-TEST(MailtoLink, losesNoCharacter) {
+TEST(MailtoLink, LosesNoCharacter) {
     EXPECT_EQ(
         platform::mailtoLink({"a+b@c.d,e@f.g?x&y", "50% & \"more\" #1?", "1=1\r\n\\2\n\r\xC3\xA9", "/f"}),
         "mailto:a+b@c.d,e@f.g%3Fx%26y?Subject=50%25%20%26%20%22more%22%20%231%3F"

@@ -44,6 +44,14 @@ struct DataFile {
         more += "[" + name + "]" + line + "\r\n";
         return *this;
     }
+    // Several, "Totaled Cols=Qty|;Locks=pBox,1|".
+    DataFile& sections(std::string_view lines) {
+        each(lines, ';', [&](std::string_view line) {
+            const std::size_t end = line.find('=');
+            section(std::string(line.substr(0, end)), std::string(line.substr(end + 1)));
+        });
+        return *this;
+    }
     DataFile& objects(std::string_view lines) {
         each(lines, ';', [&](std::string_view line) {
             layout.append(line);

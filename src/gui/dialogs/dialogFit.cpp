@@ -81,7 +81,11 @@ void fitDialog(QDialog& dialog) {
     const QSize room = roomOnScreen(dialog);
     if (dialog.layout() != nullptr && dialog.minimumSizeHint().height() > room.height()) scroll(dialog);
     const QSize wanted = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
-    dialog.resize(QSize(std::max(wanted.width(), titleWidth(dialog)), wanted.height()).boundedTo(room));
+    QSize size = QSize(std::max(wanted.width(), titleWidth(dialog)), wanted.height()).boundedTo(room);
+    // Texts that wrap need more lines where the dialog is not as wide as they would like it.
+    if (dialog.layout() != nullptr && dialog.layout()->hasHeightForWidth())
+        size.setHeight(std::max(size.height(), dialog.layout()->totalHeightForWidth(size.width())));
+    dialog.resize(size.boundedTo(room));
 }
 
 } // namespace gui

@@ -86,8 +86,9 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     dialog.setObjectName(QStringLiteral("printDialog"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
-    // Qt shows its choice of pages also where none is offered.
-    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) pages->hide();
+    // Qt shows its choice of pages also where none is offered, and once more when the dialog comes up.
+    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange")))
+        QMetaObject::invokeMethod(pages, &QWidget::hide, Qt::QueuedConnection);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     if (isPdf()) fileName_ = chosen.outputFileName();
     platform::PrintChoice choice = present;

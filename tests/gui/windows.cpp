@@ -1,0 +1,314 @@
+#include "journey.h"
+
+#include "gui/machine/mailProgram.h"
+#include "gui/widgets/palette.h"
+#include "gui/widgets/programStyle.h"
+#include "shell/commands.h"
+
+#include <set>
+
+namespace {
+
+// Whatever is wrong with the widgets of a window or of a page of it.
+struct Complaints {
+    QStringList all;
+
+    void expect(bool isFine, const char* fault, const QWidget& w) {
+        const QString name = w.objectName() + u" in "_s + w.window()->objectName();
+        if (!isFine)
+            all << QString::asprintf("%s: %s %s", fault, w.metaObject()->className(), qPrintable(name));
+    }
+    static QWidgetList visible(const QWidget& page) {
+        QWidgetList all = page.findChildren<QWidget*>(QRegularExpression(u"^(?!qt_)"_s));
+        all.removeIf([&](const QWidget* w) { return !w->isVisibleTo(&page); });
+        return all;
+    }
+
+    // Captions that share a letter, but for those where it is wanted.
+    void sharedLetters(const QStringList& captions) {
+        std::map<QString, QString> letters;
+        for (const QString& caption : captions) {
+            const QString letter = QKeySequence::mnemonic(caption).toString();
+            if (letter.isEmpty() || caption.startsWith("&Replace "_L1) || caption == "&Invoices"_L1) continue;
+            if (letters.contains(letter)) all << letters[letter] + u" and "_s + caption;
+            letters[letter] = caption;
+        }
+    }
+    // Without a name or a tip for somebody who has the keys or a screen reader only.
+    void unnamed(const QWidget& page) {
+        QStringList captions;
+        for (QWidget* w : visible(page)) {
+            const auto* label = qobject_cast<QLabel*>(w);
+            const bool isFree = label != nullptr && label->buddy() == nullptr;
+            const bool isPanel = w->parent()->objectName() == "SB1"_L1;
+            expect(!isFree || isPanel || !label->text().endsWith(u':'), "label of nothing", *w);
+            if (!isFree) captions << w->property("text").toString() << w->property("title").toString();
+            const bool isTool = w->inherits("QToolButton"), inBar = w->parent()->inherits("QToolBar");
+            expect(!inBar || !isTool || !w->toolTip().isEmpty(), "no tip", *w);
+            const bool hasKeys = w->focusPolicy() != Qt::NoFocus || w->inherits("QToolBar");
+            const QString name = QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name);
+            expect(!(inBar ? isTool : hasKeys) || !name.trimmed().isEmpty(), "no name", *w);
+        }
+        sharedLetters(captions);
+    }
+    // Over another widget, but for a pixel of rounding, beyond its frame, or cut.
+    void misplaced(const QWidget& page) {
+        for (const QWidget* w : visible(page)) {
+            const QWidget& parent = *w->parentWidget();
+            const QString name = parent.objectName();
+            const bool isScrolled = name == "qt_scrollarea_viewport"_L1 || name == "Picture1"_L1;
+            const bool isHeader = w->inherits("QHeaderView") || parent.inherits("QHeaderView");
+            expect(isScrolled || isHeader || parent.rect().contains(w->geometry()), "beyond its frame", *w);
+            for (const QWidget* other : visible(parent)) {
+                const QRect shared = other->geometry() & w->geometry();
+                const bool isBeside = other->parent() != &parent || other == w;
+                expect(isBeside || shared.width() < 2 || shared.height() < 2, "over another", *w);
+            }
+            const QSize least = w->minimumSizeHint().expandedTo({0, w->heightForWidth(w->width())});
+            const bool isFree = !isHeader && w->minimumHeight() < w->maximumHeight();
+            expect(!isFree || w->size().expandedTo(least) == w->size(), "cut", *w);
+            const auto* bar = qobject_cast<const QScrollBar*>(w);
+            expect(bar == nullptr || bar->objectName().isEmpty() || bar->maximum() > 1, "no use", *w);
+            const auto* tree = qobject_cast<const QTreeWidget*>(w);
+            const bool hasHeading = tree != nullptr && !tree->isHeaderHidden();
+            expect(!hasHeading || tree->headerItem()->text(0) != "1"_L1, "no heading", *w);
+        }
+    }
+    // By Tab, or without a sign of having the keys, which a list shows all round.
+    void unreached(const QWidget& dialog) {
+        std::set<const QWidget*> reached;
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab); // to show the keys begins with the first Tab
+        for (QWidget* w = dialog.focusWidget(); reached.insert(w).second; w = dialog.focusWidget()) {
+            expect(w->visibleRegion().boundingRect() == w->rect(), "hidden", *w);
+            const QImage with = w->grab().toImage();
+            QTest::keyClick(w, Qt::Key_Tab);
+            const QImage without = w->grab().toImage();
+            const bool isText = w->inherits("QTextEdit") || w->inherits("QPlainTextEdit");
+            const bool isOther = isText || w->inherits("QPushButton") || w->hasFocus();
+            expect(isOther || with != without, "no sign of the keys", *w);
+            const int x = with.width() - 1, y = with.height() - 1;
+            for (const QPoint at : {QPoint(x / 2, 0), QPoint(x / 2, y), QPoint(0, y / 2), QPoint(x, y / 2)})
+                expect(!w->inherits("QTreeWidget") || with.pixel(at) != without.pixel(at), "no frame", *w);
+        }
+        for (const QWidget* w : visible(dialog))
+            if (w->isEnabled() && (w->focusPolicy() & Qt::TabFocus) != 0 && w->focusProxy() == nullptr)
+                expect(reached.contains(w), "not reached", *w);
+    }
+};
+
+void play(const char* acts) {
+    for (const QString& act : QString::fromLatin1(acts).split(u"; "_s))
+        Journey::act(*QApplication::activeModalWidget(), act);
+}
+
+// Does the act as soon as the modal dialog is there, and closes it.
+void whenShown(const std::function<void(QDialog&)>& act) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [=] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || QApplication::activeWindow() != dialog) return;
+        timer->deleteLater();
+        act(*dialog);
+        if (dialog->isVisible()) dialog->close();
+    });
+    timer->start(10);
+}
+
+} // namespace
+
+// Every window to somebody without a mouse or without eyes, what the platform shows, and the program as it is
+// called.
+class Windows : public QObject {
+    Q_OBJECT
+
+private:
+    Folders folders_;
+
+private slots:
+    void initTestCase() { QApplication::setStyle(new gui::ProgramStyle); }
+    void init() { Folders::forgetSettings(); }
+
+    // Also where the texts are so large that dialogs have to scroll.
+    void everyDialog() {
+        Complaints complaints;
+        const QFont font = QApplication::font();
+        int shown = 0;
+        const auto look = [&](QDialog& dialog) {
+            complaints.unnamed(dialog);
+            complaints.misplaced(dialog);
+            complaints.unreached(dialog);
+            const int title = dialog.fontMetrics().horizontalAdvance(dialog.windowTitle());
+            complaints.expect(title > 0 && dialog.width() > title, "narrower than its title", dialog);
+            const int room = dialog.screen()->availableSize().height();
+            complaints.expect(dialog.height() <= room, "higher than the screen", dialog);
+            ++shown;
+            dialog.close();
+        };
+        for (const char* file : {"books.fwk", "invoices.fwk"}) {
+            QApplication::setFont(QFont(font.family(), *file == 'b' ? 11 : font.pointSize()));
+            Session run(folders_.sample(file));
+            run.platform.anyForm = look;
+            for (const char* form :
+                 {"disclaimFrm", "databaseTypeFrm", "designFrm", "entryFrm", "formulateFrm", "TotalsFrm",
+                  "mailFrm", "reportPageSetup", "layoutPageSetupFrm", "replaceFrm", "searchFrm", "serialFrm",
+                  "repeatFrm"})
+                run.platform.showForm(form);
+        }
+        gui::QtPlatform platform;
+        whenShown(look);
+        platform.msgBox("Save?", platform::Icon::Question, "Title", platform::Buttons::YesNo);
+        whenShown(look);
+        platform.inputBox("How many?", "Copies", "1");
+        whenShown(look);
+        platform.showFont({"Arial", 8});
+        QTextStream(stderr) << complaints.all.join(u'\n');
+        QVERIFY(complaints.all.empty());
+        QCOMPARE(shown, 29);
+    }
+
+    void theMainWindow() {
+        Complaints complaints;
+        const QPalette before = QApplication::palette();
+        for (const char* file : {"books.fwk", "invoices.fwk", ""}) {
+            Session run(*file == 0 ? QString() : folders_.sample(file));
+            for (const char* command : {"Totals", "Design"}) {
+                for (const int tab : {1, 2, 0}) {
+                    run.showTab(tab);
+                    complaints.unnamed(run.window);
+                }
+                complaints.misplaced(*run.find<QTabWidget>("SSTab1")->currentWidget());
+                run.action(command)->trigger();
+            }
+            for (const QMenu* menu : run.window.menuBar()->findChildren<QMenu*>()) {
+                QStringList captions;
+                for (const QAction* item : menu->actions()) captions << item->text();
+                complaints.sharedLetters(captions);
+            }
+            for (const QAction* action : run.window.findChildren<QAction*>()) {
+                const std::string key = gui::fromQt(action->objectName());
+                if (!shell::hasCommand(key) || shell::command(key).icon.empty()) continue;
+                const QImage light = action->icon().pixmap(QSize(24, 24)).toImage();
+                gui::useDarkColours();
+                const QImage dark = action->icon().pixmap(QSize(24, 24)).toImage();
+                if (light == dark) complaints.all << action->objectName() + u" is not seen"_s;
+                QApplication::setPalette(before);
+            }
+        }
+        QTextStream(stderr) << complaints.all.join(u'\n');
+        QVERIFY(complaints.all.empty());
+    }
+
+    // A question that is waved away is not answered; the hourglass rests as long as it is asked.
+    void questions() {
+        using platform::MousePointer;
+        const std::pair<const char*, int> ways[] = {
+            {"press Space", 1}, {"press Tab; press Space", 2}, {"press Escape", 3}, {"press Tab", 3}};
+        for (const auto& [acts, wanted] : ways) { // Yes, No, and Cancel twice
+            gui::QtPlatform platform;
+            for (int i = 0; i < 2; ++i) platform.setMousePointer(MousePointer::Hourglass);
+            whenShown([acts = acts](QDialog& box) {
+                QVERIFY(QApplication::overrideCursor() == nullptr);
+                QCOMPARE(static_cast<QMessageBox&>(box).textFormat(), Qt::PlainText);
+                play(acts);
+            });
+            const auto answer = platform.msgBox("?", platform::Icon::None, "", platform::Buttons::YesNo);
+            QCOMPARE(static_cast<int>(answer), wanted);
+            QVERIFY(QApplication::overrideCursor() != nullptr);
+            platform.setMousePointer(MousePointer::Default);
+            QVERIFY(QApplication::overrideCursor() == nullptr);
+        }
+    }
+
+    // A font that is not installed, and a size that is in no list, stay unless another is chosen.
+    void fonts() {
+        QString told;
+        for (const char* acts :
+             {"press Return", "press Tab 8; press Return", "press Escape", "type liberation se; press Return",
+              "press Tab; type x; press Return; press Backspace; type 0; press Return; press Backspace; "
+              "type 1601; press Return; press Shift+Home; type 9,75; press Tab 2; press Space; press Tab; "
+              "press Space; press Tab; press Space; press Tab; press Space; press Return"}) {
+            gui::QtPlatform platform;
+            whenShown([acts](QDialog&) { play(acts); });
+            const auto font = platform.showFont({"MS Sans Serif", 8.25F, true, false, false, true, -5});
+            if (!font) continue;
+            told += QString::asprintf("%s %g %d%d%d%d %d|", font->FontName.c_str(), double(font->FontSize),
+                                      font->FontBold, font->FontItalic, font->FontUnderline,
+                                      font->FontStrikethru, font->ForeColor);
+        }
+        QCOMPARE(told, u"MS Sans Serif 8.25 1001 -5|MS Sans Serif 8.25 1001 -5|"
+                       "Liberation Serif 8.25 1001 -5|MS Sans Serif 9.75 0110 -5|"_s);
+    }
+
+    // An existing name is not asked about here, and one without a suffix gets it.
+    void files() {
+        QCOMPARE(gui::nameFilters("Pictures (*.bmp;*.gif)|*.bmp;*.gif|All Files (*.*)|*.*").join(u'|'),
+                 u"Pictures (*.bmp *.gif)|All Files (*)"_s);
+        folders_.sample("books.fwk");
+        QStringList chosen;
+        for (const char* name : {"books.fwk", "data", "data.", "data.FWK", "data.txt", ""}) {
+            whenShown([&](QDialog& dialog) {
+                // As typed: a selection would have to wait for the folder to be listed.
+                dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(folders_.path(name));
+                if (*name != 0) QMetaObject::invokeMethod(&dialog, "accept");
+            });
+            gui::QtPlatform platform;
+            const auto path = platform.showSave({"", "Untitled", std::string(platform::databaseFilter)});
+            chosen << QFileInfo(gui::toQt(path.value_or("none"))).fileName();
+        }
+        QCOMPARE(chosen.join(u' '), u"books.fwk data.fwk data.fwk data.FWK data.txt none"_s);
+    }
+
+    // A program in place of the system's writes down what it was given, and does the rest.
+    void theMailProgram() {
+        const QByteArray path = qgetenv("PATH"), folder = QFile::encodeName(folders_.path(""));
+        qputenv("PATH", folder + ':' + path);
+        int failed = 0;
+        const auto send = [&](const char* rest, const char* body) {
+            QFile script(folders_.path("xdg-email")), told(folders_.path("told"));
+            told.remove();
+            script.open(QFile::WriteOnly);
+            script.write("#!/bin/sh\ncd ${0%/*}; printf '%s|' \"$@\" > part; mv part told; ");
+            script.write(rest);
+            script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            script.close();
+            gui::startMailProgram({"a@b.org", "\"$(id)", body, "/b.fwk"}, this, [&] { ++failed; });
+            return QTest::qWaitFor([&] { return told.open(QFile::ReadOnly); }) ? told.readAll() : "";
+        };
+        QCOMPARE(send("", "1\n2"), "--utf8|--subject|\"$(id)|--body|1\n2|--attach|/b.fwk|a@b.org|");
+        QVERIFY(send("", "C:\\new").endsWith("Body=C%3A%5Cnew|")); // its shell would take it for a command
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(send("exec sleep 9", "").contains("attach") && clock.elapsed() < 8000); // nobody waits
+        QCOMPARE(failed, 0);
+        send("exit 3", "");
+        send("kill -9 $$", "");
+        QTRY_COMPARE(failed, 2);
+        qputenv("PATH", path);
+    }
+
+    void theProgramAsItIsCalled() {
+        folders_.sample("books.fwk");
+        const auto codeOf = [&](const char* arguments) {
+            QProcess program;
+            program.setWorkingDirectory(folders_.path(""));
+            program.start(QStringLiteral(FERROWICK_PROGRAM), QString::fromLatin1(arguments).split(u' '));
+            return program.waitForFinished() ? program.exitCode() : -1;
+        };
+        for (const char* fine :
+             {"--help", "--version", "--picture light --size=640x400 --scale=2 a/../books.fwk",
+              "--picture dark --size=640x400 --dark \"books.fwk\""})
+            QVERIFY2(codeOf(fine) == 0, fine);
+        for (const char* wrong : {"--nonsense", "a b", "--picture p --size=100x300 books.fwk",
+                                  "--picture p --size=300by300 books.fwk", "--picture p --scale=0 books.fwk"})
+            QVERIFY2(codeOf(wrong) == 2, wrong);
+        QVERIFY(codeOf("--picture p absent.fwk") == 1 && codeOf("--picture no/p books.fwk") == 1);
+        const QImage light(folders_.path("light")), dark(folders_.path("dark"));
+        QVERIFY(light.size() == QSize(1280, 800) && dark.size() == QSize(640, 400));
+        QVERIFY(light.pixelColor(2, 796).lightness() > dark.pixelColor(1, 398).lightness() + 100);
+        // The user's settings know nothing of it.
+        QVERIFY(platform::SettingsFile().GetSetting("StartUp", "File1").empty());
+    }
+};
+
+QTEST_MAIN(Windows)
+#include "windows.moc"

@@ -1,0 +1,285 @@
+#include "shell/mainWindow.h"
+
+#include "calc/columns.h"
+#include "programTest.h"
+#include "search/searchEngine.h"
+#include "search/searchMode.h"
+#include "shell/listEvents.h"
+#include "table.h"
+
+#include <set>
+
+namespace {
+
+using core::RecordsList;
+using platform::Answer;
+
+struct MainWindow : testing::Test, Program {
+    core::Document& document = app.document;
+    app::MainFrm& mainFrm = app.mainFrm;
+    RecordsList &LV = document.LV, &iLV = document.iLV, &results = document.searchLV;
+
+    // The commands that toolbar and menus offer and that this holds for, "Save Print ".
+    static std::string those(const std::function<bool(std::string_view)>& test) {
+        std::string all;
+        const auto append = [&](const auto& keys) {
+            for (const std::string_view key : keys)
+                if (key != "-" && test(key)) all.append(key) += ' ';
+        };
+        append(shell::toolbarKeys());
+        for (const char* button : {"New", "Save", "Print"}) append(shell::buttonMenuKeys(button));
+        for (const shell::Menu& menu : shell::menuBar()) append(menu.items);
+        return all;
+    }
+    // What has come up since the last look.
+    std::string broughtUp() {
+        std::string all = dialogs();
+        all.erase(std::min(all.find('/'), all.size()));
+        for (const std::string& form : std::exchange(platform.forms, {})) all += form;
+        return all + told();
+    }
+    std::string shown(const std::string& key) {
+        run(key.c_str());
+        return broughtUp();
+    }
+    // The tab and what is printed from it; the buttons that are off and pressed; the frame of the invoices,
+    // the list on view, the one that commands work on, and whether many can be selected in the records; the
+    // current record and how many there are; what has come up.
+    std::string state() {
+        std::string all = std::to_string(mainFrm.SSTab1) + std::to_string(mainFrm.iPrintMode) + " ";
+        for (const char* key : {"Totals", "Properties", "Delete", "Formulas"})
+            if (!mainFrm.control(key).Enabled) all += key[0];
+        for (const char* key : {"Totals", "Search", "Design"})
+            if (mainFrm.control(key).Value) all += static_cast<char>(key[0] + 32);
+        all += (mainFrm.invoiceFrameVisible ? " f " : " ") + shell::visibleList(app).Name + "/" +
+               mainFrm.theListView->Name + (LV.MultiSelect ? "+ " : " ");
+        const core::Item* record = LV.selectedItem();
+        return all + (record == nullptr ? "none" : record->Key.str()) + "/" + std::to_string(LV.count()) +
+               " " + broughtUp();
+    }
+    // Acts and the state after each: "open books", "tab 1", "row 2" of the list on view, "find KEY", "view
+    // 0", "double" for a click, or a command.
+    void play(std::string_view acts) {
+        for (const auto& c : table(acts)) {
+            const std::string what = c[0].substr(0, c[0].find(' ')), which = c[0].substr(c[0].rfind(' ') + 1);
+            RecordsList& list = shell::visibleList(app);
+            if (what == "open") openCopyOf(which + ".fwk");
+            if (what == "tab") shell::SSTab1_Click(app, std::stoi(which));
+            if (what == "row") list.setSelectedItem(&list.at(std::stoi(which)));
+            if (what == "find") find(which);
+            if (what == "view") shell::viewOpt_Click(app, std::stoi(which));
+            if (what == "double") shell::list_DblClick(app, list);
+            platform.answers = {Answer::Yes};
+            if (shell::hasCommand(what)) run(what.c_str());
+            EXPECT_EQ(state(), c[1]) << c[0];
+        }
+    }
+    // Results on view, as a search leaves them: one record, or none.
+    void find(const std::string& key) {
+        search::takeOverColumns(app);
+        core::addTotalsRow(results);
+        if (LV.find(key) != nullptr) results.add(key, key).Tag = key;
+        core::moveTotals(results);
+        results.Visible = mainFrm.control("Search").Value = true;
+        mainFrm.theListView = &results;
+    }
+};
+
+TEST_F(MainWindow, CommandsAreEnabledByWhatIsOpen) {
+    // In one menu no two items answer to the same letter, or one of them cannot be reached by it.
+    for (const shell::Menu& menu : shell::menuBar()) {
+        std::set<int> letters;
+        for (const std::string_view key : menu.items) {
+            const std::string_view caption = key == "-" ? key : shell::command(key).caption;
+            const std::size_t mark = caption.find('&');
+            EXPECT_TRUE(mark == caption.npos || letters.insert(std::tolower(caption[mark + 1])).second)
+                << key;
+        }
+    }
+    const auto checkable = [](std::string_view key) { return shell::command(key).checkable; };
+    EXPECT_EQ(those(checkable), "Search Totals Design Design mnuConfirmDelete mnuSavePrompt mnuCalcHighlight "
+                                "mnuLayoutDoubleClick mnuAutoLoad ");
+    const auto enabled = [&](std::string_view key) { return shell::isCommandEnabled(app, key); };
+    const std::string prints = "All_As_Layouts Selected_As_Layouts ";
+    const std::string many = "Print_All_As_Multiple_Layouts Print_Selected_Multiple_Layouts "
+                             "Multiple_Layout_Preview_All Multiple_Layout_Preview_Selected ";
+    app::enableControls(app, false);
+    EXPECT_EQ(those(enabled),
+              "New Open Help SaveSearch All_As_Report Selected_As_Report " + prints + many +
+                  "mnuNew mnuOpen mnuSaveSearch mnuFile1 mnuFile2 mnuFile3 mnuExit mnuContents "
+                  "mnuDisclaimer mnuWebpage mnuAbout ");
+    for (const char* key : {"Save", "mnuDatabaseProperties", "mnuConfirmDelete"}) EXPECT_EQ(shown(key), "");
+    EXPECT_TRUE(mainFrm.bConfirmDelete && !mainFrm.SSTab1Enabled);
+    openCopyOf("books.fwk");
+    EXPECT_EQ(those(std::not_fn(enabled)) + mainFrm.Caption, "Ferrowick - " + document.currentFile);
+    openCopyOf("invoices.fwk");
+    EXPECT_EQ(those(std::not_fn(enabled)), many + "mnuDuplicate ");
+    shell::viewOpt_Click(app, 0);
+    EXPECT_EQ(those(std::not_fn(enabled)), "Delete " + prints + many + "mnuDuplicate ");
+    app::enableControls(app, false);
+    EXPECT_EQ(mainFrm.Caption, "Ferrowick");
+}
+
+TEST_F(MainWindow, CommandsReachTheRoutineBehindThem) {
+    openCopyOf("books.fwk");
+    document.lockPassword = "x"; // stops the buttons and not the menu item
+    for (const char* button : {"Properties", "Design"})
+        EXPECT_EQ(shown(button),
+                  "i The database structure and layout have been locked.  Use the Options menu to unlock.");
+    EXPECT_FALSE(mainFrm.control("Design").Value);
+    EXPECT_EQ(shown("mnuDatabaseProperties"), "designFrm");
+    document.lockPassword.clear();
+    for (const auto& c :
+         table("New -> databaseTypeFrm; mnuNew -> databaseTypeFrm; Formulas -> formulateFrm; "
+               "mnuExpressionEditor -> formulateFrm; Properties -> designFrm; mnuEmail -> mailFrm; "
+               "mnuTotalColumns -> TotalsFrm; mnuSerialAdjust -> serialFrm; Open -> Open Database; "
+               "mnuDisclaimer -> disclaimFrm; mnuOpen -> Open Database; mnuSaveAs -> Save As...; "
+               "mnuClone -> Clone current file to...; mnuReplace -> replaceFrm; Save -> ; mnuSave -> ; "
+               "mnuSearch -> searchFrm; PageSetup -> reportPageSetup; mnuPageSetup -> reportPageSetup")) {
+        app::setDocumentModified(app, true);
+        EXPECT_EQ(shown(c[0]), c[1]) << c[0];
+        EXPECT_EQ(document.bModified, !c[1].empty()) << c[0];
+    }
+    for (const auto& c : table("Help -> index; mnuContents -> index; mnuWebpage -> about"))
+        EXPECT_TRUE(shown(c[0]) == "i The help pages are not installed." ||
+                    platform.links.back().ends_with("/help/" + c[1] + ".html"));
+    EXPECT_TRUE(shown("mnuAbout").starts_with("i About Ferrowick: Ferrowick\nVersion "));
+    const auto color = [&] { return document.layout.layoutField.find(7)->BackColor; }; // one calculated
+    const auto plain = color();
+    for (const std::string key : {"Design", "mnuCalcHighlight", "mnuConfirmDelete", "mnuSavePrompt",
+                                  "mnuLayoutDoubleClick", "mnuAutoLoad"}) {
+        app::setDocumentModified(app, false);
+        run(key.c_str());
+        const bool isOn = mainFrm.control(key).Value;
+        EXPECT_TRUE((color() == plain) == (key != "mnuCalcHighlight") &&
+                    document.bModified == (key == "Design"));
+        EXPECT_EQ(mainFrm.layoutPage.layoutToolbarInFront, key == "Design");
+        run(key.c_str());
+        EXPECT_EQ(mainFrm.control(key).Value, !isOn) << key;
+    }
+    EXPECT_EQ(mainFrm.SSTab1, app::layoutTab); // brought by the design
+    EXPECT_TRUE(platform.settings.empty()) << "kept at the end of the program";
+    run("mnuExit");
+    EXPECT_TRUE(mainFrm.unloaded);
+}
+
+// Buttons go off with the results and the tabs, the items of the Tools menu do not.
+TEST_F(MainWindow, ToolsWorkOverSearchResultsAndFromEveryTab) {
+    open(DataFile("A:4 B:5", "1|1;2|1").section("Totaled Cols", "B|"));
+    platform.onForm = [&](std::string_view form) {
+        if (form == "searchFrm") return search::findRecords(app, {{{"A", 0, "2", ""}, {}, {}}});
+        EXPECT_EQ(results.Visible, form != "designFrm"); // copies under the columns of their time
+        if (form == "designFrm") calc::addColumn(document, "C" + std::to_string(mainFrm.SSTab1), "3");
+        LV.at(2).cells[1] = "20";
+    };
+    play("Search -> 01 DFs searchLV/searchLV+ i1/3 searchFrm; tab 1 -> "
+         "12 TPDFs searchLV/searchLV+ i1/3 ; mnuSelectedTotals -> 12 TPDFts searchLV/searchLV+ i1/3 ; "
+         "mnuExpressionEditor -> 12 TPDFts searchLV/searchLV+ i1/3 formulateFrm");
+    EXPECT_EQ(results.at(1).cells[1], "20");
+    play("tab 0 -> 01 DFts searchLV/searchLV+ i1/3 ; mnuDatabaseProperties -> "
+         "01 t LV/LV+ i1/3 designFrm; Search -> 01 DFts searchLV/searchLV+ i1/3 searchFrm; "
+         "tab 1 -> 12 TPDFts searchLV/searchLV+ i1/3 ; mnuSelectedTotals -> "
+         "12 TPDFs searchLV/searchLV+ i1/3 ; mnuDatabaseProperties -> 12 TPD LV/LV+ i1/3 designFrm");
+    EXPECT_FALSE(document.LV3.Visible);
+    EXPECT_EQ(mainFrm.layoutPage.fieldMenu, (std::vector<std::string>{"A", "B", "C0", "C1"}));
+}
+
+TEST_F(MainWindow, TabsListsAndViews) {
+    mainFrm.bConfirmDelete = false;
+    play("open books -> 01  LV/LV+ i1/43 ; row 3 -> 01  LV/LV+ i3/43 ; tab 1 -> 12 TPD LV/LV i3/43 ; "
+         "Delete -> 12 TPD LV/LV i3/43 ; tab 2 -> "
+         "22 TPD LV/LV i3/43 i Printer Not Installed: You need to first install a printer on this system.; "
+         "Delete -> 22 TPD LV/LV i3/43 ; tab 0 -> 01  LV/LV+ i3/43 ; "
+         "double -> 01  LV/LV+ i3/43 entryFrm; Delete -> 01  LV/LV+ i4/42 ; "
+         "find i5 -> 01 s searchLV/searchLV+ i4/42 ; Delete -> 01 s searchLV/searchLV+ i4/42 ; "
+         "double -> 12 TPDs searchLV/searchLV+ i4/42 ; tab 0 -> 01 Ds searchLV/searchLV+ i4/42 ; "
+         "find none -> 01 Ds searchLV/searchLV+ i4/42 ; double -> 01 Ds searchLV/searchLV+ i4/42 ; "
+         "Search -> 01  LV/LV+ i4/42 ");
+    mainFrm.control("mnuLayoutDoubleClick").Enabled = false; // not whether it is checked
+    play("find i5 -> 01 s searchLV/searchLV+ i4/42 ; double -> 01 s searchLV/searchLV+ i4/42 entryFrm");
+    play("open invoices -> 01  f iLV/LV+ i1/5 ; row 3 -> 01  f iLV/LV+ i1/5 ; "
+         "tab 1 -> 12 TPD iLV/LV i3/5 ; tab 0 -> 01  f iLV/LV+ i3/5 ; view 0 -> 01 D f iLV/LV+ i3/5 ; "
+         "Delete -> 01 D f iLV/LV+ i3/5 ; double -> 12 TPD iLV/LV i4/5 ; "
+         "tab 0 -> 01  f iLV/LV+ i4/5 ; find i1 -> 01 s f searchLV/searchLV+ i4/5 ; "
+         "view 1 -> 01  f iLV/LV+ i4/5 ; Delete -> 01  f iLV/LV+ i3/4 ; "
+         "find none -> 01 s f searchLV/searchLV+ i3/4 ; tab 1 -> 01 Ds f searchLV/searchLV+ i3/4 ; "
+         "double -> 01 Ds f searchLV/searchLV+ i3/4 ; find i1 -> 01 Ds f searchLV/searchLV+ i3/4 ; "
+         "tab 1 -> 12 TPDs searchLV/searchLV+ i1/4 ; tab 0 -> 01 Ds f searchLV/searchLV+ i1/4 ; "
+         "find i2 -> 01 Ds f searchLV/searchLV+ i1/4 ; double -> 12 TPDs searchLV/searchLV i2/4 ");
+}
+
+TEST_F(MainWindow, AHeaderClickSortsAndTogglesAcrossColumns) {
+    open(DataFile("Name Qty:4 Price:2", "b|2|$1.00;a|10|$2.00;c|1|$.50"));
+    LV.totals()->cells[1] = "13";
+    const std::string cab = "c|1|$.50|;b|2|$1.00|;a|10|$2.00|;------|13|------|;";
+    const std::string abc = "a|10|$2.00|;b|2|$1.00|;c|1|$.50|;------|13|------|;";
+    // The first sort goes downwards and the next upwards, whatever its column.
+    for (const auto& [column, expected] : {std::pair(2, cab), {3, cab}, {3, abc}, {4, cab}}) {
+        shell::list_ColumnClick(app, LV, column);
+        EXPECT_EQ(cells(), expected) << column;
+        EXPECT_TRUE(LV.MultiSelect && mainFrm.listScroll == app::ListScroll::Stay);
+    }
+    EXPECT_FALSE(document.bModified) << "an order is no change";
+    shell::SSTab1_Click(app, app::layoutTab);
+    open(document.currentFile);
+    shell::SSTab1_Click(app, app::layoutTab);
+    shell::list_ColumnClick(app, LV, 2); // another database goes on toggling
+    EXPECT_EQ(mainFrm.layoutPage.shownKey, "i2") << "the last one is the current one now";
+    open(DataFile("Name", ""));
+    shell::list_ColumnClick(app, LV, 2);
+    EXPECT_FALSE(LV.Sorted || LV.SortOrder == 0) << "with one item nothing is sorted";
+    // The first column of the invoice list names the records shown, so a sort must leave it alone.
+    openCopyOf("invoices.fwk");
+    for (const std::string expected : {"i44 i33 i22 i11 ", "i11 i22 i33 i44 "}) {
+        shell::list_ColumnClick(app, iLV, iLV.columns["Day"].Index);
+        std::string shown;
+        for (int row = 1; row < 5; ++row) shown += iLV.at(row).Text.str() + iLV.at(row).cells[0].str() + " ";
+        EXPECT_EQ(shown, expected);
+    }
+}
+
+TEST_F(MainWindow, DoubleClicks) {
+    // Columns, whether the option goes to the layout, and whether these are invoices.
+    for (const auto& c :
+         table("A:1 -> entryFrm; A:2 -> entryFrm; A:5 B:3 -> entryFrm; A:4 -> entryFrm; A:5 B:7 -> ; "
+               " -> i Your database has no columns, please add some in the database properties dialog.; "
+               " -> layout -> option; A:3 -> layout -> option; A:3 -> layout -> True",
+               3)) {
+        mainFrm.bLayoutDblClick = c[2] == "option";
+        open(DataFile(c[0], "a").section("DatabaseStyle", c[2] == "True" ? "True" : "False"));
+        LV.MultiSelect = false;
+        shell::list_DblClick(app, LV);
+        EXPECT_EQ(mainFrm.SSTab1 == app::layoutTab ? "layout" : broughtUp(), c[1]) << c[0] << c[2];
+        EXPECT_EQ(LV.MultiSelect, c[1] != "layout");
+    }
+    for (const int key : {16, 17}) { // Shift, and Ctrl
+        shell::list_KeyDown(app, key);
+        EXPECT_EQ(mainFrm.bCtrlDown, key == 17);
+    }
+    shell::list_KeyUp(app);
+    EXPECT_FALSE(mainFrm.bCtrlDown);
+}
+
+// Each view of the invoices keeps its columns' places and what is printed.
+TEST_F(MainWindow, TheViewsOfAnInvoiceDatabase) {
+    openCopyOf("invoices.fwk");
+    document.prnItemCols.add("Item", "Item");
+    iLV.columns.setPosition(4, 2);
+    const std::vector<int> moved = iLV.columns.displayOrder();
+    for (const int view : {0, 1}) {
+        shell::viewOpt_Click(app, view);
+        EXPECT_TRUE(mainFrm.viewOpt == view && document.bInvoiceView == (view == 0));
+        EXPECT_EQ(iLV.columns.displayOrder() == moved, view == 1);
+        EXPECT_EQ(text(document.printedCols), view == 0 ? "Item|" : "");
+    }
+}
+
+TEST_F(MainWindow, FileSizesAreCutNotRounded) {
+    for (const auto& c :
+         table("999 -> 999 bytes.; 1000 -> 1 KB; 9999 -> 9 KB; 10000 -> 10 KB; 99999 -> 99 KB; "
+               "100000 -> 100 KB; 999999 -> 999 KB; 1000000 -> 1 MB; 9999999 -> 9 MB; 10000000 -> 10 MB; "
+               "4294967296 -> 42 MB"))
+        EXPECT_EQ(app::fileSizeText(std::stoull(c[0])), c[1]);
+}
+
+} // namespace
