@@ -90,12 +90,15 @@ void newRecord(App& app) {
     app.mainFrm.layoutPage.layoutPic2.Visible = true;
 }
 
-// The record that is meant by a button. A sheet of a new record has none yet, though there is a current one:
-// the button would change or delete what nobody sees.
+// The record that is meant by a button, or nothing after a message. A sheet of a new record has none yet,
+// though there is a current one: the button would change or delete what nobody sees.
 Item* recordMeant(App& app) {
+    Item* record = recordOnSheet(app);
     if (isSheetNew(app))
         app::inform(app, "This record is new.  To store it please click on the Add toolbar button.");
-    return recordOnSheet(app);
+    else if (record == nullptr)
+        app::inform(app, "There is no record on the page.");
+    return record;
 }
 
 // A damaged file can have objects of a column that is not there.

@@ -3,6 +3,7 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
+#include "entry/navBar.h"
 #include "search/searchEngine.h"
 
 #include <algorithm>
@@ -38,8 +39,11 @@ bool isTheSame(const core::ColumnHeaders& columns, const Item& result, const Ite
 void openDialog(App& app) {
     app.mainFrm.control("Delete").Enabled = false;
     calc::RefreshSelectedTotals(app);
+    // The record of a sheet that is new is none of the results.
+    const bool bResultsGone = app.document.searchLV.Visible && !entry::isSheetNew(app);
     takeOverColumns(app);
     app.platform.showForm("searchFrm");
+    if (bResultsGone) app.changes.announce(app, app::Change::CurrentRecord);
 }
 
 void leaveResults(App& app) {

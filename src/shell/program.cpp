@@ -13,7 +13,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Modified}, app::showModified);
     changes.follow({Change::Values, Change::CurrentRecord}, entry::refreshShownRecord);
     changes.follow({Change::Columns, Change::Values}, invoice::rebuildView);
-    changes.follow({Change::Page}, entry::showRecord);
+    changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Preview}, [](App& app) { SSTab1_Click(app, app::previewTab); });
 }
 

@@ -90,7 +90,7 @@ public:
             core::CellText& cell = record.subItem(1);
             if (isOnSheet)
                 cell = onSheet("No");
-            else if (app_.document.bInvoiceStyle || isTwice(cell.str()))
+            else if (app_.document.bInvoiceStyle || cell == "0" || isTwice(cell.str()))
                 cell = std::to_string(1000 + ++given_);
         });
     }

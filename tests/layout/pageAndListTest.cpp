@@ -1,0 +1,20 @@
+#include "entry/navBar.h"
+#include "search/searchEngine.h"
+#include "search/searchMode.h"
+#include "sheetFixture.h"
+
+TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
+    open("F|Sum|0|0|9|9|False|False|False|Arial|8|0|\r\nF|Sum|0|0|9|9|True|False|False|Arial|8|0|\r\n"
+         "L|Hi|0|0|9|9|False|False|False|Arial|8|0||0|\r\nP|Photo|0|0|9|9|\r\n",
+         "[Formulas      ]Sum,Qty * Price|\r\n");
+    const auto find = [&](auto qty) { search::findRecords(app, {{{"Qty", search::exact, qty, ""}}}); };
+    search::takeOverColumns(app);
+    shell::SSTab1_Click(app, app::reportTab);
+    find("99");
+    shell::SSTab1_Click(app, app::layoutTab);
+    entry::layoutNavBar_ButtonClick(app, "Update");
+    EXPECT_EQ(objects.layoutField[1].Text + program.told(), "i There is no record on the page.");
+    find("7");
+    search::mnuSearch_Click(app); // and closed again
+    EXPECT_EQ(objects.layoutField[1].Text, "");
+}
