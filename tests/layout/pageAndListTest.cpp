@@ -17,4 +17,11 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     find("7");
     search::mnuSearch_Click(app); // and closed again
     EXPECT_EQ(objects.layoutField[1].Text, "");
+
+    program.openCopyOf("invoices.fwk");
+    app.document.bInvoiceStyle = false; // a new database that was cancelled half-way
+    app.document.iLV.setSelectedItem(&app.document.iLV.at(2));
+    platform.answers = {platform::Answer::Yes};
+    program.run("Delete");
+    EXPECT_TRUE(app.document.LV.find("i2") == nullptr && app.document.iLV.findText("i2") == nullptr);
 }
