@@ -89,6 +89,7 @@ void takeOverColumns(App& app) {
 // counted, not those of the list on show. It is wanted so.
 void showAllRecords(App& app) {
     app.document.searchLV.Visible = false;
+    calc::RefreshSelectedTotals(app); // the sums were those of a result
     app.mainFrm.theListView = &app.document.LV;
     app.mainFrm.listScroll = app::ListScroll::ToCurrent;
     app::allowManySelected(app); // the layout page may have taken it from the records in the meantime

@@ -17,6 +17,9 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     find("7");
     search::mnuSearch_Click(app); // and closed again
     EXPECT_EQ(objects.layoutField[1].Text, "");
+    find("7");
+    program.run("Search");
+    EXPECT_EQ(program.cells(app.document.LV3), "|;|;|;") << "the sums of a result";
     app.document.LV.at(1).cells[4] = "Undefined";
     app.changes.announce(app, app::Change::Columns);
     EXPECT_EQ(objects.layoutField[1].Text, "Undefined");
