@@ -1,4 +1,5 @@
 #include "entry/navBar.h"
+#include "layout/images.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"
 #include "sheetFixture.h"
@@ -7,6 +8,12 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     open("F|Sum|0|0|9|9|False|False|False|Arial|8|0|\r\nF|Sum|0|0|9|9|True|False|False|Arial|8|0|\r\n"
          "L|Hi|0|0|9|9|False|False|False|Arial|8|0||0|\r\nP|Photo|0|0|9|9|\r\n",
          "[Formulas      ]Sum,Qty * Price|\r\n");
+    layout::select(app, {Family::imgHolder, 1});
+    platform.clipboardPicture = "damaged";
+    layout::mnuImportImage_Click(app);
+    EXPECT_EQ(program.told() + objects.imgHolder[1].ToolTipText,
+              "! The picture in the clipboard cannot be read.bolt.jpg");
+
     const auto find = [&](auto qty) { search::findRecords(app, {{{"Qty", search::exact, qty, ""}}}); };
     search::takeOverColumns(app);
     shell::SSTab1_Click(app, app::reportTab);
