@@ -31,6 +31,7 @@ void selectItem(App& app, Item& item) {
     app.mainFrm.theListView->MultiSelect =
         false; // the sheet shows one record, and Delete takes the selected ones
     app.mainFrm.theListView->setSelectedItem(&item);
+    app.mainFrm.listScroll = app::ListScroll::ToCurrent; // it was chosen here, while the list is out of sight
     if (document.bInvoiceStyle && document.searchLV.Visible)
         if (Item* record = document.LV.find(item.Text)) document.LV.setSelectedItem(record);
 }

@@ -22,6 +22,8 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     entry::layoutNavBar_ButtonClick(app, "Update");
     EXPECT_EQ(objects.layoutField[1].Text + program.told(), "i There is no record on the page.");
     find("7");
+    entry::layoutNavBar_ButtonClick(app, "First");
+    EXPECT_EQ(app.mainFrm.listScroll, app::ListScroll::ToCurrent);
     search::mnuSearch_Click(app); // and closed again
     EXPECT_EQ(objects.layoutField[1].Text, "");
     find("7");
