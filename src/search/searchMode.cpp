@@ -46,21 +46,20 @@ void openDialog(App& app) {
     if (bResultsGone) app.changes.announce(app, app::Change::CurrentRecord);
 }
 
+} // namespace
+
 void leaveResults(App& app) {
-    app.mainFrm.control("Delete").Enabled = true;
+    app.mainFrm.control("Search").Value = false;
+    app.mainFrm.control("Delete").Enabled = app.mainFrm.SSTab1 == app::reportTab;
     showAllRecords(app);
 }
 
-} // namespace
-
 void Search_ButtonClick(App& app) {
     if (!hasColumns(app)) return;
-    app::Control& button = app.mainFrm.control("Search");
-    button.Value = !button.Value;
-    if (button.Value)
-        openDialog(app);
-    else
+    if (app.mainFrm.control("Search").Value)
         leaveResults(app);
+    else
+        mnuSearch_Click(app);
 }
 
 void mnuSearch_Click(App& app) {

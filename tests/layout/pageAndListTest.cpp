@@ -29,6 +29,7 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     find("7");
     program.run("Search");
     EXPECT_EQ(program.cells(app.document.LV3), "|;|;|;") << "the sums of a result";
+    EXPECT_FALSE(app.mainFrm.control("Delete").Enabled) << "on the page";
     app.document.LV.at(1).cells[4] = "Undefined";
     app.changes.announce(app, app::Change::Columns);
     EXPECT_EQ(objects.layoutField[1].Text, "Undefined");
