@@ -8,6 +8,9 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     open("F|Sum|0|0|9|9|False|False|False|Arial|8|0|\r\nF|Sum|0|0|9|9|True|False|False|Arial|8|0|\r\n"
          "L|Hi|0|0|9|9|False|False|False|Arial|8|0||0|\r\nP|Photo|0|0|9|9|\r\n",
          "[Formulas      ]Sum,Qty * Price|\r\n");
+    platform.fonts = {{"Arial", 8, false, false, false, false, 255}};
+    layout::setObjectFont(app);
+    EXPECT_TRUE(objects.layoutField[2].FontBold && objects.layoutField[2].ForeColor == 255);
     layout::select(app, {Family::imgHolder, 1});
     platform.clipboardPicture = "damaged";
     layout::mnuImportImage_Click(app);
