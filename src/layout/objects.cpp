@@ -148,8 +148,6 @@ void addLabel(App& app, bool bAutoName) {
     core::LayoutObjects& layout = app.document.layout;
     core::Label& label = add(app, layout.tLabel);
     const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
-    if (selected.family == Family::tLabel)
-        if (core::Label* old = layout.tLabel.find(selected.Index)) old->BackColor = core::white;
     const bool isBound = selected.family == Family::layoutField || selected.family == Family::imgHolder;
     const LayoutObject* bound = isBound ? findObject(layout, selected) : nullptr;
     if (bAutoName && bound != nullptr) {

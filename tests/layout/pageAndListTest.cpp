@@ -8,6 +8,10 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     open("F|Sum|0|0|9|9|False|False|False|Arial|8|0|\r\nF|Sum|0|0|9|9|True|False|False|Arial|8|0|\r\n"
          "L|Hi|0|0|9|9|False|False|False|Arial|8|0||0|\r\nP|Photo|0|0|9|9|\r\n",
          "[Formulas      ]Sum,Qty * Price|\r\n");
+    layout::select(app, {Family::tLabel, 1});
+    objects.tLabel[1].BackColor = 0;
+    layout::select(app, {Family::layoutField, 1});
+    EXPECT_EQ(objects.tLabel[1].BackColor, core::white);
     platform.fonts = {{"Arial", 8, false, false, false, false, 255}};
     layout::setObjectFont(app);
     EXPECT_TRUE(objects.layoutField[2].FontBold && objects.layoutField[2].ForeColor == 255);
