@@ -363,6 +363,8 @@ private slots:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget(), run.field(index));
         }
+        QTest::mouseClick(run.find<QWidget>("layoutPic1"), Qt::LeftButton); // beside the sheet
+        QCOMPARE(QApplication::focusWidget(), run.sheet());
     }
 
     void theWheelAndTheBarsScroll() {
