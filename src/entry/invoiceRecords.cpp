@@ -189,7 +189,9 @@ void removeInvoiceRows(App& app, const std::string& key) {
 
 void Delete_ButtonClick(App& app) {
     if (app.mainFrm.SSTab1 != app::reportTab || app.document.searchLV.Visible) return;
-    if (!app.document.bInvoiceStyle)
+    // By the list on view, not by the style: a new database that is cancelled half-way has chosen another
+    // one.
+    if (!app.document.iLV.Visible)
         deleteRecords(app);
     else if (!app.document.bInvoiceView)
         deleteInvoices(app);

@@ -31,6 +31,7 @@ void selectItem(App& app, Item& item) {
     app.mainFrm.theListView->MultiSelect =
         false; // the sheet shows one record, and Delete takes the selected ones
     app.mainFrm.theListView->setSelectedItem(&item);
+    app.mainFrm.listScroll = app::ListScroll::ToCurrent; // it was chosen here, while the list is out of sight
     if (document.bInvoiceStyle && document.searchLV.Visible)
         if (Item* record = document.LV.find(item.Text)) document.LV.setSelectedItem(record);
 }
@@ -90,12 +91,15 @@ void newRecord(App& app) {
     app.mainFrm.layoutPage.layoutPic2.Visible = true;
 }
 
-// The record that is meant by a button. A sheet of a new record has none yet, though there is a current one:
-// the button would change or delete what nobody sees.
+// The record that is meant by a button, or nothing after a message. A sheet of a new record has none yet,
+// though there is a current one: the button would change or delete what nobody sees.
 Item* recordMeant(App& app) {
+    Item* record = recordOnSheet(app);
     if (isSheetNew(app))
         app::inform(app, "This record is new.  To store it please click on the Add toolbar button.");
-    return recordOnSheet(app);
+    else if (record == nullptr)
+        app::inform(app, "There is no record on the page.");
+    return record;
 }
 
 // A damaged file can have objects of a column that is not there.

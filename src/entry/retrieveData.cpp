@@ -81,6 +81,11 @@ void refreshShownRecord(App& app) {
     showRecord(app);
 }
 
+void showPage(App& app) {
+    if (currentRecord(app) == nullptr && app.document.LV.count() > 1) clearSheet(app);
+    showRecord(app);
+}
+
 void showRecord(App& app) {
     retrieveFields(app);
     if (!app.document.bInvoiceStyle) retrievePictures(app);

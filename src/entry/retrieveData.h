@@ -12,6 +12,10 @@ void retrievePictures(app::App& app);
 // Both, as the style of the database has them.
 void showRecord(app::App& app);
 
+// Shows the record of a page that was set up for browsing. The sheet is empty when a search has found none;
+// for the first record of an empty database it keeps what is typed there.
+void showPage(app::App& app);
+
 // Shows the current record on the layout page anew, when that page is in front: whatever makes another record
 // the current one, or changes it behind the page, comes here, since the sheet and its record must not part.
 void refreshShownRecord(app::App& app);

@@ -162,7 +162,7 @@ void refreshRows(app::App& app) {
 }
 
 void rebuildView(app::App& app) {
-    if (!app.document.bInvoiceStyle) return;
+    if (!app.document.bInvoiceStyle && !app.document.iLV.Visible) return;
     // The widths that the user has given the columns on show are those of the columns.
     for (const Column& shown : app.document.iLV.columns) {
         Column* column = app.document.LV.columns.find(shown.Text);

@@ -4,7 +4,7 @@
 
 namespace invoice {
 
-// Rebuilds the list of the view on show; nothing in a standard database.
+// Rebuilds the list of the view on show; nothing in a standard database, which shows no such list.
 void rebuildView(app::App& app);
 
 // Rebuild iLV from LV: one row an item row, and one row an invoice. A row's Text is the key of the

@@ -45,9 +45,8 @@ void fit(const LayoutObject& holder, FittedImage& image, drawing::Extent natural
     image.Visible = true;
 }
 
-// Why a file with the name of an image cannot be shown.
-std::string faultOf(App& app, const fs::path& file) {
-    const std::string name = file.filename().string();
+// Why an image cannot be shown.
+std::string faultOf(App& app, const fs::path& file, const std::string& name) {
     if (app.platform.isPictureTooLarge(file)) return "The picture " + name + " is too large.";
     errno = 0;
     std::error_code error;
@@ -70,7 +69,7 @@ std::optional<fs::path> chooseImage(App& app, const char* title) {
     else if (app.platform.pictureExtent(chosen))
         return fs::path(chosen);
     else
-        app::warn(app, faultOf(app, chosen));
+        app::warn(app, faultOf(app, chosen, fs::path(chosen).filename().string()));
     return std::nullopt;
 }
 
@@ -108,11 +107,24 @@ int randomNumber() {
 }
 
 // A clipboard image has a file of its own from the start, since the clipboard may have changed by the
-// time it is stored.
+// time it is stored. One that cannot be shown leaves the holder what it has.
 bool takeClipboardImage(App& app, const LayoutObject& holder, FittedImage& image, const std::string& name) {
     const fs::path file = app.platform.tempFolder() / name;
-    if (!app.platform.saveClipboardPicture(file)) return false;
-    fitImage(app, holder, image, file);
+    const fs::path taken = app.platform.tempFolder() / ("new-" + name);
+    if (!app.platform.saveClipboardPicture(taken)) return false;
+    FittedImage fitted = image;
+    fitImage(app, holder, fitted, taken);
+    std::error_code error;
+    if (fitted.path.empty())
+        app::warn(app, faultOf(app, taken, "in the clipboard"));
+    else
+        fs::rename(taken, file, error);
+    if (fitted.path.empty() || error) {
+        fs::remove(taken, error);
+        return false;
+    }
+    fitted.path = file.string();
+    image = fitted;
     return true;
 }
 

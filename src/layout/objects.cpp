@@ -68,17 +68,24 @@ void forSelectedGroup(App& app, Visitor&& visit) {
     for (const int index : group) visit(ObjectRef{Family::layoutField, index});
 }
 
-// Boxes and lines have no text, but take the colour.
-void setFont(App& app, ObjectRef object, const platform::FontChoice& choice) {
-    if (std::int32_t* colour = findForeColor(app.document.layout, object)) *colour = choice.ForeColor;
+// What was chosen anew; the copies of a field can differ in all else. Boxes and lines have no text, but take
+// the colour.
+void setFont(App& app, ObjectRef object, const platform::FontChoice& before,
+             const platform::FontChoice& choice) {
+    const auto set = [&](auto& property, auto platform::FontChoice::*chosen) {
+        if (before.*chosen != choice.*chosen) property = choice.*chosen;
+    };
+    using platform::FontChoice;
+    if (std::int32_t* colour = findForeColor(app.document.layout, object))
+        set(*colour, &FontChoice::ForeColor);
     core::ObjectFont* font = findFont(app.document.layout, object);
     if (font == nullptr) return;
-    font->FontName = choice.FontName;
-    font->FontSize = choice.FontSize;
-    font->FontBold = choice.FontBold;
-    font->FontItalic = choice.FontItalic;
-    font->FontUnderline = choice.FontUnderline;
-    font->FontStrikethru = choice.FontStrikethru;
+    set(font->FontName, &FontChoice::FontName);
+    set(font->FontSize, &FontChoice::FontSize);
+    set(font->FontBold, &FontChoice::FontBold);
+    set(font->FontItalic, &FontChoice::FontItalic);
+    set(font->FontUnderline, &FontChoice::FontUnderline);
+    set(font->FontStrikethru, &FontChoice::FontStrikethru);
 }
 
 platform::FontChoice presentFont(core::LayoutObjects& layout, ObjectRef object) {
@@ -141,8 +148,6 @@ void addLabel(App& app, bool bAutoName) {
     core::LayoutObjects& layout = app.document.layout;
     core::Label& label = add(app, layout.tLabel);
     const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
-    if (selected.family == Family::tLabel)
-        if (core::Label* old = layout.tLabel.find(selected.Index)) old->BackColor = core::white;
     const bool isBound = selected.family == Family::layoutField || selected.family == Family::imgHolder;
     const LayoutObject* bound = isBound ? findObject(layout, selected) : nullptr;
     if (bAutoName && bound != nullptr) {
@@ -194,10 +199,11 @@ void flipFontStyle(App& app, FontStyle style) {
 }
 
 void setObjectFont(App& app) {
-    const std::optional<platform::FontChoice> choice =
-        app.platform.showFont(presentFont(app.document.layout, app.mainFrm.layoutPage.selectedObject));
+    const platform::FontChoice before =
+        presentFont(app.document.layout, app.mainFrm.layoutPage.selectedObject);
+    const std::optional<platform::FontChoice> choice = app.platform.showFont(before);
     if (!choice) return;
-    forSelectedGroup(app, [&](ObjectRef object) { setFont(app, object, *choice); });
+    forSelectedGroup(app, [&](ObjectRef object) { setFont(app, object, before, *choice); });
 }
 
 void sendToFront(App& app) {

@@ -119,6 +119,7 @@ void placeHandle(App& app, ObjectRef object) {
 }
 
 void select(App& app, ObjectRef object) {
+    whitenSelectedLabel(app);
     app.mainFrm.layoutPage.selectedObject = object;
 }
 
@@ -181,7 +182,6 @@ bool object_MouseUp(App& app, ObjectRef object, MouseButton button) {
 }
 
 void object_Click(App& app, ObjectRef object) {
-    whitenSelectedLabel(app);
     select(app, object);
     if (object.family == Family::tLabel) {
         core::Label* label = app.document.layout.tLabel.find(object.Index);

@@ -3,6 +3,7 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
+#include "entry/navBar.h"
 #include "search/searchEngine.h"
 
 #include <algorithm>
@@ -38,25 +39,27 @@ bool isTheSame(const core::ColumnHeaders& columns, const Item& result, const Ite
 void openDialog(App& app) {
     app.mainFrm.control("Delete").Enabled = false;
     calc::RefreshSelectedTotals(app);
+    // The record of a sheet that is new is none of the results.
+    const bool bResultsGone = app.document.searchLV.Visible && !entry::isSheetNew(app);
     takeOverColumns(app);
     app.platform.showForm("searchFrm");
-}
-
-void leaveResults(App& app) {
-    app.mainFrm.control("Delete").Enabled = true;
-    showAllRecords(app);
+    if (bResultsGone) app.changes.announce(app, app::Change::CurrentRecord);
 }
 
 } // namespace
 
+void leaveResults(App& app) {
+    app.mainFrm.control("Search").Value = false;
+    app.mainFrm.control("Delete").Enabled = app.mainFrm.SSTab1 == app::reportTab;
+    showAllRecords(app);
+}
+
 void Search_ButtonClick(App& app) {
     if (!hasColumns(app)) return;
-    app::Control& button = app.mainFrm.control("Search");
-    button.Value = !button.Value;
-    if (button.Value)
-        openDialog(app);
-    else
+    if (app.mainFrm.control("Search").Value)
         leaveResults(app);
+    else
+        mnuSearch_Click(app);
 }
 
 void mnuSearch_Click(App& app) {
@@ -85,6 +88,7 @@ void takeOverColumns(App& app) {
 // counted, not those of the list on show. It is wanted so.
 void showAllRecords(App& app) {
     app.document.searchLV.Visible = false;
+    calc::RefreshSelectedTotals(app); // the sums were those of a result
     app.mainFrm.theListView = &app.document.LV;
     app.mainFrm.listScroll = app::ListScroll::ToCurrent;
     app::allowManySelected(app); // the layout page may have taken it from the records in the meantime

@@ -12,6 +12,9 @@ void Search_ButtonClick(app::App& app);
 // The menu item presses the button, whatever its state.
 void mnuSearch_Click(app::App& app);
 
+// Ends the mode, as the released button does.
+void leaveResults(app::App& app);
+
 // Clears searchLV and gives it the columns of the list that is searched.
 void takeOverColumns(app::App& app);
 // Puts the records back in place of the results.

@@ -45,11 +45,7 @@ void showProperties(App& app) {
 
 // Search results are copies under the columns of their time, so they cannot outlive a change of the columns.
 void showDatabaseProperties(App& app) {
-    if (app.document.searchLV.Visible) {
-        app.mainFrm.control("Search").Value = true;
-        search::Search_ButtonClick(app);
-        app.mainFrm.control("Delete").Enabled = app.mainFrm.SSTab1 == app::reportTab;
-    }
+    if (app.document.searchLV.Visible) search::leaveResults(app);
     app.platform.showForm("designFrm");
     layout::refreshLayoutButtonMenus(app);
 }

@@ -1,8 +1,10 @@
 #include "shell/program.h"
 
 #include "app/windowState.h"
+#include "entry/navBar.h"
 #include "entry/retrieveData.h"
 #include "invoice/views.h"
+#include "layout/sheet.h"
 #include "shell/mainWindow.h"
 
 namespace shell {
@@ -11,9 +13,13 @@ namespace shell {
 Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     using app::Change;
     changes.follow({Change::Modified}, app::showModified);
+    changes.follow({Change::Columns}, [](App& app) {
+        // What is designed shows the names of its columns, and a new record has no results yet.
+        if (!layout::isDesignMode(app) && !entry::isSheetNew(app)) entry::refreshShownRecord(app);
+    });
     changes.follow({Change::Values, Change::CurrentRecord}, entry::refreshShownRecord);
     changes.follow({Change::Columns, Change::Values}, invoice::rebuildView);
-    changes.follow({Change::Page}, entry::showRecord);
+    changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Preview}, [](App& app) { SSTab1_Click(app, app::previewTab); });
 }
 

@@ -40,7 +40,6 @@ std::optional<std::string> chooseFile(App& app, bool StartUp) {
 
 void showInvoiceLists(App& app) {
     Document& document = app.document;
-    document.iLV.Visible = document.bInvoiceStyle;
     if (!document.bInvoiceStyle) return;
     app.mainFrm.viewOpt = document.bInvoiceView ? 0 : 1;
     if (!document.iLV.empty()) calc::list_Click(app, document.iLV);
@@ -127,6 +126,7 @@ void readArchive(App& app, const std::string& path) {
     if (app.platform.keepsDataFile()) file::writeWorkFile(app.platform.workFolder() / "data.dat", *text);
     file::readDataFile(*std::move(text), document);
     if (document.LV.empty()) core::addTotalsRow(document.LV);
+    document.iLV.Visible = document.bInvoiceStyle;
     if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
     invoice::rebuildView(app);
 }

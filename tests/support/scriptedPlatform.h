@@ -104,7 +104,7 @@ public:
     bool saveClipboardPicture(const std::filesystem::path& path) override {
         if (clipboardPicture.empty()) return false;
         write(path, clipboardPicture);
-        pictures[path.filename().string()] = {3000, 1500};
+        pictures[path.filename().string()] = {clipboardPicture == "damaged" ? 0 : 3000, 1500};
         return true;
     }
     void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,

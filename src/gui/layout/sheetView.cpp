@@ -149,6 +149,11 @@ void SheetView::resizeEvent(QResizeEvent*) {
     });
 }
 
+// What is typed in ends by a press beside the sheet, as it does by one on it.
+void SheetView::mousePressEvent(QMouseEvent*) {
+    paper_->setFocus(Qt::MouseFocusReason);
+}
+
 void SheetView::wheelEvent(QWheelEvent* event) {
     constexpr int twipsPerStep = 720;
     constexpr int deltaPerStep = 120;
