@@ -155,7 +155,8 @@ private:
             const auto isSame = [&](const auto& each) { return each.second.starts_with(cell.str() + "|"); };
             if (app_.document.bInvoiceStyle && &record == LV.selectedItem())
                 cell = onSheet("No");
-            else if (app_.document.bInvoiceStyle || std::ranges::count_if(records(), isSame) > 1)
+            else if (app_.document.bInvoiceStyle || cell == "0" ||
+                     std::ranges::count_if(records(), isSame) > 1)
                 cell = std::to_string(1000 + ++given_);
         });
     }
