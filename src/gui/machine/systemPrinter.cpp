@@ -5,6 +5,7 @@
 #include "qtprint/paperTarget.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
@@ -39,6 +40,19 @@ protected:
 
 private:
     QPrinter& printer_;
+};
+
+// Qt shows its choice of pages whenever the dialog comes up, also where none is offered.
+class KeptHidden final : public QObject {
+public:
+    explicit KeptHidden(QWidget* part) : QObject(part) {
+        part->installEventFilter(this);
+        part->hide();
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ShowToParent) static_cast<QWidget*>(watched)->hide();
+        return QObject::eventFilter(watched, event);
+    }
 };
 
 } // namespace
@@ -86,8 +100,7 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     dialog.setObjectName(QStringLiteral("printDialog"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
-    // Qt shows its choice of pages also where none is offered.
-    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) pages->hide();
+    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) new KeptHidden(pages);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     if (isPdf()) fileName_ = chosen.outputFileName();
     platform::PrintChoice choice = present;
