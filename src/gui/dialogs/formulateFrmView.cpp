@@ -32,7 +32,7 @@ QGroupBox* formulateFrmView::makeColumns() {
     colList_->setHeaderLabels({tr("Name"), tr("Formula")});
     useListLook(*colList_);
     colList_->header()->setStretchLastSection(true);
-    colList_->setMinimumHeight(em() * 6); // some three columns
+    colList_->setMinimumHeight(em() * 8); // some four columns
     colList_->header()->resizeSection(0, em() * 12);
     for (const auto& row : form_.colList) new QTreeWidgetItem(colList_, {toQt(row.Name)});
     colList_->installEventFilter(this);
