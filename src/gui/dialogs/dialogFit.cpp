@@ -73,7 +73,7 @@ QSize roomOnScreen(const QWidget& window) {
 int titleWidth(const QWidget& window) {
     QFont bold = window.font();
     bold.setBold(true); // as many desktops have it
-    return QFontMetrics(bold).horizontalAdvance(window.windowTitle()) + window.fontMetrics().height() * 7;
+    return QFontMetrics(bold).horizontalAdvance(window.windowTitle()) + window.fontMetrics().height() * 9;
 }
 
 void fitDialog(QDialog& dialog) {
