@@ -76,10 +76,8 @@ void newRecord(App& app) {
     clearSheet(app);
     proposeValues(app);
     unbindSheet(app);
-    if (!document.bInvoiceStyle) {
-        app.mainFrm.control("layoutNavBar.New").Value = true; // until a record is shown
-        return;
-    }
+    app.mainFrm.control("layoutNavBar.New").Value = true; // until another record is shown
+    if (!document.bInvoiceStyle) return;
     invoice::addInvoiceRecord(app);
     // It is none of those found: what is typed must not reach the one that was on the sheet before.
     if (document.searchLV.Visible) {
@@ -93,7 +91,7 @@ void newRecord(App& app) {
 // The record that is meant by a button. A sheet of a new record has none yet, though there is a current one:
 // the button would change or delete what nobody sees.
 Item* recordMeant(App& app) {
-    if (isSheetNew(app))
+    if (isSheetNew(app) && !app.document.bInvoiceStyle)
         app::inform(app, "This record is new.  To store it please click on the Add toolbar button.");
     return recordOnSheet(app);
 }
@@ -149,6 +147,7 @@ void updateSheet(App& app) {
     if (recordMeant(app) == nullptr) return;
     if (app.document.bInvoiceStyle) {
         editInvoiceRecord(app, true);
+        app.mainFrm.control("layoutNavBar.New").Value = false;
         showRecord(app);
         return;
     }
