@@ -1,5 +1,6 @@
 #include "gui/dialogs/entryFrmView.h"
 
+#include "gui/dialogs/dialogFit.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/qtText.h"
@@ -11,7 +12,6 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -29,7 +29,7 @@ constexpr float twipsPerInch = 1440;
 constexpr auto checkCaption = QT_TR_NOOP("Check Previous Entries");
 constexpr float leastWidth = 5000, leastHeight = 3 * 615; // of the viewport
 constexpr int toolbarIconSize = 24;
-constexpr int findBoxCharacters = 24;
+constexpr int findBoxCharacters = 14;
 
 struct ButtonLook {
     const char* key;
@@ -122,8 +122,12 @@ void entryFrmView::openAtSize() {
     const float margin = form_.FieldBox.front().Left;
     const float height = std::clamp(form_.Picture2.Height + margin, leastHeight, form_.Picture1.Height);
     Picture1_->setMinimumSize(pixels(form_.Picture1.Width), pixels(height));
-    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
+    const QSize told = sizeHint();
     Picture1_->setMinimumSize(pixels(leastWidth), pixels(std::min(height, leastHeight)));
+    // Or the told size would be the least one until the form is on view.
+    Picture1_->parentWidget()->layout()->activate();
+    layout()->activate();
+    resize(told.boundedTo(roomOnScreen(*this)));
 }
 
 // --- building ---

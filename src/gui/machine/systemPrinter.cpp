@@ -1,6 +1,7 @@
 #include "gui/machine/systemPrinter.h"
 
 #include "drawing/papers.h"
+#include "gui/dialogs/dialogFit.h"
 #include "gui/widgets/qtText.h"
 #include "qtprint/paperTarget.h"
 
@@ -8,6 +9,7 @@
 #include <QEvent>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QTabWidget>
 
 #include <set>
 #include <utility>
@@ -101,6 +103,12 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
     if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) new KeptHidden(pages);
+    // The options that a button unfolds push the buttons down.
+    keepOnScreen(dialog);
+    const auto* options = dialog.findChild<QTabWidget*>();
+    const int unfolds = options == nullptr ? 0 : options->minimumSizeHint().height();
+    if (dialog.minimumSizeHint().height() + unfolds > roomOnScreen(dialog).height())
+        fitDialog(dialog, unfolds);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     if (isPdf()) fileName_ = chosen.outputFileName();
     platform::PrintChoice choice = present;
