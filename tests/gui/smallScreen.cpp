@@ -1,0 +1,28 @@
+#include "gui/dialogs/fontDialog.h"
+#include "layoutPage.h"
+
+class SmallScreen : public QObject {
+    Q_OBJECT
+
+    Folders folders_;
+
+private slots:
+    void walkingIsNoChange() {
+        Folders::forgetSettings();
+        LayoutSession run(folders_.sample("invoices.fwk"));
+        run.showLayout();
+        for (int i = 0; i < 12; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(run.panel(5), u"Document Opened"_s);
+        run.navigate("New");
+        QCOMPARE(run.find<QLabel>("recordPosition")->text(), u"New record"_s);
+        run.pressDesign();
+        QTest::keyClick(run.sheet(), Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(run.app.mainFrm.SSTab1, app::previewTab);
+    }
+    void theFontBoxFollowsItsSize() {
+        gui::FontDialog box({.FontName = "Sans Serif", .FontSize = 18}, nullptr);
+        QCOMPARE(box.findChild<QListWidget*>(u"sizeList"_s)->selectedItems().at(0)->text(), u"18"_s);
+    }
+};
+QTEST_MAIN(SmallScreen)
+#include "smallScreen.moc"
