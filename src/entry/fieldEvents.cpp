@@ -39,8 +39,7 @@ void layoutField_GotFocus(App& app, int index) {
     if (column == nullptr) return;
     const bool isCalculated = column->isType(ColumnType::Calculation);
     if (!isCalculated && layout::isRepeatedField(app.document.layout, *field)) return;
-    editInvoiceRecord(app, true, nullptr,
-                      Marks::WhenChanged); // whoever only walks through has changed nothing
+    editInvoiceRecord(app, true);
     retrieveFields(app);
 }
 

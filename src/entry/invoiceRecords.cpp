@@ -99,19 +99,18 @@ std::string itemValue(const Column& column, const std::string& text) {
     return text.empty() ? std::string() : filledCell(column, text);
 }
 
-void editInvoiceRecord(App& app, bool bUpdate, const ColumnNames* only, Marks marks) {
+void editInvoiceRecord(App& app, bool bUpdate, const ColumnNames* only) {
     RecordsList& records = app.document.LV;
     records.MultiSelect = false;
     Item* record = bUpdate ? recordOfRow(app) : &invoice::addInvoiceRecord(app);
     if (record == nullptr || record->isTotals()) return;
-    const std::vector<core::CellText> before = record->cells;
     if (bUpdate)
         core::UpdateTotalsRow(app.document, core::TotalsMode::Subtract, records, records.indexOf(*record));
     writeCells(app, *record, bUpdate, only);
     calc::calculateInvoice(app, records, records.indexOf(*record));
     core::UpdateTotalsRow(app.document, core::TotalsMode::Add, records, records.indexOf(*record));
     records.setSelectedItem(record);
-    if (marks == Marks::Always || record->cells != before) app::setDocumentModified(app, true);
+    app::setDocumentModified(app, true);
     records.MultiSelect = false;
     invoice::refreshRows(app);
     refreshResults(app);

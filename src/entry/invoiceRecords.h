@@ -15,9 +15,7 @@ using ColumnNames = std::set<std::string, std::less<>>;
 // Writes the layout's fields into the selected invoice, or a new one, and works it out. The values of a
 // repeated field go into one cell, each followed by "@". Silent for the Totals row. With a set of columns the
 // other cells stay as they are.
-enum class Marks { Always, WhenChanged }; // the document as modified
-void editInvoiceRecord(app::App& app, bool bUpdate, const ColumnNames* only = nullptr,
-                       Marks marks = Marks::Always);
+void editInvoiceRecord(app::App& app, bool bUpdate, const ColumnNames* only = nullptr);
 
 // What the cell of a column gets from the layout's field, or from one of its fields in an item row.
 std::string invoiceCell(const core::Column& column, const std::string& text);
