@@ -77,10 +77,8 @@ void newRecord(App& app) {
     clearSheet(app);
     proposeValues(app);
     unbindSheet(app);
-    if (!document.bInvoiceStyle) {
-        app.mainFrm.control("layoutNavBar.New").Value = true; // until a record is shown
-        return;
-    }
+    app.mainFrm.control("layoutNavBar.New").Value = true; // until another record is shown
+    if (!document.bInvoiceStyle) return;
     invoice::addInvoiceRecord(app);
     // It is none of those found: what is typed must not reach the one that was on the sheet before.
     if (document.searchLV.Visible) {
@@ -95,7 +93,7 @@ void newRecord(App& app) {
 // though there is a current one: the button would change or delete what nobody sees.
 Item* recordMeant(App& app) {
     Item* record = recordOnSheet(app);
-    if (isSheetNew(app))
+    if (isSheetNew(app) && !app.document.bInvoiceStyle)
         app::inform(app, "This record is new.  To store it please click on the Add toolbar button.");
     else if (record == nullptr)
         app::inform(app, "There is no record on the page.");
@@ -153,6 +151,7 @@ void updateSheet(App& app) {
     if (recordMeant(app) == nullptr) return;
     if (app.document.bInvoiceStyle) {
         editInvoiceRecord(app, true);
+        app.mainFrm.control("layoutNavBar.New").Value = false;
         showRecord(app);
         return;
     }

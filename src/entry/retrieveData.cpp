@@ -23,7 +23,8 @@ std::string shownText(const Column& column, std::string_view cell) {
 }
 
 void retrieveFields(App& app) {
-    app.mainFrm.control("layoutNavBar.New").Value = false;
+    // A new invoice is a record from the start, and stays new as long as the sheet shows it.
+    if (recordOnSheet(app) == nullptr) app.mainFrm.control("layoutNavBar.New").Value = false;
     bindSheet(app);
     if (app.document.bInvoiceStyle) {
         // What is shown is LV's current record, which has to be the one of the row.

@@ -6,7 +6,10 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace gui {
 
@@ -55,7 +58,11 @@ QLayout* designFrmView::makeLeftSide() {
     auto* remove = makeButton("deleteBtn", tr("&Remove"), [this] { form_.deleteBtn_Click(); });
     remove->setToolTip(tr("Delete selected column from list"));
     auto* buttons = new QHBoxLayout;
-    for (QPushButton* button : {add, change, remove}) buttons->addWidget(button);
+    for (QPushButton* button : {add, change, remove}) {
+        // On a small screen they are narrower than buttons are elsewhere.
+        button->setMinimumWidth(fontMetrics().horizontalAdvance(button->text()) + em() / 2);
+        buttons->addWidget(button);
+    }
     auto* explanation =
         new QLabel(tr("  To set entry options, simply double click on a row in the list to the right.  You "
                       "can only set options for date and number columns."));
@@ -80,9 +87,16 @@ QLayout* designFrmView::makeRightSide() {
     QHeaderView* header = List1_->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (const int section : {1, 2, 3})
-        header->resizeSection(section, section == 1 ? em() * 6 : em() * 11 / 2);
-    List1_->setMinimumWidth(em() * 22);
+    // The headings stand whole, also beside a scroll bar, and so does the longest type.
+    const int longestType = fontMetrics().horizontalAdvance(tr("Calculation")) + em();
+    int width = header->sectionSizeHint(0) + List1_->verticalScrollBar()->sizeHint().width() +
+                2 * List1_->frameWidth();
+    for (const int section : {1, 2, 3}) {
+        header->resizeSection(section,
+                              std::max(header->sectionSizeHint(section), section == 1 ? longestType : 0));
+        width += header->sectionSize(section);
+    }
+    List1_->setMinimumWidth(std::max(width, em() * 22));
     List1_->installEventFilter(this);
     connect(List1_, &QTreeWidget::itemSelectionChanged, this, [this] {
         const QList<QTreeWidgetItem*> chosen = List1_->selectedItems();

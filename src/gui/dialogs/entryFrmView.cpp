@@ -1,5 +1,6 @@
 #include "gui/dialogs/entryFrmView.h"
 
+#include "gui/dialogs/dialogFit.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/palette.h"
@@ -12,7 +13,6 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -28,7 +28,7 @@ using entry::entryFrm;
 
 constexpr auto checkCaption = QT_TR_NOOP("Check Previous Entries");
 constexpr float leastWidth = 5000, leastHeight = 3 * 615; // of the viewport
-constexpr int findBoxCharacters = 24;
+constexpr int findBoxCharacters = 14;
 
 struct ButtonLook {
     const char* key;
@@ -121,8 +121,12 @@ void entryFrmView::openAtSize() {
     const float margin = form_.FieldBox.front().Left;
     const float height = std::clamp(form_.Picture2.Height + margin, leastHeight, form_.Picture1.Height);
     Picture1_->setMinimumSize(pixels(form_.Picture1.Width), pixels(height));
-    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
+    const QSize told = sizeHint();
     Picture1_->setMinimumSize(pixels(leastWidth), pixels(std::min(height, leastHeight)));
+    // Or the told size would be the least one until the form is on view.
+    Picture1_->parentWidget()->layout()->activate();
+    layout()->activate();
+    resize(told.boundedTo(roomOnScreen(*this)));
 }
 
 // --- building ---

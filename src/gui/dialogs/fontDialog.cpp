@@ -11,10 +11,13 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace gui {
 
@@ -36,7 +39,8 @@ FontDialog::FontDialog(const platform::FontChoice& present, QWidget* parent)
       italic_(named("italicChk", new QCheckBox(tr("&Italic")))),
       underline_(named("underlineChk", new QCheckBox(tr("&Underline")))),
       strikethrough_(named("strikethroughChk", new QCheckBox(tr("Stri&kethrough")))),
-      colourBtn_(named("colourBtn", new QPushButton(tr("&Colour...")))), sample_(new QLabel) {
+      colourBtn_(named("colourBtn", new QPushButton(tr("&Colour...")))), sample_(new QLabel),
+      reason_(named("reasonLbl", new QLabel)) {
     setObjectName(QStringLiteral("fontDialog"));
     setWindowTitle(tr("Font"));
     makeFamilies();
@@ -70,7 +74,10 @@ FontDialog::FontDialog(const platform::FontChoice& present, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addLayout(grid, 2);
     column->addWidget(paper, 1);
-    column->addWidget(buttons);
+    auto* lowest = new QHBoxLayout;
+    lowest->addWidget(reason_, 1);
+    lowest->addWidget(buttons);
+    column->addLayout(lowest);
     nameLists(*this);
     refresh();
     families_->setFocus();
@@ -91,8 +98,6 @@ void FontDialog::makeFamilies() {
     for (int row = 0; row < families_->count(); ++row)
         if (families_->item(row)->text().compare(present, Qt::CaseInsensitive) == 0)
             families_->setCurrentRow(row);
-    if (families_->currentItem() != nullptr)
-        families_->scrollToItem(families_->currentItem(), QAbstractItemView::PositionAtCenter);
     connect(families_, &QListWidget::itemSelectionChanged, this, [this] {
         const QList<QListWidgetItem*> selected = families_->selectedItems();
         if (selected.isEmpty()) return;
@@ -116,6 +121,28 @@ void FontDialog::makeSizes() {
         const QList<QListWidgetItem*> selected = sizes_->selectedItems();
         if (!selected.isEmpty()) sizeTxt_->setText(selected.constFirst()->text());
     });
+}
+
+// Before that the lists do not have their size.
+void FontDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    layout()->activate();
+    for (QListWidget* list : {families_, sizes_})
+        if (list->currentItem() != nullptr)
+            list->scrollToItem(list->currentItem(), QAbstractItemView::PositionAtCenter);
+}
+
+// A size that is not among the usual ones has its place ahead of the next larger one.
+void FontDialog::showSize(float size) {
+    const QSignalBlocker blocker(sizes_);
+    const auto next = std::ranges::lower_bound(usualSizes, size, {}, [](int usual) { return float(usual); });
+    const auto row = std::min<std::ptrdiff_t>(next - usualSizes.begin(), usualSizes.size() - 1);
+    const bool isUsual = next != usualSizes.end() && float(*next) == size;
+    sizes_->setCurrentRow(static_cast<int>(row),
+                          isUsual ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Clear);
+    // A list that has the keys moves by itself, and no further than it must.
+    sizes_->scrollToItem(sizes_->currentItem(), sizes_->hasFocus() ? QAbstractItemView::EnsureVisible
+                                                                   : QAbstractItemView::PositionAtCenter);
 }
 
 QLayout* FontDialog::makeStyles() {
@@ -163,6 +190,9 @@ std::optional<float> FontDialog::size() const {
 void FontDialog::refresh() {
     const std::optional<float> chosenSize = size();
     okBtn_->setEnabled(chosenSize.has_value());
+    reason_->setText(chosenSize ? QString() : tr("The size is a number from 1 to 1600."));
+    okBtn_->setToolTip(reason_->text());
+    if (chosenSize) showSize(*chosenSize);
     QPixmap patch(16, 16);
     patch.fill(toQtColor(chosen_.ForeColor));
     colourBtn_->setIcon(patch);

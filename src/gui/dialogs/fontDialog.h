@@ -22,12 +22,16 @@ public:
 
     platform::FontChoice choice() const;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void makeFamilies();
     void makeSizes();
     QLayout* makeStyles();
     void chooseColour();
     std::optional<float> size() const; // nothing for a text that is no size
+    void showSize(float size);
     void refresh();
 
     const platform::FontChoice present_;
@@ -38,6 +42,7 @@ private:
     QCheckBox *bold_, *italic_, *underline_, *strikethrough_;
     QPushButton *colourBtn_, *okBtn_;
     QLabel* sample_;
+    QLabel* reason_; // why OK is grey
 };
 
 } // namespace gui

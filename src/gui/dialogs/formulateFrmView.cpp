@@ -1,5 +1,6 @@
 #include "gui/dialogs/formulateFrmView.h"
 
+#include "gui/dialogs/dialogFit.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
@@ -17,13 +18,18 @@ formulateFrmView::formulateFrmView(app::App& app, EventBoundary& events, QWidget
     : FormView(events, "formulateFrm", tr("Expression Editor"), parent), form_(app),
       colList_(named("colList", new QTreeWidget)), fieldList_(named("fieldList", new QTreeWidget)),
       expTxt_(named("expTxt", new QPlainTextEdit)) {
+    const QSize told(em() * 42, em() * 36);
+    // On a small screen the list stands beside the rest, or the buttons would lie below the edge.
+    isFolded_ = roomOnScreen(*this).height() < told.height();
+    auto* parts = new QBoxLayout(isFolded_ ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    parts->addWidget(makeColumns(), 1);
+    parts->addWidget(makeDefinition(), 2);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(makeColumns(), 1);
-    column->addWidget(makeDefinition(), 2);
+    column->addLayout(parts, 1);
     column->addLayout(makeBottomRow(makeButton("donebtn", tr("&Done"), [this] { form_.donebtn_Click(); })));
     addCalcBtn_->setDefault(true);
     colList_->setFocus();
-    resize(em() * 42, em() * 36);
+    resize(told);
 }
 
 QGroupBox* formulateFrmView::makeColumns() {
@@ -32,8 +38,8 @@ QGroupBox* formulateFrmView::makeColumns() {
     colList_->setHeaderLabels({tr("Name"), tr("Formula")});
     useListLook(*colList_);
     colList_->header()->setStretchLastSection(true);
-    colList_->setMinimumHeight(em() * 6); // some three columns
-    colList_->header()->resizeSection(0, em() * 12);
+    colList_->setMinimumHeight(em() * 8); // some four columns
+    colList_->header()->resizeSection(0, em() * (isFolded_ ? 6 : 12));
     for (const auto& row : form_.colList) new QTreeWidgetItem(colList_, {toQt(row.Name)});
     colList_->installEventFilter(this);
     // The keys choose as a click does; a click on the chosen row begins with its expression again.
@@ -79,7 +85,7 @@ QPushButton* formulateFrmView::makeKey(const QString& name, const QString& capti
     auto* key = new QPushButton(caption);
     key->setObjectName(name);
     key->setAutoDefault(false);
-    key->setFixedSize(em() * 3, em() * 5 / 2);
+    key->setFixedSize(isFolded_ ? em() * 9 / 4 : em() * 3, isFolded_ ? em() * 3 / 2 : em() * 5 / 2);
     connect(key, &QPushButton::clicked, this, [this, handler] { on(handler); });
     return key;
 }
@@ -138,7 +144,7 @@ QLayout* formulateFrmView::makeExpression() {
     expTxt_->setFont(font);
     expTxt_->setReadOnly(true);
     expTxt_->setTabChangesFocus(true);
-    expTxt_->setFixedHeight(QFontMetrics(font).lineSpacing() * 2 + em());
+    expTxt_->setFixedHeight(QFontMetrics(font).lineSpacing() * (isFolded_ ? 1 : 2) + em());
     backBtn_ = makeButton("backBtn", tr("&Back"), [this] { form_.backBtn_Click(); });
     addCalcBtn_ = makeButton("addCalcBtn", tr("&Apply"), [this] { form_.addCalcBtn_Click(); });
     auto* buttons = new QHBoxLayout;

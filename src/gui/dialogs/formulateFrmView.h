@@ -41,6 +41,7 @@ private:
     QTreeWidget* colList_;
     QTreeWidget* fieldList_;
     QPlainTextEdit* expTxt_;
+    bool isFolded_ = false;
     QPushButton* backBtn_ = nullptr;
     QPushButton* addCalcBtn_ = nullptr;
     QHash<QChar, QAbstractButton*> keys_; // the buttons that have a key of the keyboard

@@ -1,5 +1,6 @@
 #include "gui/dialogs/layoutPageSetupFrmView.h"
 
+#include "gui/dialogs/dialogFit.h"
 #include "gui/dialogs/pageSetupFrames.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
@@ -96,7 +97,9 @@ QGroupBox* layoutPageSetupFrmView::makeSpacingFrame() {
 void layoutPageSetupFrmView::showMembers() {
     if (form_.paperList.SelectedItem)
         paperList_->setCurrentItem(paperList_->topLevelItem(static_cast<int>(*form_.paperList.SelectedItem)));
+    if (form_.customFrm.Visible == !customFrm_->isHidden()) return;
     customFrm_->setVisible(form_.customFrm.Visible);
+    if (form_.customFrm.Visible) showWhole(*customFrm_);
 }
 
 } // namespace gui

@@ -6,21 +6,23 @@
 #include <QCommandLinkButton>
 #include <QDir>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScrollBar>
 #include <QStandardPaths>
 #include <QStyleOption>
 #include <QStylePainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <set>
+#include <utility>
 
 namespace gui {
 
 namespace {
 
 constexpr int pictureSize = 72;
-constexpr int samplesInRow = 3;
+constexpr int mostInRow = 3;
 constexpr int samplePictureSize = 32;
 
 // Qt gives such a button no sign of having the keys.
@@ -105,20 +107,37 @@ QWidget* StartPage::makeSamples() {
     const std::vector<shell::Sample> samples = shell::installedSamples();
     if (samples.empty()) return nullptr;
     auto* area = new QWidget;
-    auto* grid = new QGridLayout(area);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto* column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
     auto* title = centred(tr("Or try a sample. You get a copy of your own, so change in it what you like."));
     title->setForegroundRole(QPalette::PlaceholderText);
-    grid->addWidget(title, 0, 0, 1, samplesInRow);
-    int place = 0;
-    for (const shell::Sample& sample : samples) {
-        grid->addWidget(makeSampleButton(sample), 1 + place / samplesInRow, place % samplesInRow);
-        ++place;
-    }
+    samples_ = new QGridLayout;
+    column->addWidget(title);
+    column->addLayout(samples_);
+    for (const shell::Sample& sample : samples) sampleButtons_ << makeSampleButton(sample);
+    placeSamples();
     return area;
 }
 
-QWidget* StartPage::makeSampleButton(const shell::Sample& sample) {
+// As many side by side as find room.
+void StartPage::placeSamples() {
+    if (samples_ == nullptr) return;
+    int widest = 1;
+    for (const QPushButton* button : sampleButtons_)
+        widest = std::max(widest, button->minimumWidth() + samples_->horizontalSpacing());
+    const int room = width() - verticalScrollBar()->sizeHint().width() - fontMetrics().height();
+    const int fit = std::clamp(room / widest, 1, mostInRow);
+    if (std::exchange(samplesInRow_, fit) == fit) return;
+    for (int place = 0; place < sampleButtons_.size(); ++place)
+        samples_->addWidget(sampleButtons_.at(place), place / fit, place % fit);
+}
+
+void StartPage::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    placeSamples();
+}
+
+QPushButton* StartPage::makeSampleButton(const shell::Sample& sample) {
     auto* button = new SampleButton(withoutMnemonics(toQt(sample.name)), toQt(sample.shows));
     button->setObjectName(QStringLiteral("sample_") + toQt(sample.file.stem().string()));
     const QString picture = toQt(sample.picture);

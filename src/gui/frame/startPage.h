@@ -5,6 +5,7 @@
 #include "gui/frame/eventBoundary.h"
 #include "shell/samples.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -25,10 +26,14 @@ public:
     // Takes the keys when somebody goes to the page with them.
     QWidget* keyHolder() const { return new_; }
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QPushButton* addButton(const char* key, const QString& text);
     QWidget* makeSamples();
-    QWidget* makeSampleButton(const shell::Sample& sample);
+    QPushButton* makeSampleButton(const shell::Sample& sample);
+    void placeSamples();
 
     static constexpr std::array<const char*, 3> recentKeys = {"mnuFile1", "mnuFile2", "mnuFile3"};
 
@@ -39,6 +44,9 @@ private:
     QPushButton* open_;
     QLabel* recentTitle_;
     std::array<QPushButton*, recentKeys.size()> recent_{};
+    QGridLayout* samples_ = nullptr; // none where the program came without samples
+    QList<QPushButton*> sampleButtons_;
+    int samplesInRow_ = 0;
 };
 
 } // namespace gui

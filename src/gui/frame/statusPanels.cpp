@@ -9,6 +9,9 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+#include <utility>
+
 namespace gui {
 
 // One panel. A text that is too long is cut with dots, and the tip has all of it.
@@ -24,8 +27,11 @@ public:
     // As wide as the text: in a narrow window the shares must not leave one panel empty room while they cut
     // the text of another. Where not all find room, the longest are cut.
     QSize minimumSizeHint() const override {
-        return {fontMetrics().horizontalAdvance(text()) + 2 * indent() + 1,
-                QLabel::minimumSizeHint().height()};
+        return {std::min(textWidth(), most_), QLabel::minimumSizeHint().height()};
+    }
+    int textWidth() const { return fontMetrics().horizontalAdvance(text()) + 2 * indent() + 1; }
+    void setMost(int pixels) {
+        if (std::exchange(most_, pixels) != pixels) updateGeometry();
     }
 
 protected:
@@ -37,6 +43,9 @@ protected:
         style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
                               foregroundRole());
     }
+
+private:
+    int most_ = QWIDGETSIZE_MAX; // of the width that it insists on
 };
 
 namespace {
@@ -70,7 +79,35 @@ void StatusPanels::refresh() {
     panels_[app::datePanel - 1]->setText(QLocale().toString(date, QLocale::ShortFormat));
     place_->setText(toQt(layout::selectionText(app_)));
     place_->setVisible(!place_->text().isEmpty());
-    place_->setMinimumWidth(place_->minimumSizeHint().width()); // where room is short, the others are cut
+    place_->setMinimumWidth(place_->textWidth());
+    shareRoom();
+}
+
+void StatusPanels::resizeEvent(QResizeEvent* event) {
+    QStatusBar::resizeEvent(event);
+    shareRoom();
+}
+
+// The place of an object is read while it is dragged: where room is short, the longest of the others are cut.
+void StatusPanels::shareRoom() {
+    constexpr int gap = 8; // pixels between two panels, and around them
+    int most = QWIDGETSIZE_MAX;
+    if (!place_->isHidden()) {
+        std::array<int, 6> widths{};
+        std::ranges::transform(panels_, widths.begin(), &Panel::textWidth);
+        std::ranges::sort(widths);
+        auto left = static_cast<int>(widths.size());
+        int room = width() - place_->textWidth() - (left + 2) * gap;
+        for (const int wanted : widths) {
+            if (wanted > room / left) {
+                most = std::max(room / left, 1);
+                break;
+            }
+            room -= wanted;
+            --left;
+        }
+    }
+    for (Panel* panel : panels_) panel->setMost(most);
 }
 
 } // namespace gui

@@ -18,8 +18,12 @@ public:
     void refresh();
     QSize minimumSizeHint() const override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     class Panel;
+    void shareRoom();
 
     app::App& app_;
     std::array<Panel*, 6> panels_{};

@@ -75,6 +75,8 @@ bool SheetView::keyEvent(QObject* watched, QEvent* event) {
 // and an arrow draws the grip, and the menu key is the right button.
 bool SheetView::paperKey(const QKeyEvent& key) {
     const ObjectRef selected = app_.mainFrm.layoutPage.selectedObject;
+    const bool turnsTab = key.modifiers() & Qt::ControlModifier; // of the window
+    if (turnsTab && (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)) return false;
     if (key.key() == Qt::Key_Tab) return selectNext(1);
     if (key.key() == Qt::Key_Backtab) return selectNext(-1);
     const QWidget* widget = objects_->widgetOf(selected);

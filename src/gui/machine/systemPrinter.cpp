@@ -1,12 +1,15 @@
 #include "gui/machine/systemPrinter.h"
 
 #include "drawing/papers.h"
+#include "gui/dialogs/dialogFit.h"
 #include "gui/widgets/qtText.h"
 #include "qtprint/paperTarget.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QTabWidget>
 
 #include <set>
 #include <utility>
@@ -39,6 +42,19 @@ protected:
 
 private:
     QPrinter& printer_;
+};
+
+// Qt shows its choice of pages whenever the dialog comes up, also where none is offered.
+class KeptHidden final : public QObject {
+public:
+    explicit KeptHidden(QWidget* part) : QObject(part) {
+        part->installEventFilter(this);
+        part->hide();
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ShowToParent) static_cast<QWidget*>(watched)->hide();
+        return QObject::eventFilter(watched, event);
+    }
 };
 
 } // namespace
@@ -86,9 +102,13 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     dialog.setObjectName(QStringLiteral("printDialog"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
-    // Qt shows its choice of pages also where none is offered, and once more when the dialog comes up.
-    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange")))
-        QMetaObject::invokeMethod(pages, &QWidget::hide, Qt::QueuedConnection);
+    if (auto* pages = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) new KeptHidden(pages);
+    // The options that a button unfolds push the buttons down.
+    keepOnScreen(dialog);
+    const auto* options = dialog.findChild<QTabWidget*>();
+    const int unfolds = options == nullptr ? 0 : options->minimumSizeHint().height();
+    if (dialog.minimumSizeHint().height() + unfolds > roomOnScreen(dialog).height())
+        fitDialog(dialog, unfolds);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     if (isPdf()) fileName_ = chosen.outputFileName();
     platform::PrintChoice choice = present;

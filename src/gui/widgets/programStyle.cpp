@@ -3,6 +3,7 @@
 #include "gui/widgets/palette.h"
 
 #include <QAbstractItemView>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -91,6 +92,21 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
                             QStyleHintReturn* returned) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                 const QWidget* widget) const {
+    const QIcon plain = QProxyStyle::standardIcon(which, option, widget);
+    const QPalette palette = QGuiApplication::palette();
+    const bool isMark =
+        which == SP_ToolBarHorizontalExtensionButton || which == SP_ToolBarVerticalExtensionButton;
+    if (!isMark || !isDark(palette) || plain.availableSizes().isEmpty()) return plain;
+    QPixmap light = plain.pixmap(plain.availableSizes().constFirst());
+    QPainter painter(&light);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(light.rect(), palette.color(QPalette::WindowText));
+    painter.end();
+    return light;
 }
 
 } // namespace gui

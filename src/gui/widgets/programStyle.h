@@ -23,6 +23,9 @@ public:
     // The buttons of all dialogs alike are without icons.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override;
+    // The mark of a toolbar that is wider than its window is a black picture.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
 };
 
 } // namespace gui
