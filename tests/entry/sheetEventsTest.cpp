@@ -41,7 +41,7 @@ struct Hands {
     void find(const char* name, bool bAll) {
         platform.onForm = [&](std::string_view) {
             search::searchFrm form(app);
-            if (event.how % 8 == 1) return form.closeBtn_Click(); // over results, too
+            if (*name == '\0') return form.closeBtn_Click(); // over results, too
             const auto& columns = form.List1.items;
             form.List_Click(0, static_cast<int>(std::ranges::find(columns, "Name") - columns.begin()));
             form.Opt_Click(0, search::within);

@@ -6,7 +6,7 @@
 namespace {
 
 // A line as it is read and written again, "skipped", or the error that it ends in, which leaves no object.
-std::string again(std::string_view line) {
+std::string lineAgain(std::string_view line) {
     core::LayoutObjects layout;
     bool known = false;
     const int error = raisedBy([&] { known = file::readLayoutLine(line, layout); });
@@ -64,7 +64,7 @@ TEST(LayoutLines, ComeBackAsTheyWereOrInTheShortestForm) {
         {"B|1|2|3|4|99999999999|1|", "error 6"},
         {"C|a|1E39|2|3|4|", "error 6"}};
     for (const auto& [line, written] : cases)
-        EXPECT_EQ(again(line), written == nullptr ? line : written) << line;
+        EXPECT_EQ(lineAgain(line), written == nullptr ? line : written) << line;
 }
 
 TEST(LayoutLines, GoFamilyByFamilyInIndexOrder) {

@@ -17,10 +17,12 @@ struct Hands : LayoutSession {
     using Session::find;
     void find(const char* name, bool bAll) {
         platform.scripts[u"searchFrm"_s] = [=](QDialog& form) {
-            chooseColumn(form, "List1", "Name");
-            ::click(form, "Opt1_3");
-            QTest::keyClick(typeIn(form, "SearchText_0", name), Qt::Key_Return);
-            if (bAll) ::click(form, "allBtn");
+            if (*name != '\0') {
+                chooseColumn(form, "List1", "Name");
+                ::click(form, "Opt1_3");
+                QTest::keyClick(typeIn(form, "SearchText_0", name), Qt::Key_Return);
+                if (bAll) ::click(form, "allBtn");
+            }
             QTest::keyClick(&form, Qt::Key_Escape);
         };
         command("mnuSearch");

@@ -13,8 +13,7 @@ private slots:
         run.showLayout();
         run.navigate("New");
         QCOMPARE(run.find<QLabel>("recordPosition")->text(), u"New record"_s);
-        run.pressDesign();
-        QTest::keyClick(run.sheet(), Qt::Key_Tab, Qt::ControlModifier);
+        run.play(u"do Design; focus layoutPic2; key Ctrl+Tab"_s);
         QCOMPARE(run.app.mainFrm.SSTab1, app::previewTab);
     }
     void theFontBoxFollowsItsSize() {

@@ -1,13 +1,13 @@
 #include "entry/navBar.h"
 #include "layout/images.h"
+#include "layout/objects.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"
 #include "sheetFixture.h"
 
 TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
-    open("F|Sum|0|0|9|9|False|False|False|Arial|8|0|\r\nF|Sum|0|0|9|9|True|False|False|Arial|8|0|\r\n"
-         "L|Hi|0|0|9|9|False|False|False|Arial|8|0||0|\r\nP|Photo|0|0|9|9|\r\n",
-         "[Formulas      ]Sum,Qty * Price|\r\n");
+    openSheet("F|Sum|0|0|9|9;F|Sum|0|0|9|9|True|False|False|Arial|8|0|;L|Hi|0|0|9|9;P|Photo|0|0|9|9|", false,
+              records().section("Formulas", "Sum,Qty * Price|"));
     layout::select(app, {Family::tLabel, 1});
     objects.tLabel[1].BackColor = 0;
     layout::select(app, {Family::layoutField, 1});
@@ -18,7 +18,7 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     layout::select(app, {Family::imgHolder, 1});
     platform.clipboardPicture = "damaged";
     layout::mnuImportImage_Click(app);
-    EXPECT_EQ(program.told() + objects.imgHolder[1].ToolTipText,
+    EXPECT_EQ(told() + objects.imgHolder[1].ToolTipText,
               "! The picture in the clipboard cannot be read.bolt.jpg");
 
     const auto find = [&](auto qty) { search::findRecords(app, {{{"Qty", search::exact, qty, ""}}}); };
@@ -27,24 +27,24 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
     find("99");
     shell::SSTab1_Click(app, app::layoutTab);
     entry::layoutNavBar_ButtonClick(app, "Update");
-    EXPECT_EQ(objects.layoutField[1].Text + program.told(), "i There is no record on the page.");
+    EXPECT_EQ(objects.layoutField[1].Text + told(), "i There is no record on the page.");
     find("7");
     entry::layoutNavBar_ButtonClick(app, "First");
     EXPECT_EQ(app.mainFrm.listScroll, app::ListScroll::ToCurrent);
     search::mnuSearch_Click(app); // and closed again
     EXPECT_EQ(objects.layoutField[1].Text, "");
     find("7");
-    program.run("Search");
-    EXPECT_EQ(program.cells(app.document.LV3), "|;|;|;") << "the sums of a result";
+    run("Search");
+    EXPECT_EQ(cells(app.document.LV3), "|;|;|;") << "the sums of a result";
     EXPECT_FALSE(app.mainFrm.control("Delete").Enabled) << "on the page";
     app.document.LV.at(1).cells[4] = "Undefined";
     app.changes.announce(app, app::Change::Columns);
     EXPECT_EQ(objects.layoutField[1].Text, "Undefined");
 
-    program.openCopyOf("invoices.fwk");
+    openCopyOf("invoices.fwk");
     app.document.bInvoiceStyle = false; // a new database that was cancelled half-way
     app.document.iLV.setSelectedItem(&app.document.iLV.at(2));
     platform.answers = {platform::Answer::Yes};
-    program.run("Delete");
+    run("Delete");
     EXPECT_TRUE(app.document.LV.find("i2") == nullptr && app.document.iLV.findText("i2") == nullptr);
 }

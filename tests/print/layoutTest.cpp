@@ -1,7 +1,8 @@
 #include "print/layoutPrinting.h"
 #include "print/printCommands.h"
 #include "printRecorder.h"
-#include "results.h"
+#include "search/searchEngine.h"
+#include "search/searchMode.h"
 #include "shell/mainWindow.h"
 #include "storage/saveFile.h"
 #include "table.h"
@@ -187,10 +188,11 @@ TEST_F(Layout, ManyLayoutsStandInAGrid) {
     EXPECT_EQ(platform.printed.ends, "|.") << "a full last page is the last";
     // The results are fewer than the records, whose count decides about the next sheet.
     openRecords(90, oneField);
-    showResults(app, {"i7", "i9"});
+    search::takeOverColumns(app);
+    search::findRecords(app, {{{"Name", search::within, "r9", ""}}});
     printed();
     run("Print_All_As_Multiple_Layouts");
-    EXPECT_EQ(told() + printed(), "r7 r9/|.");
+    EXPECT_EQ(told() + printed(), "r9 r90/|.");
 }
 
 // What sets the room that one layout takes.

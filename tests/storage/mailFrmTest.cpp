@@ -5,7 +5,7 @@
 
 namespace {
 
-class Machine : public ScriptedPlatform {
+class MailMachine : public ScriptedPlatform {
 public:
     platform::MailStart sendMail(const platform::MailMessage& message,
                                  const std::function<void()>& failed) override {
@@ -19,7 +19,7 @@ public:
 };
 
 TEST(MailFrm, Sending) {
-    ProgramOn<Machine> program("books.fwk");
+    ProgramOn<MailMachine> program("books.fwk");
     storage::mailFrm form(program.app);
     const std::string file = program.app.document.currentFile, mail = "a@b.c/Books/Hello/" + file + ";";
     using platform::MailStart;

@@ -119,7 +119,7 @@ private:
         if (event.what == Tab) hands_.showTab(which % 3);
         if (event.what == Row && list != nullptr && !list->empty())
             hands_.clickRow(*list, which % list->count() + 1, event.how % 2 == 1);
-        if (event.what == Find) hands_.find(name, event.how % 8 == 0);
+        if (event.what == Find) hands_.find(event.how % 8 == 1 ? "" : name, event.how % 8 == 0);
         if (event.what == Leave && app_.mainFrm.control("Search").Value) hands_.command("Search");
         if (event.what == Focus && isPage) hands_.focusField(1 + which % 4);
         if (event.what == TypeName && isPage) hands_.type(2, name);
