@@ -155,7 +155,7 @@ do Design; tool Rows; drag layoutField1 0,160; drag layoutField2 0,160; drag lay
 click layoutField1 -> place At 0.17, 1.92 Size 0.83 x 0.2 in
 click layoutField4; tool Field No; tool Field Customer; drag layoutField10 200,0; tool Field Total; drag layoutField11 0,340 -> objects 11, place At 1, 3.75 Size 1.26 x 0.2 in, text Item|Qty|Price|Line|Item|Qty|Price|Line|No|Customer|Total|
 do Design -> keys qt_tabwidget_tabbar, messages 1, place -, sheet none, text |||||||||||
-nav New; fill Customer Ann; fill Item Bolt; fill Qty 2x; fill Price 150; fill Item.2 Nut; fill Qty.2 3; fill Price.2 2.5 -> keys layoutField7 at 3-3, record Record 1 of 1, sheet 19 0, text Bolt|2|150|$.00|Nut|3|2.5|$.00|1|Ann|$.00|
+nav New; fill Customer Ann; fill Item Bolt; fill Qty 2x; fill Price 150; fill Item.2 Nut; fill Qty.2 3; fill Price.2 2.5 -> keys layoutField7 at 3-3, record New record, sheet 19 0, text Bolt|2|150|$.00|Nut|3|2.5|$.00|1|Ann|$.00|
 into Line -> keys layoutField4 at 0-0, text Bolt|2|$1.50|$3.00|Nut|3|$2.50|$7.50|1|Ann|$11.34|
 fill Qty 100; into Total -> keys layoutField11 at 0-0, text Bolt|100|$1.50|$150.00|Nut|3|$2.50|$7.50|1|Ann|$170.10|
 nav New; fill Customer Bo; fill Item Nut; fill Qty 4; fill Price 2.5; nav Update -> keys layoutField3 at 0-0, record Record 2 of 2, status 2 records. Document Modified, text Nut|4|$2.50|$10.00||||$.00|2|Bo|$10.80|
@@ -169,7 +169,7 @@ click viewOpt0; row 1 A iLV; tab 1 -> also 96, keys layoutPic2, objects 11, page
 tab 0; do Search -> arrow -1 0, current 1 Bo|Nut, keys searchLV, list searchLV Ann|Nut|3|$2.50|$7.50;Bo|Nut|4|$2.50|$10.00;------|------|7|------|------, page 0, rows 1 , top 0
 double searchLV 40,25 -> keys layoutPic2, objects 11, page 1, record Record 2 of 2, sheet 19 0, text Nut|4|$2.50|$10.00||||$.00|2|Bo|$10.80|
 fill Qty 5; into Total -> keys layoutField11 at 0-0, text Nut|5|$2.50|$12.50||||$.00|2|Bo|$13.50|
-nav New; fill Customer Di; into Total -> record -, status 3 records. Document Modified, text |||$.00||||$.00|3|Di|$.00|
+nav New; fill Customer Di; into Total -> record New record, status 3 records. Document Modified, text |||$.00||||$.00|3|Di|$.00|
 slide Slider1 2; fill Customer Al; into Total -> record Record 2 of 2, text Nut|5|$2.50|$12.50||||$.00|2|Al|$13.50|
 tab 0 -> arrow -1 0, current 1 Al|Nut, keys searchLV, list searchLV Ann|Nut|3|$2.50|$7.50;Al|Nut|5|$2.50|$12.50;------|------|7|------|------, page 0, rows 1 , top 0
 do Search -> current 2 Al|Nut, keys iLV, list iLV Ann|Bolt|100|$1.50|$150.00;Ann|Nut|3|$2.50|$7.50;Al|Nut|5|$2.50|$12.50;------|------|108|------|------, rows 2
