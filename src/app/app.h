@@ -2,6 +2,7 @@
 
 #include "app/changes.h"
 #include "app/mainFrm.h"
+#include "app/roomStates.h"
 #include "core/document.h"
 #include "platform/platform.h"
 
@@ -18,6 +19,7 @@ struct App {
     core::Document document;
     MainFrm mainFrm{document.LV};
     platform::Platform& platform;
+    RoomStates rooms;
     Changes changes; // whoever follows a change is told of it here
 };
 

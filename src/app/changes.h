@@ -13,6 +13,8 @@ struct App;
 // What has changed under the rest of the house.
 enum class Change {
     Columns,       // one was added, renamed, retyped or removed
+    Objects,       // some of the layout page may have gone
+    PageEmptied,   // all of them have
     Values,        // all records were calculated anew
     CurrentRecord, // another record is the current one, or what it holds was changed behind the page
     Page,          // the layout page was set up for browsing, and shows nothing yet

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "app/layoutPage.h"
-#include "app/previewPage.h"
 #include "core/recordsList.h"
 
 #include <array>
@@ -62,9 +60,6 @@ struct MainFrm {
     int iPrintMode = printReport;
     int iFieldFocus = 0;     // Index of the layout field that last had the focus
     bool bCalcError = false; // a calculation has failed; a recalculation of all rows reads and clears it
-
-    LayoutPage layoutPage;
-    PreviewPage previewPage;
 
     // The user's settings.
     bool bConfirmDelete = true;

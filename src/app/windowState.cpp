@@ -85,12 +85,4 @@ void allowManySelected(App& app) {
     if (app.mainFrm.SSTab1 == reportTab) app.document.LV.MultiSelect = true;
 }
 
-void forgetLostObject(App& app) {
-    LayoutPage& page = app.mainFrm.layoutPage;
-    if (!page.selectedObject.isObject() || findObject(app.document.layout, page.selectedObject) != nullptr)
-        return;
-    page.selectedObject = {};
-    page.Handle.Visible = false;
-}
-
 } // namespace app

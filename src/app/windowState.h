@@ -25,8 +25,6 @@ void showReportTab(App& app);
 // Several records can be selected again wherever they are on view: a command that has worked on one at a time
 // leaves the list so.
 void allowManySelected(App& app);
-// Deselects the object of the layout page that is selected but there no longer.
-void forgetLostObject(App& app);
 // The buttons that work on the records alone follow the tab.
 void enableTabButtons(App& app);
 

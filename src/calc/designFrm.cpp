@@ -143,7 +143,7 @@ void designFrm::deleteBtn_Click() {
     const std::string name = List1[static_cast<std::size_t>(selectedRow)].Name;
     if (name.empty() || !confirmRemoval(name)) return;
     removeColumn(app_.document, name);
-    app::forgetLostObject(app_); // it may have been a field of the column
+    app_.changes.announce(app_, app::Change::Objects); // it may have been a field of the column
     fieldTxt.clear();
     List1.erase(List1.begin() + selectedRow);
     selectedRow = std::min(selectedRow, static_cast<int>(List1.size()) - 1);

@@ -4,6 +4,7 @@
 #include "cli/session.h"
 #include "core/text.h"
 #include "print/layoutPrinting.h"
+#include "print/previewPage.h"
 #include "print/reportPrinting.h"
 #include "storage/openFile.h"
 #ifdef FERROWICK_PRINTS
@@ -95,7 +96,7 @@ int printReport(const Options& options) {
     printInto(session, options, [&](app::App& app, DrawTarget& target) {
         chooseColumns(session, options);
         if (options.hasTitle) app.document.reportData.reportTitle = options.title;
-        app.mainFrm.previewPage.bReportSelectedOnly = false;
+        print::previewPage(app).bReportSelectedOnly = false;
         print::drawReport(app, target, print::reportList(app));
     });
     return done;
@@ -115,8 +116,8 @@ std::vector<int> rowsOf(const Options& options, core::RecordsList& list) {
 
 void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) {
     app.mainFrm.selectedRows = rows;
-    app.mainFrm.previewPage.bLayoutSelectedOnly = !rows.empty();
-    app.mainFrm.previewPage.iLayoutIndex = 0;
+    print::previewPage(app).bLayoutSelectedOnly = !rows.empty();
+    print::previewPage(app).iLayoutIndex = 0;
     app.mainFrm.theListView->MultiSelect = false;
     if (!print::PrintMultipleLayouts(app, target))
         throw Failure(app.document.currentFile, "no layout fits on a sheet");

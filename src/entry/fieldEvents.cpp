@@ -59,7 +59,7 @@ void layoutField_LostFocus(App& app, int index) {
 }
 
 void layoutField_KeyDown(App& app, int KeyCode) {
-    if (KeyCode == backspaceKey) app.mainFrm.layoutPage.bFieldChanged = true;
+    if (KeyCode == backspaceKey) sheet(app).bFieldChanged = true;
 }
 
 bool layoutField_KeyPress(App& app, int index, char32_t character) {
@@ -78,7 +78,7 @@ int layoutField_Change(App& app, int index, std::string_view text) {
     LayoutField* field = app.document.layout.layoutField.find(index);
     if (field == nullptr || !isBrowsing(app)) return -1;
     field->Text = text;
-    bool& bFieldChanged = app.mainFrm.layoutPage.bFieldChanged;
+    bool& bFieldChanged = sheet(app).bFieldChanged;
     if (bFieldChanged) {
         bFieldChanged = false;
         return -1;

@@ -1,4 +1,5 @@
 #include "entry/navBar.h"
+#include "layout/layoutPage.h"
 
 #include "calc/serialNumbers.h"
 #include "core/runTimeError.h"
@@ -72,7 +73,7 @@ void goLast(App& app) {
 }
 
 void newRecord(App& app) {
-    app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
+    sheet(app).bFieldChanged = false; // the texts change, which ends what Backspace has begun
     Document& document = app.document;
     clearSheet(app);
     proposeValues(app);
@@ -86,7 +87,7 @@ void newRecord(App& app) {
         document.searchLV.setSelectedItem(nullptr);
     }
     bindSheet(app);
-    app.mainFrm.layoutPage.layoutPic2.Visible = true;
+    layout::layoutPage(app).layoutPic2.Visible = true;
 }
 
 // The record that is meant by a button, or nothing after a message. A sheet of a new record has none yet,

@@ -31,12 +31,13 @@ void retrieveFields(App& app) {
         Item* record = recordOfRow(app);
         if (record == nullptr) return;
         if (record != app.document.LV.selectedItem()) app.document.LV.setSelectedItem(record);
+        sheet(app).bFieldChanged = false; // as below
         invoice::retrieveInvoiceRecord(app);
         return;
     }
     const Item* record = currentRecord(app);
     if (record == nullptr) return;
-    app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
+    sheet(app).bFieldChanged = false; // the texts change, which ends what Backspace has begun
     app.document.layout.layoutField.forEach([&](core::LayoutField& field) {
         // A field whose column has been removed shows nothing.
         const Column* column = app.document.LV.columns.find(field.Tag);

@@ -17,7 +17,7 @@ Item* recordOfRow(app::App& app) {
 }
 
 Item* recordOnSheet(app::App& app) {
-    const app::LayoutPage& page = app.mainFrm.layoutPage;
+    const Sheet& page = sheet(app);
     if (app.mainFrm.SSTab1 != app::layoutTab || layout::isDesignMode(app)) return nullptr;
     if (page.shownKey.empty() || page.shownList != app.mainFrm.theListView) return nullptr;
     Item* record = recordOfRow(app);
@@ -27,13 +27,13 @@ Item* recordOnSheet(app::App& app) {
 void bindSheet(app::App& app) {
     const Item* record = recordOfRow(app);
     const bool isRecord = record != nullptr && !record->isTotals();
-    app.mainFrm.layoutPage.shownList = app.mainFrm.theListView;
-    app.mainFrm.layoutPage.shownKey = isRecord ? record->Key.str() : std::string();
+    sheet(app).shownList = app.mainFrm.theListView;
+    sheet(app).shownKey = isRecord ? record->Key.str() : std::string();
 }
 
 void unbindSheet(app::App& app) {
-    app.mainFrm.layoutPage.shownList = nullptr;
-    app.mainFrm.layoutPage.shownKey.clear();
+    sheet(app).shownList = nullptr;
+    sheet(app).shownKey.clear();
 }
 
 } // namespace entry

@@ -4,6 +4,18 @@
 
 namespace entry {
 
+// The layout page's sheet and the record that it shows.
+struct Sheet {
+    // The list that the record was read from, and its key in LV. Empty when the sheet shows none, or a new
+    // one that is not stored yet.
+    const core::RecordsList* shownList = nullptr;
+    std::string shownKey;
+    bool bFieldChanged = false; // the next change of a field is a deletion: no date mask
+};
+inline Sheet& sheet(const app::App& app) {
+    return app.rooms.of<Sheet>();
+}
+
 // The record of LV behind the row that commands work on. Search results are copies: of records by their
 // keys, of invoices by their texts. nullptr when there is none.
 core::Item* recordOfRow(app::App& app);

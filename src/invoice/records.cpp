@@ -46,7 +46,6 @@ void retrieveInvoiceRecord(App& app) {
     core::Document& document = app.document;
     const Item* record = document.LV.selectedItem();
     if (document.LV.count() < 2 || record == nullptr) return;
-    app.mainFrm.layoutPage.bFieldChanged = false; // the texts change, which ends what Backspace has begun
     const calc::ItemColumns items(document);
     std::map<std::string_view, std::size_t> rows; // how many fields of a group have been filled
     document.layout.layoutField.forEach([&](LayoutField& field) {

@@ -1,4 +1,5 @@
 #include "layout/dragging.h"
+#include "layout/layoutPage.h"
 
 #include "core/number.h"
 #include "layout/images.h"
@@ -11,7 +12,6 @@
 namespace layout {
 
 using app::App;
-using app::LayoutPage;
 using core::Family;
 using core::LayoutObject;
 using core::ObjectRef;
@@ -19,11 +19,11 @@ using core::ObjectRef;
 namespace {
 
 float snapped(double distance) {
-    return static_cast<float>(core::roundHalfEven(distance / app::gridStep) * app::gridStep);
+    return static_cast<float>(core::roundHalfEven(distance / gridStep) * gridStep);
 }
 
 bool hasTravelled(long position, long last) {
-    return position > last + app::gridStep || position < last - app::gridStep;
+    return position > last + gridStep || position < last - gridStep;
 }
 
 // A field and a picture box are told the pointer inside their border, two pixels wide.
@@ -37,7 +37,7 @@ core::LayoutField* headOf(App& app, ObjectRef object) {
 }
 
 void moveTo(App& app, LayoutObject& object, long X, long Y) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     if (app.mainFrm.bSnapToGrid) {
         if (hasTravelled(X, page.lastX)) {
             object.Left = snapped(static_cast<double>(X - page.iMouseX));
@@ -77,7 +77,7 @@ void sizeByGrid(LayoutPage& page, LayoutObject& object, long X, long Y) {
 }
 
 void sizeTo(App& app, LayoutObject& object, long X, long Y) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     if (static_cast<float>(X) > object.Left && static_cast<float>(Y) > object.Top) {
         if (app.mainFrm.bSnapToGrid)
             sizeByGrid(page, object, X, Y);
@@ -91,7 +91,7 @@ void sizeTo(App& app, LayoutObject& object, long X, long Y) {
 }
 
 bool begin(App& app, ObjectRef object, LayoutPage::Drag drag) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     if (!isDesignMode(app) || isLocked(app, object) || findObject(app.document.layout, object) == nullptr)
         return false;
     page.drag = drag;
@@ -123,7 +123,7 @@ void stackCopies(App& app, const core::LayoutField& head, bool withSize) {
 
 bool beginMove(App& app, ObjectRef object, int iMouseX, int iMouseY, long X, long Y) {
     if (!begin(app, object, LayoutPage::Drag::Move)) return false;
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     page.iMouseX = iMouseX;
     page.iMouseY = iMouseY;
     page.lastX = X;
@@ -135,7 +135,7 @@ bool beginMove(App& app, ObjectRef object, int iMouseX, int iMouseY, long X, lon
 
 bool beginResize(App& app, ObjectRef object, long X, long Y) {
     if (!begin(app, object, LayoutPage::Drag::Resize)) return false;
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     page.lastX = X;
     page.lastY = Y;
     dragTo(app, X, Y);
@@ -143,7 +143,7 @@ bool beginResize(App& app, ObjectRef object, long X, long Y) {
 }
 
 void dragTo(App& app, long X, long Y) {
-    const LayoutPage& page = app.mainFrm.layoutPage;
+    const LayoutPage& page = layoutPage(app);
     if (page.drag == LayoutPage::Drag::HorizontalGuide || page.drag == LayoutPage::Drag::VerticalGuide) {
         dragGuide(app, X, Y);
         return;
@@ -155,7 +155,7 @@ void dragTo(App& app, long X, long Y) {
 }
 
 void endDrag(App& app) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     const LayoutPage::Drag drag = std::exchange(page.drag, LayoutPage::Drag::None);
     page.ruler1.line.reset();
     page.ruler2.line.reset();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "core/objectRef.h"
 
 namespace layout {
 

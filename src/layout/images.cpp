@@ -1,4 +1,5 @@
 #include "layout/images.h"
+#include "layout/layoutPage.h"
 
 #include "app/hourglass.h"
 #include "core/runTimeError.h"
@@ -218,7 +219,7 @@ std::string storeClipboardImage(App& app, const FittedImage& image) {
 }
 
 void mnuImportImage_Click(App& app) {
-    const core::ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const core::ObjectRef selected = layoutPage(app).selectedObject;
     core::LayoutObjects& objects = app.document.layout;
     try {
         if (selected.family == core::Family::imgHolder) {

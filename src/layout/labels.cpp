@@ -1,4 +1,5 @@
 #include "layout/labels.h"
+#include "layout/layoutPage.h"
 
 #include "layout/sheet.h"
 
@@ -16,12 +17,12 @@ void tLabel_DblClick(App& app, int index) {
     core::Label* label = app.document.layout.tLabel.find(index);
     if (label == nullptr || !isDesignMode(app)) return;
     label->Locked = false;
-    app.mainFrm.layoutPage.bEditingLabel = true;
+    layoutPage(app).bEditingLabel = true;
 }
 
 void tLabel_LostFocus(App& app, int index) {
     if (core::Label* label = app.document.layout.tLabel.find(index)) label->Locked = true;
-    app.mainFrm.layoutPage.bEditingLabel = false;
+    layoutPage(app).bEditingLabel = false;
 }
 
 void tLabel_Change(App& app, int index, std::string_view text) {
@@ -37,7 +38,7 @@ bool tLabel_KeyPress(App& app, int KeyAscii) {
 }
 
 void setLabelLink(App& app) {
-    const core::ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const core::ObjectRef selected = layoutPage(app).selectedObject;
     if (selected.family != core::Family::tLabel) return;
     core::Label* label = app.document.layout.tLabel.find(selected.Index);
     if (label == nullptr) return;

@@ -1,4 +1,5 @@
 #include "layout/objects.h"
+#include "layout/layoutPage.h"
 
 #include "core/number.h"
 #include "core/text.h"
@@ -22,7 +23,7 @@ Object& add(App& app, core::ControlArray<Object>& family) {
     Object& object = family.load(family.lowestFreeIndex());
     object.Visible = true;
     object.Left = static_cast<float>(app.document.layoutOptions.layoutLeftMargin * twipsPerInch);
-    object.Top = static_cast<float>(app.mainFrm.layoutPage.layoutVScroll.Value) + object.Height;
+    object.Top = static_cast<float>(layoutPage(app).layoutVScroll.Value) + object.Height;
     core::bringToFront(app.document.layout, object);
     return object;
 }
@@ -46,7 +47,7 @@ std::string spokenName(const std::string& tag) {
 }
 
 core::LayoutField* selectedField(App& app) {
-    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const ObjectRef selected = layoutPage(app).selectedObject;
     return selected.family == Family::layoutField ? app.document.layout.layoutField.find(selected.Index)
                                                   : nullptr;
 }
@@ -57,7 +58,7 @@ void forSelectedGroup(App& app, Visitor&& visit) {
     core::LayoutObjects& layout = app.document.layout;
     core::LayoutField* field = selectedField(app);
     if (field == nullptr || !isRepeatedField(layout, *field)) {
-        visit(app.mainFrm.layoutPage.selectedObject);
+        visit(layoutPage(app).selectedObject);
         return;
     }
     const std::string tag = field->Tag;
@@ -103,10 +104,10 @@ platform::FontChoice presentFont(core::LayoutObjects& layout, ObjectRef object) 
 
 // A label that goes while it is typed in is no longer open.
 void closeSelectedLabel(App& app) {
-    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const ObjectRef selected = layoutPage(app).selectedObject;
     if (selected.family != Family::tLabel) return;
     const core::Label* label = app.document.layout.tLabel.find(selected.Index);
-    if (label != nullptr && !label->Locked) app.mainFrm.layoutPage.bEditingLabel = false;
+    if (label != nullptr && !label->Locked) layoutPage(app).bEditingLabel = false;
 }
 
 } // namespace
@@ -122,7 +123,7 @@ void addFieldBox(App& app, const std::string& key) {
     field.Text = key;
     field.BackColor = fieldBackColor(app, field);
     field.align = app.document.isNumericColumn(key) ? core::Alignment::Right : core::Alignment::Left;
-    app.mainFrm.layoutPage.Handle.bLocked = false;
+    layoutPage(app).Handle.bLocked = false;
     selectNew(app, {Family::layoutField, field.Index});
 }
 
@@ -134,7 +135,7 @@ void addPictureField(App& app, const std::string& key) {
     }
     core::ImgHolder& holder = add(app, layout.imgHolder);
     holder.Tag = key;
-    app.mainFrm.layoutPage.Handle.bLocked = false;
+    layoutPage(app).Handle.bLocked = false;
     selectNew(app, {Family::imgHolder, holder.Index});
 }
 
@@ -147,7 +148,7 @@ void addClipArt(App& app) {
 void addLabel(App& app, bool bAutoName) {
     core::LayoutObjects& layout = app.document.layout;
     core::Label& label = add(app, layout.tLabel);
-    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const ObjectRef selected = layoutPage(app).selectedObject;
     const bool isBound = selected.family == Family::layoutField || selected.family == Family::imgHolder;
     const LayoutObject* bound = isBound ? findObject(layout, selected) : nullptr;
     if (bAutoName && bound != nullptr) {
@@ -190,7 +191,7 @@ void eraseLayout(App& app) {
 }
 
 void flipFontStyle(App& app, FontStyle style) {
-    core::ObjectFont* font = findFont(app.document.layout, app.mainFrm.layoutPage.selectedObject);
+    core::ObjectFont* font = findFont(app.document.layout, layoutPage(app).selectedObject);
     if (font == nullptr) return;
     bool& property = style == FontStyle::Bold     ? font->FontBold
                      : style == FontStyle::Italic ? font->FontItalic
@@ -199,8 +200,7 @@ void flipFontStyle(App& app, FontStyle style) {
 }
 
 void setObjectFont(App& app) {
-    const platform::FontChoice before =
-        presentFont(app.document.layout, app.mainFrm.layoutPage.selectedObject);
+    const platform::FontChoice before = presentFont(app.document.layout, layoutPage(app).selectedObject);
     const std::optional<platform::FontChoice> choice = app.platform.showFont(before);
     if (!choice) return;
     forSelectedGroup(app, [&](ObjectRef object) { setFont(app, object, before, *choice); });

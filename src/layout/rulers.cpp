@@ -1,10 +1,9 @@
 #include "layout/rulers.h"
+#include "layout/layoutPage.h"
 
 namespace layout {
 
 using app::App;
-using app::Guide;
-using app::LayoutPage;
 
 namespace {
 
@@ -21,7 +20,7 @@ void take(LayoutPage& page, LayoutPage::Drag drag, int index) {
 } // namespace
 
 void ruler1_Click(App& app, float ruleClickX) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     Guide& guide = page.rulePic2.load(page.rulePic2.lowestFreeIndex());
     guide.Left = ruleClickX;
     guide.Top = page.ruler1.Height / 2;
@@ -29,7 +28,7 @@ void ruler1_Click(App& app, float ruleClickX) {
 }
 
 void ruler2_Click(App& app, float ruleClickY) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     Guide& guide = page.rulePic.load(page.rulePic.lowestFreeIndex());
     guide.Left = page.ruler2.Width / 2 - 15;
     guide.Top = ruleClickY;
@@ -37,17 +36,17 @@ void ruler2_Click(App& app, float ruleClickY) {
 }
 
 void rulePic_MouseDown(App& app, int index, int Y) {
-    app.mainFrm.layoutPage.iMouseY = Y;
-    take(app.mainFrm.layoutPage, LayoutPage::Drag::HorizontalGuide, index);
+    layoutPage(app).iMouseY = Y;
+    take(layoutPage(app), LayoutPage::Drag::HorizontalGuide, index);
 }
 
 void rulePic2_MouseDown(App& app, int index, int X) {
-    app.mainFrm.layoutPage.iMouseX = X;
-    take(app.mainFrm.layoutPage, LayoutPage::Drag::VerticalGuide, index);
+    layoutPage(app).iMouseX = X;
+    take(layoutPage(app), LayoutPage::Drag::VerticalGuide, index);
 }
 
 void dragGuide(App& app, long X, long Y) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     if (page.drag == LayoutPage::Drag::HorizontalGuide) {
         Guide* guide = page.rulePic.find(page.draggedGuide);
         if (guide == nullptr) return;
@@ -62,18 +61,18 @@ void dragGuide(App& app, long X, long Y) {
 }
 
 void rulePic_DblClick(App& app, int index) {
-    app.mainFrm.layoutPage.drag = LayoutPage::Drag::None;
-    app.mainFrm.layoutPage.rulePic.unload(index);
+    layoutPage(app).drag = LayoutPage::Drag::None;
+    layoutPage(app).rulePic.unload(index);
 }
 
 void rulePic2_DblClick(App& app, int index) {
-    app.mainFrm.layoutPage.drag = LayoutPage::Drag::None;
-    app.mainFrm.layoutPage.rulePic2.unload(index);
+    layoutPage(app).drag = LayoutPage::Drag::None;
+    layoutPage(app).rulePic2.unload(index);
 }
 
 void clearGuides(App& app) {
-    app.mainFrm.layoutPage.rulePic.unloadAll();
-    app.mainFrm.layoutPage.rulePic2.unloadAll();
+    layoutPage(app).rulePic.unloadAll();
+    layoutPage(app).rulePic2.unloadAll();
 }
 
 } // namespace layout

@@ -1,4 +1,5 @@
 #include "layout/selection.h"
+#include "layout/layoutPage.h"
 
 #include "layout/dragging.h"
 #include "layout/images.h"
@@ -16,7 +17,6 @@
 namespace layout {
 
 using app::App;
-using app::LayoutPage;
 using core::Family;
 using core::LayoutObject;
 using core::ObjectRef;
@@ -32,24 +32,24 @@ bool isText(Family family) {
 }
 
 void whitenSelectedLabel(App& app) {
-    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const ObjectRef selected = layoutPage(app).selectedObject;
     if (selected.family != Family::tLabel) return;
     if (core::Label* label = app.document.layout.tLabel.find(selected.Index)) label->BackColor = core::white;
 }
 
 bool startsDrag(const App& app, ObjectRef object, MouseButton button) {
     if (isText(object.family) && button == MouseButton::Middle) return false;
-    return object.family != Family::tLabel || !app.mainFrm.layoutPage.bEditingLabel;
+    return object.family != Family::tLabel || !layoutPage(app).bEditingLabel;
 }
 
 // Ctrl and an arrow move by a grid step without aligning to the grid, and locks do not count: it is wanted
 // so.
 void moveByKey(App& app, int KeyCode) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     LayoutObject* object = findObject(app.document.layout, page.selectedObject);
     if (object == nullptr) return;
-    const float stepX = app.mainFrm.bSnapToGrid ? app::gridStep : page.TwipsPerPixelX;
-    const float stepY = app.mainFrm.bSnapToGrid ? app::gridStep : page.TwipsPerPixelY;
+    const float stepX = app.mainFrm.bSnapToGrid ? gridStep : page.TwipsPerPixelX;
+    const float stepY = app.mainFrm.bSnapToGrid ? gridStep : page.TwipsPerPixelY;
     if (KeyCode == keyRight) object->Left += stepX;
     if (KeyCode == keyLeft) object->Left -= stepX;
     if (KeyCode == keyDown) object->Top += stepY;
@@ -91,13 +91,13 @@ bool isLocked(const App& app, ObjectRef object) {
 }
 
 void refreshLockIndicator(App& app) {
-    const bool locked = isLocked(app, app.mainFrm.layoutPage.selectedObject);
-    app.mainFrm.layoutPage.Handle.bLocked = locked;
+    const bool locked = isLocked(app, layoutPage(app).selectedObject);
+    layoutPage(app).Handle.bLocked = locked;
     app.mainFrm.control("layoutToolbar.Lock").Value = locked;
 }
 
 void toggleObjectLock(App& app) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     if (!page.selectedObject.isObject()) return;
     const std::optional<std::size_t> lock = lockOf(app, page.selectedObject);
     page.Handle.bLocked = !lock;
@@ -109,7 +109,7 @@ void toggleObjectLock(App& app) {
 }
 
 void placeHandle(App& app, ObjectRef object) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     const LayoutObject* placed = findObject(app.document.layout, object);
     page.Handle.Left =
         placed != nullptr ? placed->Left + placed->Width : page.layoutPic2.Left + page.layoutPic2.Width;
@@ -120,12 +120,12 @@ void placeHandle(App& app, ObjectRef object) {
 
 void select(App& app, ObjectRef object) {
     whitenSelectedLabel(app);
-    app.mainFrm.layoutPage.selectedObject = object;
+    layoutPage(app).selectedObject = object;
 }
 
 void selectNothing(App& app) {
-    app.mainFrm.layoutPage.selectedObject = {};
-    app.mainFrm.layoutPage.Handle.Visible = false;
+    layoutPage(app).selectedObject = {};
+    layoutPage(app).Handle.Visible = false;
 }
 
 ObjectRef grabbedObject(const App& app, ObjectRef hit, long pointerX, long pointerY) {
@@ -133,7 +133,7 @@ ObjectRef grabbedObject(const App& app, ObjectRef hit, long pointerX, long point
     const core::LayoutObjects& layout = app.document.layout;
     const LayoutObject* behind = hit.family == Family::pBox ? findObject(layout, hit) : nullptr;
     ObjectRef nearest = hit;
-    float least = lineReach * app.mainFrm.layoutPage.TwipsPerPixelX;
+    float least = lineReach * layoutPage(app).TwipsPerPixelX;
     const auto consider = [&](Family family, const core::LineObject& line) {
         if (!line.Visible || (behind != nullptr && line.zOrder < behind->zOrder)) return;
         const float far = distance(line, static_cast<float>(pointerX), static_cast<float>(pointerY));
@@ -147,7 +147,7 @@ ObjectRef grabbedObject(const App& app, ObjectRef hit, long pointerX, long point
 }
 
 std::string selectionText(App& app) {
-    const LayoutPage& page = app.mainFrm.layoutPage;
+    const LayoutPage& page = layoutPage(app);
     const LayoutObject* object = findObject(app.document.layout, page.selectedObject);
     if (object == nullptr || app.mainFrm.SSTab1 != app::layoutTab || !isDesignMode(app)) return {};
     const auto inches = [](float twips) {
@@ -214,7 +214,7 @@ void object_DblClick(App& app, ObjectRef object) {
 }
 
 void Handle_MouseDown(App& app, long pointerX, long pointerY) {
-    beginResize(app, app.mainFrm.layoutPage.selectedObject, pointerX, pointerY);
+    beginResize(app, layoutPage(app).selectedObject, pointerX, pointerY);
 }
 
 void Handle_MouseUp(App& app) {
@@ -225,7 +225,7 @@ bool Form_KeyDown(App& app, int KeyCode, int Shift) {
     const bool designing = app.mainFrm.SSTab1 == app::layoutTab && isDesignMode(app);
     bool used = false;
     if (KeyCode == keyDelete && designing) {
-        const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+        const ObjectRef selected = layoutPage(app).selectedObject;
         const core::Label* label =
             selected.family == Family::tLabel ? app.document.layout.tLabel.find(selected.Index) : nullptr;
         const bool isTypedIn = label != nullptr && !label->Locked;
@@ -236,17 +236,25 @@ bool Form_KeyDown(App& app, int KeyCode, int Shift) {
     }
     if (!designing) return used;
     if (Shift == ctrlShift && KeyCode >= keyLeft && KeyCode <= keyDown &&
-        app.mainFrm.layoutPage.selectedObject.isObject()) {
+        layoutPage(app).selectedObject.isObject()) {
         moveByKey(app, KeyCode);
         used = true;
     }
     // For every key, whether or not anything has moved: it is wanted so.
-    const ObjectRef selected = app.mainFrm.layoutPage.selectedObject;
+    const ObjectRef selected = layoutPage(app).selectedObject;
     if (selected.family == Family::layoutField)
         if (const core::LayoutField* field = app.document.layout.layoutField.find(selected.Index))
             stackCopies(app, *field, false);
     placeHandle(app, selected);
     return used;
+}
+
+void forgetLostObject(App& app) {
+    LayoutPage& page = layoutPage(app);
+    if (!page.selectedObject.isObject() || findObject(app.document.layout, page.selectedObject) != nullptr)
+        return;
+    page.selectedObject = {};
+    page.Handle.Visible = false;
 }
 
 } // namespace layout

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "core/objectRef.h"
 
 #include <string>
 
@@ -45,5 +46,8 @@ std::string selectionText(app::App& app);
 enum Key { keyLeft = 37, keyUp = 38, keyRight = 39, keyDown = 40, keyDelete = 46 };
 bool Form_KeyDown(app::App& app, int KeyCode, int Shift);
 constexpr int ctrlShift = 2;
+
+// Deselects the object that is selected but there no longer.
+void forgetLostObject(app::App& app);
 
 } // namespace layout

@@ -1,4 +1,5 @@
 #include "layout/sheet.h"
+#include "layout/layoutPage.h"
 
 #include "core/number.h"
 #include "layout/images.h"
@@ -12,7 +13,6 @@
 namespace layout {
 
 using app::App;
-using app::LayoutPage;
 using core::Document;
 using core::LayoutField;
 
@@ -78,11 +78,11 @@ void enableToolbars(App& app, bool bDesign) {
     } else {
         app.mainFrm.control("layoutNavBar.Add").Enabled = standard;
     }
-    app.mainFrm.layoutPage.layoutToolbarInFront = bDesign;
+    layoutPage(app).layoutToolbarInFront = bDesign;
 }
 
 void placeMargins(App& app) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     const core::LayoutOptions& options = app.document.layoutOptions;
     // A whole number; a margin beyond what 16 bits hold, which only a damaged file has, is off every sheet.
     constexpr double furthest = std::numeric_limits<std::int16_t>::max();
@@ -120,7 +120,7 @@ std::int32_t fieldBackColor(const App& app, const LayoutField& field) {
 }
 
 void InitLayout(App& app, bool bDesign) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     page.layoutPic2.Visible = false;
     const drawing::Extent extent = pageExtent(app);
     page.layoutPic2.Width = static_cast<float>(extent.Width);
@@ -155,7 +155,7 @@ void refreshLayoutMode(App& app) {
 }
 
 void refreshLayoutButtonMenus(App& app) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     page.fieldMenu.clear();
     page.pictureMenu.clear();
     for (const core::Column& column : app.document.LV.columns) {
@@ -166,7 +166,7 @@ void refreshLayoutButtonMenus(App& app) {
 }
 
 void layoutPic1_Resize(App& app, float width, float height) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     if (page.viewportWidth == width && page.viewportHeight == height) return;
     page.viewportWidth = width;
     page.viewportHeight = height;
@@ -176,7 +176,7 @@ void layoutPic1_Resize(App& app, float width, float height) {
 }
 
 void refreshLayoutScroll(App& app) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     LayoutPage::Sheet& sheet = page.layoutPic2;
     const auto excess = [](float length, float room) {
         return std::max(static_cast<int>(std::ceil(length - room)), 0);
@@ -202,11 +202,11 @@ void refreshLayoutScroll(App& app) {
 }
 
 void layoutVScroll_Change(App& app, int value) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     page.layoutVScroll.Value = std::clamp(value, 0, page.layoutVScroll.Max);
     const auto offset = static_cast<float>(page.layoutVScroll.Value);
     page.layoutPic2.Top = -offset;
-    page.ruler2.Top = app::rulerThickness - offset;
+    page.ruler2.Top = rulerThickness - offset;
     if (page.layoutPic2.Top == -1) page.layoutPic2.Top = page.ruler1.Height;
     if (isDesignMode(app) && page.layoutVScroll.Value == 0) {
         constexpr float creep = 45; // each return to the top takes it off again: it is wanted so
@@ -216,11 +216,11 @@ void layoutVScroll_Change(App& app, int value) {
 }
 
 void layoutHScroll_Change(App& app, int value) {
-    LayoutPage& page = app.mainFrm.layoutPage;
+    LayoutPage& page = layoutPage(app);
     page.layoutHScroll.Value = std::clamp(value, 0, page.layoutHScroll.Max);
     const auto offset = static_cast<float>(page.layoutHScroll.Value);
     page.layoutPic2.Left = -offset;
-    page.ruler1.Left = app::rulerThickness - offset;
+    page.ruler1.Left = rulerThickness - offset;
     if (page.layoutPic2.Left == 0) page.layoutPic2.Left = page.ruler2.Width;
 }
 
@@ -234,13 +234,12 @@ bool isRepeatedField(const core::LayoutObjects& layout, const LayoutField& field
 
 void unloadObjects(App& app) {
     app.document.layout.unloadAll();
-    LayoutPage& page = app.mainFrm.layoutPage;
-    page.shownList = nullptr;
-    page.shownKey.clear();
+    LayoutPage& page = layoutPage(app);
     page.selectedObject = {};
     page.Handle.Visible = false;
     page.drag = LayoutPage::Drag::None;
     page.bEditingLabel = false;
+    app.changes.announce(app, app::Change::PageEmptied);
 }
 
 } // namespace layout

@@ -1,4 +1,5 @@
 #include "layout/toolbar.h"
+#include "layout/layoutPage.h"
 
 #include "core/runTimeError.h"
 #include "layout/labels.h"
@@ -24,14 +25,14 @@ void toggleSnap(App& app) {
 // A new object is not locked, whatever its name was locked for before: the grip says so until it is clicked.
 std::function<void(App&)> adding(void (*add)(App&)) {
     return [add](App& app) {
-        app.mainFrm.layoutPage.Handle.bLocked = false;
+        layoutPage(app).Handle.bLocked = false;
         add(app);
     };
 }
 
 void pressLock(App& app) {
     toggleObjectLock(app);
-    app.mainFrm.control("layoutToolbar.Lock").Value = isLocked(app, app.mainFrm.layoutPage.selectedObject);
+    app.mainFrm.control("layoutToolbar.Lock").Value = isLocked(app, layoutPage(app).selectedObject);
 }
 
 const std::map<std::string_view, std::function<void(App&)>>& routines() {

@@ -1,5 +1,6 @@
 #include "core/number.h"
 #include "core/text.h"
+#include "layout/layoutPage.h"
 #include "print/layoutPrinting.h"
 
 #include <algorithm>
@@ -108,8 +109,8 @@ void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
         const float x = line.Left + dx + line.Width / 2 - static_cast<float>(line.DrawWidth);
         target.Line(x, line.Top + dy, x, line.Top + dy + line.Height);
     });
-    const float pixelX = app.mainFrm.layoutPage.TwipsPerPixelX;
-    const float pixelY = app.mainFrm.layoutPage.TwipsPerPixelY;
+    const float pixelX = layout::layoutPage(app).TwipsPerPixelX;
+    const float pixelY = layout::layoutPage(app).TwipsPerPixelY;
     objects.pBox.forEach([&](const core::BoxObject& box) {
         target.DrawWidth = box.DrawWidth;
         target.ForeColor = box.ForeColor;

@@ -1,4 +1,5 @@
 #include "print/layoutPageSetupFrm.h"
+#include "print/previewPage.h"
 
 #include "core/number.h"
 #include "core/runTimeError.h"
@@ -79,7 +80,7 @@ void layoutPageSetupFrm::showPage() {
     if (app_.mainFrm.iPrintMode == app::printLayout) {
         PrintLayout(app_, rptPreview1(app_));
     } else {
-        app_.mainFrm.previewPage.iLayoutIndex = 0;
+        previewPage(app_).iLayoutIndex = 0;
         PrintMultipleLayouts(app_, rptPreview1(app_));
     }
 }

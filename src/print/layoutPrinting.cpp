@@ -1,4 +1,6 @@
 #include "print/layoutPrinting.h"
+#include "layout/layoutPage.h"
+#include "print/previewPage.h"
 
 #include "core/number.h"
 #include "core/runTimeError.h"
@@ -14,7 +16,6 @@
 namespace print {
 
 using app::App;
-using app::PreviewPage;
 using core::RecordsList;
 using drawing::DrawTarget;
 
@@ -79,7 +80,7 @@ float paddingOf(float room, float each, int count, float spacing) {
 class LayoutGrid {
 public:
     LayoutGrid(App& app, DrawTarget& target)
-        : app_(app), page_(app.mainFrm.previewPage), target_(target), list_(*app.mainFrm.theListView),
+        : app_(app), page_(previewPage(app)), target_(target), list_(*app.mainFrm.theListView),
           chosen_(app.mainFrm.selectedRows) {}
 
     bool print();

@@ -1,4 +1,5 @@
 #include "print/previewNavigation.h"
+#include "print/previewPage.h"
 
 #include "calc/selectedTotals.h"
 #include "print/layoutPrinting.h"
@@ -12,14 +13,13 @@
 namespace print {
 
 using app::App;
-using app::PreviewPage;
 using core::RecordsList;
 
 namespace {
 
 // False where the button draws nothing.
 bool placeReport(App& app, std::string_view key, const RecordsList& list) {
-    PreviewPage& page = app.mainFrm.previewPage;
+    PreviewPage& page = previewPage(app);
     const int lines = page.iReportLinesPerPage;
     if (key == "First") page.iReportStartRow = 1;
     if (key == "Last") page.iReportStartRow = list.count() > lines ? list.count() - lines + 1 : 1;
@@ -47,7 +47,7 @@ void placeRecord(App& app, std::string_view key) {
 }
 
 void placeLayouts(App& app, std::string_view key) {
-    PreviewPage& page = app.mainFrm.previewPage;
+    PreviewPage& page = previewPage(app);
     const int records = app.document.LV.count() - 1;
     int& iLayoutIndex = page.iLayoutIndex;
     if (key == "First") iLayoutIndex = 0;
@@ -60,7 +60,7 @@ void placeLayouts(App& app, std::string_view key) {
 } // namespace
 
 drawing::DrawTarget& rptPreview1(App& app) {
-    drawing::RecordedPage& page = app.mainFrm.previewPage.rptPreview1;
+    drawing::RecordedPage& page = previewPage(app).rptPreview1;
     page.measureWith(app.platform.textMetrics());
     return page;
 }
@@ -68,12 +68,12 @@ drawing::DrawTarget& rptPreview1(App& app) {
 void usePage(App& app, drawing::DrawTarget& target, const drawing::PageSetup& setup) {
     target.setPage(setup);
     if (target.isPrinter()) return;
-    app.mainFrm.previewPage.Visible = true;
+    previewPage(app).Visible = true;
     InitReportPreview(app);
 }
 
 void InitReportPreview(App& app) {
-    PreviewPage& page = app.mainFrm.previewPage;
+    PreviewPage& page = previewPage(app);
     const auto place = [](float pageLength, float portLength, float otherBar, PreviewPage::ScrollBar& bar,
                           float& start, bool centred) {
         if (pageLength > portLength) {
@@ -92,19 +92,19 @@ void InitReportPreview(App& app) {
 }
 
 void rptHScroll1_Change(App& app, int value) {
-    PreviewPage& page = app.mainFrm.previewPage;
+    PreviewPage& page = previewPage(app);
     page.rptHScroll1.Value = std::clamp(value, 0, page.rptHScroll1.Max);
     page.Left = -static_cast<float>(page.rptHScroll1.Value);
 }
 
 void rptVScroll1_Change(App& app, int value) {
-    PreviewPage& page = app.mainFrm.previewPage;
+    PreviewPage& page = previewPage(app);
     page.rptVScroll1.Value = std::clamp(value, 0, page.rptVScroll1.Max);
     page.Top = -static_cast<float>(page.rptVScroll1.Value);
 }
 
 void rptPreview2_Resize(App& app, float width, float height, float barThickness) {
-    PreviewPage& page = app.mainFrm.previewPage;
+    PreviewPage& page = previewPage(app);
     page.rptPreview2 = {width, height};
     page.rptHScroll1.thickness = page.rptVScroll1.thickness = barThickness;
     InitReportPreview(app);
@@ -136,7 +136,7 @@ void reportToolbar_ButtonClick(App& app, std::string_view key) {
 }
 
 bool showPreview(App& app) {
-    PreviewPage& page = app.mainFrm.previewPage;
+    PreviewPage& page = previewPage(app);
     if (app.mainFrm.iPrintMode == app::printReport && app.document.printedCols.empty()) {
         page.Visible = false;
         app::inform(app, "You have not selected any columns to print in the page setup dialog.");

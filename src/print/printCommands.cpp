@@ -1,4 +1,5 @@
 #include "print/printCommands.h"
+#include "print/previewPage.h"
 
 #include "calc/selectedTotals.h"
 #include "print/layoutPrinting.h"
@@ -36,14 +37,14 @@ void printOn(App& app, const std::function<void(DrawTarget& printer)>& print) {
 }
 
 void printReport(App& app, bool bSelectedOnly) {
-    app.mainFrm.previewPage.iReportStartRow = 1;
-    app.mainFrm.previewPage.bReportSelectedOnly = bSelectedOnly;
+    previewPage(app).iReportStartRow = 1;
+    previewPage(app).bReportSelectedOnly = bSelectedOnly;
     // A failure leaves the printer unclosed and goes to the trap of the command, which tells it.
     printOn(app, [&](DrawTarget& printer) { drawReport(app, printer, reportList(app)); });
 }
 
 void printMultiple(App& app) {
-    app.mainFrm.previewPage.iLayoutIndex = 0;
+    previewPage(app).iLayoutIndex = 0;
     printOn(app, [&](DrawTarget& printer) { PrintMultipleLayouts(app, printer); });
 }
 
@@ -76,21 +77,21 @@ void selectedAsLayouts(App& app) {
 
 void printAllAsMultiple(App& app) {
     if (!showPrinterDialog(app)) return;
-    app.mainFrm.previewPage.bLayoutSelectedOnly = false;
+    previewPage(app).bLayoutSelectedOnly = false;
     printMultiple(app);
 }
 
 void printSelectedMultiple(App& app) {
     if (!showPrinterDialog(app)) return;
     calc::collectSelected(app, *app.mainFrm.theListView);
-    app.mainFrm.previewPage.bLayoutSelectedOnly = true;
+    previewPage(app).bLayoutSelectedOnly = true;
     printMultiple(app);
 }
 
 void previewMultiple(App& app, bool bSelectedOnly) {
     if (bSelectedOnly) calc::collectSelected(app, *app.mainFrm.theListView);
-    app.mainFrm.previewPage.bLayoutSelectedOnly = bSelectedOnly;
-    app.mainFrm.previewPage.iLayoutIndex = 0;
+    previewPage(app).bLayoutSelectedOnly = bSelectedOnly;
+    previewPage(app).iLayoutIndex = 0;
     app.mainFrm.iPrintMode = app::printMultipleLayouts;
     app.changes.announce(app, app::Change::Preview);
 }
@@ -149,7 +150,7 @@ void Print_Click(App& app) {
         } else if (app.mainFrm.iPrintMode == app::printLayout) {
             if (showPrinterDialog(app)) printOn(app, [&](DrawTarget& printer) { PrintLayout(app, printer); });
         } else {
-            app.mainFrm.previewPage.bLayoutSelectedOnly = app.mainFrm.selectedRows.size() >= 2;
+            previewPage(app).bLayoutSelectedOnly = app.mainFrm.selectedRows.size() >= 2;
             printMultiple(app);
         }
     });

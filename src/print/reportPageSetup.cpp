@@ -1,4 +1,5 @@
 #include "print/reportPageSetup.h"
+#include "print/previewPage.h"
 
 #include "core/number.h"
 #include "core/text.h"
@@ -64,7 +65,7 @@ void reportPageSetup::saveReportSettings() {
     settings.reportTitle = core::trim(titleTxt);
     settings.bReportBoldHeaders = boldYesOpt;
     app::setDocumentModified(app_, true);
-    app_.mainFrm.previewPage.iReportStartRow = 1;
+    previewPage(app_).iReportStartRow = 1;
 }
 
 bool reportPageSetup::allChk() const {

@@ -1,4 +1,5 @@
 #include "print/reportPrinting.h"
+#include "print/previewPage.h"
 
 #include "core/number.h"
 #include "core/text.h"
@@ -75,8 +76,8 @@ drawing::PageSetup reportPage(App& app) {
 class Report {
 public:
     Report(App& app, DrawTarget& target, RecordsList& theList)
-        : app_(app), document_(app.document), page_(app.mainFrm.previewPage), target_(target),
-          theList_(theList), columns_(reportColumns(app, theList)) {}
+        : app_(app), document_(app.document), page_(previewPage(app)), target_(target), theList_(theList),
+          columns_(reportColumns(app, theList)) {}
 
     void print();
 
@@ -98,7 +99,7 @@ private:
 
     App& app_;
     core::Document& document_;
-    app::PreviewPage& page_;
+    print::PreviewPage& page_;
     DrawTarget& target_;
     RecordsList& theList_;
     std::vector<ReportColumn> columns_;

@@ -3,7 +3,9 @@
 #include "app/windowState.h"
 #include "entry/navBar.h"
 #include "entry/retrieveData.h"
+#include "entry/shownRecord.h"
 #include "invoice/views.h"
+#include "layout/selection.h"
 #include "layout/sheet.h"
 #include "shell/mainWindow.h"
 
@@ -17,6 +19,8 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
         // What is designed shows the names of its columns, and a new record has no results yet.
         if (!layout::isDesignMode(app) && !entry::isSheetNew(app)) entry::refreshShownRecord(app);
     });
+    changes.follow({Change::Objects}, layout::forgetLostObject);
+    changes.follow({Change::PageEmptied}, entry::unbindSheet);
     changes.follow({Change::Values, Change::CurrentRecord}, entry::refreshShownRecord);
     changes.follow({Change::Columns, Change::Values}, invoice::rebuildView);
     changes.follow({Change::Page}, entry::showPage);

@@ -1,4 +1,5 @@
 #include "calc/designFrm.h"
+#include "layout/layoutPage.h"
 
 #include "calcProgram.h"
 
@@ -181,7 +182,7 @@ TEST_F(DesignFrm, RemovesTheColumnWithAllThatBelongsToIt) {
     EXPECT_EQ(play("remove -> Name", "ny"), lossQuestion("Name"));
 
     LV.columns.setPosition(4, 2);
-    app::LayoutPage& page = app.mainFrm.layoutPage;
+    layout::LayoutPage& page = layout::layoutPage(app);
     page.selectedObject = {core::Family::layoutField, 3};
     page.Handle.Visible = true;
     EXPECT_EQ(play("remove -> Qty -> half typed", "yy"),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/layoutPage.h"
 #include "session.h"
 #include "shell/listEvents.h"
 
@@ -101,7 +102,7 @@ private:
                 QString(whole).replace(u'\u00a0', u'~') + (whole == gui::toQt(each.Text) ? u"|"_s : u"?|"_s);
         });
         text.replace(QDate::currentDate().toString(u"MM/dd/yyyy"_s), u"today"_s);
-        for (const auto* guides : {&app.mainFrm.layoutPage.rulePic2, &app.mainFrm.layoutPage.rulePic})
+        for (const auto* guides : {&layout::layoutPage(app).rulePic2, &layout::layoutPage(app).rulePic})
             guides->forEach([&](const auto& each) { now[u"guides"_s] += QString::number(each.line) + u' '; });
         now[u"guides"_s] += find<QWidget>("clearRulesBtn")->isEnabled() ? u"to clear"_s : QString();
     }

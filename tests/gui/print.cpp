@@ -35,7 +35,7 @@ private:
         answerOf(u"pdftoppm"_s, {u"-r"_s, u"96"_s, u"-l"_s, u"1"_s, u"-png"_s, u"-singlefile"_s, pdf_, file});
         QImage paper(file + u".png"_s);
         const QSize size = paper.size() / 8;
-        const auto& page = run.app.mainFrm.previewPage;
+        const auto& page = print::previewPage(run.app);
         const QRect place(QPoint(qRound(page.Left / 15), qRound(page.Top / 15)), paper.size());
         QImage shown = run.find<QWidget>("rptPreview2")->grab(place).toImage();
         for (QImage* image : {&paper, &shown})
@@ -72,7 +72,7 @@ key PgDown; key Down; key PgUp; key Right -> also 3 -240 -240
 wheel rptPreview2 -120,-120 -> also 4 -960 -960
 slide rptVScroll1 1000; slide rptHScroll1 100 -> also 5 -100 -1000)",
                    [&] {
-                       const auto& page = run.app.mainFrm.previewPage;
+                       const auto& page = print::previewPage(run.app);
                        pages.push_back(run.find<QWidget>("rptPreview2")->grab().toImage());
                        const auto which = std::ranges::find(pages, pages.back()) - pages.begin();
                        return u"%1 %2 %3"_s.arg(which).arg(page.Left).arg(page.Top);
@@ -87,7 +87,7 @@ slide rptVScroll1 1000; slide rptHScroll1 100 -> also 5 -100 -1000)",
             typeIn(form, "titleTxt", "Landscape books");
             in<QRadioButton>(form, "LandscapeOpt")->click();
             click(form, "ApplyBtn");
-            QCOMPARE(run.app.mainFrm.previewPage.rptPreview1.Width, 15840.0F); // behind the dialog
+            QCOMPARE(print::previewPage(run.app).rptPreview1.Width, 15840.0F); // behind the dialog
             QTest::keyClick(&form, Qt::Key_Escape);
         };
         run.platform.scripts[u"layoutPageSetupFrm"_s] = [](QDialog& form) {

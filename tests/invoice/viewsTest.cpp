@@ -1,5 +1,6 @@
 #include "calc/itemColumns.h"
 #include "invoiceFixture.h"
+#include "layout/layoutPage.h"
 #include "table.h"
 
 #include <sstream>
@@ -116,9 +117,9 @@ TEST_F(InvoiceTest, ItemRowsArePlacedInAGrid) {
     EXPECT_EQ(places.str(),
               "1Qty 250,350 right; 2Customer 1525,350; 3Qty 250,635 off right; 4Customer 1525,635 off; ");
     // Made anew they take the place of the old ones.
-    app.mainFrm.layoutPage.selectedObject = {core::Family::layoutField, 1};
+    layout::layoutPage(app).selectedObject = {core::Family::layoutField, 1};
     invoice::repeatItemRows(app, 1, {"Qty"});
-    EXPECT_FALSE(app.mainFrm.layoutPage.selectedObject.isObject()) << "not the one that has its number now";
+    EXPECT_FALSE(layout::layoutPage(app).selectedObject.isObject()) << "not the one that has its number now";
     EXPECT_EQ(app.document.layout.layoutField.count(), 3);
     EXPECT_FALSE(calc::ItemColumns(app.document).contains("Qty"));
     EXPECT_TRUE(calc::ItemColumns(app.document).contains("Customer"));

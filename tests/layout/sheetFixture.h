@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "file/layoutLines.h"
 #include "layout/dragging.h"
+#include "layout/layoutPage.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
 #include "layout/toolbar.h"
@@ -21,7 +22,7 @@ using layout::MouseButton;
 // A database of all kinds of columns with its layout page in front, in a viewport of 6000 x 5000 twips, where
 // a pixel is 15. What a user does is a text for after(): see there.
 struct Sheet : testing::Test, SearchProgram {
-    app::LayoutPage& page = app.mainFrm.layoutPage;
+    layout::LayoutPage& page = layout::layoutPage(app);
     core::LayoutObjects& objects = app.document.layout;
     ObjectRef it;     // the object named last
     int X = 0, Y = 0; // the pointer

@@ -1,4 +1,5 @@
 #include "print/layoutPrinting.h"
+#include "print/previewPage.h"
 #include "print/printCommands.h"
 #include "printRecorder.h"
 #include "search/searchEngine.h"
@@ -15,7 +16,7 @@ namespace {
 constexpr const char* oneField = "F|Name|1440|1440|2000|1000";
 
 struct Layout : testing::Test, PrintProgram {
-    app::PreviewPage& page = app.mainFrm.previewPage;
+    print::PreviewPage& page = print::previewPage(app);
     core::LayoutOptions& options = app.document.layoutOptions;
 
     void showLayoutPreview() {

@@ -1,5 +1,7 @@
 #include "file/dataWriter.h"
+#include "layout/layoutPage.h"
 #include "print/layoutPageSetupFrm.h"
+#include "print/previewPage.h"
 #include "print/reportPageSetup.h"
 #include "printRecorder.h"
 #include "raised.h"
@@ -41,7 +43,7 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     form.leftTxt = "1.5in";
     form.rightTxt = "wide";
     form.TopTxt = "0.25";
-    app.mainFrm.previewPage.iReportStartRow = 9;
+    print::previewPage(app).iReportStartRow = 9;
     form.ApplyBtn_Click();
     EXPECT_EQ(section("[Report Data"), "1.5|0|0.25|2|5|1|New|False|") << "a text reads as 0";
     EXPECT_EQ(section("[Printed Cols") + section("[PrnInvoiceCols"), "Price|Name|");
@@ -97,8 +99,8 @@ TEST_F(PageSetup, LayoutSettingsGoIntoTheFormAndBack) {
     form.OKButton_Click();
     EXPECT_EQ(section("[Layout Options") + told(), "7|5|2|1|0|0.75|256|2|0.5|");
     EXPECT_TRUE(form.unloaded && app.document.bModified);
-    EXPECT_EQ(app.mainFrm.layoutPage.layoutPic2.Width, 7 * 1440) << "the sheet follows";
-    EXPECT_EQ(app.mainFrm.previewPage.rptPreview1.Width, 7 * 1440) << "and the preview";
+    EXPECT_EQ(layout::layoutPage(app).layoutPic2.Width, 7 * 1440) << "the sheet follows";
+    EXPECT_EQ(print::previewPage(app).rptPreview1.Width, 7 * 1440) << "and the preview";
     EXPECT_EQ(wordsOf(preview()), "r1");
 }
 

@@ -1,4 +1,5 @@
 #include "calc/selectedTotals.h"
+#include "print/previewPage.h"
 #include "print/printCommands.h"
 #include "print/reportPrinting.h"
 #include "printRecorder.h"
@@ -9,7 +10,7 @@
 namespace {
 
 struct Report : testing::Test, PrintProgram {
-    app::PreviewPage& page = app.mainFrm.previewPage;
+    print::PreviewPage& page = print::previewPage(app);
     core::ReportData& settings = app.document.reportData;
 
     void showPreview() { shell::SSTab1_Click(app, app::previewTab); }

@@ -1,4 +1,6 @@
 #include "shell/mainWindow.h"
+#include "entry/shownRecord.h"
+#include "layout/layoutPage.h"
 
 #include "calc/columns.h"
 #include "programTest.h"
@@ -153,7 +155,7 @@ TEST_F(MainWindow, CommandsReachTheRoutineBehindThem) {
         const bool isOn = mainFrm.control(key).Value;
         EXPECT_TRUE((color() == plain) == (key != "mnuCalcHighlight") &&
                     document.bModified == (key == "Design"));
-        EXPECT_EQ(mainFrm.layoutPage.layoutToolbarInFront, key == "Design");
+        EXPECT_EQ(layout::layoutPage(app).layoutToolbarInFront, key == "Design");
         run(key.c_str());
         EXPECT_EQ(mainFrm.control(key).Value, !isOn) << key;
     }
@@ -181,7 +183,7 @@ TEST_F(MainWindow, ToolsWorkOverSearchResultsAndFromEveryTab) {
          "tab 1 -> 12 TPDFts searchLV/searchLV+ i1/3 ; mnuSelectedTotals -> "
          "12 TPDFs searchLV/searchLV+ i1/3 ; mnuDatabaseProperties -> 12 TPD LV/LV+ i1/3 designFrm");
     EXPECT_FALSE(document.LV3.Visible);
-    EXPECT_EQ(mainFrm.layoutPage.fieldMenu, (std::vector<std::string>{"A", "B", "C0", "C1"}));
+    EXPECT_EQ(layout::layoutPage(app).fieldMenu, (std::vector<std::string>{"A", "B", "C0", "C1"}));
 }
 
 TEST_F(MainWindow, TabsListsAndViews) {
@@ -224,7 +226,7 @@ TEST_F(MainWindow, AHeaderClickSortsAndTogglesAcrossColumns) {
     open(document.currentFile);
     shell::SSTab1_Click(app, app::layoutTab);
     shell::list_ColumnClick(app, LV, 2); // another database goes on toggling
-    EXPECT_EQ(mainFrm.layoutPage.shownKey, "i2") << "the last one is the current one now";
+    EXPECT_EQ(entry::sheet(app).shownKey, "i2") << "the last one is the current one now";
     open(DataFile("Name", ""));
     shell::list_ColumnClick(app, LV, 2);
     EXPECT_FALSE(LV.Sorted || LV.SortOrder == 0) << "with one item nothing is sorted";

@@ -5,6 +5,7 @@
 #include "databases.h"
 #include "drawing/recordedPage.h"
 #include "print/previewNavigation.h"
+#include "print/previewPage.h"
 
 #include <cmath>
 
@@ -125,7 +126,7 @@ struct PrintProgram : ProgramOn<PrintingPlatform> {
         open(file.objects(objects).section("Printed Cols", "Name|"));
         app.document.reportData.reportOrientation = 1;
     }
-    const Page& preview() const { return app.mainFrm.previewPage.rptPreview1.drawn(); }
+    const Page& preview() const { return print::previewPage(app).rptPreview1.drawn(); }
     const Page& sheet(std::size_t number) const { return platform.printed.sheets.at(number); }
     // The words on each sheet printed since the last look, "r1 r2/r3|."; for the marks see Printed.
     std::string printed() {

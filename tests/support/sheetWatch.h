@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "dataFile.h"
 #include "entry/navBar.h"
+#include "layout/layoutPage.h"
 #include "shell/listEvents.h"
 
 #include <array>
@@ -136,7 +137,7 @@ private:
     }
     // The sheet shows the record of the row that commands work on, or one that is not there yet.
     std::string wrongSheet(const Records& now) const {
-        if (!isPageInFront() || !app_.mainFrm.layoutPage.layoutPic2.Visible) return {};
+        if (!isPageInFront() || !layout::layoutPage(app_).layoutPic2.Visible) return {};
         const std::string number = onSheet("No");
         if (!hands_.shows(number)) return "the window does not show " + number + "; ";
         const core::Item* row = app_.mainFrm.theListView->selectedItem();

@@ -7,7 +7,7 @@
 #include "gui/layout/layoutPageView.h"
 #include "gui/machine/qtPlatform.h"
 #include "gui/print/previewView.h"
-#include "gui/print/reportPage.h"
+#include "gui/records/reportPage.h"
 
 #include <QMainWindow>
 #include <QTabWidget>

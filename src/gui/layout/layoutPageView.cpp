@@ -1,4 +1,5 @@
 #include "gui/layout/layoutPageView.h"
+#include "layout/layoutPage.h"
 
 #include "entry/navBar.h"
 #include "gui/widgets/icon.h"
@@ -166,7 +167,7 @@ void LayoutPageView::fillMenu(QMenu& menu, const std::vector<std::string>& colum
 }
 
 void LayoutPageView::refreshBars() {
-    const app::LayoutPage& page = app_.mainFrm.layoutPage;
+    const layout::LayoutPage& page = layout::layoutPage(app_);
     const bool designing = page.layoutToolbarInFront;
     bars_->setCurrentIndex(designing ? 1 : 0);
     clearRulesBtn_->setVisible(designing);
@@ -196,7 +197,8 @@ void LayoutPageView::refreshBars() {
                                                     : QString());
 }
 
-void LayoutPageView::refreshScrollBar(QScrollBar& bar, const app::LayoutPage::ScrollBar& state, int visible) {
+void LayoutPageView::refreshScrollBar(QScrollBar& bar, const layout::LayoutPage::ScrollBar& state,
+                                      int visible) {
     bar.setRange(0, state.Max);
     bar.setPageStep(visible);
     bar.setValue(state.Value);
@@ -217,7 +219,7 @@ void LayoutPageView::hideEvent(QHideEvent* event) {
 void LayoutPageView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
-    const app::LayoutPage& page = app_.mainFrm.layoutPage;
+    const layout::LayoutPage& page = layout::layoutPage(app_);
     // The keys are for the sheet as soon as it is designed.
     if (std::exchange(designing_, page.layoutToolbarInFront) != designing_) sheet_->takeFocus();
     refreshBars();

@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/layout/sheetView.h"
+#include "layout/layoutPage.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -35,7 +36,7 @@ private:
     QScrollBar* makeScrollBar(Qt::Orientation orientation);
     void fillMenu(QMenu& menu, const std::vector<std::string>& columns);
     void refreshBars();
-    void refreshScrollBar(QScrollBar& bar, const app::LayoutPage::ScrollBar& state, int visible);
+    void refreshScrollBar(QScrollBar& bar, const layout::LayoutPage::ScrollBar& state, int visible);
 
     app::App& app_;
     EventBoundary& events_;

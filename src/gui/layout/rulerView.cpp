@@ -1,4 +1,5 @@
 #include "gui/layout/rulerView.h"
+#include "layout/layoutPage.h"
 
 #include "gui/widgets/measures.h"
 #include "layout/dragging.h"
@@ -11,8 +12,8 @@
 
 namespace gui {
 
-using app::Guide;
-using app::LayoutPage;
+using layout::Guide;
+using layout::LayoutPage;
 
 namespace {
 
@@ -39,7 +40,7 @@ RulerView::RulerView(app::App& app, EventBoundary& events, Qt::Orientation orien
 }
 
 const core::ControlArray<Guide>& RulerView::guides() const {
-    return isHorizontal() ? app_.mainFrm.layoutPage.rulePic2 : app_.mainFrm.layoutPage.rulePic;
+    return isHorizontal() ? layout::layoutPage(app_).rulePic2 : layout::layoutPage(app_).rulePic;
 }
 
 void RulerView::show(qreal pixelsPerTwip) {
@@ -92,11 +93,11 @@ void RulerView::paintEvent(QPaintEvent*) {
         painter.fillRect(markerRect(guide),
                          isHorizontal() ? QColor(0x1e, 0x8e, 0x3e) : QColor(0x1f, 0x5f, 0xbf));
     });
-    const LayoutPage& page = app_.mainFrm.layoutPage;
+    const LayoutPage& page = layout::layoutPage(app_);
     const std::optional<float> tick = isHorizontal() ? page.ruler1.line : page.ruler2.line;
     if (!tick) return;
     painter.setPen(QPen(QColor(0xd9, 0x30, 0x25), 0));
-    line(std::round(*tick * pixelsPerTwip_) + 0.5, 0, app::rulerTick * pixelsPerTwip_);
+    line(std::round(*tick * pixelsPerTwip_) + 0.5, 0, layout::rulerTick * pixelsPerTwip_);
 }
 
 void RulerView::mousePressEvent(QMouseEvent* event) {
@@ -117,14 +118,14 @@ void RulerView::mousePressEvent(QMouseEvent* event) {
 }
 
 void RulerView::mouseMoveEvent(QMouseEvent* event) {
-    if (app_.mainFrm.layoutPage.drag == LayoutPage::Drag::None || !sheetTwips) return;
+    if (layout::layoutPage(app_).drag == LayoutPage::Drag::None || !sheetTwips) return;
     const QPoint place = sheetTwips(event->globalPosition().toPoint());
     events_.run([&] { layout::dragTo(app_, place.x(), place.y()); });
 }
 
 void RulerView::mouseReleaseEvent(QMouseEvent*) {
     events_.run([&] {
-        if (app_.mainFrm.layoutPage.drag != LayoutPage::Drag::None) {
+        if (layout::layoutPage(app_).drag != LayoutPage::Drag::None) {
             layout::endDrag(app_);
             return;
         }

@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 #include "gui/frame/eventBoundary.h"
+#include "layout/layoutPage.h"
 
 #include <QWidget>
 
@@ -29,8 +30,8 @@ protected:
 
 private:
     bool isHorizontal() const { return orientation_ == Qt::Horizontal; }
-    const core::ControlArray<app::Guide>& guides() const;
-    QRectF markerRect(const app::Guide& guide) const;
+    const core::ControlArray<layout::Guide>& guides() const;
+    QRectF markerRect(const layout::Guide& guide) const;
     int guideAt(QPointF place) const; // 0 for none
 
     app::App& app_;

@@ -1,4 +1,5 @@
 #include "gui/layout/sheetObjects.h"
+#include "layout/layoutPage.h"
 
 #include "entry/fieldEvents.h"
 #include "gui/layout/sheetShape.h"
@@ -172,13 +173,13 @@ void SheetObjects::showObject(QWidget& widget, const core::LineObject& line) {
 }
 
 void SheetObjects::showObject(QWidget& widget, const core::BoxObject& box) {
-    const app::LayoutPage& page = app_.mainFrm.layoutPage;
+    const layout::LayoutPage& page = layout::layoutPage(app_);
     SheetShape::Look look;
     look.foreColor = box.ForeColor;
     look.drawWidth = box.DrawWidth;
     look.width = box.Width;
     look.height = box.Height;
-    look.outline = page.drag != app::LayoutPage::Drag::Resize || !(page.dragged == objectOf(&widget));
+    look.outline = page.drag != layout::LayoutPage::Drag::Resize || !(page.dragged == objectOf(&widget));
     static_cast<SheetShape&>(widget).show(look, pixelsPerTwip_);
 }
 

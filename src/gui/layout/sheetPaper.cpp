@@ -1,4 +1,5 @@
 #include "gui/layout/sheetPaper.h"
+#include "layout/layoutPage.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -8,8 +9,8 @@
 
 namespace gui {
 
-using app::Guide;
-using app::LayoutPage;
+using layout::Guide;
+using layout::LayoutPage;
 
 namespace {
 
@@ -28,7 +29,7 @@ SheetPaper::SheetPaper(app::App& app, QWidget* parent) : QWidget(parent), app_(a
 }
 
 void SheetPaper::show(qreal pixelsPerTwip) {
-    const LayoutPage& page = app_.mainFrm.layoutPage;
+    const LayoutPage& page = layout::layoutPage(app_);
     pixelsPerTwip_ = pixelsPerTwip;
     QString drawn = QStringLiteral("%1|%2|%3|%4|%5")
                         .arg(page.bGrid)
@@ -46,13 +47,13 @@ void SheetPaper::show(qreal pixelsPerTwip) {
 void SheetPaper::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::white);
-    if (app_.mainFrm.layoutPage.bGrid) paintGrid(painter, event->rect());
+    if (layout::layoutPage(app_).bGrid) paintGrid(painter, event->rect());
     paintMargins(painter);
     paintGuides(painter);
 }
 
 void SheetPaper::paintGrid(QPainter& painter, const QRect& part) const {
-    const qreal step = app::gridStep * pixelsPerTwip_;
+    const qreal step = layout::gridStep * pixelsPerTwip_;
     QList<QPointF> dots;
     const auto first = [&](int edge) { return std::max(1, static_cast<int>(std::floor(edge / step))); };
     const auto last = [&](int edge) { return static_cast<int>(std::floor(edge / step)); };
@@ -64,7 +65,7 @@ void SheetPaper::paintGrid(QPainter& painter, const QRect& part) const {
 }
 
 void SheetPaper::paintMargins(QPainter& painter) const {
-    const LayoutPage& page = app_.mainFrm.layoutPage;
+    const LayoutPage& page = layout::layoutPage(app_);
     painter.setPen(QPen(QColor::fromRgba(marginColor), 0, Qt::DotLine));
     for (const float x : {page.marginLeft, page.marginRight}) {
         const qreal place = std::round(x * pixelsPerTwip_);
@@ -77,7 +78,7 @@ void SheetPaper::paintMargins(QPainter& painter) const {
 }
 
 void SheetPaper::paintGuides(QPainter& painter) const {
-    const LayoutPage& page = app_.mainFrm.layoutPage;
+    const LayoutPage& page = layout::layoutPage(app_);
     painter.setPen(QPen(QColor::fromRgba(horizontalGuide), 0));
     page.rulePic.forEach([&](const Guide& guide) {
         const qreal place = std::round(guide.line * pixelsPerTwip_);

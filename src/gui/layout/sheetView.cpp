@@ -1,4 +1,5 @@
 #include "gui/layout/sheetView.h"
+#include "layout/layoutPage.h"
 
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
@@ -17,9 +18,9 @@
 
 namespace gui {
 
-using app::LayoutPage;
 using core::Family;
 using core::ObjectRef;
+using layout::LayoutPage;
 
 namespace {
 
@@ -68,7 +69,7 @@ qreal SheetView::pixelsPerTwip() const {
 void SheetView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
-    LayoutPage& page = app_.mainFrm.layoutPage;
+    LayoutPage& page = layout::layoutPage(app_);
     const qreal scale = pixelsPerTwip();
     page.TwipsPerPixelX = page.TwipsPerPixelY = static_cast<float>(1 / scale);
     const auto pixels = [scale](float twips) { return static_cast<int>(std::lround(twips * scale)); };
@@ -81,7 +82,7 @@ void SheetView::refresh() {
     placeGrip();
     ruler1_->setGeometry(pixels(page.ruler1.Left), 0, pixels(page.ruler1.Width), pixels(page.ruler1.Height));
     ruler2_->setGeometry(0, pixels(page.ruler2.Top), pixels(page.ruler2.Width), pixels(page.ruler2.Height));
-    corner_->setGeometry(0, 0, pixels(app::rulerThickness), pixels(app::rulerThickness));
+    corner_->setGeometry(0, 0, pixels(layout::rulerThickness), pixels(layout::rulerThickness));
     for (QWidget* part : {static_cast<QWidget*>(ruler1_), static_cast<QWidget*>(ruler2_), corner_})
         part->setVisible(page.bRulersVisible);
     if (!page.bRulersVisible) return;
@@ -90,9 +91,9 @@ void SheetView::refresh() {
 }
 
 void SheetView::placeGrip() {
-    const LayoutPage::Grip& grip = app_.mainFrm.layoutPage.Handle;
+    const LayoutPage::Grip& grip = layout::layoutPage(app_).Handle;
     const qreal scale = pixelsPerTwip();
-    const int side = static_cast<int>(std::lround(app::gripSize * scale));
+    const int side = static_cast<int>(std::lround(layout::gripSize * scale));
     grip_->setGeometry(static_cast<int>(std::lround(grip.Left * scale)),
                        static_cast<int>(std::lround(grip.Top * scale)), side, side);
     QPalette colours = grip_->palette();
@@ -105,7 +106,7 @@ void SheetView::placeGrip() {
 void SheetView::placeMark() {
     const bool designing = layout::isDesignMode(app_);
     const ObjectRef object =
-        designing ? app_.mainFrm.layoutPage.selectedObject : objects_->objectOf(window()->focusWidget());
+        designing ? layout::layoutPage(app_).selectedObject : objects_->objectOf(window()->focusWidget());
     mark_->surround(objects_->widgetOf(object), designing);
     if (designing) grip_->raise();
     paper_->setAccessibleDescription(toQt(layout::selectionText(app_)));
@@ -213,7 +214,7 @@ bool SheetView::gripEvent(QEvent* event) {
             layout::Handle_MouseDown(app_, place.x(), place.y());
         else if (event->type() == QEvent::MouseButtonRelease)
             layout::Handle_MouseUp(app_);
-        else if (app_.mainFrm.layoutPage.drag == LayoutPage::Drag::Resize)
+        else if (layout::layoutPage(app_).drag == LayoutPage::Drag::Resize)
             layout::dragTo(app_, place.x(), place.y());
     });
     return true;
@@ -241,7 +242,7 @@ bool SheetView::designEvent(ObjectRef object, QEvent* event) {
         press(object, mouse);
         break;
     case QEvent::MouseMove:
-        if (app_.mainFrm.layoutPage.drag == LayoutPage::Drag::None) break;
+        if (layout::layoutPage(app_).drag == LayoutPage::Drag::None) break;
         events_.run([&] {
             const QPoint place = sheetTwips(mouse.globalPosition());
             layout::dragTo(app_, place.x(), place.y());
@@ -265,7 +266,7 @@ void SheetView::press(ObjectRef object, QMouseEvent& mouse) {
         const QPoint place = sheetTwips(mouse.globalPosition());
         // Told inside the border, which a field and a picture box have.
         const bool hasBorder = object.family == Family::layoutField || object.family == Family::imgHolder;
-        const float border = hasBorder ? 2 * app_.mainFrm.layoutPage.TwipsPerPixelX : 0;
+        const float border = hasBorder ? 2 * layout::layoutPage(app_).TwipsPerPixelX : 0;
         layout::object_MouseDown(
             app_, object, buttonOf(mouse),
             static_cast<int>(std::lround(static_cast<float>(place.x()) - pressed->Left - border)),

@@ -1,4 +1,5 @@
 #include "gui/layout/sheetView.h"
+#include "layout/layoutPage.h"
 
 #include "layout/dragging.h"
 #include "layout/selection.h"
@@ -13,9 +14,9 @@
 
 namespace gui {
 
-using app::LayoutPage;
 using core::Family;
 using core::ObjectRef;
+using layout::LayoutPage;
 
 namespace {
 
@@ -67,14 +68,14 @@ bool SheetView::keyEvent(QObject* watched, QEvent* event) {
     }
     bool used = false;
     events_.run([&] { used = layout::Form_KeyDown(app_, keyCodeOf(key), shiftOf(key)); });
-    if (used) bringIntoView(app_.mainFrm.layoutPage.selectedObject);
+    if (used) bringIntoView(layout::layoutPage(app_).selectedObject);
     return used || (watched == paper_ && paperKey(key));
 }
 
 // What the mouse does on the sheet: Tab is a click on the next object and Enter the double click, Ctrl+Shift
 // and an arrow draws the grip, and the menu key is the right button.
 bool SheetView::paperKey(const QKeyEvent& key) {
-    const ObjectRef selected = app_.mainFrm.layoutPage.selectedObject;
+    const ObjectRef selected = layout::layoutPage(app_).selectedObject;
     const bool turnsTab = key.modifiers() & Qt::ControlModifier; // of the window
     if (turnsTab && (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)) return false;
     if (key.key() == Qt::Key_Tab) return selectNext(1);
@@ -95,13 +96,13 @@ bool SheetView::paperKey(const QKeyEvent& key) {
     const int code = keyCodeOf(key);
     if (shiftOf(key) != ctrlAndShift || code == 0 || code == layout::keyDelete) return false;
     events_.run([&] {
-        const LayoutPage::Grip& grip = app_.mainFrm.layoutPage.Handle;
+        const LayoutPage::Grip& grip = layout::layoutPage(app_).Handle;
         const long x = std::lround(grip.Left), y = std::lround(grip.Top);
         // With the snap a drag counts from just beyond one step of the grid.
         const long step = static_cast<long>(
-            app_.mainFrm.bSnapToGrid ? app::gridStep + 1 : app_.mainFrm.layoutPage.TwipsPerPixelX);
+            app_.mainFrm.bSnapToGrid ? layout::gridStep + 1 : layout::layoutPage(app_).TwipsPerPixelX);
         layout::Handle_MouseDown(app_, x, y);
-        if (app_.mainFrm.layoutPage.drag == LayoutPage::Drag::Resize)
+        if (layout::layoutPage(app_).drag == LayoutPage::Drag::Resize)
             layout::dragTo(app_, x + step * ((code == layout::keyRight) - (code == layout::keyLeft)),
                            y + step * ((code == layout::keyDown) - (code == layout::keyUp)));
         layout::Handle_MouseUp(app_);
@@ -112,7 +113,7 @@ bool SheetView::paperKey(const QKeyEvent& key) {
 // Line by line over the sheet. Behind the last one the key leaves the sheet, as it leaves any page.
 bool SheetView::selectNext(int direction) {
     const std::vector<ObjectRef> order = objects_->inReadingOrder();
-    const auto here = std::ranges::find(order, app_.mainFrm.layoutPage.selectedObject);
+    const auto here = std::ranges::find(order, layout::layoutPage(app_).selectedObject);
     const auto count = static_cast<int>(order.size());
     int next = here == order.end() ? (direction > 0 ? 0 : count - 1)
                                    : static_cast<int>(here - order.begin()) + direction;

@@ -1,4 +1,5 @@
 #include "gui/print/previewPort.h"
+#include "print/previewPage.h"
 
 #include "gui/widgets/measures.h"
 #include <QKeyEvent>
@@ -32,7 +33,7 @@ qreal PreviewPort::pixelsPerTwip() const {
 }
 
 QRectF PreviewPort::pageRect() const {
-    const app::PreviewPage& page = app_.mainFrm.previewPage;
+    const print::PreviewPage& page = print::previewPage(app_);
     const qreal scale = pixelsPerTwip();
     // On whole pixels, so that moving the page does not make its letters shiver.
     return {std::round(page.Left * scale), std::round(page.Top * scale), page.rptPreview1.Width * scale,
@@ -40,7 +41,7 @@ QRectF PreviewPort::pageRect() const {
 }
 
 void PreviewPort::paintEvent(QPaintEvent*) {
-    const app::PreviewPage& page = app_.mainFrm.previewPage;
+    const print::PreviewPage& page = print::previewPage(app_);
     if (!page.Visible) return;
     const QRectF sheet = pageRect();
     QPainter painter(this);

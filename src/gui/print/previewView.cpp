@@ -1,4 +1,5 @@
 #include "gui/print/previewView.h"
+#include "print/previewPage.h"
 
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
@@ -73,7 +74,7 @@ void PreviewView::portResized() {
     });
 }
 
-void PreviewView::show(QScrollBar& bar, const app::PreviewPage::ScrollBar& state, float visible) {
+void PreviewView::show(QScrollBar& bar, const print::PreviewPage::ScrollBar& state, float visible) {
     bar.setRange(0, state.Max);
     bar.setPageStep(static_cast<int>(visible));
     bar.setValue(state.Value);
@@ -83,7 +84,7 @@ void PreviewView::show(QScrollBar& bar, const app::PreviewPage::ScrollBar& state
 void PreviewView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
-    const app::PreviewPage& page = app_.mainFrm.previewPage;
+    const print::PreviewPage& page = print::previewPage(app_);
     show(*rptHScroll1_, page.rptHScroll1, page.rptPreview2.Width);
     show(*rptVScroll1_, page.rptVScroll1, page.rptPreview2.Height);
     port_->refresh();

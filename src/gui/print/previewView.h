@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/print/previewPort.h"
+#include "print/previewPage.h"
 
 #include <QScrollBar>
 #include <QToolBar>
@@ -23,7 +24,7 @@ public:
 private:
     QToolBar* makeToolbar();
     QScrollBar* makeScrollBar(Qt::Orientation orientation);
-    static void show(QScrollBar& bar, const app::PreviewPage::ScrollBar& state, float visible);
+    static void show(QScrollBar& bar, const print::PreviewPage::ScrollBar& state, float visible);
     void portResized();
 
     app::App& app_;

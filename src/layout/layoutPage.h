@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/app.h"
 #include "core/controlArray.h"
 #include "core/objectRef.h"
 #include "core/recordsList.h"
@@ -8,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace app {
+namespace layout {
 
 // Lengths of the layout page that are not data, in twips.
 constexpr int gridStep = 120;   // grid dots, and the step of snapping
@@ -60,16 +61,10 @@ struct LayoutPage {
         bool bLocked = false; // red in place of black
     } Handle;
 
-    // The record that the sheet shows: the list that it was read from, and its key in LV. Empty when it shows
-    // none, or a new one that is not stored yet.
-    const core::RecordsList* shownList = nullptr;
-    std::string shownKey;
-
     bool layoutToolbarInFront = false; // otherwise layoutNavBar is
     std::vector<std::string> fieldMenu, pictureMenu;
 
     bool bEditingLabel = false;
-    bool bFieldChanged = false; // the next change of a field is a deletion: no date mask
 
     // A drag, from the mouse-down to the mouse-up.
     enum class Drag { None, Move, Resize, HorizontalGuide, VerticalGuide };
@@ -80,4 +75,12 @@ struct LayoutPage {
     long lastX = 0, lastY = 0;    // where the pointer last caused a move
 };
 
-} // namespace app
+// That of a window, as layout/ keeps it.
+inline LayoutPage& layoutPage(app::App& app) {
+    return app.rooms.of<LayoutPage>();
+}
+inline const LayoutPage& layoutPage(const app::App& app) {
+    return app.rooms.of<LayoutPage>();
+}
+
+} // namespace layout

@@ -1,4 +1,4 @@
-#include "gui/print/reportPage.h"
+#include "gui/records/reportPage.h"
 
 #include "gui/widgets/qtText.h"
 #include "shell/listEvents.h"

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "app/app.h"
 #include "drawing/recordedPage.h"
 
 #include <cstdint>
 
-namespace app {
+namespace print {
 
 // The preview tab: the page in its port, and how far reports and layouts have come. Lengths in twips.
 struct PreviewPage {
@@ -32,4 +33,12 @@ struct PreviewPage {
     std::int16_t iLayoutsPerPage = 0;
 };
 
-} // namespace app
+// That of a window, as print/ keeps it.
+inline PreviewPage& previewPage(app::App& app) {
+    return app.rooms.of<PreviewPage>();
+}
+inline const PreviewPage& previewPage(const app::App& app) {
+    return app.rooms.of<PreviewPage>();
+}
+
+} // namespace print
