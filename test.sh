@@ -1,22 +1,19 @@
 #!/usr/bin/env bash
 # Builds Ferrowick and runs all its tests: as released, then with the address and undefined-behaviour
-# sanitizers; then checks the formatting and fuzzes the reader for a while.
-#   ./test.sh [--quick] [--tidy]
+# sanitizers; then checks formatting and style, and fuzzes the readers for a while.
+#   ./test.sh [--quick]
 # --quick  the released build and its tests alone
-# --tidy   clang-tidy too
 # The last line is "N passed, N failed"; a step that is no test counts as one failure when it fails.
 set -uo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")" || exit 1
 
 quick=false
-tidy=false
 fuzz_seconds=20
 for argument in "$@"; do
     case $argument in
     --quick) quick=true ;;
-    --tidy) tidy=true ;;
     *)
-        echo "usage: ./test.sh [--quick] [--tidy]" >&2
+        echo "usage: ./test.sh [--quick]" >&2
         exit 2
         ;;
     esac
@@ -73,17 +70,24 @@ check_format() {
     find src tests bench fuzz \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 clang-format-14 --dry-run -Werror
 }
 
+# clang-tidy is loud about what it keeps to itself; only its findings are shown.
+tidy() { scripts/tidy.sh build/release >"$logs/tidy.log" 2>&1 || { grep -E '(error|warning): ' "$logs/tidy.log" | sort -u; return 1; }; }
+
 # Starts from the databases of the tests. An input that breaks the program stays in build/fuzz/found-*.
 fuzz() {
     cmake --preset fuzz --log-level=WARNING &&
         cmake --build --preset fuzz --target fuzz_reader fuzz_archive fuzz_corpus -- -j2 "${quiet[@]}" || return 1
-    local target
+    local target failed=0 running=()
     for target in reader archive; do
         mkdir -p "build/fuzz/grown-$target"
         "build/fuzz/fuzz/fuzz_$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
             -print_final_stats=1 -verbosity=0 -dict=fuzz/reader.dict -artifact_prefix="build/fuzz/found-$target-" \
-            "build/fuzz/grown-$target" "build/fuzz/corpus-$target" || return 1
+            "build/fuzz/grown-$target" "build/fuzz/corpus-$target" >"$logs/fuzz-$target.log" 2>&1 &
+        running+=($!)
     done
+    for target in "${running[@]}"; do wait "$target" || failed=1; done
+    tail -n 8 "$logs"/fuzz-*.log
+    return $failed
 }
 
 finish() {
@@ -101,19 +105,17 @@ finish() {
 quiet=(--quiet)
 [[ ! -t 1 ]] || quiet=()
 
-packages=(build run test)
-$tidy && packages+=(tidy)
-step "packages" scripts/install-packages.sh "${packages[@]}" || finish
+step "packages" scripts/install-packages.sh build run test tidy || finish
 
 step "build, release" build release && tests release
 if ! $quick; then
     step "build, sanitized" build sanitized && tests sanitized
     step "formatting" check_format
+    step "clang-tidy" tidy
     if command -v clang++-14 >/dev/null; then
         step "fuzzing" fuzz
     else
         note "fuzzing" "skipped, there is no clang++-14"
     fi
 fi
-if $tidy; then step "clang-tidy" scripts/tidy.sh build/release; fi
 finish

@@ -4,6 +4,7 @@
 #include "file/archiveSource.h"
 #include "file/atomicFile.h"
 #include "file/deflatedSource.h"
+#include "file/zipEntry.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -23,9 +24,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Large enough that the calls do not count, small enough that what was just unpacked is still in the
-// processor's cache when its checksum is taken.
-constexpr std::size_t chunkBytes = std::size_t{128} * 1024;
 // One below zlib's usual level: a third less time for files that are about one part in a hundred larger.
 constexpr int compressionLevel = 5;
 // Of the large texts, which libdeflate packs. It takes a fifth of the time of zlib's usual level; the text
@@ -33,75 +31,6 @@ constexpr int compressionLevel = 5;
 constexpr int largeTextLevel = 1;
 constexpr std::size_t smallestDeflated = std::size_t{64} * 1024;
 constexpr std::size_t maxCommentBytes = 0xffff;
-
-[[noreturn]] void raiseZipError(zip_error_t& error, const std::string& detail) {
-    const int code = zip_error_code_zip(&error);
-    const bool bySystem = zip_error_system_type(&error) == ZIP_ET_SYS;
-    const int errnoValue = zip_error_code_system(&error);
-    const std::string reason = zip_error_strerror(&error);
-    zip_error_fini(&error);
-    if (code == ZIP_ER_MEMORY) throw std::bad_alloc();
-    // A seek goes wrong only where the archive points outside itself.
-    if (bySystem && errnoValue != 0 && code != ZIP_ER_SEEK) raiseSystemError(errnoValue, detail);
-    core::raise(core::errors::badFileFormat, detail + " (" + reason + ")");
-}
-
-[[noreturn]] void raiseDamaged(const std::string& detail) {
-    core::raise(core::errors::badFileFormat, detail);
-}
-
-// One entry while it is unpacked. What the archive tells about its size is not trusted: not when it is
-// more than the packed bytes can hold, and not when more or less comes out.
-class EntryReader {
-public:
-    EntryReader(zip_t* zip, zip_uint64_t index, std::uint64_t archiveSize, std::uint64_t maxBytes) {
-        zip_stat_t status;
-        zip_stat_init(&status);
-        if (zip_stat_index(zip, index, 0, &status) != 0) raiseZipError(*zip_get_error(zip), "entry");
-        name = status.name ? status.name : "";
-        constexpr std::uint64_t highestRatio = 1032; // of deflated bytes
-        const bool deflated = status.comp_method == ZIP_CM_DEFLATE;
-        const bool known = deflated || status.comp_method == ZIP_CM_STORE;
-        if (!known || status.encryption_method != ZIP_EM_NONE)
-            raiseDamaged(name + " is packed in an unknown way");
-        if (status.comp_size > archiveSize || status.size / (deflated ? highestRatio : 1) > status.comp_size)
-            raiseDamaged(name + " has a wrong size");
-        if (status.size > maxBytes) raiseDamaged(name + " is too large");
-        declared = status.size;
-        file = zip_fopen_index(zip, index, 0);
-        if (!file) raiseZipError(*zip_get_error(zip), name);
-    }
-    ~EntryReader() { zip_fclose(file); }
-    EntryReader(const EntryReader&) = delete;
-    EntryReader& operator=(const EntryReader&) = delete;
-
-    [[nodiscard]] std::uint64_t size() const { return declared; }
-
-    // Up to count bytes; 0 at the end, which is told only when size and checksum were right.
-    std::size_t read(char* bytes, std::size_t count) {
-        const zip_int64_t got = zip_fread(file, bytes, count);
-        if (got < 0) raiseZipError(*zip_file_get_error(file), name);
-        produced += static_cast<std::uint64_t>(got);
-        if (produced > declared || (got == 0 && produced < declared))
-            raiseDamaged(name + " has a wrong size");
-        return static_cast<std::size_t>(got);
-    }
-
-private:
-    zip_file_t* file = nullptr;
-    std::string name;
-    std::uint64_t declared = 0, produced = 0;
-};
-
-void unpackInto(int fd, EntryReader& entry, const fs::path& file) {
-    std::vector<char> chunk(chunkBytes);
-    long long place = 0;
-    while (const std::size_t count = entry.read(chunk.data(), chunk.size())) {
-        if (const int failure = writeAt(fd, chunk.data(), count, place))
-            raiseSystemError(failure, file.string());
-        place += static_cast<long long>(count);
-    }
-}
 
 // All of a file that has so many bytes.
 void copyFile(int from, int to, std::uint64_t size, const std::string& detail) {

@@ -1,0 +1,63 @@
+#include "file/zipEntry.h"
+
+#include "core/runTimeError.h"
+#include "file/fileHandle.h"
+
+#include <new>
+#include <vector>
+
+namespace file {
+
+void raiseZipError(zip_error_t& error, const std::string& detail) {
+    const int code = zip_error_code_zip(&error);
+    const bool bySystem = zip_error_system_type(&error) == ZIP_ET_SYS;
+    const int errnoValue = zip_error_code_system(&error);
+    const std::string reason = zip_error_strerror(&error);
+    zip_error_fini(&error);
+    if (code == ZIP_ER_MEMORY) throw std::bad_alloc();
+    // A seek goes wrong only where the archive points outside itself.
+    if (bySystem && errnoValue != 0 && code != ZIP_ER_SEEK) raiseSystemError(errnoValue, detail);
+    core::raise(core::errors::badFileFormat, detail + " (" + reason + ")");
+}
+
+void raiseDamaged(const std::string& detail) {
+    core::raise(core::errors::badFileFormat, detail);
+}
+
+EntryReader::EntryReader(zip_t* zip, zip_uint64_t index, std::uint64_t archiveSize, std::uint64_t maxBytes) {
+    zip_stat_t status;
+    zip_stat_init(&status);
+    if (zip_stat_index(zip, index, 0, &status) != 0) raiseZipError(*zip_get_error(zip), "entry");
+    name = status.name ? status.name : "";
+    constexpr std::uint64_t highestRatio = 1032; // of deflated bytes
+    const bool deflated = status.comp_method == ZIP_CM_DEFLATE;
+    const bool known = deflated || status.comp_method == ZIP_CM_STORE;
+    if (!known || status.encryption_method != ZIP_EM_NONE)
+        raiseDamaged(name + " is packed in an unknown way");
+    if (status.comp_size > archiveSize || status.size / (deflated ? highestRatio : 1) > status.comp_size)
+        raiseDamaged(name + " has a wrong size");
+    if (status.size > maxBytes) raiseDamaged(name + " is too large");
+    declared = status.size;
+    file = zip_fopen_index(zip, index, 0);
+    if (!file) raiseZipError(*zip_get_error(zip), name);
+}
+
+std::size_t EntryReader::read(char* bytes, std::size_t count) {
+    const zip_int64_t got = zip_fread(file, bytes, count);
+    if (got < 0) raiseZipError(*zip_file_get_error(file), name);
+    produced += static_cast<std::uint64_t>(got);
+    if (produced > declared || (got == 0 && produced < declared)) raiseDamaged(name + " has a wrong size");
+    return static_cast<std::size_t>(got);
+}
+
+void unpackInto(int fd, EntryReader& entry, const std::filesystem::path& file) {
+    std::vector<char> chunk(chunkBytes);
+    long long place = 0;
+    while (const std::size_t count = entry.read(chunk.data(), chunk.size())) {
+        if (const int failure = writeAt(fd, chunk.data(), count, place))
+            raiseSystemError(failure, file.string());
+        place += static_cast<long long>(count);
+    }
+}
+
+} // namespace file
