@@ -71,7 +71,11 @@ check_format() {
 }
 
 # clang-tidy is loud about what it keeps to itself; only its findings are shown.
-tidy() { scripts/tidy.sh build/release >"$logs/tidy.log" 2>&1 || { grep -E '(error|warning): ' "$logs/tidy.log" | sort -u; return 1; }; }
+tidy() {
+    scripts/tidy.sh build/release >"$logs/tidy.log" 2>&1 && return
+    grep -E '(error|warning): ' "$logs/tidy.log" | sort -u
+    return 1
+}
 
 # Starts from the databases of the tests. An input that breaks the program stays in build/fuzz/found-*.
 fuzz() {

@@ -64,7 +64,8 @@ struct Complaints {
                 const bool isBeside = other->parent() != &parent || other == w;
                 expect(isBeside || shared.width() < 2 || shared.height() < 2, "over another", *w);
             }
-            const QSize least = w->minimumSizeHint().expandedTo({0, w->heightForWidth(w->width())});
+            QSize least = w->minimumSizeHint().expandedTo({0, w->heightForWidth(w->width())});
+            if (w->minimumWidth() > 0) least.setWidth(w->minimumWidth()); // narrower by intention
             const bool isFree = !isHeader && w->minimumHeight() < w->maximumHeight();
             expect(!isFree || w->size().expandedTo(least) == w->size(), "cut", *w);
             const auto* bar = qobject_cast<const QScrollBar*>(w);
