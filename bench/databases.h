@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/app.h"
 #include "platform/headlessPlatform.h"
+#include "shell/program.h"
 
 #include <iostream>
 #include <string>

@@ -24,6 +24,7 @@ std::optional<std::string> RecalculateNormalInvoiceColumns(app::App& app, int ro
 // The whole calculation of one invoice. Sets bCalcError when a formula failed.
 void calculateInvoice(app::App& app, core::RecordsList& list, int rowIndex);
 // The same without the message: answers what went wrong first.
-[[nodiscard]] std::optional<std::string> tryCalculateInvoice(app::App& app, core::RecordsList& list, int rowIndex);
+[[nodiscard]] std::optional<std::string> tryCalculateInvoice(app::App& app, core::RecordsList& list,
+                                                             int rowIndex);
 
 } // namespace calc

@@ -42,6 +42,7 @@ private:
 
 // The bytes of a regular file; nothing when it is larger than maxBytes. Raises what openRegularFile does,
 // and deviceIO.
-[[nodiscard]] std::optional<std::string> readSmallFile(const std::filesystem::path& file, std::size_t maxBytes);
+[[nodiscard]] std::optional<std::string> readSmallFile(const std::filesystem::path& file,
+                                                       std::size_t maxBytes);
 
 } // namespace file

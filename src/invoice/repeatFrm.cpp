@@ -77,7 +77,8 @@ bool repeatFrm::hasRoomFor(double rows) const {
 void repeatItemRows(App& app, int iItems, const std::vector<std::string>& cColumns) {
     core::LayoutObjects& layout = app.document.layout;
     for (const std::string& name : cColumns) unloadFieldsOf(layout, name);
-    app.changes.announce(app, app::Change::Objects); // before another field takes the number of the one that was selected
+    app.changes.announce(
+        app, app::Change::Objects); // before another field takes the number of the one that was selected
     float top = firstTop;
     for (int row = 1; row <= iItems; ++row) {
         float left = firstLeft;

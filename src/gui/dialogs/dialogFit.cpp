@@ -81,11 +81,11 @@ class OnScreen final : public QObject {
 public:
     explicit OnScreen(QDialog& dialog) : QObject(&dialog) { dialog.installEventFilter(this); }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        auto& dialog = *static_cast<QDialog*>(watched);
-        if (event->type() == QEvent::Resize && dialog.isVisible()) {
-            const QRect screen = dialog.screen()->availableGeometry();
-            const int below = dialog.frameGeometry().bottom() - screen.bottom();
-            if (below > 0) dialog.move(dialog.x(), std::max(screen.top(), dialog.y() - below));
+        auto* dialog = event->type() == QEvent::Resize ? qobject_cast<QDialog*>(watched) : nullptr;
+        if (dialog != nullptr && dialog->isVisible()) {
+            const QRect screen = dialog->screen()->availableGeometry();
+            const int below = dialog->frameGeometry().bottom() - screen.bottom();
+            if (below > 0) dialog->move(dialog->x(), std::max(screen.top(), dialog->y() - below));
         }
         return QObject::eventFilter(watched, event);
     }
