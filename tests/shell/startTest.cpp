@@ -1,10 +1,12 @@
 #include "calc/recalculation.h"
 #include "core/text.h"
-#include "programTest.h"
+#include "databases.h"
 #include "shell/mainWindow.h"
 #include "shell/samples.h"
 #include "storage/saveFile.h"
 #include "table.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -39,41 +41,36 @@ struct Start : testing::Test, ProgramOn<LoggingPlatform> {
 TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
     load(app);
     EXPECT_EQ(platform.log, "read disclaimFrm show read ");
-    std::string panels;
+    std::string panels, settings;
     for (const std::string& panel : app.mainFrm.panels) panels += panel + "|";
-    EXPECT_EQ(panels, "|||Calculation Status:|Filesize:|No Open Document|Database Style:|");
-    EXPECT_FALSE(app.mainFrm.SSTab1Enabled || app.mainFrm.Caption != "Ferrowick");
+    EXPECT_EQ(panels + app.mainFrm.Caption,
+              "|||Calculation Status:|Filesize:|No Open Document|Database Style:|Ferrowick");
+    EXPECT_FALSE(app.mainFrm.SSTab1Enabled);
     shell::Form_QueryUnload(app);
-    std::string settings;
     for (const auto& [key, value] : platform.settings) settings += key + "=" + value + " ";
     EXPECT_EQ(settings,
               "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= HighlightCalc=False "
               "LayoutDBLClick=False SavePrompt=True SnapToGrid=True defaultFile= ");
-    platform.settings["AutoLoad"] = "True";
-    platform.settings["defaultFile"] = "/no/such/file.fwk";
     platform.log.clear();
     load(app);
     EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
-    EXPECT_EQ(told(), "i Previously opened file could not be found.");
 }
 
 TEST_F(Start, SettingsAreKept) {
-    platform.settings = {
-        {"File1", "1"}, {"File2", "2"}, {"File3", "3"}, {"Disclaimer", "True"}, {"defaultFile", ""}};
-    for (const std::string value : {"True", "False", "True"}) {
-        for (const char* key :
-             {"AutoLoad", "ConfirmDelete", "HighlightCalc", "LayoutDBLClick", "SavePrompt", "SnapToGrid"})
-            platform.settings[key] = value;
+    for (const std::string value : {"True", "False"}) {
+        platform.settings = {{"File1", "1"}, {"File2", "2"}, {"File3", "3"}, {"defaultFile", ""}};
+        for (const char* key : {"AutoLoad", "ConfirmDelete", "Disclaimer", "HighlightCalc", "LayoutDBLClick",
+                                "SavePrompt", "SnapToGrid"})
+            platform.settings[key] = key[0] == 'D' ? "True" : value;
         const auto before = platform.settings;
         load(app);
-        int pressed = 0;
-        for (const auto& [key, control] : app.mainFrm.controls) pressed += control.Value ? 1 : 0;
-        EXPECT_EQ(pressed, value == "True" ? 6 : 0);
+        const auto isPressed = [](const auto& control) { return control.second.Value; };
+        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), value == "True" ? 6 : 0);
         shell::Form_QueryUnload(app);
         EXPECT_EQ(platform.settings, before);
     }
     // Somebody else can have written anything.
-    for (const auto& c : table("true -> True; FALSE -> False;  -> True; maybe -> True;  False -> True")) {
+    for (const auto& c : table("true -> True; FALSE -> False;  -> True; maybe -> True")) {
         platform.settings["SavePrompt"] = c[0];
         load(app);
         EXPECT_EQ(app.mainFrm.bSavePrompt, c[1] == "True") << c[0];
@@ -84,11 +81,10 @@ TEST_F(Start, TheFileOfTheStart) {
     // Auto-load, what is remembered, the command line, and what is opened; "!" stands for the message. The
     // command line wins, and its first and last character go, whatever they are.
     for (const auto& c :
-         table("False; False -> ~books.fwk; True -> ~books.fwk ->  -> ~books.fwk; True; "
-               "True -> ~books.fwk -> \"~invoices.fwk\" -> ~invoices.fwk; True -> ~gone ->  -> !; "
-               "False -> ~books.fwk -> \"~invoices.fwk\" -> ~invoices.fwk; False -> ~gone; "
+         table("False -> ~books.fwk; True -> ~books.fwk ->  -> ~books.fwk; True; True -> ~gone ->  -> !; "
+               "True -> ~books.fwk -> \"~invoices.fwk\" -> ~invoices.fwk; "
                "False -> ~books.fwk -> \"~gone\" -> !; False ->  -> x~books.fwky -> ~books.fwk; "
-               "False ->  -> ~books.fwk -> !; True -> ~books.fwk -> \"\"; True -> ~books.fwk -> \"",
+               "True -> ~books.fwk -> \"\"; True -> ~books.fwk -> \"",
                4)) {
         const auto full = [&](const std::string& text) { return core::replaceAll(text, "~", path("")); };
         platform.settings = {{"AutoLoad", c[0]}, {"defaultFile", full(c[1])}};
@@ -110,7 +106,6 @@ TEST_F(Start, TheFileOfTheStart) {
 TEST_F(Start, TheEndKeepsTheSettingsAndOffersToSave) {
     for (int state = 0; state < 4; ++state)
         for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel}) { // it cannot be cancelled
-            const bool isAsked = state == 3;
             copyOf("books.fwk");
             load(app, '"' + books + '"');
             app.document.LV.at(1).cells[1] = "changed";
@@ -120,9 +115,9 @@ TEST_F(Start, TheEndKeepsTheSettingsAndOffersToSave) {
             platform.answers = {answer};
             shell::Form_QueryUnload(app);
             EXPECT_EQ(platform.log + told(),
-                      isAsked ? "write flush ? Save current document?" : "write flush ");
-            EXPECT_EQ(dataFileOf(books).find("|changed|") != std::string::npos,
-                      isAsked && answer != Answer::No);
+                      state < 3 ? "write flush " : "write flush ? Save current document?");
+            const bool isSaved = dataFileOf(books).find("|changed|") != std::string::npos;
+            EXPECT_EQ(isSaved, state == 3 && answer != Answer::No);
             EXPECT_TRUE(app.mainFrm.unloaded && fs::exists(platform.workFolder() / "data.dat"));
         }
 }
@@ -142,43 +137,34 @@ TEST_F(Start, RecentFilesOpenWithoutAQuestion) {
     EXPECT_EQ(app.document.currentFile + told(), older) << "an empty entry does nothing";
 }
 
-struct Samples : testing::Test, Program {
-    const fs::path samples = SAMPLES_DIR;
-};
-
-TEST_F(Samples, AreThereAndAlreadyCalculated) {
+// Installed files are read-only for the user. The copy is his to change, and opened as he left it.
+TEST_F(Start, SamplesAreCalculatedAndCopiedOnce) {
+    const fs::path samples = SAMPLES_DIR, copies = path("Ferrowick");
+    EXPECT_EQ(shell::samplesIn(samples).size(), 5U);
     for (const shell::Sample& sample : shell::samplesIn(samples)) {
-        shell::openSample(app, sample, path("documents"));
-        const std::string copy = path("documents/Ferrowick/" + sample.file.filename().string());
-        EXPECT_EQ(app.document.currentFile, copy);
+        shell::openSample(app, sample, platform.folder);
+        EXPECT_EQ(app.document.currentFile, copies / sample.file.filename());
         calc::RecalculateAll(app, app.document.LV);
         storage::SaveFile(app, false, false);
         EXPECT_EQ(told(), "");
-        EXPECT_EQ(dataFileOf(copy), dataFileOf(sample.file.string()));
+        EXPECT_EQ(dataFileOf(app.document.currentFile), dataFileOf(sample.file.string()));
     }
-    EXPECT_EQ(shell::samplesIn(samples).size(), 5U);
-    fs::copy_file(samples / "invoices.fwk", path("invoices.fwk"));
-    EXPECT_EQ(shell::samplesIn(platform.folder).at(0).name, "Invoices"); // those that are there
-}
-
-// Installed files are read-only for the user. The copy is his to change, and opened as he left it.
-TEST_F(Samples, AreCopiedOnce) {
-    const fs::path installed = path("garden.fwk"), copy = path("Ferrowick/library.fwk");
-    fs::create_directories(copy.parent_path());
-    fs::copy_file(samples / "garden.fwk", copy);
-    shell::openSample(app, {samples / "library.fwk", "Library", "", ""}, platform.folder);
-    EXPECT_NE(app.document.LV.columns.find("Plant"), nullptr);
-    EXPECT_EQ(app.mainFrm.control("mnuFile1").Caption, copy.string());
+    const fs::path installed = path("library.fwk");
     fs::copy_file(samples / "garden.fwk", installed);
+    const shell::Sample garden = shell::samplesIn(platform.folder).at(0); // those that are there
+    shell::openSample(app, garden, platform.folder);
+    EXPECT_EQ(app.document.LV.columns.find("Plant"), nullptr) << garden.name;
+    EXPECT_EQ(app.mainFrm.control("mnuFile1").Caption, copies / "library.fwk");
+    fs::remove(copies / "library.fwk");
     fs::permissions(installed, fs::perms::owner_read);
-    shell::openSample(app, {installed, "Garden", "", ""}, platform.folder);
+    shell::openSample(app, garden, platform.folder);
     EXPECT_NE(fs::status(app.document.currentFile).permissions() & fs::perms::owner_write, fs::perms::none);
-    const std::string before = app.document.currentFile;
-    shell::openSample(app, {samples / "library.fwk", "", "", ""}, copy); // a file where the folder should be
-    EXPECT_TRUE(told().starts_with("! The sample could not be copied to " + copy.string() + "/Ferrowick: "));
-    shell::openSample(app, {platform.folder, "", "", ""}, path("b")); // no file at all
-    EXPECT_TRUE(told().starts_with("! The sample could not be copied to " + path("b/Ferrowick: ")));
-    EXPECT_EQ(app.document.currentFile, before) << "stays open";
+    // A file where the folder should be, and no file at all.
+    for (const auto& [file, folder] : {std::pair(installed, path("books.fwk")), {copies, path("b")}}) {
+        shell::openSample(app, {file, "", "", ""}, folder);
+        EXPECT_TRUE(told().starts_with("! The sample could not be copied to " + folder + "/Ferrowick: "));
+    }
+    EXPECT_NE(app.document.LV.columns.find("Plant"), nullptr) << "stays open";
 }
 
 } // namespace
