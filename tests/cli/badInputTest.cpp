@@ -65,8 +65,6 @@ TEST_F(BadInput, FilesThatAreNoDatabases) {
         const char* finding;
         bool opens = false;
     } cases[] = {
-        {archiveOf(""), "the text ends too early"},
-        {archiveOf(std::string(5000, '\xA5') + "\r\n\r\n[[["), "the text ends too early"},
         {archiveOf(std::string(5000, '\0')), "the text ends too early"},
         {archiveOf(whole.substr(0, whole.find("[Begin"))), "the text ends too early"},
         {archiveOf(names.text()), "Key is not unique in collection: NAME"},
@@ -77,7 +75,6 @@ TEST_F(BadInput, FilesThatAreNoDatabases) {
         {damaged, "fwk: b.fwk: "},
         {noData, "fwk: b.fwk: File not found: data.dat is not in the archive"},
         {"", "fwk: b.fwk: "},
-        {archive.substr(0, archive.size() / 2), "fwk: b.fwk: "},
         {archive.substr(0, archive.size() - 1), "fwk: b.fwk: "},
         {archive + std::string(100'000, 'x'), "fwk: b.fwk: "},
         {archiveOf(lengths.text()), "row without a separator at its end", true},

@@ -59,9 +59,8 @@ $1 fwk layouts none.fwk -o old.pdf -> ! there are no records && $1 fwk layouts i
 ! invoices print one to a page only && $1 fwk layouts wide.fwk -o old.pdf --many
 ! Ferrowick: The layout is... // ! no layout fits on a sheet && $1 fwk report a.fwk -o no/such/folder.pdf
 ! no/such/folder.pdf: File not found: no/such/folder.pdf && $1 fwk report a.fwk -o a.fwk
-! is the database itself && $1 fwk layouts a.fwk -o ./a.fwk -> ! ./a.fwk: is the database itself
-$1 fwk layouts a.fwk --many -o link.fwk -> ! link.fwk: is the database itself && $2 fwk report a.fwk
-! --output is required && $1 ulimit -f 4; fwk report books.fwk -o old.pdf
+! is the database itself && $1 fwk layouts a.fwk --many -o link.fwk -> ! link.fwk: is the database itself
+$2 fwk report a.fwk -> ! --output is required && $1 ulimit -f 4; fwk report books.fwk -o old.pdf
 ! old.pdf: could not be written: Device I/O error: old.pdf (File too large)
 )sh");
 }

@@ -28,33 +28,33 @@ No      Number          700         2  serial number, last 42 // Title   Text   
 Price   Currency     1200.5         4 // Bought  Date           1300         5  today's date
 Value   Calculation    1200         7  = Price * No, totaled // Cover   Picture         900         6
 Entry     Bytes  Comment // --------  -----  -------------- // data.dat    966  Main Data File
-in.jpg       15 && $ fwk info a.fwk --json | tr -s ' \n' ' ' | fold -s -w 108 | sed 's/ $//'; echo
-{ "style": "standard", "view": "invoices", "locked": true, "records": 1, "columns": [ { "name": "No",
-"type": "Number", "width": 700, "position": 2 }, { "name": "Title", "type": "Text", "width": 3200,
-"position": 3 }, { "name": "Price", "type": "Currency", "width": 1200.5, "position": 4 }, { "name":
-"Bought", "type": "Date", "width": 1300, "position": 5 }, { "name": "Value", "type": "Calculation",
-"width": 1200, "position": 7 }, { "name": "Cover", "type": "Picture", "width": 900, "position": 6 } ],
-"formulas": [ "Value,Price * No" ], "totaledCols": [ "Value" ], "optionedCols": [ "No", "Bought" ],
-"serials": { "No": "42" }, "printedCols": [ "No" ], "prnInvoiceCols": [ "Title" ], "prnItemCols": [ "Price"
-], "invoiceCols": [ "1", "2" ], "itemLevelCols": [ "2", "1" ], "locks": [ "pBox,1" ], "layoutOptions": {
-"customPaperLength": 4.25, "customPaperHeight": 6, "layoutLeftMargin": 1, "layoutTopMargin": 2,
-"layoutBottomMargin": 3, "layoutRightMargin": 4, "layoutPaperSize": 256, "layoutOrientation": 2,
-"layoutSpacing": 0.15 }, "reportData": { "reportLeftMargin": 1.5, "reportRightMargin": 2,
-"reportTopMargin": 2.5, "reportBottomMargin": 3, "reportPaperSize": 5, "reportOrientation": 2,
-"reportTitle": "Books", "bReportBoldHeaders": true }, "layout": [ { "family": "layoutField", "index": 1,
-"Tag": "Value", "Left": 2880, "Top": 3720, "Width": 1815, "Height": 285, "FontBold": true, "FontItalic":
-false, "FontUnderline": false, "FontName": "Serif", "FontSize": 8.25, "ForeColor": 255, "Alignment": 1 }, {
-"family": "tLabel", "index": 1, "Tag": "mailto:a@example.org", "Left": 8000, "Top": 5200, "Width": 2000,
-"Height": 225, "Text": "Ask", "FontBold": false, "FontItalic": true, "FontUnderline": true, "FontName":
-"Arial", "FontSize": 10, "ForeColor": 7, "Alignment": 2 }, { "family": "pbLine", "index": 1, "Tag": "",
-"Left": 1, "Top": 2, "Width": 3, "Height": 4, "BackColor": 16777215 }, { "family": "vLine", "index": 1,
-"Tag": "", "Left": 7400, "Top": 1560, "Width": 75, "Height": 3300, "BackColor": 16777215 }, { "family":
-"pBox", "index": 1, "Tag": "", "Left": 1320, "Top": 960, "Width": 9000, "Height": 4500, "ForeColor": 128,
-"DrawWidth": 3 }, { "family": "imgHolder", "index": 1, "Tag": "Cover", "Left": 5, "Top": 6, "Width": 7,
-"Height": 8 }, { "family": "clipPic", "index": 1, "Tag": "logo.gif", "Left": 9000, "Top": 990, "Width":
-1080, "Height": 420 }, { "family": "clipPic", "index": 2, "Tag": "logo.gif", "Left": 9, "Top": 9, "Width":
-1, "Height": 4 } ], "entries": [ { "name": "data.dat", "comment": "Main Data File", "size": 966 }, {
-"name": "in.jpg", "comment": "", "size": 15 } ] } && $ fwk info b.fwk -> Style:    invoice
+in.jpg       15
+$ fwk info a.fwk --json | tr -d ' \n' | sed 's/,/, /g' | fold -s -w 108 | sed 's/ $//'; echo
+{"style":"standard", "view":"invoices", "locked":true, "records":1, "columns":[{"name":"No",
+"type":"Number", "width":700, "position":2}, {"name":"Title", "type":"Text", "width":3200, "position":3},
+{"name":"Price", "type":"Currency", "width":1200.5, "position":4}, {"name":"Bought", "type":"Date",
+"width":1300, "position":5}, {"name":"Value", "type":"Calculation", "width":1200, "position":7},
+{"name":"Cover", "type":"Picture", "width":900, "position":6}], "formulas":["Value, Price*No"],
+"totaledCols":["Value"], "optionedCols":["No", "Bought"], "serials":{"No":"42"}, "printedCols":["No"],
+"prnInvoiceCols":["Title"], "prnItemCols":["Price"], "invoiceCols":["1", "2"], "itemLevelCols":["2", "1"],
+"locks":["pBox, 1"], "layoutOptions":{"customPaperLength":4.25, "customPaperHeight":6,
+"layoutLeftMargin":1, "layoutTopMargin":2, "layoutBottomMargin":3, "layoutRightMargin":4,
+"layoutPaperSize":256, "layoutOrientation":2, "layoutSpacing":0.15}, "reportData":{"reportLeftMargin":1.5,
+"reportRightMargin":2, "reportTopMargin":2.5, "reportBottomMargin":3, "reportPaperSize":5,
+"reportOrientation":2, "reportTitle":"Books", "bReportBoldHeaders":true},
+"layout":[{"family":"layoutField", "index":1, "Tag":"Value", "Left":2880, "Top":3720, "Width":1815,
+"Height":285, "FontBold":true, "FontItalic":false, "FontUnderline":false, "FontName":"Serif",
+"FontSize":8.25, "ForeColor":255, "Alignment":1}, {"family":"tLabel", "index":1,
+"Tag":"mailto:a@example.org", "Left":8000, "Top":5200, "Width":2000, "Height":225, "Text":"Ask",
+"FontBold":false, "FontItalic":true, "FontUnderline":true, "FontName":"Arial", "FontSize":10,
+"ForeColor":7, "Alignment":2}, {"family":"pbLine", "index":1, "Tag":"", "Left":1, "Top":2, "Width":3,
+"Height":4, "BackColor":16777215}, {"family":"vLine", "index":1, "Tag":"", "Left":7400, "Top":1560,
+"Width":75, "Height":3300, "BackColor":16777215}, {"family":"pBox", "index":1, "Tag":"", "Left":1320,
+"Top":960, "Width":9000, "Height":4500, "ForeColor":128, "DrawWidth":3}, {"family":"imgHolder", "index":1,
+"Tag":"Cover", "Left":5, "Top":6, "Width":7, "Height":8}, {"family":"clipPic", "index":1, "Tag":"logo.gif",
+"Left":9000, "Top":990, "Width":1080, "Height":420}, {"family":"clipPic", "index":2, "Tag":"logo.gif",
+"Left":9, "Top":9, "Width":1, "Height":4}], "entries":[{"name":"data.dat", "comment":"MainDataFile",
+"size":966}, {"name":"in.jpg", "comment":"", "size":15}]} && $ fwk info b.fwk -> Style:    invoice
 View:     invoices // Design:   not locked // Records:  0 // Layout:   empty; Letter, portrait
 Report:   no title; paper 9, portrait // Column  Type         Width  Position  By itself
 ------  -----------  -----  --------  --------- // Name    Text          1440         2
@@ -65,22 +65,22 @@ data.dat    258  Main Data File
 
 TEST_F(Reading, RecordsComeAsTheyAreStored) {
     DataFile odd, none("");
-    odd.rows =
-        "a \"b\", c|1||\r\n  x\ny\t\\|-2|$1.50|\r\n\xC6r\xF8|3|(4)|\r\n\x81\x7F|||\r\n------|2|$1.50|\r\n";
+    odd.rows = "a \"b\", c|1||\r\n  "
+               "x\ny\t\\|-2|$1.50|\r\n\xC6r\xF8\xA0x|3|(4)|\r\n\x81\x7F|||\r\n------|2|$1.50|\r\n";
     make("odd.fwk", odd);
     none.rows.clear();
     make("none.fwk", none);
     expect(R"sh(
 $ fwk records odd.fwk -> Key     Name      Qty  Price // ------  --------  ---  ----- // i1      a "b", c    1
-i2        x y \    -2  $1.50 // i3      Ærø         3    (4) // i4 // ------  --------  ---  -----
+i2        x y \    -2  $1.50 // i3      Ærø x       3    (4) // i4 // ------  --------  ---  -----
 Totals  ------      2  $1.50 && $ fwk records odd.fwk --json -> {"columns": ["Name", "Qty", "Price"],
  "records": [ //   {"key": "i1", "cells": ["a \"b\", c", "1", ""]},
   {"key": "i2", "cells": ["  x\u000ay\u0009\\", "-2", "$1.50"]},
-  {"key": "i3", "cells": ["Ærø", "3", "(4)"]}, //   {"key": "i4", "cells": ["\u007f", "", ""]}],
+  {"key": "i3", "cells": ["Ærø x", "3", "(4)"]}, //   {"key": "i4", "cells": ["\u007f", "", ""]}],
  "totals": ["------", "2", "$1.50"]} && $ fwk records odd.fwk --csv -> Name,Qty,Price // "a ""b"", c",1,
-"  x // y	\",-2,$1.50 // Ærø,3,(4) // ,, && $ fwk records odd.fwk --csv --columns PRICE,Name -> Price,Name
-,"a ""b"", c" // $1.50,"  x // y	\" // (4),Ærø // , && $ fwk records odd.fwk --csv --columns Price -> Price
-"" // $1.50 // (4) // "" && $ fwk records none.fwk --json -> {"columns": [], //  "records": [],
+"  x // y	\",-2,$1.50 // Ærø x,3,(4) // ,, && $ fwk records odd.fwk --csv --columns PRICE,Name -> Price,Name
+,"a ""b"", c" // $1.50,"  x // y	\" // (4),Ærø x // , && $ fwk records odd.fwk --csv --columns Price
+Price // "" // $1.50 // (4) // "" && $ fwk records none.fwk --json -> {"columns": [], //  "records": [],
  "totals": []} && $ fwk --version -> fwk 0.1.0 && $ fwk --help | grep save-as
   save-as                     Saves a database under another name, with its images
 $ fwk records --help | grep -e --columns ->   --columns A,B               These columns alone, in this order
@@ -165,11 +165,11 @@ a lock names "imgHolder,2", which is not on the layout // a lock names "clipPic,
 a lock names "x,1", which is not on the layout // a lock names "pBox", which is not on the layout
 i2 in "Photo" names the image "lost.jpg", which is not in the archive
 i3 in "Photo" names the image "more.jpg", which is not in the archive // nothing names the image "orphan.jpg"
-! 23 findings && $1 fwk check counts.fwk -> line 8: section [Column Names  ] is there twice
-section [Column Types  ] has 4 elements in place of 3 // section [Column Widths ] has 5 elements in place of 3
-section [Column Spots  ] has 2 elements in place of 4 // ! 4 findings && $1 fwk check order.fwk
+! 23 findings && $1 fwk check counts.fwk -> line 8: section [Column Names] is there twice
+section [Column Types] has 4 elements in place of 3 // section [Column Widths] has 5 elements in place of 3
+section [Column Spots] has 2 elements in place of 4 // ! 4 findings && $1 fwk check order.fwk
 the width "1e9" of a column is out of range // the width "-1" of a column is out of range
-section [Column Spots  ] is no order of the columns // the last row is no Totals row: it has "last" in "Name"
+section [Column Spots] is no order of the columns // the last row is no Totals row: it has "last" in "Name"
 ! 4 findings && $1 fwk check cut.fwk -> line 9: row with too few cells // line 10: row with too many cells
 line 11: row with too few cells // line 11: row without a separator at its end // ! 4 findings
 $ fwk check endless.fwk 2>&1 | tail -2 -> and 19001 more // fwk: endless.fwk: 20001 findings

@@ -44,38 +44,33 @@ $1 fwk column add a.fwk New:Text --auto -> ! only Date and Number columns have v
 $1 fwk column add locked.fwk A:Text -> ! Ferrowick: The database ... // ! its design is locked
 $1 fwk column rename a.fwk Price ' ' -> ! the column "Price" keeps its name
 $1 fwk column remove a.fwk Price -> ! ALL data in the column "Price" would be lost, --yes removes it
-$1 fwk serial a.fwk No 12x -> ! Ferrowick: You entered a... // ! the serial number of "No" is not set
 $1 fwk serial stale.fwk Qty x -> ! Ferrowick: You entered a... // ! the serial number of "Qty" is not set
 $1 fwk serial a.fwk Price 1 -> ! the column "Price" has no serial numbers && $1 fwk expression a.fwk Price
 ! the column "Price" is no calculation column && $1 fwk expression a.fwk Va,lue 1
 ! the column "Va,lue" can have no expression: a comma divides names from expressions
 $1 fwk expression a.fwk Value '1 | 2'
 ! "1 | 2" holds a "|", which divides names and expressions in the file && $1 fwk total a.fwk Value Title
-! the column "Title" cannot be totalled && $1 fwk total a.fwk Vale -> ! no column "Vale"
-$1 fwk total stale.fwk Qty -> ! Element not found: Gone && $1 fwk recalculate stale.fwk
-! Element not found: Gone && $1 fwk add a.fwk Title -> ! "Title" is not of the form NAME=VALUE
-$1 fwk add a.fwk Titel=x=y -> ! no column "Titel" && $1 fwk add a.fwk Index=x -> ! no column "Index"
-$1 fwk add a.fwk Title=x TITLE=y -> ! the column "Title" is named twice && $1 fwk add a.fwk Value=1
+! the column "Title" cannot be totalled && $1 fwk total stale.fwk Qty -> ! Element not found: Gone
+$1 fwk recalculate stale.fwk -> ! Element not found: Gone && $1 fwk add a.fwk Title
+! "Title" is not of the form NAME=VALUE && $1 fwk add a.fwk Titel=x=y -> ! no column "Titel"
+$1 fwk add a.fwk Index=x -> ! no column "Index" && $1 fwk add a.fwk Title=x TITLE=y
+! the column "Title" is named twice && $1 fwk add a.fwk Value=1
 ! the column "Value" is calculated and takes no value && $1 fwk add a.fwk "$(printf 'Title=x\r\ny')"
 ! "x  y" is more than one line && $1 fwk add a.fwk "$(printf 'Title=\377x')" -> ! "�x" is not UTF-8
-$1 fwk add a.fwk Cover=absent.jpg -> ! it has no image "absent.jpg" && $1 fwk update a.fwk i43 Title=x
-! no record "i43" && $1 fwk update a.fwk Totals Title=x -> ! no record "Totals" && $1 fwk delete a.fwk i1 i43
-! no record "i43" && $1 fwk delete a.fwk Totals -> ! no record "Totals" && $1 fwk duplicate a.fwk i0 1
-! no record "i0" && $1 fwk duplicate a.fwk i1 40000 -> ! Overflow: 40000
-$1 fwk add inv.fwk Qty=1@2@3@4@5@6@7@8@ -> ! the column "Qty" has 6 rows on the layout
-$1 fwk search a.fwk --where Nme is x -> ! no column "Nme" && $1 fwk search inv.fwk --where Item is x
-! the view on show has no column "Item" && $1 fwk search d.fwk --where Bought range 1/1/2004 soon
-! "soon" is no date for the column "Bought" && $1 fwk search d.fwk --where Note ge soon
-! Type mismatch: "SOON" is no date && $1 fwk search a.fwk --where Title is x -o d.fwk
-! d.fwk: it exists already, --yes overwrites it && $1 fwk search a.fwk --where Title is x -o no/new.fwk
-! Ferrowick: There was an ... // ! no/new.fwk: could not be saved: its folder does not exist
-$1 fwk search a.fwk --where Title is x -o ./a.fwk --yes -> ! Ferrowick: You cannot sa...
-! ./a.fwk: is the database that was searched && $1 fwk search a.fwk --where Title is x -o link.fwk --yes
-! Ferrowick: You cannot sa... // ! link.fwk: is the database that was searched && $1 fwk replace inv.fwk a b
-! Ferrowick: This feature ... // ! words have not been replaced && $1 fwk export a.fwk -o t.txt
-! t.txt: a table is a .csv or a .json file && $1 fwk export a.fwk -o no/t.csv
-! no/t.csv: could not be written: File not found: no/t.csv && $1 fwk export a.fwk -o link.csv
-! link.csv: is the database itself
+$1 fwk add a.fwk Cover=absent.jpg -> ! it has no image "absent.jpg" && $1 fwk delete a.fwk i1 i43
+! no record "i43" && $1 fwk delete a.fwk Totals -> ! no record "Totals" && $1 fwk duplicate a.fwk i1 40000
+! Overflow: 40000 && $1 fwk add inv.fwk Qty=1@2@3@4@5@6@7@8@ -> ! the column "Qty" has 6 rows on the layout
+$1 fwk search inv.fwk --where Item is x -> ! the view on show has no column "Item"
+$1 fwk search d.fwk --where Bought range 1/1/2004 soon -> ! "soon" is no date for the column "Bought"
+$1 fwk search d.fwk --where Note ge soon -> ! Type mismatch: "SOON" is no date
+$1 fwk search a.fwk --where Title is x -o d.fwk -> ! d.fwk: it exists already, --yes overwrites it
+$1 fwk search a.fwk --where Title is x -o no/new.fwk -> ! Ferrowick: There was an ...
+! no/new.fwk: could not be saved: its folder does not exist
+$1 fwk search a.fwk --where Title is x -o link.fwk --yes -> ! Ferrowick: You cannot sa...
+! link.fwk: is the database that was searched && $1 fwk replace inv.fwk a b -> ! Ferrowick: This feature ...
+! words have not been replaced && $1 fwk export a.fwk -o t.txt -> ! t.txt: a table is a .csv or a .json file
+$1 fwk export a.fwk -o no/t.csv -> ! no/t.csv: could not be written: File not found: no/t.csv
+$1 fwk export a.fwk -o link.csv -> ! link.csv: is the database itself
 )sh");
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -28,8 +29,7 @@ inline void expectTranscript(std::string_view script,
             line[0] == '$' && line[end] == ' ')
             all += play(line.substr(end + 1));
     }
-    std::istringstream found(all);
-    for (std::string line; std::getline(found, line);)
-        if (!line.empty()) told += line + "\n";
+    std::ranges::unique_copy(all, std::back_inserter(told),
+                             [](char a, char b) { return a == '\n' && b == a; });
     EXPECT_EQ(told, wanted);
 }
