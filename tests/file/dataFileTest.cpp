@@ -1,3 +1,4 @@
+#include "core/text.h"
 #include "databases.h"
 #include "file/dataReader.h"
 #include "file/dataWriter.h"
@@ -24,31 +25,21 @@ std::string again(const std::string& text) {
     return error.empty() ? file::encodeDataFile(file::writeDataFile(document, false)) : error;
 }
 
-constexpr const char* design =
-    "[LayoutStart]\r\n"
-    "L|Hello|0|0|1695|195|False|False|False|MS Sans Serif|8.25|0|http://a.org|2|\r\n"
-    "C|a.gif|10|20|2175|1815|\r\n"
-    "[LayoutEnd]\r\n"
-    "[Layout Options]4|6|0.1|0.2|0.3|0.4|256|1|0.15|\r\n"
-    "[Column Names  ]Name|Qty|Photo|\r\n"
-    "[Column Types  ]3|4|7|\r\n"
-    "[Column Widths ]1234.5|1440|1440|\r\n"
-    "[Column Spots  ]1|3|4|2|\r\n"
-    "[InvoiceCols   ]\r\n"
-    "[ItemLevelCols ]9|9|\r\n"
-    "[Printed Cols  ]Name|\r\n"
-    "[PrnInvoiceCols]Qty|\r\n"
-    "[PrnItemCols   ]Photo|\r\n"
-    "[Report Data   ]1.5|2.5|3.5|4.5|5|2|A title|True|\r\n"
-    "[Formulas      ]Qty,2 * ( 3 )|\r\n"
-    "[Totaled Cols  ]Qty|Name|\r\n"
-    "[Optioned Cols ]Qty|\r\n"
-    "[Increments    ]Qty,42|\r\n"
-    "[Locks         ]tLabel,2|pBox,1|\r\n"
-    "[DatabaseStyle ]False\r\n"
-    "[InvoiceView   ]False\r\n"
-    "[Lock          ]\x01 x|\r\n"
-    "[Begin Data    ]\r\n";
+// Every section, in the order in which they are written.
+DataFile designOnly() {
+    DataFile data({{"Name", 3}, {"Qty", 4}, {"Photo", 7}});
+    data.widths = "1234.5|1440|1440|";
+    data.spots = "1|3|4|2|";
+    data.objects("L|Hello|0|0|1695|195|False|False|False|MS Sans Serif|8.25|0|http://a.org|2|;"
+                 "C|a.gif|10|20|2175|1815|");
+    data.sections(
+        "InvoiceCols=;ItemLevelCols=9|9|;Printed Cols=Name|;PrnInvoiceCols=Qty|;PrnItemCols=Photo|");
+    data.sections("Report Data=1.5|2.5|3.5|4.5|5|2|A title|True|;Formulas=Qty,2 * ( 3 )|");
+    data.sections("Totaled Cols=Qty|Name|;Optioned Cols=Qty|;Increments=Qty,42|;Locks=tLabel,2|pBox,1|");
+    return data.sections("DatabaseStyle=False;InvoiceView=False;Lock=\x01 x|");
+}
+const std::string design =
+    core::replaceAll(designOnly().text(), "]4|6|1|1|1|1|1|1|", "]4|6|0.1|0.2|0.3|0.4|256|1|");
 
 // What a save does not refresh comes back byte for byte, of every database.
 TEST(DataFile, ComesBackByteForByte) {
@@ -65,68 +56,47 @@ TEST(DataFile, ComesBackByteForByte) {
     Document document;
     read(document, design + rows);
     document.LV.at(1).cells[1] = " 1 "; // only texts keep their blanks
-    std::string text = design;
-    EXPECT_EQ(file::writeDataFile(document, false), text + rows);
-    text.replace(text.find("Qty,42"), 6, "Qty,0");
-    EXPECT_EQ(file::writeDataFile(document, true), text) << "a clone";
+    EXPECT_EQ(file::writeDataFile(document, false), design + rows);
+    EXPECT_EQ(file::writeDataFile(document, true), core::replaceAll(design, "Qty,42", "Qty,0")) << "a clone";
     EXPECT_EQ(document.SerialsLV.at(1).subItem(1), "42") << "the open document keeps counting";
     const core::LayoutOptions& layout = document.layoutOptions;
     EXPECT_EQ(layout.layoutTopMargin + layout.layoutBottomMargin * 10, 3.2F);
     EXPECT_EQ(document.reportData.reportTopMargin, 3.5F);
 }
 
-// The lines that are written in place of those that were read.
+// Lines of the file, and those that are written in their place.
 TEST(DataFile, SectionsInOtherForms) {
-    const std::string tooMany(32'768, '|');
-    const std::vector<std::pair<std::string, std::string>> cases = {
-        {"Report Data   ]1|1|1|1|1|1|Title|-1|", "Report Data   ]1|1|1|1|1|1|Title|True|"},
-        // A title with a separator is cut, and the flag keeps its value; so it does in a file from before the
-        // flag.
-        {"Report Data   ]1|1|1|1|1|1|A|B|True|", "Report Data   ]1|1|1|1|1|1|A|False|"},
-        {"Report Data   ]1|1|1|1|1|1|A|True", "Report Data   ]1|1|1|1|1|1|A|False|"},
-        {"Report Data   ].25|1|1|1|1|1||", "Report Data   ]0.25|1|1|1|1|1||False|"},
-        {"Report Data   ]1|1|1|1|1|1|", "Report Data   ]1|1|1|1|1|1||False|"},
-        {"Report Data   ]1|1|1|1|1", "error 9"},
-        {"Layout Options]1|1|1|1|1|1|1|1|", "error 13"},
-        // What stands behind the last separator is no element.
-        {"Totaled Cols  ]Qty|Price", "Totaled Cols  ]Qty|"},
-        {"Totaled Cols  ]Qty", "Totaled Cols  ]"},
-        {"Formulas      ]Bare|Sum,Qty * ( 2 , 2 )|", "Formulas      ]Bare|Sum,Qty * ( 2 , 2 )|"},
-        {"InvoiceCols   ]1|3|3|", "InvoiceCols   ]"}, // a standard database has none
-        {"Increments    ]No,42|Long name, with comma,7|Empty,|",
-         "Increments    ]No,42|Long name, with comma|Empty,|"},
-        {"DatabaseStyle ]-1", "DatabaseStyle ]True"},
-        {"InvoiceView   ] true ", "InvoiceView   ]True"},
-        // A scrambled password can hold line ends.
-        {"Lock          ]a\rb", "Lock          ]a\rb"},
-        {"Lock          ]a\r\nb\n\x01\r", "Lock          ]a\r\nb\n\x01\r"},
-        {"Lock          ]  a|b,c ", "Lock          ]  a|b,c "},
-        {"Column Names  ]A|B|C|D|", "error 9"},
-        {"Column Names  ]Name|index|Price|", "error 35602"},
-        {"Column Names  ]Name|Qty|", "error 35600"},
-        {"Column Names  ]" + tooMany, "error 6"},
-        {"Column Spots  ]1|3|", "Column Spots  ]1|3|2|4|"},
-        {"Column Spots  ]", "Column Spots  ]1|2|3|4|"},
-        {"Column Spots  ]1|2|3|4|5|", "error 35600"},
-        {"Column Widths ]1,440|9x|12 34|", "Column Widths ]1|9|1234|"},
-        {"Column Widths ]1E9|-1E9|wide|", "Column Widths ]1000000|-1000000|0|"},
-        {"DatabaseStyle ]Invoice", "error 13"},
-        {"Formulas      ]Sum,Qty|SUM,Price|", "error 457"},
-        {"Printed Cols  ]Qty|qty|", "error 457"},
-        {"PrnInvoiceCols]Qty|Qty|", "error 457"},
-        {"PrnItemCols   ]Qty|Qty|", "error 457"},
-        {"Totaled Cols  ]Qty|Qty|", "error 457"},
-        {"Optioned Cols ]Qty|QTY|", "error 457"},
-        {"Locks         ]pBox,1|pbox,1|", "error 457"},
-        {"Increments    ]Qty,1|QTY,2|", "error 35602"},
-        {"Increments    ]Qty|", "error 9"}};
-    for (const auto& [line, written] : cases) {
+    for (const auto& c :
+         table("[Report Data   ]1|1|1|1|1|1|Title|-1| -> [Report Data   ]1|1|1|1|1|1|Title|True|; "
+               // A title with a separator is cut, and the flag keeps its value; so it does in a file from
+               // before the flag.
+               "[Report Data   ]1|1|1|1|1|1|A|B|True| -> [Report Data   ]1|1|1|1|1|1|A|False|; "
+               "[Report Data   ].25|1|1|1|1|1|| -> [Report Data   ]0.25|1|1|1|1|1||False|; "
+               "[Report Data   ]1|1|1|1|1|1| -> [Report Data   ]1|1|1|1|1|1||False|; "
+               "[Report Data   ]1|1|1|1|1 -> error 9; [Layout Options]1|1|1|1|1|1|1|1| -> error 13; "
+               // What stands behind the last separator is no element.
+               "[Totaled Cols  ]Qty|Price -> [Totaled Cols  ]Qty|; [Totaled Cols  ]Qty -> [Totaled Cols  ]; "
+               "[Formulas      ]Bare|Sum,Qty * ( 2 , 2 )|; "
+               "[InvoiceCols   ]1|3|3| -> [InvoiceCols   ]; " // a standard database has none
+               "[Increments    ]No,42|Long name, with comma,7|Empty,| -> "
+               "[Increments    ]No,42|Long name, with comma|Empty,|; "
+               "[DatabaseStyle ]-1 -> [DatabaseStyle ]True; [InvoiceView   ] true  -> [InvoiceView   ]True; "
+               // A scrambled password can hold line ends.
+               "[Lock          ]a\rb; [Lock          ]a\r\nb\n\x01\r; [Lock          ]  a|b,c ; "
+               "[Column Names  ]A|B|C|D| -> error 9; [Column Widths ]1|2| -> error 9; "
+               "[Column Names  ]Name|index|Price| -> error 35602; [Column Names  ]Name|Qty| -> error 35600; "
+               "[Column Names  ]* -> error 6; [Column Spots  ]1|3| -> [Column Spots  ]1|3|2|4|; "
+               "[Column Spots  ] -> [Column Spots  ]1|2|3|4|; [Column Spots  ]1|2|3|4|5| -> error 35600; "
+               "[Column Widths ]1,440|9x|12 34| -> [Column Widths ]1|9|1234|; "
+               "[Column Widths ]1E9|-1E9|wide| -> [Column Widths ]1000000|-1000000|0|; "
+               "[DatabaseStyle ]Invoice -> error 13; [Formulas      ]Sum,Qty|SUM,Price| -> error 457; "
+               "[Printed Cols  ]Qty|qty| -> error 457; [Increments    ]Qty,1|QTY,2| -> error 35602; "
+               "[Increments    ]Qty| -> error 9")) {
         DataFile data;
-        data.more = "[" + line + "\r\n";
-        const std::string text = "\r\n" + again(data.text());
-        const std::string wanted =
-            written.starts_with("error") ? "\r\n" + written : "\r\n[" + written + "\r\n";
-        EXPECT_NE(text.find(wanted), std::string::npos) << line << text.substr(0, 2000);
+        data.more =
+            core::replaceAll(c[0], "*", c[0].ends_with('*') ? std::string(32'768, '|') : "*") + "\r\n";
+        const std::string text = "\r\n" + again(data.text()) + "\r\n";
+        EXPECT_NE(text.find("\r\n" + c[c[1].empty() ? 0 : 1] + "\r\n"), std::string::npos) << c[0] << text;
     }
 }
 
@@ -161,35 +131,26 @@ TEST(DataFile, SectionsComeInAnyOrderAmongUnknownOnes) {
 
 // Rows of a Text, a Number and a Currency column; the last line is the Totals row, whatever it holds.
 TEST(DataFile, Rows) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"a|1|2|\nb|3|4|\n", "a|1|2|;b|3|4|;"},
-        {"a|1|2|", "a|1|2|;"},
-        {"", ""},
-        {"\na|1|2|\n\n\nb|3|4|\n\n\n", "a|1|2|;b|3|4|;"},
-        {"   \na|1|2|\n", "|||;a|1|2|;"},                        // a line of blanks is a row
-        {" a |  1 | $2.00 |\n-|-|-|\n", " a |1|$2.00|;-|-|-|;"}, // only Text keeps its blanks
-        {"a|\t1\t|2|\n-|-|-|\n", "a|\t1\t|2|;-|-|-|;"},          // other white space stays
-        {"a|\nb|1|\n|\n-|\n", "a|||;b|1||;|||;-|||;"},           // cells too few
-        {"a|1|2|3|4|\nb|1|2|x\nc|1\nd\n-|",
-         "a|1|2|;b|1|2|;c|||;|||;-|||;"},          // and too many, or text behind the last
-        {"a|b|1|2|\n-|-|-|\n", "a|b|1|;-|-|-|;"}}; // a separator shifts what follows
-    for (const auto& [rows, cells] : cases)
+    for (const auto& c : table("a|1|2|\nb|3|4|\n -> a|1|2|;b|3|4|;; a|1|2| -> a|1|2|;; "
+                               "\na|1|2|\n\n\nb|3|4|\n\n\n -> a|1|2|;b|3|4|;; "
+                               "   \na|1|2|\n -> |||;a|1|2|;; " // a line of blanks is a row
+                               // Only Text keeps its blanks; other white space stays.
+                               " a |  1 | $2.00 |\n-|\t-\t|-|\n ->  a |1|$2.00|;-|\t-\t|-|;; "
+                               // Cells too few and too many, and a text behind the last.
+                               "a|\nb|1|\n|\n-|\n -> a|||;b|1||;|||;-|||;; "
+                               "a|1|2|3|4|\nb|1|2|x\nc|1\nd\n-| -> a|1|2|;b|1|2|;c|||;|||;-|||;; "
+                               "a|b|1|2|\n-|-|-|\n -> a|b|1|;-|-|-|;"))
         for (const std::string lineEnd : {"\r\n", "\n", "\r", "\r\r\n"}) {
             DataFile data;
-            data.more = "[Lock          ]\r\n[InvoiceView   ]True\r\n";
-            data.rows = rows;
-            std::string text = data.text();
-            for (std::size_t at = 0; (at = text.find('\r', at)) != std::string::npos;) text.erase(at, 1);
-            for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += lineEnd.size())
-                text.replace(at, 1, lineEnd);
+            data.sections("Lock=;InvoiceView=True").rows = c[0];
             Document document;
-            EXPECT_EQ(read(document, text), "");
-            EXPECT_EQ(Program::cells(document.LV), cells) << rows;
+            const std::string text = core::replaceAll(data.text(), "\r", "");
+            EXPECT_EQ(read(document, core::replaceAll(text, "\n", lineEnd)), "");
+            const core::RecordsList& LV = document.LV;
+            EXPECT_EQ(Program::cells(LV), c[1]) << c[0];
             EXPECT_TRUE(document.bInvoiceView && document.lockPassword.empty());
-            std::string keys, wanted;
-            document.LV.forEach([&](const core::Item& item) { keys += item.Key.str() + ";"; });
-            for (int i = 1; i < document.LV.count(); ++i) wanted += "i" + std::to_string(i) + ";";
-            EXPECT_EQ(keys, wanted + (document.LV.empty() ? "" : "Totals;")) << rows;
+            for (int i = 1; i <= LV.count(); ++i)
+                EXPECT_EQ(LV.at(i).Key.str(), i == LV.count() ? "Totals" : "i" + std::to_string(i)) << c[0];
         }
     // Line feeds by themselves stay in a cell, or are lines of nothing. The counter starts anew.
     Document document;

@@ -97,9 +97,7 @@ private:
         if (verb == "clean") run("mnuCleanDatabase");
         if (verb == "recover") log += storage::keepRecoveryCopy(app).value_or("no copy") + "\n";
         if (verb == "answer")
-            platform.answers = {name == "yes"  ? platform::Answer::Yes
-                                : name == "no" ? platform::Answer::No
-                                               : platform::Answer::Cancel};
+            platform.answers = {name == "yes" ? platform::Answer::Yes : platform::Answer::Cancel};
         if (verb == "type") {
             document.LV.at(1).cells[0] = name;
             app::setDocumentModified(app, true);
@@ -108,13 +106,12 @@ private:
         const std::string line = "cd " + folder.string() + "; " + name + " " + style;
         if (verb == "shell" && std::system(line.c_str()) != 0) log += "failed\n";
         // A limit on the size of files stands for a full disk.
-        if (verb == "save-within" || verb == "save-as-within") {
+        if (verb == "save-within") {
             struct rlimit whole {};
             ::getrlimit(RLIMIT_FSIZE, &whole);
             const struct rlimit narrow { std::stoul(name), whole.rlim_max };
             ::setrlimit(RLIMIT_FSIZE, &narrow);
-            platform.files = {folder / "copy.fwk"};
-            storage::SaveFile(app, verb == "save-as-within", false);
+            storage::SaveFile(app, false, false);
             ::setrlimit(RLIMIT_FSIZE, &whole);
         }
     }
@@ -251,7 +248,7 @@ sums: |;|; // tab: 0
 
 TEST_F(Journey, Saving) {
     database("a.fwk", shop(), {"a.jpg", "logo.gif", "old.jpg", "old.gif"});
-    database("taken.fwk", DataFile("X", "y"));
+    database("taken.fwk", shop(), {"unused.jpg"});
     open(folder / "a.fwk");
     run("Save");
     expect(R"sh(
@@ -265,12 +262,8 @@ Clone current file to.../Clone1.fwk // kept: - && $ clone taken.fwk -> Clone cur
 -old.gif::bytes of old.gif // -One|12|$1.50|a.jpg| // -Nut|7|$.25|| // -------|------|------|------|
 $ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
 document: no/Document Saved // file: taken.fwk // kept: Two // ~a.jpg::bytes of a.jpg
-~logo.gif::bytes of logo.gif // ~old.jpg::bytes of old.jpg // ~old.gif::bytes of old.gif
-+F|Name|1|2|3|4|False|False|False|Arial|10|0| // +F|Price|1|2|3|4|False|False|False|Arial|10|0|
-+F|Gone|1|2|3|4|False|False|False|Arial|10|0| // +C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4|
-+[Column Names  ]Name|Qty|Price|Photo| // +[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name|
-+[Report Data   ]1|1|1|1|1|1|Stock|True| // +[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| // +Nut|7|$.25||
-+------|------|------|------| && $ type Ж -> document: yes/Document Modified && $ save-as taken.fwk
++logo.gif::bytes of logo.gif // +old.jpg::bytes of old.jpg // +old.gif::bytes of old.gif
+-[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| && $ type Ж -> document: yes/Document Modified && $ save-as taken.fwk
 Save As.../Untitled.fwk // document: no/Document Saved // kept: Ж // ~Ж|12|$1.50|a.jpg| && $ type One
 document: yes/Document Modified && $ save -> document: no/Document Saved // kept: One // ~One|12|$1.50|a.jpg|
 $ clean -> pointer: hourglass,arrow; // -old.jpg::bytes of old.jpg && $ clean && $ save-results
@@ -295,8 +288,7 @@ Save As.../Untitled Search Results.fwk // !   Please insert your working source 
 $ save-as b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file && $ error 0
 $ save-within 0 -> ! There was an error writing to the file // kept: - && $ save-within 100
 ! There was an error writing to the file // kept: Name && $ save-within 500
-! There was an error writing to the file && $ type Two && $ save-as-within 500 -> Save As.../Untitled.fwk
-! There was an error writing to the file && $ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk
+! There was an error writing to the file && $ type Two && $ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk
 - Overwrite Existing File? // ! There was an error writing to the file // document: no/Document Saved
 kept: Two && $ save-as no/b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
 $ clone no/b.fwk -> Clone current file to.../Clone1.fwk // ! There was an error writing to the file // kept: -
