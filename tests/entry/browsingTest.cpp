@@ -148,6 +148,14 @@ TEST_F(Browsing, TypingGoesThroughTheMasks) {
         entry::layoutField_LostFocus(app, field.Index);
         EXPECT_EQ(field.Text, c[3]);
     }
+    // Pasted, it is no number: a numeric field takes 0, others keep it, and no message comes.
+    for (const auto& c :
+         table("Name -> 1 kg; Qty -> 1 kg -> 0; Price -> abc -> 0; Sum -> - -> 0; Made -> soon")) {
+        core::LayoutField& field = objects.layoutField[index(c[0])];
+        entry::layoutField_Change(app, field.Index, c[1]);
+        entry::layoutField_LostFocus(app, field.Index);
+        EXPECT_EQ(field.Text, c.size() > 2 ? c[2] : c[1]);
+    }
     EXPECT_TRUE(entry::layoutField_KeyPress(app, Name, 8)); // Backspace, where no number is
     EXPECT_EQ(told(), "");
     EXPECT_FALSE(entry::layoutField_KeyPress(app, Name, 13));

@@ -32,6 +32,7 @@ struct Sheet : testing::Test, SearchProgram {
                         "Bolt|12|$1.50|05/04/2001|18|bolt.jpg|;Nut|7|$.25||1.75||;Pin|1|$2.00||2|gone.jpg|");
     }
     void openSheet(std::string_view lines = {}, bool designing = false, DataFile file = records()) {
+        app.mainFrm.bSnapToGrid = false;
         open(make("sheet.fwk", file.objects(lines).text(), {"bolt.jpg", "art.gif"}));
         layout::layoutPic1_Resize(app, 6000, 5000);
         shell::SSTab1_Click(app, app::layoutTab);
@@ -88,10 +89,9 @@ struct Sheet : testing::Test, SearchProgram {
     // The object's place and size, the grip's place, and the rulers: "1000 1000 1800 900, grip 2800 1900
     // locked, rulers 1000 1000"; without what is hidden.
     std::string state() {
-        std::string all = place();
-        if (page.Handle.Visible) all += ", grip " + texts({page.Handle.Left, page.Handle.Top});
-        if (page.Handle.Visible && page.Handle.bLocked) all += " locked";
-        return all + (page.ruler1.line ? ", rulers " + texts({*page.ruler1.line, *page.ruler2.line}) : "");
+        const std::string grip = ", grip " + texts({page.Handle.Left, page.Handle.Top});
+        return place() + (page.Handle.Visible ? grip + (page.Handle.bLocked ? " locked" : "") : "") +
+               (page.ruler1.line ? ", rulers " + texts({*page.ruler1.line, *page.ruler2.line}) : "");
     }
     std::string place() {
         const core::LayoutObject* at = core::findObject(objects, it);
