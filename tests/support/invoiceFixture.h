@@ -28,9 +28,6 @@ protected:
     core::CellText& cell(core::Item& item, const char* name) {
         return core::RecordsList::cell(item, app.document.LV.columns[name]);
     }
-    void calculate(core::Item& item) {
-        calc::calculateInvoice(app, app.document.LV, app.document.LV.indexOf(item));
-    }
     // The rows of iLV in the order of its columns' places, "Text: a|b; ".
     std::string view() {
         std::string text;

@@ -56,17 +56,6 @@ public:
     std::filesystem::path folder; // for the test's own files; removed at the end
     std::chrono::year_month_day day{std::chrono::year(2026) / 3 / 14};
 
-    std::vector<std::string> texts() const {
-        std::vector<std::string> all;
-        for (const Message& message : messages) all.push_back(message.text);
-        return all;
-    }
-    // A message as "icon|caption|text", counted from the last one.
-    std::string told(std::size_t back = 0) const {
-        if (messages.size() <= back) return "nothing";
-        const Message& message = messages[messages.size() - 1 - back];
-        return std::to_string(static_cast<int>(message.icon)) + "|" + message.caption + "|" + message.text;
-    }
     std::string lastMessage() const { return messages.empty() ? std::string() : messages.back().text; }
 
     platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
