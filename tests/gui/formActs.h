@@ -33,9 +33,6 @@ inline void clickRow(const QDialog& form, const char* listName, const char* text
     clickOn(*in<QWidget>(form, listName), QLatin1String(text));
 }
 inline constexpr auto chooseColumn = clickRow;
-inline QTreeWidgetItem* rowOf(const QTreeWidget* list, const char* text) {
-    return list->findItems(QLatin1String(text), Qt::MatchExactly).at(0);
-}
 
 // Types in place of what stands in a box, and returns it.
 inline QLineEdit* typeIn(const QDialog& form, const char* name, const char* text) {

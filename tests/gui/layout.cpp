@@ -168,6 +168,14 @@ tab 0 -> arrow -1 0, current 6 7|Pride and Prejudice, keys LV, list LV 43, page 
                    [&] { return QString::number(run.field(2)->verticalScrollBar()->value()); });
     }
 
+    void aNewInvoiceAndTheNextTab() {
+        LayoutSession run(folders_.sample("invoices.fwk"));
+        run.play(u"tab 1; nav New"_s);
+        QCOMPARE(run.find<QLabel>("recordPosition")->text(), u"New record"_s);
+        run.play(u"do Design; focus layoutPic2; key Ctrl+Tab"_s);
+        QCOMPARE(run.app.mainFrm.SSTab1, app::previewTab);
+    }
+
     void aPictureFromTheClipboard() {
         LayoutSession run(folders_.sample("books.fwk"));
         run.showLayout();

@@ -1,5 +1,6 @@
 #include "journey.h"
 
+#include "gui/dialogs/fontDialog.h"
 #include "gui/machine/mailProgram.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
@@ -238,6 +239,8 @@ private slots:
         }
         QCOMPARE(told, u"MS Sans Serif 8.25 1001 -5|MS Sans Serif 8.25 1001 -5|"
                        "Liberation Serif 8.25 1001 -5|MS Sans Serif 9.75 0110 -5|"_s);
+        gui::FontDialog box({.FontName = "Sans Serif", .FontSize = 18}, nullptr); // its list follows
+        QCOMPARE(box.findChild<QListWidget*>(u"sizeList"_s)->selectedItems().at(0)->text(), u"18"_s);
     }
 
     // An existing name is not asked about here, and one without a suffix gets it.
