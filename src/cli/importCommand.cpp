@@ -235,8 +235,10 @@ void append(const Options& options, const CsvTable& table) {
                                                        : appendRecords(session, table, columns);
     session.save();
     std::vector<std::string> rows;
+    rows.reserve(failed.size());
     for (const auto& [key, reason] : failed)
-        rows.push_back(key + " is stored, but cannot be calculated (" + reason + ")");
+        rows.push_back(std::string(key).append(" is stored, but cannot be calculated (").append(reason) +
+                       ')');
     tellRows(options.file, rows);
 }
 

@@ -42,7 +42,7 @@ std::string withoutName(const std::string& file, const std::string& reason) {
 // What the user can do something about is told in his words, the rest as the system tells it.
 std::string whyNotWritten(const std::string& target, const core::RunTimeError& error) {
     if (error.number == core::errors::diskFull) return "writing failed; the disk may be full";
-    const std::string reason = withoutName(target, error.what());
+    std::string reason = withoutName(target, error.what());
     if (error.number != core::errors::pathAccess && error.number != core::errors::fileNotFound) return reason;
     const fs::path folder = fs::path(target).parent_path();
     const char* place = folder.empty() ? "." : folder.c_str();

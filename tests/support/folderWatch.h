@@ -1,9 +1,23 @@
 #pragma once
 
+#include "databases.h"
 #include "file/values.h"
-#include "programTest.h"
 
 #include <regex>
+
+// Name, comment and bytes of every entry of an archive, in their order; those of data.dat on request.
+inline std::vector<std::string> entriesOf(const std::string& archive, bool withData) {
+    std::vector<std::string> entries;
+    file::Zip Zip;
+    Zip.OpenArchive(archive);
+    for (int i = 0; i < Zip.FileCount(); ++i) {
+        const std::string name = Zip.FileNameAt(i);
+        const bool isLeftOut = name == "data.dat" && !withData;
+        entries.push_back(name + ":" + Zip.commentAt(i) + ":" +
+                          (isLeftOut ? "" : *Zip.readEntry(name, 1 << 20)));
+    }
+    return entries;
+}
 
 // What acts do to the files of a folder. changes() tells, since the last look, a line for each changed line
 // of a database's design and records, and for each of its entries ("name:comment:bytes"), or of another file:

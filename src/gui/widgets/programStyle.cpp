@@ -96,7 +96,7 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
 
 QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                  const QWidget* widget) const {
-    const QIcon plain = QProxyStyle::standardIcon(which, option, widget);
+    QIcon plain = QProxyStyle::standardIcon(which, option, widget);
     const QPalette palette = QGuiApplication::palette();
     const bool isMark =
         which == SP_ToolBarHorizontalExtensionButton || which == SP_ToolBarVerticalExtensionButton;
