@@ -146,6 +146,8 @@ private:
         if (act == u"slide"_s) return find<QAbstractSlider>(name)->setValue(words[2].toInt());
         if (act == u"focus"_s) return find<QWidget>(name)->setFocus();
         if (act == u"key"_s) return press(QKeySequence(words[1])[0]);
+        auto* rows = qobject_cast<QAbstractItemView*>(QApplication::focusWidget());
+        if (act == u"type"_s && rows != nullptr) rows->keyboardSearch({}); // begins anew
         if (act == u"type"_s) return QTest::keyClicks(window.focusWidget(), words.mid(1).join(u' '));
         if (act == u"into"_s) return into(words[1].section(u'.', 0, 0), words[1].section(u'.', 1));
         if (act == u"fill"_s)
