@@ -263,7 +263,8 @@ Clone current file to.../Clone1.fwk // kept: - && $ clone taken.fwk -> Clone cur
 $ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
 document: no/Document Saved // file: taken.fwk // kept: Two // ~a.jpg::bytes of a.jpg
 +logo.gif::bytes of logo.gif // +old.jpg::bytes of old.jpg // +old.gif::bytes of old.gif
--[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| && $ type Ж -> document: yes/Document Modified && $ save-as taken.fwk
+-[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg|
+$ type Ж -> document: yes/Document Modified && $ save-as taken.fwk
 Save As.../Untitled.fwk // document: no/Document Saved // kept: Ж // ~Ж|12|$1.50|a.jpg| && $ type One
 document: yes/Document Modified && $ save -> document: no/Document Saved // kept: One // ~One|12|$1.50|a.jpg|
 $ clean -> pointer: hourglass,arrow; // -old.jpg::bytes of old.jpg && $ clean && $ save-results
@@ -288,7 +289,8 @@ Save As.../Untitled Search Results.fwk // !   Please insert your working source 
 $ save-as b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file && $ error 0
 $ save-within 0 -> ! There was an error writing to the file // kept: - && $ save-within 100
 ! There was an error writing to the file // kept: Name && $ save-within 500
-! There was an error writing to the file && $ type Two && $ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk
+! There was an error writing to the file && $ type Two && $ answer yes
+$ save-as taken.fwk -> Save As.../Untitled.fwk
 - Overwrite Existing File? // ! There was an error writing to the file // document: no/Document Saved
 kept: Two && $ save-as no/b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
 $ clone no/b.fwk -> Clone current file to.../Clone1.fwk // ! There was an error writing to the file // kept: -
