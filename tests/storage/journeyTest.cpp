@@ -300,7 +300,7 @@ $ shell mv a.fwk away.fwk -> size: Filesize: // @ a.fwk gone // @ away.fwk && $ 
 ! There was an error writing to the file && $ clean -> pointer: hourglass,arrow; && $ recover
 work/Recovered/a (recovered 1).fwk // pointer: - && $ shell echo text > a.fwk -> @ a.fwk // +text && $ clean
 pointer: hourglass,arrow; && $ recover -> work/Recovered/a (recovered 2).fwk // pointer: -
-$ shell mv ../work/Recovered/a*2* a.fwk -> ~data.dat:Main Data File:
+$ shell mv ../*/Recovered/a*2* a.fwk -> ~data.dat:Main Data File:
 +F|Name|1|2|3|4|False|False|False|Arial|10|0| // +F|Price|1|2|3|4|False|False|False|Arial|10|0|
 +F|Gone|1|2|3|4|False|False|False|Arial|10|0| // +C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4|
 +[Column Names  ]Name|Qty|Price|Photo| // +[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name|
@@ -308,7 +308,7 @@ $ shell mv ../work/Recovered/a*2* a.fwk -> ~data.dat:Main Data File:
 +------|------|------|------| && $ shell mv away.fwk a.fwk -> size: of the file // @ away.fwk gone
 +a.jpg::bytes of a.jpg // +[Totaled Cols  ]Qty| // ~Bolt|12|$1.50|a.jpg| // -Two|12|$1.50|a.jpg|
 $ type Three -> document: yes/Document Modified && $ recover -> work/Recovered/a (recovered 2).fwk
-$ shell mv ../work/Recovered/a*2* b.fwk -> @ b.fwk // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty|
+$ shell mv ../*/Recovered/a*2* b.fwk -> @ b.fwk // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty|
 +Three|12|$1.50|a.jpg| && $ open gone.fwk -> i Previously opened file could not be fo
 caption: Ferrowick - a.fwk // file: - // size: Filesize: && $ save -> ! There was an error writing to the file
 document: no/Document Saved // kept: Three && $ recover -> work/Recovered/Untitled (recovered 1).fwk
