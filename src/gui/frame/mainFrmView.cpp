@@ -92,7 +92,17 @@ void MainFrmView::load(const std::string& Command) {
 }
 
 void MainFrmView::refresh() {
-    if (refreshing_) return;
+    if (refreshing_) {
+        stale_ = true;
+        return;
+    }
+    showState();
+    // The focus that moved meanwhile may have completed a field.
+    if (std::exchange(stale_, false)) showState();
+    stale_ = false;
+}
+
+void MainFrmView::showState() {
     const QScopedValueRollback guard(refreshing_, true);
     setWindowTitle(toQt(app_.mainFrm.Caption));
     actions_->refresh();

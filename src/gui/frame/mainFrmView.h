@@ -39,6 +39,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void showState();
     void makeTabs();
 
     app::App& app_;
@@ -50,6 +51,7 @@ private:
     LayoutPageView* layout_;
     PreviewView* preview_;
     StatusPanels* status_;
+    bool stale_ = false; // an event came while the window was shown anew
     bool refreshing_ = false;
 };
 
