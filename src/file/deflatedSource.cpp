@@ -4,101 +4,16 @@
 
 #include <algorithm>
 #include <cstring>
-#include <future>
 #include <libdeflate.h>
 #include <memory>
 #include <new>
-#include <optional>
 #include <string>
-#include <thread>
-#include <vector>
-#include <zlib.h>
 
 namespace file {
 
 namespace {
 
-constexpr std::size_t smallestPiece = std::size_t{256} * 1024;
-
-struct Piece {
-    std::string packed;
-    std::size_t length = 0; // unpacked
-    uLong checksum = 0;
-    bool ok = false;
-};
-
-// Where the final block of a stream begins and where it ends, counted in bits.
-struct FinalBlock {
-    std::size_t begin = 0, end = 0;
-};
-
-// Blocks say how they are packed, but not how long they are; only unpacking finds the next one.
-class BlockFinder {
-public:
-    explicit BlockFinder(std::string& packed) : packed_(packed) {
-        constexpr int rawStream = -15;
-        isOpen_ = inflateInit2(&stream_, rawStream) == Z_OK;
-        stream_.next_in = reinterpret_cast<Bytef*>(packed.data());
-        stream_.avail_in = static_cast<uInt>(packed.size());
-    }
-    ~BlockFinder() {
-        if (isOpen_) inflateEnd(&stream_);
-    }
-    BlockFinder(const BlockFinder&) = delete;
-    BlockFinder& operator=(const BlockFinder&) = delete;
-
-    std::optional<FinalBlock> find() {
-        FinalBlock block;
-        while (isOpen_ && block.begin / 8 < packed_.size()) {
-            const bool isFinal =
-                ((static_cast<unsigned char>(packed_[block.begin / 8]) >> block.begin % 8) & 1U) != 0;
-            if (!passBlock()) return std::nullopt;
-            block.end = stream_.total_in * 8 - static_cast<unsigned>(stream_.data_type & unusedBits);
-            if (isFinal) return block;
-            block.begin = block.end;
-        }
-        return std::nullopt;
-    }
-
-private:
-    static constexpr int unusedBits = 7; // of the last byte taken
-    static constexpr int atBlockEnd = 128;
-
-    bool passBlock() {
-        do {
-            stream_.next_out = unpacked_.data();
-            stream_.avail_out = static_cast<uInt>(unpacked_.size());
-            if (inflate(&stream_, Z_BLOCK) != Z_OK) return false;
-        } while ((stream_.data_type & atBlockEnd) == 0);
-        return true;
-    }
-
-    std::string& packed_;
-    z_stream stream_{};
-    std::vector<Bytef> unpacked_ = std::vector<Bytef>(smallestPiece);
-    bool isOpen_ = false;
-};
-
-// Makes the stream one that goes on with the next byte: its final block becomes one among others, and an
-// empty stored block, which begins anywhere and ends with a byte, fills up what is left of the last byte.
-bool leaveOpen(std::string& packed) {
-    const std::optional<FinalBlock> block = BlockFinder(packed).find();
-    if (!block) return false;
-    char& header = packed[block->begin / 8];
-    header = static_cast<char>(static_cast<unsigned char>(header) & ~(1U << block->begin % 8));
-    packed.resize((block->end + 7) / 8);
-    if (const auto used = block->end % 8; used != 0)
-        packed.back() = static_cast<char>(static_cast<unsigned char>(packed.back()) & ((1U << used) - 1));
-    constexpr std::size_t headerBits = 3; // all zero
-    packed.resize((block->end + headerBits + 7) / 8, '\0');
-    packed.append("\0\0\xff\xff", 4);
-    return true;
-}
-
-Piece pack(std::string_view bytes, int level, bool isLast) {
-    Piece piece;
-    piece.length = bytes.size();
-    piece.checksum = checksum(bytes);
+std::string pack(std::string_view bytes, int level) {
     const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
         libdeflate_alloc_compressor(level), &libdeflate_free_compressor);
     if (!compressor) throw std::bad_alloc();
@@ -107,49 +22,15 @@ Piece pack(std::string_view bytes, int level, bool isLast) {
     const auto room = std::make_unique_for_overwrite<char[]>(most);
     const std::size_t size =
         libdeflate_deflate_compress(compressor.get(), bytes.data(), bytes.size(), room.get(), most);
-    piece.packed.assign(room.get(), size);
-    piece.ok = size > 0 && (isLast || leaveOpen(piece.packed));
-    return piece;
-}
-
-// Where each piece ends. All but the last are gone through once more, so that the last is given more.
-std::vector<std::size_t> pieceEnds(std::size_t size, std::size_t pieces) {
-    constexpr double lastShare = 1.6;
-    std::vector<std::size_t> ends;
-    for (std::size_t i = 1; i < pieces; ++i)
-        ends.push_back(static_cast<std::size_t>(static_cast<double>(size * i) /
-                                                (static_cast<double>(pieces - 1) + lastShare)));
-    ends.push_back(size);
-    return ends;
-}
-
-std::vector<Piece> packPieces(std::string_view bytes, int level) {
-    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-    const std::size_t pieces = std::clamp<std::size_t>(bytes.size() / smallestPiece, 1, cores);
-    const std::vector<std::size_t> ends = pieceEnds(bytes.size(), pieces);
-    std::vector<std::future<Piece>> others;
-    for (std::size_t i = 1; i < pieces; ++i)
-        // Where the system has no thread left, the piece is packed when it is asked for.
-        others.push_back(std::async(std::launch::async | std::launch::deferred, pack,
-                                    bytes.substr(ends[i - 1], ends[i] - ends[i - 1]), level,
-                                    i + 1 == pieces));
-    std::vector<Piece> packed;
-    packed.push_back(pack(bytes.substr(0, ends[0]), level, pieces == 1));
-    for (std::future<Piece>& other : others) packed.push_back(other.get());
-    return packed;
+    if (size == 0) core::raise(core::errors::deviceIO, "packing");
+    return {room.get(), size};
 }
 
 class DeflatedSource {
 public:
-    DeflatedSource(std::string_view bytes, int level) : size_(bytes.size()) {
+    DeflatedSource(std::string_view bytes, int level)
+        : packed_(pack(bytes, level)), size_(bytes.size()), checksum_(checksum(bytes)) {
         zip_error_init(&error_);
-        uLong sum = crc32(0, nullptr, 0);
-        for (const Piece& piece : packPieces(bytes, level)) {
-            if (!piece.ok) core::raise(core::errors::deviceIO, "packing");
-            sum = crc32_combine(sum, piece.checksum, static_cast<z_off_t>(piece.length));
-            packed_ += piece.packed;
-        }
-        checksum_ = static_cast<zip_uint32_t>(sum);
     }
     ~DeflatedSource() { zip_error_fini(&error_); }
     DeflatedSource(const DeflatedSource&) = delete;
@@ -217,8 +98,8 @@ private:
 
     std::string packed_;
     std::uint64_t size_;
+    zip_uint32_t checksum_;
     std::uint64_t place_ = 0;
-    zip_uint32_t checksum_ = 0;
     zip_error_t error_{};
 };
 

