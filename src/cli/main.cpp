@@ -112,6 +112,7 @@ int main(int argc, char** argv) {
     } catch (const std::bad_alloc&) {
         std::cerr << "fwk: out of memory\n";
     } catch (const std::exception& error) {
+        // What no command expects, of the libraries too: it is told, and the exit code is that of a failure.
         std::cerr << "fwk: " << cli::printable(error.what()) << '\n';
     }
     return cli::failed;

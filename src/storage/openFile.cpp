@@ -149,7 +149,7 @@ void OpenFile(App& app, bool StartUp) {
         if (app.platform.keepsDataFile()) extractClipArt(app);
         showOpened(app, StartUp);
     } catch (const std::exception&) {
-        // A file that cannot be opened ends in the empty window, without a message.
+        // Whatever is wrong with it, a file that cannot be opened ends in the empty window, without a message.
         app.document.currentFile.clear();
         app::enableControls(app, false);
         app.mainFrm.theListView = &app.document.LV;

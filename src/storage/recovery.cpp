@@ -43,6 +43,7 @@ std::optional<std::string> keepRecoveryCopy(app::App& app) noexcept {
         Zip.CloseArchiveAs(target);
         return target;
     } catch (const std::exception&) {
+        // The program is ending for another reason, which is told with the words that no copy is kept.
         return std::nullopt;
     }
 }

@@ -68,6 +68,7 @@ std::optional<core::RunTimeError> SaveFile(App& app, bool bSaveAs, bool bClone) 
         writeAndPack(app, target, bClone);
         return std::nullopt;
     } catch (const std::exception& error) {
+        // Nothing is swallowed: whatever kept the file from being written is told.
         return tellFailure(app, target.has_value(), error);
     }
 }

@@ -63,6 +63,7 @@ std::optional<core::RunTimeError> saveSearchResults(App& app) {
         writeAndPack(app, *target);
         return std::nullopt;
     } catch (const std::exception& error) {
+        // Nothing is swallowed: whatever kept the file from being written is told.
         return tellFailure(app, true, error);
     }
 }

@@ -21,6 +21,7 @@ void EventBoundary::run(const std::function<void()>& handler) {
     } catch (const std::bad_alloc&) {
         fail("There is not enough memory.");
     } catch (const std::exception& error) {
+        // Of the libraries, which throw what they like; it is told as they put it.
         fail(error.what());
     }
 }
