@@ -14,7 +14,7 @@ namespace cli {
 
 namespace {
 
-struct Options {
+struct CalculationOptions {
     std::string file, column, value;
     std::optional<std::string> expression;
     std::vector<std::string> columns;
@@ -28,7 +28,7 @@ int rowOf(Session& session, const calc::formulateFrm& form, const std::string& c
     return static_cast<int>(row - form.colList.begin());
 }
 
-int printExpression(const Options& options) {
+int printExpression(const CalculationOptions& options) {
     Session session(options.file);
     session.open();
     const calc::formulateFrm form(session.app);
@@ -49,7 +49,7 @@ void requireExpression(Session& session, const std::string& column) {
 
 // The buttons of the window can build anything that they have; what is wrong with an expression shows
 // when it is worked out.
-int setExpression(const Options& options) {
+int setExpression(const CalculationOptions& options) {
     Session session(options.file);
     session.open();
     if (options.column.find(',') != std::string::npos)
@@ -67,7 +67,7 @@ int setExpression(const Options& options) {
     return done;
 }
 
-int chooseTotals(const Options& options) {
+int chooseTotals(const CalculationOptions& options) {
     Session session(options.file);
     session.open();
     session.changeAndCalculate([&] {
@@ -86,7 +86,7 @@ int chooseTotals(const Options& options) {
     return done;
 }
 
-int recalculate(const Options& options) {
+int recalculate(const CalculationOptions& options) {
     Session session(options.file);
     session.open();
     session.changeAndCalculate([&] { calc::recalculateAfterDialog(session.app); });
@@ -94,7 +94,7 @@ int recalculate(const Options& options) {
     return done;
 }
 
-int setSerial(const Options& options) {
+int setSerial(const CalculationOptions& options) {
     Session session(options.file);
     session.open();
     const std::string name = session.column(options.column).Text;
@@ -114,14 +114,14 @@ int setSerial(const Options& options) {
     return done;
 }
 
-void addColumnArgument(CLI::App& command, Options& options) {
+void addColumnArgument(CLI::App& command, CalculationOptions& options) {
     command.add_option("COLUMN", options.column, "The column")->required();
 }
 
 } // namespace
 
 Run setUpExpression(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CalculationOptions>();
     addFileArgument(command, options->file);
     addColumnArgument(command, *options);
     command.add_option("EXPRESSION", options->expression,
@@ -130,20 +130,20 @@ Run setUpExpression(CLI::App& command) {
 }
 
 Run setUpTotal(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CalculationOptions>();
     addFileArgument(command, options->file);
     command.add_option("COLUMN", options->columns, "The columns to total; no other column is");
     return [options] { return chooseTotals(*options); };
 }
 
 Run setUpRecalculate(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CalculationOptions>();
     addFileArgument(command, options->file);
     return [options] { return recalculate(*options); };
 }
 
 Run setUpSerial(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CalculationOptions>();
     addFileArgument(command, options->file);
     addColumnArgument(command, *options);
     command.add_option("VALUE", options->value, "The number that was stored last")->required();

@@ -14,7 +14,7 @@ namespace {
 
 using calc::designFrm;
 
-struct Options {
+struct ColumnOptions {
     std::string file, column, newName;
     std::vector<std::string> columns;
     bool invoice = false, automatic = false, labels = false, yes = false;
@@ -51,7 +51,7 @@ void switchOn(Session& session, designFrm& form) {
 
 // The archive is made elsewhere and takes its place as a copy of a finished database does, so that a
 // file of that name stays until the new one is whole.
-int makeDatabase(const Options& options) {
+int makeDatabase(const ColumnOptions& options) {
     Session session(options.file);
     session.platform.setAnswersYes(options.yes);
     app::App& app = session.app;
@@ -68,7 +68,7 @@ int makeDatabase(const Options& options) {
 }
 
 // A session in which Database Properties works on the columns, and which is saved when that is done.
-int inProperties(const Options& options, const std::function<void(Session&, designFrm&)>& work) {
+int inProperties(const ColumnOptions& options, const std::function<void(Session&, designFrm&)>& work) {
     Session session(options.file);
     session.open();
     if (lock::isDesignLocked(session.app)) throw Failure(session.file, "its design is locked");
@@ -87,14 +87,14 @@ designFrm::Row& select(Session& session, designFrm& form, const std::string& col
     return form.List1.at(static_cast<std::size_t>(form.selectedRow));
 }
 
-int addColumn(const Options& options) {
+int addColumn(const ColumnOptions& options) {
     return inProperties(options, [&](Session& session, designFrm& form) {
         addColumn(session, form, ColumnArgument(options.column));
         if (options.automatic) switchOn(session, form);
     });
 }
 
-int renameColumn(const Options& options) {
+int renameColumn(const ColumnOptions& options) {
     return inProperties(options, [&](Session& session, designFrm& form) {
         const designFrm::Row& row = select(session, form, options.column);
         const std::string oldName = row.Name;
@@ -105,7 +105,7 @@ int renameColumn(const Options& options) {
     });
 }
 
-int removeColumn(const Options& options) {
+int removeColumn(const ColumnOptions& options) {
     return inProperties(options, [&](Session& session, designFrm& form) {
         const std::string name = select(session, form, options.column).Name;
         session.platform.setAnswersYes(options.yes);
@@ -120,7 +120,7 @@ int removeColumn(const Options& options) {
 } // namespace
 
 Run setUpNew(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ColumnOptions>();
     command.add_option("FILE", options->file, "The database to make")->required();
     expectColumns(*command.add_option("COLUMN", options->columns, "The columns, each with its type"));
     command.add_flag("--invoice", options->invoice, "An invoice database");
@@ -129,7 +129,7 @@ Run setUpNew(CLI::App& command) {
 }
 
 Run setUpColumn(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ColumnOptions>();
     CLI::App* add = command.add_subcommand("add", "Adds a column");
     addFileArgument(*add, options->file);
     expectColumns(*add->add_option("COLUMN", options->column, "The column with its type")->required());

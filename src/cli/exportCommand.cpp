@@ -19,14 +19,14 @@ using core::Item;
 using core::RecordsList;
 using Columns = std::vector<const Column*>;
 
-constexpr const char* about =
+constexpr const char* aboutExport =
     "OUT.csv is UTF-8 with a header line in which every column has its type (\"Price:Currency\"); import\n"
     "reads it back with all cells to the letter. OUT.json is\n"
     "  {\"style\": \"standard\", \"columns\": [{\"name\": \"Price\", \"type\": \"Currency\"}],\n"
     "   \"records\": [[\"$1.50\"]]}\n"
     "The Totals row, expressions, the layout and images stay behind; save-as copies all of it.";
 
-struct Options {
+struct ExportOptions {
     std::string file, output;
 };
 
@@ -82,7 +82,7 @@ void write(const std::string& file, std::string_view text) {
     }
 }
 
-int run(const Options& options) {
+int run(const ExportOptions& options) {
     const bool asJson = hasSuffix(options.output, ".json");
     if (!asJson && !hasSuffix(options.output, ".csv"))
         throw Failure(options.output, "a table is a .csv or a .json file");
@@ -98,12 +98,12 @@ int run(const Options& options) {
 } // namespace
 
 Run setUpExport(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ExportOptions>();
     addFileArgument(command, options->file);
     command.add_option("-o,--output", options->output, "The table, which is overwritten")
         ->required()
         ->type_name("OUT.csv|OUT.json");
-    command.footer(about);
+    command.footer(aboutExport);
     return [options] { return run(*options); };
 }
 

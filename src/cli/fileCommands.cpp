@@ -7,14 +7,14 @@ namespace cli {
 
 namespace {
 
-struct Options {
+struct FileOptions {
     std::string file, target;
     bool yes = false;
 };
 
 // Both commands of the File menu take the same arguments.
 Run setUpCopy(CLI::App& command, void (Session::*copy)(const std::string&)) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<FileOptions>();
     addFileArgument(command, options->file);
     command.add_option("NEW.fwk", options->target, "The file to make")->required();
     addYesFlag(command, options->yes, "Overwrite a file of that name");

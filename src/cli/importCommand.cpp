@@ -30,7 +30,7 @@ using core::RecordsList;
 using exchange::CsvTable;
 using exchange::TableColumn;
 
-constexpr const char* about =
+constexpr const char* aboutImport =
     "TABLE.csv has a header line; \",\", \";\" or tabs divide it, and it is UTF-8 or Windows-1252.\n"
     "Without FILE a database is made. Column names have \"_\" for blanks. When every header cell is of the\n"
     "form NAME:TYPE, as export writes them, the columns have these types and the cells stay to the letter.\n"
@@ -42,13 +42,13 @@ constexpr const char* about =
     "that the table leaves out take what a new record proposes, and calculated ones are calculated.\n"
     "Prints how many records there are more.";
 
-struct Options {
+struct ImportOptions {
     std::string file, table;
     bool invoice = false, yes = false;
 };
 
 // What needs the user's consent. Without it nothing is stored, so that nothing is lost unasked.
-void ask(const Options& options, const std::string& what) {
+void ask(const ImportOptions& options, const std::string& what) {
     if (!options.yes) throw Failure(options.table, what + "; --yes stores it all the same");
 }
 
@@ -57,7 +57,7 @@ std::string atCell(const CsvTable& table, std::size_t row, std::size_t column) {
            printable(table.header()[column]) + "\"";
 }
 
-void askAboutDividers(const Options& options, const CsvTable& table) {
+void askAboutDividers(const ImportOptions& options, const CsvTable& table) {
     for (std::size_t row = 0; row < table.rowCount(); ++row)
         for (std::size_t i = 0; i < table.header().size(); ++i)
             if (table.cell(row, i).find('|') != std::string_view::npos)
@@ -66,7 +66,7 @@ void askAboutDividers(const Options& options, const CsvTable& table) {
 
 // --- A new database
 
-Column& addColumn(const Options& options, core::Document& document, const TableColumn& column) {
+Column& addColumn(const ImportOptions& options, core::Document& document, const TableColumn& column) {
     const std::string name = exchange::columnName(column.name);
     if (name.find('|') != std::string::npos)
         throw Failure(options.table, "the column name \"" + name + "\" holds a \"|\"");
@@ -90,7 +90,8 @@ void fillDatabase(core::Document& document, const CsvTable& table, const std::ve
     core::moveTotals(records);
 }
 
-void tellOfImages(const Options& options, const CsvTable& table, const std::vector<TableColumn>& columns) {
+void tellOfImages(const ImportOptions& options, const CsvTable& table,
+                  const std::vector<TableColumn>& columns) {
     std::set<std::string_view> images;
     for (std::size_t i = 0; i < columns.size(); ++i)
         for (std::size_t row = 0; row < table.rowCount() && columns[i].type == ColumnType::Picture; ++row)
@@ -101,7 +102,7 @@ void tellOfImages(const Options& options, const CsvTable& table, const std::vect
 }
 
 // Made elsewhere; it takes its place as a copy of a finished database does.
-void makeDatabase(const Options& options, const CsvTable& table) {
+void makeDatabase(const ImportOptions& options, const CsvTable& table) {
     const std::vector<TableColumn> columns = exchange::columnsOf(table, options.invoice);
     if (columns.size() > calc::mostColumns)
         throw Failure(options.table, "it has " + std::to_string(columns.size()) +
@@ -125,7 +126,8 @@ void makeDatabase(const Options& options, const CsvTable& table) {
 
 // The database's columns in the order of the table's. A header cell is a column's name, or one with a
 // type behind it.
-std::vector<const Column*> matchingColumns(Session& session, const Options& options, const CsvTable& table) {
+std::vector<const Column*> matchingColumns(Session& session, const ImportOptions& options,
+                                           const CsvTable& table) {
     const core::ColumnHeaders& known = session.app.document.LV.columns;
     const auto find = [&](std::string_view name) {
         const Column* column = known.find(name);
@@ -147,7 +149,7 @@ std::vector<const Column*> matchingColumns(Session& session, const Options& opti
     return columns;
 }
 
-void askAboutImages(const Options& options, const CsvTable& table,
+void askAboutImages(const ImportOptions& options, const CsvTable& table,
                     const std::vector<const Column*>& columns) {
     file::Zip Zip;
     Zip.OpenArchive(options.file);
@@ -218,7 +220,7 @@ std::vector<calc::Uncalculated> appendInvoices(Session& session, const CsvTable&
     return failed;
 }
 
-void append(const Options& options, const CsvTable& table) {
+void append(const ImportOptions& options, const CsvTable& table) {
     Session session(options.file);
     session.open();
     const core::Document& document = session.app.document;
@@ -242,7 +244,7 @@ void append(const Options& options, const CsvTable& table) {
     tellRows(options.file, rows);
 }
 
-int run(const Options& options) {
+int run(const ImportOptions& options) {
     const auto table = readTable(options.table);
     askAboutDividers(options, *table);
     struct stat status {};
@@ -257,13 +259,13 @@ int run(const Options& options) {
 } // namespace
 
 Run setUpImport(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ImportOptions>();
     command.add_option("FILE", options->file, "The database, to make or to append to")->required();
     command.add_option("TABLE.csv", options->table, "The table")->required();
     command.add_flag("--invoice", options->invoice, "Make an invoice database");
     addYesFlag(command, options->yes,
                "Store cells with a \"|\", which divides them in the file, and images that FILE has not");
-    command.footer(about);
+    command.footer(aboutImport);
     return [options] { return run(*options); };
 }
 

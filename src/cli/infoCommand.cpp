@@ -14,7 +14,7 @@ namespace {
 using core::Column;
 using core::Document;
 
-struct Options {
+struct InfoOptions {
     std::string file;
     bool json = false;
 };
@@ -109,7 +109,7 @@ std::string infoInWords(const Document& document, const std::vector<ArchiveEntry
     return out;
 }
 
-int printInfo(const Options& options) {
+int printInfo(const InfoOptions& options) {
     Session session(options.file);
     session.open();
     const std::vector<ArchiveEntry> entries = entriesOf(options.file);
@@ -121,7 +121,7 @@ int printInfo(const Options& options) {
 } // namespace
 
 Run setUpInfo(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<InfoOptions>();
     addFileArgument(command, options->file);
     command.add_flag("--json", options->json, "As JSON, with the whole layout");
     return [options] { return printInfo(*options); };

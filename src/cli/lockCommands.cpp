@@ -14,7 +14,7 @@ namespace cli {
 
 namespace {
 
-struct Options {
+struct LockOptions {
     std::string file;
     bool yes = false;
 };
@@ -69,7 +69,7 @@ std::string readPassword(const std::string& file) {
 }
 
 // Locks an open design and opens a locked one.
-int turn(const Options& options, bool toLocked) {
+int turn(const LockOptions& options, bool toLocked) {
     Session session(options.file);
     session.open();
     const std::string& lockPassword = session.app.document.lockPassword;
@@ -86,7 +86,7 @@ int turn(const Options& options, bool toLocked) {
 }
 
 Run setUpTurn(CLI::App& command, bool toLocked) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<LockOptions>();
     addFileArgument(command, options->file);
     addYesFlag(command, options->yes, "Not needed: the command asks no question");
     command.footer("The password is the first line of standard input.");

@@ -22,7 +22,7 @@ namespace {
 
 using drawing::DrawTarget;
 
-struct Options {
+struct PrintOptions {
     std::string file;
     std::string output;
     std::string columns; // "A,B"; empty: those of the database
@@ -33,13 +33,13 @@ struct Options {
 };
 
 #ifdef FERROWICK_PRINTS
-std::unique_ptr<drawing::Printer> makePrinter(const Options& options) {
+std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions& options) {
     return qtprint::makePdfPrinter(options.output);
 }
 #else
 // Goes on as the program that can print: beside this one where it is built, in its own folder where it is
 // installed.
-std::unique_ptr<drawing::Printer> makePrinter(const Options&) {
+std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions&) {
     std::error_code error;
     const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
     for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
@@ -49,7 +49,7 @@ std::unique_ptr<drawing::Printer> makePrinter(const Options&) {
 #endif
 
 // Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
-void printInto(Session& session, const Options& options,
+void printInto(Session& session, const PrintOptions& options,
                const std::function<void(app::App&, DrawTarget&)>& print) {
     const std::unique_ptr<drawing::Printer> printer = makePrinter(options);
     session.open();
@@ -72,7 +72,7 @@ void printInto(Session& session, const Options& options,
 }
 
 // In an invoice database the report shows the invoices or their items, whichever the file was left with.
-void chooseColumns(Session& session, const Options& options) {
+void chooseColumns(Session& session, const PrintOptions& options) {
     core::Document& document = session.app.document;
     core::NamedCollection& printed = document.printedCols;
     const core::RecordsList& list = document.bInvoiceStyle ? document.iLV : document.LV;
@@ -91,7 +91,7 @@ void chooseColumns(Session& session, const Options& options) {
         if (column.Index != 1) printed.add(column.Text);
 }
 
-int printReport(const Options& options) {
+int printReport(const PrintOptions& options) {
     Session session(options.file);
     printInto(session, options, [&](app::App& app, DrawTarget& target) {
         chooseColumns(session, options);
@@ -103,7 +103,7 @@ int printReport(const Options& options) {
 }
 
 // The rows of the records with those keys.
-std::vector<int> rowsOf(const Options& options, core::RecordsList& list) {
+std::vector<int> rowsOf(const PrintOptions& options, core::RecordsList& list) {
     std::vector<int> rows;
     for (const std::string_view key : core::split(options.records, ',')) {
         const core::Item* item = list.find(key);
@@ -123,7 +123,7 @@ void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) 
         throw Failure(app.document.currentFile, "no layout fits on a sheet");
 }
 
-int printLayouts(const Options& options) {
+int printLayouts(const PrintOptions& options) {
     Session session(options.file);
     printInto(session, options, [&](app::App& app, DrawTarget& target) {
         core::Document& document = app.document;
@@ -151,7 +151,7 @@ void addOutputOption(CLI::App& command, std::string& output) {
 } // namespace
 
 Run setUpReport(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<PrintOptions>();
     addFileArgument(command, options->file);
     addOutputOption(command, options->output);
     command.add_option("--columns", options->columns, "Only these columns")->type_name("A,B");
@@ -165,7 +165,7 @@ Run setUpReport(CLI::App& command) {
 }
 
 Run setUpLayouts(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<PrintOptions>();
     addFileArgument(command, options->file);
     addOutputOption(command, options->output);
     command.add_flag("--many", options->many, "As many to a page as fit");

@@ -14,13 +14,13 @@ namespace cli {
 
 namespace {
 
-struct Options {
+struct RecordOptions {
     std::string file, key, copies, column;
     std::vector<std::string> keys, cells;
     bool descending = false;
 };
 
-int add(const Options& options) {
+int add(const RecordOptions& options) {
     Session session(options.file);
     session.open();
     const std::vector<CellValue> values = cellValues(session, options.cells);
@@ -32,7 +32,7 @@ int add(const Options& options) {
     return done;
 }
 
-int update(const Options& options) {
+int update(const RecordOptions& options) {
     Session session(options.file);
     session.open();
     core::Item& record = session.record(options.key);
@@ -45,7 +45,7 @@ int update(const Options& options) {
     return done;
 }
 
-int deleteRecords(const Options& options) {
+int deleteRecords(const RecordOptions& options) {
     Session session(options.file);
     session.open();
     core::RecordsList& records = session.app.document.LV;
@@ -58,7 +58,7 @@ int deleteRecords(const Options& options) {
     return done;
 }
 
-int duplicate(const Options& options) {
+int duplicate(const RecordOptions& options) {
     Session session(options.file);
     session.open();
     core::Item& source = session.record(options.key);
@@ -68,7 +68,7 @@ int duplicate(const Options& options) {
     return done;
 }
 
-int sortRecords(const Options& options) {
+int sortRecords(const RecordOptions& options) {
     Session session(options.file);
     session.open();
     core::RecordsList& list = session.app.document.LV;
@@ -87,21 +87,21 @@ std::string whatIsWrongWithCopies(const std::string& copies) {
     return "\"" + copies + "\" is no number of copies";
 }
 
-CLI::Option* addCellsArgument(CLI::App& command, Options& options, const char* description) {
+CLI::Option* addCellsArgument(CLI::App& command, RecordOptions& options, const char* description) {
     return command.add_option("CELL", options.cells, description)->option_text("NAME=VALUE ...");
 }
 
 } // namespace
 
 Run setUpAdd(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<RecordOptions>();
     addFileArgument(command, options->file);
     addCellsArgument(command, *options, "What the record is to hold; the others start as in a new record");
     return [options] { return add(*options); };
 }
 
 Run setUpUpdate(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<RecordOptions>();
     addFileArgument(command, options->file);
     command.add_option("KEY", options->key, "The record, as \"records\" shows it")->required();
     addCellsArgument(command, *options, "The new values; the other cells stay")->required();
@@ -109,14 +109,14 @@ Run setUpUpdate(CLI::App& command) {
 }
 
 Run setUpDelete(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<RecordOptions>();
     addFileArgument(command, options->file);
     command.add_option("KEY", options->keys, "The records, as \"records\" shows them")->required();
     return [options] { return deleteRecords(*options); };
 }
 
 Run setUpDuplicate(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<RecordOptions>();
     addFileArgument(command, options->file);
     command.add_option("KEY", options->key, "The record, as \"records\" shows it")->required();
     command.add_option("COPIES", options->copies, "How many copies")
@@ -126,7 +126,7 @@ Run setUpDuplicate(CLI::App& command) {
 }
 
 Run setUpSort(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<RecordOptions>();
     addFileArgument(command, options->file);
     command.add_option("COLUMN", options->column, "The column to sort by")->required();
     command.add_flag("--descending", options->descending, "From the highest to the lowest");

@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-struct Options {
+struct ListOptions {
     std::string file;
     bool json = false, csv = false;
     std::string columns; // "A,B"; empty: all
@@ -22,7 +22,7 @@ std::vector<std::string> namesIn(const std::string& list) {
     return names;
 }
 
-int run(const Options& options) {
+int run(const ListOptions& options) {
     Session session(options.file);
     session.open();
     printRecords(session.app.document.LV, session.columns(namesIn(options.columns)),
@@ -35,7 +35,7 @@ int run(const Options& options) {
 } // namespace
 
 Run setUpRecords(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ListOptions>();
     addFileArgument(command, options->file);
     CLI::Option* json =
         command.add_flag("--json", options->json, "As JSON, with the keys and the Totals row");

@@ -9,12 +9,12 @@ namespace cli {
 
 namespace {
 
-struct Options {
+struct ReplaceOptions {
     std::string file, find, replacement;
     std::vector<std::string> columns;
 };
 
-int run(const Options& options) {
+int run(const ReplaceOptions& options) {
     Session session(options.file);
     session.open();
     if (!search::mayReplace(session.app)) throw Failure(session.file, "words have not been replaced");
@@ -32,7 +32,7 @@ int run(const Options& options) {
 } // namespace
 
 Run setUpReplace(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ReplaceOptions>();
     addFileArgument(command, options->file);
     command.add_option("FIND", options->find, "The word to find, in any case")->required();
     command.add_option("REPLACEMENT", options->replacement, "What takes its place")->required();

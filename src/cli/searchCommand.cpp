@@ -16,7 +16,7 @@ namespace {
 
 using search::Group;
 
-struct Options {
+struct SearchOptions {
     std::string file;
     std::vector<std::string> where; // as typed, one behind the other
     std::vector<Group> groups;
@@ -39,7 +39,7 @@ bool isOption(const CLI::App& command, const std::string& word) {
 }
 
 // COLUMN HOW VALUE, and TO when HOW is range.
-void readGroups(Options& options) {
+void readGroups(SearchOptions& options) {
     const auto wrong = [](const std::string& text) { return CLI::ValidationError("--where", text); };
     auto word = options.where.begin();
     const auto next = [&](const char* what) {
@@ -96,7 +96,7 @@ void search(Session& session, const std::vector<Group>& groups) {
     form.closeBtn_Click();
 }
 
-void print(core::RecordsList& results, const Options& options) {
+void print(core::RecordsList& results, const SearchOptions& options) {
     std::vector<const core::Column*> columns;
     for (const core::Column& column : results.columns)
         if (column.Index != 1) columns.push_back(&column);
@@ -106,7 +106,7 @@ void print(core::RecordsList& results, const Options& options) {
                                : RecordsForm::Table);
 }
 
-int run(const Options& options) {
+int run(const SearchOptions& options) {
     Session session(options.file);
     session.platform.setAnswersYes(options.yes);
     session.open();
@@ -135,7 +135,7 @@ void markWhereWords(const CLI::App& command, std::vector<std::string>& words) {
 }
 
 Run setUpSearch(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<SearchOptions>();
     addFileArgument(command, options->file);
     command
         .add_option("--where", options->where,
