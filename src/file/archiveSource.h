@@ -22,6 +22,7 @@ public:
 
     [[nodiscard]] std::uint64_t size() const { return inputSize; }
     [[nodiscard]] int descriptor() const { return input.get(); }
+    [[nodiscard]] std::int64_t modifiedAt() const { return modified; } // in seconds since 1970
     void writeInto(int fd) { output = fd; }
 
     // A zip_source_callback; self is an ArchiveSource, which must outlive the archive.

@@ -123,6 +123,7 @@ struct Zip::Archive {
             failPut(name);
         }
         if (!isReplaced) living.push_back(index);
+        if (isReplaced) replaced.insert(index);
         changed = true;
         if ((!isReplaced && !setComment(index, comment)) ||
             zip_set_file_compression(zip, index, methodFor(index),
@@ -165,8 +166,19 @@ struct Zip::Archive {
         raiseZipError(error, name);
     }
 
-    void writeTo(const fs::path& target) {
+    // Before the archive is written, which ends libzip's knowledge of it.
+    [[nodiscard]] std::set<std::string> staying() const {
+        std::set<std::string> names;
+        for (const zip_uint64_t index : living)
+            if (index < originalCount && !replaced.contains(index))
+                if (const char* name = zip_get_name(zip, index, 0)) names.insert(name);
+        return names;
+    }
+
+    void writeTo(const fs::path& target, const BeforeReplacing& beforeReplacing) {
         AtomicFile result(target);
+        std::set<std::string> same;
+        if (beforeReplacing && target == file) same = staying();
         if (living.empty()) {
             int length = 0;
             const char* comment = zip_get_archive_comment(zip, &length, ZIP_FL_ENC_RAW);
@@ -180,6 +192,7 @@ struct Zip::Archive {
             if (zip_close(zip) != 0) raiseZipError(*zip_get_error(zip), target.string());
             zip = nullptr;
         }
+        if (beforeReplacing) beforeReplacing(same);
         result.commit();
     }
 
@@ -187,6 +200,7 @@ struct Zip::Archive {
     ArchiveSource source; // outlives zip, which the destructor gives up first
     zip_t* zip = nullptr;
     std::vector<zip_uint64_t> living; // the entries that are not deleted, in order
+    std::set<zip_uint64_t> replaced;
     zip_uint64_t originalCount = 0;
     bool isNew = false;
     bool changed = false;
@@ -219,18 +233,18 @@ void Zip::CreateArchive(const fs::path& file, std::string_view comment) {
     archive = std::move(fresh);
 }
 
-void Zip::CloseArchive() {
+void Zip::CloseArchive(const BeforeReplacing& beforeReplacing) {
     const std::unique_ptr<Archive> closing = takeOpen();
     if (!closing->changed && !closing->isNew) return;
     std::error_code error;
     if (!closing->isNew && !fs::exists(closing->file, error))
         raiseSystemError(error ? error.value() : ENOENT, closing->file.string());
-    closing->writeTo(closing->file);
+    closing->writeTo(closing->file, beforeReplacing);
 }
 
-void Zip::CloseArchiveAs(const fs::path& target) {
+void Zip::CloseArchiveAs(const fs::path& target, const BeforeReplacing& beforeReplacing) {
     const std::unique_ptr<Archive> closing = takeOpen();
-    closing->writeTo(target);
+    closing->writeTo(target, beforeReplacing);
 }
 
 void Zip::AddFile(const fs::path& file, std::string_view comment) {

@@ -5,8 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -33,9 +35,13 @@ public:
     void OpenArchive(const std::filesystem::path& file);
     // An existing file is replaced, on CloseArchive.
     void CreateArchive(const std::filesystem::path& file, std::string_view comment = {});
-    void CloseArchive();
+    // Called when the file that takes the place of another one is whole, just before it does. What it is told
+    // are the names of the entries that stay as they are; none, where another archive is replaced than the
+    // opened one.
+    using BeforeReplacing = std::function<void(const std::set<std::string>& staying)>;
+    void CloseArchive(const BeforeReplacing& beforeReplacing = {});
     // Writes the archive with its changes to another place and leaves the opened one as it was.
-    void CloseArchiveAs(const std::filesystem::path& target);
+    void CloseArchiveAs(const std::filesystem::path& target, const BeforeReplacing& beforeReplacing = {});
 
     // Adds a file, or replaces the entry of its name (the last component of the path) in its place.
     // The file is read on closing, so it must stay until then.

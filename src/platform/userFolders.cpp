@@ -1,7 +1,8 @@
 #include "platform/userFolders.h"
 
+#include "file/workFiles.h"
+
 #include <cstdlib>
-#include <sys/stat.h>
 
 namespace platform {
 
@@ -21,11 +22,7 @@ fs::path userFolder(const char* variable, const char* belowHome) {
 }
 
 bool makePrivateFolder(const fs::path& folder) {
-    std::error_code error;
-    if (fs::is_directory(folder, error)) return true;
-    const fs::path above = folder.parent_path();
-    if (above.empty() || above == folder || !makePrivateFolder(above)) return false;
-    return ::mkdir(folder.c_str(), 0700) == 0 || fs::is_directory(folder, error);
+    return file::makePrivateFolder(folder) == 0;
 }
 
 } // namespace platform
