@@ -17,6 +17,7 @@ int clean(const std::string& file) {
         for (const std::string& name : storage::cleanDatabase(session.app))
             removed.append(printable(name)).push_back('\n');
     });
+    session.tellVersionFailure();
     writeOutcome(removed);
     return done;
 }

@@ -48,6 +48,8 @@ Run setUpSaveAs(CLI::App& command);
 Run setUpLock(CLI::App& command);
 Run setUpUnlock(CLI::App& command);
 Run setUpClean(CLI::App& command);
+Run setUpVersions(CLI::App& command);
+Run setUpRestore(CLI::App& command);
 Run setUpReport(CLI::App& command);
 Run setUpLayouts(CLI::App& command);
 Run setUpExport(CLI::App& command);

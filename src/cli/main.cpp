@@ -34,6 +34,8 @@ constexpr Command commands[] = {
     {"clone", "Makes a database of the same design without records", setUpClone},
     {"save-as", "Saves a database under another name, with its images", setUpSaveAs},
     {"clean", "Removes the images that nothing refers to, and prints what went", setUpClean},
+    {"versions", "Lists the states of a database that saves have replaced", setUpVersions},
+    {"restore", "Makes a database as it was in one of its versions", setUpRestore},
     {"report", "Prints the report of all records into a PDF file", setUpReport},
     {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
     {"export", "Writes the records with their column types into a table", setUpExport},

@@ -7,6 +7,7 @@
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
+#include "storage/versions.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -39,26 +40,6 @@ std::string withoutName(const std::string& file, const std::string& reason) {
     return reason.substr(0, place) + (joins ? "" : ":") + rest;
 }
 
-// What the user can do something about is told in his words, the rest as the system tells it.
-std::string whyNotWritten(const std::string& target, const core::RunTimeError& error) {
-    if (error.number == core::errors::diskFull) return "writing failed; the disk may be full";
-    std::string reason = withoutName(target, error.what());
-    if (error.number != core::errors::pathAccess && error.number != core::errors::fileNotFound) return reason;
-    const fs::path folder = fs::path(target).parent_path();
-    const char* place = folder.empty() ? "." : folder.c_str();
-    struct stat status {};
-    if (::stat(place, &status) != 0 || !S_ISDIR(status.st_mode)) return "its folder does not exist";
-    if (::stat(target.c_str(), &status) != 0 && errno == ELOOP) return "its link leads nowhere";
-    if (::stat(target.c_str(), &status) == 0) {
-        if (S_ISDIR(status.st_mode)) return "it is a folder";
-        if (!S_ISREG(status.st_mode)) return "it is no ordinary file";
-        const bool writable = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
-        if (!writable || ::access(target.c_str(), W_OK) != 0) return "it is read-only";
-    }
-    if (::access(place, W_OK) != 0) return "its folder is read-only";
-    return reason;
-}
-
 // The end of the process gives the document back at once; to free its cells one by one would take a
 // good part of the time that reading them takes.
 shell::Program& untilTheEnd(std::unique_ptr<shell::Program> app) {
@@ -80,7 +61,9 @@ void tellRows(const std::string& file, const std::vector<std::string>& rows) {
 
 Session::Session(std::string databaseFile)
     : file(std::move(databaseFile)), platform(std::cerr),
-      app(untilTheEnd(std::make_unique<shell::Program>(platform))) {}
+      app(untilTheEnd(std::make_unique<shell::Program>(platform))) {
+    platform.keepVersions();
+}
 
 void Session::open() {
     try {
@@ -96,6 +79,26 @@ std::string Session::whyNotOpened(const core::RunTimeError& error) const {
     if (error.number == core::errors::overflow && app.document.iLastKey == mostRecords)
         return "it has more than " + std::to_string(mostRecords) + " records";
     return withoutName(file, error.what());
+}
+
+// What the user can do something about is told in his words, the rest as the system tells it.
+std::string Session::whyNotWritten(const std::string& target, const core::RunTimeError& error) {
+    if (error.number == core::errors::diskFull) return "writing failed; the disk may be full";
+    std::string reason = withoutName(target, error.what());
+    if (error.number != core::errors::pathAccess && error.number != core::errors::fileNotFound) return reason;
+    const fs::path folder = fs::path(target).parent_path();
+    const char* place = folder.empty() ? "." : folder.c_str();
+    struct stat status {};
+    if (::stat(place, &status) != 0 || !S_ISDIR(status.st_mode)) return "its folder does not exist";
+    if (::stat(target.c_str(), &status) != 0 && errno == ELOOP) return "its link leads nowhere";
+    if (::stat(target.c_str(), &status) == 0) {
+        if (S_ISDIR(status.st_mode)) return "it is a folder";
+        if (!S_ISREG(status.st_mode)) return "it is no ordinary file";
+        const bool writable = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+        if (!writable || ::access(target.c_str(), W_OK) != 0) return "it is read-only";
+    }
+    if (::access(place, W_OK) != 0) return "its folder is read-only";
+    return reason;
 }
 
 void Session::change(const std::function<void()>& routine) const {
@@ -150,9 +153,15 @@ void Session::run(const std::string& target, const std::function<std::optional<c
     if (target.empty()) throw Failure("a database needs a file name");
     const int refusals = platform.refusedQuestions();
     const std::optional<core::RunTimeError> error = save();
+    tellVersionFailure();
     if (platform.refusedQuestions() != refusals)
         throw Failure(target, "it exists already, --yes overwrites it");
     if (error) throw Failure(target, "could not be saved: " + whyNotWritten(target, *error));
+}
+
+void Session::tellVersionFailure() const {
+    const std::string reason = storage::takeVersionFailure(app);
+    if (!reason.empty()) std::cerr << "fwk: " << printable("no version kept: " + reason) << '\n';
 }
 
 core::Column& Session::column(std::string_view name) {

@@ -32,6 +32,8 @@ public:
     void open();
     // The reason in the user's words, for an error that reading the database ended in.
     std::string whyNotOpened(const core::RunTimeError& error) const;
+    // The same for a file that could not be written.
+    static std::string whyNotWritten(const std::string& target, const core::RunTimeError& error);
     // Runs a routine of the window. The error that would end the window is the failure of the command.
     void change(const std::function<void()>& routine) const;
     // The same for a routine that calculates. The window stops at the first record that fails, and its user
@@ -43,6 +45,9 @@ public:
     void clone(const std::string& target);
     // Saves the search results as a database of their own.
     void saveSearch(const std::string& target);
+
+    // Says it on standard error when the state that a save has replaced could not be kept.
+    void tellVersionFailure() const;
 
     // Raises Failure when a file that is to be written, by whatever name, is the database itself.
     void refuseAsOutput(const std::string& output) const;

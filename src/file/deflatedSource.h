@@ -1,5 +1,7 @@
 #pragma once
 
+#include "file/checksum.h"
+
 #include <cstdint>
 #include <string_view>
 #include <zip.h>
@@ -10,7 +12,5 @@ namespace file {
 // The bytes are packed at once and need not stay. Level from 1 to 12. The source is the caller's until libzip
 // takes it. Raises deviceIO; throws std::bad_alloc.
 [[nodiscard]] zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level);
-
-std::uint32_t checksum(std::string_view bytes); // as an archive has it
 
 } // namespace file

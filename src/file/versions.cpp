@@ -2,7 +2,8 @@
 
 #include "core/runTimeError.h"
 #include "file/atomicFile.h"
-#include "file/deflatedSource.h"
+#include "file/checksum.h"
+#include "file/packedArchive.h"
 #include "file/versionNames.h"
 #include "file/workFiles.h"
 #include "file/zip.h"
@@ -11,6 +12,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <map>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -204,7 +206,7 @@ fs::path VersionStore::folderOf(const fs::path& database) const {
     return folder_ / (std::string(text) + "-" + whole.stem().string().substr(0, longestStem));
 }
 
-void VersionStore::keep(const fs::path& database, std::optional<int> records,
+void VersionStore::keep(const fs::path& database, std::optional<KnownText> known,
                         const std::set<std::string>& staying, std::time_t now) {
     const PackedArchive archive(database);
     const PackedEntry* text = archive.find(textEntry);
@@ -218,7 +220,7 @@ void VersionStore::keep(const fs::path& database, std::optional<int> records,
     version.text = text->checksum;
     version.pictures = checksum(list);
     version.bytes = archive.bytes();
-    version.records = records;
+    if (known && known->checksum == text->checksum) version.records = known->records;
     version.saved = std::max<std::int64_t>(archive.modified(), 0);
     version.kept = now;
     version.number = 1;

@@ -1,14 +1,17 @@
 #pragma once
 
-#include "file/packedArchive.h"
-
+#include <cstdint>
 #include <ctime>
+#include <filesystem>
 #include <functional>
-#include <map>
 #include <optional>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace file {
+
+class PackedArchive;
 
 // A state of a database that a save has replaced.
 struct Version {
@@ -19,6 +22,12 @@ struct Version {
     std::optional<int> records;       // where the writer knew
     std::uint32_t text = 0, pictures = 0; // checksums of what is in it
     std::filesystem::path file;
+};
+
+// How many records a text of that checksum has, for a writer that knows it without unpacking.
+struct KnownText {
+    std::uint32_t checksum = 0;
+    int records = 0;
 };
 
 // The versions of all databases: a folder each, named by the checksum of the database's path and its name.
@@ -40,7 +49,7 @@ public:
     // Keeps the file as it is, unless the version kept last is the same, and removes what is too much. What
     // is no database is passed over. Where the pictures would take more than half of the budget, those of the
     // given names are left to the database, which goes on having them. Raises what the system says.
-    void keep(const std::filesystem::path& database, std::optional<int> records,
+    void keep(const std::filesystem::path& database, std::optional<KnownText> known,
               const std::set<std::string>& staying, std::time_t now = std::time(nullptr));
 
     // The newest first.

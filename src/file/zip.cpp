@@ -333,6 +333,12 @@ std::uint64_t Zip::sizeAt(int index) const {
     return status.size;
 }
 
+std::uint32_t Zip::checksumOf(const std::string& name) const {
+    zip_stat_t status;
+    zip_stat_init(&status);
+    return zip_stat(open().zip, name.c_str(), 0, &status) == 0 ? status.crc : 0;
+}
+
 bool Zip::contains(const std::string& name) const {
     return zip_name_locate(open().zip, name.c_str(), 0) >= 0;
 }

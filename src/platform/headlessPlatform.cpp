@@ -1,6 +1,7 @@
 #include "platform/headlessPlatform.h"
 
 #include "core/runTimeError.h"
+#include "platform/userFolders.h"
 
 #include <ctime>
 
@@ -45,6 +46,16 @@ drawing::Printer& HeadlessPlatform::printer() const {
 
 std::optional<drawing::Extent> HeadlessPlatform::pictureExtent(const std::filesystem::path& picture) {
     return printer_ == nullptr ? std::nullopt : printer_->pictureExtent(picture);
+}
+
+std::filesystem::path HeadlessPlatform::versionsFolder() {
+    return keepsVersions_ ? platform::versionsFolder() : std::filesystem::path();
+}
+
+std::string HeadlessPlatform::getSetting(const std::string& key, const std::string& byDefault) {
+    if (!keepsVersions_) return byDefault;
+    if (!settings_) settings_.emplace();
+    return settings_->GetSetting(settingsSection, key, byDefault);
 }
 
 void HeadlessPlatform::clearWorkFiles() {

@@ -2,6 +2,7 @@
 
 #include "drawing/printer.h"
 #include "platform/platform.h"
+#include "platform/settingsFile.h"
 #include "platform/workFolder.h"
 
 #include <ostream>
@@ -26,6 +27,8 @@ public:
     void setInput(std::string text) { input_ = std::move(text); }
     // What is printed on; there is no printer as long as nobody gives one. It must outlive the platform.
     void setPrinter(drawing::Printer* printer) { printer_ = printer; }
+    // Versions are kept, as the user's settings have it. These are read when they are first asked for.
+    void keepVersions() { keepsVersions_ = true; }
     void setToday(std::chrono::year_month_day day) { today_ = day; }
 
     // Routines tell a failure by a message alone, and a refusal by a question answered No. Whoever
@@ -54,7 +57,8 @@ public:
     std::filesystem::path tempFolder() override { return folder_.temp(); }
     void clearWorkFiles() override;
     bool keepsDataFile() const override { return false; }
-    std::string getSetting(const std::string&, const std::string& byDefault) override { return byDefault; }
+    std::filesystem::path versionsFolder() override;
+    std::string getSetting(const std::string& key, const std::string& byDefault) override;
     void saveSetting(const std::string&, const std::string&) override {}
     void flushSettings() override {}
     // In local time, unless a day has been set.
@@ -69,6 +73,8 @@ private:
     std::string openName_, saveName_, input_;
     drawing::Printer* printer_ = nullptr;
     std::optional<std::chrono::year_month_day> today_;
+    std::optional<SettingsFile> settings_;
+    bool keepsVersions_ = false;
     bool answersYes_ = false;
     int exclamations_ = 0;
     int refusedQuestions_ = 0;

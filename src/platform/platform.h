@@ -26,6 +26,9 @@ struct FileDialog {
     std::string filter;   // "Database (*.fwk)|*.fwk|All Files (*.*)|*.*"
 };
 
+// Where the settings stand in their file.
+constexpr std::string_view settingsSection = "StartUp";
+
 // The filter of every dialog that asks for a database.
 constexpr std::string_view databaseFilter = "Database (*.fwk)|*.fwk|All Files (*.*)|*.*";
 
@@ -117,11 +120,13 @@ public:
     // --- the work folder, App.Path ---
     virtual std::filesystem::path workFolder() = 0;
     virtual std::filesystem::path tempFolder() = 0;
+    // Where the versions of databases are kept; empty where none are.
+    virtual std::filesystem::path versionsFolder() { return {}; }
     virtual void clearWorkFiles() = 0; // the images in Temp, and data.dat
     // False for a front end that keeps no unpacked text beside the program.
     virtual bool keepsDataFile() const = 0;
 
-    // --- settings, section "StartUp" ---
+    // --- settings, of one section ---
     virtual std::string getSetting(const std::string& key, const std::string& byDefault) = 0;
     virtual void saveSetting(const std::string& key, const std::string& value) = 0;
     virtual void flushSettings() = 0;

@@ -21,6 +21,11 @@ fs::path userFolder(const char* variable, const char* belowHome) {
     return {};
 }
 
+fs::path versionsFolder() {
+    const fs::path data = userFolder("XDG_DATA_HOME", ".local/share");
+    return data.empty() ? data : data / "versions";
+}
+
 bool makePrivateFolder(const fs::path& folder) {
     return file::makePrivateFolder(folder) == 0;
 }

@@ -4,6 +4,7 @@
 #include "app/windowState.h"
 #include "core/text.h"
 #include "file/zip.h"
+#include "storage/versions.h"
 
 #include <map>
 #include <set>
@@ -77,7 +78,7 @@ std::vector<std::string> cleanDatabase(App& app) {
         Zip.DeleteFile(name);
         removed.push_back(name);
     }
-    Zip.CloseArchive();
+    Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
     return removed;
 }
 

@@ -9,6 +9,7 @@
 #include "layout/rulers.h"
 #include "layout/sheet.h"
 #include "storage/saveFile.h"
+#include "storage/versions.h"
 
 #include <filesystem>
 #include <optional>
@@ -75,7 +76,7 @@ void createEmptyArchive(App& app, const std::string& path) {
     app::showCaption(app);
     file::Zip Zip;
     Zip.CreateArchive(path, "");
-    Zip.CloseArchive();
+    Zip.CloseArchive(keepingVersion(app, path));
 }
 
 void finishNewDatabase(App& app) {

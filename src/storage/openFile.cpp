@@ -10,6 +10,7 @@
 #include "layout/images.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
+#include "storage/versions.h"
 
 #include <filesystem>
 
@@ -108,27 +109,46 @@ void takeOver(App& app, const std::string& path) {
     app.mainFrm.listScroll = app::ListScroll::ToCurrent;
 }
 
+void clearForReading(App& app) {
+    layout::unloadObjects(app);
+    app.document.bInvoiceStyle = false;
+    app.document.clear();
+    app.platform.clearWorkFiles();
+}
+
+void readText(App& app, std::string text) {
+    Document& document = app.document;
+    if (app.platform.keepsDataFile()) file::writeWorkFile(app.platform.workFolder() / "data.dat", text);
+    file::readDataFile(std::move(text), document);
+    if (document.LV.empty()) core::addTotalsRow(document.LV);
+    document.iLV.Visible = document.bInvoiceStyle;
+    if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
+    invoice::rebuildView(app);
+}
+
 } // namespace
 
 void readArchive(App& app, const std::string& path) {
     // A database of the most records and columns, each cell a long line, stays far below it.
     constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
-    Document& document = app.document;
-    layout::unloadObjects(app);
-    document.bInvoiceStyle = false;
-    document.clear();
-    app.platform.clearWorkFiles();
+    clearForReading(app);
     file::Zip Zip;
     Zip.OpenArchive(path);
     std::optional<std::string> text = Zip.readEntry("data.dat", mostBytes);
+    const std::uint32_t checksum = Zip.checksumOf("data.dat");
     Zip.CloseArchive();
     if (!text) core::raise(core::errors::fileNotFound, "data.dat is not in the archive");
-    if (app.platform.keepsDataFile()) file::writeWorkFile(app.platform.workFolder() / "data.dat", *text);
-    file::readDataFile(*std::move(text), document);
-    if (document.LV.empty()) core::addTotalsRow(document.LV);
-    document.iLV.Visible = document.bInvoiceStyle;
-    if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
-    invoice::rebuildView(app);
+    readText(app, *std::move(text));
+    noteRecords(app, checksum);
+}
+
+void replaceDocument(App& app, std::string text) {
+    takeOver(app, app.document.currentFile);
+    clearForReading(app);
+    readText(app, std::move(text));
+    if (app.platform.keepsDataFile()) extractClipArt(app);
+    showOpened(app, true);
+    app::setDocumentModified(app, true);
 }
 
 void extractClipArt(App& app) {
@@ -149,7 +169,8 @@ void OpenFile(App& app, bool StartUp) {
         if (app.platform.keepsDataFile()) extractClipArt(app);
         showOpened(app, StartUp);
     } catch (const std::exception&) {
-        // Whatever is wrong with it, a file that cannot be opened ends in the empty window, without a message.
+        // Whatever is wrong with it, a file that cannot be opened ends in the empty window, without a
+        // message.
         app.document.currentFile.clear();
         app::enableControls(app, false);
         app.mainFrm.theListView = &app.document.LV;

@@ -1,9 +1,11 @@
 #include "storage/saveFile.h"
 
 #include "app/windowState.h"
+#include "file/checksum.h"
 #include "file/dataWriter.h"
 #include "file/zip.h"
 #include "storage/saveSteps.h"
+#include "storage/versions.h"
 
 #include <optional>
 
@@ -13,11 +15,11 @@ namespace {
 
 using app::App;
 
-void pack(const std::string& archive, const std::string& bytes) {
+void pack(App& app, const std::string& bytes) {
     file::Zip Zip;
-    Zip.OpenArchive(archive);
+    Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
-    Zip.CloseArchive();
+    Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
 }
 
 // The copy carries all the images along. It is finished beside its place and takes it in one step, so
@@ -26,7 +28,7 @@ void packCopy(App& app, const std::string& target, const std::string& bytes) {
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
-    Zip.CloseArchiveAs(target);
+    Zip.CloseArchiveAs(target, keepingVersion(app, target));
     app.document.currentFile = target;
 }
 
@@ -34,7 +36,7 @@ void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
     if (!target || !mayWriteTo(app, *target)) return;
-    packAlone(*target, bytes);
+    packAlone(app, *target, bytes);
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {
@@ -50,7 +52,8 @@ void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool
     if (saveAsTarget)
         packCopy(app, *saveAsTarget, bytes);
     else
-        pack(app.document.currentFile, bytes);
+        pack(app, bytes);
+    noteRecords(app, file::checksum(bytes));
     app::showCaption(app);
     app::showFileSize(app);
 }

@@ -1,6 +1,7 @@
 #include "storage/saveSteps.h"
 
 #include "file/workFiles.h"
+#include "storage/versions.h"
 
 namespace storage {
 
@@ -26,11 +27,11 @@ void addData(file::Zip& Zip, const std::string& bytes) {
     Zip.addBuffer(dataFile, bytes, dataComment);
 }
 
-void packAlone(const std::string& target, const std::string& bytes) {
+void packAlone(App& app, const std::string& target, const std::string& bytes) {
     file::Zip Zip;
     Zip.CreateArchive(target, "");
     addData(Zip, bytes);
-    Zip.CloseArchive();
+    Zip.CloseArchive(keepingVersion(app, target));
 }
 
 core::RunTimeError tellFailure(App& app, bool bSaveAs, const std::exception& error) {

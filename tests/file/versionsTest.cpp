@@ -1,4 +1,5 @@
 #include "file/versions.h"
+#include "file/checksum.h"
 #include "folderFixture.h"
 
 #include <sys/stat.h>
@@ -20,6 +21,9 @@ protected:
         for (const auto& [picture, bytes] : pictures) Zip.addBuffer(picture, bytes, "Clip Art");
         Zip.CloseArchive();
         return folder / name;
+    }
+    static file::KnownText known(const std::string& text, int records) {
+        return {file::checksum(text), records};
     }
     // "data.dat=text a.jpg=bytes "
     static std::string content(const fs::path& archive) {
@@ -54,10 +58,10 @@ TEST_F(VersionsTest, EachStateIsKeptOnceAndPrivately) {
     const std::string image(60'000, 'i'); // packs well, so its packed bytes are copied and not its own
     const fs::path books = write("books.fwk", "one", {{"a.jpg", image}});
     EXPECT_EQ(listed(store, books), "");
-    store.keep(books, 1, {});
-    store.keep(books, 1, {}); // of a save that failed and is tried again
+    store.keep(books, known("one", 1), {});
+    store.keep(books, known("one", 1), {}); // of a save that failed and is tried again
     write("books.fwk", "two", {{"a.jpg", image}});
-    store.keep(books, std::nullopt, {});
+    store.keep(books, known("one", 1), {}); // of another text
     EXPECT_EQ(listed(store, folder / "." / "books.fwk"), "2:two/? 1:one/1 ");
     EXPECT_EQ(listed(store, folder / "other" / "books.fwk"), "");
     for (const auto& each : fs::recursive_directory_iterator(folder / "kept")) {
@@ -81,7 +85,7 @@ TEST_F(VersionsTest, EachStateIsKeptOnceAndPrivately) {
     // Cut short by a loss of power: gone from the list, and the next state like it is kept.
     fs::resize_file(store.versionsOf(books).front().file, 10);
     EXPECT_EQ(listed(store, books), "1:one/1 ");
-    store.keep(books, 2, {});
+    store.keep(books, known("two", 2), {});
     EXPECT_EQ(listed(store, books), "3:two/2 1:one/1 ");
 }
 
@@ -90,7 +94,7 @@ TEST_F(VersionsTest, WhatIsRestoredIsTheOldArchive) {
     const Pictures pictures = {{"a.jpg", "first"}, {"b.jpg", std::string(3000, 'b')}};
     const fs::path books = write("books.fwk", "one", pictures);
     const std::string one = content(books), two = "data.dat=two c.jpg=third ";
-    store.keep(books, 1, {});
+    store.keep(books, {}, {});
     write("books.fwk", "two", {{"a.jpg", "other"}, {"c.jpg", "third"}});
     const file::Version version = store.versionsOf(books).front();
 
@@ -117,7 +121,7 @@ TEST_F(VersionsTest, TheLastTenAndOneADayForThirtyDays) {
     file::VersionStore store(folder / "kept", plenty);
     for (int i = 0; i < 200; ++i) { // four a day for fifty days
         const fs::path books = write("books.fwk", "t" + std::to_string(i));
-        store.keep(books, i, {}, noon + i / 4 * day + i % 4);
+        store.keep(books, {}, {}, noon + i / 4 * day + i % 4);
     }
     std::string expected;
     for (int i = 199; i >= 190; --i) expected += std::to_string(i + 1) + " ";
@@ -162,8 +166,8 @@ TEST_F(VersionsTest, TheBudgetTakesTheOldestAndTheLastOfEachFileLast) {
         return text;
     };
     file::VersionStore store(folder / "kept", 5 * 2300);
-    for (int i = 0; i < 3; ++i) store.keep(write("old.fwk", bytes(i)), i, {}, noon + i);
-    for (int i = 0; i < 4; ++i) store.keep(write("new.fwk", bytes(10 + i)), i, {}, noon + 10 + i);
+    for (int i = 0; i < 3; ++i) store.keep(write("old.fwk", bytes(i)), {}, {}, noon + i);
+    for (int i = 0; i < 4; ++i) store.keep(write("new.fwk", bytes(10 + i)), {}, {}, noon + 10 + i);
     const auto numbers = [&](const char* name) {
         std::string all;
         for (const file::Version& version : store.versionsOf(folder / name))
@@ -171,9 +175,9 @@ TEST_F(VersionsTest, TheBudgetTakesTheOldestAndTheLastOfEachFileLast) {
         return all;
     };
     EXPECT_EQ(numbers("old.fwk") + " " + numbers("new.fwk"), "3 4321");
-    for (int i = 4; i < 9; ++i) store.keep(write("new.fwk", bytes(10 + i)), i, {}, noon + 10 + i);
+    for (int i = 4; i < 9; ++i) store.keep(write("new.fwk", bytes(10 + i)), {}, {}, noon + 10 + i);
     EXPECT_EQ(numbers("old.fwk") + " " + numbers("new.fwk"), "3 9876");
-    file::VersionStore(folder / "kept", 2300).keep(write("new.fwk", bytes(30)), 1, {}, noon + 30);
+    file::VersionStore(folder / "kept", 2300).keep(write("new.fwk", bytes(30)), {}, {}, noon + 30);
     EXPECT_EQ(numbers("old.fwk") + " " + numbers("new.fwk"), " 10");
 }
 

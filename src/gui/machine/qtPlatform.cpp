@@ -30,7 +30,6 @@ namespace gui {
 
 namespace {
 
-constexpr std::string_view logicSection = "StartUp";
 constexpr std::string_view windowSection = "Window";
 constexpr std::string_view geometryKey = "Geometry";
 
@@ -222,11 +221,11 @@ void QtPlatform::clearWorkFiles() {
 }
 
 std::string QtPlatform::getSetting(const std::string& key, const std::string& byDefault) {
-    return settings_.GetSetting(logicSection, key, byDefault);
+    return settings_.GetSetting(platform::settingsSection, key, byDefault);
 }
 
 void QtPlatform::saveSetting(const std::string& key, const std::string& value) {
-    settings_.SaveSetting(logicSection, key, value);
+    settings_.SaveSetting(platform::settingsSection, key, value);
 }
 
 std::chrono::year_month_day QtPlatform::today() {

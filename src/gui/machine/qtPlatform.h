@@ -3,6 +3,7 @@
 #include "gui/machine/systemPrinter.h"
 #include "platform/platform.h"
 #include "platform/settingsFile.h"
+#include "platform/userFolders.h"
 #include "platform/workFolder.h"
 #include "qtprint/twipsFont.h"
 
@@ -70,6 +71,7 @@ public:
     void clearWorkFiles() override;
     bool keepsDataFile() const override { return true; }
 
+    std::filesystem::path versionsFolder() override { return platform::versionsFolder(); }
     std::string getSetting(const std::string& key, const std::string& byDefault) override;
     void saveSetting(const std::string& key, const std::string& value) override;
     void flushSettings() override { settings_.flush(); }
