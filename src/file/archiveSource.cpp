@@ -102,6 +102,7 @@ zip_int64_t ArchiveSource::tellStatus(void* data, zip_uint64_t length) {
 }
 
 zip_int64_t ArchiveSource::fail(int zipError, int errnoValue) {
+    if (errnoValue != 0) systemError = errnoValue;
     zip_error_set(&error, zipError, errnoValue);
     return -1;
 }

@@ -22,6 +22,9 @@ public:
 
     [[nodiscard]] std::uint64_t size() const { return inputSize; }
     [[nodiscard]] int descriptor() const { return input.get(); }
+    // Of the last failure to read or write, 0 for none. libzip forgets it at times, and tells that the
+    // archive ended too early.
+    [[nodiscard]] int failure() const { return systemError; }
     [[nodiscard]] std::int64_t modifiedAt() const { return modified; } // in seconds since 1970
     void writeInto(int fd) { output = fd; }
 
@@ -41,6 +44,7 @@ private:
     int output = -1;
     std::uint64_t inputSize = 0, readPlace = 0, outputSize = 0, writePlace = 0;
     std::time_t modified = 0;
+    int systemError = 0;
     zip_error_t error{};
 };
 

@@ -26,6 +26,7 @@ zip_t* openZip(ArchiveSource& source, int flags, const fs::path& file) {
     zip_t* zip = made == nullptr ? nullptr : zip_open_from_source(made, flags, &error);
     if (zip != nullptr) return zip;
     if (made != nullptr) zip_source_free(made);
+    if (source.failure() != 0) zip_error_set(&error, ZIP_ER_READ, source.failure());
     raiseZipError(error, file.string());
 }
 

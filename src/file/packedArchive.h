@@ -32,6 +32,8 @@ public:
     // Of two entries of one name the first. Encrypted ones, which nothing here can read, are left out.
     [[nodiscard]] const std::vector<PackedEntry>& entries() const { return entries_; }
     [[nodiscard]] const PackedEntry* find(std::string_view name) const;
+    // What the system said when it could not be read; 0 where it could.
+    [[nodiscard]] int failure() const { return source_.failure(); }
     [[nodiscard]] std::uint64_t bytes() const { return source_.size(); }
     [[nodiscard]] std::int64_t modified() const { return source_.modifiedAt(); } // in seconds since 1970
     // Writes the packed bytes of an entry into an open file. Raises diskFull, deviceIO, badFileFormat.

@@ -209,9 +209,19 @@ fs::path VersionStore::folderOf(const fs::path& database) const {
 void VersionStore::keep(const fs::path& database, std::optional<KnownText> known,
                         const std::set<std::string>& staying, std::time_t now) {
     const PackedArchive archive(database);
+    try {
+        keep(archive, folderOf(database), known, staying, now);
+    } catch (const core::RunTimeError&) {
+        // libzip takes what it cannot read for damaged.
+        if (archive.failure() != 0) raiseSystemError(archive.failure(), database.string());
+        throw;
+    }
+}
+
+void VersionStore::keep(const PackedArchive& archive, const fs::path& folder, std::optional<KnownText> known,
+                        const std::set<std::string>& staying, std::time_t now) const {
     const PackedEntry* text = archive.find(textEntry);
     if (text == nullptr || budget_ == 0) return;
-    const fs::path folder = folderOf(database);
     makeFolder(folder);
     const FileHandle lock = lockFolder(folder);
     const Listing present(folder);

@@ -70,6 +70,8 @@ public:
     [[nodiscard]] std::filesystem::path folderOf(const std::filesystem::path& database) const;
 
 private:
+    void keep(const PackedArchive& archive, const std::filesystem::path& folder,
+              std::optional<KnownText> known, const std::set<std::string>& staying, std::time_t now) const;
     void storePictures(const PackedArchive& archive, const std::filesystem::path& folder,
                        const std::set<std::string>& staying) const;
     void thinOut(const std::filesystem::path& folder, std::time_t now) const;

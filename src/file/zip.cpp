@@ -166,6 +166,17 @@ struct Zip::Archive {
         raiseZipError(error, name);
     }
 
+    // What libzip takes for a damaged archive may be a disk that cannot be read.
+    template <typename Reading>
+    auto reading(const Reading& routine) const {
+        try {
+            return routine();
+        } catch (const core::RunTimeError&) {
+            if (source.failure() != 0) raiseSystemError(source.failure(), file.string());
+            throw;
+        }
+    }
+
     // Before the archive is written, which ends libzip's knowledge of it.
     [[nodiscard]] std::set<std::string> staying() const {
         std::set<std::string> names;
@@ -297,14 +308,16 @@ void Zip::ExtractFile(const std::string& name) {
     if (!isSafeEntryName(name)) return;
     const zip_int64_t place = zip_name_locate(from.zip, name.c_str(), 0);
     if (place < 0) return;
-    EntryReader entry(from.zip, static_cast<zip_uint64_t>(place), from.source.size(), maxFileBytes);
     const fs::path file = baseFolder / name;
     // Made anew, so that a link that lies there is not followed.
     if (::unlink(file.c_str()) != 0 && errno != ENOENT) raiseSystemError(errno, file.string());
     const FileHandle handle(::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!handle.isOpen()) raiseSystemError(errno, file.string());
     try {
-        unpackInto(handle.get(), entry, file);
+        from.reading([&] {
+            EntryReader entry(from.zip, static_cast<zip_uint64_t>(place), from.source.size(), maxFileBytes);
+            unpackInto(handle.get(), entry, file);
+        });
     } catch (...) {
         ::unlink(file.c_str());
         throw;
@@ -347,14 +360,16 @@ std::optional<std::string> Zip::readEntry(const std::string& name, std::uint64_t
     Archive& from = open();
     const zip_int64_t place = zip_name_locate(from.zip, name.c_str(), 0);
     if (place < 0) return std::nullopt;
-    EntryReader entry(from.zip, static_cast<zip_uint64_t>(place), from.source.size(), maxBytes);
-    std::string bytes(entry.size(), '\0');
-    std::size_t filled = 0;
-    while (filled < bytes.size())
-        filled += entry.read(bytes.data() + filled, std::min(chunkBytes, bytes.size() - filled));
-    char beyond = 0;
-    entry.read(&beyond, 1); // asks for the end, where the checksum is compared
-    return bytes;
+    return from.reading([&] {
+        EntryReader entry(from.zip, static_cast<zip_uint64_t>(place), from.source.size(), maxBytes);
+        std::string bytes(entry.size(), '\0');
+        std::size_t filled = 0;
+        while (filled < bytes.size())
+            filled += entry.read(bytes.data() + filled, std::min(chunkBytes, bytes.size() - filled));
+        char beyond = 0;
+        entry.read(&beyond, 1); // asks for the end, where the checksum is compared
+        return std::optional(std::move(bytes));
+    });
 }
 
 Zip::Archive& Zip::open() const {

@@ -56,6 +56,7 @@ every() {
             eval "exec $command"
         ) >out 2>err
         local code=$?
+        [[ -e hit && $code == 0 && ! -s err && -n ${VERBOSE-} ]] && echo "silent $name $(<hit) $command $part"
         [[ -e hit ]] || break
         local after=missing
         [[ -e $result ]] && after=$(cksum <"$result")
