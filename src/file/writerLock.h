@@ -10,15 +10,17 @@
 
 namespace file {
 
-// Who holds a database for writing, as its lock file tells it. All of it is empty or 0 when the file tells nothing
-// that can be understood. The texts are UTF-8 without control characters.
+// Who holds a database for writing, as its lock file tells it. All of it is empty or 0 when the file tells
+// nothing that can be understood. The texts are UTF-8 without control characters.
 struct LockOwner {
     std::string user, machine;
     long long process = 0;
     std::string since; // UTC, "2026-03-14T09:26:53Z"
 
+    [[nodiscard]] static LockOwner thisProcess();
     [[nodiscard]] bool isKnown() const { return !machine.empty(); }
-    // For a message: "anna on desk (process 4711) since 2026-03-14 09:26:53 UTC".
+    [[nodiscard]] bool isOfThisMachine() const;
+    // For a message: "anna on desk (process 4711) since 2026-03-14 09:26:53 UTC", or "another program".
     [[nodiscard]] std::string text() const;
 };
 
@@ -27,20 +29,19 @@ struct LockOwner {
 [[nodiscard]] LockOwner readLockLine(std::string_view line);
 
 // That this process alone writes a database, for as long as the object lives. Beside the database lies a file
-// (".~lock.books.fwk#") that says who it is, and on that file is a lock of the system, which ends with its owner in
-// whatever way. So a lock of this machine that nobody holds is left over, whatever process number stands in it. Where
-// the file system has no such locks, the process number has to tell.
+// (".~lock.books.fwk#") that says who it is, and on that file is a lock of the system, which ends with its
+// owner in whatever way. So a lock of this machine that nobody holds is left over, whatever process number
+// stands in it. Where the file system has no such locks, the process number has to tell.
 class WriterLock {
 public:
     enum class Result {
         Taken,         // ours
         Held,          // somebody else's who is alive; no force takes it
-        HeldElsewhere, // it names another machine, or nothing that is understood, and whether that one is alive
-                       // cannot be told from here; Force::Yes takes it
-        Impossible,    // the folder takes no lock file (it may not be written, the disk is full); a save there
-                       // tells why itself, so that going on without a lock is right
-        Obstructed,    // what lies in the lock's place is no lock file, or is one that nobody holds and that we may
-                       // not remove
+        HeldElsewhere, // it names another machine, or nothing that is understood, and whether that one is
+                       // alive cannot be told from here; Force::Yes takes it
+        Impossible, // the folder takes no lock file (it may not be written, the disk is full); a save there
+                    // tells why itself, so that going on without a lock is right
+        Obstructed, // what lies in the lock's place is no lock file, or is one that we may not remove
     };
     enum class Force { No, Yes };
     struct Outcome;
@@ -63,10 +64,10 @@ public:
     void release();
 
 private:
-    WriterLock(std::filesystem::path path, FileHandle handle);
+    WriterLock(std::filesystem::path path, FileHandle handle)
+        : path_(std::move(path)), handle_(std::move(handle)) {}
 
-    struct Attempt;
-    [[nodiscard]] static Outcome tryOnce(const std::filesystem::path& path, Force force);
+    class Attempt;
 
     std::filesystem::path path_;
     FileHandle handle_;
