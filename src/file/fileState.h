@@ -3,15 +3,16 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
-#include <sys/types.h>
+#include <sys/stat.h>
 
 namespace file {
 
-// What a database file was when it was read or written, to notice before it is written again, or while it is open, that
-// somebody else has changed it. Nothing is raised: a file that cannot be looked at counts as one that is not there.
+// What a database file was when it was read or written, to notice before it is written again, or while it is
+// open, that somebody else has changed it. Nothing is raised: a file that cannot be looked at counts as one
+// that is not there.
 //
-// Taken before the file is read, no later change is missed; of a file that is written, AtomicFile and Zip tell the state
-// of what they wrote.
+// Taken before the file is read, no later change is missed. Zip::state() is that of the very file which is
+// read, and what its CloseArchive() answers that of the file which it wrote.
 class FileState {
 public:
     enum class Change {
@@ -36,15 +37,15 @@ public:
     [[nodiscard]] std::int64_t size() const { return size_; }
 
 private:
+    explicit FileState(const struct stat& status);
     [[nodiscard]] bool hasStatusOf(const FileState& other) const;
-    [[nodiscard]] bool takeStatus(int fd);
 
     bool isThere_ = false;
     dev_t device_ = 0;
     ino_t inode_ = 0;
     std::int64_t size_ = 0, modified_ = 0, statusChanged_ = 0;
-    // Of names, sizes and checksums of all entries, as the archive's directory has them; none for what is no archive,
-    // or too large a one for a quick look: any other status is a change then.
+    // Of names, sizes and checksums of all entries, as the archive's directory has them; none for what is no
+    // archive, or too large a one for a quick look: any other status is a change then.
     std::optional<std::uint64_t> directory_;
 };
 

@@ -165,8 +165,8 @@ struct Zip::Archive {
         raiseZipError(error, name);
     }
 
-    void writeTo(const fs::path& target) {
-        AtomicFile result(target);
+    FileState writeTo(const fs::path& target) {
+        AtomicFile result(target, isNew ? like : file);
         if (living.empty()) {
             int length = 0;
             const char* comment = zip_get_archive_comment(zip, &length, ZIP_FL_ENC_RAW);
@@ -181,9 +181,11 @@ struct Zip::Archive {
             zip = nullptr;
         }
         result.commit();
+        return FileState::of(result.fd());
     }
 
     fs::path file;
+    fs::path like;        // of a new archive
     ArchiveSource source; // outlives zip, which the destructor gives up first
     zip_t* zip = nullptr;
     std::vector<zip_uint64_t> living; // the entries that are not deleted, in order
@@ -209,28 +211,33 @@ void Zip::OpenArchive(const fs::path& file) {
     archive = std::make_unique<Archive>(file, std::move(handle), 0);
 }
 
-void Zip::CreateArchive(const fs::path& file, std::string_view comment) {
+void Zip::CreateArchive(const fs::path& file, std::string_view comment, const fs::path& like) {
     archive.reset();
     auto fresh = std::make_unique<Archive>(file, FileHandle(), ZIP_CREATE | ZIP_TRUNCATE);
     const auto length = static_cast<zip_uint16_t>(comment.size());
     if (comment.size() > maxCommentBytes || zip_set_archive_comment(fresh->zip, comment.data(), length) != 0)
         core::raise(core::errors::badFileFormat, file.string() + ": bad comment");
     fresh->isNew = true;
+    fresh->like = like;
     archive = std::move(fresh);
 }
 
-void Zip::CloseArchive() {
+FileState Zip::state() const {
+    return FileState::of(open().source.descriptor());
+}
+
+FileState Zip::CloseArchive() {
     const std::unique_ptr<Archive> closing = takeOpen();
-    if (!closing->changed && !closing->isNew) return;
+    if (!closing->changed && !closing->isNew) return FileState::of(closing->source.descriptor());
     std::error_code error;
     if (!closing->isNew && !fs::exists(closing->file, error))
         raiseSystemError(error ? error.value() : ENOENT, closing->file.string());
-    closing->writeTo(closing->file);
+    return closing->writeTo(closing->file);
 }
 
-void Zip::CloseArchiveAs(const fs::path& target) {
+FileState Zip::CloseArchiveAs(const fs::path& target) {
     const std::unique_ptr<Archive> closing = takeOpen();
-    closing->writeTo(target);
+    return closing->writeTo(target);
 }
 
 void Zip::AddFile(const fs::path& file, std::string_view comment) {
