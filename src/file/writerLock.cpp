@@ -182,7 +182,8 @@ WriterLock::Outcome WriterLock::take(const fs::path& database, Force force, mill
         if (!isUnwritten) unwrittenSince.reset();
         if (isUnwritten && !unwrittenSince) unwrittenSince = now;
         // Its owner has locked it and is about to say who he is.
-        const bool isAboutTo = isHeld && !outcome.owner.isKnown() && now - begin < untilWritten;
+        const bool isAboutTo =
+            outcome.result == Result::Held && !outcome.owner.isKnown() && now - begin < untilWritten;
         if (!isUnwritten && !isAboutTo && now - begin >= wait) return outcome;
         std::this_thread::sleep_for(betweenLooks);
     }
