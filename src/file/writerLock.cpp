@@ -132,9 +132,12 @@ private:
         if (locked == Locked::No) return over(Result::Held);
         if (content.empty() && !unwrittenIsDead_) return End::Unwritten;
         const bool isOurMachine = outcome.owner.isOfThisMachine();
-        const bool isDead = content.empty() || force_ == Force::Yes ||
-                            (isOurMachine && (locked == Locked::Yes || hasEnded(outcome.owner.process)));
-        if (!isDead) return over(isOurMachine ? Result::Held : Result::HeldElsewhere);
+        const bool isAlive =
+            isOurMachine && locked == Locked::NoSuchLocks && !hasEnded(outcome.owner.process);
+        if (isAlive) return over(Result::Held);
+        if (!content.empty() && !isOurMachine && force_ == Force::No) return over(Result::HeldElsewhere);
+        // Without locks its owner may have removed it before he ended, and somebody else made another one.
+        if (locked == Locked::NoSuchLocks && !isAt(path_, fd)) return End::Again;
         // Removed while it is locked and made anew, never written into: it can be another name of any file.
         if (::unlink(path_.c_str()) != 0 && errno != ENOENT) return over(Result::Obstructed, errno);
         return End::Again;
