@@ -16,6 +16,7 @@ namespace {
 
 struct LockOptions {
     std::string file;
+    double wait = usualWait;
     bool yes = false;
 };
 
@@ -70,8 +71,8 @@ std::string readPassword(const std::string& file) {
 
 // Locks an open design and opens a locked one.
 int turn(const LockOptions& options, bool toLocked) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     const std::string& lockPassword = session.app.document.lockPassword;
     const auto isLocked = [&] { return !lockPassword.empty(); };
     if (isLocked() == toLocked)
@@ -87,7 +88,7 @@ int turn(const LockOptions& options, bool toLocked) {
 
 Run setUpTurn(CLI::App& command, bool toLocked) {
     const auto options = std::make_shared<LockOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     addYesFlag(command, options->yes, "Not needed: the command asks no question");
     command.footer("The password is the first line of standard input.");
     return [options, toLocked] { return turn(*options, toLocked); };

@@ -17,6 +17,7 @@ namespace {
 struct VersionOptions {
     std::string file, target;
     int number = 0;
+    double wait = usualWait;
     bool json = false, yes = false;
 };
 
@@ -89,7 +90,8 @@ int list(const VersionOptions& options) {
 }
 
 int restore(const VersionOptions& options) {
-    const Session session(options.file);
+    Session session(options.file, options.wait);
+    session.platform.setAnswersYes(options.yes);
     const file::VersionStore store = storeOf(session);
     const std::vector<file::Version> versions = store.versionsOf(options.file);
     const auto version = std::ranges::find(versions, options.number, &file::Version::number);
@@ -97,6 +99,7 @@ int restore(const VersionOptions& options) {
         throw Failure(options.file, "no version " + std::to_string(options.number));
     if (file::fileExists(options.target) && !options.yes)
         throw Failure(options.target, "it exists already, --yes overwrites it");
+    const auto lock = session.lockForTarget(options.target);
     std::vector<std::string> told;
     try {
         const auto keep = storage::keepingVersion(session.app, options.target);
@@ -127,7 +130,7 @@ Run setUpVersions(CLI::App& command) {
 
 Run setUpRestore(CLI::App& command) {
     const auto options = std::make_shared<VersionOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     command.add_option("N", options->number, "The version, by its number in the list of versions")
         ->required();
     command.add_option("-o,--output", options->target, "The file to make")->required()->type_name("NEW.fwk");

@@ -25,20 +25,6 @@ constexpr std::size_t randomLetters = 6;
 constexpr std::size_t longestNamePart = 200; // of the 255 bytes that a name may have
 constexpr std::time_t staleAfterSeconds = 60;
 
-// Only the last component matters: links on the way there lead to the right folder by themselves.
-fs::path resolveLink(fs::path file) {
-    std::error_code error;
-    for (int i = 0; i < 40; ++i) {
-        const fs::path next = fs::read_symlink(file, error);
-        if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
-            return file;
-        // A link that cannot be read must not be taken for the file itself, which would take its place.
-        if (error) raiseSystemError(error.value(), file.string());
-        file = file.parent_path() / next;
-    }
-    raiseSystemError(ELOOP, file.string());
-}
-
 fs::path folderOf(const fs::path& file) {
     return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
@@ -92,8 +78,23 @@ bool give(int fd, uid_t owner, gid_t group, const fs::path& target) {
 
 } // namespace
 
-AtomicFile::AtomicFile(const fs::path& file) : target(resolveLink(file)) {
+// Only the last component matters: links on the way there lead to the right folder by themselves.
+fs::path resolveLink(fs::path file) {
+    std::error_code error;
+    for (int i = 0; i < 40; ++i) {
+        const fs::path next = fs::read_symlink(file, error);
+        if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
+            return file;
+        // A link that cannot be read must not be taken for the file itself, which would take its place.
+        if (error) raiseSystemError(error.value(), file.string());
+        file = file.parent_path() / next;
+    }
+    raiseSystemError(ELOOP, file.string());
+}
+
+AtomicFile::AtomicFile(const fs::path& file, const fs::path& like) : target(resolveLink(file)) {
     checkTarget();
+    if (!replaces && !like.empty()) takePermissionsOf(like);
     removeLeftOvers(target);
     createBeside();
 }
@@ -121,10 +122,20 @@ void AtomicFile::checkTarget() {
     group = status.st_gid;
 }
 
+void AtomicFile::takePermissionsOf(const fs::path& like) {
+    struct stat status {};
+    if (::stat(like.c_str(), &status) != 0) return;
+    isAlike = true;
+    // A copy of a read-only database is there to be changed.
+    mode = (status.st_mode & 0777) | 0600;
+    owner = ::geteuid();
+    group = status.st_gid;
+}
+
 void AtomicFile::createBeside() {
-    // A new file gets the permissions that the user's mask leaves; a replacing one is private until it
-    // takes those of the old file.
-    const mode_t initialMode = replaces ? 0600 : 0666;
+    // A new file gets the permissions that the user's mask leaves; one that takes others is private until
+    // then.
+    const mode_t initialMode = replaces || isAlike ? 0600 : 0666;
     int failure = EEXIST;
     for (int attempt = 0; attempt < 100 && failure == EEXIST; ++attempt) {
         fs::path name = folderOf(target) / (besidePrefix(target) + randomPart() + std::string(ending));
@@ -137,7 +148,20 @@ void AtomicFile::createBeside() {
     ::flock(handle.get(), LOCK_EX | LOCK_NB);
 }
 
+void AtomicFile::takeAlikeAttributes() const {
+    struct stat status {};
+    if (::fstat(fd(), &status) != 0) raiseSystemError(errno, target.string());
+    // What one group may do is not for another one, unless anybody may.
+    const bool isOfGroup = status.st_gid == group || give(fd(), static_cast<uid_t>(-1), group, target);
+    const mode_t ofGroup = isOfGroup ? mode & S_IRWXG : mode & (mode << 3U) & S_IRWXG;
+    if (::fchmod(fd(), (mode & ~mode_t{S_IRWXG}) | ofGroup) == 0) return;
+    // A file system without permissions of its own has given it those that all its files have.
+    if (errno != EPERM && errno != EINVAL && errno != EOPNOTSUPP && errno != ENOSYS)
+        raiseSystemError(errno, target.string());
+}
+
 void AtomicFile::takeOverAttributes() const {
+    if (isAlike) takeAlikeAttributes();
     if (!replaces) return;
     struct stat status {};
     if (::fstat(fd(), &status) != 0) raiseSystemError(errno, target.string());

@@ -127,8 +127,9 @@ bool addPicture(PackedWriter& made, const PackedEntry& picture, const fs::path& 
     return true;
 }
 
-void replace(PackedWriter& made, const fs::path& target, const std::function<void()>& beforeReplacing) {
-    AtomicFile result(target);
+void replace(PackedWriter& made, const fs::path& target, const fs::path& like,
+             const std::function<void()>& beforeReplacing) {
+    AtomicFile result(target, like);
     made.finish(result.fd(), target);
     if (beforeReplacing) beforeReplacing();
     result.commit();
@@ -362,7 +363,8 @@ std::vector<std::string> VersionStore::write(const Version& version, const fs::p
     std::vector<std::string> missing;
     for (const PackedEntry& picture : picturesOf(version))
         if (!addPicture(made, picture, folderOf(database), present)) missing.push_back(picture.name);
-    replace(made, target, beforeReplacing);
+    // Of a database that is gone nobody knows how private it was.
+    replace(made, target, present ? database : version.file, beforeReplacing);
     return missing;
 }
 
@@ -387,7 +389,7 @@ std::vector<std::string> VersionStore::putPicturesBack(const Version& version, c
     if (putBack.empty()) return missing;
     for (const PackedEntry& entry : present->entries())
         if (!putBack.contains(entry.name)) made.add(*present, entry);
-    replace(made, database, beforeReplacing);
+    replace(made, database, database, beforeReplacing);
     return missing;
 }
 

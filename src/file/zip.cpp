@@ -32,30 +32,6 @@ constexpr int largeTextLevel = 1;
 constexpr std::size_t smallestDeflated = std::size_t{64} * 1024;
 constexpr std::size_t maxCommentBytes = 0xffff;
 
-// All of a file that has so many bytes.
-void copyFile(int from, int to, std::uint64_t size, const std::string& detail) {
-    std::vector<char> chunk(chunkBytes);
-    long long place = 0;
-    while (static_cast<std::uint64_t>(place) < size) {
-        const ssize_t count = ::pread(from, chunk.data(), chunk.size(), place);
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) raiseSystemError(errno, detail);
-        if (count == 0) raiseDamaged(detail + " ended too early");
-        if (const int failure = writeAt(to, chunk.data(), static_cast<std::size_t>(count), place))
-            raiseSystemError(failure, detail);
-        place += count;
-    }
-}
-
-// libzip leaves no file at all where no entry is left; an archive without entries is this record.
-void writeEmptyArchive(int fd, const std::string& comment, const std::string& detail) {
-    std::string record("PK\5\6\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 20);
-    record += static_cast<char>(comment.size() & 0xff);
-    record += static_cast<char>(comment.size() >> 8);
-    record += comment;
-    if (const int failure = writeAt(fd, record.data(), record.size(), 0)) raiseSystemError(failure, detail);
-}
-
 } // namespace
 
 struct Zip::Archive {
@@ -186,8 +162,8 @@ struct Zip::Archive {
         return names;
     }
 
-    void writeTo(const fs::path& target, const BeforeReplacing& beforeReplacing) {
-        AtomicFile result(target);
+    FileState writeTo(const fs::path& target, const BeforeReplacing& beforeReplacing) {
+        AtomicFile result(target, isNew ? like : file);
         std::set<std::string> same;
         if (beforeReplacing && target == file) same = staying();
         if (living.empty()) {
@@ -205,9 +181,11 @@ struct Zip::Archive {
         }
         if (beforeReplacing) beforeReplacing(same);
         result.commit();
+        return FileState::of(result.fd());
     }
 
     fs::path file;
+    fs::path like;        // of a new archive
     ArchiveSource source; // outlives zip, which the destructor gives up first
     zip_t* zip = nullptr;
     std::vector<zip_uint64_t> living; // the entries that are not deleted, in order
@@ -234,28 +212,33 @@ void Zip::OpenArchive(const fs::path& file) {
     archive = std::make_unique<Archive>(file, std::move(handle), 0);
 }
 
-void Zip::CreateArchive(const fs::path& file, std::string_view comment) {
+void Zip::CreateArchive(const fs::path& file, std::string_view comment, const fs::path& like) {
     archive.reset();
     auto fresh = std::make_unique<Archive>(file, FileHandle(), ZIP_CREATE | ZIP_TRUNCATE);
     const auto length = static_cast<zip_uint16_t>(comment.size());
     if (comment.size() > maxCommentBytes || zip_set_archive_comment(fresh->zip, comment.data(), length) != 0)
         core::raise(core::errors::badFileFormat, file.string() + ": bad comment");
     fresh->isNew = true;
+    fresh->like = like;
     archive = std::move(fresh);
 }
 
-void Zip::CloseArchive(const BeforeReplacing& beforeReplacing) {
+FileState Zip::state() const {
+    return FileState::of(open().source.descriptor());
+}
+
+FileState Zip::CloseArchive(const BeforeReplacing& beforeReplacing) {
     const std::unique_ptr<Archive> closing = takeOpen();
-    if (!closing->changed && !closing->isNew) return;
+    if (!closing->changed && !closing->isNew) return FileState::of(closing->source.descriptor());
     std::error_code error;
     if (!closing->isNew && !fs::exists(closing->file, error))
         raiseSystemError(error ? error.value() : ENOENT, closing->file.string());
-    closing->writeTo(closing->file, beforeReplacing);
+    return closing->writeTo(closing->file, beforeReplacing);
 }
 
-void Zip::CloseArchiveAs(const fs::path& target, const BeforeReplacing& beforeReplacing) {
+FileState Zip::CloseArchiveAs(const fs::path& target, const BeforeReplacing& beforeReplacing) {
     const std::unique_ptr<Archive> closing = takeOpen();
-    closing->writeTo(target, beforeReplacing);
+    return closing->writeTo(target, beforeReplacing);
 }
 
 void Zip::AddFile(const fs::path& file, std::string_view comment) {

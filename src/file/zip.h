@@ -1,6 +1,7 @@
 #pragma once
 
 #include "file/entryName.h"
+#include "file/fileState.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -33,15 +34,23 @@ public:
     // The folder that AddFile takes relative names from and that ExtractFile unpacks into.
     void SetBaseFolder(const std::filesystem::path& folder);
     void OpenArchive(const std::filesystem::path& file);
-    // An existing file is replaced, on CloseArchive.
-    void CreateArchive(const std::filesystem::path& file, std::string_view comment = {});
+    // An existing file is replaced, on CloseArchive. A new one takes the permissions of "like", if there is
+    // such a file.
+    void CreateArchive(const std::filesystem::path& file, std::string_view comment = {},
+                       const std::filesystem::path& like = {});
+    // Of the file that was opened, as it is now; it is still the one that is read when another has taken its
+    // place.
+    [[nodiscard]] FileState state() const;
     // Called when the file that takes the place of another one is whole, just before it does. What it is told
     // are the names of the entries that stay as they are; none, where another archive is replaced than the
     // opened one.
     using BeforeReplacing = std::function<void(const std::set<std::string>& staying)>;
-    void CloseArchive(const BeforeReplacing& beforeReplacing = {});
-    // Writes the archive with its changes to another place and leaves the opened one as it was.
-    void CloseArchiveAs(const std::filesystem::path& target, const BeforeReplacing& beforeReplacing = {});
+    // Answers the state of the file that the archive is now.
+    FileState CloseArchive(const BeforeReplacing& beforeReplacing = {});
+    // Writes the archive with its changes to another place and leaves the opened one as it was. A new file
+    // takes the permissions of the opened one.
+    FileState CloseArchiveAs(const std::filesystem::path& target,
+                             const BeforeReplacing& beforeReplacing = {});
 
     // Adds a file, or replaces the entry of its name (the last component of the path) in its place.
     // The file is read on closing, so it must stay until then.

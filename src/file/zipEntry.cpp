@@ -3,7 +3,9 @@
 #include "core/runTimeError.h"
 #include "file/fileHandle.h"
 
+#include <cerrno>
 #include <new>
+#include <unistd.h>
 #include <vector>
 
 namespace file {
@@ -58,6 +60,28 @@ void unpackInto(int fd, EntryReader& entry, const std::filesystem::path& file) {
             raiseSystemError(failure, file.string());
         place += static_cast<long long>(count);
     }
+}
+
+void copyFile(int from, int to, std::uint64_t size, const std::string& detail) {
+    std::vector<char> chunk(chunkBytes);
+    long long place = 0;
+    while (static_cast<std::uint64_t>(place) < size) {
+        const ssize_t count = ::pread(from, chunk.data(), chunk.size(), place);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) raiseSystemError(errno, detail);
+        if (count == 0) raiseDamaged(detail + " ended too early");
+        if (const int failure = writeAt(to, chunk.data(), static_cast<std::size_t>(count), place))
+            raiseSystemError(failure, detail);
+        place += count;
+    }
+}
+
+void writeEmptyArchive(int fd, const std::string& comment, const std::string& detail) {
+    std::string record("PK\5\6\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 20);
+    record += static_cast<char>(comment.size() & 0xff);
+    record += static_cast<char>(comment.size() >> 8);
+    record += comment;
+    if (const int failure = writeAt(fd, record.data(), record.size(), 0)) raiseSystemError(failure, detail);
 }
 
 } // namespace file

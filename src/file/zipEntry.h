@@ -39,4 +39,10 @@ private:
 // Writes all of an entry into an open file.
 void unpackInto(int fd, EntryReader& entry, const std::filesystem::path& file);
 
+// Copies all of a file that has so many bytes.
+void copyFile(int from, int to, std::uint64_t size, const std::string& detail);
+
+// libzip leaves no file at all where no entry is left; an archive without entries is this record.
+void writeEmptyArchive(int fd, const std::string& comment, const std::string& detail);
+
 } // namespace file

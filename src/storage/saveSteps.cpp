@@ -29,7 +29,7 @@ void addData(file::Zip& Zip, const std::string& bytes) {
 
 void packAlone(App& app, const std::string& target, const std::string& bytes) {
     file::Zip Zip;
-    Zip.CreateArchive(target, "");
+    Zip.CreateArchive(target, "", app.document.currentFile);
     addData(Zip, bytes);
     Zip.CloseArchive(keepingVersion(app, target));
 }
