@@ -120,6 +120,7 @@ std::optional<std::string> guardOpening(App& app, const std::string& path) {
 }
 
 void followOpened(App& app) {
+    openedFile(app).path = app.platform.guardsFiles() ? openedFile(app).path : app.document.currentFile;
     if (!app.platform.guardsFiles()) return;
     const FileState state =
         openedFile(app).next ? openedFile(app).next->state : FileState::of(app.document.currentFile);
@@ -165,8 +166,9 @@ bool guardTarget(App& app, const std::string& target) {
 }
 
 void followStored(App& app) {
-    if (!app.platform.guardsFiles()) return;
     OpenedFile& opened = openedFile(app);
+    if (!app.platform.guardsFiles()) opened.path = app.document.currentFile;
+    if (!app.platform.guardsFiles()) return;
     if (opened.path != app.document.currentFile || opened.next) takeNext(app);
     remember(app, FileState::of(opened.path));
 }

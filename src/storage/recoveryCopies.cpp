@@ -83,15 +83,15 @@ RecoveryCopy newCopy(const fs::path& folder, const std::string& file) {
 }
 
 bool isAnything(const App& app) {
-    return !app.document.currentFile.empty() || app.document.LV.columns.count() > 1;
+    return !openedFile(app).path.empty() || app.document.LV.columns.count() > 1;
 }
 
 RecoveryNote makeNote(const App& app) {
     const core::Document& document = app.document;
     const UnsavedWork& work = unsavedWork(app);
     const file::FileState& state = openedFile(app).state;
-    // After a failed open the records are on view without a file; they belong to the one that they came from.
-    const std::string& file = document.currentFile.empty() ? work.copy.note.file : document.currentFile;
+    // Not currentFile: another one is named before it is known whether it can be opened.
+    const std::string& file = openedFile(app).path;
     RecoveryNote note{file,
                       state.modified(),
                       state.size(),
@@ -158,7 +158,7 @@ bool prepare(App& app) {
     if (!isAnything(app)) return false;
     const fs::path folder = recoveryFolder(app);
     if (folder.empty()) return false;
-    if (work.copy.archive.empty()) work.copy = newCopy(folder, app.document.currentFile);
+    if (work.copy.archive.empty()) work.copy = newCopy(folder, openedFile(app).path);
     return true;
 }
 
