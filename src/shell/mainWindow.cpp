@@ -103,6 +103,11 @@ void keepForTheEnd(App& app) {
     writeSettings(app);
 }
 
+void endAtOnce(App& app) {
+    keepForTheEnd(app);
+    storage::openedFile(app).lock.reset();
+}
+
 void SSTab1_Click(App& app, int tab) {
     if (tab != app::reportTab && !print::hasPrinter(app)) return;
     if (tab == app::reportTab) {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <sys/types.h>
+#include <utility>
 
 namespace storage {
 
@@ -27,7 +27,8 @@ public:
     [[nodiscard]] bool start(const std::function<void()>& work);
     // Sees to a child that has ended; so this is to be asked now and then.
     [[nodiscard]] bool isRunning();
-    [[nodiscard]] bool hasFailed() const { return failed_; } // the last one that ended
+    // That the last one has failed; once.
+    [[nodiscard]] bool takeFailure() { return std::exchange(failed_, false); }
     // Ends it, if it runs, whatever it has written.
     void stop();
 

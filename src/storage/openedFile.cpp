@@ -1,8 +1,10 @@
 #include "storage/openedFile.h"
 
 #include "core/runTimeError.h"
+#include "file/dataWriter.h"
 #include "file/zip.h"
 #include "storage/openFile.h"
+#include "storage/saveSteps.h"
 
 #include <filesystem>
 
@@ -201,6 +203,16 @@ void acceptForeignState(App& app) {
 void replaceAtNextSave(App& app) {
     acceptForeignState(app);
     openedFile(app).mayReplace = true;
+}
+
+void writeOpenedAgain(App& app) {
+    try {
+        packAlone(app.document.currentFile, file::encodeDataFile(file::writeDataFile(app.document, false)));
+        app::setDocumentModified(app, false);
+        app.changes.announce(app, app::Change::Stored);
+    } catch (const core::RunTimeError& error) {
+        (void)tellFailure(app, false, error);
+    }
 }
 
 } // namespace storage

@@ -58,5 +58,7 @@ void followWritten(app::App& app);
 void readOpenedAgain(app::App& app);    // unsaved work of this window is kept for recovery
 void acceptForeignState(app::App& app); // leaves it; the next save asks all the same
 void replaceAtNextSave(app::App& app);
+void writeOpenedAgain(
+    app::App& app); // where it has gone: the records, without the pictures that went with it
 
 } // namespace storage

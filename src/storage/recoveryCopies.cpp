@@ -193,14 +193,16 @@ void markUnsaved(App& app, Clock::time_point now) {
 bool tendUnsavedWork(App& app, Clock::time_point now) noexcept {
     UnsavedWork& work = unsavedWork(app);
     try {
-        const bool wasAlive = work.writer.isRunning();
-        if (!work.isStale || wasAlive) return work.isStale || wasAlive;
+        const bool isWriting = work.writer.isRunning();
+        if (!isWriting && work.writer.takeFailure()) work.hasKeepFailed = true;
+        if (!work.isStale || isWriting) return work.isStale || isWriting;
         if (now - work.last < quietTime && now - work.first < longestTime) return true;
         work.isStale = false;
         if (hasUnsavedWork(app)) keepInBackground(app);
         return work.writer.isRunning();
     } catch (const std::exception&) {
-        // A full disk, perhaps. It is tried again with the next change, and the work itself is not touched.
+        // It is tried again with the next change, and the work itself is not touched.
+        work.hasKeepFailed = true;
         return false;
     }
 }

@@ -85,7 +85,7 @@ TEST_F(Recovery, WaitsForAPauseButNotForEver) {
         if (wasStale && !storage::unsavedWork(window.app).isStale) log += std::to_string(half / 2) + " ";
     }
     EXPECT_EQ(log, "10 14 ");
-    EXPECT_FALSE(storage::unsavedWork(window.app).writer.hasFailed());
+    EXPECT_FALSE(storage::unsavedWork(window.app).hasKeepFailed);
 }
 
 TEST_F(Recovery, KeepsTheWorkInTheBackgroundForThisUserAlone) {
