@@ -20,6 +20,11 @@ enum class Change {
     Page,          // the layout page was set up for browsing, and shows nothing yet
     Preview,       // what the preview is to show was chosen
     Modified,      // the document is no longer as it is stored, or it is again
+    Unsaved,       // a text was typed, or records were replaced, that nothing else tells of
+    Opened,        // another file is the open one, or none
+    Stored,        // the open file holds the document as it is
+    Writing,       // the open file is about to be written by ourselves,
+    Written,       // and it was
 };
 
 // Tells a change to whoever follows it, so that who makes it need not know them. The followers are told in
@@ -36,7 +41,7 @@ public:
     }
 
 private:
-    std::array<std::vector<Follower>, static_cast<std::size_t>(Change::Modified) + 1> followers_;
+    std::array<std::vector<Follower>, static_cast<std::size_t>(Change::Written) + 1> followers_;
 };
 
 } // namespace app

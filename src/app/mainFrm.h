@@ -70,6 +70,8 @@ struct MainFrm {
     bool bHighlightCalc = false;
     bool bSavePrompt = true;
 
+    bool bReadOnly = false; // the open file is another's to write
+
     bool bDatabaseTypeChosen = false; // the format dialog ended with OK
 
     int hourglasses = 0; // that are shown, one within the other

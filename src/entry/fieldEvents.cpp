@@ -78,6 +78,7 @@ int layoutField_Change(App& app, int index, std::string_view text) {
     LayoutField* field = app.document.layout.layoutField.find(index);
     if (field == nullptr || !isBrowsing(app)) return -1;
     field->Text = text;
+    app.changes.announce(app, app::Change::Unsaved);
     bool& bFieldChanged = sheet(app).bFieldChanged;
     if (bFieldChanged) {
         bFieldChanged = false;

@@ -1,6 +1,7 @@
 #include "gui/frame/commandLine.h"
 #include "gui/frame/mainFrmView.h"
 #include "gui/frame/picture.h"
+#include "gui/machine/endSignals.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include <cstdlib>
 #include <iostream>
 
 namespace {
@@ -22,6 +24,11 @@ int showWindow(const gui::CommandLine& line) {
     // Not with the last window: the disclaimer of the first start closes before the window opens.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&window, &gui::MainFrmView::closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    const gui::EndSignals signalled([&](int number) {
+        window.endAtOnce();
+        std::_Exit(128 + number); // dialogs further up would take their end for an answer
+    });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, [&] { window.keepForTheEnd(); });
     window.load(shell::commandLineFor(gui::fromQt(line.file)));
     return QApplication::exec();
 }

@@ -88,10 +88,14 @@ bool tryToAdd(App& app, const std::function<void()>& add) {
 }
 
 void addToArchive(App& app, const fs::path& file, const std::string& comment) {
+    if (app.mainFrm.bReadOnly)
+        core::raise(core::errors::pathAccess, app.document.currentFile + " is open to read only");
+    app.changes.announce(app, app::Change::Writing);
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     Zip.AddFile(file, comment);
     Zip.CloseArchive();
+    app.changes.announce(app, app::Change::Written);
 }
 
 bool archiveHas(App& app, const std::string& name) {

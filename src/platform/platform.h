@@ -63,6 +63,13 @@ public:
     // --- questions and messages ---
     virtual Answer msgBox(const std::string& text, Icon icon, const std::string& caption,
                           Buttons buttons = Buttons::Ok) = 0;
+    // A question with buttons of its own, and Cancel behind them. Answers the place of the one that was
+    // pressed; -1 when the user waved the question away, or nobody is there to ask.
+    virtual int choose(const std::string& text, const std::string& caption,
+                       const std::vector<std::string>& buttons) {
+        (void)text, (void)caption, (void)buttons;
+        return -1;
+    }
     // Cancel answers with the empty text.
     virtual std::string inputBox(const std::string& prompt, const std::string& title,
                                  const std::string& proposed) = 0;
@@ -125,6 +132,13 @@ public:
     virtual void clearWorkFiles() = 0; // the images in Temp, and data.dat
     // False for a front end that keeps no unpacked text beside the program.
     virtual bool keepsDataFile() const = 0;
+
+    // --- the user's files ---
+    // Where unsaved work is kept for the next start, a folder of this user's alone; empty where none is kept.
+    virtual std::filesystem::path stateFolder() { return {}; }
+    // True for a front end that keeps a file open between two commands: it takes the file's lock as long, and
+    // asks before it writes over what others have made of it.
+    virtual bool guardsFiles() const { return false; }
 
     // --- settings, of one section ---
     virtual std::string getSetting(const std::string& key, const std::string& byDefault) = 0;

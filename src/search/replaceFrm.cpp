@@ -36,7 +36,9 @@ int replaceFrm::Command3_Click() {
 int replaceFrm::replaceIn(const std::function<bool(int subItem)>& takesPart) {
     const int changed = WordReplacer(Text1, Text2).replaceInList(app_.document.LV, takesPart);
     // Or the next update of the sheet would put the old words back.
-    if (changed > 0) app_.changes.announce(app_, app::Change::CurrentRecord);
+    if (changed == 0) return 0;
+    app_.changes.announce(app_, app::Change::CurrentRecord);
+    app_.changes.announce(app_, app::Change::Unsaved);
     return changed;
 }
 

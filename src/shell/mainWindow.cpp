@@ -5,8 +5,11 @@
 #include "print/previewNavigation.h"
 #include "print/printerCheck.h"
 #include "search/searchMode.h"
+#include "shell/recoveryOffer.h"
 #include "shell/settings.h"
 #include "storage/openFile.h"
+#include "storage/openedFile.h"
+#include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
 
 namespace shell {
@@ -71,6 +74,7 @@ void Form_Load(App& app, std::string_view Command, const std::function<void()>& 
         storage::OpenFile(app, true);
     else
         currentFile.clear();
+    offerRecovery(app);
 }
 
 std::string commandLineFor(std::string_view path) {
@@ -81,12 +85,27 @@ std::string commandLineFor(std::string_view path) {
 
 void Form_QueryUnload(App& app) {
     writeSettings(app);
+    bool bGivenUp = app.document.bModified && !app.mainFrm.bSavePrompt; // the user does not want to be asked
     if (app.document.bModified && app.mainFrm.bSavePrompt) {
         const platform::Answer answer = app.platform.msgBox(
             "Save current document?", platform::Icon::Question, app::title, platform::Buttons::YesNo);
-        if (answer != platform::Answer::No) storage::SaveFile(app, false, false);
+        bGivenUp = answer == platform::Answer::No;
+        if (!bGivenUp) storage::SaveFile(app, false, false);
     }
+    // After a save that failed, now or before, the copy is all there is.
+    storage::endUnsavedWork(app, bGivenUp);
+    storage::openedFile(app).lock.reset();
     app.mainFrm.unloaded = true;
+}
+
+void keepForTheEnd(App& app) {
+    storage::keepUnsavedWork(app);
+    writeSettings(app);
+}
+
+void endAtOnce(App& app) {
+    keepForTheEnd(app);
+    storage::openedFile(app).lock.reset();
 }
 
 void SSTab1_Click(App& app, int tab) {

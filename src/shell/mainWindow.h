@@ -21,6 +21,12 @@ std::string commandLineFor(std::string_view path);
 // It cannot be cancelled.
 void Form_QueryUnload(app::App& app);
 
+// The system may end the program soon: keeps the unsaved work for the next start, and the settings. Asks
+// nothing, and takes less than a second.
+void keepForTheEnd(app::App& app);
+// It ends it now.
+void endAtOnce(app::App& app);
+
 // A tab has been chosen.
 void SSTab1_Click(app::App& app, int tab);
 

@@ -8,13 +8,41 @@
 #include "layout/selection.h"
 #include "layout/sheet.h"
 #include "shell/mainWindow.h"
+#include "shell/recoveryOffer.h"
+#include "storage/openedFile.h"
+#include "storage/recoveryCopies.h"
 
 namespace shell {
+
+namespace {
+
+void followUnsaved(app::App& app) {
+    storage::UnsavedWork& work = storage::unsavedWork(app);
+    if (app.mainFrm.SSTab1 == app::layoutTab) {
+        work.isTyped = true;
+        work.typedKey = entry::sheet(app).shownKey;
+    } else {
+        work.isReplaced = true;
+    }
+    storage::markUnsaved(app);
+}
+
+} // namespace
 
 // Who follows which change, in the order in which they are told.
 Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     using app::Change;
     changes.follow({Change::Modified}, app::showModified);
+    changes.follow({Change::Modified}, storage::followModified);
+    changes.follow({Change::Unsaved}, followUnsaved);
+    changes.follow({Change::Columns, Change::Values}, [](App& app) { storage::markUnsaved(app); });
+    // What was typed on the sheet is gone with it.
+    changes.follow({Change::CurrentRecord}, [](App& app) { storage::unsavedWork(app).isTyped = false; });
+    changes.follow({Change::Stored}, storage::removeUnsavedWork);
+    changes.follow({Change::Opened}, storage::followOpened);
+    changes.follow({Change::Stored}, storage::followStored);
+    changes.follow({Change::Writing}, storage::followWriting);
+    changes.follow({Change::Written}, storage::followWritten);
     changes.follow({Change::Columns}, [](App& app) {
         // What is designed shows the names of its columns, and a new record has no results yet.
         if (!layout::isDesignMode(app) && !entry::isSheetNew(app)) entry::refreshShownRecord(app);
@@ -24,6 +52,9 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Values, Change::CurrentRecord}, entry::refreshShownRecord);
     changes.follow({Change::Columns, Change::Values}, invoice::rebuildView);
     changes.follow({Change::Page}, entry::showPage);
+    changes.follow({Change::Opened}, [](App& app) {
+        if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);
+    });
     changes.follow({Change::Preview}, [](App& app) { SSTab1_Click(app, app::previewTab); });
 }
 

@@ -65,6 +65,9 @@ void findInRecords(const core::RecordsList& records, Unused& unused) {
 } // namespace
 
 std::vector<std::string> cleanDatabase(App& app) {
+    if (app.mainFrm.bReadOnly)
+        core::raise(core::errors::pathAccess, app.document.currentFile + " is open to read only");
+    app.changes.announce(app, app::Change::Writing);
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     Unused unused(Zip);
@@ -79,6 +82,7 @@ std::vector<std::string> cleanDatabase(App& app) {
         removed.push_back(name);
     }
     Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
+    app.changes.announce(app, app::Change::Written);
     return removed;
 }
 

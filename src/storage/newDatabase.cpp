@@ -8,6 +8,8 @@
 #include "invoice/views.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
+#include "storage/openedFile.h"
+#include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
 #include "storage/versions.h"
 
@@ -34,10 +36,14 @@ void offerToSave(App& app) {
     if (currentFile.empty() || !app.document.bModified) return;
     const platform::Answer answer = app.platform.msgBox(
         "Save current file " + currentFile + "?", platform::Icon::None, app::title, platform::Buttons::YesNo);
-    if (answer != platform::Answer::No) SaveFile(app, false, false);
+    if (answer != platform::Answer::No)
+        SaveFile(app, false, false);
+    else
+        endUnsavedWork(app, true);
 }
 
 void clearDocument(App& app) {
+    endUnsavedWork(app, false);
     Document& document = app.document;
     document.iLV.Visible = document.bInvoiceStyle;
     document.clear();
@@ -59,7 +65,9 @@ void make(App& app, const std::string& path, bool bStartUp) {
         if (bStartUp) app::enableControls(app, false);
         return;
     }
+    if (!guardTarget(app, path)) return;
     createEmptyArchive(app, path);
+    app.changes.announce(app, app::Change::Opened);
     app.mainFrm.panels[app::fileSizePanel].clear();
     app.mainFrm.panels[app::documentPanel].clear();
     app.platform.showForm("designFrm");

@@ -10,6 +10,8 @@
 #include "layout/images.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
+#include "storage/openedFile.h"
+#include "storage/recoveryCopies.h"
 #include "storage/versions.h"
 
 #include <filesystem>
@@ -160,12 +162,16 @@ void extractClipArt(App& app) {
     });
 }
 
-void OpenFile(App& app, bool StartUp) {
-    const std::optional<std::string> path = chooseFile(app, StartUp);
-    if (!path) return;
+namespace {
+
+// The records come from the archive, which is a recovery copy perhaps, and the pictures from the file of that
+// path.
+void openFrom(App& app, const std::string& path, const std::string& archive, bool StartUp) {
+    endUnsavedWork(app, false);
+    if (auto& next = openedFile(app).next) next->state = file::FileState::of(path);
     try {
-        takeOver(app, *path);
-        readArchive(app, *path);
+        takeOver(app, path);
+        readArchive(app, archive);
         if (app.platform.keepsDataFile()) extractClipArt(app);
         showOpened(app, StartUp);
     } catch (const std::exception&) {
@@ -175,6 +181,27 @@ void OpenFile(App& app, bool StartUp) {
         app::enableControls(app, false);
         app.mainFrm.theListView = &app.document.LV;
     }
+    // Of what was given up nothing is unsaved here any more, though the told flag stays as it was.
+    app.changes.announce(app, app::Change::Opened);
+}
+
+} // namespace
+
+void OpenFile(App& app, bool StartUp) {
+    const std::optional<std::string> chosen = chooseFile(app, StartUp);
+    if (!chosen) return;
+    const std::optional<std::string> path = guardOpening(app, *chosen);
+    if (path)
+        openFrom(app, *path, *path, StartUp);
+    else
+        app.document.currentFile = openedFile(app).path; // it goes on as the open one
+}
+
+bool openRecovered(App& app, const std::string& file, const std::string& archive) {
+    const std::optional<std::string> path = guardOpening(app, file);
+    if (!path) return false;
+    openFrom(app, *path, archive, true);
+    return !app.document.currentFile.empty();
 }
 
 } // namespace storage

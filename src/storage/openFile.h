@@ -10,6 +10,10 @@ namespace storage {
 // readable, and nobody asks about its changes: that question belongs to the callers that ask it.
 void OpenFile(app::App& app, bool StartUp);
 
+// The same with the records of a recovery copy in place of those that the file has. False when it is not
+// opened.
+[[nodiscard]] bool openRecovered(app::App& app, const std::string& file, const std::string& archive);
+
 // What OpenFile does for a front end that must tell why a file cannot be opened: reads the archive
 // into the cleared document and lets the error through.
 void readArchive(app::App& app, const std::string& path);

@@ -4,6 +4,8 @@
 #include "file/checksum.h"
 #include "file/dataWriter.h"
 #include "file/zip.h"
+#include "storage/openedFile.h"
+#include "storage/recoveryCopies.h"
 #include "storage/saveSteps.h"
 #include "storage/versions.h"
 
@@ -56,21 +58,32 @@ void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool
     noteRecords(app, file::checksum(bytes));
     app::showCaption(app);
     app::showFileSize(app);
+    app.changes.announce(app, app::Change::Stored);
 }
 
 } // namespace
 
 std::optional<core::RunTimeError> SaveFile(App& app, bool bSaveAs, bool bClone) {
     std::optional<std::string> target;
-    if (bSaveAs) {
+    const SaveWay way = bSaveAs ? SaveWay::SaveAs : bClone ? SaveWay::Save : waySave(app);
+    if (way == SaveWay::None) return std::nullopt;
+    if (way == SaveWay::SaveAs) {
         target = app.platform.showSave({"Save As...", "Untitled.fwk", std::string(platform::databaseFilter)});
-        if (!target) return std::nullopt;
-        if (*target == app.document.currentFile) target.reset(); // a plain save
+        if (!target || !guardTarget(app, *target)) return std::nullopt;
+        if (*target == app.document.currentFile) {
+            target.reset(); // a plain save
+            if (waySaveOver(app) != SaveWay::Save) return std::nullopt;
+        }
     }
     try {
         writeAndPack(app, target, bClone);
+        openedFile(app).next.reset(); // the user may have refused to overwrite it
         return std::nullopt;
     } catch (const std::exception& error) {
+        openedFile(app).next.reset();
+        // The copy is what there is of the work, since nobody is asked about it any more.
+        if (!bClone) unsavedWork(app).hasSaveFailed = true;
+        keepUnsavedWork(app);
         // Nothing is swallowed: whatever kept the file from being written is told.
         return tellFailure(app, target.has_value(), error);
     }

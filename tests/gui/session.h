@@ -54,6 +54,12 @@ struct ScriptedPlatform : gui::QtPlatform {
         });
         QtPlatform::showForm(name);
     }
+    // Of others that open the same files, and of earlier runs, only those tests know that are about them.
+    bool isUsers = false;
+    bool guardsFiles() const override { return isUsers; }
+    std::filesystem::path stateFolder() override {
+        return isUsers ? QtPlatform::stateFolder() : std::filesystem::path();
+    }
     std::string inputBox(const std::string&, const std::string&, const std::string&) override {
         return take(inputs).value_or("");
     }

@@ -35,6 +35,8 @@ public:
 
     // What the script says. An empty queue answers No, or cancels.
     std::deque<platform::Answer> answers;
+    std::deque<int> choices; // of questions with buttons of their own; waved away when empty
+    bool guards = false;     // files; see platform::Platform
     std::deque<std::string> inputs;
     std::deque<std::string> files;
     std::function<void(std::string_view)> onForm;
@@ -63,6 +65,11 @@ public:
         messages.push_back({text, icon, caption});
         if (buttons == platform::Buttons::Ok) return platform::Answer::Ok;
         return take(answers).value_or(platform::Answer::No);
+    }
+    int choose(const std::string& text, const std::string& caption,
+               const std::vector<std::string>&) override {
+        messages.push_back({text, platform::Icon::Question, caption});
+        return take(choices).value_or(-1);
     }
     std::string inputBox(const std::string& prompt, const std::string& title,
                          const std::string& text) override {
@@ -116,6 +123,7 @@ public:
         std::filesystem::remove(workFolder() / "data.dat");
     }
     bool keepsDataFile() const override { return true; }
+    bool guardsFiles() const override { return guards; }
     std::string getSetting(const std::string& key, const std::string& byDefault) override {
         const auto found = settings.find(key);
         return found == settings.end() ? byDefault : found->second;

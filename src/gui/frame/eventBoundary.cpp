@@ -2,6 +2,7 @@
 
 #include "core/runTimeError.h"
 #include "storage/recovery.h"
+#include "storage/recoveryCopies.h"
 
 #include <cstdlib>
 #include <new>
@@ -28,6 +29,7 @@ void EventBoundary::run(const std::function<void()>& handler) {
 
 void EventBoundary::fail(const std::string& what) {
     const std::optional<std::string> copy = storage::keepRecoveryCopy(app_);
+    storage::keepUnsavedWork(app_); // for the next start to offer
     try {
         std::string text = std::string(app::title) + " has met an error and has to end.\n\n" + what;
         if (copy)

@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTabBar>
+#include <QVBoxLayout>
 
 #include <array>
 
@@ -36,7 +37,8 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     : QMainWindow(parent), app_(app), platform_(platform), events_(app, [this] { refresh(); }),
       actions_(new CommandActions(app, events_, this)), tabs_(new QTabWidget),
       report_(new ReportPage(app, events_, *actions_)), layout_(new LayoutPageView(app, events_)),
-      preview_(new PreviewView(app, events_)), status_(new StatusPanels(app)) {
+      preview_(new PreviewView(app, events_)), status_(new StatusPanels(app)),
+      notice_(new NoticeBar(app, events_)), unsaved_(new UnsavedTimer(app, this)) {
     setObjectName(QStringLiteral("MainFrm"));
     setWindowIcon(programIcon());
     setAcceptDrops(true);
@@ -79,7 +81,14 @@ void MainFrmView::makeTabs() {
     connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
         if (!refreshing_) events_.run([&] { shell::SSTab1_Click(app_, tab); });
     });
-    setCentralWidget(tabs_);
+    auto* centre = new QWidget;
+    auto* rows = new QVBoxLayout(centre);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(notice_);
+    rows->addWidget(tabs_, 1);
+    setCentralWidget(centre);
+    connect(unsaved_, &UnsavedTimer::failed, notice_, &NoticeBar::refresh);
 }
 
 void MainFrmView::load(const std::string& Command) {
@@ -114,6 +123,8 @@ void MainFrmView::showState() {
     if (app_.mainFrm.SSTab1 == app::layoutTab) layout_->refresh();
     if (app_.mainFrm.SSTab1 == app::previewTab) preview_->refresh();
     status_->refresh();
+    notice_->refresh();
+    unsaved_->refresh();
     if (app_.mainFrm.unloaded) close();
 }
 
@@ -123,6 +134,16 @@ void MainFrmView::closeEvent(QCloseEvent* event) {
     platform_.saveWindowGeometry(saveGeometry());
     event->accept();
     emit closed();
+}
+
+void MainFrmView::keepForTheEnd() {
+    shell::keepForTheEnd(app_);
+    platform_.saveWindowGeometry(saveGeometry());
+}
+
+void MainFrmView::endAtOnce() {
+    shell::endAtOnce(app_);
+    platform_.saveWindowGeometry(saveGeometry());
 }
 
 void MainFrmView::changeEvent(QEvent* event) {

@@ -3,7 +3,9 @@
 #include "app/app.h"
 #include "gui/frame/commandActions.h"
 #include "gui/frame/eventBoundary.h"
+#include "gui/frame/noticeBar.h"
 #include "gui/frame/statusPanels.h"
+#include "gui/frame/unsavedTimer.h"
 #include "gui/layout/layoutPageView.h"
 #include "gui/machine/qtPlatform.h"
 #include "gui/print/previewView.h"
@@ -28,6 +30,9 @@ public:
 
     // Starts the program: Command is what the command line says, see shell::Form_Load.
     void load(const std::string& Command);
+    // The system may end the program soon, or ends it now; see shell/mainWindow.h.
+    void keepForTheEnd();
+    void endAtOnce();
 
 signals:
     void closed();
@@ -51,6 +56,8 @@ private:
     LayoutPageView* layout_;
     PreviewView* preview_;
     StatusPanels* status_;
+    NoticeBar* notice_;
+    UnsavedTimer* unsaved_;
     bool stale_ = false; // an event came while the window was shown anew
     bool refreshing_ = false;
 };

@@ -1,5 +1,7 @@
 #include "gui/frame/paneKeys.h"
 
+#include "gui/frame/noticeBar.h"
+
 #include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>
@@ -56,6 +58,8 @@ std::vector<PaneKeys::Pane> PaneKeys::panes() const {
                 all.push_back({bar, buttons.front()});
     };
     addBars(window_, Qt::FindDirectChildrenOnly);
+    if (const auto* notice = window_.findChild<NoticeBar*>(); notice != nullptr && notice->isVisible())
+        all.push_back({notice, notice->firstButton()});
     if (tabs_.tabBar()->isEnabled()) all.push_back({tabs_.tabBar(), tabs_.tabBar()});
     QWidget* page = tabs_.currentWidget();
     addBars(*page, Qt::FindChildrenRecursively);

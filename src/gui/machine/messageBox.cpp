@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QPushButton>
 
 namespace gui {
 
@@ -30,7 +31,7 @@ QMessageBox::Icon qtIcon(platform::Icon icon) {
 } // namespace
 
 MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon icon,
-                       const std::string& caption, platform::Buttons buttons)
+                       const std::string& caption)
     : QMessageBox(parent) {
     setObjectName(QStringLiteral("msgBox"));
     setWindowTitle(toQt(caption));
@@ -39,13 +40,37 @@ MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon 
     setTextFormat(Qt::PlainText);
     setText(toQt(text));
     setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
+MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon icon,
+                       const std::string& caption, platform::Buttons buttons)
+    : MessageBox(parent, text, icon, caption) {
     setStandardButtons(buttons == platform::Buttons::Ok ? Ok : Yes | No);
     if (buttons == platform::Buttons::YesNoDefaultNo) setDefaultButton(No);
+    fit();
+}
+
+MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon icon,
+                       const std::string& caption, const std::vector<std::string>& buttons)
+    : MessageBox(parent, text, icon, caption) {
+    // Of one role they stand in their own order, whatever order the desktop has for roles.
+    for (const std::string& button : buttons) own_ << addButton(toQt(button), QMessageBox::ActionRole);
+    setEscapeButton(addButton(QMessageBox::Cancel));
+    if (!own_.isEmpty()) setDefaultButton(qobject_cast<QPushButton*>(own_.constFirst()));
+    fit();
+}
+
+void MessageBox::fit() {
     // The pictures that a theme puts on them are of another family than the icons of the program.
     for (QAbstractButton* button : QMessageBox::buttons()) button->setIcon({});
     // Its size is its own affair; it has a row more, of the title's width.
     if (auto* grid = qobject_cast<QGridLayout*>(layout()))
         grid->addItem(new QSpacerItem(titleWidth(*this), 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+int MessageBox::askPlace() {
+    exec();
+    return static_cast<int>(own_.indexOf(clickedButton()));
 }
 
 platform::Answer MessageBox::ask() {

@@ -8,6 +8,7 @@
 #include "gui/machine/messageBox.h"
 #include "gui/widgets/modalScope.h"
 #include "gui/widgets/qtText.h"
+#include "platform/userFolders.h"
 #include "qtprint/pictureFile.h"
 
 #include <QApplication>
@@ -88,6 +89,13 @@ platform::Answer QtPlatform::msgBox(const std::string& text, platform::Icon icon
     const ModalScope scope(*this);
     MessageBox box(dialogParent(), text, icon, caption, buttons);
     return box.ask();
+}
+
+int QtPlatform::choose(const std::string& text, const std::string& caption,
+                       const std::vector<std::string>& buttons) {
+    const ModalScope scope(*this);
+    MessageBox box(dialogParent(), text, platform::Icon::Question, caption, buttons);
+    return box.askPlace();
 }
 
 std::string QtPlatform::inputBox(const std::string& prompt, const std::string& title,
@@ -218,6 +226,12 @@ void QtPlatform::convertToJpeg(const std::filesystem::path& bitmap, const std::f
 void QtPlatform::clearWorkFiles() {
     workFolder_.clearTemp();
     workFolder_.removeDataFile();
+}
+
+std::filesystem::path QtPlatform::stateFolder() {
+    if (!isUsers_) return {};
+    std::filesystem::path folder = platform::userFolder("XDG_STATE_HOME", ".local/state");
+    return !folder.empty() && platform::makePrivateFolder(folder) ? folder : std::filesystem::path();
 }
 
 std::string QtPlatform::getSetting(const std::string& key, const std::string& byDefault) {

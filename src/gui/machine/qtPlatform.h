@@ -22,7 +22,8 @@ class QtPlatform : public platform::Platform {
 public:
     using FormFactory = std::function<void(QWidget* parent)>;
 
-    QtPlatform() : QtPlatform(platform::WorkFolder(), platform::SettingsFile()) {}
+    // The user's own. With other folders nothing is kept beside the files, or for the next start.
+    QtPlatform() : QtPlatform(platform::WorkFolder(), platform::SettingsFile()) { isUsers_ = true; }
     QtPlatform(platform::WorkFolder folder, platform::SettingsFile settings);
 
     // What the main window gives when it is made.
@@ -40,6 +41,8 @@ public:
 
     platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
                             platform::Buttons buttons = platform::Buttons::Ok) override;
+    int choose(const std::string& text, const std::string& caption,
+               const std::vector<std::string>& buttons) override;
     std::string inputBox(const std::string& prompt, const std::string& title,
                          const std::string& proposed) override;
     std::optional<std::string> showOpen(const platform::FileDialog& dialog) override;
@@ -70,6 +73,8 @@ public:
     std::filesystem::path tempFolder() override { return workFolder_.temp(); }
     void clearWorkFiles() override;
     bool keepsDataFile() const override { return true; }
+    std::filesystem::path stateFolder() override;
+    bool guardsFiles() const override { return isUsers_; }
 
     std::filesystem::path versionsFolder() override { return platform::versionsFolder(); }
     std::string getSetting(const std::string& key, const std::string& byDefault) override;
@@ -92,6 +97,7 @@ private:
     qtprint::QtTextMetrics textMetrics_;
     std::map<std::string, FormFactory, std::less<>> forms_;
     bool hourglass_ = false;
+    bool isUsers_ = false;
 };
 
 // "Database (*.fwk)|*.fwk|All Files (*.*)|*.*" as the names and patterns of Qt's file dialog.

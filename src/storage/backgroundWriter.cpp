@@ -1,0 +1,65 @@
+#include "storage/backgroundWriter.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <exception>
+#include <initializer_list>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace storage {
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool forks = false; // they keep threads and tables of their own, which a fork tears
+#else
+constexpr bool forks = true;
+#endif
+
+// A lock that another thread held at the moment of the fork is never given back in the child. None is known
+// that the work would ask for, but a child that waits for ever would keep all later ones from being started.
+constexpr unsigned longestSeconds = 120;
+
+[[noreturn]] void workAndLeave(const std::function<void()>& work) {
+    for (const int number : {SIGTERM, SIGHUP, SIGINT, SIGALRM, SIGPIPE}) std::signal(number, SIG_DFL);
+    ::alarm(longestSeconds);
+    int code = EXIT_SUCCESS;
+    try {
+        work();
+    } catch (const std::exception&) {
+        code = EXIT_FAILURE; // the parent is told, and tries again later
+    }
+    ::_exit(code);
+}
+
+} // namespace
+
+bool BackgroundWriter::start(const std::function<void()>& work) {
+    if (!forks || child_ > 0) return false;
+    const pid_t child = ::fork();
+    if (child == 0) workAndLeave(work);
+    if (child > 0) child_ = child;
+    return child > 0;
+}
+
+bool BackgroundWriter::isRunning() {
+    if (child_ <= 0) return false;
+    int status = 0;
+    const pid_t ended = ::waitpid(child_, &status, WNOHANG);
+    if (ended == 0) return true;
+    failed_ = ended != child_ || !WIFEXITED(status) || WEXITSTATUS(status) != EXIT_SUCCESS;
+    child_ = -1;
+    return false;
+}
+
+void BackgroundWriter::stop() {
+    if (child_ <= 0) return;
+    ::kill(child_, SIGKILL);
+    while (::waitpid(child_, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    child_ = -1;
+}
+
+} // namespace storage

@@ -1,0 +1,218 @@
+#include "storage/openedFile.h"
+
+#include "core/runTimeError.h"
+#include "file/dataWriter.h"
+#include "file/zip.h"
+#include "storage/openFile.h"
+#include "storage/saveSteps.h"
+
+#include <filesystem>
+
+namespace storage {
+
+using app::App;
+using file::FileState;
+using file::WriterLock;
+
+namespace {
+
+std::string nameOf(const std::string& path) {
+    return std::filesystem::path(path).filename().string();
+}
+
+// A folder that takes no lock file lets nobody write the database either.
+bool isFree(const WriterLock::Outcome& outcome) {
+    return outcome.result == WriterLock::Result::Taken || outcome.result == WriterLock::Result::Impossible;
+}
+
+std::string whoHolds(const std::string& path, const WriterLock::Outcome& outcome) {
+    if (outcome.result == WriterLock::Result::Obstructed)
+        return nameOf(path) + " cannot be locked: " + outcome.path.string() + " is in the way.";
+    std::string text = nameOf(path) + " is open elsewhere";
+    if (outcome.owner.isKnown()) text += ", by " + outcome.owner.text();
+    text += ".";
+    if (outcome.result == WriterLock::Result::HeldElsewhere)
+        text += "\nWhether it still is cannot be told from this machine.";
+    return text;
+}
+
+// Nothing when there are none such.
+std::optional<WriterLock::Outcome> tryLock(const std::string& path,
+                                           WriterLock::Force force = WriterLock::Force::No) {
+    try {
+        return WriterLock::take(path, force);
+    } catch (const core::RunTimeError&) {
+        return std::nullopt; // links in a circle; the open itself has to do with it
+    }
+}
+
+std::optional<std::string> openCopyOf(App& app, const std::string& path) {
+    const std::optional<std::string> target = app.platform.showSave(
+        {"Open a Copy As...", "Copy of " + nameOf(path), std::string(platform::databaseFilter)});
+    if (!target || *target == path) return std::nullopt;
+    if (std::filesystem::exists(*target) &&
+        !app::askYesNo(app, "Overwrite Existing File?", platform::Icon::None))
+        return std::nullopt;
+    try {
+        file::Zip Zip;
+        Zip.OpenArchive(path);
+        Zip.CloseArchiveAs(*target);
+    } catch (const core::RunTimeError& error) {
+        app::warn(app, *target + " could not be written: " + error.what());
+        return std::nullopt;
+    }
+    return guardOpening(app, *target);
+}
+
+void remember(App& app, const FileState& state) {
+    OpenedFile& opened = openedFile(app);
+    opened.state = state;
+    opened.isForeign = opened.mayReplace = false;
+}
+
+bool isOfOpened(const App& app) {
+    return app.platform.guardsFiles() && !app.document.currentFile.empty() &&
+           openedFile(app).path == app.document.currentFile;
+}
+
+void takeNext(App& app) {
+    OpenedFile& opened = openedFile(app);
+    const std::string& path = app.document.currentFile;
+    if (opened.next && opened.next->path == path) {
+        if (opened.next->lock)
+            opened.lock = std::move(opened.next->lock); // the one before is given back
+        else if (opened.path != path)
+            opened.lock.reset();
+        app.mainFrm.bReadOnly = opened.next->bReadOnly;
+    } else {
+        opened.lock.reset();
+        app.mainFrm.bReadOnly = false;
+        // A new database, which nobody else knows of yet.
+        if (!path.empty())
+            if (auto outcome = tryLock(path)) opened.lock = std::move(outcome->lock);
+    }
+    opened.next.reset();
+    opened.path = path;
+}
+
+} // namespace
+
+std::optional<std::string> guardOpening(App& app, const std::string& path) {
+    OpenedFile& opened = openedFile(app);
+    if (!app.platform.guardsFiles()) return path;
+    opened.next = OpenedFile::Next{path, {}, false, {}};
+    if (opened.path == path && opened.lock && opened.lock->isStillHeld()) return path; // ours already
+    std::optional<WriterLock::Outcome> outcome = tryLock(path);
+    if (!outcome) return path;
+    opened.next->lock = std::move(outcome->lock);
+    if (isFree(*outcome)) return path;
+    const int answer = app.platform.choose(
+        whoHolds(path, *outcome) + "\n\nWhat is saved here could overwrite what is saved there.", app::title,
+        {"Open to &Read Only", "Open a &Copy...", "Open &Anyway"});
+    if (answer == 0) {
+        opened.next->bReadOnly = true;
+        return path;
+    }
+    if (answer == 2) {
+        if (auto forced = tryLock(path, WriterLock::Force::Yes)) opened.next->lock = std::move(forced->lock);
+        return path;
+    }
+    opened.next.reset();
+    return answer == 1 ? openCopyOf(app, path) : std::nullopt;
+}
+
+void followOpened(App& app) {
+    openedFile(app).path = app.platform.guardsFiles() ? openedFile(app).path : app.document.currentFile;
+    if (!app.platform.guardsFiles()) return;
+    const FileState state =
+        openedFile(app).next ? openedFile(app).next->state : FileState::of(app.document.currentFile);
+    takeNext(app);
+    remember(app, state);
+}
+
+SaveWay waySave(App& app) {
+    return isOfOpened(app) && app.mainFrm.bReadOnly ? SaveWay::SaveAs : waySaveOver(app);
+}
+
+SaveWay waySaveOver(App& app) {
+    OpenedFile& opened = openedFile(app);
+    if (!isOfOpened(app) || opened.mayReplace) return SaveWay::Save;
+    // A file that has gone is told by the save itself.
+    if (!opened.isForeign && changeOfOpened(app) != FileState::Change::Changed) return SaveWay::Save;
+    const int answer = app.platform.choose(
+        nameOf(opened.path) +
+            " was changed by somebody else since it was opened here.\n\nTo overwrite it loses what "
+            "they have changed. To read their state keeps yours for recovery.",
+        app::title, {"&Save as Another File...", "&Overwrite", "&Read the Other State"});
+    if (answer == 2) readOpenedAgain(app);
+    return answer == 0 ? SaveWay::SaveAs : answer == 1 ? SaveWay::Save : SaveWay::None;
+}
+
+bool guardTarget(App& app, const std::string& target) {
+    OpenedFile& opened = openedFile(app);
+    if (!app.platform.guardsFiles()) return true;
+    opened.next = OpenedFile::Next{target, {}, false, {}};
+    if (opened.path == target) {
+        opened.next->bReadOnly = app.mainFrm.bReadOnly;
+        if (!app.mainFrm.bReadOnly) return true;
+    }
+    std::optional<WriterLock::Outcome> outcome = tryLock(target);
+    if (!outcome) return true;
+    opened.next->lock = std::move(outcome->lock);
+    opened.next->bReadOnly = false;
+    if (isFree(*outcome)) return true;
+    if (app.platform.choose(whoHolds(target, *outcome), app::title, {"&Overwrite It Anyway"}) == 0)
+        return true;
+    opened.next.reset();
+    return false;
+}
+
+void followStored(App& app) {
+    OpenedFile& opened = openedFile(app);
+    if (!app.platform.guardsFiles()) opened.path = app.document.currentFile;
+    if (!app.platform.guardsFiles()) return;
+    if (opened.path != app.document.currentFile || opened.next) takeNext(app);
+    remember(app, FileState::of(opened.path));
+}
+
+// Had somebody else written it before, its records are still not ours.
+void followWriting(App& app) {
+    if (changeOfOpened(app) != FileState::Change::None) openedFile(app).isForeign = true;
+}
+
+void followWritten(App& app) {
+    OpenedFile& opened = openedFile(app);
+    if (isOfOpened(app) && !opened.isForeign) opened.state = FileState::of(opened.path);
+}
+
+FileState::Change changeOfOpened(const App& app) {
+    return isOfOpened(app) ? openedFile(app).state.changeOf(openedFile(app).path) : FileState::Change::None;
+}
+
+void readOpenedAgain(App& app) {
+    app.document.currentFile = openedFile(app).path;
+    OpenFile(app, true);
+}
+
+void acceptForeignState(App& app) {
+    OpenedFile& opened = openedFile(app);
+    opened.isForeign = true;
+    opened.state = FileState::of(opened.path);
+}
+
+void replaceAtNextSave(App& app) {
+    acceptForeignState(app);
+    openedFile(app).mayReplace = true;
+}
+
+void writeOpenedAgain(App& app) {
+    try {
+        packAlone(app.document.currentFile, file::encodeDataFile(file::writeDataFile(app.document, false)));
+        app::setDocumentModified(app, false);
+        app.changes.announce(app, app::Change::Stored);
+    } catch (const core::RunTimeError& error) {
+        (void)tellFailure(app, false, error);
+    }
+}
+
+} // namespace storage

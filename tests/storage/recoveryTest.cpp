@@ -1,0 +1,291 @@
+#include "databases.h"
+#include "entry/fieldEvents.h"
+#include "entry/navBar.h"
+#include "shell/mainWindow.h"
+#include "storage/openedFile.h"
+#include "storage/recoveryCopies.h"
+#include "storage/saveFile.h"
+#include "support/table.h"
+
+#include <sys/stat.h>
+#include <thread>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+// Of one user: all the windows of a test share its folders.
+struct UserMachine : ScriptedPlatform {
+    fs::path state;
+    fs::path stateFolder() override { return state; }
+};
+
+struct Window : ProgramOn<UserMachine> {
+    explicit Window(const fs::path& home) {
+        platform.state = home;
+        platform.guards = true;
+    }
+    void add(const char* name) {
+        record({name});
+        app::setDocumentModified(app, true);
+    }
+    // As a program that is killed leaves it.
+    void kill() { storage::leaveUnsavedWork(app); }
+};
+
+class Recovery : public testing::Test {
+protected:
+    Recovery() { file = maker.make("books.fwk", "\xEF\xBB\xBF" + DataFile("Name", "Bolt;Nut").text()); }
+
+    std::vector<fs::path> copies() const {
+        std::vector<fs::path> found;
+        std::error_code error;
+        for (const auto& entry : fs::directory_iterator(home / "recovery", error))
+            found.push_back(entry.path());
+        return found;
+    }
+    // A program dies with a record that is not saved.
+    void crash(const char* name) {
+        Window window(home);
+        window.open(file);
+        window.add(name);
+        ASSERT_TRUE(storage::keepUnsavedWork(window.app));
+        window.kill();
+    }
+
+    ProgramOn<ScriptedPlatform> maker;
+    fs::path home = maker.platform.folder;
+    std::string file;
+};
+
+TEST(RecoveryNote, ComesBackWhateverWasTyped) {
+    const storage::RecoveryNote note{
+        "/a b/c\nd.fwk", 1, 2, 3, 4, 5, true, 6, {{1, "two\r\nlines \\n"}, {7, ""}}};
+    const std::string text = noteText(note);
+    const storage::RecoveryNote read = storage::readNote("what is this\n" + text);
+    EXPECT_EQ(noteText(read), text);
+    EXPECT_EQ(read.fields, note.fields);
+    EXPECT_EQ(read.file, note.file);
+    EXPECT_EQ(noteText(storage::readNote(text.substr(0, 20))).substr(0, 12), "file /a b/c\\");
+}
+
+TEST_F(Recovery, WaitsForAPauseButNotForEver) {
+    Window window(home);
+    window.open(file);
+    const auto start = storage::UnsavedWork::Clock::now();
+    std::string log;
+    storage::unsavedWork(window.app).isChanged = true;
+    for (int half = 0; half <= 40; ++half) {
+        const auto now = start + half * 500ms;
+        if (half < 26) storage::markUnsaved(window.app, now); // typing, without a pause
+        const bool wasStale = storage::unsavedWork(window.app).isStale;
+        storage::tendUnsavedWork(window.app, now);
+        while (storage::unsavedWork(window.app).writer.isRunning()) std::this_thread::sleep_for(1ms);
+        if (wasStale && !storage::unsavedWork(window.app).isStale) log += std::to_string(half / 2) + " ";
+    }
+    EXPECT_EQ(log, "10 14 ");
+    EXPECT_FALSE(storage::unsavedWork(window.app).hasKeepFailed);
+}
+
+TEST_F(Recovery, KeepsTheWorkInTheBackgroundForThisUserAlone) {
+    ::umask(0);
+    Window window(home);
+    window.open(file);
+    window.add("Washer");
+    EXPECT_TRUE(storage::tendUnsavedWork(window.app, storage::UnsavedWork::Clock::now() + 2s));
+    window.add("Later"); // while it is written
+    while (storage::unsavedWork(window.app).writer.isRunning()) std::this_thread::sleep_for(1ms);
+    ::umask(022);
+    ASSERT_EQ(copies().size(), 2u);
+    for (const fs::path& path : copies()) {
+        EXPECT_EQ(fs::status(path).permissions(), fs::perms(0600));
+        if (path.extension() != ".fwk") continue;
+        EXPECT_NE(window.dataFileOf(path.string()).find("Washer|"), std::string::npos);
+        EXPECT_EQ(window.dataFileOf(path.string()).find("Later|"), std::string::npos);
+    }
+    EXPECT_EQ(fs::status(home / "recovery").permissions(), fs::perms(0700));
+    EXPECT_TRUE(storage::findRecoveryCopies(window.app).empty()); // it is of a program that runs
+    storage::SaveFile(window.app, false, false);
+    EXPECT_TRUE(copies().empty());
+}
+
+// What is left when the program ends, and what it is offered as.
+TEST_F(Recovery, IsThereAfterEveryEndButACleanOne) {
+    struct End {
+        const char* name;
+        std::function<void(Window&)> act;
+        std::size_t left; // an archive and its lock
+    };
+    const std::vector<End> ends = {
+        {"killed", [](Window& w) { storage::keepUnsavedWork(w.app), w.kill(); }, 2},
+        {"told to end", [](Window& w) { shell::keepForTheEnd(w.app); }, 2},
+        {"closed, not saved",
+         [](Window& w) { w.platform.answers = {platform::Answer::No}, shell::Form_QueryUnload(w.app); }, 0},
+        {"closed, saved",
+         [](Window& w) { w.platform.answers = {platform::Answer::Yes}, shell::Form_QueryUnload(w.app); }, 0},
+        {"closed without a question",
+         [](Window& w) { w.app.mainFrm.bSavePrompt = false, shell::Form_QueryUnload(w.app); }, 0},
+        {"closed, save failed",
+         [this](Window& w) {
+             fs::remove(file);
+             w.platform.answers = {platform::Answer::Yes};
+             shell::Form_QueryUnload(w.app);
+         },
+         2},
+        {"save failed, closed",
+         [this](Window& w) {
+             fs::remove(file);
+             storage::SaveFile(w.app, false, false);
+             EXPECT_FALSE(w.app.document.bModified);
+             shell::Form_QueryUnload(w.app);
+         },
+         2},
+        {"another opened", [](Window& w) { w.open(DataFile("Other", "1")), shell::Form_QueryUnload(w.app); },
+         2},
+        {"another that is damaged",
+         [](Window& w) {
+             w.platform.write(w.path("no.fwk"), "no archive");
+             w.open(w.path("no.fwk"));
+             EXPECT_TRUE(w.app.document.currentFile.empty());
+         },
+         2},
+        {"nothing changed", [](Window& w) { storage::removeUnsavedWork(w.app), shell::keepForTheEnd(w.app); },
+         0},
+    };
+    for (const End& end : ends) {
+        SCOPED_TRACE(end.name);
+        fs::remove_all(home / "recovery");
+        file = maker.make("books.fwk", "\xEF\xBB\xBF" + DataFile("Name", "Bolt;Nut").text());
+        {
+            Window window(home);
+            window.open(file);
+            window.add("Washer");
+            end.act(window);
+        }
+        EXPECT_EQ(copies().size(), end.left);
+        Window next(home);
+        next.platform.settings["Disclaimer"] = "True";
+        next.platform.choices = {0};
+        shell::Form_Load(next.app, "", [] {});
+        EXPECT_EQ(next.app.document.currentFile, end.left == 0 ? "" : file);
+        EXPECT_EQ(next.app.document.bModified, end.left != 0);
+        if (end.left != 0) {
+            EXPECT_EQ(next.cells(), "Bolt|;Nut|;Washer|;------|;");
+            EXPECT_FALSE(storage::SaveFile(next.app, false, false));
+        }
+        EXPECT_TRUE(copies().empty());
+    }
+}
+
+TEST_F(Recovery, IsOfferedAtTheNextOpenOfItsFile) {
+    crash("Washer");
+    const std::string other = maker.make("other.fwk", DataFile("Name", "Other").text());
+    Window window(home);
+    EXPECT_EQ((window.open(other), window.told()), "");
+    window.open(file); // left for later
+    EXPECT_EQ(window.cells(), "Bolt|;Nut|;------|;");
+    EXPECT_NE(window.told().find("Records: 3\n"), std::string::npos);
+
+    window.platform.choices = {1}; // looked at under another name
+    window.platform.files = {window.path("seen.fwk")};
+    window.open(file);
+    EXPECT_EQ(window.app.document.currentFile, window.path("seen.fwk"));
+    EXPECT_EQ(window.cells(), "Bolt|;Nut|;Washer|;------|;");
+    EXPECT_FALSE(window.app.document.bModified);
+
+    window.platform.choices = {2};
+    window.open(file);
+    EXPECT_EQ(window.cells(), "Bolt|;Nut|;------|;");
+    EXPECT_TRUE(copies().empty());
+}
+
+TEST_F(Recovery, AsksBeforeItOverwritesWhatWasSavedMeanwhile) {
+    crash("Washer");
+    maker.make("books.fwk", DataFile("Name", "Theirs").text());
+    Window window(home);
+    window.platform.choices = {0};
+    window.open(file);
+    EXPECT_NE(window.told().find("was changed after"), std::string::npos);
+    storage::SaveFile(window.app, false, false);
+    EXPECT_NE(window.told().find("changed by somebody else"), std::string::npos);
+    EXPECT_NE(window.dataFileOf(file).find("Theirs|"), std::string::npos);
+    EXPECT_EQ(copies().size(), 2u);
+}
+
+TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
+    file = maker.make(
+        "books.fwk",
+        DataFile("Name Place", "Bolt|1;Nut|2").objects("F|Name|0|0|900|300;F|Place|0|900|900|300").text());
+    for (const bool isNew : {false, true}) {
+        {
+            Window window(home);
+            window.open(file);
+            window.select({2});
+            window.app.document.LV.setSelectedItem(&window.app.document.LV.at(2));
+            shell::SSTab1_Click(window.app, app::layoutTab);
+            if (isNew) entry::layoutNavBar_ButtonClick(window.app, "New");
+            entry::layoutField_Change(window.app, 2, "half a sent");
+            ASSERT_TRUE(storage::keepUnsavedWork(window.app));
+            window.kill();
+        }
+        Window window(home);
+        window.platform.choices = {0};
+        window.open(file);
+        const core::Document& document = window.app.document;
+        EXPECT_EQ(document.layout.layoutField.find(2)->Text, "half a sent");
+        EXPECT_EQ(document.layout.layoutField.find(1)->Text, isNew ? "" : "Nut");
+        EXPECT_EQ(window.cells(), "Bolt|1|;Nut|2|;------|------|;");
+        EXPECT_EQ(entry::isSheetNew(window.app), isNew);
+        storage::removeUnsavedWork(window.app);
+    }
+}
+
+// Two windows and a file that both want.
+TEST_F(Recovery, TwoWindowsAskEachOther) {
+    Window first(home), second(home);
+    first.open(file);
+    second.app.document.currentFile = "";
+    second.open(file); // waved away
+    EXPECT_EQ(second.app.document.currentFile, "");
+    EXPECT_NE(second.told().find("books.fwk is open elsewhere, by "), std::string::npos);
+
+    second.platform.choices = {0}; // read only
+    second.platform.files = {second.path("mine.fwk")};
+    second.open(file);
+    EXPECT_EQ(second.cells(), "Bolt|;Nut|;------|;");
+    second.add("Mine");
+    storage::SaveFile(second.app, false, false); // to another name, whose writer it is
+    EXPECT_EQ(second.app.document.currentFile, second.path("mine.fwk"));
+    EXPECT_FALSE(second.app.mainFrm.bReadOnly);
+    EXPECT_EQ(first.dataFileOf(file).find("Mine"), std::string::npos);
+    EXPECT_TRUE(fs::exists(file::WriterLock::pathFor(second.path("mine.fwk"))));
+
+    second.platform.choices = {1}; // a copy
+    second.platform.files = {second.path("copy.fwk")};
+    second.open(file);
+    EXPECT_EQ(second.app.document.currentFile, second.path("copy.fwk"));
+    EXPECT_EQ(second.told().find("changed"), std::string::npos);
+
+    second.platform.choices = {2}; // anyway, and saved
+    second.open(file);
+    second.add("Theirs");
+    storage::SaveFile(second.app, false, false);
+    EXPECT_EQ(storage::changeOfOpened(second.app), file::FileState::Change::None);
+    EXPECT_EQ(storage::changeOfOpened(first.app), file::FileState::Change::Changed);
+
+    first.add("Ours");
+    storage::SaveFile(first.app, false, false); // waved away
+    EXPECT_TRUE(first.app.document.bModified);
+    EXPECT_NE(first.dataFileOf(file).find("Theirs|"), std::string::npos);
+    first.platform.choices = {2}; // the other's, and ours is kept
+    storage::SaveFile(first.app, false, false);
+    EXPECT_EQ(first.cells(), "Bolt|;Nut|;Theirs|;------|;");
+    EXPECT_EQ(copies().size(), 2u);
+    storage::SaveFile(first.app, false, false);
+    EXPECT_EQ(storage::changeOfOpened(first.app), file::FileState::Change::None);
+    shell::Form_QueryUnload(first.app);
+    EXPECT_FALSE(fs::exists(file::WriterLock::pathFor(file)));
+}
+
+} // namespace
