@@ -28,7 +28,7 @@ bool read(std::string_view text, Number& number, int base = 10) {
     return result.ec == std::errc() && result.ptr == end;
 }
 
-std::string hex(std::uint32_t number) {
+std::string checksumText(std::uint32_t number) {
     char text[9] = {};
     std::snprintf(text, sizeof text, "%08x", number);
     return text;
@@ -46,8 +46,8 @@ std::string nameOf(const Version& version) {
     add(std::to_string(version.bytes));
     add(std::to_string(version.packedBytes));
     add(version.records ? std::to_string(*version.records) : std::string(unknown));
-    add(hex(version.text));
-    add(hex(version.pictures));
+    add(checksumText(version.text));
+    add(checksumText(version.pictures));
     return name + std::string(archiveEnding);
 }
 
@@ -68,7 +68,7 @@ std::optional<Version> versionNamed(const std::string& name) {
 }
 
 std::string pictureName(const PackedEntry& picture) {
-    return hex(picture.checksum) + "-" + std::to_string(picture.size) + "-" +
+    return checksumText(picture.checksum) + "-" + std::to_string(picture.size) + "-" +
            std::to_string(picture.packedSize) + "-" + std::to_string(picture.method);
 }
 
@@ -85,9 +85,9 @@ std::optional<std::uint64_t> pictureBytes(const std::string& name) {
 std::string listOf(const std::vector<PackedEntry>& pictures) {
     std::string list;
     for (const PackedEntry& picture : pictures)
-        for (const std::string& piece :
-             {hex(picture.checksum), std::to_string(picture.size), std::to_string(picture.packedSize),
-              std::to_string(picture.method), picture.name, picture.comment})
+        for (const std::string& piece : {checksumText(picture.checksum), std::to_string(picture.size),
+                                         std::to_string(picture.packedSize), std::to_string(picture.method),
+                                         picture.name, picture.comment})
             list.append(piece).push_back('\0');
     return list;
 }

@@ -10,6 +10,7 @@
 #include "storage/openFile.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
+#include "storage/versions.h"
 
 #include <array>
 #include <ctime>
@@ -57,7 +58,7 @@ std::string offerText(const RecoveryNote& note) {
 }
 
 // A new archive of the records, with the pictures of the file that they belong to.
-void writeAsFile(const RecoveryCopy& copy, const std::string& target) {
+void writeAsFile(App& app, const RecoveryCopy& copy, const std::string& target) {
     file::Zip records;
     records.OpenArchive(copy.archive);
     const std::string text = records.readEntry("data.dat", mostBytes).value_or(std::string());
@@ -69,7 +70,7 @@ void writeAsFile(const RecoveryCopy& copy, const std::string& target) {
         Zip.CreateArchive(target); // without pictures, when the file has gone or is damaged
     }
     Zip.addBuffer("data.dat", text, "Main Data File");
-    Zip.CloseArchiveAs(target);
+    Zip.CloseArchiveAs(target, storage::keepingVersion(app, target));
 }
 
 bool lookAtCopy(App& app, const RecoveryCopy& copy) {
@@ -83,7 +84,7 @@ bool lookAtCopy(App& app, const RecoveryCopy& copy) {
     if (!storage::guardTarget(app, *target)) return false;
     storage::openedFile(app).next.reset();
     try {
-        writeAsFile(copy, *target);
+        writeAsFile(app, copy, *target);
     } catch (const core::RunTimeError& error) {
         app::warn(app, *target + " could not be written: " + error.what());
         return false;
@@ -119,7 +120,7 @@ bool restore(App& app, RecoveryCopy& copy) {
     const RecoveryNote note = copy.note;
     const bool isThere = file::fileExists(note.file);
     try {
-        if (!isThere && !note.file.empty()) writeAsFile(copy, note.file);
+        if (!isThere && !note.file.empty()) writeAsFile(app, copy, note.file);
     } catch (const core::RunTimeError&) { // NOLINT(bugprone-empty-catch): the folder has gone; another place
                                           // is asked for
     }

@@ -145,6 +145,7 @@ void readArchive(App& app, const std::string& path) {
 }
 
 void replaceDocument(App& app, std::string text) {
+    endUnsavedWork(app, true);
     takeOver(app, app.document.currentFile);
     clearForReading(app);
     readText(app, std::move(text));

@@ -18,8 +18,9 @@ void OpenFile(app::App& app, bool StartUp);
 // into the cleared document and lets the error through.
 void readArchive(app::App& app, const std::string& path);
 
-// Puts the text of a database in the place of the open document, as unsaved work on the file that is open.
-// Raises what reading it raises, with the document then half read: who calls has read it before.
+// Puts the text of a database in the place of the open document, which the user has given up, as unsaved work
+// on the file that is open. Raises what reading it raises, with the document then half read: who calls has
+// read it before.
 void replaceDocument(app::App& app, std::string text);
 
 // Unpacks the clip art of the layout into the work folder and fits it. What the archive does not have stays

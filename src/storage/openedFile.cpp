@@ -5,6 +5,7 @@
 #include "file/zip.h"
 #include "storage/openFile.h"
 #include "storage/saveSteps.h"
+#include "storage/versions.h"
 
 #include <filesystem>
 
@@ -56,7 +57,7 @@ std::optional<std::string> openCopyOf(App& app, const std::string& path) {
     try {
         file::Zip Zip;
         Zip.OpenArchive(path);
-        Zip.CloseArchiveAs(*target);
+        Zip.CloseArchiveAs(*target, keepingVersion(app, *target));
     } catch (const core::RunTimeError& error) {
         app::warn(app, *target + " could not be written: " + error.what());
         return std::nullopt;
@@ -207,7 +208,8 @@ void replaceAtNextSave(App& app) {
 
 void writeOpenedAgain(App& app) {
     try {
-        packAlone(app.document.currentFile, file::encodeDataFile(file::writeDataFile(app.document, false)));
+        packAlone(app, app.document.currentFile,
+                  file::encodeDataFile(file::writeDataFile(app.document, false)));
         app::setDocumentModified(app, false);
         app.changes.announce(app, app::Change::Stored);
     } catch (const core::RunTimeError& error) {

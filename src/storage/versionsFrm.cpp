@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "file/dataReader.h"
 #include "storage/openFile.h"
+#include "storage/recoveryCopies.h"
 #include "storage/saveSteps.h"
 #include "storage/versions.h"
 
@@ -87,7 +88,11 @@ void versionsFrm::showBtn_Click() {
 
 void versionsFrm::restoreBtn_Click() {
     if (!restoreBtnEnabled) return;
-    if (app_.document.bModified &&
+    if (app_.mainFrm.bReadOnly) {
+        app::inform(app_, "The database is open to read only.  Save a copy of the version instead.");
+        return;
+    }
+    if ((app_.document.bModified || hasUnsavedWork(app_)) &&
         app_.platform.msgBox("What has not been saved yet will be lost.  Restore the version all the same?",
                              platform::Icon::Question, app::title,
                              platform::Buttons::YesNoDefaultNo) != platform::Answer::Yes)
@@ -106,10 +111,12 @@ void versionsFrm::restore(const file::Version& version) {
     std::string text = file::VersionStore::textOf(version);
     core::Document whole; // raises for a damaged text, before anything is changed
     file::readDataFile(text, whole);
+    app_.changes.announce(app_, app::Change::Writing);
     const std::vector<std::string> missing =
         versionStore(app_)->putPicturesBack(version, file, [keep = keepingVersion(app_, file)] {
             if (keep) keep({});
         });
+    app_.changes.announce(app_, app::Change::Written);
     replaceDocument(app_, std::move(text));
     // To restore a state of before the lock opens no design.
     if (!lock.empty()) app_.document.lockPassword = lock;

@@ -13,6 +13,7 @@
 #include "gui/dialogs/searchFrmView.h"
 #include "gui/dialogs/serialFrmView.h"
 #include "gui/dialogs/totalsFrmView.h"
+#include "gui/dialogs/versionsFrmView.h"
 
 namespace gui {
 
@@ -39,6 +40,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
     platform.registerForm("replaceFrm", [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
     platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });
+    platform.registerForm("versionsFrm", shown<versionsFrmView>(app, events));
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
 }
 
