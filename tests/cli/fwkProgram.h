@@ -41,7 +41,8 @@ protected:
         ::setenv("PATH", (programs + ":" + std::getenv("PATH")).c_str(), 1);
         ::setenv("HOME", (world / "home").c_str(), 1);
         ::setenv("TMPDIR", temporary.c_str(), 1);
-        for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) ::unsetenv(folder);
+        ::unsetenv("XDG_CONFIG_HOME");
+        ::setenv("XDG_DATA_HOME", (world / "data").c_str(), 1); // with the versions
         const std::string out = program.path("out");
         const bool ready = ::chdir(files.c_str()) == 0 && std::freopen("/dev/null", "r", stdin) &&
                            std::freopen(out.c_str(), "w", stdout) &&
