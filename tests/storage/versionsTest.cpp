@@ -1,0 +1,182 @@
+#include "storage/versions.h"
+#include "databases.h"
+#include "storage/saveFile.h"
+#include "storage/versionsFrm.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace {
+
+class KeepingMachine : public ScriptedPlatform {
+public:
+    std::filesystem::path versionsFolder() override { return folder / "versions"; }
+};
+
+struct KeepingProgram : ProgramOn<KeepingMachine> {
+    using ProgramOn::ProgramOn;
+
+    void save() { EXPECT_FALSE(storage::SaveFile(app, false, false)); }
+    void addAndSave(const char* name, const char* quantity) {
+        record({name, quantity});
+        save();
+    }
+    // "records/size" of each version, the newest first.
+    std::string listed() {
+        std::string all;
+        for (const auto& entry : storage::versionsFrm(app).List1) all += entry.Records + " ";
+        return all;
+    }
+    std::string file(const char* name) {
+        return open(make(name, "\xEF\xBB\xBF" + data.text(), {"a.jpg", "b.jpg"}));
+    }
+
+    const DataFile data{"Name Qty:4", "Bolt|12;Nut|7"};
+};
+
+TEST(Versions, EverySaveKeepsWhatItReplaces) {
+    KeepingProgram program;
+    const std::string books = program.file("books.fwk");
+    EXPECT_EQ(program.listed(), "");
+    program.addAndSave("Screw", "3");
+    program.save(); // writes nothing, so nothing is replaced
+    program.addAndSave("Washer", "4");
+    EXPECT_EQ(program.listed(), "3 2 ");
+
+    // What others have written counts as well, and is counted when the list is made.
+    program.make("books.fwk", "\xEF\xBB\xBF" + DataFile("Name Qty:4", "Theirs|1").text());
+    program.addAndSave("Ours", "5");
+    EXPECT_EQ(program.listed(), "1 3 2 ");
+
+    // Save As, a clone and a new database over another file keep that one.
+    const std::string other = program.make("other.fwk", "\xEF\xBB\xBF" + program.data.text());
+    const std::string third = program.make("third.fwk", "\xEF\xBB\xBF" + program.data.text());
+    program.platform.answers = {platform::Answer::Yes, platform::Answer::Yes};
+    program.platform.files = {third, other};
+    EXPECT_FALSE(storage::SaveFile(program.app, false, true));
+    EXPECT_FALSE(storage::SaveFile(program.app, true, false));
+    EXPECT_EQ(program.app.document.currentFile, other);
+    EXPECT_EQ(program.listed(), "2 ");
+    program.open(third);
+    EXPECT_EQ(program.listed(), "2 ");
+    // So does a clean, with the pictures that it removes.
+    program.file("images.fwk");
+    program.run("mnuCleanDatabase");
+    EXPECT_EQ(program.listed(), "2 ");
+
+    storage::versionsFrm form(program.app);
+    form.Check1_Click(false);
+    program.addAndSave("Last", "6");
+    EXPECT_EQ(program.listed(), "2 ");
+    EXPECT_EQ(program.platform.settings["KeepVersions"], "False");
+}
+
+TEST(Versions, AFailureIsShownOnceAndTheSaveIsDone) {
+    KeepingProgram program;
+    program.file("books.fwk");
+    std::ofstream(program.path("versions")) << "in the way";
+    program.addAndSave("Screw", "3");
+    EXPECT_TRUE(program.panel(app::documentPanel).starts_with("No version kept: ")) << program.panel(5);
+    EXPECT_NE(program.dataFileOf(program.path("books.fwk")).find("Screw|3|"), std::string::npos);
+    EXPECT_NE(storage::takeVersionFailure(program.app), "");
+    program.addAndSave("Washer", "4");
+    EXPECT_EQ(program.panel(app::documentPanel), "Document Saved");
+    EXPECT_EQ(program.told() + storage::takeVersionFailure(program.app), "");
+}
+
+TEST(VersionsFrm, ShowsRestoresAndCopies) {
+    KeepingProgram program;
+    const std::string books = program.file("books.fwk"), old = program.cells();
+    program.addAndSave("Screw", "3");
+    const std::string present = program.cells();
+    program.run("mnuCleanDatabase"); // the pictures go
+    EXPECT_EQ(program.listed(), "3 2 ");
+
+    storage::versionsFrm form(program.app);
+    form.List1_Click(1);
+    EXPECT_FALSE(form.shown);
+    form.showBtn_Click();
+    ASSERT_TRUE(form.shown);
+    EXPECT_EQ(program.cells(form.shown->LV), old);
+    EXPECT_EQ(program.cells(), present);
+    form.List1_Click(0);
+    EXPECT_FALSE(form.shown); // of another version than the one that is chosen
+
+    // A copy: not over the open database, and with a question over another one.
+    form.List1_Click(1);
+    program.platform.files = {books, program.path("copy.fwk"), program.path("copy.fwk")};
+    form.copyBtn_Click();
+    EXPECT_EQ(program.told(), "i The copy cannot take the place of the database that is open.");
+    form.copyBtn_Click();
+    form.copyBtn_Click();
+    EXPECT_EQ(program.told(), "- Overwrite Existing File?");
+    EXPECT_EQ(program.dataFileOf(program.path("copy.fwk")), "\xEF\xBB\xBF" + program.data.text());
+
+    // What is unsaved is not given up without a question.
+    program.app.document.lockPassword = "locked since";
+    program.record({"Unsaved", "9"});
+    app::setDocumentModified(program.app, true);
+    form.restoreBtn_Click();
+    EXPECT_TRUE(program.told().starts_with("? What has not been saved"));
+    EXPECT_FALSE(form.unloaded);
+    program.platform.answers = {platform::Answer::Yes};
+    form.restoreBtn_Click();
+    EXPECT_TRUE(form.unloaded);
+    EXPECT_EQ(program.cells(), old);
+    EXPECT_TRUE(program.app.document.bModified);
+    EXPECT_EQ(program.app.document.currentFile, books);
+    EXPECT_EQ(program.app.document.lockPassword, "locked since");
+    file::Zip Zip;
+    Zip.OpenArchive(books);
+    EXPECT_TRUE(Zip.contains("a.jpg") && Zip.contains("b.jpg"));
+    EXPECT_NE(program.dataFileOf(books).find("Screw|3|"), std::string::npos)
+        << "restored work is not saved yet";
+    program.save();
+    EXPECT_EQ(program.listed(), "3 3 3 2 ")
+        << "with the pictures, without, with them again, and the first one";
+}
+
+TEST(VersionsFrm, ADamagedVersionIsToldAndChangesNothing) {
+    KeepingProgram program;
+    program.file("books.fwk");
+    program.addAndSave("Screw", "3");
+    const std::string present = program.cells();
+    storage::versionsFrm form(program.app);
+    const auto folder = storage::versionStore(program.app)->folderOf(program.app.document.currentFile);
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (!entry.is_regular_file()) continue;
+        const std::string bytes(entry.file_size(), 'x');
+        std::ofstream(entry.path()) << bytes;
+    }
+    form.showBtn_Click();
+    EXPECT_TRUE(program.told().starts_with("! The version cannot be read: "));
+    form.restoreBtn_Click();
+    EXPECT_TRUE(program.told().starts_with("! The version could not be restored: "));
+    program.platform.files = {program.path("copy.fwk")};
+    form.copyBtn_Click();
+    EXPECT_TRUE(program.told().starts_with("! The copy could not be written: "));
+    EXPECT_FALSE(std::filesystem::exists(program.path("copy.fwk")));
+    EXPECT_EQ(program.cells(), present);
+    EXPECT_FALSE(form.unloaded || form.shown);
+}
+
+TEST(VersionsFrm, Megabytes) {
+    KeepingProgram program;
+    program.file("books.fwk");
+    storage::versionsFrm form(program.app);
+    const struct {
+        const char *typed, *holds;
+    } cases[] = {{"50", "50"}, {"", "50"},  {"0", "50"},     {"x", "50"},
+                 {" 1 ", "1"}, {"-3", "1"}, {"1000001", "1"}};
+    EXPECT_EQ(form.Text1, "200");
+    for (const auto& c : cases) {
+        form.Text1 = c.typed;
+        form.Text1_LostFocus();
+        EXPECT_EQ(form.Text1, c.holds) << c.typed;
+    }
+    EXPECT_EQ(program.platform.settings["VersionsMegabytes"], "1");
+    program.platform.settings["VersionsMegabytes"] = "much"; // by hand
+    EXPECT_EQ(storage::versionsFrm(program.app).Text1, "200");
+}
+
+} // namespace
