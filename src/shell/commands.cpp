@@ -15,6 +15,7 @@
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
+#include "storage/saveSteps.h"
 
 #include <algorithm>
 #include <array>
@@ -56,7 +57,16 @@ void open(App& app) {
     storage::OpenFile(app, false);
 }
 void save(App& app) {
-    storage::SaveFile(app, false, false);
+    storage::tellReason(app, storage::SaveFile(app, false, false));
+}
+void saveAs(App& app) {
+    storage::tellReason(app, storage::SaveFile(app, true, false));
+}
+void clone(App& app) {
+    storage::tellReason(app, storage::SaveFile(app, false, true));
+}
+void saveSearch(App& app) {
+    storage::tellReason(app, storage::saveSearchResults(app));
 }
 
 std::vector<Command> toolbarCommands() {
@@ -74,7 +84,7 @@ std::vector<Command> toolbarCommands() {
         {"Delete", "Delete", "Delete Row", "delete", false, entry::Delete_ButtonClick},
         {"Help", "Help", "Help", "help", false, openHelp},
         {"SaveSearch", "Save Search Results As...", "Save Search Results As...", "saveSearch", false,
-         storage::saveSearchResults},
+         saveSearch},
         {"All_As_Report", "Print all records as report.", "", "reportAll", false, printing("All_As_Report")},
         {"Selected_As_Report", "Print selected items as report.", "", "reportSelected", false,
          printing("Selected_As_Report")},
@@ -99,14 +109,13 @@ std::vector<Command> menuCommands() {
         {"mnuNew", "&New", "", "new", false, newDatabase},
         {"mnuOpen", "&Open", "", "open", false, open},
         {"mnuSave", "&Save", "", "save", false, save},
-        {"mnuSaveAs", "Save &As", "", "saveAs", false, [](App& app) { storage::SaveFile(app, true, false); }},
+        {"mnuSaveAs", "Save &As", "", "saveAs", false, saveAs},
         {"mnuVersions", "&Versions...", "", "versions", false, showing("versionsFrm")},
-        {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, storage::saveSearchResults},
+        {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, saveSearch},
         {"mnuPrint", "&Print", "", "print", false, pressing("Print")},
         {"mnuPageSetup", "Page Setup", "", "pageSetup", false, pressing("PageSetup")},
         {"mnuCleanDatabase", "&Clean Database", "", "clean", false, storage::mnuCleanDatabase_Click},
-        {"mnuClone", "C&lone Database To..", "", "clone", false,
-         [](App& app) { storage::SaveFile(app, false, true); }},
+        {"mnuClone", "C&lone Database To..", "", "clone", false, clone},
         {"mnuEmail", "Send Database File To...", "", "mail", false, showing("mailFrm")},
         {"mnuFile1", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile1"); }},
         {"mnuFile2", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile2"); }},

@@ -3,6 +3,7 @@
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
+#include "storage/saveSteps.h"
 
 #include <filesystem>
 
@@ -18,7 +19,8 @@ FileNotice changedNotice(const App& app, const std::string& name) {
         return {text + "What is shown here is as it was opened.",
                 {{"Read &Again", storage::readOpenedAgain}, {"Not &Now", storage::acceptForeignState}}};
     return {text + "It is not what your unsaved work is based on.",
-            {{"Save as Another &File...", [](App& window) { storage::SaveFile(window, true, false); }},
+            {{"Save as Another &File...",
+              [](App& window) { storage::tellReason(window, storage::SaveFile(window, true, false)); }},
              {"&Overwrite at the Next Save", storage::replaceAtNextSave},
              {"Read the Other &State", storage::readOpenedAgain}}};
 }

@@ -11,6 +11,7 @@
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
+#include "storage/saveSteps.h"
 
 namespace shell {
 
@@ -90,7 +91,7 @@ void Form_QueryUnload(App& app) {
         const platform::Answer answer = app.platform.msgBox(
             "Save current document?", platform::Icon::Question, app::title, platform::Buttons::YesNo);
         bGivenUp = answer == platform::Answer::No;
-        if (!bGivenUp) storage::SaveFile(app, false, false);
+        if (!bGivenUp) storage::tellReason(app, storage::SaveFile(app, false, false));
     }
     // After a save that failed, now or before, the copy is all there is.
     storage::endUnsavedWork(app, bGivenUp);

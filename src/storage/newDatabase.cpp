@@ -11,6 +11,7 @@
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
+#include "storage/saveSteps.h"
 #include "storage/versions.h"
 
 #include <filesystem>
@@ -37,7 +38,7 @@ void offerToSave(App& app) {
     const platform::Answer answer = app.platform.msgBox(
         "Save current file " + currentFile + "?", platform::Icon::None, app::title, platform::Buttons::YesNo);
     if (answer != platform::Answer::No)
-        SaveFile(app, false, false);
+        tellReason(app, SaveFile(app, false, false));
     else
         endUnsavedWork(app, true);
 }

@@ -165,9 +165,21 @@ void extractClipArt(App& app) {
 
 namespace {
 
+// What the system said when it failed to read or write a file; nothing when the file itself is at fault.
+std::string faultOfSystem(const std::exception& error) {
+    namespace errors = core::errors;
+    const auto* known = dynamic_cast<const core::RunTimeError*>(&error);
+    if (known == nullptr) return {};
+    const std::string text = known->what();
+    for (const int number : {errors::deviceIO, errors::diskNotReady, errors::diskFull, errors::pathAccess})
+        if (known->number == number && text.ends_with(')')) return text;
+    return {};
+}
+
 // The records come from the archive, which is a recovery copy perhaps, and the pictures from the file of that
 // path.
 void openFrom(App& app, const std::string& path, const std::string& archive, bool StartUp) {
+    std::string fault;
     endUnsavedWork(app, false);
     if (auto& next = openedFile(app).next) next->state = file::FileState::of(path);
     try {
@@ -175,7 +187,8 @@ void openFrom(App& app, const std::string& path, const std::string& archive, boo
         readArchive(app, archive);
         if (app.platform.keepsDataFile()) extractClipArt(app);
         showOpened(app, StartUp);
-    } catch (const std::exception&) {
+    } catch (const std::exception& error) {
+        fault = faultOfSystem(error);
         // Whatever is wrong with it, a file that cannot be opened ends in the empty window, without a
         // message.
         app.document.currentFile.clear();
@@ -184,6 +197,7 @@ void openFrom(App& app, const std::string& path, const std::string& archive, boo
     }
     // Of what was given up nothing is unsaved here any more, though the told flag stays as it was.
     app.changes.announce(app, app::Change::Opened);
+    if (!fault.empty()) app::warn(app, path + " could not be opened:\n" + fault);
 }
 
 } // namespace

@@ -50,4 +50,8 @@ core::RunTimeError tellFailure(App& app, bool bSaveAs, const std::exception& err
     return {number, error.what()};
 }
 
+void tellReason(App& app, const std::optional<core::RunTimeError>& error) {
+    if (error) app::warn(app, std::string("It could not be written for this reason:\n") + error->what());
+}
+
 } // namespace storage

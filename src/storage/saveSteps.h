@@ -4,6 +4,7 @@
 #include "core/runTimeError.h"
 #include "file/zip.h"
 
+#include <optional>
 #include <string>
 
 namespace storage {
@@ -20,5 +21,8 @@ void addData(file::Zip& Zip, const std::string& bytes);
 void packAlone(app::App& app, const std::string& target, const std::string& bytes);
 // Says that the database could not be written, and answers why.
 [[nodiscard]] core::RunTimeError tellFailure(app::App& app, bool bSaveAs, const std::exception& error);
+
+// Behind that message, in a front end that shows it: the file and what the system said.
+void tellReason(app::App& app, const std::optional<core::RunTimeError>& error);
 
 } // namespace storage

@@ -1,5 +1,6 @@
 #include "gui/dialogs/versionsFrmView.h"
 
+#include "gui/dialogs/dialogFit.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 #include "storage/versions.h"
@@ -8,7 +9,23 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace gui {
+
+namespace {
+
+// The columns from the left to the right as the version has them.
+void arrange(const core::ColumnHeaders& columns, QHeaderView& header) {
+    std::vector<std::pair<int, int>> places; // position and section
+    for (const core::Column& column : columns)
+        if (column.Index > 1) places.emplace_back(column.Position, RecordsModel::section(column));
+    std::ranges::sort(places);
+    for (std::size_t i = 0; i < places.size(); ++i)
+        header.moveSection(header.visualIndex(places[i].second), static_cast<int>(i));
+}
+
+} // namespace
 
 versionsFrmView::versionsFrmView(app::App& app, EventBoundary& events, QWidget* parent)
     : FormView(events, "versionsFrm", tr("Versions"), parent), form_(app),
@@ -114,8 +131,12 @@ void versionsFrmView::showRecords() {
         LV_->setModel(model_.get());
         for (int section = 0; section < model_->columnCount(); ++section)
             LV_->resizeColumnToContents(section);
-        const int height = em() * 30;
-        if (!LV_->isVisible() && this->height() < height) resize(width(), height);
+        arrange(shown_->LV.columns, *LV_->header());
+        const int height = std::min(em() * 30, roomOnScreen(*this).height());
+        if (!LV_->isVisible() && this->height() < height) {
+            resize(width(), height);
+            keepOnScreen(*this);
+        }
     }
     Label2_->setVisible(isOnView);
     LV_->setVisible(isOnView);
