@@ -83,7 +83,7 @@ _fwk() {
     case $option:$taken in
     -o:* | --output:*)
         case $command in
-        search) _fwk_files '*.fwk' ;;
+        search | restore) _fwk_files '*.fwk' ;;
         export) _fwk_files '*.@(csv|json)' ;;
         *) _fwk_files '*.pdf' ;;
         esac

@@ -57,7 +57,7 @@ _fwk() {
     case $option:$taken in
     (-o:*|--output:*)
         case $command in
-        (search) _files -g '*.fwk' ;;
+        (search|restore) _files -g '*.fwk' ;;
         (export) _files -g '*.(csv|json)' ;;
         (*) _files -g '*.pdf' ;;
         esac

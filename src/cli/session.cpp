@@ -115,7 +115,8 @@ std::optional<file::WriterLock> Session::lockForTarget(const std::string& target
 }
 
 void Session::refuseIfChanged() const {
-    if (read_ && read_->changeOf(file) == file::FileState::Change::Changed)
+    // What could not be looked at when it was read has nothing to compare.
+    if (read_ && read_->isThere() && read_->changeOf(file) == file::FileState::Change::Changed)
         throw Failure(file, "it was changed by another program meanwhile");
 }
 

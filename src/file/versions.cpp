@@ -261,7 +261,7 @@ void VersionStore::storePictures(const PackedArchive& archive, const fs::path& f
     if (pictures.empty()) return;
     std::uint64_t bytes = 0;
     for (const PackedEntry& picture : pictures) bytes += picture.packedSize;
-    const bool isTooMuch = bytes > budget_ / 2;
+    const bool isTooMuch = bytes > budget_ / 4;
     const fs::path place = folder / pictureFolder;
     makeFolder(place);
     for (const PackedEntry& picture : pictures) {

@@ -47,7 +47,7 @@ public:
         : folder_(std::move(folder)), budget_(budget) {}
 
     // Keeps the file as it is, unless the version kept last is the same, and removes what is too much. What
-    // is no database is passed over. Where the pictures would take more than half of the budget, those of the
+    // is no database is passed over. Where the pictures would take more than a quarter of the budget, those of the
     // given names are left to the database, which goes on having them. Raises what the system says.
     void keep(const std::filesystem::path& database, std::optional<KnownText> known,
               const std::set<std::string>& staying, std::time_t now = std::time(nullptr));
