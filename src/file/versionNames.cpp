@@ -1,7 +1,12 @@
 #include "file/versionNames.h"
 
+#include "file/zip.h"
+
 #include <charconv>
 #include <cstdio>
+#include <dirent.h>
+#include <memory>
+#include <sys/stat.h>
 
 namespace file {
 
@@ -10,6 +15,9 @@ namespace {
 constexpr std::string_view archiveEnding = ".fwk";
 constexpr std::string_view unknown = "x";
 constexpr int hexadecimal = 16;
+constexpr std::size_t mostListBytes = std::size_t{64} << 20U;
+// Where the packed size stands among the pieces of a name.
+constexpr std::size_t packedPiece = 4, packedPieceOfPicture = 2;
 
 std::vector<std::string_view> pieces(std::string_view text, char separator) {
     std::vector<std::string_view> found;
@@ -81,6 +89,27 @@ std::optional<std::uint64_t> pictureBytes(const std::string& name) {
     return picture.packedSize;
 }
 
+std::uint64_t bytesIn(const std::filesystem::path& folder) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), &::closedir);
+    std::uint64_t bytes = 0;
+    while (const dirent* entry = entries ? ::readdir(entries.get()) : nullptr) {
+        const std::string_view name = entry->d_name;
+        if (name == pictureFolder) {
+            bytes += bytesIn(folder / name);
+            continue;
+        }
+        const std::size_t piece = name.ends_with(archiveEnding) ? packedPiece : packedPieceOfPicture;
+        std::size_t from = 0;
+        for (std::size_t i = 0; i < piece && from != std::string_view::npos; ++i)
+            from = name.find('-', from + 1);
+        if (from == std::string_view::npos) continue;
+        std::uint64_t size = 0;
+        std::from_chars(name.data() + from + 1, name.data() + name.size(), size);
+        bytes += size;
+    }
+    return bytes;
+}
+
 // Names and comments can hold anything but a zero byte.
 std::string listOf(const std::vector<PackedEntry>& pictures) {
     std::string list;
@@ -104,6 +133,18 @@ std::vector<PackedEntry> picturesIn(std::string_view list) {
         picture.comment = std::string(all[i + 5].substr(0, all[i + 5].find('\0')));
     }
     return pictures;
+}
+
+std::vector<PackedEntry> picturesListed(const Version& version) {
+    Zip archive;
+    archive.OpenArchive(version.file);
+    return picturesIn(archive.readEntry(pictureList, mostListBytes).value_or(std::string()));
+}
+
+bool hasBytes(const std::filesystem::path& file, std::uint64_t bytes) {
+    struct stat status {};
+    return ::lstat(file.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+           static_cast<std::uint64_t>(status.st_size) == bytes;
 }
 
 } // namespace file

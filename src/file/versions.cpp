@@ -1,12 +1,10 @@
 #include "file/versions.h"
 
 #include "core/runTimeError.h"
-#include "file/atomicFile.h"
 #include "file/checksum.h"
 #include "file/packedArchive.h"
 #include "file/versionNames.h"
 #include "file/workFiles.h"
-#include "file/zip.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -23,12 +21,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* textEntry = "data.dat";
-constexpr const char* listEntry = "pictures";
-constexpr const char* pictureFolder = "pictures";
 constexpr std::string_view unfinished = ".new-";
 constexpr std::size_t longestStem = 100;
-constexpr std::size_t mostListBytes = std::size_t{64} << 20U;
 
 void makeFolder(const fs::path& folder) {
     if (const int failure = makePrivateFolder(folder)) raiseSystemError(failure, folder.string());
@@ -78,61 +72,10 @@ private:
     bool isNamed_ = false;
 };
 
-bool hasBytes(const fs::path& file, std::uint64_t bytes) {
-    struct stat status {};
-    return ::lstat(file.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
-           static_cast<std::uint64_t>(status.st_size) == bytes;
-}
-
 std::vector<PackedEntry> picturesOf(const PackedArchive& archive) {
     std::vector<PackedEntry> pictures = archive.entries();
     std::erase_if(pictures, [](const PackedEntry& entry) { return entry.name == textEntry; });
     return pictures;
-}
-
-std::vector<PackedEntry> picturesOf(const Version& version) {
-    Zip archive;
-    archive.OpenArchive(version.file);
-    return picturesIn(archive.readEntry(listEntry, mostListBytes).value_or(std::string()));
-}
-
-std::optional<PackedArchive> openIfThere(const fs::path& database) {
-    try {
-        return std::optional<PackedArchive>(std::in_place, database);
-    } catch (const core::RunTimeError&) {
-        return std::nullopt; // moved, removed or damaged, which is what versions are for
-    }
-}
-
-bool isSame(const PackedEntry& a, const PackedEntry& b) {
-    return a.checksum == b.checksum && a.size == b.size && a.packedSize == b.packedSize &&
-           a.method == b.method;
-}
-
-// Adds a picture from wherever it is; false when it is nowhere any more.
-bool addPicture(PackedWriter& made, const PackedEntry& picture, const fs::path& folder,
-                const std::optional<PackedArchive>& database) {
-    const fs::path stored = folder / pictureFolder / pictureName(picture);
-    if (hasBytes(stored, picture.packedSize)) {
-        made.add(picture, stored);
-        return true;
-    }
-    if (!database) return false;
-    const auto found = std::ranges::find_if(database->entries(),
-                                            [&](const PackedEntry& entry) { return isSame(entry, picture); });
-    if (found == database->entries().end()) return false;
-    PackedEntry renamed = picture;
-    renamed.place = found->place;
-    made.add(*database, renamed);
-    return true;
-}
-
-void replace(PackedWriter& made, const fs::path& target, const fs::path& like,
-             const std::function<void()>& beforeReplacing) {
-    AtomicFile result(target, like);
-    made.finish(result.fd(), target);
-    if (beforeReplacing) beforeReplacing();
-    result.commit();
 }
 
 // All that the names in a folder tell, in the order of the numbers.
@@ -176,7 +119,7 @@ void dropPictures(const fs::path& folder, const std::vector<Version>& versions) 
     for (const Version& version : versions) {
         if (!read.insert(version.pictures).second) continue;
         try {
-            for (const PackedEntry& picture : picturesOf(version)) stored.erase(pictureName(picture));
+            for (const PackedEntry& picture : picturesListed(version)) stored.erase(pictureName(picture));
         } catch (const core::RunTimeError&) {
             read.erase(version.pictures); // cut short; another one may have the list
         }
@@ -246,13 +189,13 @@ void VersionStore::keep(const PackedArchive& archive, const fs::path& folder, st
     NewFile file(folder);
     PackedWriter made;
     made.add(archive, *text);
-    if (!list.empty()) made.add(listEntry, list);
+    if (!list.empty()) made.add(pictureList, list);
     made.finish(file.fd(), file.path());
     version.packedBytes = file.bytes();
     file.rename(folder / nameOf(version));
     for (const fs::path& left : present.leftOver) ::unlink(left.c_str());
     thinOut(folder, now);
-    fitBudget();
+    fitBudget(folder);
 }
 
 void VersionStore::storePictures(const PackedArchive& archive, const fs::path& folder,
@@ -294,7 +237,15 @@ void VersionStore::thinOut(const fs::path& folder, std::time_t now) const {
     if (isPictureFree) dropPictures(folder, kept);
 }
 
-void VersionStore::fitBudget() const {
+void VersionStore::fitBudget(const fs::path& locked) const {
+    std::uint64_t total = 0;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder_, error), end; !error && entry != end; entry.increment(error))
+        total += bytesIn(entry->path());
+    if (total > budget_) dropOldest(locked);
+}
+
+void VersionStore::dropOldest(const fs::path& locked) const {
     struct Database {
         std::vector<Version> versions; // the oldest first
         std::uint64_t pictures = 0;
@@ -326,10 +277,12 @@ void VersionStore::fitBudget() const {
                 oldest = each;
         if (oldest == all.end()) return;
         Database& database = oldest->second;
+        // Somebody may be keeping a version of that one, whose pictures come first.
+        const FileHandle lock = oldest->first == locked ? FileHandle() : lockFolder(oldest->first);
         ::unlink(database.versions.front().file.c_str());
         total -= database.versions.front().packedBytes + database.pictures;
         database.versions.erase(database.versions.begin());
-        dropPictures(oldest->first, database.versions);
+        dropPictures(oldest->first, Listing(oldest->first).versions);
         database.pictures = countPictures(oldest->first);
         total += database.pictures;
     }
@@ -341,56 +294,6 @@ std::vector<Version> VersionStore::versionsOf(const fs::path& database) const {
                   [](const Version& version) { return !hasBytes(version.file, version.packedBytes); });
     std::ranges::reverse(versions);
     return versions;
-}
-
-std::string VersionStore::textOf(const Version& version) {
-    Zip archive;
-    archive.OpenArchive(version.file);
-    std::optional<std::string> text = archive.readEntry(textEntry, Zip::maxFileBytes);
-    if (!text) core::raise(core::errors::badFileFormat, version.file.string());
-    return *std::move(text);
-}
-
-std::vector<std::string> VersionStore::write(const Version& version, const fs::path& database,
-                                             const fs::path& target,
-                                             const std::function<void()>& beforeReplacing) const {
-    const PackedArchive kept(version.file);
-    const PackedEntry* text = kept.find(textEntry);
-    if (text == nullptr) core::raise(core::errors::badFileFormat, version.file.string());
-    const std::optional<PackedArchive> present = openIfThere(database);
-    PackedWriter made;
-    made.add(kept, *text);
-    std::vector<std::string> missing;
-    for (const PackedEntry& picture : picturesOf(version))
-        if (!addPicture(made, picture, folderOf(database), present)) missing.push_back(picture.name);
-    // Of a database that is gone nobody knows how private it was.
-    replace(made, target, present ? database : version.file, beforeReplacing);
-    return missing;
-}
-
-std::vector<std::string> VersionStore::putPicturesBack(const Version& version, const fs::path& database,
-                                                       const std::function<void()>& beforeReplacing) const {
-    std::vector<PackedEntry> wanted = picturesOf(version);
-    if (wanted.empty()) return {};
-    const std::optional<PackedArchive> present(std::in_place, database);
-    std::erase_if(wanted, [&](const PackedEntry& picture) {
-        const PackedEntry* entry = present->find(picture.name);
-        return entry != nullptr && isSame(*entry, picture);
-    });
-    PackedWriter made;
-    std::set<std::string> putBack;
-    std::vector<std::string> missing;
-    for (const PackedEntry& picture : wanted) {
-        if (addPicture(made, picture, folderOf(database), present))
-            putBack.insert(picture.name);
-        else
-            missing.push_back(picture.name);
-    }
-    if (putBack.empty()) return missing;
-    for (const PackedEntry& entry : present->entries())
-        if (!putBack.contains(entry.name)) made.add(*present, entry);
-    replace(made, database, database, beforeReplacing);
-    return missing;
 }
 
 } // namespace file

@@ -47,8 +47,8 @@ public:
         : folder_(std::move(folder)), budget_(budget) {}
 
     // Keeps the file as it is, unless the version kept last is the same, and removes what is too much. What
-    // is no database is passed over. Where the pictures would take more than a quarter of the budget, those of the
-    // given names are left to the database, which goes on having them. Raises what the system says.
+    // is no database is passed over. Where the pictures would take more than a quarter of the budget, those
+    // of the given names are left to the database, which goes on having them. Raises what the system says.
     void keep(const std::filesystem::path& database, std::optional<KnownText> known,
               const std::set<std::string>& staying, std::time_t now = std::time(nullptr));
 
@@ -75,7 +75,9 @@ private:
     void storePictures(const PackedArchive& archive, const std::filesystem::path& folder,
                        const std::set<std::string>& staying) const;
     void thinOut(const std::filesystem::path& folder, std::time_t now) const;
-    void fitBudget() const;
+    // The folder is locked already.
+    void fitBudget(const std::filesystem::path& locked) const;
+    void dropOldest(const std::filesystem::path& locked) const;
 
     std::filesystem::path folder_;
     std::uint64_t budget_;
