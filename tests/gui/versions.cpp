@@ -1,6 +1,6 @@
 #include "journey.h"
 
-// The dialog of the versions: what is shown, and what the keys do.
+// The dialog of the versions: what it shows, and when it shows the state anew.
 class Versions : public QObject {
     Q_OBJECT
 
@@ -10,7 +10,7 @@ private:
 private slots:
     void init() { Folders::forgetSettings(); }
 
-    void shownAndRestoredByTheKeys() {
+    void shownAndRestored() {
         Session run(folders_.sample("books.fwk"));
         const QStringList first = run.texts();
         run.platform.inputs = {"1", "1"}; // copies
@@ -48,7 +48,7 @@ private slots:
             QTest::keyClick(list, Qt::Key_Up);
             QVERIFY(!records->isVisible());
             QTest::keyClick(list, Qt::Key_Down);
-            QTest::keyClick(&form, Qt::Key_R, Qt::AltModifier);
+            form.findChild<QPushButton*>(u"restoreBtn"_s)->click();
         };
         run.action("mnuVersions")->trigger();
         QCOMPARE(run.texts(), first);
@@ -59,7 +59,7 @@ private slots:
             megabytes->setFocus();
             megabytes->selectAll();
             QTest::keyClicks(megabytes, u"75"_s);
-            QTest::keyClick(&form, Qt::Key_K, Qt::AltModifier);
+            form.findChild<QCheckBox*>(u"Check1"_s)->click();
             QVERIFY(!megabytes->isEnabled());
             QTest::keyClick(&form, Qt::Key_Escape);
         };
