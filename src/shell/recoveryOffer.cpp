@@ -49,7 +49,7 @@ std::string timeText(std::int64_t seconds) {
 }
 
 std::string offerText(const RecoveryNote& note) {
-    std::string text = "The program ended before this work was saved. It can be restored.\n\nFile: " +
+    std::string text = "This work was never saved. It can be restored.\n\nFile: " +
                        (note.file.empty() ? "(none yet)" : note.file) + "\nTime: " + timeText(note.time) +
                        "\nRecords: " + std::to_string(note.records);
     if (isChangedSince(note)) text += "\n\nThe file itself was changed after that work was begun.";
@@ -160,6 +160,7 @@ bool offer(App& app, RecoveryCopy& copy) {
 
 void offerRecovery(App& app, const std::string& file) {
     Offers& offers = app.rooms.of<Offers>();
+    if (std::exchange(storage::unsavedWork(app).isSetAside, false)) return;
     if (std::exchange(offers.isOffering, true)) return;
     for (RecoveryCopy& copy : storage::findRecoveryCopies(app, file)) {
         if (file.empty() && offers.left.contains(copy.archive)) continue;

@@ -4,6 +4,7 @@
 #include "file/dataWriter.h"
 #include "file/zip.h"
 #include "storage/openFile.h"
+#include "storage/recoveryCopies.h"
 #include "storage/saveSteps.h"
 
 #include <filesystem>
@@ -190,6 +191,9 @@ FileState::Change changeOfOpened(const App& app) {
 }
 
 void readOpenedAgain(App& app) {
+    // What is typed too, which an open would not keep.
+    if (keepUnsavedWork(app)) unsavedWork(app).isSetAside = true;
+    leaveUnsavedWork(app);
     app.document.currentFile = openedFile(app).path;
     OpenFile(app, true);
 }

@@ -37,6 +37,7 @@ struct UnsavedWork {
     bool isTyped = false;       // the sheet holds what is not stored
     std::string typedKey;       // of the record on it; empty for a new one
     bool isReplaced = false;    // records were replaced, which does not make the document modified
+    bool isSetAside = false;    // the user has just put it aside; the next open is not to offer it
     bool hasKeepFailed = false; // and the user has not been told
     bool hasSaveFailed = false; // which leaves bModified False
 };
