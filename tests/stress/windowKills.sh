@@ -32,24 +32,28 @@ for ((i = 1; i <= count; ++i)); do
     "$program" "$database" 2>>"$folder/messages" &
     window=$!
     for _ in {1..100}; do
-        id=$(xdotool search --onlyvisible --pid "$window" --name '^Ferrowick' 2>/dev/null | head -1)
+        id=$(xdotool search --all --onlyvisible --pid "$window" --name '^Ferrowick' 2>/dev/null | head -1)
         [[ -n $id ]] && break || sleep 0.05
     done
     sleep 0.3
-    box=$(xdotool search --onlyvisible --pid "$window" --name '^Restore' 2>/dev/null | head -1)
+    box=$(xdotool search --all --onlyvisible --pid "$window" --name '^Restore' 2>/dev/null | head -1)
     if [[ -n $box ]]; then
         ((++offered))
-        xdotool windowfocus "$box" key Return # the unsaved work of the one before
+        xdotool windowfocus "$box" key Return # restores the work of the one before
         sleep 0.3
     fi
     xdotool windowfocus "$id" key ctrl+Next
-    # Types into the first field, presses Update in the bar of the page, and saves.
+    # Types into one field after the other, presses Update in the bar of the page, and saves; each third only types,
+    # and waits until that is kept for recovery, or nearly so.
+    saving='ctrl+s' least=0.5
+    ((i % 3 == 0)) && saving='' least=2
     (while :; do
         xdotool windowfocus "$id" key Tab || break
-        xdotool type --delay 2 "x$i" && xdotool key shift+F6 Right Right Return ctrl+s || break
+        xdotool type --delay 2 "x$i" && xdotool key shift+F6 Right Right Return $saving || break
+        [[ -n $saving ]] || break
     done) 2>/dev/null &
     typist=$!
-    sleep "$(awk -v seed="$i$RANDOM" 'BEGIN { srand(seed); print 0.5 + 1.5 * rand() }')"
+    sleep "$(awk -v seed="$i$RANDOM" -v least=$least 'BEGIN { srand(seed); print least + 1.5 * rand() }')"
     kill -9 "$window"
     wait "$window" 2>/dev/null
     kill "$typist" 2>/dev/null
