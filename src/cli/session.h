@@ -31,6 +31,9 @@ public:
     // The file as the user wrote it, so that messages speak of it in his words; and the seconds that he is
     // ready to wait for another writer of a database.
     explicit Session(std::string databaseFile, double wait = usualWait);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     // Reads the database. Raises Failure with the reason when it cannot be opened.
     void open();
@@ -76,9 +79,9 @@ public:
     app::App& app;
 
 private:
-    [[nodiscard]] std::optional<file::WriterLock> lockFor(const std::string& database) const;
-    // Of a file that is about to be overwritten.
-    [[nodiscard]] std::optional<file::WriterLock> lockForTarget(const std::string& target) const;
+    void lock(const std::string& database);
+    // A file that is about to be overwritten.
+    void lockTarget(const std::string& target);
     void run(const std::string& target, const std::function<std::optional<core::RunTimeError>()>& save);
 
     double wait_;
