@@ -52,7 +52,7 @@ _fwk() {
     for ((i = 1; i < COMP_CWORD; ++i)); do
         word=${COMP_WORDS[i]}
         case $word in
-        -o | --output | --columns | --column | --title | --records | --where) option=$word taken=0 ;;
+        -o | --output | --columns | --column | --title | --records | --where | --wait) option=$word taken=0 ;;
         -*) option="" ;;
         *)
             if [[ -n $option ]]; then

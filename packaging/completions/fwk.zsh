@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--column|--title|--records|--where) option=$word taken=0 ;;
+        (-o|--output|--columns|--column|--title|--records|--where|--wait) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then

@@ -18,6 +18,7 @@ struct CalculationOptions {
     std::string file, column, value;
     std::optional<std::string> expression;
     std::vector<std::string> columns;
+    double wait = usualWait;
 };
 
 int rowOf(Session& session, const calc::formulateFrm& form, const std::string& column) {
@@ -50,8 +51,8 @@ void requireExpression(Session& session, const std::string& column) {
 // The buttons of the window can build anything that they have; what is wrong with an expression shows
 // when it is worked out.
 int setExpression(const CalculationOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     if (options.column.find(',') != std::string::npos)
         throw Failure(session.file, "the column \"" + options.column +
                                         "\" can have no expression: a comma divides names from expressions");
@@ -68,8 +69,8 @@ int setExpression(const CalculationOptions& options) {
 }
 
 int chooseTotals(const CalculationOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     session.changeAndCalculate([&] {
         calc::TotalsFrm form(session.app);
         for (calc::TotalsFrm::Row& row : form.LV) row.Checked = false;
@@ -87,16 +88,16 @@ int chooseTotals(const CalculationOptions& options) {
 }
 
 int recalculate(const CalculationOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     session.changeAndCalculate([&] { calc::recalculateAfterDialog(session.app); });
     session.save();
     return done;
 }
 
 int setSerial(const CalculationOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     const std::string name = session.column(options.column).Text;
     session.change([&] {
         calc::serialFrm form(session.app);
@@ -122,7 +123,7 @@ void addColumnArgument(CLI::App& command, CalculationOptions& options) {
 
 Run setUpExpression(CLI::App& command) {
     const auto options = std::make_shared<CalculationOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     addColumnArgument(command, *options);
     command.add_option("EXPRESSION", options->expression,
                        "The new expression, blanks around every operator; the empty text clears it");
@@ -131,20 +132,20 @@ Run setUpExpression(CLI::App& command) {
 
 Run setUpTotal(CLI::App& command) {
     const auto options = std::make_shared<CalculationOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     command.add_option("COLUMN", options->columns, "The columns to total; no other column is");
     return [options] { return chooseTotals(*options); };
 }
 
 Run setUpRecalculate(CLI::App& command) {
     const auto options = std::make_shared<CalculationOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     return [options] { return recalculate(*options); };
 }
 
 Run setUpSerial(CLI::App& command) {
     const auto options = std::make_shared<CalculationOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     addColumnArgument(command, *options);
     command.add_option("VALUE", options->value, "The number that was stored last")->required();
     return [options] { return setSerial(*options); };

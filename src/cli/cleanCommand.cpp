@@ -9,9 +9,15 @@ namespace cli {
 
 namespace {
 
-int clean(const std::string& file) {
-    Session session(file);
-    session.open();
+struct CleanOptions {
+    std::string file;
+    double wait = usualWait;
+};
+
+int clean(const CleanOptions& options) {
+    Session session(options.file, options.wait);
+    session.openToWrite();
+    session.refuseIfChanged();
     std::string removed;
     session.change([&] {
         for (const std::string& name : storage::cleanDatabase(session.app))
@@ -24,10 +30,10 @@ int clean(const std::string& file) {
 } // namespace
 
 Run setUpClean(CLI::App& command) {
-    const auto file = std::make_shared<std::string>();
-    addFileArgument(command, *file);
+    const auto options = std::make_shared<CleanOptions>();
+    addWrittenFileArgument(command, options->file, options->wait);
     command.footer("Prints the names of the images that went, one a line. GIF images are never removed.");
-    return [file] { return clean(*file); };
+    return [options] { return clean(*options); };
 }
 
 } // namespace cli

@@ -17,6 +17,7 @@ using calc::designFrm;
 struct ColumnOptions {
     std::string file, column, newName;
     std::vector<std::string> columns;
+    double wait = usualWait;
     bool invoice = false, automatic = false, labels = false, yes = false;
 };
 
@@ -52,7 +53,7 @@ void switchOn(Session& session, designFrm& form) {
 // The archive is made elsewhere and takes its place as a copy of a finished database does, so that a
 // file of that name stays until the new one is whole.
 int makeDatabase(const ColumnOptions& options) {
-    Session session(options.file);
+    Session session(options.file, options.wait);
     session.platform.setAnswersYes(options.yes);
     app::App& app = session.app;
     app.document.bInvoiceStyle = options.invoice;
@@ -69,8 +70,8 @@ int makeDatabase(const ColumnOptions& options) {
 
 // A session in which Database Properties works on the columns, and which is saved when that is done.
 int inProperties(const ColumnOptions& options, const std::function<void(Session&, designFrm&)>& work) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     if (lock::isDesignLocked(session.app)) throw Failure(session.file, "its design is locked");
     session.change([&] {
         designFrm form(session.app);
@@ -125,25 +126,26 @@ Run setUpNew(CLI::App& command) {
     expectColumns(*command.add_option("COLUMN", options->columns, "The columns, each with its type"));
     command.add_flag("--invoice", options->invoice, "An invoice database");
     addYesFlag(command, options->yes, "Overwrite a file of that name");
+    addWaitOption(command, options->wait);
     return [options] { return makeDatabase(*options); };
 }
 
 Run setUpColumn(CLI::App& command) {
     const auto options = std::make_shared<ColumnOptions>();
     CLI::App* add = command.add_subcommand("add", "Adds a column");
-    addFileArgument(*add, options->file);
+    addWrittenFileArgument(*add, options->file, options->wait);
     expectColumns(*add->add_option("COLUMN", options->column, "The column with its type")->required());
     add->add_flag("--auto", options->automatic, "New records take today's date, or a serial number");
 
     CLI::App* rename = command.add_subcommand("rename", "Renames a column");
-    addFileArgument(*rename, options->file);
+    addWrittenFileArgument(*rename, options->file, options->wait);
     rename->add_option("OLD", options->column, "The column")->required();
     rename->add_option("NEW", options->newName, "Its new name")->required();
     rename->add_flag("--labels", options->labels,
                      "Rename the labels of the layout that have the old name too");
 
     CLI::App* remove = command.add_subcommand("remove", "Removes a column and its data");
-    addFileArgument(*remove, options->file);
+    addWrittenFileArgument(*remove, options->file, options->wait);
     remove->add_option("NAME", options->column, "The column")->required();
     addYesFlag(*remove, options->yes, "Remove it; without this nothing is done");
 

@@ -16,6 +16,9 @@ constexpr int done = 0;
 constexpr int failed = 1;
 constexpr int wrongCommandLine = 2;
 
+// The seconds that a command waits for another program to finish with the database.
+constexpr double usualWait = 5;
+
 // What a command does once its arguments are known; answers the exit code. Refusals and failures are
 // raised as Failure.
 using Run = std::function<int()>;
@@ -61,6 +64,9 @@ void markWhereWords(const CLI::App& command, std::vector<std::string>& words);
 
 // Arguments that many commands share.
 void addFileArgument(CLI::App& command, std::string& file);
+// Of commands that write a database: FILE, and the seconds to wait for another writer.
+void addWaitOption(CLI::App& command, double& seconds);
+void addWrittenFileArgument(CLI::App& command, std::string& file, double& seconds);
 void addYesFlag(CLI::App& command, bool& yes, const char* description);
 
 } // namespace cli

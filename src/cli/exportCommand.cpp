@@ -71,9 +71,9 @@ std::string tableAsJson(const core::Document& document, const Columns& columns) 
     return out;
 }
 
-void write(const std::string& file, std::string_view text) {
+void write(const std::string& file, std::string_view text, const std::string& database) {
     try {
-        file::AtomicFile target(file);
+        file::AtomicFile target(file, database);
         if (const int error = file::writeAt(target.fd(), text.data(), text.size(), 0))
             file::raiseSystemError(error, file);
         target.commit();
@@ -91,7 +91,8 @@ int run(const ExportOptions& options) {
     session.refuseAsOutput(options.output);
     const core::Document& document = session.app.document;
     const Columns columns = session.columns({});
-    write(options.output, asJson ? tableAsJson(document, columns) : tableAsCsv(document.LV, columns));
+    write(options.output, asJson ? tableAsJson(document, columns) : tableAsCsv(document.LV, columns),
+          options.file);
     return done;
 }
 

@@ -44,6 +44,7 @@ constexpr const char* aboutImport =
 
 struct ImportOptions {
     std::string file, table;
+    double wait = usualWait;
     bool invoice = false, yes = false;
 };
 
@@ -108,7 +109,7 @@ void makeDatabase(const ImportOptions& options, const CsvTable& table) {
         throw Failure(options.table, "it has " + std::to_string(columns.size()) +
                                          " columns, a database has at most " +
                                          std::to_string(calc::mostColumns));
-    Session session(options.file);
+    Session session(options.file, options.wait);
     app::App& app = session.app;
     app.document.bInvoiceStyle = options.invoice;
     session.change([&] {
@@ -221,8 +222,8 @@ std::vector<calc::Uncalculated> appendInvoices(Session& session, const CsvTable&
 }
 
 void append(const ImportOptions& options, const CsvTable& table) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     const core::Document& document = session.app.document;
     if (options.invoice && !document.bInvoiceStyle) throw Failure(options.file, "it is no invoice database");
     const std::vector<const Column*> columns = matchingColumns(session, options, table);
@@ -265,6 +266,7 @@ Run setUpImport(CLI::App& command) {
     command.add_flag("--invoice", options->invoice, "Make an invoice database");
     addYesFlag(command, options->yes,
                "Store cells with a \"|\", which divides them in the file, and images that FILE has not");
+    addWaitOption(command, options->wait);
     command.footer(aboutImport);
     return [options] { return run(*options); };
 }

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <iostream>
 #include <malloc.h>
 #include <map>
@@ -56,6 +57,15 @@ bool isUnknownCommand(std::string_view word) {
            std::ranges::none_of(commands, [&](const Command& command) { return word == command.name; });
 }
 
+std::string whatIsWrongWithWait(const std::string& text) {
+    constexpr double most = 24.0 * 60 * 60;
+    double seconds = -1;
+    const char* end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, seconds);
+    if (error == std::errc() && stopped == end && seconds >= 0 && seconds <= most) return {};
+    return "\"" + printable(text) + "\" is no number of seconds";
+}
+
 int runProgram(int argc, char** argv) {
     startedWith = argv;
     CLI::App program("Works on Ferrowick databases from the command line.", "fwk");
@@ -93,6 +103,19 @@ char** commandLine() {
 
 void addFileArgument(CLI::App& command, std::string& file) {
     command.add_option("FILE", file, "The database")->required();
+}
+
+void addWaitOption(CLI::App& command, double& seconds) {
+    command
+        .add_option("--wait", seconds,
+                    "Wait so many seconds while another program changes the database, 5 when not told")
+        ->type_name("S")
+        ->check(whatIsWrongWithWait);
+}
+
+void addWrittenFileArgument(CLI::App& command, std::string& file, double& seconds) {
+    addFileArgument(command, file);
+    addWaitOption(command, seconds);
 }
 
 void addYesFlag(CLI::App& command, bool& yes, const char* description) {

@@ -34,7 +34,7 @@ struct PrintOptions {
 
 #ifdef FERROWICK_PRINTS
 std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions& options) {
-    return qtprint::makePdfPrinter(options.output);
+    return qtprint::makePdfPrinter(options.output, options.file);
 }
 #else
 // Goes on as the program that can print: beside this one where it is built, in its own folder where it is

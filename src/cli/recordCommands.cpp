@@ -18,11 +18,12 @@ struct RecordOptions {
     std::string file, key, copies, column;
     std::vector<std::string> keys, cells;
     bool descending = false;
+    double wait = usualWait;
 };
 
 int add(const RecordOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     const std::vector<CellValue> values = cellValues(session, options.cells);
     const bool isInvoice = session.app.document.bInvoiceStyle;
     const core::Item& added = isInvoice ? addInvoice(session, values) : addRecord(session, values);
@@ -33,8 +34,8 @@ int add(const RecordOptions& options) {
 }
 
 int update(const RecordOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     core::Item& record = session.record(options.key);
     const std::vector<CellValue> values = cellValues(session, options.cells);
     if (session.app.document.bInvoiceStyle)
@@ -46,8 +47,8 @@ int update(const RecordOptions& options) {
 }
 
 int deleteRecords(const RecordOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     core::RecordsList& records = session.app.document.LV;
     records.clearSelection();
     records.setSelectedItem(&session.record(options.keys.front()));
@@ -59,8 +60,8 @@ int deleteRecords(const RecordOptions& options) {
 }
 
 int duplicate(const RecordOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     core::Item& source = session.record(options.key);
     session.change(
         [&] { entry::duplicateRecord(session.app, source, core::toInt16(core::val(options.copies))); });
@@ -69,8 +70,8 @@ int duplicate(const RecordOptions& options) {
 }
 
 int sortRecords(const RecordOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     core::RecordsList& list = session.app.document.LV;
     // A click on a header turns the order round, whatever it was.
     list.SortOrder = options.descending ? 0 : 1;
@@ -95,14 +96,14 @@ CLI::Option* addCellsArgument(CLI::App& command, RecordOptions& options, const c
 
 Run setUpAdd(CLI::App& command) {
     const auto options = std::make_shared<RecordOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     addCellsArgument(command, *options, "What the record is to hold; the others start as in a new record");
     return [options] { return add(*options); };
 }
 
 Run setUpUpdate(CLI::App& command) {
     const auto options = std::make_shared<RecordOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     command.add_option("KEY", options->key, "The record, as \"records\" shows it")->required();
     addCellsArgument(command, *options, "The new values; the other cells stay")->required();
     return [options] { return update(*options); };
@@ -110,14 +111,14 @@ Run setUpUpdate(CLI::App& command) {
 
 Run setUpDelete(CLI::App& command) {
     const auto options = std::make_shared<RecordOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     command.add_option("KEY", options->keys, "The records, as \"records\" shows them")->required();
     return [options] { return deleteRecords(*options); };
 }
 
 Run setUpDuplicate(CLI::App& command) {
     const auto options = std::make_shared<RecordOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     command.add_option("KEY", options->key, "The record, as \"records\" shows it")->required();
     command.add_option("COPIES", options->copies, "How many copies")
         ->required()
@@ -127,7 +128,7 @@ Run setUpDuplicate(CLI::App& command) {
 
 Run setUpSort(CLI::App& command) {
     const auto options = std::make_shared<RecordOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     command.add_option("COLUMN", options->column, "The column to sort by")->required();
     command.add_flag("--descending", options->descending, "From the highest to the lowest");
     return [options] { return sortRecords(*options); };

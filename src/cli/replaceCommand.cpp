@@ -12,11 +12,12 @@ namespace {
 struct ReplaceOptions {
     std::string file, find, replacement;
     std::vector<std::string> columns;
+    double wait = usualWait;
 };
 
 int run(const ReplaceOptions& options) {
-    Session session(options.file);
-    session.open();
+    Session session(options.file, options.wait);
+    session.openToWrite();
     if (!search::mayReplace(session.app)) throw Failure(session.file, "words have not been replaced");
     search::replaceFrm form(session.app);
     form.Text1 = options.find;
@@ -33,7 +34,7 @@ int run(const ReplaceOptions& options) {
 
 Run setUpReplace(CLI::App& command) {
     const auto options = std::make_shared<ReplaceOptions>();
-    addFileArgument(command, options->file);
+    addWrittenFileArgument(command, options->file, options->wait);
     command.add_option("FIND", options->find, "The word to find, in any case")->required();
     command.add_option("REPLACEMENT", options->replacement, "What takes its place")->required();
     command.add_option("--column", options->columns, "In these columns alone")->type_name("NAME ...");

@@ -22,6 +22,7 @@ struct SearchOptions {
     std::vector<Group> groups;
     bool json = false, csv = false;
     std::string target;
+    double wait = usualWait;
     bool yes = false;
 };
 
@@ -107,7 +108,7 @@ void print(core::RecordsList& results, const SearchOptions& options) {
 }
 
 int run(const SearchOptions& options) {
-    Session session(options.file);
+    Session session(options.file, options.wait);
     session.platform.setAnswersYes(options.yes);
     session.open();
     search(session, options.groups);
@@ -152,6 +153,7 @@ Run setUpSearch(CLI::App& command) {
     CLI::Option* target = command.add_option("-o", options->target, "Save them as a database of their own")
                               ->type_name("NEW.fwk");
     command.add_flag("--yes", options->yes, "Overwrite a file of that name")->needs(target);
+    addWaitOption(command, options->wait);
     command.parse_complete_callback([options] { readGroups(*options); });
     return [options] { return run(*options); };
 }

@@ -9,7 +9,11 @@
 #include "storage/saveSearch.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstring>
 #include <filesystem>
 #include <iostream>
 #include <limits>
@@ -67,6 +71,22 @@ shell::Program& untilTheEnd(std::unique_ptr<shell::Program> app) {
     return *kept->back();
 }
 
+std::atomic<file::WriterLock*> heldLock = nullptr;
+
+extern "C" void releaseAndEnd(int signal) {
+    if (file::WriterLock* lock = heldLock.exchange(nullptr)) lock->release();
+    ::signal(signal, SIG_DFL);
+    ::raise(signal);
+}
+
+// On this machine a lock that is left over is no obstacle, but another one has no way to tell.
+void releaseWhenEnded(file::WriterLock* lock) {
+    heldLock = lock;
+    if (lock == nullptr) return;
+    for (const int ending : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+        if (::signal(ending, releaseAndEnd) == SIG_IGN) ::signal(ending, SIG_IGN);
+}
+
 } // namespace
 
 void tellRows(const std::string& file, const std::vector<std::string>& rows) {
@@ -78,17 +98,64 @@ void tellRows(const std::string& file, const std::vector<std::string>& rows) {
     if (rows.size() > mostRows) tell("and " + std::to_string(rows.size() - mostRows) + " more");
 }
 
-Session::Session(std::string databaseFile)
+Session::Session(std::string databaseFile, double wait)
     : file(std::move(databaseFile)), platform(std::cerr),
-      app(untilTheEnd(std::make_unique<shell::Program>(platform))) {}
+      app(untilTheEnd(std::make_unique<shell::Program>(platform))), wait_(wait) {}
+
+Session::~Session() {
+    releaseWhenEnded(nullptr);
+}
 
 void Session::open() {
     try {
         app.document.currentFile = file;
+        read_ = file::FileState::of(file);
         storage::readArchive(app, file);
     } catch (const core::RunTimeError& error) {
         throw Failure(file, whyNotOpened(error));
     }
+}
+
+void Session::openToWrite() {
+    lock(file);
+    open();
+}
+
+void Session::lock(const std::string& database) {
+    using file::WriterLock;
+    const auto wait =
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::duration<double>(wait_));
+    WriterLock::Outcome outcome = WriterLock::take(database, WriterLock::Force::No, wait);
+    const std::string name = outcome.path.filename().string();
+    switch (outcome.result) {
+    case WriterLock::Result::Taken:
+    case WriterLock::Result::Impossible: // the save says what is wrong with the folder
+        break;
+    case WriterLock::Result::Held:
+        throw Failure(database, "it is being changed by " + outcome.owner.text());
+    case WriterLock::Result::HeldElsewhere:
+        throw Failure(database,
+                      "it is being changed by " + outcome.owner.text() + "; if that is over, remove " + name);
+    case WriterLock::Result::Obstructed:
+        throw Failure(database,
+                      "it cannot be locked: " + name + " is in the way" +
+                          (outcome.error == 0 ? "" : std::string(" (") + std::strerror(outcome.error) + ")"));
+    }
+    lock_ = std::move(outcome.lock);
+    releaseWhenEnded(lock_ ? &*lock_ : nullptr);
+}
+
+void Session::lockTarget(const std::string& target) {
+    std::error_code error;
+    const bool isWritten = platform.answersYes() || isSameFile(target, file);
+    if (lock_ || target.empty() || !isWritten || !fs::exists(target, error)) return;
+    lock(target);
+    if (isSameFile(target, file)) refuseIfChanged();
+}
+
+void Session::refuseIfChanged() const {
+    if (read_ && read_->changeOf(file) == file::FileState::Change::Changed)
+        throw Failure(file, "it was changed by another program meanwhile");
 }
 
 std::string Session::whyNotOpened(const core::RunTimeError& error) const {
@@ -119,6 +186,7 @@ void Session::changeAndCalculate(const std::function<void()>& routine) const {
 }
 
 void Session::save() {
+    refuseIfChanged();
     run(file, [this] { return storage::SaveFile(app, false, false); });
 }
 
@@ -126,17 +194,20 @@ void Session::saveAs(const std::string& target) {
     // The routine compares names as texts; a file has more than one of them.
     const std::string& current = app.document.currentFile;
     platform.setSaveName(isSameFile(target, current) ? current : target);
+    lockTarget(target);
     run(target, [this] { return storage::SaveFile(app, true, false); });
 }
 
 void Session::clone(const std::string& target) {
     platform.setSaveName(target);
+    lockTarget(target);
     run(target, [this] { return storage::SaveFile(app, false, true); });
 }
 
 void Session::saveSearch(const std::string& target) {
     const bool itself = isSameFile(target, file);
     platform.setSaveName(itself ? app.document.currentFile : target);
+    if (!itself) lockTarget(target);
     run(target, [this] { return storage::saveSearchResults(app); });
     if (itself) throw Failure(target, "is the database that was searched");
 }

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "app/app.h"
+#include "cli/command.h"
 #include "core/runTimeError.h"
+#include "file/fileState.h"
+#include "file/writerLock.h"
 #include "platform/headlessPlatform.h"
 
 #include <functional>
@@ -25,11 +28,18 @@ void tellRows(const std::string& file, const std::vector<std::string>& rows);
 // One run of a command on one database: the program without its window.
 class Session {
 public:
-    // The file as the user wrote it, so that messages speak of it in his words.
-    explicit Session(std::string databaseFile);
+    // The file as the user wrote it, so that messages speak of it in his words; and the seconds that he is
+    // ready to wait for another writer of a database.
+    explicit Session(std::string databaseFile, double wait = usualWait);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     // Reads the database. Raises Failure with the reason when it cannot be opened.
     void open();
+    // The same for a command that is going to save what it has read: from here on to the end of the session
+    // nobody else writes it. Raises Failure too when somebody else has it for longer than the time to wait.
+    void openToWrite();
     // The reason in the user's words, for an error that reading the database ended in.
     std::string whyNotOpened(const core::RunTimeError& error) const;
     // Runs a routine of the window. The error that would end the window is the failure of the command.
@@ -39,6 +49,9 @@ public:
     void changeAndCalculate(const std::function<void()>& routine) const;
     // Saves through the window's own routine. A failure leaves the file as it was and raises Failure.
     void save();
+    // Raises Failure when the file is no longer what was read. Whoever writes it by other means than save()
+    // asks first: not every program that writes a file takes the lock.
+    void refuseIfChanged() const;
     void saveAs(const std::string& target);
     void clone(const std::string& target);
     // Saves the search results as a database of their own.
@@ -66,7 +79,14 @@ public:
     app::App& app;
 
 private:
+    void lock(const std::string& database);
+    // A file that is about to be overwritten.
+    void lockTarget(const std::string& target);
     void run(const std::string& target, const std::function<std::optional<core::RunTimeError>()>& save);
+
+    double wait_;
+    std::optional<file::WriterLock> lock_;
+    std::optional<file::FileState> read_; // what the file was when it was read
 };
 
 } // namespace cli

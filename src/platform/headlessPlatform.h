@@ -19,6 +19,7 @@ public:
     // The answer to every question; No as long as nobody says otherwise. Questions are not shown: who
     // started the program has answered them with its arguments.
     void setAnswersYes(bool yes) { answersYes_ = yes; }
+    bool answersYes() const { return answersYes_; }
     // What the user would choose in a file dialog. Empty: he cancels.
     void setOpenName(std::string path) { openName_ = std::move(path); }
     void setSaveName(std::string path) { saveName_ = std::move(path); }

@@ -19,7 +19,10 @@ namespace {
 // until the file is to take its place.
 class NewFile : public QIODevice {
 public:
-    explicit NewFile(std::filesystem::path path) : path_(std::move(path)), file_(path_) { open(WriteOnly); }
+    NewFile(std::filesystem::path path, const std::filesystem::path& database)
+        : path_(std::move(path)), file_(path_, database) {
+        open(WriteOnly);
+    }
     NewFile(const NewFile&) = delete;
     NewFile& operator=(const NewFile&) = delete;
 
@@ -54,7 +57,8 @@ private:
 };
 
 struct PdfDevice {
-    explicit PdfDevice(const std::filesystem::path& path) : file(path), writer(&file) {}
+    PdfDevice(const std::filesystem::path& path, const std::filesystem::path& database)
+        : file(path, database), writer(&file) {}
 
     NewFile file;
     QPdfWriter writer;
@@ -62,8 +66,9 @@ struct PdfDevice {
 
 class PdfTarget : private PdfDevice, public PaperTarget {
 public:
-    PdfTarget(const std::filesystem::path& path, const QString& title, drawing::TextMetrics& textMetrics)
-        : PdfDevice(path), PaperTarget(writer, textMetrics, Jobs::InOneFile) {
+    PdfTarget(const std::filesystem::path& path, const QString& title, drawing::TextMetrics& textMetrics,
+              const std::filesystem::path& database)
+        : PdfDevice(path, database), PaperTarget(writer, textMetrics, Jobs::InOneFile) {
         constexpr int dotsPerInch = 1440; // a dot is a twip
         writer.setResolution(dotsPerInch);
         writer.setTitle(title);
@@ -110,12 +115,13 @@ private:
 
 class PdfPrinter : public drawing::Printer {
 public:
-    explicit PdfPrinter(std::filesystem::path file) : file_(std::move(file)) {}
+    PdfPrinter(std::filesystem::path file, std::filesystem::path database)
+        : file_(std::move(file)), database_(std::move(database)) {}
 
     std::string DeviceName() const override { return "Print to PDF"; }
     drawing::TextMetrics& textMetrics() override { return metrics_; }
     std::unique_ptr<drawing::DrawTarget> open(const std::string& documentName) override {
-        return openPdfFile(file_, documentName, metrics_);
+        return openPdfFile(file_, documentName, metrics_, database_);
     }
     std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& picture) override {
         return qtprint::pictureExtent(picture);
@@ -123,7 +129,7 @@ public:
 
 private:
     HiddenApplication application_;
-    std::filesystem::path file_;
+    std::filesystem::path file_, database_;
     QtTextMetrics metrics_;
 };
 
@@ -131,12 +137,14 @@ private:
 
 std::unique_ptr<drawing::DrawTarget> openPdfFile(const std::filesystem::path& file,
                                                  const std::string& documentName,
-                                                 drawing::TextMetrics& metrics) {
-    return std::make_unique<PdfTarget>(file, toQString(documentName), metrics);
+                                                 drawing::TextMetrics& metrics,
+                                                 const std::filesystem::path& database) {
+    return std::make_unique<PdfTarget>(file, toQString(documentName), metrics, database);
 }
 
-std::unique_ptr<drawing::Printer> makePdfPrinter(const std::filesystem::path& file) {
-    return std::make_unique<PdfPrinter>(file);
+std::unique_ptr<drawing::Printer> makePdfPrinter(const std::filesystem::path& file,
+                                                 const std::filesystem::path& database) {
+    return std::make_unique<PdfPrinter>(file, database);
 }
 
 } // namespace qtprint

@@ -9,13 +9,15 @@
 
 namespace qtprint {
 
-// Prints into a PDF file, which takes the place of an older one when it is closed and complete. Raises
-// what AtomicFile does when the file cannot be written.
+// Prints into a PDF file, which takes the place of an older one when it is closed and complete; a new one
+// takes the permissions of the database. Raises what AtomicFile does when the file cannot be written.
 std::unique_ptr<drawing::DrawTarget> openPdfFile(const std::filesystem::path& file,
                                                  const std::string& documentName,
-                                                 drawing::TextMetrics& metrics);
+                                                 drawing::TextMetrics& metrics,
+                                                 const std::filesystem::path& database = {});
 
 // A printer into that file for a program without a display.
-std::unique_ptr<drawing::Printer> makePdfPrinter(const std::filesystem::path& file);
+std::unique_ptr<drawing::Printer> makePdfPrinter(const std::filesystem::path& file,
+                                                 const std::filesystem::path& database);
 
 } // namespace qtprint

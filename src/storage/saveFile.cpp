@@ -36,7 +36,7 @@ void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
     if (!target || !mayWriteTo(app, *target)) return;
-    packAlone(*target, bytes);
+    packAlone(app, *target, bytes);
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {

@@ -45,7 +45,7 @@ void writeAndPack(App& app, const std::string& target) {
     const std::string bytes = file::encodeDataFile(writeResults(app.document));
     keepDataFile(app, bytes);
     app::setDocumentModified(app, false);
-    packAlone(target, bytes);
+    packAlone(app, target, bytes);
 }
 
 } // namespace

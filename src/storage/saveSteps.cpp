@@ -26,9 +26,9 @@ void addData(file::Zip& Zip, const std::string& bytes) {
     Zip.addBuffer(dataFile, bytes, dataComment);
 }
 
-void packAlone(const std::string& target, const std::string& bytes) {
+void packAlone(const App& app, const std::string& target, const std::string& bytes) {
     file::Zip Zip;
-    Zip.CreateArchive(target, "");
+    Zip.CreateArchive(target, "", app.document.currentFile);
     addData(Zip, bytes);
     Zip.CloseArchive();
 }

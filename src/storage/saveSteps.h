@@ -16,8 +16,8 @@ namespace storage {
 void keepDataFile(app::App& app, const std::string& bytes);
 // Puts it into the open archive.
 void addData(file::Zip& Zip, const std::string& bytes);
-// A new archive that holds the text of the database alone.
-void packAlone(const std::string& target, const std::string& bytes);
+// A new archive that holds the text of the database alone. Made from the one that is open, it is as private.
+void packAlone(const app::App& app, const std::string& target, const std::string& bytes);
 // Says that the database could not be written, and answers why.
 [[nodiscard]] core::RunTimeError tellFailure(app::App& app, bool bSaveAs, const std::exception& error);
 

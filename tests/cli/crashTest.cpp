@@ -13,7 +13,7 @@ protected:
     std::intmax_t bytesBeside() const {
         std::error_code error;
         for (const auto& entry : std::filesystem::directory_iterator(files))
-            if (entry.path().filename().string().front() == '.')
+            if (entry.path().filename().string().starts_with(".a.fwk."))
                 return static_cast<std::intmax_t>(entry.file_size(error));
         return -1;
     }
@@ -40,8 +40,10 @@ TEST_F(Crash, AKillAtAnyMomentLeavesAWholeFile) {
         killed += early ? 1 : 0;
         const std::string found = dataFileOf("a.fwk"); // raises when the archive is not whole
         EXPECT_TRUE(found == sorted || (early && found == old)) << moment;
-        // A killed writer can leave the file that it wrote beside the database, and nothing else.
-        EXPECT_EQ(run("rm -f .a.fwk.*; ls -A . ../home/tmp").out, ".:\na.fwk\n\n../home/tmp:\n") << moment;
+        // A killed writer can leave the file that it wrote beside the database and its lock, and nothing
+        // else.
+        EXPECT_EQ(run("rm -f .a.fwk.* .~lock.a.fwk#; ls -A . ../home/tmp").out, ".:\na.fwk\n\n../home/tmp:\n")
+            << moment;
     }
     EXPECT_GE(killed, 3) << "the kills came too late to show anything";
 }

@@ -52,7 +52,8 @@ std::unique_ptr<drawing::DrawTarget> QtPlatform::openPrinter(const std::string& 
     const std::optional<std::string> file = askForPdfFile(documentName);
     if (!file) return nullptr;
     try {
-        return qtprint::openPdfFile(*file, documentName, textMetrics_);
+        const std::string database = window_.currentFile ? window_.currentFile() : std::string();
+        return qtprint::openPdfFile(*file, documentName, textMetrics_, database);
     } catch (const core::RunTimeError& error) {
         msgBox(*file + " could not be written.\n" + error.what(), platform::Icon::Exclamation,
                "Print to PDF");
