@@ -66,7 +66,8 @@ void writeAsFile(const RecoveryCopy& copy, const std::string& target) {
     try {
         Zip.OpenArchive(copy.note.file);
     } catch (const core::RunTimeError&) {
-        Zip.CreateArchive(target); // without pictures, when the file has gone or is damaged
+        // Without pictures, when the file has gone or is damaged, and for this user alone, as the copy is.
+        Zip.CreateArchive(target, "", copy.archive);
     }
     Zip.addBuffer("data.dat", text, "Main Data File");
     Zip.CloseArchiveAs(target);

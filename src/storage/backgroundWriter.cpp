@@ -25,6 +25,7 @@ constexpr unsigned longestSeconds = 120;
 [[noreturn]] void workAndLeave(const std::function<void()>& work) {
     for (const int number : {SIGTERM, SIGHUP, SIGINT, SIGALRM, SIGPIPE}) std::signal(number, SIG_DFL);
     ::alarm(longestSeconds);
+    (void)!::nice(10); // the window goes first
     int code = EXIT_SUCCESS;
     try {
         work();

@@ -1,5 +1,6 @@
 #include "storage/openedFile.h"
 
+#include "app/windowState.h"
 #include "core/runTimeError.h"
 #include "file/dataWriter.h"
 #include "file/zip.h"
@@ -94,6 +95,7 @@ void takeNext(App& app) {
     }
     opened.next.reset();
     opened.path = path;
+    app::showCaption(app); // which says whether it is read only
 }
 
 } // namespace
@@ -173,7 +175,8 @@ void followStored(App& app) {
     if (!app.platform.guardsFiles()) opened.path = app.document.currentFile;
     if (!app.platform.guardsFiles()) return;
     if (opened.path != app.document.currentFile || opened.next) takeNext(app);
-    remember(app, FileState::of(opened.path));
+    remember(app, opened.written ? *opened.written : FileState::of(opened.path));
+    opened.written.reset();
 }
 
 // Had somebody else written it before, its records are still not ours.
@@ -211,7 +214,8 @@ void replaceAtNextSave(App& app) {
 
 void writeOpenedAgain(App& app) {
     try {
-        packAlone(app.document.currentFile, file::encodeDataFile(file::writeDataFile(app.document, false)));
+        packAlone(app, app.document.currentFile,
+                  file::encodeDataFile(file::writeDataFile(app.document, false)));
         app::setDocumentModified(app, false);
         app.changes.announce(app, app::Change::Stored);
     } catch (const core::RunTimeError& error) {

@@ -15,11 +15,11 @@ namespace {
 
 using app::App;
 
-void pack(const std::string& archive, const std::string& bytes) {
+void pack(App& app, const std::string& bytes) {
     file::Zip Zip;
-    Zip.OpenArchive(archive);
+    Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
-    Zip.CloseArchive();
+    openedFile(app).written = Zip.CloseArchive();
 }
 
 // The copy carries all the images along. It is finished beside its place and takes it in one step, so
@@ -28,15 +28,17 @@ void packCopy(App& app, const std::string& target, const std::string& bytes) {
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
-    Zip.CloseArchiveAs(target);
+    openedFile(app).written = Zip.CloseArchiveAs(target);
     app.document.currentFile = target;
 }
 
 void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
-    if (!target || !mayWriteTo(app, *target)) return;
+    if (!target || !mayWriteTo(app, *target) || !guardTarget(app, *target)) return;
+    app.changes.announce(app, app::Change::Writing); // the file may be the open one
     packAlone(app, *target, bytes);
+    app.changes.announce(app, app::Change::Written);
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {
@@ -52,7 +54,7 @@ void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool
     if (saveAsTarget)
         packCopy(app, *saveAsTarget, bytes);
     else
-        pack(app.document.currentFile, bytes);
+        pack(app, bytes);
     app::showCaption(app);
     app::showFileSize(app);
     app.changes.announce(app, app::Change::Stored);

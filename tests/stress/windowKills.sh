@@ -18,7 +18,7 @@ export HOME=$folder XDG_CONFIG_HOME=$folder/config XDG_DATA_HOME=$folder/data XD
 export XDG_RUNTIME_DIR=$folder QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
 mkdir -p "$XDG_CONFIG_HOME/ferrowick"
 printf '[StartUp]\nDisclaimer=True\n' >"$XDG_CONFIG_HOME/ferrowick/ferrowick.conf"
-Xvfb -displayfd 3 -screen 0 1200x800x24 3>"$folder/display" 2>/dev/null &
+Xvfb -noreset -displayfd 3 -screen 0 1200x800x24 3>"$folder/display" 2>/dev/null &
 server=$!
 for _ in {1..100}; do [[ -s $folder/display ]] && break || sleep 0.1; done
 DISPLAY=:$(<"$folder/display")
