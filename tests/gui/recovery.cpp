@@ -5,6 +5,7 @@
 #include "storage/recoveryCopies.h"
 
 #include <csignal>
+#include <ctime>
 
 namespace fs = std::filesystem;
 
@@ -101,10 +102,16 @@ private slots:
         auto* field = run.window.findChild<gui::TextBox*>();
         field->setFocus();
         using Clock = storage::UnsavedWork::Clock;
+        // Of this thread: what else the machine does is not the program's.
         const auto microseconds = [](auto&& act) {
-            const auto start = Clock::now();
+            const auto now = [] {
+                timespec time{};
+                ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+                return time.tv_sec * 1'000'000L + time.tv_nsec / 1000;
+            };
+            const long start = now();
             act();
-            return (Clock::now() - start) / std::chrono::microseconds(1);
+            return now() - start;
         };
         const auto press = [&] { return microseconds([&] { QTest::keyClick(field, Qt::Key_X); }); };
         std::vector<long> begins, keys, quiet;
@@ -124,7 +131,7 @@ private slots:
               "most %ld us",
               begins.front(), begins.back(), keys[keys.size() / 2], keys[keys.size() * 99 / 100], keys.back(),
               quiet[quiet.size() / 2], quiet.back());
-        QVERIFY(begins[begins.size() / 2] + keys[keys.size() / 2] < 8000);
+        QVERIFY(begins[begins.size() / 2] + keys[keys.size() * 99 / 100] < 8000);
         storage::removeUnsavedWork(run.app);
     }
 
