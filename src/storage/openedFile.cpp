@@ -203,8 +203,8 @@ void readOpenedAgain(App& app) {
 
 void acceptForeignState(App& app) {
     OpenedFile& opened = openedFile(app);
-    opened.isForeign = true;
     opened.state = FileState::of(opened.path);
+    opened.isForeign = opened.state.isThere(); // one that has gone is told by the save
 }
 
 void replaceAtNextSave(App& app) {
