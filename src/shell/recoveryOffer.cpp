@@ -103,12 +103,18 @@ bool isArchive(const std::string& file) {
     }
 }
 
-// What was typed on the sheet and not stored is shown on it again. In an invoice database the fields follow
-// the list on show, and what is typed is stored with each field that is reached.
+// What was typed on the sheet and not stored is shown on it again.
 void showTyped(App& app, const RecoveryNote& note) {
     core::RecordsList& records = app.document.LV;
-    if (!note.isTyped || app.document.bInvoiceStyle || note.row >= records.count()) return;
-    if (note.row > 0) records.setSelectedItem(&records.at(note.row));
+    if (!note.isTyped || note.row >= records.count()) return;
+    if (note.row > 0) {
+        core::Item& record = records.at(note.row);
+        records.setSelectedItem(&record);
+        // The page of an invoice database follows the list on show.
+        if (app.document.bInvoiceStyle)
+            if (core::Item* row = app.document.iLV.findText(record.Key))
+                app.document.iLV.setSelectedItem(row);
+    }
     SSTab1_Click(app, app::layoutTab);
     if (note.row == 0 && !entry::isSheetNew(app)) entry::layoutNavBar_ButtonClick(app, "New");
     for (const auto& [index, text] : note.fields)
