@@ -22,6 +22,11 @@ std::string nameOf(const std::string& path) {
     return std::filesystem::path(path).filename().string();
 }
 
+bool isSameFile(const std::string& one, const std::string& other) {
+    std::error_code error;
+    return one == other || std::filesystem::equivalent(one, other, error);
+}
+
 // A folder that takes no lock file lets nobody write the database either.
 bool isFree(const WriterLock::Outcome& outcome) {
     return outcome.result == WriterLock::Result::Taken || outcome.result == WriterLock::Result::Impossible;
@@ -83,7 +88,7 @@ void takeNext(App& app) {
     if (opened.next && opened.next->path == path) {
         if (opened.next->lock)
             opened.lock = std::move(opened.next->lock); // the one before is given back
-        else if (opened.path != path)
+        else if (!opened.next->isSame)
             opened.lock.reset();
         app.mainFrm.bReadOnly = opened.next->bReadOnly;
     } else {
@@ -103,8 +108,8 @@ void takeNext(App& app) {
 std::optional<std::string> guardOpening(App& app, const std::string& path) {
     OpenedFile& opened = openedFile(app);
     if (!app.platform.guardsFiles()) return path;
-    opened.next = OpenedFile::Next{path, {}, false, {}};
-    if (opened.path == path && opened.lock && opened.lock->isStillHeld()) return path; // ours already
+    opened.next = OpenedFile::Next{path, {}, false, isSameFile(opened.path, path), {}};
+    if (opened.next->isSame && opened.lock && opened.lock->isStillHeld()) return path;
     std::optional<WriterLock::Outcome> outcome = tryLock(path);
     if (!outcome) return path;
     opened.next->lock = std::move(outcome->lock);
@@ -154,8 +159,8 @@ SaveWay waySaveOver(App& app) {
 bool guardTarget(App& app, const std::string& target) {
     OpenedFile& opened = openedFile(app);
     if (!app.platform.guardsFiles()) return true;
-    opened.next = OpenedFile::Next{target, {}, false, {}};
-    if (opened.path == target) {
+    opened.next = OpenedFile::Next{target, {}, false, isSameFile(opened.path, target), {}};
+    if (opened.next->isSame) {
         opened.next->bReadOnly = app.mainFrm.bReadOnly;
         if (!app.mainFrm.bReadOnly) return true;
     }

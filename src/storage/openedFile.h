@@ -24,6 +24,7 @@ struct OpenedFile {
         std::string path;
         std::optional<file::WriterLock> lock;
         bool bReadOnly = false;
+        bool isSame = false;   // as the open one, perhaps by another name: its lock is the one
         file::FileState state; // ahead of reading it
     };
     std::optional<Next> next;

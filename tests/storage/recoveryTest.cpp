@@ -265,6 +265,7 @@ TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
 TEST_F(Recovery, TwoWindowsAskEachOther) {
     Window first(home), second(home);
     first.open(file);
+    EXPECT_EQ((first.open(maker.path("./books.fwk")), first.open(file), first.told()), ""); // by another name
     second.app.document.currentFile = "";
     second.open(file); // waved away
     EXPECT_EQ(second.app.document.currentFile, "");
