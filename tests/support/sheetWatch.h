@@ -7,10 +7,8 @@
 #include "shell/listEvents.h"
 
 #include <array>
-#include <cstdlib>
 #include <map>
 #include <random>
-#include <vector>
 
 enum SheetKind {
     Tab,
@@ -18,8 +16,7 @@ enum SheetKind {
     Find,
     Leave,
     Focus,
-    TypeName,
-    TypeNumber,
+    Type,
     Go,
     Slide,
     Copy,
@@ -91,8 +88,8 @@ private:
     Records records() const {
         Records all;
         app_.document.LV.forEach([&](const core::Item& item) {
-            if (item.isTotals()) return;
-            for (const core::CellText& cell : item.cells) all[item.Key.str()] += cell.str() + "|";
+            for (const core::CellText& cell : item.cells)
+                if (!item.isTotals()) all[item.Key.str()] += cell.str() + "|";
         });
         return all;
     }
@@ -123,8 +120,8 @@ private:
         if (event.what == Find) hands_.find(event.how % 8 == 1 ? "" : name, event.how % 8 == 0);
         if (event.what == Leave && app_.mainFrm.control("Search").Value) hands_.command("Search");
         if (event.what == Focus && isPage) hands_.focusField(1 + which % 4);
-        if (event.what == TypeName && isPage) hands_.type(2, name);
-        if (event.what == TypeNumber && isPage) hands_.type(4, std::to_string(which));
+        if (event.what == Type && isPage)
+            event.how % 2 == 0 ? hands_.type(2, name) : hands_.type(4, std::to_string(which));
         if (!key.empty()) hands_.navigate(key);
         if (event.what == Slide && isPage) hands_.slide(which % 8);
         if (event.what == Copy && !app_.document.bInvoiceStyle && count < 12) hands_.command("mnuDuplicate");
@@ -167,32 +164,28 @@ private:
     int given_ = 0;
 };
 
-// Plays events up to a kind, that many or as many as FERROWICK_EVENTS asks for, in runs that each begin
-// afresh. Tells the seed of what goes wrong, and the fewest events found that still do it.
+// Plays that many events up to a kind, in runs that each begin afresh. Tells the seed of what goes wrong, and
+// the fewest events found that still do it.
 template <typename Play>
-std::string failureOf(int byDefault, SheetKind last, const Play& play) {
-    constexpr unsigned each = 200;
-    const char* wanted = std::getenv("FERROWICK_EVENTS");
-    const auto count = static_cast<unsigned>(wanted == nullptr ? byDefault : std::atoi(wanted));
-    for (unsigned seed = 1; seed <= count / each + 1; ++seed) {
-        std::mt19937 random(seed);
+std::string failureOf(int count, SheetKind last, const Play& play) {
+    constexpr int each = 200;
+    for (int seed = 1; seed <= count / each + 1; ++seed) {
+        std::mt19937 random(static_cast<unsigned>(seed));
         const auto below = [&](unsigned end) { return static_cast<unsigned>(random()) % end; };
         SheetEvents events;
-        while (events.size() < each) events.push_back({below(last + 1), below(64), below(64)});
+        while (events.size() < each) events.push_back({below(last + 1U), below(64), below(64)});
         std::string wrong = play(events);
-        if (wrong.empty()) continue;
-        for (std::size_t i = events.size(); i-- > 0;) {
+        for (std::size_t i = wrong.empty() ? 0 : events.size(); i-- > 0;) {
             SheetEvents fewer = events;
             fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(i));
-            if (const std::string still = play(fewer); !still.empty()) {
-                events = std::move(fewer);
-                wrong = still;
-            }
+            const std::string still = play(fewer);
+            if (!still.empty()) std::tie(events, wrong) = std::pair(fewer, still);
         }
-        wrong = "seed " + std::to_string(seed) + ": " + wrong;
-        for (const auto& [what, which, how] : events)
-            wrong += "\n" + std::to_string(what) + " " + std::to_string(which) + " " + std::to_string(how);
-        return wrong;
+        if (wrong.empty()) continue;
+        std::ostringstream all;
+        all << "seed " << seed << ": " << wrong;
+        for (const auto& [what, which, how] : events) all << "\n" << what << " " << which << " " << how;
+        return all.str();
     }
     return {};
 }
