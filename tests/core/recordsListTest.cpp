@@ -101,12 +101,8 @@ TEST_F(Records, SumsAddAndSubtract) {
     open(DataFile("Qty:4 Price:2 Value:5 No:4 Name", "1,234|$1,234.50|3|1|a;2|$.50|4.50|2|b;1@2@|.25|7|3|c"));
     total({"Qty", "Price", "Value", "Name", "Gone"});
     std::string all;
-    for (const auto& [mode, row] : {std::pair(TotalsMode::Add, 1),
-                                    {TotalsMode::Add, 2},
-                                    {TotalsMode::Subtract, 1},
-                                    {TotalsMode::Add, 3},
-                                    {TotalsMode::Add, 0}}) {
-        UpdateTotalsRow(app.document, mode, list, row);
+    for (const int row : {1, 2, -1, 3, 0}) {
+        UpdateTotalsRow(app.document, row < 0 ? TotalsMode::Subtract : TotalsMode::Add, list, std::abs(row));
         all += totals() + " ";
     }
     EXPECT_EQ(all, "1|$1,234.50|3|------|------| 3|$1,235.00|$7.50|------|------| 2|$.50|4.5|------|------| "

@@ -2,6 +2,7 @@
 #include "layout/layoutPage.h"
 #include "print/layoutPageSetupFrm.h"
 #include "print/reportPageSetup.h"
+#include "print/reportPrinting.h"
 #include "printRecorder.h"
 #include "raised.h"
 #include "shell/mainWindow.h"
@@ -58,7 +59,12 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
         invoices.ApplyBtn_Click();
         EXPECT_EQ(section(view == 1 ? "[PrnItemCols" : "[PrnInvoiceCols"), invoices.LV3[view].Text + "|");
         EXPECT_EQ(section("[Printed Cols"), invoices.LV3[view].Text + "|");
+        const std::string words = wordsOf(preview());
+        shell::SSTab1_Click(app, app::previewTab);
+        EXPECT_EQ(wordsOf(preview()), words) << "the invoices";
     }
+    app.document.searchLV.Visible = true;
+    EXPECT_EQ(&print::reportList(app), app.mainFrm.theListView);
     EXPECT_NE(section("[PrnItemCols"), section("[PrnInvoiceCols"));
 }
 

@@ -153,17 +153,6 @@ TEST_F(Report, WhatCannotBePrintedIsToldOnce) {
     EXPECT_TRUE(platform.forms.empty());
 }
 
-TEST_F(Report, AnInvoiceDatabaseReportsItsInvoices) {
-    openCopyOf("invoices.fwk");
-    app.document.printedCols.clear();
-    for (const core::Column& column : app.document.iLV.columns)
-        if (column.Index != 1) app.document.printedCols.add(column.Text);
-    showPreview();
-    EXPECT_NE(wordsOf(preview()).find("Ærø"), std::string::npos) << wordsOf(preview());
-    app.document.searchLV.Visible = true;
-    EXPECT_EQ(&print::reportList(app), app.mainFrm.theListView);
-}
-
 TEST_F(Report, ThePageStandsInItsPort) {
     openRecords(1);
     showPreview();

@@ -68,30 +68,25 @@ struct Printed {
     std::string paper; // the last size
 };
 
-class RecordingPrinter : public drawing::RecordedPage {
-public:
-    explicit RecordingPrinter(Printed& printed) : printed_(printed) {}
-    bool isPrinter() const override { return true; }
-    bool close() override { return !(printed_.ends += '.').empty(); }
+struct RecordingPrinter : drawing::RecordedPage {
+    Printed& printed;
+    std::ptrdiff_t done = 0; // of what is drawn
 
-protected:
+    explicit RecordingPrinter(Printed& into) : printed(into) {}
+    bool isPrinter() const override { return true; }
+    bool close() override { return !(printed.ends += '.').empty(); }
     void pageSet(const drawing::PageSetup& setup) override {
         RecordedPage::pageSet(setup);
-        done_ = 0;
-        printed_.paper = placeOf(setup.Width, setup.Height);
+        done = 0;
+        printed.paper = placeOf(setup.Width, setup.Height);
     }
     void startSheet() override { finish('/'); }
     void endDocument() override { finish('|'); }
-
-private:
     void finish(char end) {
-        printed_.sheets.emplace_back(drawn().begin() + std::exchange(done_, std::ssize(drawn())),
-                                     drawn().end());
-        printed_.ends += end;
+        const auto from = drawn().begin() + std::exchange(done, std::ssize(drawn()));
+        printed.sheets.emplace_back(from, drawn().end());
+        printed.ends += end;
     }
-
-    Printed& printed_;
-    std::ptrdiff_t done_ = 0; // of what is drawn
 };
 
 // A machine with such a printer. Its print dialog is among the forms, with paper and orientation as shown.
@@ -150,8 +145,8 @@ struct PrintProgram : ProgramOn<PrintingPlatform> {
         std::string all;
         for (const std::string_view key : core::split(buttons, ' ')) {
             print::reportToolbar_ButtonClick(app, key);
-            all += rowsOf(preview()) + ">" +
-                   std::to_string(isReport ? page.iReportStartRow : page.iLayoutIndex) + "; ";
+            const int next = isReport ? page.iReportStartRow : page.iLayoutIndex;
+            all += rowsOf(preview()) + ">" + std::to_string(next) + "; ";
         }
         return all;
     }

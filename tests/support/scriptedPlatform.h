@@ -39,6 +39,8 @@ struct TestFolder {
 
 // A machine that answers from a script and remembers what it was asked.
 struct ScriptedPlatform : platform::Platform, TestFolder {
+    using Text = const std::string&;
+    using Dialog = const platform::FileDialog&;
     static constexpr auto read = readBytes;
     static constexpr auto write = writeBytes;
 
@@ -54,35 +56,31 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
 
     // What was asked. A message has a mark for its icon ("-" none, "i", "!", "?", "x") ahead, and the caption
     // when that is not the program's name.
-    std::vector<std::string> messages, forms, links;
+    std::vector<std::string> messages, forms, links, proposed;
     std::vector<platform::FileDialog> dialogs;
     std::vector<platform::FontChoice> shownFonts;
-    std::vector<std::string> proposed; // by input boxes
     int paints = 0;
     std::map<std::string, std::string> settings;
     std::chrono::year_month_day day{std::chrono::year(2026) / 3 / 14};
 
     ScriptedPlatform() { fs::create_directories(ScriptedPlatform::tempFolder()); }
 
-    platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
+    platform::Answer msgBox(Text text, platform::Icon icon, Text caption,
                             platform::Buttons buttons) override {
         const char mark = "-i!?x"[static_cast<int>(icon)];
         messages.push_back(mark + (caption == "Ferrowick" ? " " : " " + caption + ": ") + text);
         return buttons == platform::Buttons::Ok ? platform::Answer::Ok : take(answers, platform::Answer::No);
     }
-    std::string inputBox(const std::string& prompt, const std::string& title,
-                         const std::string& text) override {
+    std::string inputBox(Text prompt, Text title, Text text) override {
         msgBox(prompt, platform::Icon::None, title, platform::Buttons::Ok);
         proposed.push_back(text);
         return take(inputs, std::string());
     }
-    std::optional<std::string> showOpen(const platform::FileDialog& dialog) override {
+    std::optional<std::string> showOpen(Dialog dialog) override {
         dialogs.push_back(dialog);
         return take(files, std::optional<std::string>());
     }
-    std::optional<std::string> showSave(const platform::FileDialog& dialog) override {
-        return showOpen(dialog);
-    }
+    std::optional<std::string> showSave(Dialog dialog) override { return showOpen(dialog); }
     void showForm(std::string_view name) override {
         forms.emplace_back(name);
         if (onForm) onForm(name);
@@ -108,7 +106,7 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
         ++paints;
         onPaint();
     }
-    void openLink(const std::string& target) override { links.push_back(target); }
+    void openLink(Text target) override { links.push_back(target); }
     fs::path workFolder() override { return folder / "work"; }
     fs::path tempFolder() override { return folder / "work" / "Temp"; }
     void clearWorkFiles() override {
@@ -116,10 +114,10 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
         fs::remove(workFolder() / "data.dat");
     }
     bool keepsDataFile() const override { return true; }
-    std::string getSetting(const std::string& key, const std::string& byDefault) override {
+    std::string getSetting(Text key, Text byDefault) override {
         return settings.contains(key) ? settings[key] : byDefault;
     }
-    void saveSetting(const std::string& key, const std::string& value) override { settings[key] = value; }
+    void saveSetting(Text key, Text value) override { settings[key] = value; }
     void flushSettings() override {}
     std::chrono::year_month_day today() override { return day; }
 
