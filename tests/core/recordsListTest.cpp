@@ -39,24 +39,21 @@ TEST(ColumnHeaders, FindByNameInAnyCaseAndRefuseASecond) {
     EXPECT_EQ(columns["LAST"].Index, 2);
 }
 
+// The columns as shown, and what was asked for; a whole arrangement is taken as it stands.
 TEST(ColumnHeaders, TakePositions) {
-    // The columns as shown, and what was asked for; a whole arrangement is taken as it stands.
-    using Asked = std::vector<int>;
-    for (const auto& [asked, wanted] : {std::pair(Asked{4, 3, 2, 1}, Asked{4, 3, 2, 1}),
-                                        {{2, 3, 1, 4}, {3, 1, 2, 4}},
-                                        {{1, 4}, {1, 3, 4, 2}},
-                                        {{9, 1, 1, -5}, {4, 3, 2, 1}},
-                                        {{1, 2, 3, 5}, {1, 2, 3, 4}},
-                                        {{2, 2, 2, 2}, {1, 4, 3, 2}},
-                                        {{}, {1, 2, 3, 4}}}) {
-        ColumnHeaders columns;
-        for (const char* name : {"Index", "A", "B", "C"}) columns.add(name, name);
-        EXPECT_EQ(raisedBy([&] { columns.setPositions({5, 4, 3, 2, 1}); }), errors::indexOutOfBounds);
-        columns.setPositions(asked);
-        EXPECT_EQ(columns.displayOrder(), wanted);
-        columns.remove(2); // the rest closes up
-        EXPECT_EQ(columns.displayOrder().size(), 3U);
-    }
+    expectEach("4321 -> 4 3 2 1|9 1 1 -5; 3124 -> 2 3 1 4; 1342 -> 1 4; 1234 -> 1 2 3 5|; 1432 -> 2 2 2 2; "
+               "Index out of bounds -> 5 4 3 2 1",
+               [](const std::string& text) {
+                   std::istringstream positions(text);
+                   ColumnHeaders columns;
+                   for (const char* name : {"Index", "A", "B", "C"}) columns.add(name, name);
+                   columns.setPositions({std::istream_iterator<int>(positions), {}});
+                   std::string order;
+                   for (const int index : columns.displayOrder()) order += std::to_string(index);
+                   columns.remove(2); // the rest closes up
+                   EXPECT_EQ(columns.displayOrder().size(), 3U);
+                   return order;
+               });
 }
 
 struct Records : testing::Test, Program {
