@@ -93,19 +93,6 @@ TEST_F(Records, TheTotalsRowGoesLastAndTheOneBeforeItIsSelected) {
     EXPECT_EQ(totals(), "1|2|");
 }
 
-TEST_F(Records, SumsAddAndSubtract) {
-    // Without money a comma ends the number.
-    open(DataFile("Qty:4 Price:2 Value:5 No:4 Name", "1,234|$1,234.50|3|1|a;2|$.50|4.50|2|b;1@2@|.25|7|3|c"));
-    total({"Qty", "Price", "Value", "Name", "Gone"});
-    std::string all;
-    for (const int row : {1, 2, -1, 3, 0}) {
-        UpdateTotalsRow(app.document, row < 0 ? TotalsMode::Subtract : TotalsMode::Add, list, std::abs(row));
-        all += totals() + " ";
-    }
-    EXPECT_EQ(all, "1|$1,234.50|3|------|------| 3|$1,235.00|$7.50|------|------| 2|$.50|4.5|------|------| "
-                   "-----|$.75|11.5|------|------| -----|$.75|11.5|------|------| ");
-}
-
 TEST(Sorting, KeysOfTheTypes) {
     for (const auto& c : table(
              "1 -> 05/04/2001 -> 20010504; 1; 1 -> 5/4/2001 -> 20015//2; 4 -> 42 ->                     42; "

@@ -25,8 +25,7 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     print::reportPageSetup form(app);
     form.Command1_Click();
     EXPECT_TRUE(form.unloaded && app.document.bModified);
-    EXPECT_EQ(section("[Report Data") + section("[Printed Cols"), "1|0.5|0.25|2|1|2|Old|True|Price|")
-        << "unchanged";
+    EXPECT_EQ(section("[Report Data") + section("[Printed Cols"), "1|0.5|0.25|2|1|2|Old|True|Price|");
     EXPECT_FALSE(form.allChk());
     form.allChk_Click(true);
     EXPECT_TRUE(form.allChk());
@@ -37,13 +36,12 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     form.PortraitOpt = true;
     form.titleTxt = "  New ";
     form.leftTxt = "1.5in";
-    form.rightTxt = "wide";
+    form.rightTxt = "wide"; // reads as 0
     form.TopTxt = "0.25";
     print::previewPage(app).iReportStartRow = 9;
     form.ApplyBtn_Click();
     EXPECT_EQ(section("[Report Data") + section("[Printed Cols") + section("[PrnInvoiceCols"),
-              "1.5|0|0.25|2|5|1|New|False|Price|Name|")
-        << "a text reads as 0";
+              "1.5|0|0.25|2|5|1|New|False|Price|Name|");
     EXPECT_EQ(wordsOf(preview()), "New Price Name $1.50 Bolt $.25 Nut ------ ------");
     EXPECT_NE(drawnOn(preview()).find("; Price@3350,360"), std::string::npos) << drawnOn(preview());
     EXPECT_FALSE(form.unloaded);
@@ -57,8 +55,8 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
         invoices.allChk_Click(false);
         invoices.LV3.at(view).Checked = true;
         invoices.ApplyBtn_Click();
-        EXPECT_EQ(section(view == 1 ? "[PrnItemCols" : "[PrnInvoiceCols"), invoices.LV3[view].Text + "|");
-        EXPECT_EQ(section("[Printed Cols"), invoices.LV3[view].Text + "|");
+        for (const char* name : {view == 1 ? "[PrnItemCols" : "[PrnInvoiceCols", "[Printed Cols"})
+            EXPECT_EQ(section(name), invoices.LV3[view].Text + "|");
         const std::string words = wordsOf(preview());
         shell::SSTab1_Click(app, app::previewTab);
         EXPECT_EQ(wordsOf(preview()), words) << "the invoices";

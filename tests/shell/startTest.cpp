@@ -98,23 +98,22 @@ TEST_F(Start, TheFileOfTheStart) {
 }
 
 TEST_F(Start, TheEndKeepsTheSettingsAndOffersToSave) {
-    for (const bool isAsked : {false, true})
-        for (const bool isModified : {false, true})
-            for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel}) { // it cannot be cancelled
-                open(copyOf("books.fwk"));
-                app.document.LV.at(1).cells[1] = "changed";
-                app.mainFrm.bSavePrompt = isAsked;
-                app::setDocumentModified(app, isModified);
-                platform.log.clear();
-                platform.answers = {answer};
-                shell::Form_QueryUnload(app);
-                const bool asks = isAsked && isModified;
-                EXPECT_EQ(platform.log + told(),
-                          asks ? "write flush ? Save current document?" : "write flush ");
-                EXPECT_EQ(dataFileOf(books).find("|changed|") != std::string::npos,
-                          asks && answer != Answer::No);
-                EXPECT_TRUE(app.mainFrm.unloaded && fs::exists(platform.workFolder() / "data.dat"));
-            }
+    // Whether it is to ask, what is changed, and the answer, by which it cannot be cancelled.
+    for (const auto& c : table("ask -> changed -> Yes -> saves; ask -> changed -> Cancel -> saves; "
+                               "ask -> changed -> No; ask ->  -> Yes;  -> changed -> Yes",
+                               4)) {
+        open(copyOf("books.fwk"));
+        app.document.LV.at(1).cells[1] = "changed";
+        app.mainFrm.bSavePrompt = !c[0].empty();
+        app::setDocumentModified(app, !c[1].empty());
+        platform.log.clear();
+        platform.answers = {c[2] == "No" ? Answer::No : c[2] == "Yes" ? Answer::Yes : Answer::Cancel};
+        shell::Form_QueryUnload(app);
+        const bool asks = app.mainFrm.bSavePrompt && !c[1].empty();
+        EXPECT_EQ(platform.log + told(), asks ? "write flush ? Save current document?" : "write flush ");
+        EXPECT_EQ(dataFileOf(books).find("|changed|") != std::string::npos, !c[3].empty());
+        EXPECT_TRUE(app.mainFrm.unloaded && fs::exists(platform.workFolder() / "data.dat"));
+    }
 }
 
 TEST_F(Start, RecentFilesOpenWithoutAQuestion) {

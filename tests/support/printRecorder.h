@@ -151,10 +151,10 @@ struct PrintProgram : ProgramOn<PrintingPlatform> {
         return all;
     }
     static std::string rowsOf(const Page& page) {
-        std::vector<std::string> rows;
+        std::string first, last;
         const std::string words = wordsOf(page);
         for (const std::string_view word : core::split(words, ' '))
-            if (word.starts_with("r") || word.starts_with("-")) rows.emplace_back(word);
-        return rows.empty() ? "" : rows.front() + (rows.size() > 1 ? ".." + rows.back() : "");
+            if (word.starts_with("r") || word.starts_with("-")) (first.empty() ? first : last) = word;
+        return first + (last.empty() ? "" : ".." + last);
     }
 };
