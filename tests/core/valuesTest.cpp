@@ -114,8 +114,7 @@ TEST(Format, WritesEveryMask) {
                "12,345,678,901,234,567,890",
                5)) {
         SCOPED_TRACE(c[0]);
-        for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(format(c[0], allMasks[i]), c[i + 1]);
-        EXPECT_EQ(format(c[0], Mask::InvoiceMoney), c[1]);
+        for (std::size_t i = 0; i < 5; ++i) EXPECT_EQ(format(c[0], allMasks[i]), c[i % 4 + 1]);
     }
     EXPECT_EQ(format("1e308", Mask::Whole), "1" + std::string(308, '0'));
     // What is no number, or one of too many digits, comes back as it stands.

@@ -52,6 +52,7 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     for (const std::size_t view : {0U, 1U}) {
         app.document.bInvoiceView = view == 1;
         print::reportPageSetup invoices(app);
+        EXPECT_EQ(std::ssize(invoices.LV3), app.document.iLV.columns.count() - 1);
         invoices.allChk_Click(false);
         invoices.LV3.at(view).Checked = true;
         invoices.ApplyBtn_Click();
