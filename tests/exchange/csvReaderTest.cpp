@@ -66,7 +66,7 @@ TEST(CsvWriter, IsReadBack) {
 }
 
 // A column of these cells, its type, and what it stores.
-TEST(ColumnTypes, AreGuessed) {
+TEST(ColumnTypes, AreGuessedOrStandInTheHeader) {
     auto cases = table("12\n-3.5\n \n.5\n0\n0.50 -> Number -> 12/-3.5//.5/0/0.50/; "
                        "123456789012345 -> Number -> 123456789012345/; 5\n,,, -> Number -> 5/; "
                        "$5\n\"-$1,234.5\"\n$.05\n$0.50 -> Currency -> $5.00/-$1,234.50/$.05/$.50/; "
@@ -94,13 +94,11 @@ TEST(ColumnTypes, AreGuessed) {
                exchange::storedCell(columns[i], items.cell(0, i)) + "; ";
     EXPECT_EQ(all, "Number 2@3@; Currency $1.00@@$1,250.50@; Date 01/02/2024@; Text a@1@; ");
     EXPECT_EQ(exchange::columnsOf(items)[0].type, core::ColumnType::Text);
-}
-
-TEST(ColumnTypes, StandInTheHeader) {
-    const auto columns = exchange::columnsOf(CsvTable("a:b:number,c:Text\n0012,x\n"));
-    EXPECT_EQ(columns[0].name, "a:b");
-    EXPECT_EQ(columns[0].type, core::ColumnType::Number);
-    EXPECT_EQ(exchange::storedCell(columns[0], " 0012"), " 0012");
+    // In the header they are told.
+    const auto typed = exchange::columnsOf(CsvTable("a:b:number,c:Text\n0012,x\n"));
+    EXPECT_EQ(typed[0].name, "a:b");
+    EXPECT_EQ(typed[0].type, core::ColumnType::Number);
+    EXPECT_EQ(exchange::storedCell(typed[0], " 0012"), " 0012");
     for (const char* header : {"a:Number,b", "a:Number,b:Words", "a:Number,:Text"})
         EXPECT_FALSE(exchange::typedColumns(CsvTable(header))) << header;
     EXPECT_EQ(exchange::columnName(" Unit Price "), "Unit_Price");

@@ -87,7 +87,7 @@ struct MainWindow : testing::Test, Program {
     }
 };
 
-TEST_F(MainWindow, CommandsAreEnabledByWhatIsOpen) {
+TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
     // In one menu no two items answer to the same letter, or one of them cannot be reached by it.
     for (const shell::Menu& menu : shell::menuBar()) {
         std::set<int> letters;
@@ -120,6 +120,10 @@ TEST_F(MainWindow, CommandsAreEnabledByWhatIsOpen) {
     EXPECT_EQ(those(disabled), "Delete " + prints + many + "mnuDuplicate ");
     app::enableControls(app, false);
     EXPECT_EQ(mainFrm.Caption, "Ferrowick");
+    // Sizes are cut, not rounded.
+    for (const auto& c : table("999 -> 999 bytes.; 1000 -> 1 KB; 99999 -> 99 KB; 999999 -> 999 KB; "
+                               "1000000 -> 1 MB; 4294967296 -> 42 MB"))
+        EXPECT_EQ(app::fileSizeText(std::stoull(c[0])), c[1]);
 }
 
 TEST_F(MainWindow, CommandsReachTheRoutineBehindThem) {
@@ -255,13 +259,6 @@ TEST_F(MainWindow, DoubleClicks) {
         EXPECT_EQ(iLV.columns.displayOrder() == moved, view == 1);
         EXPECT_EQ(text(document.printedCols), view == 0 ? "Item|" : "");
     }
-}
-
-TEST_F(MainWindow, FileSizesAreCutNotRounded) {
-    for (const auto& c :
-         table("999 -> 999 bytes.; 1000 -> 1 KB; 99999 -> 99 KB; 999999 -> 999 KB; 1000000 -> 1 MB; "
-               "4294967296 -> 42 MB"))
-        EXPECT_EQ(app::fileSizeText(std::stoull(c[0])), c[1]);
 }
 
 } // namespace

@@ -29,8 +29,7 @@ struct TestFolder {
     fs::path folder = mkdtemp(pattern.data());
 
     TestFolder() = default;
-    TestFolder(const TestFolder&) = delete;
-    TestFolder& operator=(const TestFolder&) = delete;
+    TestFolder(TestFolder&&) = delete;
     ~TestFolder() {
         std::error_code ignored;
         fs::remove_all(folder, ignored);

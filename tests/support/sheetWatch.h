@@ -32,8 +32,8 @@ struct SheetEvent {
 };
 using SheetEvents = std::vector<SheetEvent>;
 
-// Records that each have a number of their own, which nobody types into, so that the number on the sheet says
-// whose record a person sees there.
+// Records that each have a number of their own, which nobody types into, so that the number on the sheet,
+// field 1, says whose record a person sees there. The name is field 2.
 inline DataFile numberedRecords(bool invoices) {
     std::string records;
     for (const std::string name : {"1|Ann", "2|Bill", "3|Zoe", "4|Abe", "5|Bob"})
@@ -41,9 +41,8 @@ inline DataFile numberedRecords(bool invoices) {
     DataFile file("No:4 Name Qty:4 Sum:5", records);
     file.objects("F|No|200|200|1200|285;F|Name|200|600|1200|285;F|Sum|200|1000|1200|285;F|Qty|200|1400|1200|"
                  "285");
-    file.section("Formulas", "Sum,Qty|").section("Optioned Cols", "No|").section("Increments", "No,9|");
     if (invoices) file.objects("F|Qty|200|1685|1200|285").section("DatabaseStyle", "True");
-    return file.section("Printed Cols", "Name|");
+    return file.sections("Formulas=Sum,Qty|;Optioned Cols=No|;Increments=No,9|;Printed Cols=Name|");
 }
 
 // A user who goes to and fro between the pages, searches, types and stores, as random events say. The Hands
@@ -62,7 +61,7 @@ public:
                 acts += std::to_string(number) + " ";
             const Records before = records();
             const bool bYes = event.how % 4 != 0, wasInFront = isPageInFront();
-            const std::string number = onSheet("No") + "|", name = onSheet("Name") + "|", key = keyOf(event);
+            const std::string number = onSheet(1) + "|", name = onSheet(2) + "|", key = keyOf(event);
             const bool rowsGo = event.what == Remove && app_.mainFrm.SSTab1 == app::reportTab;
             hands_.platform.answers = {bYes ? platform::Answer::Yes : platform::Answer::No};
             hands_.platform.inputs = {"1"};
@@ -98,13 +97,7 @@ private:
     bool isPageInFront() const {
         return app_.mainFrm.SSTab1 == app::layoutTab && !app_.mainFrm.control("Design").Value;
     }
-    std::string onSheet(std::string_view column) const {
-        std::string text;
-        app_.document.layout.layoutField.forEach([&](const core::LayoutField& field) {
-            if (text.empty() && field.Tag == column) text = field.Text;
-        });
-        return text;
-    }
+    std::string onSheet(int field) const { return app_.document.layout.layoutField.find(field)->Text; }
     std::string keyOf(const SheetEvent& event) const {
         const std::string key(entry::navButtons()[event.which % entry::navButtons().size()].key);
         const bool isFull = (key == "New" || key == "Add") && app_.document.LV.count() > 12;
@@ -137,7 +130,7 @@ private:
     // The sheet shows the record of the row that commands work on, or one that is not there yet.
     std::string wrongSheet(const Records& now) const {
         if (!isPageInFront() || !layout::layoutPage(app_).layoutPic2.Visible) return {};
-        const std::string number = onSheet("No");
+        const std::string number = onSheet(1);
         if (!hands_.shows(number)) return "the window does not show " + number + "; ";
         const core::Item* row = app_.mainFrm.theListView->selectedItem();
         if (row == nullptr || row->isTotals()) return {};
@@ -154,7 +147,7 @@ private:
             core::CellText& cell = record.subItem(1);
             const auto isSame = [&](const auto& each) { return each.second.starts_with(cell.str() + "|"); };
             if (app_.document.bInvoiceStyle && &record == LV.selectedItem())
-                cell = onSheet("No");
+                cell = onSheet(1);
             else if (app_.document.bInvoiceStyle || cell == "0" ||
                      std::ranges::count_if(records(), isSame) > 1)
                 cell = std::to_string(1000 + ++given_);
