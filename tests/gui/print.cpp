@@ -73,11 +73,10 @@ file out.pdf; click mnuPrint ->
     void theDialogsChangeThePages() {
         Session run(sample("books.fwk"));
         run.play(R"(
-tab 2; click PageSetup; fill titleTxt Landscape books; click LandscapeOpt; click ApplyBtn -> Totals=-
-    Properties=- Delete=- page=2 SB1_5=Document Modified reportPageSetup=Report Page Setup LV3.0=>x No LV3.1=x
-    Title LV3.2=x Author LV3.3=x Price LV3.4=Bought LV3.5=Copies LV3.6=x Value LV3.7=Cover LV3.8=Notes
-    titleTxt=Landscape books boldYesOpt=x letterOpt=x LandscapeOpt=x leftTxt=1 rightTxt=1 TopTxt=1 bottomTxt=1
-    ApplyBtn=*
+tab 2; click PageSetup; fill titleTxt Landscape books; click LandscapeOpt; click ApplyBtn -> Totals=- Properties=-
+    Delete=- page=2 SB1_5=Document Modified reportPageSetup=Report Page Setup LV3.0=>x No LV3.1=x Title LV3.2=x Author
+    LV3.3=x Price LV3.4=Bought LV3.5=Copies LV3.6=x Value LV3.7=Cover LV3.8=Notes titleTxt=Landscape books
+    boldYesOpt=x letterOpt=x LandscapeOpt=x leftTxt=1 rightTxt=1 TopTxt=1 bottomTxt=1 ApplyBtn=*
 press Escape; file out.pdf; click Print -> -reportPageSetup rptPreview2=*
 )");
         QCOMPARE(printed(u"Landscape books"_s), u"2 of 792 x 612, 1"_s);

@@ -12,24 +12,6 @@
 
 using namespace Qt::StringLiterals;
 
-// The columns as they are shown, "a|b".
-inline QString rowOf(const QAbstractItemView& view, int row) {
-    const auto* tree = qobject_cast<const QTreeView*>(&view);
-    QString text;
-    for (int place = 0; place < view.model()->columnCount(); ++place) {
-        const int column = tree != nullptr ? tree->header()->logicalIndex(place) : place;
-        const QModelIndex cell = view.model()->index(row, column);
-        text += cell.data(Qt::CheckStateRole).toBool() ? u"x "_s : u""_s;
-        text += cell.data().toString() + u'|';
-    }
-    return text.chopped(1).replace("------"_L1, "-"_L1);
-}
-
-inline QString middleOf(QWidget& widget) {
-    const QImage image = widget.grab().toImage();
-    return image.pixelColor(image.rect().center()).name();
-}
-
 // What a user sees, and what has changed of it. A change is a message's first words or "name=value" of a
 // widget, in the order of the Tab key: x is checked, > a selected row, - disabled, * has the keys, | is the
 // caret, [] what is selected, and -name has gone. "(cut)" tells that what has the keys is not seen whole, ~
@@ -71,13 +53,13 @@ public:
 private:
     QString seen(QWidget& widget, const QStringList& where) {
         if (const auto* list = qobject_cast<const QTreeView*>(&widget); list != nullptr) {
-            QStringList columns;
-            for (int place = 0; place < list->header()->count(); ++place) {
-                const int section = list->header()->logicalIndex(place);
-                columns << list->model()->headerData(section, Qt::Horizontal).toString() +
-                               QString::number(list->header()->sectionSize(section));
+            QString columns;
+            for (int place = 0, i = 0; place < list->header()->count(); ++place) {
+                i = list->header()->logicalIndex(place);
+                columns += list->model()->headerData(i, Qt::Horizontal).toString();
+                columns += QString::number(list->header()->sectionSize(i)) + u' ';
             }
-            return columns.join(u' ');
+            return columns.trimmed();
         }
         QImage image = widget.grab().toImage();
         if (where.empty()) {
@@ -91,10 +73,8 @@ private:
             const QString colour = image.pixelColor(x, std::abs(row)).name();
             if (colour != std::exchange(last, colour)) changes += u' ' + QString::number(x) + colour;
         }
-        return changes.replace("#ffffff"_L1, "."_L1)
-            .replace("#000000"_L1, "!"_L1)
-            .replace(u'#', u':')
-            .trimmed();
+        changes.replace("#ffffff"_L1, "."_L1).replace("#000000"_L1, "!"_L1);
+        return changes.replace(u'#', u':').trimmed();
     }
 
     static constexpr auto keys = "has the keys"_L1;
@@ -106,14 +86,12 @@ private:
             const auto* field = app_.document.layout.layoutField.find(widget.objectName().mid(11).toInt());
             const bool isKnown = field == nullptr || value == gui::toQt(field->Text);
             value = value.replace(u'\u00a0', u'~') + (isKnown ? u""_s : u"?"_s);
-            if (const int scrolled = box->verticalScrollBar()->value(); scrolled > 0)
-                value += u" scrolled "_s + QString::number(scrolled);
+            if (box->verticalScrollBar()->value() > 0) value += u"(scrolled)"_s;
         }
         if (widget.property("checked").toBool()) value = u"x"_s;
         if (!widget.inherits("QAbstractButton")) value += widget.property("text").toString();
-        if (widget.inherits("QTabBar")) value = widget.property("currentIndex").toString();
-        if (widget.inherits("QAbstractSlider")) value = widget.property("value").toString();
-        if (value == "0"_L1 && !widget.inherits("QLineEdit") && !widget.inherits("QTextEdit")) value.clear();
+        for (const char* number : {"currentIndex", "value"}) // of the tab, of a slider
+            if (const int at = widget.property(number).toInt(); at > 0) value = QString::number(at);
         return widget.isEnabled() ? value : value + u'-';
     }
     QString withKeys(QWidget& widget) const {
@@ -133,37 +111,39 @@ private:
         return isWhole ? value : value + u"(cut)"_s;
     }
     void addRows(const QString& key, const QAbstractItemView& view) {
-        constexpr int shown = 9;
-        const int rows = view.model()->rowCount();
-        for (int row = 0; row < rows && rows <= shown; ++row)
-            state_.emplace_back(key + u'.' + QString::number(row),
-                                (view.selectionModel()->isRowSelected(row) ? u">"_s : u""_s) +
-                                    rowOf(view, row));
         const auto* list = qobject_cast<const gui::RecordsView*>(&view);
-        if (list == nullptr) return;
-        const QHeaderView& head = *list->header();
-        if (head.sortIndicatorSection() >= 0)
-            state_.emplace_back(key + u".sort"_s,
-                                QString::number(head.sortIndicatorSection()) +
-                                    (head.sortIndicatorOrder() == 0 ? u" up"_s : u" down"_s));
-        const core::RecordsList& records = shell::visibleList(app_);
+        const int rows = view.model()->rowCount(), current = view.currentIndex().row();
+        const QHeaderView* head = list != nullptr ? list->header() : nullptr;
+        const auto textOf = [&](int row) {
+            QString text;
+            for (int place = 0; place < view.model()->columnCount(); ++place) {
+                const int column = head != nullptr ? head->logicalIndex(place) : place;
+                const QModelIndex cell = view.model()->index(row, column);
+                text += (cell.data(Qt::CheckStateRole).toBool() ? u"x "_s : u""_s) + cell.data().toString() +
+                        u'|';
+            }
+            return text.chopped(1).replace("------"_L1, "-"_L1);
+        };
         QString selected;
         for (int row = 0; row < rows && rows < 1000; ++row) {
             const bool isSelected = view.selectionModel()->isRowSelected(row);
-            if (isSelected) selected += QString::number(row) + u' ';
-            if (isSelected != records.at(row + 1).Selected) selected += u'?';
+            if (rows < 10)
+                add(key + u'.' + QString::number(row), (isSelected ? u">"_s : u""_s) + textOf(row));
+            if (isSelected) selected += u' ' + QString::number(row);
+            if (list != nullptr && isSelected != shell::visibleList(app_).at(row + 1).Selected)
+                selected += u'?';
         }
-        if (rows <= shown && !selected.contains(u'?')) return;
-        const int current = view.currentIndex().row();
-        state_.emplace_back(key + u".rows"_s, u"%1 top %2 at %3 %4 selected %5 %6"_s.arg(rows)
-                                                  .arg(view.verticalScrollBar()->value())
-                                                  .arg(current)
-                                                  .arg(rowOf(view, current).section(u'|', 0, 1))
-                                                  .arg(view.selectionModel()->selectedRows().size())
-                                                  .arg(selected));
+        if (head != nullptr && head->sortIndicatorSection() >= 0)
+            add(key + u".sort"_s,
+                u"%1/%2"_s.arg(head->sortIndicatorSection()).arg(head->sortIndicatorOrder()));
+        if (head == nullptr || (rows < 10 && !selected.contains(u'?'))) return;
+        if (rows > 1000) selected = u" %1 rows"_s.arg(view.selectionModel()->selectedRows().size());
+        add(key + u".rows"_s,
+            u"%1 top %2 at %3 "_s.arg(rows).arg(list->verticalScrollBar()->value()).arg(current) +
+                textOf(current).section(u'|', 0, 1) + u" selected"_s + selected);
     }
     void addWindow(const QWidget& window) {
-        state_.emplace_back(window.objectName(), window.windowTitle().section(u'/', -1));
+        add(window.objectName(), window.windowTitle().section(u'/', -1));
         for (QWidget* w = window.nextInFocusChain(); w != &window; w = w->nextInFocusChain()) {
             const auto* tool = qobject_cast<QToolButton*>(w);
             const QAction* action = tool != nullptr ? tool->defaultAction() : nullptr;
@@ -172,24 +152,22 @@ private:
             const bool isPanel = w->parent()->objectName() == "SB1"_L1 && name != "SB1_4"_L1;
             const bool isLabel = isPanel || name == "recordPosition"_L1 || w->inherits("QAbstractSlider");
             const bool isTold = action != nullptr || w->focusPolicy() != Qt::NoFocus || isLabel;
-            if (name.isEmpty() || name.startsWith(u'_') || name.startsWith("qt_scroll"_L1) ||
-                !w->isVisible() || !isTold)
-                continue;
+            static const QRegularExpression inner(u"^$|^_|^qt_scroll|^SSTab1$"_s);
+            if (name.contains(inner) || !w->isVisible() || !isTold) continue;
             const QString key = window.objectName() + u'/' + name;
-            state_.emplace_back(key, valueOf(*w));
+            add(key, valueOf(*w));
             if (const auto* view = qobject_cast<QAbstractItemView*>(w)) addRows(key, *view);
-            if (name == "layoutPic2"_L1) addSheet(key, *w);
-            if (QApplication::focusWidget() == w) state_.emplace_back(keys, name + u'=' + withKeys(*w));
+            if (name == "layoutPic2"_L1) addSheet(window.objectName() + u"/sheet"_s, *w);
+            if (QApplication::focusWidget() == w) add(keys, name + u'=' + withKeys(*w));
         }
     }
     void addSheet(const QString& key, const QWidget& sheet) {
-        state_.emplace_back(key + u".at"_s, u"%1,%2"_s.arg(sheet.x()).arg(sheet.y()));
-        state_.emplace_back(key + u".objects"_s, QString::number(app_.document.layout.count()));
-        QStringList guides;
+        QString guides;
         for (const auto* each : {&layout::layoutPage(app_).rulePic2, &layout::layoutPage(app_).rulePic})
-            each->forEach([&](const auto& guide) { guides << QString::number(guide.line); });
-        state_.emplace_back(key + u".guides"_s, guides.join(u' '));
+            each->forEach([&](const auto& guide) { guides += u" |"_s + QString::number(guide.line); });
+        add(key, u"%1 at %2,%3"_s.arg(app_.document.layout.count()).arg(sheet.x()).arg(sheet.y()) + guides);
     }
+    void add(const QString& key, const QString& value) { state_.emplace_back(key, value); }
 
     app::App& app_;
     std::vector<std::pair<QString, QString>> state_; // "window/widget" and its value
