@@ -83,51 +83,15 @@ public:
         QVERIFY(!isWrong_);
     }
     void ahead(const QString& acts) { acts_ = acts.split(u';'); } // for the next dialog
-    void act(QString line) {
+    void act(QString acts) {
         static const std::pair<QRegularExpression, QString> shorter[] = {
-            {QRegularExpression(u"^tool "_s), u"click layoutToolbar."_s},
-            {QRegularExpression(u"^nav "_s), u"click layoutNavBar."_s},
+            {QRegularExpression(u"\\btool "_s), u"click layoutToolbar."_s},
+            {QRegularExpression(u"\\bnav "_s), u"click layoutNavBar."_s},
+            {QRegularExpression(u"\\btab "_s), u"click qt_tabwidget_tabbar "_s},
+            {QRegularExpression(u"\\bfill (\\S+)"_s), u"click \\1; press Ctrl+A; press Del; type"_s},
             {QRegularExpression(u"\\bf(\\d)"_s), u"layoutField\\1"_s}};
-        for (const auto& [form, whole] : shorter) line.replace(form, whole);
-        const QStringList words = line.split(u' ');
-        const QString verb = words[0].section(u'+', -1), what = words.value(1),
-                      rest = words.mid(2).join(u' ');
-        if (QApplication::activeWindow() == nullptr) { // without a window manager nobody does it
-            window.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&window));
-        }
-        if (verb == "tab"_L1) {
-            QTabBar* bar = find<QTabWidget>(u"SSTab1"_s)->tabBar();
-            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(what.toInt()).center());
-        } else if (verb == "fill"_L1) {
-            for (const QString& each :
-                 {u"click "_s + what, u"press Ctrl+A"_s, u"press Del"_s, u"type "_s + rest})
-                act(each);
-        } else if (verb == "type"_L1) {
-            auto* list = qobject_cast<gui::RecordsView*>(withKeys());
-            if (list != nullptr) list->keyboardSearch({}); // begins anew
-            QTest::keyClicks(withKeys(), words.mid(1).join(u' '));
-        } else if (verb == "press"_L1) {
-            const QKeyCombination key = QKeySequence(what)[0];
-            for (int i = std::max(1, rest.toInt()); i > 0; --i)
-                QTest::keyClick(withKeys(), key.key(), key.keyboardModifiers());
-        } else if (verb == "commit"_L1) {
-            QInputMethodEvent event;
-            event.setCommitString(what);
-            QApplication::sendEvent(withKeys(), &event);
-        } else if (verb == "file"_L1) {
-            platform.chosenFile = gui::fromQt(qEnvironmentVariable("TEST_FOLDER") + what);
-        } else if (verb == "slide"_L1) {
-            find<QAbstractSlider>(what)->setValue(rest.toInt());
-        } else if (verb == "focus"_L1) {
-            find<QWidget>(what)->setFocus();
-        } else if (verb == "look"_L1) {
-            screen_.look(*find<QWidget>(what), words.mid(2));
-        } else if (auto* action = top().findChild<QAction*>(what); action != nullptr) {
-            trigger(*action, rest);
-        } else {
-            mouse(verb, words);
-        }
+        for (const auto& [form, whole] : shorter) acts.replace(form, whole);
+        for (const QString& each : acts.split(u';')) perform(each.simplified().split(u' '));
     }
 
     template <typename Widget>
@@ -151,6 +115,38 @@ private:
     QWidget& top() {
         QWidget* dialog = QApplication::activeModalWidget();
         return dialog != nullptr ? *dialog : window;
+    }
+    void perform(const QStringList& words) {
+        const QString &verb = words[0], what = words.value(1), rest = words.mid(2).join(u' ');
+        if (QApplication::activeWindow() == nullptr) { // without a window manager nobody does it
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+        }
+        if (verb == "type"_L1) {
+            auto* list = qobject_cast<gui::RecordsView*>(withKeys());
+            if (list != nullptr) list->keyboardSearch({}); // begins anew
+            QTest::keyClicks(withKeys(), words.mid(1).join(u' '));
+        } else if (verb == "press"_L1) {
+            const QKeyCombination key = QKeySequence(what)[0];
+            for (int i = std::max(1, rest.toInt()); i > 0; --i)
+                QTest::keyClick(withKeys(), key.key(), key.keyboardModifiers());
+        } else if (verb == "commit"_L1) {
+            QInputMethodEvent event;
+            event.setCommitString(what);
+            QApplication::sendEvent(withKeys(), &event);
+        } else if (verb == "file"_L1) {
+            platform.chosenFile = gui::fromQt(qEnvironmentVariable("TEST_FOLDER") + what);
+        } else if (verb == "slide"_L1) {
+            find<QAbstractSlider>(what)->setValue(rest.toInt());
+        } else if (verb == "focus"_L1) {
+            find<QWidget>(what)->setFocus();
+        } else if (verb == "look"_L1) {
+            screen_.look(*find<QWidget>(what), words.mid(2));
+        } else if (auto* action = top().findChild<QAction*>(what); action != nullptr) {
+            trigger(*action, rest);
+        } else {
+            mouse(verb.section(u'+', -1), words);
+        }
     }
     static QWidget* withKeys() {
         QWidget* menu = QApplication::activePopupWidget();
@@ -213,6 +209,7 @@ private:
             list->scrollTo(index);
             return {list->viewport(), list->visualRect(index).center()};
         }
+        if (auto* bar = qobject_cast<QTabBar*>(widget)) return {bar, bar->tabRect(row.toInt()).center()};
         auto* area = qobject_cast<QAbstractScrollArea*>(widget);
         if (area != nullptr) widget = area->viewport();
         return {widget, {8, std::min(8, widget->height() / 2)}};
@@ -260,7 +257,6 @@ protected:
     QString sample(const char* name) const {
         QFile::remove(path(name));
         QFile::copy(QStringLiteral(TEST_DATA_DIR "/") + QLatin1String(name), path(name));
-        QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner);
         return path(name);
     }
     // A database made in the test, with pictures 0.jpg and so on.
