@@ -44,9 +44,8 @@ private slots:
 press Tab -> start_mnuOpen=*
 press Tab -> sample_library=*
 press Tab 4 -> sample_invoices=*
-press Space; click Properties -> MainFrm=invoices.fwk Save Print PageSetup Search Totals Formulas Properties Design
-    Delete page viewOpt1=x iLV.rows=13 top 0 at 11 2412|05/15/2024 selected 11 SB1_1=12 records. SB1_5=Document Opened
-    SB1_6=Database Style: Invoice designFrm=Database Properties fieldTxt=| typeOpt0=x
+press Space; click Properties -> MainFrm=invoices.fwk ...
+press Tab; press Up -> typeOpt0=x*
 press Escape; file books.fwk; click mnuOpen -> -iLV -viewOpt0 -viewOpt1 -designFrm MainFrm=books.fwk LV.rows=43 top 0
     at 0 1|The Odyssey selected 0 LV=* SB1_1=42 records. SB1_6=Database Style: Standard
 file XDG_CONFIG_HOME/ferrowick/ferrowick.conf; click Open -> MainFrm=Ferrowick Save=- Print=- PageSetup=- Search=-
@@ -179,10 +178,9 @@ click viewOpt0; click iLV #1; look iLV -> "Customer200 Item96 Qty96 Price96 Line
     iLV.0=Ann|Bolt|2|$1.50|$3.00 iLV.1=>Ann|Nut|3|$2.50|$7.50 iLV.2=Bo|Nut|4|$2.50|$10.00 iLV.3=-|-|9|-|-
 click Search; click List1 Item; click Opt1_3; fill SearchText_0 nut; press Return; press Escape -> -iLV Search=x
     Formulas=- searchLV.0=Ann|Nut|3|$2.50|$7.50 searchLV.1=>Bo|Nut|4|$2.50|$10.00 searchLV.2=-|-|7|-|- searchLV=*
-double searchLV #1; fill f2 5; click f11 -> Totals=- Properties=- page=1 layoutNavBar.Add=- Slider1=2
-    recordPosition=Record 2 of 2 sheet=11 at 19,0 f1=Nut f2=5 f3=$2.50 f4=$12.50 f8=$.00 f9=2 f10=Bo f11=|$13.50
-slide Slider1 1; fill f10 Al; click f11 -> Slider1=1 recordPosition=Record 1 of 2 f1=Bolt f2=2 f3=$1.50 f4=$3.00
-    f5=Nut f6=3 f7=$2.50 f8=$7.50 f9=1 f10=Al f11=|$11.34
+double searchLV #1; fill f2 5; click f11; slide Slider1 1; fill f10 Al; click f11 -> Totals=- Properties=- page=1
+    layoutNavBar.Add=- Slider1=1 recordPosition=Record 1 of 2 sheet=11 at 19,0 f1=Bolt f2=2 f3=$1.50 f4=$3.00 f5=Nut
+    f6=3 f7=$2.50 f8=$7.50 f9=1 f10=Al f11=|$11.34
 tab 0; click Search; click viewOpt1; look iLV; click iLV #1; click Delete -> "Subtotal96 No96 Customer200 Total96"
     "Are you sure?" Search Totals Formulas Properties Delete page viewOpt1=x iLV.0=>$10.50|1|Al|$11.34
     iLV.1=-|-|-|$11.34 iLV=*

@@ -143,7 +143,10 @@ private:
         } else if (verb == "look"_L1) {
             screen_.look(*find<QWidget>(what), words.mid(2));
         } else if (auto* action = top().findChild<QAction*>(what); action != nullptr) {
-            trigger(*action, rest);
+            const auto* button = action->associatedObjects().last();
+            if (rest.isEmpty()) return action->trigger();
+            for (QAction* each : qobject_cast<const QToolButton*>(button)->menu()->actions())
+                if (each->text() == rest || each->objectName() == rest) each->trigger();
         } else {
             mouse(verb.section(u'+', -1), words);
         }
@@ -184,13 +187,6 @@ private:
             return;
         qWarning().noquote() << line.simplified() + u"\n  but "_s + seen;
         isWrong_ = true;
-    }
-    static void trigger(QAction& action, const QString& entry) {
-        if (entry.isEmpty()) return action.trigger();
-        for (const QObject* each : action.associatedObjects())
-            if (const auto* button = qobject_cast<const QToolButton*>(each); button != nullptr)
-                for (QAction* item : button->menu()->actions())
-                    if (item->text() == entry || item->objectName() == entry) item->trigger();
     }
     // A widget or what of it takes the mouse, and where.
     std::pair<QWidget*, QPoint> placeOf(const QString& name, const QString& row) {
