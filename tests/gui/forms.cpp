@@ -32,8 +32,10 @@ click mnuExpressionEditor -> formulateFrm=Expression Editor colList.0=Total|Unde
     fieldList.0=No fieldList.1=Price fieldList.2=Total addCalcBtn=-
 click colList Total; click operatorBtn4; double fieldList Price -> colList.0=>Total|Undefined fieldList.1=>Price
     fieldList=* expTxt= ( Price addCalcBtn
-press Backspace; press Space; press +; type 1.5x; click NumKey7; press Space; press Backspace 2 -> NumKey7=* expTxt= (
-    Price + 1.5
+press Backspace; press Space; press +; click NumKey1; click NumKey2; click NumKey3; click NumKey4; click NumKey5;
+    click NumKey6; click NumKey7; click NumKey8; click NumKey9; click NumKey0 -> NumKey0=* expTxt= ( Price +
+    1234567890
+press Backspace 10; type 1.5x; press Space; press Backspace -> expTxt= ( Price + 1.5
 type )*20; press Num+,; press Backspace; press Return; click colList Total; click clearBtn -> colList.0=>Total| (
     Price + 1.5 ) * 20 expTxt clearBtn=*
 press Alt+D; click mnuTotalColumns; press End; press Space -> -formulateFrm SB1_3=Done. TotalsFrm=Choose Columns To
