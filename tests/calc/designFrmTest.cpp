@@ -74,13 +74,11 @@ TEST_F(DesignFrm, AddsAColumnOfEachTypeUntilThereAreFifty) {
     designFrm form(app);
     EXPECT_TRUE(form.pictureVisible && form.fieldTxtHasFocus);
     for (int type = 0; type < 6; ++type) {
-        form.fieldTxtHasFocus = false;
         for (const int option : {type, 6, -1}) form.typeOpt_Click(option); // of six
-        EXPECT_TRUE(form.fieldTxtHasFocus);
-        form.fieldTxtHasFocus = false;
+        const bool hadFocus = std::exchange(form.fieldTxtHasFocus, false);
         form.fieldTxt_Change(std::to_string(type) + (type == 0 ? "" : " N")); // a number will do here
         form.fieldTxt_Enter();
-        EXPECT_TRUE(form.fieldTxtHasFocus && form.fieldTxt.empty());
+        EXPECT_TRUE(hadFocus && std::exchange(form.fieldTxtHasFocus, false) && form.fieldTxt.empty());
     }
     EXPECT_EQ(rows(form), "A Text NA NA;0 Date OFF NA;1_N Currency NA NA;2_N Calculation NA NA;"
                           "3_N Number NA OFF;4_N Text NA NA;5_N Picture NA NA;");

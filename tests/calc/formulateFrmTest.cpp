@@ -113,9 +113,8 @@ TEST_F(Serials, SetChangesTheCounterOfTheChosenColumn) {
         form.Text1 = c[1];
         form.setBtn_Click();
         EXPECT_EQ(changesSince(before), isSet ? "Increments: " + c[2] + "\n" : "") << c[1];
-        const std::string done =
-            (c[0] == "0" ? "- No's" : "- Ticket's") + (" value has been set to " + form.Text1);
-        EXPECT_EQ(told(), isSet ? done : c[2].empty() ? "" : "i You entered a non numeric value.") << c[1];
+        const std::string done = (c[0] == "0" ? "No" : "Ticket") + ("'s value has been set to " + form.Text1);
+        EXPECT_EQ(told(), isSet ? "- " + done : c[2].empty() ? "" : "i You entered a non numeric value.");
         EXPECT_TRUE(document.bModified == isSet && form.text1HasFocus == isSet) << c[1];
     }
 }
