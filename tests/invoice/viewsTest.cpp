@@ -69,19 +69,19 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
 
 TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
     layoutWith(2);
-    // Moved, each past others, beyond the table, more than there are columns.
-    for (const auto& c : table(" -> No|Customer|Subtotal|Tax|; 1 5 2 3 4 -> Customer|Subtotal|Tax|No|; "
-                               "1 4 5 3 2 -> Tax|Subtotal|No|Customer|; 1 99 -> Customer|Subtotal|Tax|No|; "
-                               "1 2 3 4 5 6 7 -> No|Customer|Subtotal|Tax|")) {
-        app.document.invoiceCols.clear();
-        std::istringstream positions(c[0]);
-        for (std::string position; positions >> position;) app.document.invoiceCols.add(position);
-        invoice::BuildInvoicesView(app);
+    // Of the invoices: moved, beyond the table, more than there are columns; then of the items.
+    for (const auto& c : table("1 4 5 3 2 -> Tax|Subtotal|No|Customer|; 1 99 -> Customer|Subtotal|Tax|No|; "
+                               "1 2 3 4 5 6 7 -> No|Customer|Subtotal|Tax|; 1 6 2 3 4 5 -> "
+                               "Item|Qty|Price|Line|Customer|")) {
+        app.document.bInvoiceView = c[0].size() == 11;
+        for (auto* places : {&app.document.invoiceCols, &app.document.itemLevelCols}) {
+            places->clear();
+            std::istringstream positions(c[0]);
+            for (std::string each; positions >> each;) places->add(each);
+        }
+        invoice::rebuildView(app);
         EXPECT_EQ(view().substr(0, view().find(';')), c[1]) << c[0];
     }
-    for (const char* position : {"1", "6", "2", "3", "4", "5"}) app.document.itemLevelCols.add(position);
-    invoice::BuildItemsView(app);
-    EXPECT_EQ(view().substr(0, view().find(';')), "Item|Qty|Price|Line|Customer|");
 }
 
 TEST_F(InvoiceTest, RetrieveShowsAValueInEachRow) {

@@ -77,10 +77,12 @@ TEST_F(Dragging, ALineIsGrabbedFromBesideIt) {
               "F|Name|1000|1100|900|300;F|Name|1000|1100|900|300",
               true);
     for (const auto& c :
-         table("2000 880  -> pbLine,1; 2000 879  -> layoutPic2,0; 4030 1195  -> pbLine,1; 880 1000  -> "
-               "pbLine,1; 4031 1000  -> layoutPic2,0; 879 1000  -> layoutPic2,0; 2000 900 pBox,1 -> "
-               "pbLine,1; 2000 1200 pBox,1 -> pBox,1; 4450 1000 pBox,1 -> vLine,1; 4200 1050 pBox,1 -> "
-               "pBox,1; 1100 1110 layoutField,1 -> layoutField,1; 1100 1110 layoutField,2 -> pbLine,1")) {
+         table("2000 880  -> pbLine,1; 2000 879  -> layoutPic2,0; 4030 1195  -> pbLine,1; 4031 1000  -> "
+               "layoutPic2,0; 879 1000  -> layoutPic2,0; 2000 900 pBox,1 -> pbLine,1; 2000 1200 pBox,1 -> "
+               "pBox,1; "
+               "4450 1000 pBox,1 -> vLine,1; 1100 1110 layoutField,1 -> layoutField,1; 1100 1110 "
+               "layoutField,2 -> "
+               "pbLine,1")) {
         std::string hit;
         std::istringstream(c[0]) >> X >> Y >> hit;
         EXPECT_EQ(layout::grabbedObject(app, ref(hit), X, Y).name(), c[1]) << c[0];

@@ -61,30 +61,28 @@ TEST(Engine, DatesWhereverACellReadsLikeOne) {
 TEST(Engine, FindsWhatALoopFinds) {
     std::mt19937 random(5);
     const auto word = [&] { return std::string(1 + random() % 3, static_cast<char>('a' + random() % 4)); };
+    const auto number = [&] { return static_cast<int>(random() % 40) - 9; };
     std::vector<std::pair<std::string, int>> rows;
     std::string records;
     for (int i = 0; i < 200; ++i) {
-        rows.emplace_back(word(), static_cast<int>(random() % 40) - 9);
+        rows.emplace_back(word(), number());
         records += rows.back().first + "|" + std::to_string(rows.back().second) + ";";
     }
     SearchProgram program(DataFile("Name Qty:4", records));
-    const auto holds = [](const std::string& option, const auto& cell, const auto& value) {
-        return option == ">=" ? cell >= value : option == "<=" ? cell <= value : cell == value;
-    };
     for (int round = 0; round < 60; ++round) {
         std::vector<bool> wanted(rows.size(), true);
         std::string groups, keys;
         const std::size_t count = 1 + random() % 3, blank = random() % 5;
         for (std::size_t group = 0; group < count; ++group) {
             const std::string name = word(), option = std::array{">=", "<=", "="}[random() % 3];
-            const int qty = static_cast<int>(random() % 40) - 9;
+            const int qty = number();
             const bool byName = random() % 2 == 0;
-            const std::string value = byName ? core::upper(name) : std::to_string(qty);
             groups += (group > 0 ? " & " : "") + std::string(byName ? "Name " : "Qty ") + option + " ";
-            groups += group == blank ? " " : value;
-            for (std::size_t i = 0; i < rows.size() && group < blank; ++i)
-                if (!(byName ? holds(option, rows[i].first, name) : holds(option, rows[i].second, qty)))
-                    wanted[i] = false;
+            groups += group == blank ? " " : byName ? core::upper(name) : std::to_string(qty);
+            for (std::size_t i = 0; i < rows.size() && group < blank; ++i) {
+                const auto order = byName ? rows[i].first <=> name : rows[i].second <=> qty;
+                if (option == ">=" ? order < 0 : option == "<=" ? order > 0 : order != 0) wanted[i] = false;
+            }
         }
         for (std::size_t i = 0; i < rows.size(); ++i)
             if (wanted[i] && blank > 0) keys += (keys.empty() ? "i" : " i") + std::to_string(i + 1);
