@@ -111,19 +111,6 @@ TEST_F(EditRecords, AddAndUpdate) {
     EXPECT_EQ(cells(), "||$.00||||;------|------|$.00|------|0|------|;");
 }
 
-// Many at once make the document that one after the other makes.
-TEST_F(EditRecords, ManyAreAsManyTimesOne) {
-    for (int row = 0; row < 4; ++row) add("Price=" + std::to_string(row) + ", No=" + std::to_string(row % 3));
-    const std::string wanted = state();
-    openShop("Price * 2");
-    entry::addRecords(app, 4, [](int row, auto& boxes) {
-        boxes = {{"Price", std::to_string(row)}, {"No", std::to_string(row % 3)}};
-    });
-    EXPECT_EQ(state(), wanted);
-    EXPECT_EQ(raisedBy([&] { entry::addRecords(app, 32764, [](int, auto&) {}); }), core::errors::overflow);
-    EXPECT_EQ(state(), wanted);
-}
-
 TEST_F(EditRecords, DeleteAllSelectedButTheTotalsRow) {
     openShop("Price * 2", "1|a|$1.00|||;1|b|$1.00|||;1|c|$1.00|||;1|d|$1.00|||;1|e|$1.00|||");
     select({1, 4, 6, 3});

@@ -132,24 +132,4 @@ TEST_F(Dialog, StatesOfTheWindow) {
     EXPECT_EQ(panel(app::recordsPanel), std::to_string(document.LV.count() - 1) + " records.");
 }
 
-TEST_F(Dialog, ResultsSortSelectAndLeadToTheRecord) {
-    EXPECT_EQ(find("Qty >= 1"), "i1 i2");
-    core::RecordsList& results = document.searchLV;
-    for (const auto& [column, order] : {std::pair("Qty", "i1 i2"), {"Price", "i2 i1"}}) { // descending first
-        shell::list_ColumnClick(app, results, results.columns[column].Index);
-        EXPECT_EQ(found(), order);
-    }
-    EXPECT_TRUE(results.at(3).isTotals());
-    results.setSelectedItem(&results.at(3));
-    const std::string sums = cells(document.LV3);
-    shell::list_Click(app, results);
-    EXPECT_EQ(cells(document.LV3), sums); // the Totals row is no record
-    shell::list_DblClick(app, results);
-    EXPECT_EQ(app.mainFrm.SSTab1, app::layoutTab);
-    shell::SSTab1_Click(app, app::reportTab);
-    find("Name = none");
-    shell::list_DblClick(app, results);
-    EXPECT_EQ(app.mainFrm.SSTab1, app::reportTab);
-}
-
 } // namespace
