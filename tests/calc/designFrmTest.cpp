@@ -20,11 +20,11 @@ std::string rows(const designFrm& form) {
 // A database with a column of nearly each type, and all that can name one.
 const DataFile shop =
     DataFile("Name Price:2 Qty:4 Day:1 Sum:5", "Bolt|$1.50|2|01/02/2003|$3.00;Nut|$.25|4||$1.00")
-        .objects("F|Price|0|0|9|9;F|price|0|0|9|9;F|Qty|0|0|9|9;F|Name|0|0|9|9;F|Qty|0|0|9|9;"
-                 "L| PRICE  |0|0|9|9;L|Price:|0|0|9|9;P|Price|0|0|9|9;P|Qty|0|0|9|9;P|Name|0|0|9|9")
-        .sections("Printed Cols=Qty|Price|Gone|;PrnInvoiceCols=Price|Qty|;PrnItemCols=Price|Gone|;"
-                  "Formulas=Sum,Price * Qty|;Totaled Cols=Qty|Price|Gone|;Optioned Cols=Qty|Name|Gone|;"
-                  "Increments=Qty,41|");
+        .objects("F|Price|0|0|9|9;F|price|0|0|9|9;F|Qty|0|0|9|9;F|Name|0|0|9|9;F|Qty|0|0|9|9;L| PRICE  "
+                 "|0|0|9|9;L|Price:|0|0|9|9;P|Price|0|0|9|9;P|Qty|0|0|9|9;P|Name|0|0|9|9")
+        .sections("Printed "
+                  "Cols=Qty|Price|Gone|;PrnInvoiceCols=Price|Qty|;PrnItemCols=Price|Gone|;Formulas=Sum,Price "
+                  "* Qty|;Totaled Cols=Qty|Price|Gone|;Optioned Cols=Qty|Name|Gone|;Increments=Qty,41|");
 
 struct DesignFrm : CalcTest {
     // A sitting at the dialog, "yes; rename=Price=Net Price; done": answers, and what is done to a column,
@@ -80,8 +80,8 @@ TEST_F(DesignFrm, AddsAColumnOfEachTypeUntilThereAreFifty) {
         form.fieldTxt_Enter();
         EXPECT_TRUE(hadFocus && std::exchange(form.fieldTxtHasFocus, false) && form.fieldTxt.empty());
     }
-    EXPECT_EQ(rows(form), "A Text NA NA;0 Date OFF NA;1_N Currency NA NA;2_N Calculation NA NA;"
-                          "3_N Number NA OFF;4_N Text NA NA;5_N Picture NA NA;");
+    EXPECT_EQ(rows(form), "A Text NA NA;0 Date OFF NA;1_N Currency NA NA;2_N Calculation NA NA;3_N Number NA "
+                          "OFF;4_N Text NA NA;5_N Picture NA NA;");
     // Dates stand left and pictures right until the database is opened again. It is wanted so.
     std::string looks;
     for (const core::Column& column : LV.columns)
@@ -161,14 +161,13 @@ $ done -> Increments:  -> Optioned Cols:
 TEST_F(DesignFrm, WhatBecomesOfFormulas) {
     for (const auto& c : table(
              "rename=X=Y -> A,X + T -> A,Y + T; rename=X=Y -> A,T + X -> A,T + Y; rename=X=Y -> A,X -> A,X; "
-             "rename=X=Y -> A,FixX + 1 -> A,FixY + 1; rename=X=Y -> A,1 + Xen -> A,1 + Yen; "
-             "rename=X=Y -> A,x + 1 -> A,x + 1; rename=A=Y -> A,A + BA -> Y,Y + BY; "
-             "rename=A=AB -> A,C + A -> AB,C + ABB; remove=X -> A,X + 1|B,A * 2|C,7 -> C,7 -> U|U|c|; "
-             "remove=X -> C,B|B,A * 2|A,1 + X -> C,B -> U|U|c|; remove=X -> A,X|B,1 -> A,X|B,1 -> a|b|c|; "
-             "remove=X -> A,1 + Xyz|B,1 -> B,1 -> U|b|c|; remove=X -> Gone,X + 1|Index,X + 1|C,Gone + 1 -> "
-             " -> a|b|U|; remove=A -> A,1|B,A + 1|C,B + A ->  -> 1|U|U|; remove=A -> A,A + 1|B,Undefined -> "
-             "B,Undefined -> 1|b|c|; remove=A -> A,B + 1|B,A + 1 ->  -> 1|U|c|; "
-             "remove=A -> B,2|C,B + 1|A,C + 1 -> B,2|C,B + 1 -> 1|b|c|",
+             "rename=X=Y -> A,FixX + 1 -> A,FixY + 1; rename=X=Y -> A,1 + Xen -> A,1 + Yen; rename=X=Y -> "
+             "A,x + 1 -> A,x + 1; rename=A=Y -> A,A + BA -> Y,Y + BY; rename=A=AB -> A,C + A -> AB,C + ABB; "
+             "remove=X -> A,X + 1|B,A * 2|C,7 -> C,7 -> U|U|c|; remove=X -> C,B|B,A * 2|A,1 + X -> C,B -> "
+             "U|U|c|; remove=X -> A,X|B,1 -> A,X|B,1 -> a|b|c|; remove=X -> A,1 + Xyz|B,1 -> B,1 -> U|b|c|; "
+             "remove=X -> Gone,X + 1|Index,X + 1|C,Gone + 1 ->  -> a|b|U|; remove=A -> A,1|B,A + 1|C,B + A "
+             "->  -> 1|U|U|; remove=A -> A,A + 1|B,Undefined -> B,Undefined -> 1|b|c|; remove=A -> A,B + "
+             "1|B,A + 1 ->  -> 1|U|c|; remove=A -> B,2|C,B + 1|A,C + 1 -> B,2|C,B + 1 -> 1|b|c|",
              4)) {
         open(DataFile("A:5 X:4 B:5 C:5", "a|1|b|c").section("Formulas", c[1] + "|"));
         sit("yes; yes; " + c[0]);

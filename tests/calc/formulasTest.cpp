@@ -30,12 +30,12 @@ TEST(Evaluator, Expressions) {
         {"7", "1+2*3~2*3+1~10-6/2~(1+2)*3-2~5+-+-2~5--2~5-(-2)~7+Price"},
         {"-6", "2*-3~-2*3~-(2+4)~3*(1-3)~-12/2~-12*2/4"},
         {"1000", "1e3~1E3~1e+3~10e2~1000.0~9+991"},
-        {"Syntax e",
-         "~ ~1+~*2~1*/2~1//2~()~(1~1)~(1))~((1)~)(~1 2~1Price~Price 1~Price(1)~(1)(2)~2(3)~(2)3~1.2.3~1..2~."
-         "~1e~1e+~1e5.5~1,2~$5~5%~2^3~7\\2~1=1~1<2~1&2~&H10~\"1\"~'1~#1#~1;2~1:2~a.b~_a~1_~a!~[a]~a@~{~`"
-         "~1+\t2~1\n~True~not~MOD~7mod2~Next+1~With~To~5×3~×~÷~€~Preis€~a–b~“1”~½~x²~\xA0"
-         "1~\xFF~Gr\xF6\xDF"
-         "e~\xE2\x82~a\xC2~1\0~\0001"s},
+        {"Syntax e", "~ ~1+~*2~1*/2~1//2~()~(1~1)~(1))~((1)~)(~1 2~1Price~Price "
+                     "1~Price(1)~(1)(2)~2(3)~(2)3~1.2.3~1..2~.~1e~1e+~1e5.5~1,2~$5~5%~2^3~7\\2~1=1~1<2~1&2~&"
+                     "H10~\"1\"~'1~#1#~1;2~1:2~a.b~_a~1_~a!~[a]~a@~{~`~1+\t2~1\n~True~not~MOD~7mod2~Next+1~"
+                     "With~To~5×3~×~÷~€~Preis€~a–b~“1”~½~x²~\xA0"
+                     "1~\xFF~Gr\xF6\xDF"
+                     "e~\xE2\x82~a\xC2~1\0~\0001"s},
         {"Division", "1/0~0/0~-1/(2-2)~1/Price~1/0.0~1/1e-400~5+3*(1/(Price))"},
         {"Overflow", "1e309~-1e309~1e308*10~1e308+1e308~-1e308-1e308~1/1e-309"}};
     for (const auto& [expected, texts] : cases)
@@ -63,23 +63,21 @@ TEST_F(Formulas, ResultsByWhatTheCellsHold) {
     // language, and its cell a number.
     // Of several, each reads what the ones before it have written, and the first that fails is the last. What
     // goes wrong ahead of the first evaluation is no wrong expression.
-    for (const auto& c : table(
-             "6 / 3 -> 2; 7 / 2 -> $3.50; 2 / 3 -> $.67; 0 - 7 / 2 -> -$3.50; 1 / 100000 -> 1E-05; "
-             "1000000 * 1000000000 -> 1E+15; 1234567.891 * 1000 -> $1,234,567,891.00; 1.0 - 1 -> $.00; "
-             "Price -> $1,234.50 ->  -> $1,234.50; Price * 2 -> $20.00 ->  -> 10; "
-             "Price - 5 -> -$7.50 ->  -> ($2.50); Qty + Qty -> $5.00 -> 2.5; Qty + 1 -> $1.00 -> approx.; "
-             "Name + 1 -> 1; Qty -> 7 ->   7 ; Qty * 2 -> 2000 -> 1e3; Qty * 10000 -> $2.00 -> 0.00015; "
-             "Qty * 10000 -> $2.00 -> 0.00025; Qty * 2 -> 0; Qty + 3 -> 3 -> a dozen; Day + 3 -> 3; "
-             "qTY * 2 -> 8 -> 4; PriceQty + 1 -> 1 -> 4 -> $2.00; 1 2 + 3 -> 15; Qty Qty -> -8 -> -4; "
-             " ( Qty + 2 )  / 2   -> 3 -> 4; Qty + 1,5 -> 5 -> 4; Index + 1 -> 1; 2 * -Qty -> 0; "
-             "Undefined -> Undefined; 1 / Qty -> told a -> 0; 5 Qty -> told a;  -> told a; "
-             "1e308 * 10 -> told a; Next + Day -> 4; "
-             "B,A + 1|A,Qty / 2|C,A * 2| -> $1.50|1|$3.00 -> 3; A,Qty + 1|B,1 / Qty|C,2| -> told 1|b|c -> 0; "
-             "A,Undefined|B,1 + 1|C,fUndefinedx| -> Undefined|2|Undefined; "
-             "A,Undefined|C,1 Qty +| -> told Undefined|b|c -> 1; B,2|Gone,1| -> told a|2|c; "
-             "Gone,Undefined| -> Element not found: Gone; A,Undefined|C,Qty + 1| -> Overflow: 1e15 -> 1e15; "
-             "B,2|C,Qty + 1| -> told a|2|c -> 1e15",
-             4)) {
+    for (const auto& c :
+         table("6 / 3 -> 2; 7 / 2 -> $3.50; 2 / 3 -> $.67; 0 - 7 / 2 -> -$3.50; 1 / 100000 -> 1E-05; 1000000 "
+               "* 1000000000 -> 1E+15; 1234567.891 * 1000 -> $1,234,567,891.00; 1.0 - 1 -> $.00; Price -> "
+               "$1,234.50 ->  -> $1,234.50; Price * 2 -> $20.00 ->  -> 10; Price - 5 -> -$7.50 ->  -> "
+               "($2.50); Qty + Qty -> $5.00 -> 2.5; Qty + 1 -> $1.00 -> approx.; Name + 1 -> 1; Qty -> 7 ->  "
+               " 7 ; Qty * 2 -> 2000 -> 1e3; Qty * 10000 -> $2.00 -> 0.00015; Qty * 10000 -> $2.00 -> "
+               "0.00025; Qty * 2 -> 0; Qty + 3 -> 3 -> a dozen; Day + 3 -> 3; qTY * 2 -> 8 -> 4; PriceQty + "
+               "1 -> 1 -> 4 -> $2.00; 1 2 + 3 -> 15; Qty Qty -> -8 -> -4;  ( Qty + 2 )  / 2   -> 3 -> 4; Qty "
+               "+ 1,5 -> 5 -> 4; Index + 1 -> 1; 2 * -Qty -> 0; Undefined -> Undefined; 1 / Qty -> told a -> "
+               "0; 5 Qty -> told a;  -> told a; 1e308 * 10 -> told a; Next + Day -> 4; B,A + 1|A,Qty / 2|C,A "
+               "* 2| -> $1.50|1|$3.00 -> 3; A,Qty + 1|B,1 / Qty|C,2| -> told 1|b|c -> 0; A,Undefined|B,1 + "
+               "1|C,fUndefinedx| -> Undefined|2|Undefined; A,Undefined|C,1 Qty +| -> told Undefined|b|c -> "
+               "1; B,2|Gone,1| -> told a|2|c; Gone,Undefined| -> Element not found: Gone; A,Undefined|C,Qty "
+               "+ 1| -> Overflow: 1e15 -> 1e15; B,2|C,Qty + 1| -> told a|2|c -> 1e15",
+               4)) {
         SCOPED_TRACE(c[0] + " of " + c[2] + " and " + c[3]);
         const bool isOne = c[0].find('|') == std::string::npos;
         const std::string before = c[3] + "|" + c[2] + "|Bolt|01/02/2003|4|";
@@ -103,9 +101,9 @@ TEST_F(Formulas, TheOrderOfEvaluationIsOneExchangePass) {
     // An exchange brings another entry to the end, and its name is looked for from there on; a full sort by
     // dependency would put B ahead of C. Any substring counts, in the name too, but not in another case.
     for (const auto& c :
-         table(" -> ; A,A + 1 -> A,A + 1; A,B + 1|B,2 -> B,2|A,B + 1; A,1|B,A -> A,1|B,A; "
-               "X,Y|W,X|Y,1 -> Y,1|X,Y|W,X; X,Y|Z,W|Y,Z -> Z,W|Y,Z|X,Y; C,B|B,A|A,1 -> C,B|A,1|B,A; "
-               "TaxRate,1|Tax,2 -> Tax,2|TaxRate,1; A,tax|Tax,1 -> A,tax|Tax,1; A,1|comma -> A,1|comma")) {
+         table(" -> ; A,A + 1 -> A,A + 1; A,B + 1|B,2 -> B,2|A,B + 1; A,1|B,A -> A,1|B,A; X,Y|W,X|Y,1 -> "
+               "Y,1|X,Y|W,X; X,Y|Z,W|Y,Z -> Z,W|Y,Z|X,Y; C,B|B,A|A,1 -> C,B|A,1|B,A; TaxRate,1|Tax,2 -> "
+               "Tax,2|TaxRate,1; A,tax|Tax,1 -> A,tax|Tax,1; A,1|comma -> A,1|comma")) {
         std::vector<std::string> formulas;
         for (const std::string_view entry : core::split(c[0], '|')) formulas.emplace_back(entry);
         calc::SortFormulas(formulas);

@@ -36,23 +36,20 @@ TEST_F(FormulateFrm, Buttons) {
     // Nothing looks at what went before, but digits join the number across the blanks behind it. Back from
     // the first edit on forgets that too. An expression that goes takes with it what hangs on it, by any
     // substring; a name that is part of the word "Undefined" would find the rows marked already for ever.
-    for (const auto& c : table(
-             "Price 5 Apply -> 5; #0 -> Price * Qty; #1 -> ; #1 Left Price Add 1 Right Divide 2 Subtract 3 "
-             "-> "
-             " ( Price + 1 )  / 2 - 3; #1 . 5 0 -> .50; #1 0 1 9 Multiply Add -> 019 *  + ; #1 Qty 5 Qty -> "
-             "Qty5Qty; #0 7 -> A + 17 -> Sum,A + 1  ; #0 7 -> A +  7 -> Sum,A +  ; #0 7 -> 1. 7 -> Sum,1. ; "
-             "#0 7 ->    7 -> Sum,   ; #0 Add 5 Back -> Price * Qty + ; #0 Add 5 Back Back -> Price * Qty; "
-             "#0 Add 5 Back Back Back -> ; #0 Back 5 -> 5; #0 Back 5 Back Back Back -> ; #1 1 2 Clear 3 Back "
-             "-> ; #0 1 2 #1 Back -> ; #1 5 #-1 #4 6 -> 56; #0 Clear Tax ->  told; #0 Clear Sum -> Sum; "
-             "#0 Add 1 Apply ->  / Sum=Price * Qty + 1; #1 Left Sum Right Apply Back ->  / Tax= ( Sum ); "
-             "#1 9 Apply Tax -> Tax / Tax=9; "
-             "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined / Rate=Undefined -> Sum,1|Tax,Sum + "
-             "1|Rate,Tax * 2|fin,5; "
-             "#2 Clear Apply ->  / Sum=Undefined / Rate=Undefined -> Sum,TaxRate|Tax,rate|Rate,3; "
-             "#0 Clear Apply ->  / Sum=Undefined / Tax=Undefined -> Sum,Tax|Tax,Sum|Rate,3; "
-             "#3 Clear Apply ->  / Sum=Undefined / Rate=Undefined / fin=Undefined -> "
-             "Sum,fin|Tax,1|Rate,Sum|fin,2",
-             3)) {
+    for (const auto& c :
+         table("Price 5 Apply -> 5; #0 -> Price * Qty; #1 -> ; #1 Left Price Add 1 Right Divide 2 Subtract 3 "
+               "->  ( Price + 1 )  / 2 - 3; #1 . 5 0 -> .50; #1 0 1 9 Multiply Add -> 019 *  + ; #1 Qty 5 "
+               "Qty -> Qty5Qty; #0 7 -> A + 17 -> Sum,A + 1  ; #0 7 -> A +  7 -> Sum,A +  ; #0 7 -> 1. 7 -> "
+               "Sum,1. ; #0 7 ->    7 -> Sum,   ; #0 Add 5 Back -> Price * Qty + ; #0 Add 5 Back Back -> "
+               "Price * Qty; #0 Add 5 Back Back Back -> ; #0 Back 5 -> 5; #0 Back 5 Back Back Back -> ; #1 1 "
+               "2 Clear 3 Back -> ; #0 1 2 #1 Back -> ; #1 5 #-1 #4 6 -> 56; #0 Clear Tax ->  told; #0 Clear "
+               "Sum -> Sum; #0 Add 1 Apply ->  / Sum=Price * Qty + 1; #1 Left Sum Right Apply Back ->  / "
+               "Tax= ( Sum ); #1 9 Apply Tax -> Tax / Tax=9; #0 Clear Apply ->  / Sum=Undefined / "
+               "Tax=Undefined / Rate=Undefined -> Sum,1|Tax,Sum + 1|Rate,Tax * 2|fin,5; #2 Clear Apply ->  / "
+               "Sum=Undefined / Rate=Undefined -> Sum,TaxRate|Tax,rate|Rate,3; #0 Clear Apply ->  / "
+               "Sum=Undefined / Tax=Undefined -> Sum,Tax|Tax,Sum|Rate,3; #3 Clear Apply ->  / Sum=Undefined "
+               "/ Rate=Undefined / fin=Undefined -> Sum,fin|Tax,1|Rate,Sum|fin,2",
+               3)) {
         open(DataFile("Price:2 Name Qty:4 Day:1 Sum:5 Tax:5 Rate:5 fin:5 Img:7", "")
                  .section("Formulas", c[2].empty() ? "Sum,Price * Qty|" : c[2] + "|"));
         formulateFrm form(app);
@@ -99,12 +96,11 @@ TEST_F(Serials, SetChangesTheCounterOfTheChosenColumn) {
     form.List1_Click(1);
     EXPECT_EQ(form.Text1, "41");
     // The entry, what is typed, and what is stored; the number is looked at ahead of the entry.
-    for (const auto& c : table("0 ->   100  -> No,100|Ticket,41|; 1 -> -5 -> No,100|Ticket,-5|; 1 -> 1.50 -> "
-                               "No,100|Ticket,1.50|; "
-                               "1 -> $7 -> No,100|Ticket,7|; 1 -> 1,000 -> No,100|Ticket,1000|; -1 -> 8; 2 "
-                               "-> 8; -1 -> x -> no; "
-                               "1 ->  -> no; 0 -> 5 apples -> no; 1 -> --5 -> no",
-                               3)) {
+    for (const auto& c :
+         table("0 ->   100  -> No,100|Ticket,41|; 1 -> -5 -> No,100|Ticket,-5|; 1 -> 1.50 -> "
+               "No,100|Ticket,1.50|; 1 -> $7 -> No,100|Ticket,7|; 1 -> 1,000 -> No,100|Ticket,1000|; -1 -> "
+               "8; 2 -> 8; -1 -> x -> no; 1 ->  -> no; 0 -> 5 apples -> no; 1 -> --5 -> no",
+               3)) {
         const SavedState before = saved();
         const bool isSet = c[2].size() > 2;
         app::setDocumentModified(app, false);

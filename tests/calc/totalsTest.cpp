@@ -31,11 +31,11 @@ struct Totals : CalcTest {
 // takes it from the point in its own cell; a cell of several values is passed over before the type is looked
 // at.
 TEST_F(Totals, MoneyIsCarriedOnToNumberColumns) {
-    for (const auto& c : table(
-             "A:2 B:4 C:4  -> 2|1.255|1,234 -> $2.00|$1.26|$1,234.00| -> $.00|$.00|$.00|; "
-             "A:5 B:4  -> $1.50|3 -> $1.50|$3.00| -> $.00|$.00|; A:2 B:4  -> 1@2@|3 -> -----|3| -> -----|0|; "
-             "A:2 B:5 C:4  -> 2|1@2@|3 -> $2.00|-----|$3.00| -> $.00|-----|$.00|",
-             4)) {
+    for (const auto& c :
+         table("A:2 B:4 C:4  -> 2|1.255|1,234 -> $2.00|$1.26|$1,234.00| -> $.00|$.00|$.00|; A:5 B:4  -> "
+               "$1.50|3 -> $1.50|$3.00| -> $.00|$.00|; A:2 B:4  -> 1@2@|3 -> -----|3| -> -----|0|; A:2 B:5 "
+               "C:4  -> 2|1@2@|3 -> $2.00|-----|$3.00| -> $.00|-----|$.00|",
+               4)) {
         openTotaled(c[0], c[1]);
         core::UpdateTotalsRow(document, TotalsMode::Add, LV, 1);
         EXPECT_EQ(totals(), c[2]) << c[0];
@@ -52,14 +52,12 @@ TEST_F(Totals, MoneyIsCarriedOnToNumberColumns) {
 TEST_F(Totals, OfSelectedRows) {
     open(DataFile("Qty:4 Name Price:2 Day:1 Sum:5", "12|Bolt|$1.50||18;1,000|Nut|$.25||$250.00;7|Nail|2||"));
     LV.clearSelection();
-    for (const auto& c :
-         table("2 -> Qty=1,000 Price=$.25 Sum=$250.00 2; 3 -> Qty=7 Price=2 Sum= 23; -3 -> Qty=7 Price=2 "
-               "Sum= 2; "
-               "1 -> Qty=12 Price=$1.50 Sum=18 12; ^2 -> Qty=1,012 Price=$1.75 Sum=$268.00 12; "
-               "^3 -> Qty=1,019 Price=4 Sum=268 12; ^-2 -> Qty=19 Price=$3.75 Sum=$18.00 12; "
-               "^4 -> Qty=19 Price=$3.75 Sum=$18.00 12; 0 -> Qty=19 Price=$3.75 Sum=$18.00 12; "
-               "^-3 -> Qty=12 Price=2 Sum=18 12; ^-1 -> Qty= Price=$.50 Sum= 12; -4 -> Qty= Price=$.50 Sum= "
-               "12; -2 -> Qty= Price= Sum= ")) {
+    for (const auto& c : table(
+             "2 -> Qty=1,000 Price=$.25 Sum=$250.00 2; 3 -> Qty=7 Price=2 Sum= 23; -3 -> Qty=7 Price=2 Sum= "
+             "2; 1 -> Qty=12 Price=$1.50 Sum=18 12; ^2 -> Qty=1,012 Price=$1.75 Sum=$268.00 12; ^3 -> "
+             "Qty=1,019 Price=4 Sum=268 12; ^-2 -> Qty=19 Price=$3.75 Sum=$18.00 12; ^4 -> Qty=19 "
+             "Price=$3.75 Sum=$18.00 12; 0 -> Qty=19 Price=$3.75 Sum=$18.00 12; ^-3 -> Qty=12 Price=2 Sum=18 "
+             "12; ^-1 -> Qty= Price=$.50 Sum= 12; -4 -> Qty= Price=$.50 Sum= 12; -2 -> Qty= Price= Sum= ")) {
         const int row = std::stoi(c[0].substr(c[0].find_first_not_of("^-")));
         app.mainFrm.bCtrlDown = c[0].starts_with('^');
         LV.setSelectedItem(row == 0 ? nullptr : &LV.at(row));

@@ -66,11 +66,10 @@ struct EditRecords : testing::Test, Program {
 };
 
 TEST_F(EditRecords, FormsOfTheCells) {
-    for (const auto& c :
-         table("2 ->  -> $.00; 2 -> 1234 -> $1,234.00; 2 -> (1,000.005) -> -$1,000.01; 2 ->  7  -> "
-               "$7.00; 2 -> abc -> abc; 4 ->  -> 0; 4 -> 007 -> 007; 3 ->   x  ->   x ; 3 ->  -> ; "
-               "1 -> 99/99/9999 -> 99/99/9999",
-               3))
+    for (const auto& c : table("2 ->  -> $.00; 2 -> 1234 -> $1,234.00; 2 -> (1,000.005) -> -$1,000.01; 2 ->  "
+                               "7  -> $7.00; 2 -> abc -> abc; 4 ->  -> 0; 4 -> 007 -> 007; 3 ->   x  ->   x "
+                               "; 3 ->  -> ; 1 -> 99/99/9999 -> 99/99/9999",
+                               3))
         EXPECT_EQ(entry::cellText(core::ColumnType(std::stoi(c[0])), c[1]), c[2]) << c[1];
 }
 

@@ -15,8 +15,8 @@ struct EntryForm : testing::Test, SearchProgram {
         : SearchProgram(
               DataFile("No:4 Part Bought:1 Price:2 Qty:4 Value:5 Photo:7",
                        "40|Bolt|02/01/2026|$1.50|12|$18.00|bolt.gif;41|Nut M8|02/03/2026|$.25|7|$1.75|")
-                  .sections("Formulas=Value,Price * Qty|;Totaled Cols=Price|Qty|Value|;"
-                            "Optioned Cols=No|Bought|;Increments=No,41|")) {}
+                  .sections("Formulas=Value,Price * Qty|;Totaled Cols=Price|Qty|Value|;Optioned "
+                            "Cols=No|Bought|;Increments=No,41|")) {}
     core::RecordsList& LV = app.document.LV;
     std::optional<entryFrm> form;
 
@@ -116,9 +116,10 @@ $ 1=Washer, 3=1234, Leave 3 -> 42|Washer|03/14/2026|12.34|| i1 && $ 4=3, Enter 4
     expect(R"(
 $ Enter 4 -> ||||| i4 0 && $ Last -> 0|||$.00|0| i4 && $ Update, 4=2, 3=250, Add -> ||||| i5 0
 )");
-    EXPECT_EQ(cells(), "40|Bolt|02/01/2026|$1.50|12|$18.00|bolt.gif|;41|Nut M8|02/03/2026|$.25|7|$1.75||;"
-                       "42|Washer|03/14/2026|$12.34|3|$37.02||;0|||$.00|0|$.00||;0|||$2.50|2|$5.00||;"
-                       "------|------|------|$14.84|$5.00|$42.02|------|;");
+    EXPECT_EQ(cells(), "40|Bolt|02/01/2026|$1.50|12|$18.00|bolt.gif|;41|Nut "
+                       "M8|02/03/2026|$.25|7|$1.75||;42|Washer|03/14/"
+                       "2026|$12.34|3|$37.02||;0|||$.00|0|$.00||;0|||$2.50|2|$5.00||;------|------|------|$"
+                       "14.84|$5.00|$42.02|------|;");
     EXPECT_EQ(app.document.SerialsLV.at(1).subItem(1), "43");
     EXPECT_TRUE(app.document.bModified && !LV.MultiSelect);
     EXPECT_EQ(panel(app::recordsPanel) + std::to_string(app.mainFrm.Slider1.Max), "5 records.5");

@@ -33,11 +33,10 @@ struct InvoiceRecords : InvoiceTest {
 TEST_F(InvoiceRecords, CellsAsTheyAreWritten) {
     layoutWith(3);
     shell::SSTab1_Click(app, app::layoutTab);
-    for (const auto& c :
-         table("Price -> 1234 -> 12 -> 12.5 -> $12.34@$12.00@$12.50@; Price -> 12345678901234 ->  -> "
-               "7 -> $123,456,789,012.34@@$7.00@; Price -> 1,234 -> abc -> -5 -> $12.34@a.bc@-$5.00@; "
-               "Qty -> 1 ->  -> 3 -> 1@@3@; Item ->  ->  ->  -> @@@; No ->  ->  ->  -> 0; "
-               "Customer ->  Ann  ->  ->  ->  Ann ")) {
+    for (const auto& c : table("Price -> 1234 -> 12 -> 12.5 -> $12.34@$12.00@$12.50@; Price -> "
+                               "12345678901234 ->  -> 7 -> $123,456,789,012.34@@$7.00@; Price -> 1,234 -> "
+                               "abc -> -5 -> $12.34@a.bc@-$5.00@; Qty -> 1 ->  -> 3 -> 1@@3@; Item ->  ->  "
+                               "->  -> @@@; No ->  ->  ->  -> 0; Customer ->  Ann  ->  ->  ->  Ann ")) {
         entry::layoutNavBar_ButtonClick(app, "New");
         type(c[0], {c[1], c[2], c[3]});
         entry::layoutNavBar_ButtonClick(app, "Update");

@@ -13,13 +13,13 @@ TEST_F(InvoiceTest, BothViews) {
     program.record({"1", "Ann", "a@@c@", "1@9@3@", "@@5@", "", "$4.00"});
     program.record({"2", "Bo", "x@@@q@", "2@@@", "", "", "$.50"});
     invoice::BuildInvoicesView(app);
-    EXPECT_EQ(view(), "No|Customer|Subtotal|Tax|; i1: 1|Ann|$4.00||; i2: 2|Bo|$.50||; Totals: "
-                      "------|------|$4.50|------|");
+    EXPECT_EQ(
+        view(),
+        "No|Customer|Subtotal|Tax|; i1: 1|Ann|$4.00||; i2: 2|Bo|$.50||; Totals: ------|------|$4.50|------|");
     // The first cell of several values decides which item rows there are: the second one has no item.
     invoice::BuildItemsView(app);
-    EXPECT_EQ(view(),
-              "Customer|Item|Qty|Price|Line|; i1: Ann|a|1|||; i1: Ann|c|3|5||; i2: Bo|x|2|||; Totals: "
-              "------|------|6|------|------|");
+    EXPECT_EQ(view(), "Customer|Item|Qty|Price|Line|; i1: Ann|a|1|||; i1: Ann|c|3|5||; i2: Bo|x|2|||; "
+                      "Totals: ------|------|6|------|------|");
     // A new invoice has no cell of several values, so nothing decides, and all rows appear.
     invoice::addInvoiceRecord(app);
     app.document.bInvoiceView = true;
@@ -64,9 +64,9 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
 TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
     layoutWith(2);
     // Of the invoices: moved, beyond the table, more than there are columns; then of the items.
-    for (const auto& c : table("1 4 5 3 2 -> Tax|Subtotal|No|Customer|; 1 99 -> Customer|Subtotal|Tax|No|; "
-                               "1 2 3 4 5 6 7 -> No|Customer|Subtotal|Tax|; 1 6 2 3 4 5 -> "
-                               "Item|Qty|Price|Line|Customer|")) {
+    for (const auto& c :
+         table("1 4 5 3 2 -> Tax|Subtotal|No|Customer|; 1 99 -> Customer|Subtotal|Tax|No|; 1 2 3 4 5 6 7 -> "
+               "No|Customer|Subtotal|Tax|; 1 6 2 3 4 5 -> Item|Qty|Price|Line|Customer|")) {
         app.document.bInvoiceView = c[0].size() == 11;
         for (auto* places : {&app.document.invoiceCols, &app.document.itemLevelCols}) {
             places->clear();
@@ -89,8 +89,8 @@ TEST_F(InvoiceTest, RetrieveShowsAValueInEachRow) {
     };
     core::LayoutField& lost = app.document.layout.layoutField.load(99);
     lost.Tag = lost.Text = "Gone";
-    for (const auto& c : table("a@b@c@ -> a|b|c|; a@@c@ -> a||c|; a@ -> a|||; single -> |||;  -> |||; "
-                               "a@b@c@d@ -> a|b|c|")) {
+    for (const auto& c :
+         table("a@b@c@ -> a|b|c|; a@@c@ -> a||c|; a@ -> a|||; single -> |||;  -> |||; a@b@c@d@ -> a|b|c|")) {
         core::Item& item = record({{"Item", c[0].c_str()}, {"No", " 7 "}, {"Customer", " Ann "}});
         app.document.LV.setSelectedItem(&item);
         invoice::retrieveInvoiceRecord(app);

@@ -32,9 +32,8 @@ struct Images : Sheet {
 // By the height, which leaves two twips; when that is too wide, by the width, which leaves one.
 TEST_F(Images, AreFittedToTheTwip) {
     const core::ImgHolder holder = objects.imgHolder.templateElement(); // 1815 x 1575
-    for (const auto& c :
-         table("1814 1574 -> 1 1 1814 1574; 100 1575 -> 858 1 100 1573 s; 30000 1500 -> 1 742 1814 91 s; "
-               "1815 100 -> 1 738 1814 100 s")) {
+    for (const auto& c : table("1814 1574 -> 1 1 1814 1574; 100 1575 -> 858 1 100 1573 s; 30000 1500 -> 1 "
+                               "742 1814 91 s; 1815 100 -> 1 738 1814 100 s")) {
         drawing::Extent natural;
         std::istringstream(c[0]) >> natural.Width >> natural.Height;
         core::FittedImage image;
@@ -84,9 +83,8 @@ TEST_F(Images, AreChosenForARecordOrAsClipArt) {
         dialogs();
         choose(designing ? "imgHolder,2" : "clipPic,1", "photo.JPG");
         EXPECT_EQ(dialogs(), ""); // that is the other mode's
-        for (const auto& c : table(
-                 "photo.png -> other;  -> other; text.jpg -> cannot be read.; none.jpg -> cannot be read: No "
-                 "such file or directory.; vast.GIF -> is too large."))
+        for (const auto& c : table("photo.png -> other;  -> other; text.jpg -> cannot be read.; none.jpg -> "
+                                   "cannot be read: No such file or directory.; vast.GIF -> is too large."))
             EXPECT_EQ(choose(name, c[0]),
                       c[1] == "other" ? "i You selected a file other than a GIF or JPEG.  Please try again."
                                       : "! The picture " + c[0] + " " + c[1]);

@@ -76,8 +76,7 @@ TEST_F(InitLayout, ThePaperGivesTheSheetItsSizeAndMargins) {
     // one counts in whole twips.
     for (const auto& c :
          table("9 2 4 6 .5003 -> 16838 11906 720 360 13958 10466 11.7 x 8.3; 256 2 5.5 8.5 1 -> 7920 12240 "
-               "1440 "
-               "360 5040 10800 5.5 x 8.5; 999 1 4 6 1e9 -> 12240 15840 32767 360 9360 14400 8.5 x 11; "
+               "1440 360 5040 10800 5.5 x 8.5; 999 1 4 6 1e9 -> 12240 15840 32767 360 9360 14400 8.5 x 11; "
                "256 1 -3 1e30 1 -> 0 720000 1440 360 -2880 718560 0 x 500")) {
         std::istringstream(c[0]) >> options.layoutPaperSize >> options.layoutOrientation >>
             options.customPaperLength >> options.customPaperHeight >> options.layoutLeftMargin;
@@ -93,17 +92,14 @@ TEST_F(InitLayout, ThePaperGivesTheSheetItsSizeAndMargins) {
 // sends the bars back and the sheet to the middle; when it is high enough the ruler covers no edge.
 TEST_F(InitLayout, ScrollingMovesSheetAndRulers) {
     openSheet();
-    for (
-        const auto& c : table(
-            "h0 -> 285 0 285 285, 12240 15840, 0/6240 0/10840; design v600 -> 285 -600 285 -315, 12240 "
-            "15840, "
-            "0/6240 600/10840; v1 -> 285 285 285 284, 12240 15840, 0/6240 1/10840; v0 -> 285 285 285 240, "
-            "12240 "
-            "15840, 0/6240 0/10840; h700 -> -700 285 -415 240, 12240 15840, 700/6240 0/10840; v99999 -> -700 "
-            "-10840 -415 -10555, 12240 15840, 700/6240 10840/10840; v-5 -> -700 285 -415 240, 12240 15840, "
-            "700/6240 0/10840; design h0 -> 285 0 285 240, 12240 15840, 0/6240 0/10840; v700 -> 285 -700 285 "
-            "-415, 12240 15840, 0/6240 700/10840; s5000 -> 1000 0 285 285, 14240 15840, 0/0 0/10840; design "
-            "s20000 -> 285 285 285 285, 14240 20000, 0/0 0/0")) {
+    for (const auto& c :
+         table("h0 -> 285 0 285 285, 12240 15840, 0/6240 0/10840; design v600 -> 285 -600 285 -315, 12240 "
+               "15840, 0/6240 600/10840; v1 -> 285 285 285 284, 12240 15840, 0/6240 1/10840; v0 -> 285 285 "
+               "285 240, 12240 15840, 0/6240 0/10840; h700 -> -700 285 -415 240, 12240 15840, 700/6240 "
+               "0/10840; v99999 -> -700 -10840 -415 -10555, 12240 15840, 700/6240 10840/10840; v-5 -> -700 "
+               "285 -415 240, 12240 15840, 700/6240 0/10840; design h0 -> 285 0 285 240, 12240 15840, 0/6240 "
+               "0/10840; v700 -> 285 -700 285 -415, 12240 15840, 0/6240 700/10840; s5000 -> 1000 0 285 285, "
+               "14240 15840, 0/0 0/10840; design s20000 -> 285 285 285 285, 14240 20000, 0/0 0/0")) {
         const std::size_t act = c[0].rfind(' ') + 1; // the last, or the only one
         if (c[0].starts_with("design")) after("design");
         const int value = std::atoi(c[0].c_str() + act + 1);

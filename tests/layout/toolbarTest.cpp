@@ -38,8 +38,7 @@ TEST_F(Toolbar, EveryButtonAddsItsObjectAtTheCommonPlaceInFront) {
                "layoutField,1 Name -> 720 885 1815 285; imgHolder,1 Photo -> 720 2175 1815 1575")) {
         page.Handle.bLocked = true;
         const std::string added = after(c[0]);
-        EXPECT_EQ(added,
-                  c[1] + ", grip " + texts({object().Left + object().Width, object().Top + object().Height}));
+        EXPECT_EQ(added, c[1] + ", grip");
         EXPECT_EQ(page.selectedObject, it);
     }
     expectOrders(
@@ -70,11 +69,10 @@ TEST_F(Toolbar, ARepeatedFieldIsOneInAllButItsStyle) {
     openSheet("F|Qty|0|0|900|300;F|Qty|0|0|900|300;B|0|0|900|900|0|1|;L|x|0|0|9|9;F|Name|0|0|900|300", true);
     expectOrders(
         "pBox,1 select SendFront -> layoutField,3 tLabel,1 layoutField,2 layoutField,1 pBox,1 selected "
-        "pBox,1 ; "
-        "layoutField,1 select SendFront -> layoutField,3 tLabel,1 pBox,1 layoutField,1 layoutField,2 "
-        "selected layoutField,1 ; SendBack -> layoutField,2 layoutField,1 layoutField,3 tLabel,1 pBox,1 "
-        "selected layoutField,1 ; layoutField,3 select SendBack layoutField,1 select -> layoutField,3 "
-        "layoutField,2 layoutField,1 tLabel,1 pBox,1 selected layoutField,1 ");
+        "pBox,1 ; layoutField,1 select SendFront -> layoutField,3 tLabel,1 pBox,1 layoutField,1 "
+        "layoutField,2 selected layoutField,1 ; SendBack -> layoutField,2 layoutField,1 layoutField,3 "
+        "tLabel,1 pBox,1 selected layoutField,1 ; layoutField,3 select SendBack layoutField,1 select -> "
+        "layoutField,3 layoutField,2 layoutField,1 tLabel,1 pBox,1 selected layoutField,1 ");
     const std::string before = lines();
     after("Font"); // cancelled
     EXPECT_EQ(lines(), before);
@@ -122,7 +120,7 @@ TEST_F(Toolbar, LabelsTakeNamesTextsAndLinks) {
     // One that is typed in is neither dragged nor deleted by a key.
     expect("tLabel,3 select Delete tLabel,1 click dblclick take by 300 300 drop key 46 0",
            "Second Photo bold marked open; Name bold; typing");
-    EXPECT_EQ(state(), "1440 195 1695 195, grip 3135 390");
+    EXPECT_EQ(state(), "1440 195 1695 195, grip");
     EXPECT_TRUE(layout::tLabel_KeyPress(app, 'a') && !layout::tLabel_KeyPress(app, 13));
     EXPECT_TRUE(told().starts_with("i Please use separate labels for multiple lines"));
     layout::tLabel_Change(app, 1, "Went");
@@ -141,9 +139,8 @@ TEST_F(Toolbar, LabelsTakeNamesTextsAndLinks) {
 }
 
 TEST_F(Toolbar, LinksOpenWebAndMailAskAboutTheRestAndStartNoPrograms) {
-    for (const auto& c :
-         table("notes.txt -> x; tool -> x; fake.pdf -> #!/bin/sh; it.desktop -> x; odd.txt -> "
-               "\n[Desktop Entry]\nExec=x"))
+    for (const auto& c : table("notes.txt -> x; tool -> x; fake.pdf -> #!/bin/sh; it.desktop -> x; odd.txt "
+                               "-> \n[Desktop Entry]\nExec=x"))
         ScriptedPlatform::write(platform.folder / c[0], c[1]);
     std::filesystem::permissions(platform.folder / "tool", std::filesystem::perms::owner_all);
     std::filesystem::create_symlink(platform.folder / "it.desktop", platform.folder / "alias.txt");
@@ -167,8 +164,7 @@ TEST_F(Toolbar, LinksOpenWebAndMailAskAboutTheRestAndStartNoPrograms) {
         "~/notes.txt; http://a\nfile:///x -> refuses; bin/sh -> refuses; C:\\Windows\\calc.EXE -> refuses; "
         "/none/x.desktop/ -> refuses; y.%73h -> refuses; file:///none/x%2Edesktop?y=.txt -> refuses; tool -> "
         "refuses; FILE://host~/fake%2epdf#1 -> refuses; fake.pdf -> refuses; odd.txt -> refuses; alias.txt "
-        "-> "
-        "refuses;   -> opens ";
+        "-> refuses;   -> opens ";
     const std::string x(150, 'x'), longer = x + "y" + x;
     platform.answers.assign(7, platform::Answer::Yes);
     for (const auto& c : table(core::replaceAll(cases, "~", platform.folder.string())))

@@ -24,9 +24,8 @@ struct Dialog : testing::Test, SearchProgram {
 // A box is left, or Enter is pressed in it.
 TEST_F(Dialog, ChecksWhatIsTyped) {
     const auto cases = table("Price -> 1234 -> 12.34; Price; Name -> 1234 -> 1234; Price -> x -> x -> ! "
-                             "Verify Data: You entered a "
-                             "non numeric value.; Bought -> Jan 5 -> Jan 5; Bought ->    ->   ; "
-                             "Bought -> 13/13/2004 ->  -> i You entered an invalid date.",
+                             "Verify Data: You entered a non numeric value.; Bought -> Jan 5 -> Jan 5; "
+                             "Bought ->    ->   ; Bought -> 13/13/2004 ->  -> i You entered an invalid date.",
                              4);
     inDialog([&](searchFrm& form) {
         for (const auto& c : cases)
