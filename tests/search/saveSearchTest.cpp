@@ -50,12 +50,10 @@ TEST_F(SaveSearch, MakesADatabaseOfItsOwn) {
 
 TEST_F(SaveSearch, RefusalsAndFailuresLeaveTheFilesAlone) {
     ASSERT_EQ(find("Qty = 7"), "i2 i3");
-    platform.files = {};
     run("SaveSearch"); // cancelled
     EXPECT_EQ(told(), "");
     save(file);
-    EXPECT_EQ(told(), "i You cannot save your search results to a file named the same as the one that is "
-                      "currently open.");
+    EXPECT_TRUE(told().starts_with("i You cannot save your search results to a file named the same"));
     EXPECT_EQ(dataFileOf(file), before);
     save(path("no/such/folder.fwk"));
     EXPECT_TRUE(told().starts_with("! There was an error writing to the file."));
