@@ -66,7 +66,7 @@ TEST_F(Totals, OfSelectedRows) {
         EXPECT_EQ(sums(), c[1]) << c[0];
     }
     LV.columns.setPosition(6, 2); // Sum ahead of all, as it is shown
-    calc::RefreshSelectedTotals(app);
+    calc::RefreshSelectedTotals(app.document);
     EXPECT_EQ(sums(), "Sum= Qty= Price= ");
     openCopyOf("invoices.fwk"); // the row of the list on view that the open has selected
     EXPECT_EQ(sums(), "Invoice_No=4 Subtotal=$9.00 Tax=$.72 Total=$9.72 4");

@@ -71,7 +71,7 @@ TEST_F(InvoiceRecords, DeletingThroughTheInvoiceList) {
     layoutWith(2);
     app.mainFrm.bConfirmDelete = true;
     for (const char* number : {"1", "2", "3", "4"}) record({{"No", number}, {"Qty", "1@1@"}});
-    invoice::BuildInvoicesView(app);
+    invoice::BuildInvoicesView(app.document);
     app.document.iLV.clearSelection();
     for (const int row : {2, 4}) app.document.iLV.setSelectedItem(&app.document.iLV.at(row));
     app.document.iLV.totals()->Selected = true;
@@ -94,7 +94,7 @@ TEST_F(InvoiceRecords, AWriteReachesTheResults) {
     results.Visible = true;
     for (const bool items : {true, false}) {
         app.document.bInvoiceView = items;
-        invoice::rebuildView(app);
+        invoice::rebuildView(app.document);
         results.clear();
         results.columns = app.document.iLV.columns;
         app.document.iLV.forEach(

@@ -130,7 +130,7 @@ private:
             if (rows < 10)
                 add(key + u'.' + QString::number(row), (isSelected ? u">"_s : u""_s) + textOf(row));
             if (isSelected) selected += u' ' + QString::number(row);
-            if (list != nullptr && isSelected != shell::visibleList(app_).at(row + 1).Selected)
+            if (list != nullptr && isSelected != shell::visibleList(app_.document).at(row + 1).Selected)
                 selected += u'?';
         }
         if (head != nullptr && head->sortIndicatorSection() >= 0)

@@ -12,30 +12,30 @@ TEST_F(InvoiceTest, BothViews) {
     program.total({"Qty", "Subtotal"});
     program.record({"1", "Ann", "a@@c@", "1@9@3@", "@@5@", "", "$4.00"});
     program.record({"2", "Bo", "x@@@q@", "2@@@", "", "", "$.50"});
-    invoice::BuildInvoicesView(app);
+    invoice::BuildInvoicesView(app.document);
     EXPECT_EQ(
         view(),
         "No|Customer|Subtotal|Tax|; i1: 1|Ann|$4.00||; i2: 2|Bo|$.50||; Totals: ------|------|$4.50|------|");
     // The first cell of several values decides which item rows there are: the second one has no item.
-    invoice::BuildItemsView(app);
+    invoice::BuildItemsView(app.document);
     EXPECT_EQ(view(), "Customer|Item|Qty|Price|Line|; i1: Ann|a|1|||; i1: Ann|c|3|5||; i2: Bo|x|2|||; "
                       "Totals: ------|------|6|------|------|");
     // A new invoice has no cell of several values, so nothing decides, and all rows appear.
     invoice::addInvoiceRecord(app);
     app.document.bInvoiceView = true;
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
     EXPECT_EQ(app.document.iLV.count(), 7);
     app.document.iLV.columns.setPosition(2, 4); // dragged, and kept
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     EXPECT_EQ(app.document.iLV.columns.at(2).Position, 4);
     // A view made anew follows the columns, and leaves them the widths that it was given.
     app.document.iLV.columns["Qty"].Width = 77;
     app.document.LV.columns["Qty"].setTypeFromFile("3");
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     EXPECT_EQ(app.document.iLV.columns["Qty"].Tag, "3");
     EXPECT_EQ(app.document.LV.columns["Qty"].Width, 77);
     app.document.LV.columns.remove(app.document.LV.columns["Line"].Index);
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     EXPECT_EQ(app.document.iLV.columns.find("Line"), nullptr);
 }
 
@@ -52,12 +52,12 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
     // With one field left, a column is of the invoice, and its values show as they are stored.
     record({{"Qty", "1@2@"}});
     layoutWith(1);
-    invoice::BuildInvoicesView(app);
+    invoice::BuildInvoicesView(app.document);
     EXPECT_EQ(view(), "No|Customer|Item|Qty|Price|Line|Subtotal|Tax|; i4: |||1@2@|||||; Totals: "
                       "------|------|------|------|------|------|------|------|");
     layoutWith(2); // without a cell of several values in the first record there is no item row
     cell(app.document.LV.at(1), "Qty") = "7";
-    invoice::BuildItemsView(app);
+    invoice::BuildItemsView(app.document);
     EXPECT_EQ(app.document.iLV.count(), 1);
 }
 
@@ -73,7 +73,7 @@ TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
             std::istringstream positions(c[0]);
             for (std::string each; positions >> each;) places->add(each);
         }
-        invoice::rebuildView(app);
+        invoice::rebuildView(app.document);
         EXPECT_EQ(view().substr(0, view().find(';')), c[1]) << c[0];
     }
 }
@@ -93,7 +93,7 @@ TEST_F(InvoiceTest, RetrieveShowsAValueInEachRow) {
          table("a@b@c@ -> a|b|c|; a@@c@ -> a||c|; a@ -> a|||; single -> |||;  -> |||; a@b@c@d@ -> a|b|c|")) {
         core::Item& item = record({{"Item", c[0].c_str()}, {"No", " 7 "}, {"Customer", " Ann "}});
         app.document.LV.setSelectedItem(&item);
-        invoice::retrieveInvoiceRecord(app);
+        invoice::retrieveInvoiceRecord(app.document);
         EXPECT_EQ(fields("Item") + fields("No") + fields("Customer") + fields("Gone"), c[1] + "7| Ann ||")
             << c[0];
     }

@@ -123,7 +123,7 @@ TEST_F(Toolbar, LabelsTakeNamesTextsAndLinks) {
     EXPECT_EQ(state(), "1440 195 1695 195, grip");
     EXPECT_TRUE(layout::tLabel_KeyPress(app, 'a') && !layout::tLabel_KeyPress(app, 13));
     EXPECT_TRUE(told().starts_with("i Please use separate labels for multiple lines"));
-    layout::tLabel_Change(app, 1, "Went");
+    layout::tLabel_Change(app.document, 1, "Went");
     layout::tLabel_LostFocus(app, 1);
     platform.inputs = {"http://a"};
     expect("Link click", "Went bold marked to http://a; Name bold; ");

@@ -29,7 +29,7 @@ struct DesignLock : testing::Test, Program {
     }
     std::string scrambled(std::string_view password) {
         lockPassword = password;
-        lock::scrambleLockPassword(app);
+        lock::scrambleLockPassword(app.document);
         return lockPassword;
     }
     std::string& lockPassword = app.document.lockPassword;

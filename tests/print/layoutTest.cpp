@@ -144,7 +144,7 @@ TEST_F(Layout, ManyLayoutsStandInAGrid) {
     EXPECT_EQ(platform.printed.ends, "|.") << "a full last page is the last";
     // The results are fewer than the records, whose count decides about the next sheet.
     openRecords(90, oneField);
-    search::takeOverColumns(app);
+    search::takeOverColumns(app.document);
     search::findRecords(app, {{{"Name", search::within, "r9", ""}}});
     printed();
     run("Print_All_As_Multiple_Layouts");

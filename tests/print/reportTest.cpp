@@ -100,15 +100,16 @@ TEST_F(Report, PaperBreaksOnceByItselfAndThenRunsOn) {
 TEST_F(Report, TheSelectionPrintsWithItsOwnSums) {
     openList("Bolt|12|$1.50;Nut|7|$.25", "Name|Price|Qty|", "Stock");
     select({1, 2});
-    calc::RefreshSelectedTotals(app);
-    for (const int row : {1, 2}) calc::UpdateSelectedTotals(app, core::TotalsMode::Add, app.document.LV, row);
+    calc::RefreshSelectedTotals(app.document);
+    for (const int row : {1, 2})
+        calc::UpdateSelectedTotals(app.document, core::TotalsMode::Add, app.document.LV, row);
     run("Print");
     EXPECT_TRUE(drawnOn(sheet(0)).ends_with(
         "; 0,2070-12240,2070;          @1690,2080; 19@4080,2080; $1.75@5470,2080"))
         << drawnOn(sheet(0));
     printed();
     select({2}); // one row is no selection for the button, but for the menu
-    calc::RefreshSelectedTotals(app);
+    calc::RefreshSelectedTotals(app.document);
     run("Print");
     run("Selected_As_Report");
     EXPECT_EQ(printed(), "Stock Name Qty Price Bolt 12 $1.50 Nut 7 $.25 ------ ------ ------|.Stock Name Qty "

@@ -123,9 +123,9 @@ TEST_F(Dialog, StatesOfTheWindow) {
     inDialog([&](searchFrm& form) {
         EXPECT_EQ(form.List1.items.size(), static_cast<std::size_t>(document.iLV.columns.count() - 1));
         form.searchBtn_Click();
-        EXPECT_EQ(&shell::visibleList(app), &document.searchLV);
+        EXPECT_EQ(&shell::visibleList(app.document), &document.searchLV);
         form.allBtn_Click();
-        EXPECT_EQ(&shell::visibleList(app), &document.iLV);
+        EXPECT_EQ(&shell::visibleList(app.document), &document.iLV);
     });
     EXPECT_TRUE(app.mainFrm.theListView == &document.LV && document.LV.count() != document.iLV.count());
     EXPECT_EQ(panel(app::recordsPanel), std::to_string(document.LV.count() - 1) + " records.");

@@ -81,7 +81,7 @@ TEST_F(SaveSearch, RecordsAreTakenByThePlaceInTheirKeyAndInvoicesOnce) {
     EXPECT_EQ(rows(), " Bolt |12|$1.50|\r\n------|------|------|\r\n");
     std::filesystem::remove(target);
     openCopyOf("invoices.fwk");
-    takeOverColumns(app);
+    takeOverColumns(app.document);
     core::addTotalsRow(document.searchLV);
     for (const char* key : {"i2", "i1", "i2"}) document.searchLV.add("", key).Tag = key;
     core::moveTotals(document.searchLV);

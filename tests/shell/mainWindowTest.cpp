@@ -50,7 +50,7 @@ struct MainWindow : testing::Test, Program {
         for (const char* key : {"Totals", "Search", "Design"})
             if (mainFrm.control(key).Value) buttons += static_cast<char>(key[0] + 32);
         return {std::to_string(mainFrm.SSTab1) + std::to_string(mainFrm.iPrintMode), buttons + ".",
-                (mainFrm.invoiceFrameVisible ? "f " : "") + shell::visibleList(app).Name + "/" +
+                (mainFrm.invoiceFrameVisible ? "f " : "") + shell::visibleList(app.document).Name + "/" +
                     mainFrm.theListView->Name + (LV.MultiSelect ? "+" : ""),
                 record + "/" + std::to_string(LV.count()), shown()};
     }
@@ -59,7 +59,7 @@ struct MainWindow : testing::Test, Program {
     void play(std::string_view acts) {
         for (const auto& c : table(acts)) {
             const std::string what = c[0].substr(0, c[0].find(' ')), which = c[0].substr(c[0].rfind(' ') + 1);
-            RecordsList& list = shell::visibleList(app);
+            RecordsList& list = shell::visibleList(app.document);
             if (what == "open") openCopyOf(which + ".fwk");
             if (what == "tab") shell::SSTab1_Click(app, std::stoi(which));
             if (what == "row") list.setSelectedItem(&list.at(std::stoi(which)));
@@ -78,7 +78,7 @@ struct MainWindow : testing::Test, Program {
     std::vector<std::string> state_{5};
     // Results on view, as a search leaves them: one record, or none.
     void find(const std::string& key) {
-        search::takeOverColumns(app);
+        search::takeOverColumns(app.document);
         core::addTotalsRow(results);
         if (LV.find(key) != nullptr) results.add(key, key).Tag = key;
         core::moveTotals(results);

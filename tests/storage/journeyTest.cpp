@@ -157,7 +157,7 @@ private:
                             cells(document.LV3)},
             {"sheet", number(mainFrm.iFieldFocus) + on(mainFrm.control("Search").Value)},
             {"tab", number(mainFrm.SSTab1) + on(mainFrm.SSTab1Enabled) + on(mainFrm.control("Save").Enabled)},
-            {"view", on(&shell::visibleList(app) == &LV) +
+            {"view", on(&shell::visibleList(app.document) == &LV) +
                          number(document.iLV.Visible ? document.iLV.count() : -1) + number(mainFrm.viewOpt) +
                          on(document.bInvoiceView) + panel(app::stylePanel)}};
     }

@@ -106,7 +106,8 @@ private:
     void act(const SheetEvent& event, const std::string& key) {
         const auto which = static_cast<int>(event.which);
         const int count = app_.document.LV.count();
-        core::RecordsList* list = app_.mainFrm.SSTab1 == app::reportTab ? &shell::visibleList(app_) : nullptr;
+        core::RecordsList* list =
+            app_.mainFrm.SSTab1 == app::reportTab ? &shell::visibleList(app_.document) : nullptr;
         const bool isPage = isPageInFront();
         const char* name = std::array{"a", "b", "zoe", "none"}.at(event.which % 4);
         if (event.what == Tab) hands_.showTab(which % 3);
