@@ -147,9 +147,9 @@ another imgHolder1; drag tLabel10 0,60; another tLabel10; click tLabel1; double 
 click tLabel10; double imgHolder1 -> "mailto:library@example.org" "You selected a"
 slide Slider1 7; focus f2; press Ctrl+Z -> Slider1=7 recordPosition=Record 7 of 42 f1=7 f2=|Pride and Prejudice
     f3=Jane Austen f4=08/18/1999 f5=$949.97 f6=4 f7=$3,799.88 f8=lent to a friend. lent twice
-press End; type and more and more and more and more and more -> f2=Pride and Prejudiceand more and more and more and
-    more and more|(scrolled)
-focus f1 -> f1=|7 f2=Pride and Prejudiceand more and more and more and more and more
+press End; type andmoreandmoreandmoreandmoreandmoreandmoreandmore -> f2=Pride and
+    Prejudiceandmoreandmoreandmoreandmoreandmoreandmoreandmore|(scrolled)
+focus f1 -> f1=|7 f2=Pride and Prejudiceandmoreandmoreandmoreandmoreandmoreandmoreandmore
 tab 0 -> Totals Properties Delete page LV.rows=43 top 0 at 6 7|Pride and Prejudice selected 6 LV=*
 )");
         QImage clear(80, 40, QImage::Format_ARGB32);

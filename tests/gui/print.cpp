@@ -22,10 +22,10 @@ private:
     }
     // Pages and paper of the file, and how often its text has a word in it.
     QString printed(const QString& word) const {
-        const QString info = answerOf(u"pdfinfo"_s, {pdf_}).simplified();
-        return info.section(u"Pages: "_s, 1).section(u' ', 0, 0) + u" of "_s +
-               info.section(u"Page size: "_s, 1).section(u" pts"_s, 0, 0) + u", "_s +
-               QString::number(answerOf(u"pdftotext"_s, {pdf_, u"-"_s}).count(QRegularExpression(word)));
+        static const QRegularExpression form(u"Pages: (\\d+).*Page size: (.*) pts"_s);
+        const auto info = form.match(answerOf(u"pdfinfo"_s, {pdf_}).simplified());
+        const auto count = answerOf(u"pdftotext"_s, {pdf_, u"-"_s}).count(QRegularExpression(word));
+        return u"%1 of %2, %3"_s.arg(info.captured(1), info.captured(2)).arg(count);
     }
     // The page on view and the first printed one have their ink in the same places.
     void comparePageWithPaper(Session& run) {
@@ -49,8 +49,7 @@ private:
 
 private slots:
     void initTestCase() {
-        gui::QtPlatform platform;
-        if (platform.printerDeviceName() != "Print to PDF") QSKIP("this system has printers");
+        if (gui::QtPlatform().printerDeviceName() != "Print to PDF") QSKIP("this system has printers");
         if (QStandardPaths::findExecutable(u"pdftoppm"_s).isEmpty()) QSKIP("poppler-utils is not installed");
     }
     void cleanup() { QFile::remove(pdf_); }

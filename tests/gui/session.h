@@ -82,7 +82,6 @@ public:
         go(nullptr);
         QVERIFY(!isWrong_);
     }
-    void ahead(const QString& acts) { acts_ = acts.split(u';'); } // for the next dialog
     void act(QString acts) {
         static const std::pair<QRegularExpression, QString> shorter[] = {
             {QRegularExpression(u"\\btool "_s), u"click layoutToolbar."_s},

@@ -204,7 +204,7 @@ private slots:
               "press Tab; type x; press Return; press Backspace; type 0; press Return; press Backspace; "
               "type 1601; press Return; press Shift+Home; type 9,75; press Tab 2; press Space; press Tab; "
               "press Space; press Tab; press Space; press Tab; press Space; press Return"}) {
-            run.ahead(QString::fromLatin1(acts));
+            run.onDialog = [&](QDialog&) { run.act(QString::fromLatin1(acts)); };
             const auto font = platform.showFont({"MS Sans Serif", 8.25F, true, false, false, true, -5});
             if (!font) continue;
             told += QString::asprintf("%s %g %d%d%d%d %d|", font->FontName.c_str(), double(font->FontSize),
