@@ -46,7 +46,7 @@ TEST_F(BadInput, CheckNamesWhatIsWrong) {
     names.sections(
         "Totaled Cols=Sum|;Printed Cols=Nme|;PrnInvoiceCols=A|;PrnItemCols=Index|;Increments=No,4|;"
         "Optioned Cols=Day|;Formulas=Qty,Price * Pieces|Value,Undefined|;"
-        "Locks=pBox,1|tLabel,1|pbLine,1|vLine,1|imgHolder,2|clipPic,0|x,1|layoutField|clipPic,99999999999|");
+        "Locks=pBox,1|imgHolder,2|clipPic,0|x,1|layoutField|clipPic,99999999999|");
     make("names.fwk", names, {"in.jpg", "orphan.jpg"});
     twice.types = "3|4|2|3|";
     twice.widths = "1|1|1|1|1|";
@@ -69,13 +69,12 @@ a serial counter names "No", which is no column // the formula of "Qty" names "P
 a formula names "Value", which is no column // layoutField 1 names "Gone", which is no column
 imgHolder 1 names "Name", which is no Picture column
 clipPic 1 names the image "absent.gif", which is not in the archive
-a lock names "pBox,1", which is not on the layout // a lock names "tLabel,1", which is not on the layout
-a lock names "pbLine,1", which is not on the layout // a lock names "vLine,1", which is not on the layout
-a lock names "imgHolder,2", which is not on the layout // a lock names "clipPic,0", which is not on the layout
-a lock names "x,1", which is not on the layout // a lock names "layoutField", which is not on the layout
+a lock names "pBox,1", which is not on the layout // a lock names "imgHolder,2", which is not on the layout
+a lock names "clipPic,0", which is not on the layout // a lock names "x,1", which is not on the layout
+a lock names "layoutField", which is not on the layout
 a lock names "clipPic,99999999999", which is not on the layout
 i2 in "Photo" names the image "lost.jpg", which is not in the archive // nothing names the image "orphan.jpg"
-! 24 findings && $1 fwk check twice.fwk -> line 8: section [Column Names] is there twice
+! 21 findings && $1 fwk check twice.fwk -> line 8: section [Column Names] is there twice
 section [Column Types] has 4 elements in place of 3 // section [Column Widths] has 5 elements in place of 3
 section [Column Spots] has 2 elements in place of 4 // ! 4 findings && $1 fwk check order.fwk
 the width "1e9" of a column is out of range // the width "-1" of a column is out of range

@@ -60,8 +60,8 @@ $1 fwk expression a.fwk Q 'A / / B' -> ! Ferrowick: An error has ... // ! Ferrow
 ! i1 cannot be calculated (Syntax error: 7//2) // ! i2 cannot be calculated (Syntax error: 1//0)
 ! i3 cannot be calculated (Syntax error: 6//0) // ! i4 cannot be calculated (Syntax error: 8//4)
 ! the calculation failed, so that nothing is saved
-$ for n in 20 21; do cp a.fwk b.fwk; (echo A; yes 7 | head -$n) | fwk import b.fwk /dev/stdin 2>&1; done | grep more; rm b.fwk
-fwk: b.fwk: and 1 more
+$ for n in 20 21; do cp a.fwk ../b; (echo A; yes 7 | head -$n) | fwk import ../b /dev/stdin 2>&1; done | grep more
+fwk: ../b: and 1 more
 )sh");
 }
 

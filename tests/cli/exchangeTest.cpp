@@ -41,8 +41,6 @@ $ printf 'a b;Day;Pay;N\nx;1/2/2003;$5;1\n;;;\n' | fwk import new.fwk t -> 2 // 
 $ printf 'P:Picture,N:Number\nx.jpg,1\ny.jpg,2\nx.jpg,\n' | fwk import pictures.fwk t -> 3
 ! it has none of the images that are named (2) // @ pictures.fwk // +data.dat:Main Data File:
 +[Column Names]P|N| // +[Column Types]7|4| // +x.jpg|1| // +y.jpg|2| // +x.jpg|| // +=|=|
-$ printf 'a\nb@c@\n' | fwk import i.fwk --invoice t -> 1 // @ i.fwk // +data.dat:Main Data File:
-+[Column Names]a| // +[Column Types]3| // +[DatabaseStyle]True // +b@c@| // +=|
 $ printf 'name,Bought,Photo\n"Emma, again",3/4/2024, in.jpg \nIt,x,\n' | fwk import c.fwk t -> 2
 -[Optioned Cols]No|Bought| // -[Increments]No,7| // +[Optioned Cols]No|Bought| // +[Increments]No,9|
 ~8|Emma, again|03/04/2024|in.jpg|16| // +9|It|x||18| // +=|=|=|=|34|

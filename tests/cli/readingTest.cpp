@@ -71,9 +71,7 @@ Totals  ------      2  $1.50 && $ fwk records odd.fwk --json -> {"columns": ["Na
   {"key": "i3", "cells": ["Ærø x", "3", "(4)"]}, //   {"key": "i4", "cells": ["\u007f", "", ""]}],
  "totals": ["------", "2", "$1.50"]} && $ fwk records odd.fwk --csv --columns PRICE,Name -> Price,Name
 ,"a ""b"", c" // $1.50,"  x // y	\" // (4),Ærø x // , && $ fwk records none.fwk --json -> {"columns": [],
- "records": [], //  "totals": []} && $ fwk --version -> fwk 0.1.0 && $ fwk --help | grep save-as
-  save-as                     Saves a database under another name, with its images
-$ fwk records --help | grep -e --columns ->   --columns A,B               These columns alone, in this order
+ "records": [], //  "totals": []} && $ fwk --version -> fwk 0.1.0
 )sh");
 }
 
