@@ -11,23 +11,7 @@
 #include <map>
 #include <random>
 
-enum SheetKind {
-    Tab,
-    Row,
-    Find,
-    Leave,
-    Focus,
-    Type,
-    Go,
-    Slide,
-    Copy,
-    Sort,
-    View,
-    Remove,
-    Open,
-    Design,
-    Print
-};
+enum Act { Tab, Row, Find, Leave, Focus, Type, Go, Slide, Copy, Sort, View, Remove, Open, Design, Print };
 struct SheetEvent {
     std::mt19937::result_type what, which, how;
 };
@@ -163,7 +147,7 @@ private:
 
 // Plays that many events up to a kind, in runs that each begin afresh.
 template <typename Play>
-std::string failureOf(int count, SheetKind last, const Play& play) {
+std::string failureOf(int count, Act last, const Play& play) {
     std::mt19937 random(1);
     std::string wrong;
     if (const char* wanted = std::getenv("FERROWICK_EVENTS")) count = std::atoi(wanted);
