@@ -80,6 +80,8 @@ look ruler1 13 110 -> "0. 23! 24. 47! 48. 71! 72. 95! 96:1e8e3e 105."
 look ruler2 -18 100 -> "0! 1. 12! 13. 24! 25. 36! 37. 48! 49. 60! 61. 72! 73. 84! 85. 96! 97."
 click pbLine1; look layoutPic2 -231 400 -> "0. 96:9aa0a6 97. 101! 102. 178! 179. 198:308cc6 200. 201! 203. 205:308cc6
     207." layoutToolbar.Lock selectionPlace=At 0.42, 2.08 Size 3.33 x 0.05 in
+click pBox1; tool Lock; hold Handle 20,10; look pBox1 0 30 -> "0! 4. 6! 10. 12! 16. 18! 22. 24! 28." selectionPlace=At
+    1.04, 1.04 Size 2.33 x 1 in
 )");
     }
 

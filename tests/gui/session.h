@@ -49,7 +49,7 @@ private:
 //                               a double click of that one
 //     Ctrl+click LV Ann         with a key held, on a row by its beginning, or by its number: #3
 //     click LV.Title            a heading, which tells also where to drag
-//     drag pBox1 37,61 2,2      by so many pixels, from there
+//     drag pBox1 37,61 2,2      by so many pixels, from there; "hold" does not let go
 //     wheel pBox1 0,-120        slide Slider1 7        focus f2        tab 1
 //     tool Field Name           a button of the design, with an entry of its menu
 //     nav Next                  a button of the records
@@ -225,10 +225,11 @@ private:
             QApplication::sendEvent(widget, &wheel);
         } else if (verb == "another"_L1) {
             QTest::mouseDClick(widget, Qt::RightButton, {}, at);
-        } else if (verb == "drag"_L1) {
+        } else if (verb == "drag"_L1 || verb == "hold"_L1) {
             QTest::mousePress(widget, Qt::LeftButton, {}, from);
             for (int step = 1; step <= 8; ++step) // the widget may move along under the pointer
                 QTest::mouseMove(widget, widget->mapFromGlobal(start + at * step / 8));
+            if (verb == "hold"_L1) return;
             QTest::mouseRelease(widget, Qt::LeftButton, {}, widget->mapFromGlobal(start + at));
         } else {
             QTest::mouseClick(widget, verb == "menu"_L1 ? Qt::RightButton : Qt::LeftButton, with, at);

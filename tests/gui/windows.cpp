@@ -230,9 +230,11 @@ private slots:
             // As typed: a selection would have to wait for the folder to be listed.
             dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(sample("books.fwk").chopped(4));
             QMetaObject::invokeMethod(&dialog, "accept");
+            QVERIFY(dialog.width() > 650); // sizes and dates have room
         };
         const platform::FileDialog asked{"", "Untitled", std::string(platform::databaseFilter)};
         QCOMPARE(gui::toQt(gui::QtPlatform().showSave(asked).value_or("none")), path("books.fwk"));
+        QCOMPARE(gui::toQt(gui::QtPlatform().showOpen(asked).value_or("none")), path("books.fwk"));
         run.onDialog = [](QDialog&) {};
         QVERIFY(!gui::QtPlatform().showSave(asked));
     }
