@@ -26,7 +26,8 @@ std::string again(const std::string& text) {
 
 // Every section, in the order in which they are written.
 DataFile designOnly() {
-    DataFile data({{"Name", 3}, {"Qty", 4}, {"Photo", 7}});
+    DataFile data("Name Qty:4 Photo:7");
+    data.rows.clear();
     data.widths = "1234.5|1440|1440|";
     data.spots = "1|3|4|2|";
     data.objects("L|Hello|0|0|1695|195|False|False|False|MS Sans Serif|8.25|0|http://a.org|2|;"

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <algorithm>
-#include <initializer_list>
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 // A document in a few lines, as the text of a data.dat. The columns are names with the digits of their types,
@@ -30,16 +28,14 @@ struct DataFile {
         : names(), types(), widths(), spots("1|"), rows() {
         for (const std::string& column : pieces(columns, ' ')) {
             const std::size_t colon = std::min(column.find(':'), column.size());
-            addColumn(column.substr(0, colon), colon < column.size() ? column[colon + 1] - '0' : 3);
+            names += column.substr(0, colon) + "|";
+            types += std::string(1, colon < column.size() ? column[colon + 1] : '3') + "|";
+            widths += "1440|";
+            spots += std::to_string(std::ranges::count(types, '|') + 1) + "|";
         }
         for (const std::string& record : pieces(records, ';')) rows += record + "|\r\n";
         for (std::size_t column = pieces(types, '|').size(); column > 0; --column) rows += "------|";
         rows += "\r\n";
-    }
-    // Columns with the digits of their types, each as wide as the next, and without rows.
-    explicit DataFile(std::initializer_list<std::pair<const char*, int>> columns)
-        : names(), types(), widths(), spots("1|"), rows() {
-        for (const auto& [name, type] : columns) addColumn(name, type);
     }
     DataFile& section(std::string name, const std::string& line) {
         name.resize(14, ' ');
@@ -60,13 +56,6 @@ struct DataFile {
         }
         return *this;
     }
-    void addColumn(const std::string& name, int type) {
-        names += name + "|";
-        types += std::to_string(type) + "|";
-        widths += "1440|";
-        spots += std::to_string(std::ranges::count(types, '|') + 1) + "|";
-    }
-
     std::string text() const {
         return "[LayoutStart]\r\n" + layout + "[LayoutEnd]\r\n[Layout Options]4|6|1|1|1|1|1|1|0.15|\r\n" +
                "[Column Names  ]" + names + "\r\n[Column Types  ]" + types + "\r\n[Column Widths ]" + widths +
