@@ -87,16 +87,16 @@ bool tryToAdd(App& app, const std::function<void()>& add) {
     return false;
 }
 
-void addToArchive(App& app, const fs::path& file, const std::string& comment) {
+void addToArchive(core::Document& document, const fs::path& file, const std::string& comment) {
     file::Zip Zip;
-    Zip.OpenArchive(app.document.currentFile);
+    Zip.OpenArchive(document.currentFile);
     Zip.AddFile(file, comment);
     Zip.CloseArchive();
 }
 
-bool archiveHas(App& app, const std::string& name) {
+bool archiveHas(core::Document& document, const std::string& name) {
     file::Zip Zip;
-    Zip.OpenArchive(app.document.currentFile);
+    Zip.OpenArchive(document.currentFile);
     const bool found = Zip.contains(name);
     Zip.CloseArchive();
     return found;
@@ -177,7 +177,7 @@ void imgHolder_DblClick(App& app, int index) {
     if (holder == nullptr || isDesignMode(app)) return;
     const std::optional<fs::path> file = chooseImage(app, "Select image for picture box.");
     if (!file) return;
-    if (!tryToAdd(app, [&] { addToArchive(app, *file, ""); })) return;
+    if (!tryToAdd(app, [&] { addToArchive(app.document, *file, ""); })) return;
     fitImage(app, *holder, holder->viewImage, *file);
     holder->ToolTipText = file->filename().string();
     // An unpacked image of that name is another one from now on.
@@ -193,7 +193,7 @@ void selectClipArt(App& app, int iIndex) {
     if (!file) return;
     const fs::path copy = app.platform.tempFolder() / file->filename();
     const bool added = tryToAdd(app, [&] {
-        addToArchive(app, *file, "Clip Art");
+        addToArchive(app.document, *file, "Clip Art");
         std::error_code error;
         if (!fs::equivalent(*file, copy, error))
             fs::copy_file(*file, copy, fs::copy_options::overwrite_existing);
@@ -210,10 +210,10 @@ std::string storeClipboardImage(App& app, const FittedImage& image) {
         std::string jpgName = "cb" + number + ".jpg";
         // The names that are taken would be those of the .jpg files; it is the other that is asked for,
         // and it is wanted so.
-        if (archiveHas(app, bmpName)) continue;
+        if (archiveHas(app.document, bmpName)) continue;
         const fs::path jpeg = app.platform.tempFolder() / jpgName;
         app.platform.convertToJpeg(image.path, jpeg, 75);
-        addToArchive(app, jpeg, "");
+        addToArchive(app.document, jpeg, "");
         return jpgName;
     }
 }

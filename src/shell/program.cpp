@@ -22,7 +22,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Objects}, layout::forgetLostObject);
     changes.follow({Change::PageEmptied}, entry::unbindSheet);
     changes.follow({Change::Values, Change::CurrentRecord}, entry::refreshShownRecord);
-    changes.follow({Change::Columns, Change::Values}, invoice::rebuildView);
+    changes.follow({Change::Columns, Change::Values}, [](App& app) { invoice::rebuildView(app.document); });
     changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Preview}, [](App& app) { SSTab1_Click(app, app::previewTab); });
 }

@@ -70,7 +70,7 @@ void rememberFile(App& app, bool StartUp) {
 void showOpened(App& app, bool StartUp) {
     Document& document = app.document;
     app::MainFrm& mainFrm = app.mainFrm;
-    calc::RefreshSelectedTotals(app);
+    calc::RefreshSelectedTotals(app.document);
     // Below two records the slider and the count keep what they showed. It is wanted so.
     if (document.LV.count() >= 3) {
         mainFrm.Slider1.Max = document.LV.count() - 1;
@@ -128,7 +128,7 @@ void readArchive(App& app, const std::string& path) {
     if (document.LV.empty()) core::addTotalsRow(document.LV);
     document.iLV.Visible = document.bInvoiceStyle;
     if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
 }
 
 void extractClipArt(App& app) {
@@ -149,7 +149,8 @@ void OpenFile(App& app, bool StartUp) {
         if (app.platform.keepsDataFile()) extractClipArt(app);
         showOpened(app, StartUp);
     } catch (const std::exception&) {
-        // Whatever is wrong with it, a file that cannot be opened ends in the empty window, without a message.
+        // Whatever is wrong with it, a file that cannot be opened ends in the empty window, without a
+        // message.
         app.document.currentFile.clear();
         app::enableControls(app, false);
         app.mainFrm.theListView = &app.document.LV;
