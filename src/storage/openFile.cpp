@@ -72,7 +72,7 @@ void rememberFile(App& app, bool StartUp) {
 void showOpened(App& app, bool StartUp) {
     Document& document = app.document;
     app::MainFrm& mainFrm = app.mainFrm;
-    calc::RefreshSelectedTotals(app);
+    calc::RefreshSelectedTotals(app.document);
     // Below two records the slider and the count keep what they showed. It is wanted so.
     if (document.LV.count() >= 3) {
         mainFrm.Slider1.Max = document.LV.count() - 1;
@@ -130,7 +130,7 @@ void readArchive(App& app, const std::string& path) {
     if (document.LV.empty()) core::addTotalsRow(document.LV);
     document.iLV.Visible = document.bInvoiceStyle;
     if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
 }
 
 void extractClipArt(App& app) {

@@ -11,12 +11,10 @@ namespace fs = std::filesystem;
 
 // What the window does by itself to lose nothing: timers, signals, the bar, and the questions as they are
 // shown.
-class RecoveryTest : public QObject {
+class RecoveryTest : public GuiTest {
     Q_OBJECT
 
 private:
-    Folders folders_;
-
     static void open(Session& run, const QString& file) {
         run.platform.isUsers = true;
         run.window.events().run([&] { shell::openNamedFile(run.app, gui::fromQt(file)); });
@@ -32,21 +30,24 @@ private:
         return count;
     }
     QString books(const char* rows = "Bolt|1;Nut|2") const {
-        return folders_.database("books.fwk", DataFile("Name Place", rows).objects("F|Name|0|0|900|300"));
+        return database("books.fwk", DataFile("Name Place", rows).objects("F|Name|0|0|900|300"));
     }
-    // Presses a button of the question that comes up, when it does.
-    static void answer(const QString& button, QString* text = nullptr) {
-        QTimer::singleShot(0, qApp, [=] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr) qFatal("nothing is asked");
-            if (text != nullptr) *text = box->text();
-            for (QAbstractButton* each : box->buttons())
-                if (each->text().remove(u'&') == button) return each->click();
-            QTest::keyClick(box, Qt::Key_Escape);
-        });
+    // Presses a button of the question that comes up.
+    static void answer(Session& run, const QString& button, QString* text = nullptr) {
+        run.onDialog = [=](QDialog& dialog) {
+            if (text != nullptr) *text = dialog.findChild<QLabel*>(u"qt_msgbox_label"_s)->text();
+            for (auto* each : dialog.findChildren<QPushButton*>())
+                if (each->text().remove(u'&') == button) each->click();
+        };
+    }
+    static QString names(const Session& run) {
+        QString all;
+        run.app.document.LV.forEach(
+            [&](const core::Item& item) { all += gui::toQt(item.cells[0].str()) + u' '; });
+        return all;
     }
     static QStringList bar(Session& run) {
-        auto* notice = run.find<gui::NoticeBar>("noticeBar");
+        auto* notice = run.window.findChild<gui::NoticeBar*>();
         QStringList all;
         if (!notice->isVisible()) return all;
         for (const auto* each : notice->findChildren<QPushButton*>(QRegularExpression(u"^notice_"_s)))
@@ -56,10 +57,7 @@ private:
 
 private slots:
     void initTestCase() { qunsetenv("XDG_STATE_HOME"); }
-    void init() {
-        Folders::forgetSettings();
-        fs::remove_all(folder());
-    }
+    void cleanup() { fs::remove_all(folder()); }
 
     void keepsWhatIsTypedAndOffersIt() {
         const QString file = books();
@@ -73,15 +71,14 @@ private slots:
         }
         Session run;
         QString text;
-        answer(u"Cancel"_s, &text);
+        answer(run, u"Cancel"_s, &text);
         open(run, file);
         QVERIFY2(text.contains(u"File: "_s + file) && text.contains(u"Records: 2"_s), qPrintable(text));
         QVERIFY(!run.app.document.bModified);
-        answer(u"Restore"_s);
+        answer(run, u"Restore"_s);
         open(run, file);
         QVERIFY(run.app.document.bModified);
-        QCOMPARE(run.panel(app::documentPanel), u"Document Modified"_s);
-        run.action("mnuSave")->trigger();
+        run.act(u"click mnuSave"_s);
         QCOMPARE(copies(), 0);
     }
 
@@ -93,12 +90,12 @@ private slots:
             rows += "some text|" + std::to_string(row) +
                     "|3|4|5|6|7|8|9|a text|11|12|13|14|15|16|17|18|19|20|21|22|23|24|25;";
         rows.pop_back();
-        const QString file = folders_.database(
+        const QString file = database(
             "big.fwk",
             DataFile("A B C D E F G H I J K L M N O P Q R S T U V W X Y", rows).objects("F|A|0|0|2000|300"));
         Session run;
         open(run, file);
-        run.showTab(app::layoutTab);
+        run.act(u"tab 1"_s);
         auto* field = run.window.findChild<gui::TextBox*>();
         field->setFocus();
         using Clock = storage::UnsavedWork::Clock;
@@ -142,15 +139,17 @@ private slots:
         const gui::EndSignals signalled([&](int number) {
             ended = number;
             run.window.endAtOnce();
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->reject();
         });
         open(run, file);
         run.window.events().run([&] { app::setDocumentModified(run.app, true); });
-        QTimer::singleShot(0, [] { ::raise(SIGTERM); });
+        run.onDialog = [&](QDialog&) {
+            ::raise(SIGTERM);
+            QTRY_COMPARE(ended, SIGTERM);
+        };
         QCOMPARE(run.platform.choose("?", "?", {"One"}), -1);
         QCOMPARE(ended, SIGTERM);
         QCOMPARE(copies(), 1);
-        QVERIFY(!QFile::exists(folders_.path(".~lock.books.fwk#")));
+        QVERIFY(!QFile::exists(path(".~lock.books.fwk#")));
         QCOMPARE(gui::toQt(platform::SettingsFile().GetSetting("StartUp", "defaultFile")), file);
         ::raise(SIGHUP);
         QTRY_COMPARE(ended, SIGHUP);
@@ -162,17 +161,18 @@ private slots:
         QCOMPARE(bar(run), QStringList());
         books("Other|1");
         QTRY_COMPARE(bar(run), (QStringList{u"Read Again"_s, u"Not Now"_s}));
-        QVERIFY(run.find<QFrame>("noticeBar")->accessibleName().startsWith(u"books.fwk was changed"_s));
-        QCOMPARE(run.texts(), (QStringList{u"Bolt|1"_s, u"Nut|2"_s, u"------|------"_s}));
+        QVERIFY(
+            run.window.findChild<gui::NoticeBar*>()->accessibleName().startsWith(u"books.fwk was changed"_s));
+        QCOMPARE(names(run), u"Bolt Nut ------ "_s);
         QTest::keyClick(&run.window, Qt::Key_F6,
                         Qt::ShiftModifier); // the page's other end: the tabs, then the bar
         QTest::keyClick(&run.window, Qt::Key_F6, Qt::ShiftModifier);
         QCOMPARE(QApplication::focusWidget()->objectName(), u"notice_0"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QCOMPARE(bar(run), QStringList());
-        QCOMPARE(run.texts(), (QStringList{u"Other|1"_s, u"------|------"_s}));
+        QCOMPARE(names(run), u"Other ------ "_s);
 
-        run.action("mnuSave")->trigger(); // our own
+        run.act(u"click mnuSave"_s); // our own
         QTest::qWait(700);
         QCOMPARE(bar(run), QStringList());
 
@@ -180,16 +180,16 @@ private slots:
         books("Third|1");
         QTRY_COMPARE(bar(run), (QStringList{u"Save as Another File..."_s, u"Overwrite at the Next Save"_s,
                                             u"Read the Other State"_s}));
-        run.find<QPushButton>("notice_1")->click();
+        run.act(u"click notice_1"_s);
         QCOMPARE(bar(run), QStringList());
-        run.action("mnuSave")->trigger(); // without a question
+        run.act(u"click mnuSave"_s); // without a question
         QVERIFY(!run.app.document.bModified);
         QTest::qWait(700);
         QCOMPARE(bar(run), QStringList());
 
         fs::remove(run.app.document.currentFile);
         QTRY_COMPARE(bar(run), (QStringList{u"Write It Again"_s, u"Not Now"_s}));
-        run.find<QPushButton>("notice_0")->click();
+        run.act(u"click notice_0"_s);
         QVERIFY(fs::exists(run.app.document.currentFile));
         QCOMPARE(bar(run), QStringList());
     }

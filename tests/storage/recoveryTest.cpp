@@ -13,7 +13,6 @@
 
 namespace {
 
-namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
 // Of one user: all the windows of a test share its folders.
