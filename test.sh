@@ -1,22 +1,19 @@
 #!/usr/bin/env bash
 # Builds Ferrowick and runs all its tests: as released, then with the address and undefined-behaviour
-# sanitizers; then checks the formatting, and fuzzes the readers for a while.
-#   ./test.sh [--quick] [--tidy]
+# sanitizers; then checks the formatting and the style, and fuzzes the readers for a while.
+#   ./test.sh [--quick]
 # --quick  the released build and its tests alone
-# --tidy   clang-tidy too
 # The last line is "N passed, N failed"; a step that is no test counts as one failure when it fails.
 set -uo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")" || exit 1
 
 quick=false
-tidy=false
 fuzz_seconds=20
 for argument in "$@"; do
     case $argument in
     --quick) quick=true ;;
-    --tidy) tidy=true ;;
     *)
-        echo "usage: ./test.sh [--quick] [--tidy]" >&2
+        echo "usage: ./test.sh [--quick]" >&2
         exit 2
         ;;
     esac
@@ -113,18 +110,18 @@ quiet=(--quiet)
 [[ ! -t 1 ]] || quiet=()
 
 packages=(build run test)
-$tidy && packages+=(tidy)
+$quick || packages+=(tidy)
 step "packages" scripts/install-packages.sh "${packages[@]}" || finish
 
 step "build, release" build release && tests release
 if ! $quick; then
     step "build, sanitized" build sanitized && tests sanitized
     step "formatting" check_format
+    step "clang-tidy" check_style
     if command -v clang++-14 >/dev/null; then
         step "fuzzing" fuzz
     else
         note "fuzzing" "skipped, there is no clang++-14"
     fi
 fi
-if $tidy; then step "clang-tidy" check_style; fi
 finish

@@ -37,7 +37,7 @@ struct Invoices {
         for (int i = 0; i < invoiceCount; ++i) addInvoice(i);
         addTotalsRow(document.LV);
         calc::RecalculateAll(app, document.LV);
-        invoice::rebuildView(app);
+        invoice::rebuildView(app.document);
     }
 
     void addInvoice(int number) {
@@ -69,7 +69,7 @@ void label(benchmark::State& state, const Invoices& invoices) {
 
 void buildInvoiceView(benchmark::State& state, bool items) {
     Invoices invoices(items);
-    while (state.KeepRunning()) invoice::rebuildView(invoices.app);
+    while (state.KeepRunning()) invoice::rebuildView(invoices.app.document);
     label(state, invoices);
 }
 BENCHMARK_CAPTURE(buildInvoiceView, items, true)->Unit(benchmark::kMillisecond);

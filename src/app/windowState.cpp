@@ -61,6 +61,7 @@ void showModified(App& app) {
 void showCaption(App& app) {
     app.mainFrm.Caption = title;
     if (!app.document.currentFile.empty()) app.mainFrm.Caption += " - " + app.document.currentFile;
+    if (app.mainFrm.bReadOnly) app.mainFrm.Caption += " (read only)";
 }
 
 void enableTabButtons(App& app) {

@@ -129,16 +129,16 @@ void calculateItemRows(RecordsList& list, Item& record, const Formula& formula, 
 
 } // namespace
 
-std::optional<std::string> RecalculateInvoice(app::App& app, int rowIndex, RecordsList& list) {
+std::optional<std::string> RecalculateInvoice(core::Document& document, int rowIndex, RecordsList& list) {
     Item& record = list.at(rowIndex);
-    const ItemColumns items(app.document);
+    const ItemColumns items(document);
     const int rows = itemRows(record);
     bool armed = false;
     // Set by the first formula that refers to a cell of one value, and never cleared: all later line
     // calculations of the invoice are skipped with it. It is wanted so.
     bool bSkip = false;
     return guarded(armed, [&] {
-        for (const auto& entry : app.document.formulas) {
+        for (const auto& entry : document.formulas) {
             const Formula formula(entry.item);
             if (!items.contains(formula.name)) continue;
             for (const std::string_view token : formula.tokens())
@@ -153,11 +153,11 @@ std::optional<std::string> RecalculateInvoice(app::App& app, int rowIndex, Recor
     });
 }
 
-void RecalculateSegmentedTotals(app::App& app, int rowIndex, RecordsList& list) {
+void RecalculateSegmentedTotals(core::Document& document, int rowIndex, RecordsList& list) {
     Item& record = list.at(rowIndex);
-    const ItemColumns items(app.document);
+    const ItemColumns items(document);
     Currency sum; // kept from entry to entry: a formula of several tokens writes what the last left
-    for (const auto& entry : app.document.formulas) {
+    for (const auto& entry : document.formulas) {
         const Formula formula(entry.item);
         CellText& cell = targetCell(list, record, formula);
         if (formula.isUndefined()) {
@@ -207,12 +207,13 @@ std::string withOperands(const RecordsList& list, const Item& record,
 
 } // namespace
 
-std::optional<std::string> RecalculateNormalInvoiceColumns(app::App& app, int rowIndex, RecordsList& list) {
+std::optional<std::string> RecalculateNormalInvoiceColumns(core::Document& document, int rowIndex,
+                                                           RecordsList& list) {
     Item& record = list.at(rowIndex);
-    const ItemColumns items(app.document);
+    const ItemColumns items(document);
     bool armed = false;
     return guarded(armed, [&] {
-        for (const auto& entry : app.document.formulas) {
+        for (const auto& entry : document.formulas) {
             const Formula formula(entry.item);
             const std::vector<std::string_view> tokens = formula.tokens();
             const bool refersToItems = std::ranges::any_of(tokens, [&](std::string_view token) {
@@ -235,15 +236,15 @@ std::optional<std::string> RecalculateNormalInvoiceColumns(app::App& app, int ro
 }
 
 void calculateInvoice(app::App& app, RecordsList& list, int rowIndex) {
-    if (RecalculateInvoice(app, rowIndex, list)) reportCalculationError(app);
-    RecalculateSegmentedTotals(app, rowIndex, list);
-    if (RecalculateNormalInvoiceColumns(app, rowIndex, list)) reportCalculationError(app);
+    if (RecalculateInvoice(app.document, rowIndex, list)) reportCalculationError(app);
+    RecalculateSegmentedTotals(app.document, rowIndex, list);
+    if (RecalculateNormalInvoiceColumns(app.document, rowIndex, list)) reportCalculationError(app);
 }
 
-std::optional<std::string> tryCalculateInvoice(app::App& app, RecordsList& list, int rowIndex) {
-    const std::optional<std::string> items = RecalculateInvoice(app, rowIndex, list);
-    RecalculateSegmentedTotals(app, rowIndex, list);
-    const std::optional<std::string> others = RecalculateNormalInvoiceColumns(app, rowIndex, list);
+std::optional<std::string> tryCalculateInvoice(core::Document& document, RecordsList& list, int rowIndex) {
+    const std::optional<std::string> items = RecalculateInvoice(document, rowIndex, list);
+    RecalculateSegmentedTotals(document, rowIndex, list);
+    const std::optional<std::string> others = RecalculateNormalInvoiceColumns(document, rowIndex, list);
     return items ? items : others;
 }
 

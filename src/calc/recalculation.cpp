@@ -75,7 +75,7 @@ std::vector<Uncalculated> recalculateEveryRow(App& app) {
     for (int index = 1; index <= records.count(); ++index) {
         Item& row = records.at(index);
         if (row.isTotals()) continue;
-        const auto reason = app.document.bInvoiceStyle ? tryCalculateInvoice(app, records, index)
+        const auto reason = app.document.bInvoiceStyle ? tryCalculateInvoice(app.document, records, index)
                                                        : calculator.tryCalculate(row);
         if (reason) failed.push_back({row.Key.str(), *reason});
         totals.update(core::TotalsMode::Add, row);

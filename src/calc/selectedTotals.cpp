@@ -10,8 +10,7 @@ using core::Mask;
 using core::RecordsList;
 using core::TotalsMode;
 
-void RefreshSelectedTotals(app::App& app) {
-    core::Document& document = app.document;
+void RefreshSelectedTotals(core::Document& document) {
     document.LV3.clear();
     const RecordsList& list = document.bInvoiceStyle ? document.iLV : document.LV;
     for (const int index : list.columns.displayOrder()) {
@@ -21,10 +20,10 @@ void RefreshSelectedTotals(app::App& app) {
     }
 }
 
-void UpdateSelectedTotals(app::App& app, TotalsMode mode, const RecordsList& list, int rowIndex) {
+void UpdateSelectedTotals(core::Document& document, TotalsMode mode, const RecordsList& list, int rowIndex) {
     if (rowIndex < 1) return;
     const Item& row = list.at(rowIndex);
-    app.document.LV3.forEach([&](Item& sum) {
+    document.LV3.forEach([&](Item& sum) {
         const core::Column* column = list.columns.find(sum.Text);
         if (column == nullptr) return;
         const std::string_view cell = RecordsList::cell(row, *column);
@@ -50,13 +49,14 @@ void list_Click(app::App& app, RecordsList& list) {
     if (clicked == nullptr || clicked->isTotals()) return;
     const int rowIndex = list.indexOf(*clicked);
     if (app.mainFrm.bCtrlDown) {
-        UpdateSelectedTotals(app, clicked->Selected ? TotalsMode::Add : TotalsMode::Subtract, list, rowIndex);
+        UpdateSelectedTotals(app.document, clicked->Selected ? TotalsMode::Add : TotalsMode::Subtract, list,
+                             rowIndex);
         return;
     }
-    RefreshSelectedTotals(app);
+    RefreshSelectedTotals(app.document);
     collectSelected(app, list);
     if (app.mainFrm.selectedRows.empty() || rowIndex == list.count()) return;
-    UpdateSelectedTotals(app, TotalsMode::Add, list, rowIndex);
+    UpdateSelectedTotals(app.document, TotalsMode::Add, list, rowIndex);
 }
 
 } // namespace calc

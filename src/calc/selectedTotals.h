@@ -6,10 +6,11 @@
 namespace calc {
 
 // Empties LV3 and gives it a row for each numeric column, in the order that the user sees.
-void RefreshSelectedTotals(app::App& app);
+void RefreshSelectedTotals(core::Document& document);
 
 // Adds the cells of a row to the sums in LV3, or takes them out.
-void UpdateSelectedTotals(app::App& app, core::TotalsMode mode, const core::RecordsList& list, int rowIndex);
+void UpdateSelectedTotals(core::Document& document, core::TotalsMode mode, const core::RecordsList& list,
+                          int rowIndex);
 
 // Fills selectedRows with the 1-based indexes of the list's selected items, in list order.
 void collectSelected(app::App& app, const core::RecordsList& list);

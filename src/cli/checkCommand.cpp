@@ -60,7 +60,8 @@ private:
         file::readDataFile(*bytes, document, &observer);
         checkSections(file::decodeDataFile(*std::move(bytes)));
         checkDocument(document, images, [this](const std::string& finding) { report(finding); });
-        if (document.bInvoiceStyle) invoice::rebuildView(session_.app); // raises for too many item rows
+        if (document.bInvoiceStyle)
+            invoice::rebuildView(session_.app.document); // raises for too many item rows
     }
 
     // Answers the names of the images.

@@ -5,6 +5,7 @@
 #include "lock/designLock.h"
 
 #include <CLI/CLI.hpp>
+#include <array>
 #include <csignal>
 #include <iostream>
 #include <termios.h>
@@ -21,11 +22,12 @@ struct LockOptions {
 };
 
 termios shownTyping{};
+std::array<void (*)(int), NSIG> endedBefore{}; // what a signal did before
 
 // Whoever breaks off at the prompt wants a terminal that shows again what he types.
 extern "C" void showTypingAndEnd(int signal) {
     ::tcsetattr(STDIN_FILENO, TCSANOW, &shownTyping);
-    ::signal(signal, SIG_DFL);
+    ::signal(signal, endedBefore[static_cast<std::size_t>(signal)]); // NOLINT: a handler raises nothing
     ::raise(signal);
 }
 
@@ -36,7 +38,8 @@ public:
         : isTerminal_(::isatty(STDIN_FILENO) == 1 && ::tcgetattr(STDIN_FILENO, &shownTyping) == 0) {
         if (!isTerminal_) return;
         std::cerr << "Password: ";
-        for (const int ending : endings) ::signal(ending, showTypingAndEnd);
+        for (const int ending : endings)
+            endedBefore.at(static_cast<std::size_t>(ending)) = ::signal(ending, showTypingAndEnd);
         termios hidden = shownTyping;
         hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
         ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
@@ -44,7 +47,7 @@ public:
     ~HiddenTyping() {
         if (!isTerminal_) return;
         ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &shownTyping);
-        for (const int ending : endings) ::signal(ending, SIG_DFL);
+        for (const int ending : endings) ::signal(ending, endedBefore.at(static_cast<std::size_t>(ending)));
         std::cerr << '\n';
     }
     HiddenTyping(const HiddenTyping&) = delete;

@@ -10,8 +10,10 @@
 #include "storage/versions.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <iostream>
@@ -50,6 +52,22 @@ shell::Program& untilTheEnd(std::unique_ptr<shell::Program> app) {
     return *kept->back();
 }
 
+std::atomic<file::WriterLock*> heldLock = nullptr;
+
+extern "C" void releaseAndEnd(int signal) {
+    if (file::WriterLock* lock = heldLock.exchange(nullptr)) lock->release();
+    ::signal(signal, SIG_DFL);
+    ::raise(signal);
+}
+
+// On this machine a lock that is left over is no obstacle, but another one has no way to tell.
+void releaseWhenEnded(file::WriterLock* lock) {
+    heldLock = lock;
+    if (lock == nullptr) return;
+    for (const int ending : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+        if (::signal(ending, releaseAndEnd) == SIG_IGN) ::signal(ending, SIG_IGN);
+}
+
 } // namespace
 
 void tellRows(const std::string& file, const std::vector<std::string>& rows) {
@@ -67,6 +85,10 @@ Session::Session(std::string databaseFile, double wait)
     platform.keepVersions();
 }
 
+Session::~Session() {
+    releaseWhenEnded(nullptr);
+}
+
 void Session::open() {
     try {
         app.document.currentFile = file;
@@ -78,11 +100,11 @@ void Session::open() {
 }
 
 void Session::openToWrite() {
-    lock_ = lockFor(file);
+    lock(file);
     open();
 }
 
-std::optional<file::WriterLock> Session::lockFor(const std::string& database) const {
+void Session::lock(const std::string& database) {
     using file::WriterLock;
     const auto wait =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::duration<double>(wait_));
@@ -102,16 +124,16 @@ std::optional<file::WriterLock> Session::lockFor(const std::string& database) co
                       "it cannot be locked: " + name + " is in the way" +
                           (outcome.error == 0 ? "" : std::string(" (") + std::strerror(outcome.error) + ")"));
     }
-    return std::move(outcome.lock);
+    lock_ = std::move(outcome.lock);
+    releaseWhenEnded(lock_ ? &*lock_ : nullptr);
 }
 
-std::optional<file::WriterLock> Session::lockForTarget(const std::string& target) const {
+void Session::lockTarget(const std::string& target) {
     std::error_code error;
     const bool isWritten = platform.answersYes() || isSameFile(target, file);
-    if (lock_ || target.empty() || !isWritten || !fs::exists(target, error)) return std::nullopt;
-    std::optional<file::WriterLock> lock = lockFor(target);
+    if (lock_ || target.empty() || !isWritten || !fs::exists(target, error)) return;
+    lock(target);
     if (isSameFile(target, file)) refuseIfChanged();
-    return lock;
 }
 
 void Session::refuseIfChanged() const {
@@ -176,20 +198,20 @@ void Session::saveAs(const std::string& target) {
     // The routine compares names as texts; a file has more than one of them.
     const std::string& current = app.document.currentFile;
     platform.setSaveName(isSameFile(target, current) ? current : target);
-    const auto lock = lockForTarget(target);
+    lockTarget(target);
     run(target, [this] { return storage::SaveFile(app, true, false); });
 }
 
 void Session::clone(const std::string& target) {
     platform.setSaveName(target);
-    const auto lock = lockForTarget(target);
+    lockTarget(target);
     run(target, [this] { return storage::SaveFile(app, false, true); });
 }
 
 void Session::saveSearch(const std::string& target) {
     const bool itself = isSameFile(target, file);
     platform.setSaveName(itself ? app.document.currentFile : target);
-    const auto lock = itself ? std::nullopt : lockForTarget(target);
+    if (!itself) lockTarget(target);
     run(target, [this] { return storage::saveSearchResults(app); });
     if (itself) throw Failure(target, "is the database that was searched");
 }

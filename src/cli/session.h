@@ -31,6 +31,9 @@ public:
     // The file as the user wrote it, so that messages speak of it in his words; and the seconds that he is
     // ready to wait for another writer of a database.
     explicit Session(std::string databaseFile, double wait = usualWait);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     // Reads the database. Raises Failure with the reason when it cannot be opened.
     void open();
@@ -57,7 +60,7 @@ public:
     void saveSearch(const std::string& target);
 
     // Of a file that is about to be overwritten.
-    [[nodiscard]] std::optional<file::WriterLock> lockForTarget(const std::string& target) const;
+    void lockTarget(const std::string& target);
     // Says it on standard error when the state that a save has replaced could not be kept.
     void tellVersionFailure() const;
 
@@ -83,7 +86,7 @@ public:
     app::App& app;
 
 private:
-    [[nodiscard]] std::optional<file::WriterLock> lockFor(const std::string& database) const;
+    void lock(const std::string& database);
     void run(const std::string& target, const std::function<std::optional<core::RunTimeError>()>& save);
 
     double wait_;

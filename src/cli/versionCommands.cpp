@@ -99,7 +99,7 @@ int restore(const VersionOptions& options) {
         throw Failure(options.file, "no version " + std::to_string(options.number));
     if (file::fileExists(options.target) && !options.yes)
         throw Failure(options.target, "it exists already, --yes overwrites it");
-    const auto lock = session.lockForTarget(options.target);
+    session.lockTarget(options.target);
     std::vector<std::string> told;
     try {
         const auto keep = storage::keepingVersion(session.app, options.target);

@@ -47,8 +47,7 @@ Item& addRecord(App& app) {
     return record;
 }
 
-void writeCells(App& app, Item& record, const std::vector<BoxText>& boxes, bool bUpdate) {
-    Document& document = app.document;
+void writeCells(core::Document& document, Item& record, const std::vector<BoxText>& boxes, bool bUpdate) {
     for (const BoxText& box : boxes) {
         const Column& column = document.LV.columns[box.Tag];
         RecordsList::cell(record, column) = cellText(column.type(), box.Text);
@@ -91,7 +90,7 @@ Item* EditRecord(App& app, bool bUpdate, const std::vector<BoxText>& theFields,
         core::UpdateTotalsRow(document, core::TotalsMode::Subtract, records, records.indexOf(*record));
     else
         record = &addRecord(app);
-    writeCells(app, *record, theFields, bUpdate);
+    writeCells(app.document, *record, theFields, bUpdate);
     for (const BoxText& picture : pictures)
         RecordsList::cell(*record, records.columns[picture.Tag]) = picture.Text;
     calc::CalculateRow(app, records.indexOf(*record), records);
@@ -119,7 +118,7 @@ addRecords(App& app, int count, const std::function<void(int row, std::vector<Bo
     for (int row = 0; row < count; ++row) {
         fill(row, boxes);
         Item& record = records.add(document.nextKey());
-        writeCells(app, record, boxes, false);
+        writeCells(app.document, record, boxes, false);
         if (const auto reason = formulas.tryCalculate(record)) failed.push_back({record.Key.str(), *reason});
         added.push_back(&record);
     }
@@ -162,7 +161,7 @@ bool deleteRecords(App& app) {
     records.setSelectedItem(next);
     showCount(app);
     app::setDocumentModified(app, true);
-    if (app.document.bInvoiceStyle) removeInvoiceRows(app, key);
+    if (app.document.bInvoiceStyle) removeInvoiceRows(app.document, key);
     return true;
 }
 

@@ -21,8 +21,8 @@ bool isBrowsing(App& app) {
     return !app.mainFrm.control("Design").Value;
 }
 
-const Column* columnOf(const App& app, const LayoutField* field) {
-    return field == nullptr ? nullptr : app.document.LV.columns.find(field->Tag);
+const Column* columnOf(const core::Document& document, const LayoutField* field) {
+    return field == nullptr ? nullptr : document.LV.columns.find(field->Tag);
 }
 
 } // namespace
@@ -35,7 +35,7 @@ void layoutField_GotFocus(App& app, int index) {
     // Each arrival in a single or a calculated field stores the whole sheet and works it out: this is how the
     // sums of an invoice keep up with typing.
     const LayoutField* field = app.document.layout.layoutField.find(index);
-    const Column* column = columnOf(app, field);
+    const Column* column = columnOf(app.document, field);
     if (column == nullptr) return;
     const bool isCalculated = column->isType(ColumnType::Calculation);
     if (!isCalculated && layout::isRepeatedField(app.document.layout, *field)) return;
@@ -46,7 +46,7 @@ void layoutField_GotFocus(App& app, int index) {
 void layoutField_LostFocus(App& app, int index) {
     if (!isBrowsing(app) || app.document.bInvoiceStyle) return;
     LayoutField* field = app.document.layout.layoutField.find(index);
-    const Column* column = columnOf(app, field);
+    const Column* column = columnOf(app.document, field);
     if (column == nullptr || !column->isNumeric()) return;
     if (!core::isNumeric(field->Text)) {
         field->Text = "0";
@@ -67,7 +67,7 @@ bool layoutField_KeyPress(App& app, int index, char32_t character) {
         app::inform(app, "Please allow your text to wrap automatically.");
         return false;
     }
-    const Column* column = columnOf(app, app.document.layout.layoutField.find(index));
+    const Column* column = columnOf(app.document, app.document.layout.layoutField.find(index));
     if (column == nullptr || !column->isNumeric() || character == U'.') return true;
     std::string text;
     core::appendCodePoint(text, character);
@@ -84,7 +84,7 @@ int layoutField_Change(App& app, int index, std::string_view text) {
         bFieldChanged = false;
         return -1;
     }
-    const Column* column = columnOf(app, field);
+    const Column* column = columnOf(app.document, field);
     if (column == nullptr || !column->isType(ColumnType::Date)) return -1;
     EntryBox box{field->Tag, field->Text, -1};
     insertDateSlashes(box);

@@ -38,8 +38,7 @@ std::string filledCell(const Column& column, const std::string& text) {
                                                : text;
 }
 
-void writeCells(App& app, Item& record, bool bUpdate, const ColumnNames* only) {
-    Document& document = app.document;
+void writeCells(core::Document& document, Item& record, bool bUpdate, const ColumnNames* only) {
     const calc::ItemColumns items(document);
     std::set<std::string, std::less<>> begun; // groups that have their first value
     document.layout.layoutField.forEach([&](const LayoutField& field) {
@@ -104,13 +103,13 @@ void editInvoiceRecord(App& app, bool bUpdate, const ColumnNames* only) {
     if (record == nullptr || record->isTotals()) return;
     if (bUpdate)
         core::UpdateTotalsRow(app.document, core::TotalsMode::Subtract, records, records.indexOf(*record));
-    writeCells(app, *record, bUpdate, only);
+    writeCells(app.document, *record, bUpdate, only);
     calc::calculateInvoice(app, records, records.indexOf(*record));
     core::UpdateTotalsRow(app.document, core::TotalsMode::Add, records, records.indexOf(*record));
     records.setSelectedItem(record);
     app::setDocumentModified(app, true);
     records.MultiSelect = false;
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     refreshResults(app);
 }
 
@@ -132,8 +131,8 @@ std::vector<calc::Uncalculated> addInvoices(App& app, int count, const std::func
         proposeValues(app);
         fill(row);
         Item& record = records.add(app.document.nextKey());
-        writeCells(app, record, true, nullptr);
-        if (const auto reason = calc::tryCalculateInvoice(app, records, records.count()))
+        writeCells(app.document, record, true, nullptr);
+        if (const auto reason = calc::tryCalculateInvoice(app.document, records, records.count()))
             failed.push_back({record.Key.str(), *reason});
         added.push_back(&record);
     }
@@ -143,7 +142,7 @@ std::vector<calc::Uncalculated> addInvoices(App& app, int count, const std::func
     const core::TotalsRowUpdater totals(app.document, records);
     for (const Item* record : added) totals.update(core::TotalsMode::Add, *record);
     app::setDocumentModified(app, true);
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
     return failed;
 }
 
@@ -172,7 +171,7 @@ bool deleteInvoices(App& app) {
         document.LV.setSelectedItem(next == nullptr ? nullptr : document.LV.find(next->Text));
     }
     app::setDocumentModified(app, true);
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     if (document.LV.count() >= 3) {
         app::showRecordCount(app, document.iLV);
         app.mainFrm.Slider1.Max = document.iLV.count() - 1;
@@ -180,11 +179,11 @@ bool deleteInvoices(App& app) {
     return true;
 }
 
-void removeInvoiceRows(App& app, const std::string& key) {
-    RecordsList& results = app.document.searchLV;
+void removeInvoiceRows(core::Document& document, const std::string& key) {
+    RecordsList& results = document.searchLV;
     if (results.Visible)
         results.removeIf([&](const Item& row) { return !row.isTotals() && row.Text == key; });
-    invoice::refreshRows(app);
+    invoice::refreshRows(document);
 }
 
 void Delete_ButtonClick(App& app) {

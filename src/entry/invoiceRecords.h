@@ -37,7 +37,7 @@ bool deleteInvoices(app::App& app);
 
 // What deleting records does in an invoice database besides: the rows of the results go, and the view is
 // built anew.
-void removeInvoiceRows(app::App& app, const std::string& key);
+void removeInvoiceRows(core::Document& document, const std::string& key);
 
 // The button "Delete": the selected records, where the records are on view.
 void Delete_ButtonClick(app::App& app);

@@ -8,7 +8,6 @@
 namespace entry {
 
 void completeCurrencyText(app::App& app, EntryBox& box) {
-    if (app.document.LV.columns[box.Tag].isType(core::ColumnType::Number)) return;
     const std::string_view trimmed = core::trim(box.Text);
     if (trimmed.empty()) return;
     if (!core::isNumeric(box.Text)) {

@@ -75,7 +75,7 @@ void goLast(App& app) {
 void newRecord(App& app) {
     sheet(app).bFieldChanged = false; // the texts change, which ends what Backspace has begun
     Document& document = app.document;
-    clearSheet(app);
+    clearSheet(app.document);
     proposeValues(app);
     unbindSheet(app);
     app.mainFrm.control("layoutNavBar.New").Value = true; // until another record is shown
@@ -102,8 +102,8 @@ Item* recordMeant(App& app) {
 }
 
 // A damaged file can have objects of a column that is not there.
-bool isColumn(const App& app, const std::string& name) {
-    const core::Column* column = app.document.LV.columns.find(name);
+bool isColumn(const core::Document& document, const std::string& name) {
+    const core::Column* column = document.LV.columns.find(name);
     return column != nullptr && column->Index != 1;
 }
 
@@ -113,7 +113,7 @@ std::optional<std::vector<BoxText>> pictureTexts(App& app) {
     std::vector<BoxText> texts;
     try {
         app.document.layout.imgHolder.forEach([&](core::ImgHolder& holder) {
-            if (!isColumn(app, holder.Tag)) return;
+            if (!isColumn(app.document, holder.Tag)) return;
             if (holder.ToolTipText == layout::clipboardMark)
                 holder.ToolTipText = layout::storeClipboardImage(app, holder.viewImage);
             texts.push_back({holder.Tag, holder.ToolTipText});
@@ -130,7 +130,7 @@ bool writeSheet(App& app, bool bUpdate) {
     if (app.mainFrm.iFieldFocus != 0) layoutField_LostFocus(app, app.mainFrm.iFieldFocus);
     std::vector<BoxText> fields;
     app.document.layout.layoutField.forEach([&](const core::LayoutField& field) {
-        if (isColumn(app, field.Tag)) fields.push_back({field.Tag, field.Text});
+        if (isColumn(app.document, field.Tag)) fields.push_back({field.Tag, field.Text});
     });
     const std::optional<std::vector<BoxText>> pictures = pictureTexts(app);
     if (!pictures) return false;
@@ -180,7 +180,7 @@ void deleteShown(App& app) {
         selectRow(app, std::clamp(row, 1, results.count() - 1));
     else
         selectBehindGone(app.document.LV, row);
-    clearSheet(app);
+    clearSheet(app.document);
     app.changes.announce(app, app::Change::CurrentRecord);
 }
 

@@ -32,7 +32,7 @@ void retrieveFields(App& app) {
         if (record == nullptr) return;
         if (record != app.document.LV.selectedItem()) app.document.LV.setSelectedItem(record);
         sheet(app).bFieldChanged = false; // as below
-        invoice::retrieveInvoiceRecord(app);
+        invoice::retrieveInvoiceRecord(app.document);
         return;
     }
     const Item* record = currentRecord(app);
@@ -60,9 +60,9 @@ void retrievePictures(App& app) {
     });
 }
 
-void clearSheet(App& app) {
-    app.document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
-    app.document.layout.imgHolder.forEach([](core::ImgHolder& holder) {
+void clearSheet(core::Document& document) {
+    document.layout.layoutField.forEach([](core::LayoutField& field) { field.Text.clear(); });
+    document.layout.imgHolder.forEach([](core::ImgHolder& holder) {
         holder.viewImage.path.clear();
         holder.ToolTipText.clear();
     });
@@ -79,12 +79,12 @@ void refreshShownRecord(App& app) {
         app::showReportTab(app); // no invoice to show: the page is no place to stay, as it is none to go to
         return;
     }
-    if (currentRecord(app) == nullptr) clearSheet(app);
+    if (currentRecord(app) == nullptr) clearSheet(app.document);
     showRecord(app);
 }
 
 void showPage(App& app) {
-    if (currentRecord(app) == nullptr && app.document.LV.count() > 1) clearSheet(app);
+    if (currentRecord(app) == nullptr && app.document.LV.count() > 1) clearSheet(app.document);
     showRecord(app);
 }
 

@@ -21,7 +21,7 @@ void showPage(app::App& app);
 void refreshShownRecord(app::App& app);
 
 // Empties the fields and the picture boxes.
-void clearSheet(app::App& app);
+void clearSheet(core::Document& document);
 
 // The record on view, or nothing in a list of the Totals row alone.
 const core::Item* currentRecord(const app::App& app);

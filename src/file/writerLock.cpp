@@ -28,12 +28,15 @@ constexpr int mostRounds = 1000;
 
 enum class Locked { Yes, No, NoSuchLocks };
 
-// A lock that belongs to the open file: no other descriptor of this process gives it up when it is closed.
-Locked lockWhole(int fd, short type) {
-    struct flock whole {};
-    whole.l_type = type;
-    whole.l_whence = SEEK_SET;
-    if (::fcntl(fd, F_OFD_SETLK, &whole) == 0) return Locked::Yes;
+// A lock that belongs to the open file: no other descriptor of this process gives it up when it is closed. It
+// lies behind all that is read, since some network file systems keep others from reading what is locked.
+Locked lockMark(int fd, short type) {
+    struct flock mark {};
+    mark.l_type = type;
+    mark.l_whence = SEEK_SET;
+    mark.l_start = mostBytes;
+    mark.l_len = 1;
+    if (::fcntl(fd, F_OFD_SETLK, &mark) == 0) return Locked::Yes;
     return errno == EAGAIN || errno == EACCES ? Locked::No : Locked::NoSuchLocks;
 }
 
@@ -89,10 +92,10 @@ private:
 
     End fill(FileHandle fresh) {
         // Whoever opened it in between takes it for left over and has it locked for a moment.
-        Locked locked = lockWhole(fresh.get(), F_WRLCK);
+        Locked locked = lockMark(fresh.get(), F_WRLCK);
         for (int i = 0; i < 50 && locked == Locked::No; ++i) {
             std::this_thread::sleep_for(milliseconds(1));
-            locked = lockWhole(fresh.get(), F_WRLCK);
+            locked = lockMark(fresh.get(), F_WRLCK);
         }
         if (locked == Locked::No || !isAt(path_, fresh.get())) return End::Again;
         // Others have to read who it is, whatever the user's mask takes from new files.
@@ -103,7 +106,7 @@ private:
             return over(Result::Impossible, error);
         }
         // File systems of a network write out what they hold back when a lock is set.
-        (void)lockWhole(fresh.get(), F_WRLCK);
+        (void)lockMark(fresh.get(), F_WRLCK);
         outcome.lock = WriterLock(path_, std::move(fresh));
         return over(Result::Taken);
     }
@@ -119,7 +122,7 @@ private:
         if (::fstat(present.get(), &status) != 0 || !S_ISREG(status.st_mode)) return over(Result::Obstructed);
         // What belongs to another user may be locked for reading only. That keeps its owner from locking it,
         // but not a third user from doing the same as we, for which there is another kind of lock.
-        const Locked locked = lockWhole(present.get(), mayWrite ? F_WRLCK : F_RDLCK);
+        const Locked locked = lockMark(present.get(), mayWrite ? F_WRLCK : F_RDLCK);
         if (locked == Locked::Yes && !mayWrite && ::flock(present.get(), LOCK_EX | LOCK_NB) != 0)
             return errno == EWOULDBLOCK ? End::Again : over(Result::Obstructed, errno);
         if (locked != Locked::No && !isAt(path_, present.get())) return End::Again;
@@ -184,10 +187,11 @@ WriterLock::Outcome WriterLock::take(const fs::path& database, Force force, mill
         const bool isUnwritten = end == Attempt::End::Unwritten;
         if (!isUnwritten) unwrittenSince.reset();
         if (isUnwritten && !unwrittenSince) unwrittenSince = now;
-        // Its owner has locked it and is about to say who he is.
-        const bool isAboutTo =
-            outcome.result == Result::Held && !outcome.owner.isKnown() && now - begin < untilWritten;
-        if (!isUnwritten && !isAboutTo && now - begin >= wait) return outcome;
+        // Its owner is about to say who he is, or somebody else is looking whether it is left over.
+        const bool isBetween = outcome.result == Result::Held && now - begin < untilWritten &&
+                               (!outcome.owner.isKnown() ||
+                                (outcome.owner.isOfThisMachine() && hasEnded(outcome.owner.process)));
+        if (!isUnwritten && !isBetween && now - begin >= wait) return outcome;
         std::this_thread::sleep_for(betweenLooks);
     }
 }

@@ -38,12 +38,11 @@ Item& addInvoiceRecord(App& app) {
     records.MultiSelect = false; // moveTotals has switched it on
     Item& record = records.byKey(key);
     records.setSelectedItem(&record);
-    refreshRows(app);
+    refreshRows(app.document);
     return record;
 }
 
-void retrieveInvoiceRecord(App& app) {
-    core::Document& document = app.document;
+void retrieveInvoiceRecord(core::Document& document) {
     const Item* record = document.LV.selectedItem();
     if (document.LV.count() < 2 || record == nullptr) return;
     const calc::ItemColumns items(document);

@@ -9,6 +9,6 @@ core::Item& addInvoiceRecord(app::App& app);
 
 // Shows the record LV.SelectedItem in the layout's fields: the values of a repeated field one below the
 // other. What a cell has beyond the rows of the layout is not shown.
-void retrieveInvoiceRecord(app::App& app);
+void retrieveInvoiceRecord(core::Document& document);
 
 } // namespace invoice

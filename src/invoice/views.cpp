@@ -97,8 +97,7 @@ void choosePrintedCols(Document& document) {
         document.printedCols.add(column.item, column.item);
 }
 
-void BuildInvoicesView(app::App& app) {
-    Document& document = app.document;
+void BuildInvoicesView(core::Document& document) {
     RecordsList& view = document.iLV;
     const calc::ItemColumns items(document);
     clearView(view);
@@ -119,8 +118,7 @@ void BuildInvoicesView(app::App& app) {
     moveTotals(view);
 }
 
-void BuildItemsView(app::App& app) {
-    Document& document = app.document;
+void BuildItemsView(core::Document& document) {
     RecordsList& view = document.iLV;
     const calc::ItemColumns items(document);
     clearView(view);
@@ -148,30 +146,30 @@ void BuildItemsView(app::App& app) {
     moveTotals(view);
 }
 
-void refreshRows(app::App& app) {
-    RecordsList& view = app.document.iLV;
+void refreshRows(core::Document& document) {
+    RecordsList& view = document.iLV;
     const core::ColumnHeaders before = view.columns;
-    rebuildView(app);
+    rebuildView(document);
     const auto isSame = [](const Column& a, const Column& b) { return a.Key == b.Key && a.Tag == b.Tag; };
     if (std::ranges::equal(before, view.columns, isSame)) view.columns = before;
-    const Item* record = app.document.LV.selectedItem();
+    const Item* record = document.LV.selectedItem();
     Item* row = record == nullptr ? nullptr : view.findText(record->Key);
     if (row == nullptr) return;
     view.clearSelection();
     view.setSelectedItem(row);
 }
 
-void rebuildView(app::App& app) {
-    if (!app.document.bInvoiceStyle && !app.document.iLV.Visible) return;
+void rebuildView(core::Document& document) {
+    if (!document.bInvoiceStyle && !document.iLV.Visible) return;
     // The widths that the user has given the columns on show are those of the columns.
-    for (const Column& shown : app.document.iLV.columns) {
-        Column* column = app.document.LV.columns.find(shown.Text);
+    for (const Column& shown : document.iLV.columns) {
+        Column* column = document.LV.columns.find(shown.Text);
         if (column != nullptr && column->Index != 1) column->Width = shown.Width;
     }
-    if (app.document.bInvoiceView)
-        BuildItemsView(app);
+    if (document.bInvoiceView)
+        BuildItemsView(document);
     else
-        BuildInvoicesView(app);
+        BuildInvoicesView(document);
 }
 
 } // namespace invoice

@@ -31,9 +31,8 @@ bool hasBorder(Family family) {
     return family == Family::layoutField || family == Family::imgHolder;
 }
 
-core::LayoutField* headOf(App& app, ObjectRef object) {
-    return object.family == Family::layoutField ? app.document.layout.layoutField.find(object.Index)
-                                                : nullptr;
+core::LayoutField* headOf(core::Document& document, ObjectRef object) {
+    return object.family == Family::layoutField ? document.layout.layoutField.find(object.Index) : nullptr;
 }
 
 void moveTo(App& app, LayoutObject& object, long X, long Y) {
@@ -52,7 +51,8 @@ void moveTo(App& app, LayoutObject& object, long X, long Y) {
         object.Left = static_cast<float>(X - page.iMouseX) - border * page.TwipsPerPixelX;
         object.Top = static_cast<float>(Y - page.iMouseY) - border * page.TwipsPerPixelY;
     }
-    if (const core::LayoutField* head = headOf(app, page.dragged)) stackCopies(app, *head, false);
+    if (const core::LayoutField* head = headOf(app.document, page.dragged))
+        stackCopies(app.document, *head, false);
     page.ruler1.line = object.Left;
     page.ruler2.line = object.Top;
 }
@@ -84,7 +84,8 @@ void sizeTo(App& app, LayoutObject& object, long X, long Y) {
         else
             sizeFreely(page, object, X, Y);
     }
-    if (const core::LayoutField* head = headOf(app, page.dragged)) stackCopies(app, *head, true);
+    if (const core::LayoutField* head = headOf(app.document, page.dragged))
+        stackCopies(app.document, *head, true);
     placeHandle(app, page.dragged);
     page.ruler1.line = static_cast<float>(X);
     page.ruler2.line = static_cast<float>(Y);
@@ -92,7 +93,8 @@ void sizeTo(App& app, LayoutObject& object, long X, long Y) {
 
 bool begin(App& app, ObjectRef object, LayoutPage::Drag drag) {
     LayoutPage& page = layoutPage(app);
-    if (!isDesignMode(app) || isLocked(app, object) || findObject(app.document.layout, object) == nullptr)
+    if (!isDesignMode(app) || isLocked(app.document, object) ||
+        findObject(app.document.layout, object) == nullptr)
         return false;
     page.drag = drag;
     page.dragged = object;
@@ -108,9 +110,9 @@ void finishSize(App& app, ObjectRef object) {
 
 } // namespace
 
-void stackCopies(App& app, const core::LayoutField& head, bool withSize) {
+void stackCopies(core::Document& document, const core::LayoutField& head, bool withSize) {
     float n = 1;
-    forEachCopy(app.document.layout, head, [&](core::LayoutField& copy) {
+    forEachCopy(document.layout, head, [&](core::LayoutField& copy) {
         if (withSize) {
             copy.Width = head.Width;
             copy.Height = head.Height;

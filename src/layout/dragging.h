@@ -13,6 +13,6 @@ void dragTo(app::App& app, long X, long Y);
 void endDrag(app::App& app);
 
 // The other fields of the same column follow: under the head, in its size.
-void stackCopies(app::App& app, const core::LayoutField& head, bool withSize);
+void stackCopies(core::Document& document, const core::LayoutField& head, bool withSize);
 
 } // namespace layout

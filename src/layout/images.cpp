@@ -98,9 +98,9 @@ void addToArchive(App& app, const fs::path& file, const std::string& comment) {
     app.changes.announce(app, app::Change::Written);
 }
 
-bool archiveHas(App& app, const std::string& name) {
+bool archiveHas(core::Document& document, const std::string& name) {
     file::Zip Zip;
-    Zip.OpenArchive(app.document.currentFile);
+    Zip.OpenArchive(document.currentFile);
     const bool found = Zip.contains(name);
     Zip.CloseArchive();
     return found;
@@ -214,7 +214,7 @@ std::string storeClipboardImage(App& app, const FittedImage& image) {
         std::string jpgName = "cb" + number + ".jpg";
         // The names that are taken would be those of the .jpg files; it is the other that is asked for,
         // and it is wanted so.
-        if (archiveHas(app, bmpName)) continue;
+        if (archiveHas(app.document, bmpName)) continue;
         const fs::path jpeg = app.platform.tempFolder() / jpgName;
         app.platform.convertToJpeg(image.path, jpeg, 75);
         addToArchive(app, jpeg, "");

@@ -25,8 +25,8 @@ void tLabel_LostFocus(App& app, int index) {
     layoutPage(app).bEditingLabel = false;
 }
 
-void tLabel_Change(App& app, int index, std::string_view text) {
-    if (core::Label* label = app.document.layout.tLabel.find(index)) label->Text = text;
+void tLabel_Change(core::Document& document, int index, std::string_view text) {
+    if (core::Label* label = document.layout.tLabel.find(index)) label->Text = text;
 }
 
 bool tLabel_KeyPress(App& app, int KeyAscii) {

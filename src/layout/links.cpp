@@ -98,10 +98,10 @@ bool isProgram(const std::string& target) {
 }
 
 // A file beside the database by its whole path; anything else as it is.
-std::string targetOf(const App& app, std::string_view link) {
+std::string targetOf(const core::Document& document, std::string_view link) {
     std::error_code error;
-    const fs::path beside = fs::absolute(app.document.currentFile, error).parent_path() / link;
-    if (!error && !app.document.currentFile.empty() && fs::exists(beside, error)) return beside.string();
+    const fs::path beside = fs::absolute(document.currentFile, error).parent_path() / link;
+    if (!error && !document.currentFile.empty() && fs::exists(beside, error)) return beside.string();
     return std::string(link);
 }
 
@@ -125,7 +125,7 @@ void followLink(App& app, std::string_view target) {
         app.platform.openLink(address);
         return;
     }
-    const std::string other = targetOf(app, link);
+    const std::string other = targetOf(app.document, link);
     if (isProgram(other)) {
         app::warn(app, shown(other) + " is a program or a script. Links do not start programs.");
         return;

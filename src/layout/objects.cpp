@@ -71,15 +71,14 @@ void forSelectedGroup(App& app, Visitor&& visit) {
 
 // What was chosen anew; the copies of a field can differ in all else. Boxes and lines have no text, but take
 // the colour.
-void setFont(App& app, ObjectRef object, const platform::FontChoice& before,
+void setFont(core::Document& document, ObjectRef object, const platform::FontChoice& before,
              const platform::FontChoice& choice) {
     const auto set = [&](auto& property, auto platform::FontChoice::*chosen) {
         if (before.*chosen != choice.*chosen) property = choice.*chosen;
     };
     using platform::FontChoice;
-    if (std::int32_t* colour = findForeColor(app.document.layout, object))
-        set(*colour, &FontChoice::ForeColor);
-    core::ObjectFont* font = findFont(app.document.layout, object);
+    if (std::int32_t* colour = findForeColor(document.layout, object)) set(*colour, &FontChoice::ForeColor);
+    core::ObjectFont* font = findFont(document.layout, object);
     if (font == nullptr) return;
     set(font->FontName, &FontChoice::FontName);
     set(font->FontSize, &FontChoice::FontSize);
@@ -203,7 +202,7 @@ void setObjectFont(App& app) {
     const platform::FontChoice before = presentFont(app.document.layout, layoutPage(app).selectedObject);
     const std::optional<platform::FontChoice> choice = app.platform.showFont(before);
     if (!choice) return;
-    forSelectedGroup(app, [&](ObjectRef object) { setFont(app, object, before, *choice); });
+    forSelectedGroup(app, [&](ObjectRef object) { setFont(app.document, object, before, *choice); });
 }
 
 void sendToFront(App& app) {

@@ -63,16 +63,16 @@ float distance(const LayoutObject& object, float x, float y) {
     return std::max(across, down);
 }
 
-bool givesWayToLines(const App& app, ObjectRef object) {
+bool givesWayToLines(const core::Document& document, ObjectRef object) {
     if (object.family != Family::layoutField) return object.family == Family::pBox || !object.isObject();
-    const core::LayoutField* field = app.document.layout.layoutField.find(object.Index);
+    const core::LayoutField* field = document.layout.layoutField.find(object.Index);
     return field != nullptr && !field->Enabled; // a copy, which the mouse goes through
 }
 
 // Where locks names the object. Files may write the index in another way than this program does.
-std::optional<std::size_t> lockOf(const App& app, ObjectRef object) {
+std::optional<std::size_t> lockOf(const core::Document& document, ObjectRef object) {
     std::size_t position = 0;
-    for (const auto& entry : app.document.locks) {
+    for (const auto& entry : document.locks) {
         const std::string_view item = entry.item;
         const std::size_t comma = item.find(',');
         if (comma != std::string_view::npos &&
@@ -86,12 +86,12 @@ std::optional<std::size_t> lockOf(const App& app, ObjectRef object) {
 
 } // namespace
 
-bool isLocked(const App& app, ObjectRef object) {
-    return object.isObject() && lockOf(app, object).has_value();
+bool isLocked(const core::Document& document, ObjectRef object) {
+    return object.isObject() && lockOf(document, object).has_value();
 }
 
 void refreshLockIndicator(App& app) {
-    const bool locked = isLocked(app, layoutPage(app).selectedObject);
+    const bool locked = isLocked(app.document, layoutPage(app).selectedObject);
     layoutPage(app).Handle.bLocked = locked;
     app.mainFrm.control("layoutToolbar.Lock").Value = locked;
 }
@@ -99,7 +99,7 @@ void refreshLockIndicator(App& app) {
 void toggleObjectLock(App& app) {
     LayoutPage& page = layoutPage(app);
     if (!page.selectedObject.isObject()) return;
-    const std::optional<std::size_t> lock = lockOf(app, page.selectedObject);
+    const std::optional<std::size_t> lock = lockOf(app.document, page.selectedObject);
     page.Handle.bLocked = !lock;
     const std::string name = page.selectedObject.name();
     if (lock)
@@ -129,7 +129,7 @@ void selectNothing(App& app) {
 }
 
 ObjectRef grabbedObject(const App& app, ObjectRef hit, long pointerX, long pointerY) {
-    if (!givesWayToLines(app, hit)) return hit;
+    if (!givesWayToLines(app.document, hit)) return hit;
     const core::LayoutObjects& layout = app.document.layout;
     const LayoutObject* behind = hit.family == Family::pBox ? findObject(layout, hit) : nullptr;
     ObjectRef nearest = hit;
@@ -244,7 +244,7 @@ bool Form_KeyDown(App& app, int KeyCode, int Shift) {
     const ObjectRef selected = layoutPage(app).selectedObject;
     if (selected.family == Family::layoutField)
         if (const core::LayoutField* field = app.document.layout.layoutField.find(selected.Index))
-            stackCopies(app, *field, false);
+            stackCopies(app.document, *field, false);
     placeHandle(app, selected);
     return used;
 }

@@ -31,7 +31,7 @@ void Handle_MouseDown(app::App& app, long pointerX, long pointerY);
 void Handle_MouseUp(app::App& app);
 
 // Whether the object's place is locked against the mouse.
-bool isLocked(const app::App& app, core::ObjectRef object);
+bool isLocked(const core::Document& document, core::ObjectRef object);
 void toggleObjectLock(app::App& app);
 void refreshLockIndicator(app::App& app);
 void placeHandle(app::App& app, core::ObjectRef object);

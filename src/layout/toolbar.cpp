@@ -32,7 +32,7 @@ std::function<void(App&)> adding(void (*add)(App&)) {
 
 void pressLock(App& app) {
     toggleObjectLock(app);
-    app.mainFrm.control("layoutToolbar.Lock").Value = isLocked(app, layoutPage(app).selectedObject);
+    app.mainFrm.control("layoutToolbar.Lock").Value = isLocked(app.document, layoutPage(app).selectedObject);
 }
 
 const std::map<std::string_view, std::function<void(App&)>>& routines() {

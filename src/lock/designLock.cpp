@@ -54,7 +54,7 @@ void lockDesign(App& app) {
     lockPassword = app.platform.inputBox("Enter password to lock file.", lockCaption, "");
     // Blanks stay as they are and lock the design, without a word. It is wanted so.
     if (core::trim(lockPassword).empty()) return;
-    scrambleLockPassword(app);
+    scrambleLockPassword(app.document);
     if (!wouldBeReadBack(lockPassword)) {
         lockPassword.clear();
         app::inform(app, "This password cannot be stored.  Please choose another one.");
@@ -67,10 +67,10 @@ void lockDesign(App& app) {
 void unlockDesign(App& app) {
     const std::string answer =
         app.platform.inputBox("Enter password to unlock database.", "Unlock Database", "");
-    scrambleLockPassword(app);
+    scrambleLockPassword(app.document);
     if (app.document.lockPassword != answer) {
         app::inform(app, "Incorrect Password.");
-        scrambleLockPassword(app);
+        scrambleLockPassword(app.document);
     } else {
         app.document.lockPassword.clear();
     }
@@ -80,8 +80,8 @@ void unlockDesign(App& app) {
 
 } // namespace
 
-void scrambleLockPassword(App& app) {
-    const std::string plain = std::move(app.document.lockPassword);
+void scrambleLockPassword(core::Document& document) {
+    const std::string plain = std::move(document.lockPassword);
     std::string scrambled;
     scrambled.reserve(plain.size());
     std::size_t position = 0;
@@ -91,7 +91,7 @@ void scrambleLockPassword(App& app) {
         appendScrambled(scrambled, std::string_view(plain).substr(from, at - from),
                         key[position % key.size()]);
     }
-    app.document.lockPassword = std::move(scrambled);
+    document.lockPassword = std::move(scrambled);
 }
 
 void mnuDatabaseLock_Click(App& app) {

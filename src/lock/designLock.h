@@ -11,7 +11,7 @@ namespace lock {
 void mnuDatabaseLock_Click(app::App& app);
 
 // Scrambles the document's lockPassword in place. Done twice it gives back what was there.
-void scrambleLockPassword(app::App& app);
+void scrambleLockPassword(core::Document& document);
 
 // Whether the design may not be changed; the user is told so.
 bool isDesignLocked(app::App& app);

@@ -19,9 +19,9 @@ void useLine(const core::LineObject& line, DrawTarget& target) {
     target.DrawStyle = drawing::LineStyle::Solid;
 }
 
-void drawText(const App& app, DrawTarget& target, const core::LayoutField& field) {
+void drawText(const core::Document& document, DrawTarget& target, const core::LayoutField& field) {
     copyObjectFont(field, field.ForeColor, target);
-    const core::Column* column = app.document.LV.columns.find(field.Tag);
+    const core::Column* column = document.LV.columns.find(field.Tag);
     if (column == nullptr || !column->isNumeric())
         printWrapped(target, target.CurrentX, field.Height, field.Width, field.Text);
     else if (!field.Text.empty())
@@ -91,7 +91,7 @@ void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
     };
     objects.layoutField.forEach([&](const core::LayoutField& field) {
         goTo(field);
-        drawText(app, target, field);
+        drawText(app.document, target, field);
     });
     objects.tLabel.forEach([&](const core::Label& label) {
         goTo(label);

@@ -32,8 +32,8 @@ int marginTwips(float inches) {
 }
 
 // The margins as places on the page, whose size the target has.
-Margins layoutMargins(const App& app, const DrawTarget& target) {
-    const core::LayoutOptions& options = app.document.layoutOptions;
+Margins layoutMargins(const core::Document& document, const DrawTarget& target) {
+    const core::LayoutOptions& options = document.layoutOptions;
     const auto twips = [](float inches) { return static_cast<float>(marginTwips(inches)); };
     return {twips(options.layoutLeftMargin), target.Width - twips(options.layoutRightMargin),
             twips(options.layoutTopMargin), target.Height - twips(options.layoutBottomMargin)};
@@ -109,7 +109,7 @@ private:
 };
 
 void LayoutGrid::measure() {
-    margins_ = layoutMargins(app_, target_);
+    margins_ = layoutMargins(app_.document, target_);
     extent_ = layoutExtent(app_.document.layout, margins_.left, margins_.top);
     spacing_ = static_cast<float>(marginTwips(app_.document.layoutOptions.layoutSpacing));
     const float roomX = margins_.right - margins_.left;
@@ -214,7 +214,7 @@ void showRecordOf(App& app, RecordsList& list, int row) {
 
 void PrintLayout(App& app, DrawTarget& target) {
     usePage(app, target, layoutPage(app));
-    const Margins margins = layoutMargins(app, target);
+    const Margins margins = layoutMargins(app.document, target);
     drawObjects(app, target, 0, 0);
     if (target.isPrinter())
         target.EndDoc();

@@ -21,13 +21,13 @@ using drawing::DrawTarget;
 
 namespace {
 
-std::string documentName(const App& app) {
-    return std::filesystem::path(app.document.currentFile).stem().string();
+std::string documentName(const core::Document& document) {
+    return std::filesystem::path(document.currentFile).stem().string();
 }
 
 // Opens the printer for one command, and closes it behind it.
 void printOn(App& app, const std::function<void(DrawTarget& printer)>& print) {
-    const std::unique_ptr<DrawTarget> printer = app.platform.openPrinter(documentName(app));
+    const std::unique_ptr<DrawTarget> printer = app.platform.openPrinter(documentName(app.document));
     if (!printer) return;
     const app::Hourglass hourglass(app);
     print(*printer);

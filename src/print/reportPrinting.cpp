@@ -33,14 +33,14 @@ struct ReportColumn {
     std::size_t characters = 0;
 };
 
-std::vector<ReportColumn> reportColumns(const App& app, const RecordsList& theList) {
+std::vector<ReportColumn> reportColumns(const core::Document& document, const RecordsList& theList) {
     std::vector<ReportColumn> columns;
     for (const int index : theList.columns.displayOrder()) {
         const Column& column = theList.columns.at(index);
         ReportColumn entry{&column};
-        entry.isPrinted = column.Index != 1 && isPrintedColumn(app, column.Text);
+        entry.isPrinted = column.Index != 1 && isPrintedColumn(document, column.Text);
         if (entry.isPrinted) {
-            entry.isNumeric = app.document.isNumericColumn(column.Text);
+            entry.isNumeric = document.isNumericColumn(column.Text);
             entry.width = core::toInt16(column.Width);
             entry.characters =
                 static_cast<std::size_t>(std::max(core::toInt32(column.Width / twipsPerCharacter), 0));
@@ -77,7 +77,7 @@ class Report {
 public:
     Report(App& app, DrawTarget& target, RecordsList& theList)
         : app_(app), document_(app.document), page_(previewPage(app)), target_(target), theList_(theList),
-          columns_(reportColumns(app, theList)) {}
+          columns_(reportColumns(app.document, theList)) {}
 
     void print();
 
@@ -141,15 +141,15 @@ void Report::printLine(TextOf&& textOf) {
         const ReportColumn& entry = columns_[place];
         const bool last = place + 1 == columns_.size();
         if (!entry.isPrinted) {
-            if (last) printRightAligned(app_, target_, target_.CurrentX, 0, {}, true);
+            if (last) printRightAligned(app_.document, target_, target_.CurrentX, 0, {}, true);
             continue;
         }
         target_.CurrentX += columnGap;
         const std::string_view text = textOf(*entry.column);
         if (entry.isNumeric)
-            printRightAligned(app_, target_, target_.CurrentX, entry.width, text, last);
+            printRightAligned(app_.document, target_, target_.CurrentX, entry.width, text, last);
         else
-            printLeftAligned(app_, target_, target_.CurrentX,
+            printLeftAligned(app_.document, target_, target_.CurrentX,
                              padded(core::left(text, entry.characters), entry.characters), last);
     }
 }
@@ -194,7 +194,7 @@ void Report::printRows() {
 void Report::closeList() {
     if (row_ < theList_.count()) return;
     if (page_.bReportSelectedOnly) {
-        printSelectedTotals(app_, target_, theList_);
+        printSelectedTotals(app_.document, target_, theList_);
     } else {
         constexpr float aboveTotals = 5;
         target_.CurrentY -= target_.TextHeight("NULL") + aboveTotals;
@@ -229,8 +229,8 @@ RecordsList& reportList(App& app) {
     return document.bInvoiceStyle && !document.searchLV.Visible ? document.iLV : *app.mainFrm.theListView;
 }
 
-bool isPrintedColumn(const App& app, std::string_view title) {
-    return app.document.printedCols.contains(title);
+bool isPrintedColumn(const core::Document& document, std::string_view title) {
+    return document.printedCols.contains(title);
 }
 
 void printTitleCentred(DrawTarget& target, float x, int width, std::string_view text) {
@@ -242,40 +242,41 @@ void printTitleCentred(DrawTarget& target, float x, int width, std::string_view 
     target.FontBold = false;
 }
 
-void printLeftAligned(const App& app, DrawTarget& target, float x, std::string_view text, bool bEndOfLine) {
+void printLeftAligned(const core::Document& document, DrawTarget& target, float x, std::string_view text,
+                      bool bEndOfLine) {
     target.CurrentX = x;
     target.Print(text, bEndOfLine);
     if (bEndOfLine)
-        target.CurrentX += static_cast<float>(app.document.reportData.reportLeftMargin * twipsPerInch);
+        target.CurrentX += static_cast<float>(document.reportData.reportLeftMargin * twipsPerInch);
 }
 
-void printRightAligned(const App& app, DrawTarget& target, float x, int width, std::string_view text,
-                       bool bEndOfLine) {
+void printRightAligned(const core::Document& document, DrawTarget& target, float x, int width,
+                       std::string_view text, bool bEndOfLine) {
     const double offset = width - static_cast<double>(target.TextWidth(text));
-    printLeftAligned(app, target, x + static_cast<float>(std::max<int>(core::toInt16(offset), 0)), text,
+    printLeftAligned(document, target, x + static_cast<float>(std::max<int>(core::toInt16(offset), 0)), text,
                      bEndOfLine);
 }
 
-void printSelectedTotals(App& app, DrawTarget& target, const RecordsList& theList) {
+void printSelectedTotals(core::Document& document, DrawTarget& target, const RecordsList& theList) {
     target.CurrentY += ruleGap;
     target.Line(0, target.CurrentY, target.Width, target.CurrentY);
     target.CurrentY += ruleGap;
-    target.CurrentX = static_cast<float>(app.document.reportData.reportLeftMargin * twipsPerInch);
-    const std::vector<ReportColumn> columns = reportColumns(app, theList);
+    target.CurrentX = static_cast<float>(document.reportData.reportLeftMargin * twipsPerInch);
+    const std::vector<ReportColumn> columns = reportColumns(document, theList);
     for (std::size_t place = 0; place < columns.size(); ++place) {
         const ReportColumn& entry = columns[place];
         const bool last = place + 1 == columns.size();
         if (!entry.isPrinted) {
-            if (last) printRightAligned(app, target, target.CurrentX, 0, {}, true);
+            if (last) printRightAligned(document, target, target.CurrentX, 0, {}, true);
             continue;
         }
         target.CurrentX += columnGap;
-        const Item* sum = app.document.LV3.findText(entry.column->Text);
+        const Item* sum = document.LV3.findText(entry.column->Text);
         const std::string_view text = sum == nullptr ? std::string_view() : sum->subItem(1).view();
         if (entry.isNumeric)
-            printRightAligned(app, target, target.CurrentX, entry.width, text, last);
+            printRightAligned(document, target, target.CurrentX, entry.width, text, last);
         else
-            printLeftAligned(app, target, target.CurrentX, padded(text, entry.characters), last);
+            printLeftAligned(document, target, target.CurrentX, padded(text, entry.characters), last);
     }
     target.CurrentX = 0;
 }

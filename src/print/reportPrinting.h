@@ -14,14 +14,15 @@ void PrintReport(app::App& app, drawing::DrawTarget& target, core::RecordsList& 
 void drawReport(app::App& app, drawing::DrawTarget& target, core::RecordsList& theList);
 
 // The sums of the selected records under a rule.
-void printSelectedTotals(app::App& app, drawing::DrawTarget& target, const core::RecordsList& theList);
+void printSelectedTotals(core::Document& document, drawing::DrawTarget& target,
+                         const core::RecordsList& theList);
 
-bool isPrintedColumn(const app::App& app, std::string_view title);
+bool isPrintedColumn(const core::Document& document, std::string_view title);
 void printTitleCentred(drawing::DrawTarget& target, float x, int width, std::string_view text);
 // After the end of a line the next one begins at the left margin of the report.
-void printLeftAligned(const app::App& app, drawing::DrawTarget& target, float x, std::string_view text,
-                      bool bEndOfLine);
-void printRightAligned(const app::App& app, drawing::DrawTarget& target, float x, int width,
+void printLeftAligned(const core::Document& document, drawing::DrawTarget& target, float x,
+                      std::string_view text, bool bEndOfLine);
+void printRightAligned(const core::Document& document, drawing::DrawTarget& target, float x, int width,
                        std::string_view text, bool bEndOfLine);
 
 } // namespace print

@@ -113,7 +113,7 @@ void searchFrm::Form_QueryUnload() {
 void searchFrm::Form_Unload() {
     if (!app_.document.searchLV.Visible && app_.mainFrm.SSTab1 == app::reportTab)
         app_.mainFrm.control("Delete").Enabled = true;
-    calc::RefreshSelectedTotals(app_);
+    calc::RefreshSelectedTotals(app_.document);
     unloaded = true;
 }
 

@@ -19,8 +19,8 @@ using core::RecordsList;
 
 namespace {
 
-bool hasColumns(const App& app) {
-    return app.document.LV.columns.count() > 1;
+bool hasColumns(const core::Document& document) {
+    return document.LV.columns.count() > 1;
 }
 
 // What a result has in its Tag.
@@ -38,10 +38,10 @@ bool isTheSame(const core::ColumnHeaders& columns, const Item& result, const Ite
 
 void openDialog(App& app) {
     app.mainFrm.control("Delete").Enabled = false;
-    calc::RefreshSelectedTotals(app);
+    calc::RefreshSelectedTotals(app.document);
     // The record of a sheet that is new is none of the results.
     const bool bResultsGone = app.document.searchLV.Visible && !entry::isSheetNew(app);
-    takeOverColumns(app);
+    takeOverColumns(app.document);
     app.platform.showForm("searchFrm");
     if (bResultsGone) app.changes.announce(app, app::Change::CurrentRecord);
 }
@@ -55,7 +55,7 @@ void leaveResults(App& app) {
 }
 
 void Search_ButtonClick(App& app) {
-    if (!hasColumns(app)) return;
+    if (!hasColumns(app.document)) return;
     if (app.mainFrm.control("Search").Value)
         leaveResults(app);
     else
@@ -63,14 +63,14 @@ void Search_ButtonClick(App& app) {
 }
 
 void mnuSearch_Click(App& app) {
-    if (!hasColumns(app)) return;
+    if (!hasColumns(app.document)) return;
     app.mainFrm.control("Search").Value = true;
     openDialog(app);
 }
 
-void takeOverColumns(App& app) {
-    const core::RecordsList& source = sourceList(app.document);
-    core::RecordsList& results = app.document.searchLV;
+void takeOverColumns(core::Document& document) {
+    const core::RecordsList& source = sourceList(document);
+    core::RecordsList& results = document.searchLV;
     results.clear();
     results.columns.clear();
     std::vector<int> positions;
@@ -88,7 +88,7 @@ void takeOverColumns(App& app) {
 // counted, not those of the list on show. It is wanted so.
 void showAllRecords(App& app) {
     app.document.searchLV.Visible = false;
-    calc::RefreshSelectedTotals(app); // the sums were those of a result
+    calc::RefreshSelectedTotals(app.document); // the sums were those of a result
     app.mainFrm.theListView = &app.document.LV;
     app.mainFrm.listScroll = app::ListScroll::ToCurrent;
     app::allowManySelected(app); // the layout page may have taken it from the records in the meantime

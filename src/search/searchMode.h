@@ -16,7 +16,7 @@ void mnuSearch_Click(app::App& app);
 void leaveResults(app::App& app);
 
 // Clears searchLV and gives it the columns of the list that is searched.
-void takeOverColumns(app::App& app);
+void takeOverColumns(core::Document& document);
 // Puts the records back in place of the results.
 void showAllRecords(app::App& app);
 

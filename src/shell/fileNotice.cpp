@@ -1,5 +1,6 @@
 #include "shell/fileNotice.h"
 
+#include "core/runTimeError.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
@@ -30,9 +31,11 @@ FileNotice goneNotice(const std::string& name) {
             {{"&Write It Again", storage::writeOpenedAgain}, {"Not &Now", storage::acceptForeignState}}};
 }
 
-FileNotice notKeptNotice() {
-    return {"Unsaved work could not be kept for the case of a crash; the disk may be full. Please save soon.",
-            {{"Not &Now", [](App& app) { storage::unsavedWork(app).hasKeepFailed = false; }}}};
+FileNotice notKeptNotice(const App& app) {
+    const bool isFull = storage::unsavedWork(app).keepFailure == core::errors::diskFull;
+    return {std::string("Unsaved work could not be kept for the case of a crash") +
+                (isFull ? ", because the disk is full" : "") + ". Please save soon.",
+            {{"Not &Now", [](App& window) { storage::unsavedWork(window).isFailureTold = true; }}}};
 }
 
 } // namespace
@@ -47,12 +50,12 @@ std::optional<FileNotice> fileNotice(const App& app) {
     case file::FileState::Change::None:
         break;
     }
-    if (hasOwnNotice(app)) return notKeptNotice();
+    if (hasOwnNotice(app)) return notKeptNotice(app);
     return std::nullopt;
 }
 
 bool hasOwnNotice(const App& app) {
-    return storage::unsavedWork(app).hasKeepFailed;
+    return storage::unsavedWork(app).keepFailure != 0 && !storage::unsavedWork(app).isFailureTold;
 }
 
 } // namespace shell

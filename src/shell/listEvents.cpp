@@ -92,10 +92,10 @@ void list_KeyUp(App& app) {
     app.mainFrm.bCtrlDown = false;
 }
 
-RecordsList& visibleList(App& app) {
-    if (app.document.searchLV.Visible) return app.document.searchLV;
+RecordsList& visibleList(core::Document& document) {
+    if (document.searchLV.Visible) return document.searchLV;
     // Not by the style: a new database that is cancelled half-way has chosen one for the records on view.
-    return app.document.iLV.Visible ? app.document.iLV : app.document.LV;
+    return document.iLV.Visible ? document.iLV : document.LV;
 }
 
 } // namespace shell

@@ -19,6 +19,6 @@ void list_KeyDown(app::App& app, int keyCode);
 void list_KeyUp(app::App& app);
 
 // The list that the report tab shows now.
-core::RecordsList& visibleList(app::App& app);
+core::RecordsList& visibleList(core::Document& document);
 
 } // namespace shell

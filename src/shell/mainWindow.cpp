@@ -31,8 +31,7 @@ void showStartTexts(App& app) {
 
 // On the layout page of an invoice database the record is the one behind the selected row. False when
 // there is none to show.
-bool selectInvoice(App& app) {
-    Document& document = app.document;
+bool selectInvoice(core::Document& document) {
     const bool results = document.searchLV.Visible;
     const RecordsList& shown = results ? document.searchLV : document.iLV;
     if (shown.count() < 2) return !results;
@@ -46,7 +45,7 @@ void arriveAtLayout(App& app) {
     RecordsList& list = *app.mainFrm.theListView;
     list.MultiSelect = false;
     list.setSelectedItem(list.selectedItem()); // one row stays selected: the one that is shown
-    if (app.document.bInvoiceStyle && !selectInvoice(app)) {
+    if (app.document.bInvoiceStyle && !selectInvoice(app.document)) {
         app::showReportTab(app);
         return;
     }
@@ -134,7 +133,7 @@ void viewOpt_Click(App& app, int index) {
     app.mainFrm.control("Search").Value = false;
     // Commands work on the records again; on results out of sight they would change what nobody sees.
     if (document.searchLV.Visible) search::showAllRecords(app);
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
     app::enableControls(app, true);
     invoice::choosePrintedCols(document);
 }

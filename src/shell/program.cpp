@@ -50,7 +50,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Objects}, layout::forgetLostObject);
     changes.follow({Change::PageEmptied}, entry::unbindSheet);
     changes.follow({Change::Values, Change::CurrentRecord}, entry::refreshShownRecord);
-    changes.follow({Change::Columns, Change::Values}, invoice::rebuildView);
+    changes.follow({Change::Columns, Change::Values}, [](App& app) { invoice::rebuildView(app.document); });
     changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Opened}, [](App& app) {
         if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);

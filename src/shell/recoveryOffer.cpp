@@ -50,7 +50,7 @@ std::string timeText(std::int64_t seconds) {
 }
 
 std::string offerText(const RecoveryNote& note) {
-    std::string text = "The program ended before this work was saved. It can be restored.\n\nFile: " +
+    std::string text = "This work was never saved. It can be restored.\n\nFile: " +
                        (note.file.empty() ? "(none yet)" : note.file) + "\nTime: " + timeText(note.time) +
                        "\nRecords: " + std::to_string(note.records);
     if (isChangedSince(note)) text += "\n\nThe file itself was changed after that work was begun.";
@@ -67,7 +67,8 @@ void writeAsFile(App& app, const RecoveryCopy& copy, const std::string& target) 
     try {
         Zip.OpenArchive(copy.note.file);
     } catch (const core::RunTimeError&) {
-        Zip.CreateArchive(target); // without pictures, when the file has gone or is damaged
+        // Without pictures, when the file has gone or is damaged, and for this user alone, as the copy is.
+        Zip.CreateArchive(target, "", copy.archive);
     }
     Zip.addBuffer("data.dat", text, "Main Data File");
     Zip.CloseArchiveAs(target, storage::keepingVersion(app, target));
@@ -103,12 +104,18 @@ bool isArchive(const std::string& file) {
     }
 }
 
-// What was typed on the sheet and not stored is shown on it again. In an invoice database the fields follow
-// the list on show, and what is typed is stored with each field that is reached.
+// What was typed on the sheet and not stored is shown on it again.
 void showTyped(App& app, const RecoveryNote& note) {
     core::RecordsList& records = app.document.LV;
-    if (!note.isTyped || app.document.bInvoiceStyle || note.row >= records.count()) return;
-    if (note.row > 0) records.setSelectedItem(&records.at(note.row));
+    if (!note.isTyped || note.row >= records.count()) return;
+    if (note.row > 0) {
+        core::Item& record = records.at(note.row);
+        records.setSelectedItem(&record);
+        // The page of an invoice database follows the list on show.
+        if (app.document.bInvoiceStyle)
+            if (core::Item* row = app.document.iLV.findText(record.Key))
+                app.document.iLV.setSelectedItem(row);
+    }
     SSTab1_Click(app, app::layoutTab);
     if (note.row == 0 && !entry::isSheetNew(app)) entry::layoutNavBar_ButtonClick(app, "New");
     for (const auto& [index, text] : note.fields)
@@ -161,6 +168,7 @@ bool offer(App& app, RecoveryCopy& copy) {
 
 void offerRecovery(App& app, const std::string& file) {
     Offers& offers = app.rooms.of<Offers>();
+    if (std::exchange(storage::unsavedWork(app).isSetAside, false)) return;
     if (std::exchange(offers.isOffering, true)) return;
     for (RecoveryCopy& copy : storage::findRecoveryCopies(app, file)) {
         if (file.empty() && offers.left.contains(copy.archive)) continue;

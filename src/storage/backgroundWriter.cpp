@@ -1,5 +1,7 @@
 #include "storage/backgroundWriter.h"
 
+#include "core/runTimeError.h"
+
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -25,11 +27,14 @@ constexpr unsigned longestSeconds = 120;
 [[noreturn]] void workAndLeave(const std::function<void()>& work) {
     for (const int number : {SIGTERM, SIGHUP, SIGINT, SIGALRM, SIGPIPE}) std::signal(number, SIG_DFL);
     ::alarm(longestSeconds);
+    (void)!::nice(10); // the window goes first
     int code = EXIT_SUCCESS;
     try {
         work();
+    } catch (const core::RunTimeError& error) {
+        code = error.number < 256 ? error.number : EXIT_FAILURE; // the parent is told, and tries again later
     } catch (const std::exception&) {
-        code = EXIT_FAILURE; // the parent is told, and tries again later
+        code = EXIT_FAILURE;
     }
     ::_exit(code);
 }
@@ -49,7 +54,7 @@ bool BackgroundWriter::isRunning() {
     int status = 0;
     const pid_t ended = ::waitpid(child_, &status, WNOHANG);
     if (ended == 0) return true;
-    failed_ = ended != child_ || !WIFEXITED(status) || WEXITSTATUS(status) != EXIT_SUCCESS;
+    failure_ = ended == child_ && WIFEXITED(status) ? WEXITSTATUS(status) : EXIT_FAILURE;
     child_ = -1;
     return false;
 }

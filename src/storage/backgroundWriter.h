@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <sys/types.h>
-#include <utility>
 
 namespace storage {
 
@@ -27,14 +26,14 @@ public:
     [[nodiscard]] bool start(const std::function<void()>& work);
     // Sees to a child that has ended; so this is to be asked now and then.
     [[nodiscard]] bool isRunning();
-    // That the last one has failed; once.
-    [[nodiscard]] bool takeFailure() { return std::exchange(failed_, false); }
+    // Why the last one has failed: the number of the run-time error, or 1; 0 when it has not.
+    [[nodiscard]] int failure() const { return failure_; }
     // Ends it, if it runs, whatever it has written.
     void stop();
 
 private:
     pid_t child_ = -1;
-    bool failed_ = false;
+    int failure_ = 0;
 };
 
 } // namespace storage

@@ -91,7 +91,7 @@ void createEmptyArchive(App& app, const std::string& path) {
 void finishNewDatabase(App& app) {
     Document& document = app.document;
     core::addTotalsRow(document.LV);
-    calc::RefreshSelectedTotals(app);
+    calc::RefreshSelectedTotals(app.document);
     document.layoutOptions = {};
     layout::unloadObjects(app);
     layout::clearGuides(app);
@@ -102,7 +102,7 @@ void finishNewDatabase(App& app) {
     document.iLV.Visible = document.bInvoiceStyle;
     document.bInvoiceView = false;
     app.mainFrm.viewOpt = 1;
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
 }
 
 void newDatabase(App& app, bool bStartUp) {

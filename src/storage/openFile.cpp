@@ -73,7 +73,7 @@ void rememberFile(App& app, bool StartUp) {
 void showOpened(App& app, bool StartUp) {
     Document& document = app.document;
     app::MainFrm& mainFrm = app.mainFrm;
-    calc::RefreshSelectedTotals(app);
+    calc::RefreshSelectedTotals(app.document);
     // Below two records the slider and the count keep what they showed. It is wanted so.
     if (document.LV.count() >= 3) {
         mainFrm.Slider1.Max = document.LV.count() - 1;
@@ -125,7 +125,7 @@ void readText(App& app, std::string text) {
     if (document.LV.empty()) core::addTotalsRow(document.LV);
     document.iLV.Visible = document.bInvoiceStyle;
     if (document.bInvoiceStyle) invoice::choosePrintedCols(document);
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
 }
 
 } // namespace

@@ -1,9 +1,11 @@
 #include "storage/openedFile.h"
 
+#include "app/windowState.h"
 #include "core/runTimeError.h"
 #include "file/dataWriter.h"
 #include "file/zip.h"
 #include "storage/openFile.h"
+#include "storage/recoveryCopies.h"
 #include "storage/saveSteps.h"
 #include "storage/versions.h"
 
@@ -19,6 +21,11 @@ namespace {
 
 std::string nameOf(const std::string& path) {
     return std::filesystem::path(path).filename().string();
+}
+
+bool isSameFile(const std::string& one, const std::string& other) {
+    std::error_code error;
+    return one == other || std::filesystem::equivalent(one, other, error);
 }
 
 // A folder that takes no lock file lets nobody write the database either.
@@ -82,7 +89,7 @@ void takeNext(App& app) {
     if (opened.next && opened.next->path == path) {
         if (opened.next->lock)
             opened.lock = std::move(opened.next->lock); // the one before is given back
-        else if (opened.path != path)
+        else if (!opened.next->isSame)
             opened.lock.reset();
         app.mainFrm.bReadOnly = opened.next->bReadOnly;
     } else {
@@ -94,6 +101,7 @@ void takeNext(App& app) {
     }
     opened.next.reset();
     opened.path = path;
+    app::showCaption(app); // which says whether it is read only
 }
 
 } // namespace
@@ -101,8 +109,8 @@ void takeNext(App& app) {
 std::optional<std::string> guardOpening(App& app, const std::string& path) {
     OpenedFile& opened = openedFile(app);
     if (!app.platform.guardsFiles()) return path;
-    opened.next = OpenedFile::Next{path, {}, false, {}};
-    if (opened.path == path && opened.lock && opened.lock->isStillHeld()) return path; // ours already
+    opened.next = OpenedFile::Next{path, {}, false, isSameFile(opened.path, path), {}};
+    if (opened.next->isSame && opened.lock && opened.lock->isStillHeld()) return path;
     std::optional<WriterLock::Outcome> outcome = tryLock(path);
     if (!outcome) return path;
     opened.next->lock = std::move(outcome->lock);
@@ -152,8 +160,8 @@ SaveWay waySaveOver(App& app) {
 bool guardTarget(App& app, const std::string& target) {
     OpenedFile& opened = openedFile(app);
     if (!app.platform.guardsFiles()) return true;
-    opened.next = OpenedFile::Next{target, {}, false, {}};
-    if (opened.path == target) {
+    opened.next = OpenedFile::Next{target, {}, false, isSameFile(opened.path, target), {}};
+    if (opened.next->isSame) {
         opened.next->bReadOnly = app.mainFrm.bReadOnly;
         if (!app.mainFrm.bReadOnly) return true;
     }
@@ -173,7 +181,8 @@ void followStored(App& app) {
     if (!app.platform.guardsFiles()) opened.path = app.document.currentFile;
     if (!app.platform.guardsFiles()) return;
     if (opened.path != app.document.currentFile || opened.next) takeNext(app);
-    remember(app, FileState::of(opened.path));
+    remember(app, opened.written ? *opened.written : FileState::of(opened.path));
+    opened.written.reset();
 }
 
 // Had somebody else written it before, its records are still not ours.
@@ -191,14 +200,17 @@ FileState::Change changeOfOpened(const App& app) {
 }
 
 void readOpenedAgain(App& app) {
+    // What is typed too, which an open would not keep.
+    if (keepUnsavedWork(app)) unsavedWork(app).isSetAside = true;
+    leaveUnsavedWork(app);
     app.document.currentFile = openedFile(app).path;
     OpenFile(app, true);
 }
 
 void acceptForeignState(App& app) {
     OpenedFile& opened = openedFile(app);
-    opened.isForeign = true;
     opened.state = FileState::of(opened.path);
+    opened.isForeign = opened.state.isThere(); // one that has gone is told by the save
 }
 
 void replaceAtNextSave(App& app) {

@@ -15,14 +15,16 @@ struct OpenedFile {
     std::string path; // empty for none
     file::FileState state;
     std::optional<file::WriterLock> lock;
-    bool isForeign = false;  // the user knows that it is not what was opened here
-    bool mayReplace = false; // that answer, for the next save
+    std::optional<file::FileState> written; // by the save that is about to be announced
+    bool isForeign = false;                 // the user knows that it is not what was opened here
+    bool mayReplace = false;                // that answer, for the next save
 
     // Of the file that is about to be opened, or saved as.
     struct Next {
         std::string path;
         std::optional<file::WriterLock> lock;
         bool bReadOnly = false;
+        bool isSame = false;   // as the open one, perhaps by another name: its lock is the one
         file::FileState state; // ahead of reading it
     };
     std::optional<Next> next;

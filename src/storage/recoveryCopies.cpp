@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <ctime>
 #include <fcntl.h>
 #include <random>
@@ -45,15 +46,18 @@ private:
     mode_t before_;
 };
 
-// Empty when there is none.
+// Empty where none is kept.
 fs::path recoveryFolder(App& app) {
     const fs::path state = app.platform.stateFolder();
-    if (state.empty()) return {};
-    fs::path folder = state / "recovery";
-    if (::mkdir(folder.c_str(), 0700) == 0) return folder;
+    return state.empty() ? state : state / "recovery";
+}
+
+void makeFolder(const fs::path& folder) {
+    if (::mkdir(folder.c_str(), 0700) == 0) return;
     struct stat status {};
-    const bool isOurs = ::lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-    return isOurs ? folder : fs::path();
+    if (errno != EEXIST || ::lstat(folder.c_str(), &status) != 0)
+        file::raiseSystemError(errno, folder.string());
+    if (!S_ISDIR(status.st_mode)) core::raise(core::errors::pathAccess, folder.string() + " is no folder");
 }
 
 fs::path lockOf(fs::path archive) {
@@ -158,16 +162,30 @@ bool prepare(App& app) {
     if (!isAnything(app)) return false;
     const fs::path folder = recoveryFolder(app);
     if (folder.empty()) return false;
+    makeFolder(folder);
     if (work.copy.archive.empty()) work.copy = newCopy(folder, openedFile(app).path);
     return true;
 }
 
-void keepInBackground(App& app) {
+// A copy that could not be kept is tried again, though not at once: the disk may be full.
+void endKeeping(UnsavedWork& work, int failure, Clock::time_point now) {
+    work.keepFailure = failure;
+    if (failure == 0) work.isFailureTold = false;
+    if (failure == 0 || work.isStale) return;
+    work.isStale = true;
+    work.first = now;
+    work.last = now + longestTime - quietTime;
+}
+
+void keepInBackground(App& app, Clock::time_point now) {
     UnsavedWork& work = unsavedWork(app);
     if (!prepare(app)) return;
     work.copy.note = makeNote(app);
     const auto write = [&] { writeCopy(work.copy.archive, app.document, work.copy.note); };
-    if (!work.writer.start(write)) write();
+    work.isWriting = work.writer.start(write);
+    if (work.isWriting) return;
+    write();
+    endKeeping(work, 0, now);
 }
 
 } // namespace
@@ -192,25 +210,27 @@ void markUnsaved(App& app, Clock::time_point now) {
 
 bool tendUnsavedWork(App& app, Clock::time_point now) noexcept {
     UnsavedWork& work = unsavedWork(app);
+    const bool wasWriting = std::exchange(work.isWriting, work.writer.isRunning());
+    if (work.isWriting) return true;
+    if (wasWriting) endKeeping(work, work.writer.failure(), now);
+    if (!work.isStale) return false;
+    if (now - work.last < quietTime && now - work.first < longestTime) return true;
+    work.isStale = false;
     try {
-        const bool isWriting = work.writer.isRunning();
-        if (!isWriting && work.writer.takeFailure()) work.hasKeepFailed = true;
-        if (!work.isStale || isWriting) return work.isStale || isWriting;
-        if (now - work.last < quietTime && now - work.first < longestTime) return true;
-        work.isStale = false;
-        if (hasUnsavedWork(app)) keepInBackground(app);
-        return work.writer.isRunning();
+        if (hasUnsavedWork(app)) keepInBackground(app, now);
+    } catch (const core::RunTimeError& error) {
+        endKeeping(work, error.number, now);
     } catch (const std::exception&) {
-        // It is tried again with the next change, and the work itself is not touched.
-        work.hasKeepFailed = true;
-        return false;
+        endKeeping(work, EXIT_FAILURE, now);
     }
+    return work.isWriting || work.isStale;
 }
 
 bool keepUnsavedWork(App& app) noexcept {
     UnsavedWork& work = unsavedWork(app);
     try {
         work.writer.stop();
+        work.isWriting = false;
         if (!hasUnsavedWork(app) || !prepare(app)) return false;
         work.copy.note = makeNote(app);
         writeCopy(work.copy.archive, app.document, work.copy.note);
@@ -224,6 +244,7 @@ bool keepUnsavedWork(App& app) noexcept {
 void removeUnsavedWork(App& app) noexcept {
     UnsavedWork& work = unsavedWork(app);
     work.writer.stop();
+    work.isWriting = false;
     if (!work.copy.archive.empty()) removeFiles(work.copy.archive);
     leaveUnsavedWork(app);
 }
@@ -231,6 +252,7 @@ void removeUnsavedWork(App& app) noexcept {
 void leaveUnsavedWork(App& app) noexcept {
     UnsavedWork& work = unsavedWork(app);
     work.copy = RecoveryCopy();
+    work.keepFailure = 0;
     work.isStale = work.isChanged = work.isTyped = work.isReplaced = work.hasSaveFailed = false;
 }
 

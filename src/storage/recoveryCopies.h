@@ -33,11 +33,14 @@ struct UnsavedWork {
     BackgroundWriter writer;
     bool isStale = false; // changes have come that the copy does not have, the first and the last of them at
     Clock::time_point first, last;
-    bool isChanged = false;     // as bModified, which outlasts the document that it was said of
-    bool isTyped = false;       // the sheet holds what is not stored
-    std::string typedKey;       // of the record on it; empty for a new one
-    bool isReplaced = false;    // records were replaced, which does not make the document modified
-    bool hasKeepFailed = false; // and the user has not been told
+    bool isChanged = false;  // as bModified, which outlasts the document that it was said of
+    bool isTyped = false;    // the sheet holds what is not stored
+    std::string typedKey;    // of the record on it; empty for a new one
+    bool isReplaced = false; // records were replaced, which does not make the document modified
+    bool isSetAside = false; // the user has just put it aside; the next open is not to offer it
+    bool isWriting = false;  // the writer, when it was looked at last
+    int keepFailure = 0; // why the last copy could not be kept, as a number of core::errors; 0 when it was
+    bool isFailureTold = false; // the user knows
     bool hasSaveFailed = false; // which leaves bModified False
 };
 inline UnsavedWork& unsavedWork(const app::App& app) {

@@ -21,7 +21,7 @@ void pack(App& app, const std::string& bytes) {
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
-    Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
+    openedFile(app).written = Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
 }
 
 // The copy carries all the images along. It is finished beside its place and takes it in one step, so
@@ -30,15 +30,17 @@ void packCopy(App& app, const std::string& target, const std::string& bytes) {
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
-    Zip.CloseArchiveAs(target, keepingVersion(app, target));
+    openedFile(app).written = Zip.CloseArchiveAs(target, keepingVersion(app, target));
     app.document.currentFile = target;
 }
 
 void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
-    if (!target || !mayWriteTo(app, *target)) return;
+    if (!target || !mayWriteTo(app, *target) || !guardTarget(app, *target)) return;
+    app.changes.announce(app, app::Change::Writing); // the file may be the open one
     packAlone(app, *target, bytes);
+    app.changes.announce(app, app::Change::Written);
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {

@@ -10,9 +10,7 @@
 #include <map>
 
 // What a calculation that fails tells.
-const std::string syntaxMessage =
-    "! An error has occured during one of your calculations.  It appears that an expression is incorrectly "
-    "defined.  Please check your syntax.";
+const std::string syntaxMessage = "! An error has occured during one of your calculations.";
 
 using SavedState = std::map<std::string, std::string>;
 

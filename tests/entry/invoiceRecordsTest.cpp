@@ -1,8 +1,10 @@
 #include "entry/invoiceRecords.h"
 
 #include "entry/fieldEvents.h"
+#include "entry/navBar.h"
 #include "entry/retrieveData.h"
 #include "invoiceFixture.h"
+#include "shell/mainWindow.h"
 #include "table.h"
 
 namespace {
@@ -27,16 +29,19 @@ struct InvoiceRecords : InvoiceTest {
     }
 };
 
+// New, what is typed, and Update.
 TEST_F(InvoiceRecords, CellsAsTheyAreWritten) {
+    layoutWith(3);
+    shell::SSTab1_Click(app, app::layoutTab);
     for (const auto& c : table("Price -> 1234 -> 12 -> 12.5 -> $12.34@$12.00@$12.50@; Price -> "
                                "12345678901234 ->  -> 7 -> $123,456,789,012.34@@$7.00@; Price -> 1,234 -> "
                                "abc -> -5 -> $12.34@a.bc@-$5.00@; Qty -> 1 ->  -> 3 -> 1@@3@; Item ->  ->  "
                                "->  -> @@@; No ->  ->  ->  -> 0; Customer ->  Ann  ->  ->  ->  Ann ")) {
-        layoutWith(3);
-        core::Item& item = invoice::addInvoiceRecord(app);
+        entry::layoutNavBar_ButtonClick(app, "New");
         type(c[0], {c[1], c[2], c[3]});
-        entry::editInvoiceRecord(app, true);
-        EXPECT_EQ(cell(item, c[0].c_str()), c[4]);
+        entry::layoutNavBar_ButtonClick(app, "Update");
+        EXPECT_EQ(cell(*LV.selectedItem(), c[0].c_str()), c[4]);
+        EXPECT_EQ(app.document.layout.layoutField.find(1)->Text, "0"); // as it is stored
     }
 }
 
@@ -66,7 +71,7 @@ TEST_F(InvoiceRecords, DeletingThroughTheInvoiceList) {
     layoutWith(2);
     app.mainFrm.bConfirmDelete = true;
     for (const char* number : {"1", "2", "3", "4"}) record({{"No", number}, {"Qty", "1@1@"}});
-    invoice::BuildInvoicesView(app);
+    invoice::BuildInvoicesView(app.document);
     app.document.iLV.clearSelection();
     for (const int row : {2, 4}) app.document.iLV.setSelectedItem(&app.document.iLV.at(row));
     app.document.iLV.totals()->Selected = true;
@@ -89,7 +94,7 @@ TEST_F(InvoiceRecords, AWriteReachesTheResults) {
     results.Visible = true;
     for (const bool items : {true, false}) {
         app.document.bInvoiceView = items;
-        invoice::rebuildView(app);
+        invoice::rebuildView(app.document);
         results.clear();
         results.columns = app.document.iLV.columns;
         app.document.iLV.forEach(

@@ -66,41 +66,38 @@ TEST(CsvWriter, IsReadBack) {
 }
 
 // A column of these cells, its type, and what it stores.
-TEST(ColumnTypes, AreGuessed) {
-    auto cases = table("12\n-3.5\n \n.5\n0\n0.50 -> Number -> 12/-3.5//.5/0/0.50/; "
-                       "123456789012345 -> Number -> 123456789012345/; 5\n,,, -> Number -> 5/; "
-                       "$5\n\"-$1,234.5\"\n$.05\n$0.50 -> Currency -> $5.00/-$1,234.50/$.05/$.50/; "
-                       " 3/4/2024\n12/31/1999 -> Date -> 03/04/2024/12/31/1999/; a\nb -> Text -> a/b/; "
-                       " \n\"\" -> Text ->  //; 1\n$2 -> Text -> 1/$2/; 00123\n5 -> Text -> 00123/5/; "
-                       "\"1,234\" -> Text -> 1,234/; \"$1,23.00\" -> Text -> $1,23.00/");
+TEST(ColumnTypes, AreGuessedOrStandInTheHeader) {
+    const auto told = [](const std::string& bytes, bool ofItems) {
+        const CsvTable table(bytes);
+        std::string all;
+        for (std::size_t i = 0; const auto& column : exchange::columnsOf(table, ofItems)) {
+            all.append(all.empty() ? "" : "; ").append(core::typeName(column.type)) += " ";
+            for (std::size_t row = 0; row < table.rowCount(); ++row)
+                all += exchange::storedCell(column, table.cell(row, i)) + "/";
+            ++i;
+        }
+        return all;
+    };
+    auto cases = table("12\n-3.5\n \n.5\n0\n0.50 -> Number 12/-3.5//.5/0/0.50/; "
+                       "123456789012345 -> Number 123456789012345/; 5\n,,, -> Number 5/; "
+                       "$5\n\"-$1,234.5\"\n$.05\n$0.50 -> Currency $5.00/-$1,234.50/$.05/$.50/; "
+                       " 3/4/2024\n12/31/1999 -> Date 03/04/2024/12/31/1999/; a\nb -> Text a/b/; "
+                       " \n\"\" -> Text  //; 1\n$2 -> Text 1/$2/; 00123\n5 -> Text 00123/5/; "
+                       "\"1,234\" -> Text 1,234/; \"$1,23.00\" -> Text $1,23.00/");
     for (const std::string text : {"1e5", "1234567890123456", "+5", "5.", "-", "$1.125", "$", "02/30/2024",
                                    "25/12/2024", "1/2/24", "2024-01-31"})
-        cases.push_back({text, "Text", text + "/"});
-    for (const auto& c : cases) {
-        const CsvTable table("a\n" + c[0]);
-        const exchange::TableColumn column = exchange::columnsOf(table)[0];
-        EXPECT_EQ(core::typeName(column.type), c[1]) << c[0];
-        std::string all;
-        for (std::size_t row = 0; row < table.rowCount(); ++row)
-            all += exchange::storedCell(column, table.cell(row, 0)) + "/";
-        EXPECT_EQ(all, c[2]) << c[0];
-    }
+        cases.push_back({text, "Text " + text + "/"});
+    for (const auto& c : cases) EXPECT_EQ(told("a\n" + c[0], false), c[1]) << c[0];
     // Of item rows, each value counts.
-    const CsvTable items("Qty,Price,Day,Item\n2@3@,$1@@$1250.5@,1/2/2024@,a@1@\n@@,,,\n");
-    const auto columns = exchange::columnsOf(items, true);
-    std::string all;
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        all += std::string(core::typeName(columns[i].type)) + " " +
-               exchange::storedCell(columns[i], items.cell(0, i)) + "; ";
-    EXPECT_EQ(all, "Number 2@3@; Currency $1.00@@$1,250.50@; Date 01/02/2024@; Text a@1@; ");
-    EXPECT_EQ(exchange::columnsOf(items)[0].type, core::ColumnType::Text);
-}
-
-TEST(ColumnTypes, StandInTheHeader) {
-    const auto columns = exchange::columnsOf(CsvTable("a:b:number,c:Text\n0012,x\n"));
-    EXPECT_EQ(columns[0].name, "a:b");
-    EXPECT_EQ(columns[0].type, core::ColumnType::Number);
-    EXPECT_EQ(exchange::storedCell(columns[0], " 0012"), " 0012");
+    const std::string items = "Qty,Price,Day,Item\n2@3@,$1@@$1250.5@,1/2/2024@,a@1@\n@@,,,\n";
+    EXPECT_EQ(told(items, true),
+              "Number 2@3@/@@/; Currency $1.00@@$1,250.50@//; Date 01/02/2024@//; Text a@1@//");
+    EXPECT_TRUE(told(items, false).starts_with("Text "));
+    // In the header they are told.
+    const auto typed = exchange::columnsOf(CsvTable("a:b:number,c:Text\n0012,x\n"));
+    EXPECT_EQ(typed[0].name, "a:b");
+    EXPECT_EQ(typed[0].type, core::ColumnType::Number);
+    EXPECT_EQ(exchange::storedCell(typed[0], " 0012"), " 0012");
     for (const char* header : {"a:Number,b", "a:Number,b:Words", "a:Number,:Text"})
         EXPECT_FALSE(exchange::typedColumns(CsvTable(header))) << header;
     EXPECT_EQ(exchange::columnName(" Unit Price "), "Unit_Price");

@@ -32,18 +32,16 @@ TEST(LayoutLines, ComeBackAsTheyWereOrInTheShortestForm) {
              "L|A#0|x|3| -> L|A#0|x|0|; L|A#0|x|-1| -> L|A#0|x|0|; "
              // A line is written in the template's colour, and a picture without its hint.
              "LN|1440|1440|8640|75|255| -> LN|1440|1440|8640|75|16777215|; VLN|1|2|3|4 -> VLN@16777215|; "
-             "B|1320|960|9000|4500|128|3|; P|Cover@tip| -> P|Cover@; C|../x.jpg@; "
+             "B|1320|960|9000|4500|128|3|; P|Cover@tip| -> P|Cover@; B@5|2.5| -> B@5|2|; "
              // Numbers in the forms that other programs write.
              "C|a|1,440| -.5 |1E3|$12.50| -> C|a|1440|-0.5|1000|12.5|; "
-             "C|a|0.1|123456.789|.15|100000| -> C|a|0.1|123456.79|0.15|100000|; B@5|2.5| -> B@5|2|; "
              "X|unknown|1|2| -> skipped; f|A@-1|0|1|A|8|0| -> skipped; LNX@5| -> skipped;  C|a@ -> skipped; "
              "F|A@True|False|False|Arial|10 -> error 9; L|A@True|False|False|Arial -> error 9; VLN -> error "
              "9; "
              "B@5 -> error 9; P|A|1|2|3 -> error 9; C -> error 9; F|A@Yes|False|False|Arial|10|0| -> error "
              "13; "
-             "F|A@True|False|False|Arial|ten|0| -> error 13; L|A#0|link|left| -> error 13; "
-             "LN|1|2|3||5| -> error 13; B@0|32768| -> error 6; B@99999999999|1| -> error 6; "
-             "C|a|1E39|2|3|4| -> error 6")) {
+             "L|A#0|link|left| -> error 13; B@0|32768| -> error 6; B@9e9|1| -> error 6; C|a|1E39|2|3|4| -> "
+             "error 6")) {
         const auto whole = [&](const std::string& line) {
             return core::replaceAll(core::replaceAll(line, "#", font), "@", place);
         };

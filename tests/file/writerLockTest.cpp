@@ -1,242 +1,152 @@
 #include "file/writerLock.h"
+#include "folderFixture.h"
 
-#include <fcntl.h>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
-namespace {
-
-namespace fs = std::filesystem;
-using file::LockOwner;
 using file::WriterLock;
-using Result = WriterLock::Result;
 using std::chrono::milliseconds;
 
-class Locking : public ::testing::Test {
-protected:
-    Locking() {
-        std::string name = (fs::temp_directory_path() / "writerLock.XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-        database = folder / "books.fwk";
-        lock = folder / ".~lock.books.fwk#";
-        std::ofstream(database) << "records";
+namespace {
+
+struct Locking : FolderTest {
+    Locking() { writeBytes(database, "records"); }
+
+    [[nodiscard]] static std::string name(WriterLock::Result result) {
+        constexpr const char* names[] = {"taken", "held", "elsewhere", "impossible", "obstructed"};
+        return names[static_cast<int>(result)];
     }
-    ~Locking() override {
-        fs::permissions(folder, fs::perms::owner_all);
-        fs::remove_all(folder);
+    [[nodiscard]] static std::string take(const fs::path& file,
+                                          WriterLock::Force force = WriterLock::Force::No, int wait = 0) {
+        return name(WriterLock::take(file, force, milliseconds(wait)).result);
     }
-    // What a process leaves behind that ends, as a kill ends it, with the lock in its hands.
-    LockOwner leftOver() const {
+    // Another process; its exit code is what the act answers. A lock that it holds stays behind.
+    [[nodiscard]] static pid_t start(const std::function<int()>& act) {
         const pid_t child = ::fork();
-        if (child == 0) {
-            const auto taken = WriterLock::take(database);
-            ::_exit(taken.result == Result::Taken ? 0 : 1);
-        }
-        int status = 1;
+        if (child == 0) ::_exit(act());
+        return child;
+    }
+    [[nodiscard]] static int finish(pid_t child) {
+        int status = -1;
         ::waitpid(child, &status, 0);
-        EXPECT_EQ(status, 0);
-        return file::readLockLine(contentOf(lock));
+        return WEXITSTATUS(status);
     }
-    static std::string contentOf(const fs::path& file) {
-        std::ifstream stream(file);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-    void write(const std::string& text) const { std::ofstream(lock) << text; }
-    Result result(WriterLock::Force force = WriterLock::Force::No) const {
-        return WriterLock::take(database, force).result;
+    // The shell's acts in the folder, where $L is the lock and $H this machine.
+    void act(const std::string& acts) const {
+        const std::string line = "cd " + folder.string() + " && L='.~lock.a.fwk#' H=$(uname -n) && " + acts;
+        EXPECT_EQ(std::system(line.c_str()), 0) << acts;
     }
 
-    fs::path folder, database, lock;
+    fs::path database = folder / "a.fwk";
 };
 
 TEST_F(Locking, OneHoldsItAndTheOthersAreToldWho) {
     const mode_t mask = ::umask(0077);
     auto first = WriterLock::take(database);
     ::umask(mask);
-    ASSERT_EQ(first.result, Result::Taken);
-    EXPECT_EQ(fs::status(lock).permissions(), fs::perms(0644));
-    const auto second = WriterLock::take(database, WriterLock::Force::Yes);
-    EXPECT_EQ(second.result, Result::Held);
-    EXPECT_EQ(second.owner.process, ::getpid());
-    EXPECT_TRUE(second.owner.isOfThisMachine());
-    // A look at the file, as another program may take one, and a lock that has moved: still held.
-    EXPECT_FALSE(contentOf(lock).empty());
+    ASSERT_TRUE(first.lock && first.lock->isStillHeld());
+    EXPECT_EQ(fs::status(first.path).permissions(), fs::perms(0644));
+    auto second = WriterLock::take(database, WriterLock::Force::Yes);
+    EXPECT_EQ(name(second.result) + " " + std::to_string(second.owner.process),
+              "held " + std::to_string(::getpid()));
+    EXPECT_FALSE(readBytes(first.path).empty()); // to open and close it gives no lock back
     WriterLock moved = std::move(*first.lock);
     first.lock.reset();
-    fs::create_symlink("books.fwk", folder / "link.fwk");
-    EXPECT_EQ(WriterLock::take(folder / "link.fwk").result, Result::Held);
-    EXPECT_EQ(WriterLock::take(folder / "other.fwk").result, Result::Taken);
-
+    act("ln -s a.fwk link.fwk");
+    EXPECT_EQ(take(folder / "link.fwk") + take(folder / "b.fwk"), "heldtaken");
     std::thread later([&] {
         std::this_thread::sleep_for(milliseconds(60));
         moved.release();
     });
-    EXPECT_EQ(WriterLock::take(database, WriterLock::Force::No, milliseconds(20)).result, Result::Held);
-    EXPECT_EQ(WriterLock::take(database, WriterLock::Force::No, milliseconds(5000)).result, Result::Taken);
+    EXPECT_EQ(take(database, WriterLock::Force::No, 20), "held");
+    EXPECT_EQ(take(database, WriterLock::Force::No, 9999), "taken");
     later.join();
-    EXPECT_FALSE(fs::exists(lock));
-}
-
-TEST_F(Locking, WhatIsLeftOverOfThisMachineGoesInSilence) {
-    const LockOwner dead = leftOver();
-    EXPECT_TRUE(dead.isKnown());
-    auto taken = WriterLock::take(database);
-    ASSERT_EQ(taken.result, Result::Taken);
-    EXPECT_EQ(file::readLockLine(contentOf(lock)).process, ::getpid());
-    // A process number that is in use again says nothing: nobody has the file locked.
-    taken.lock.reset();
-    LockOwner reused = LockOwner::thisProcess();
-    reused.process = 1;
-    write(file::lockLine(reused));
-    EXPECT_EQ(result(), Result::Taken);
-    // Ended between making the file and writing into it.
-    write("");
-    EXPECT_EQ(result(), Result::Taken);
-    // Read-only, as another user's.
-    write(file::lockLine(dead));
-    fs::permissions(lock, fs::perms(0444));
-    EXPECT_EQ(result(), Result::Taken);
-    EXPECT_FALSE(fs::exists(lock));
-}
-
-TEST_F(Locking, AnotherMachineIsAskedAbout) {
-    LockOwner other = LockOwner::thisProcess();
-    other.machine += "-other";
-    for (const std::string& content : {file::lockLine(other), std::string("a page of something else"),
-                                       "x,y,1,now;" + std::string(1 << 20, 'x'), std::string(1 << 20, 'x')}) {
-        write(content);
-        const auto held = WriterLock::take(database);
-        EXPECT_EQ(held.result, Result::HeldElsewhere);
-        EXPECT_EQ(contentOf(lock), content);
-    }
-    write(file::lockLine(other));
-    EXPECT_EQ(WriterLock::take(database).owner.machine, other.machine);
-    EXPECT_EQ(result(WriterLock::Force::Yes), Result::Taken);
-}
-
-// What is in the lock's place is never followed, written into, or removed for a link or a folder.
-TEST_F(Locking, NothingThatIsNoLockIsTouched) {
-    const fs::path victim = folder / "victim";
-    std::ofstream(victim) << "";
-    fs::create_symlink(victim, lock);
-    EXPECT_EQ(result(WriterLock::Force::Yes), Result::Obstructed);
-    fs::remove(lock);
-    fs::create_symlink(folder / "nothing", lock);
-    EXPECT_EQ(result(), Result::Obstructed);
-    EXPECT_FALSE(fs::exists(folder / "nothing"));
-    fs::remove(lock);
-    fs::create_directory(lock);
-    EXPECT_EQ(result(), Result::Obstructed);
-    fs::remove(lock);
-    ::mkfifo(lock.c_str(), 0600);
-    EXPECT_EQ(result(), Result::Obstructed);
-    fs::remove(lock);
-    std::ofstream(victim) << "of the user's own";
-    fs::create_hard_link(victim, lock);
-    EXPECT_EQ(result(WriterLock::Force::Yes), Result::Taken);
-    EXPECT_EQ(contentOf(victim), "of the user's own");
-}
-
-TEST_F(Locking, NoLockIsPossible) {
-    EXPECT_EQ(WriterLock::take(folder / "nowhere" / "a.fwk").result, Result::Impossible);
-    fs::create_symlink("circle.fwk", folder / "circle.fwk");
-    EXPECT_EQ(WriterLock::take(folder / "circle.fwk").result, Result::Impossible);
-    // The longest name that a file may have still has a lock.
-    EXPECT_EQ(WriterLock::take(folder / (std::string(251, 'x') + ".fwk")).result, Result::Taken);
-    if (::geteuid() == 0) GTEST_SKIP() << "the superuser may write anywhere";
-    fs::permissions(folder, fs::perms(0500));
-    EXPECT_EQ(result(), Result::Impossible);
-}
-
-// Its lock file can be read, but not opened for writing.
-TEST_F(Locking, AnotherUsersLock) {
-    if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be another user";
-    fs::permissions(folder, fs::perms(0777));
-    const auto asNobody = [&] {
-        const pid_t child = ::fork();
-        if (child == 0)
-            ::_exit(::setuid(65534) == 0 ? static_cast<int>(WriterLock::take(database).result) : 99);
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        return static_cast<Result>(WEXITSTATUS(status));
-    };
-    auto taken = WriterLock::take(database);
-    EXPECT_EQ(asNobody(), Result::Held);
-    EXPECT_TRUE(taken.lock->isStillHeld());
-    taken.lock.reset();
-    (void)leftOver();
-    EXPECT_EQ(asNobody(), Result::Taken);
-    fs::permissions(folder, fs::perms(01777)); // in which nobody removes another's file
-    fs::remove(lock);
-    (void)leftOver();
-    EXPECT_EQ(asNobody(), Result::Obstructed);
-    fs::permissions(lock, fs::perms(0600));
-    EXPECT_EQ(asNobody(), Result::Obstructed);
-}
-
-TEST_F(Locking, AForcedOneIsNoLongerTheFirstOwners) {
-    auto first = WriterLock::take(database);
-    EXPECT_TRUE(first.lock->isStillHeld());
-    fs::remove(lock);
+    EXPECT_EQ(tree(), "a.fwk link.fwk@ ");
+    first = WriterLock::take(database);
+    fs::remove(first.path);
+    second.lock = WriterLock::take(database).lock;
     EXPECT_FALSE(first.lock->isStillHeld());
-    const auto second = WriterLock::take(database);
-    EXPECT_EQ(second.result, Result::Taken);
     first.lock->release();
     EXPECT_TRUE(second.lock->isStillHeld());
 }
 
-// Some are killed with the lock in their hands. Two at once would see each other's mark.
-TEST_F(Locking, ManyProcessesAndNeverTwoAtOnce) {
-    const fs::path mark = folder / "mark";
-    std::vector<pid_t> children;
-    for (int child = 0; child < 4; ++child) {
-        const pid_t process = ::fork();
-        if (process != 0) {
-            children.push_back(process);
-            continue;
-        }
-        for (int round = 0; round < 100; ++round) {
-            const pid_t inner = ::fork();
-            if (inner == 0) {
-                auto taken = WriterLock::take(database, WriterLock::Force::No, milliseconds(30000));
-                const int own = ::open(mark.c_str(), O_CREAT | O_EXCL | O_WRONLY, 0600);
-                if (taken.result != Result::Taken || own < 0) ::_exit(1);
-                std::this_thread::sleep_for(std::chrono::microseconds(200));
-                ::unlink(mark.c_str());
-                if (round % 3 == 0) taken.lock->release();
-                ::_exit(0);
-            }
-            int status = 1;
-            ::waitpid(inner, &status, 0);
-            if (status != 0) ::_exit(1);
-        }
-        ::_exit(0);
+// What lies there, and how it ends without force and with it. No link is followed, and no other file written.
+TEST_F(Locking, WhatLiesInTheLocksPlace) {
+    for (const auto& each :
+         table("printf ann,$H,1,now >$L -> elsewhere -> taken; "
+               "printf 'ann,%s,1,now;' $H >$L -> taken -> taken; : >$L -> taken -> taken; "
+               "printf 'ann,else,1,now;' >$L -> elsewhere -> taken; "
+               "head -c 9999 /dev/zero >$L -> elsewhere -> taken; "
+               "echo own >b && ln b $L -> elsewhere -> taken; "
+               "ln -s a.fwk $L -> obstructed -> obstructed; "
+               "ln -s nothing $L -> obstructed -> obstructed; "
+               "mkdir $L -> obstructed -> obstructed; mkfifo $L -> obstructed -> obstructed",
+               3)) {
+        act("rm -rf $L b && " + each[0]);
+        EXPECT_EQ(take(database), each[1]) << each[0];
+        act("rm -rf $L b && " + each[0]);
+        EXPECT_EQ(take(database, WriterLock::Force::Yes), each[2]) << each[0];
+        act("[ \"$(cat a.fwk)\" = records ] && [ ! -e nothing ] && [ ! -e b -o -s b ]");
     }
-    for (const pid_t child : children) {
-        int status = 1;
-        ::waitpid(child, &status, 0);
-        EXPECT_EQ(status, 0);
+    act("ln -s circle circle");
+    EXPECT_EQ(take(folder / "circle") + take(folder / "none" / "a.fwk"), "impossibleimpossible");
+    EXPECT_EQ(take(folder / std::string(255, 'x')), "taken");
+}
+
+// Who may neither write a folder nor another user's lock file.
+TEST_F(Locking, OfOtherUsers) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be another user";
+    const auto asNobody = [&] {
+        return name(static_cast<WriterLock::Result>(finish(start([&] {
+            return ::setuid(65534) == 0 ? static_cast<int>(WriterLock::take(database).result) : 99;
+        }))));
+    };
+    act("chmod 755 .");
+    EXPECT_EQ(asNobody(), "impossible");
+    auto taken = WriterLock::take(database);
+    act("chmod 777 .");
+    EXPECT_EQ(asNobody(), "held");
+    EXPECT_TRUE(taken.lock->isStillHeld());
+    taken.lock.reset();
+    for (const auto& each :
+         table("chmod 777 . -> taken; chmod 1777 . -> obstructed; chmod 600 $L -> obstructed")) {
+        (void)finish(start([&] {
+            const auto kept = WriterLock::take(database);
+            ::_exit(0);
+            return 0;
+        }));
+        act(each[0]);
+        EXPECT_EQ(asNobody(), each[1]) << each[0];
     }
 }
 
+// A third of them end with the lock in their hands. Two at once would see each other's mark.
+TEST_F(Locking, ManyProcessesAndNeverTwoAtOnce) {
+    std::vector<pid_t> children(120);
+    for (pid_t& child : children)
+        child = start([&, isKilled = (&child - children.data()) % 3 == 0] {
+            auto taken = WriterLock::take(database, WriterLock::Force::No, milliseconds(60000));
+            if (!taken.lock || ::mkdir((folder / "mark").c_str(), 0700) != 0) return 1;
+            std::this_thread::sleep_for(std::chrono::microseconds(300));
+            fs::remove(folder / "mark");
+            if (!isKilled) taken.lock->release();
+            return 0;
+        });
+    for (const pid_t child : children) EXPECT_EQ(finish(child), 0);
+}
+
 TEST(LockLine, IsOneLineWhateverTheNames) {
-    const LockOwner odd{"O'Neil, \"Ann\";\n%2C", "desk\x1b[2J", 4711, "2026-03-14T09:26:53Z"};
-    const std::string line = file::lockLine(odd);
-    EXPECT_EQ(std::ranges::count(line, ','), 3);
-    EXPECT_EQ(line.find('\n'), line.size() - 1);
-    const LockOwner read = file::readLockLine(line);
-    EXPECT_EQ(read.user, "O'Neil, \"Ann\"; %2C");
-    EXPECT_EQ(read.machine, "desk [2J");
-    EXPECT_EQ(file::readLockLine("ann,desk,4711,2026-03-14T09:26:53Z;").text(),
-              "ann on desk (process 4711) since 2026-03-14 09:26:53 UTC");
-    for (const char* wrong : {"", ";", "ann,desk,4711;", "ann,desk,4711,now", "a,b,c,d;", "a,b,0,d;",
-                              "a,b,-1,d;", "a,b,1,d,e;", "a,b,99999999999999999999,d;", "a,,1,d;"})
-        EXPECT_FALSE(file::readLockLine(wrong).isKnown()) << wrong;
-    EXPECT_EQ(file::readLockLine("a%,b%4,1%;").text(), LockOwner().text());
+    const std::string line =
+        file::lockLine({"O'Neil, \"Ann\";\n%2C", "desk\x1b[2J", 4711, "2026-03-14T09:26:53Z"});
+    EXPECT_EQ(line, "O'Neil%2C \"Ann\"%3B%0A%252C,desk%1B[2J,4711,2026-03-14T09:26:53Z;\n");
+    EXPECT_EQ(file::readLockLine(line).text(),
+              "O'Neil, \"Ann\"; %2C on desk [2J (process 4711) since 2026-03-14 09:26:53 UTC");
+    for (const char* wrong : {"", ";", "a,b,1;", "a,b,1,d", "a,b,c,d;", "a,b,0,d;", "a,b,-1,d;", "a,b,1,d,e;",
+                              "a,b,99999999999999999999,d;", "a,,1,d;"})
+        EXPECT_EQ(file::readLockLine(wrong).text(), "another program") << wrong;
+    EXPECT_EQ(file::readLockLine("a%,%b%4,1,%2;").machine, "%b%4");
 }
 
 } // namespace

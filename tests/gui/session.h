@@ -3,57 +3,29 @@
 #include "../support/dataFile.h"
 #include "file/zip.h"
 #include "gui/frame/mainFrmView.h"
-#include "gui/records/recordsView.h"
-#include "gui/widgets/qtText.h"
+#include "screen.h"
 #include "shell/mainWindow.h"
 #include "shell/program.h"
 
 #include <QtTest>
-#include <QtWidgets>
 
 #include <deque>
 
-using namespace Qt::StringLiterals;
-
-// The platform of the window, but its dialogs are answered by the test.
+// The platform of the window, but its questions are answered by the test.
 struct ScriptedPlatform : gui::QtPlatform {
-    struct Message {
-        QString text;
-        platform::Icon icon;
-    };
-    std::vector<Message> messages;
     std::deque<platform::Answer> answers; // Ok when there is none left
     std::optional<std::string> chosenFile;
-    std::deque<std::string> inputs;         // of input boxes; cancelled when there is none left
-    std::deque<platform::FontChoice> fonts; // of font dialogs; cancelled likewise
-    QStringList links;                      // that were opened
-    QStringList forms;
-    // What the user does in a form. The script has to close it. A form without a script is not shown.
-    std::map<QString, std::function<void(QDialog&)>> scripts;
-    std::function<void(QDialog&)> anyForm; // where there is no such script
+    std::deque<std::string> inputs; // of input boxes; cancelled when there is none left
+    QStringList told;               // messages, and links that were opened
 
-    platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string&,
+    platform::Answer msgBox(const std::string& text, platform::Icon, const std::string&,
                             platform::Buttons) override {
-        messages.push_back({gui::toQt(text), icon});
-        return take(answers).value_or(platform::Answer::Ok);
+        told << gui::toQt(text);
+        return take(answers, platform::Answer::Ok);
     }
     std::optional<std::string> showOpen(const platform::FileDialog&) override { return chosenFile; }
     std::optional<std::string> showSave(const platform::FileDialog&) override { return chosenFile; }
     std::optional<std::string> showNew(const platform::FileDialog&) override { return chosenFile; }
-    void showForm(std::string_view name) override {
-        forms << gui::toQt(name);
-        const auto act = scripts.contains(forms.last()) ? scripts[forms.last()] : anyForm;
-        if (!act) return;
-        QTimer::singleShot(0, qApp, [form = forms.last(), act] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr || dialog->objectName() != form) return; // it did not come up
-            if (!QTest::qWaitFor([&] { return QApplication::activeWindow() == dialog; }))
-                qFatal("%s is not active", qPrintable(form));
-            act(*dialog);
-            if (dialog->isVisible()) qFatal("%s is still open", qPrintable(form)); // nobody would close it
-        });
-        QtPlatform::showForm(name);
-    }
     // Of others that open the same files, and of earlier runs, only those tests know that are about them.
     bool isUsers = false;
     bool guardsFiles() const override { return isUsers; }
@@ -61,126 +33,258 @@ struct ScriptedPlatform : gui::QtPlatform {
         return isUsers ? QtPlatform::stateFolder() : std::filesystem::path();
     }
     std::string inputBox(const std::string&, const std::string&, const std::string&) override {
-        return take(inputs).value_or("");
+        return take(inputs, std::string());
     }
-    std::optional<platform::FontChoice> showFont(const platform::FontChoice&) override { return take(fonts); }
-    void openLink(const std::string& target) override { links << gui::toQt(target); }
+    void openLink(const std::string& target) override { told << gui::toQt(target); }
 
 private:
     template <typename Value>
-    static std::optional<Value> take(std::deque<Value>& queue) {
-        if (queue.empty()) return std::nullopt;
-        const Value value = queue.front();
+    static Value take(std::deque<Value>& queue, Value value) {
+        if (queue.empty()) return value;
+        value = queue.front();
         queue.pop_front();
         return value;
     }
 };
 
-// One run of the program, with the user's folders of the test.
-struct Session {
+// One run of the program. What its user does is told in acts with ";" between them, and behind "->" what they
+// change on the screen, also on lines that are indented. They go on in a dialog or a menu that comes up:
+//
+//     click Search              a command, or a widget by its name; f1 is layoutField1
+//     click pBox1 9,9           there; "double" clicks twice, "menu" with the right button, and "another" is
+//                               a double click of that one
+//     Ctrl+click LV Ann         with a key held, on a row by its beginning, or by its number: #3
+//     click LV.Title            a heading, which tells also where to drag
+//     drag pBox1 37,61 2,2      by so many pixels, from there; "hold" does not let go
+//     wheel pBox1 0,-120        slide Slider1 7        focus f2        tab 1
+//     tool Field Name           a button of the design, with an entry of its menu
+//     nav Next                  a button of the records
+//     press Ctrl+Tab 3          keys, three times; "type ann" for a text, "commit ann" of an input method
+//     fill f3 2x                in place of what stands in a box
+//     file books.fwk            for the next file dialogs, in the test's folder
+//     look LV                   its columns; or which picture it shows; with "66 480" behind it at that row
+//                               of its pixels: a dot is white and ! black
+//
+// Behind "..." stand changes that do not matter; screen.h says how they are told.
+class Session : public QObject {
+public:
     ScriptedPlatform platform;
     shell::Program app{platform};
     gui::MainFrmView window{app, platform};
+    std::function<void(QDialog&)> onDialog; // in place of acts; it is closed behind it
 
-    explicit Session(const QString& file = {}) {
+    // With a font of its own, so that rows are as high everywhere.
+    explicit Session(const QString& file = {}, int points = 9) {
+        QApplication::setFont(QFont(u"Liberation Sans"_s, points));
+        QApplication::setKeyboardInputInterval(60'000); // however slowly a row's beginning is typed
+        qApp->installEventFilter(this);
         window.load(shell::commandLineFor(gui::fromQt(file)));
         QVERIFY(QTest::qWaitForWindowExposed(&window));
     }
+    void play(const char* script) {
+        screen_.changes(window, top(), platform.told); // what stands there is known
+        lines_ = QString::fromUtf8(script).replace("\n "_L1, " "_L1).split(u'\n', Qt::SkipEmptyParts);
+        next();
+        go(nullptr);
+        QVERIFY(!isWrong_);
+    }
+    void act(QString acts) {
+        static const std::pair<QRegularExpression, QString> shorter[] = {
+            {QRegularExpression(u"\\btool "_s), u"click layoutToolbar."_s},
+            {QRegularExpression(u"\\bnav "_s), u"click layoutNavBar."_s},
+            {QRegularExpression(u"\\btab "_s), u"click qt_tabwidget_tabbar "_s},
+            {QRegularExpression(u"\\bfill (\\S+)"_s), u"click \\1; press Ctrl+A; press Del; type"_s},
+            {QRegularExpression(u"\\bf(\\d)"_s), u"layoutField\\1"_s}};
+        for (const auto& [form, whole] : shorter) acts.replace(form, whole);
+        for (const QString& each : acts.split(u';')) perform(each.simplified().split(u' '));
+    }
 
     template <typename Widget>
-    Widget* find(const char* name) {
-        auto* found = window.findChild<Widget*>(QLatin1String(name));
-        if (found == nullptr) qFatal("no %s", name);
+    Widget* find(const QString& name) {
+        auto* found = top().findChild<Widget*>(name);
+        if (found == nullptr) qFatal("no %s", qPrintable(name));
         return found;
     }
-    QAction* action(const char* key) { return find<QAction>(key); }
-    QString panel(int number) { return find<QLabel>(qPrintable(u"SB1_%1"_s.arg(number)))->text(); }
-    gui::RecordsView* list(const char* name = "LV") { return find<gui::RecordsView>(name); }
-    core::RecordsList& LV() { return app.document.LV; }
 
-    int section(const char* column, const char* listName = "LV") {
-        const QAbstractItemModel* model = list(listName)->model();
-        for (int s = 0; s < model->columnCount(); ++s)
-            if (model->headerData(s, Qt::Horizontal).toString() == QLatin1String(column)) return s;
-        qFatal("no column %s", column);
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const bool isDialog = event->type() == QEvent::WindowActivate && object->inherits("QDialog");
+        const bool isMenu = event->type() == QEvent::Show && object->inherits("QMenu");
+        if ((!isDialog && !isMenu) || object->property("isMet").toBool()) return false;
+        object->setProperty("isMet", true);
+        QTimer::singleShot(0, object, [this, form = static_cast<QWidget*>(object)] { meet(*form); });
+        return false;
     }
-    QString cell(int row, const char* column, const char* listName = "LV") {
-        return list(listName)->model()->index(row, section(column, listName)).data().toString();
+
+private:
+    QWidget& top() {
+        QWidget* dialog = QApplication::activeModalWidget();
+        return dialog != nullptr ? *dialog : window;
     }
-    // The columns as they are shown, "a|b", of each row.
-    QStringList texts(const char* listName = "LV") {
-        const gui::RecordsView* view = list(listName);
-        QStringList all;
-        for (int row = 0; row < view->model()->rowCount(); ++row) {
-            QStringList cells;
-            for (int place = 0; place < view->model()->columnCount(); ++place)
-                cells << view->model()->index(row, view->header()->logicalIndex(place)).data().toString();
-            all << cells.join(u'|');
+    void perform(const QStringList& words) {
+        const QString &verb = words[0], what = words.value(1), rest = words.mid(2).join(u' ');
+        if (QApplication::activeWindow() == nullptr) { // without a window manager nobody does it
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
         }
-        return all;
+        if (verb == "type"_L1) {
+            auto* list = qobject_cast<gui::RecordsView*>(withKeys());
+            if (list != nullptr) list->keyboardSearch({}); // begins anew
+            QTest::keyClicks(withKeys(), words.mid(1).join(u' '));
+        } else if (verb == "press"_L1) {
+            const QKeyCombination key = QKeySequence(what)[0];
+            for (int i = std::max(1, rest.toInt()); i > 0; --i)
+                QTest::keyClick(withKeys(), key.key(), key.keyboardModifiers());
+        } else if (verb == "commit"_L1) {
+            QInputMethodEvent event;
+            event.setCommitString(what);
+            QApplication::sendEvent(withKeys(), &event);
+        } else if (verb == "file"_L1) {
+            platform.chosenFile = gui::fromQt(qEnvironmentVariable("TEST_FOLDER") + what);
+        } else if (verb == "slide"_L1) {
+            find<QAbstractSlider>(what)->setValue(rest.toInt());
+        } else if (verb == "focus"_L1) {
+            find<QWidget>(what)->setFocus();
+        } else if (verb == "look"_L1) {
+            screen_.look(*find<QWidget>(what), words.mid(2));
+        } else if (auto* action = top().findChild<QAction*>(what); action != nullptr) {
+            const auto* button = action->associatedObjects().last();
+            if (rest.isEmpty()) return action->trigger();
+            for (QAction* each : qobject_cast<const QToolButton*>(button)->menu()->actions())
+                if (each->text() == rest || each->objectName() == rest) each->trigger();
+        } else {
+            mouse(verb.section(u'+', -1), words);
+        }
     }
-    void showTab(int tab) {
-        QTabBar* bar = find<QTabWidget>("SSTab1")->tabBar();
-        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+    static QWidget* withKeys() {
+        QWidget* menu = QApplication::activePopupWidget();
+        return menu != nullptr ? menu : QApplication::focusWidget();
     }
-    int rows(const char* listName = "LV") { return list(listName)->model()->rowCount(); }
+    void meet(QWidget& form) {
+        auto* dialog = qobject_cast<QDialog*>(&form);
+        onDialog&& dialog != nullptr ? onDialog(*dialog) : go(&form);
+        form.setProperty("isMet", false);
+        if (form.isVisible()) form.close();
+    }
+    // The acts, as long as the form is there. An act that opens it ends when it is closed.
+    void go(const QWidget* form) {
+        while ((form == nullptr || form->isVisible()) && (!acts_.empty() || !lines_.empty())) {
+            if (acts_.empty()) {
+                compare(lines_.takeFirst());
+                next();
+                continue;
+            }
+            act(acts_.takeFirst().simplified());
+            // A button that a shortcut presses is seen to go down first.
+            const auto buttons = top().findChildren<QAbstractButton*>();
+            QTRY_VERIFY(std::ranges::none_of(buttons, &QAbstractButton::isDown));
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+        }
+    }
+    void next() {
+        if (!lines_.empty()) acts_ = lines_.front().section(u"->"_s, 0, 0).split(u';');
+    }
+    void compare(const QString& line) {
+        const QString wanted = line.section(u"->"_s, 1).simplified();
+        const QString seen = screen_.changes(window, top(), platform.told);
+        if (seen == wanted || (wanted.endsWith("..."_L1) && (seen + u' ').startsWith(wanted.chopped(3))))
+            return;
+        qWarning().noquote() << line.simplified() + u"\n  but "_s + seen;
+        isWrong_ = true;
+    }
+    // A widget or what of it takes the mouse, and where.
+    std::pair<QWidget*, QPoint> placeOf(const QString& name, const QString& row) {
+        auto* widget = find<QWidget>(name.section(u'.', 0, 0));
+        const QString column = name.section(u'.', 1);
+        const auto* tree = qobject_cast<QTreeView*>(widget);
+        for (int i = 0; !column.isEmpty() && i < tree->header()->count(); ++i)
+            if (const QHeaderView* head = tree->header();
+                tree->model()->headerData(i, Qt::Horizontal) == column)
+                return {head->viewport(), {head->sectionViewportPosition(i) + head->sectionSize(i) / 2, 8}};
+        auto* list = qobject_cast<QAbstractItemView*>(widget);
+        if (list != nullptr && !row.isEmpty()) {
+            const QModelIndex first = list->model()->index(0, 0);
+            const QModelIndex index = row.startsWith(u'#') ? first.siblingAtRow(row.mid(1).toInt())
+                                                           : list->model()->match(first, 0, row).value(0);
+            list->scrollTo(index);
+            return {list->viewport(), list->visualRect(index).center()};
+        }
+        if (auto* bar = qobject_cast<QTabBar*>(widget)) return {bar, bar->tabRect(row.toInt()).center()};
+        auto* area = qobject_cast<QAbstractScrollArea*>(widget);
+        if (area != nullptr) widget = area->viewport();
+        return {widget, {8, std::min(8, widget->height() / 2)}};
+    }
+    void mouse(const QString& verb, QStringList words) {
+        static const QRegularExpression point(u"^-?\\d+,-?\\d+$"_s);
+        QList<QPoint> points;
+        while (point.match(words.last()).hasMatch()) {
+            const QString last = words.takeLast();
+            points.prepend({last.section(u',', 0, 0).toInt(), last.section(u',', 1).toInt()});
+        }
+        const auto [widget, middle] = placeOf(words.value(1), words.mid(2).join(u' '));
+        const QPoint at = points.value(0, middle), from = points.value(1, middle);
+        const QPoint start = widget->mapToGlobal(from);
+        const auto with = QKeySequence(words[0].section(u'+', 0, -2) + u"+A"_s)[0].keyboardModifiers();
+        if (verb == "wheel"_L1) {
+            QWheelEvent wheel(from, start, {}, at, {}, {}, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(widget, &wheel);
+        } else if (verb == "another"_L1) {
+            QTest::mouseDClick(widget, Qt::RightButton, {}, at);
+        } else if (verb == "drag"_L1 || verb == "hold"_L1) {
+            QTest::mousePress(widget, Qt::LeftButton, {}, from);
+            for (int step = 1; step <= 8; ++step) // the widget may move along under the pointer
+                QTest::mouseMove(widget, widget->mapFromGlobal(start + at * step / 8));
+            if (verb == "hold"_L1) return;
+            QTest::mouseRelease(widget, Qt::LeftButton, {}, widget->mapFromGlobal(start + at));
+        } else {
+            QTest::mouseClick(widget, verb == "menu"_L1 ? Qt::RightButton : Qt::LeftButton, with, at);
+            if (verb != "double"_L1) return;
+            QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
+            QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
+        }
+    }
 
-    QPoint headerPlace(int section, const char* listName = "LV") {
-        const QHeaderView* header = list(listName)->header();
-        return {header->sectionViewportPosition(section) + header->sectionSize(section) / 2, 8};
-    }
-    void clickHeader(const char* column, const char* listName = "LV") {
-        QTest::mouseClick(list(listName)->header()->viewport(), Qt::LeftButton, {},
-                          headerPlace(section(column, listName), listName));
-    }
-    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}, const char* listName = "LV") {
-        const QRect place = list(listName)->visualRect(list(listName)->model()->index(row, 0));
-        QTest::mouseClick(list(listName)->viewport(), Qt::LeftButton, modifiers, place.center());
-    }
-    void dragHeader(QPoint from, QPoint to) {
-        QWidget* header = list()->header()->viewport();
-        QTest::mousePress(header, Qt::LeftButton, {}, from);
-        for (int step = 1; step <= 8; ++step) QTest::mouseMove(header, from + (to - from) * step / 8);
-        QTest::mouseRelease(header, Qt::LeftButton, {}, to);
-    }
+    QStringList lines_, acts_; // those that are left; the acts are of the first line
+    Screen screen_{app};
+    bool isWrong_ = false;
 };
 
-// Folders of the test's own, for the user's and for copies of the samples.
-class Folders {
-public:
-    Folders() {
+// Tests with folders of their own, for the user's and for copies of the samples.
+class GuiTest : public QObject {
+    Q_OBJECT
+
+protected:
+    QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+    QString sample(const char* name) const {
+        QFile::remove(path(name));
+        QFile::copy(QStringLiteral(TEST_DATA_DIR "/") + QLatin1String(name), path(name));
+        return path(name);
+    }
+    // A database made in the test, with pictures 0.jpg and so on.
+    QString database(const char* name, const DataFile& file, const QByteArrayList& pictures = {}) const {
+        QFile::remove(path(name));
+        file::Zip zip;
+        zip.CreateArchive(gui::fromQt(path(name)));
+        zip.addBuffer("data.dat", file.text(), "Main Data File");
+        for (int i = 0; i < pictures.size(); ++i)
+            zip.addBuffer(std::to_string(i) + ".jpg", pictures[i].toStdString(), "");
+        zip.CloseArchive();
+        return path(name);
+    }
+
+private slots:
+    // Settings that hold nothing but that the disclaimer has been seen.
+    void init() {
         for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "HOME"})
             qputenv(variable, QFile::encodeName(path(variable)));
-    }
-    // Settings that hold nothing but that the disclaimer has been seen.
-    static void forgetSettings() {
+        qputenv("TEST_FOLDER", QFile::encodeName(path("") + u'/'));
         std::filesystem::remove(platform::SettingsFile::defaultFile());
         platform::SettingsFile settings;
         settings.SaveSetting("StartUp", "Disclaimer", "True");
         QVERIFY(settings.flush());
     }
-    QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
-    QString sample(const char* name) const {
-        QFile::remove(path(name));
-        QFile::copy(QStringLiteral(TEST_DATA_DIR "/") + QLatin1String(name), path(name));
-        QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner);
-        return path(name);
-    }
-    // A database made in the test.
-    QString database(const char* name, const DataFile& file) const {
-        QFile::remove(path(name));
-        file::Zip zip;
-        zip.CreateArchive(gui::fromQt(path(name)));
-        zip.addBuffer("data.dat", file.text(), "Main Data File");
-        zip.CloseArchive();
-        return path(name);
-    }
 
 private:
     QTemporaryDir folder_;
 };
-
-// The name of the recovery copy that the last message tells.
-inline QString copyTold(const Session& run) {
-    return run.platform.messages.back().text.section(u'\n', -1);
-}

@@ -1,4 +1,4 @@
-#include "journey.h"
+#include "session.h"
 
 #include "gui/dialogs/fontDialog.h"
 #include "gui/machine/mailProgram.h"
@@ -98,44 +98,21 @@ struct Complaints {
     }
 };
 
-void play(const char* acts) {
-    for (const QString& act : QString::fromLatin1(acts).split(u"; "_s))
-        Journey::act(*QApplication::activeModalWidget(), act);
-}
-
-// Does the act as soon as the modal dialog is there, and closes it.
-void whenShown(const std::function<void(QDialog&)>& act) {
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [=] {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || QApplication::activeWindow() != dialog) return;
-        timer->deleteLater();
-        act(*dialog);
-        if (dialog->isVisible()) dialog->close();
-    });
-    timer->start(10);
-}
-
 } // namespace
 
 // Every window to somebody without a mouse or without eyes, what the platform shows, and the program as it is
 // called.
-class Windows : public QObject {
+class Windows : public GuiTest {
     Q_OBJECT
-
-private:
-    Folders folders_;
 
 private slots:
     void initTestCase() { QApplication::setStyle(new gui::ProgramStyle); }
-    void init() { Folders::forgetSettings(); }
 
     // Also where the texts are so large that dialogs have to scroll.
     void everyDialog() {
         Complaints complaints;
-        const QFont font = QApplication::font();
         int shown = 0;
-        const auto look = [&](QDialog& dialog) {
+        const std::function<void(QDialog&)> look = [&](QDialog& dialog) {
             complaints.unnamed(dialog);
             complaints.misplaced(dialog);
             complaints.unreached(dialog);
@@ -147,24 +124,21 @@ private slots:
             dialog.close();
         };
         for (const char* file : {"books.fwk", "invoices.fwk"}) {
-            QApplication::setFont(QFont(font.family(), *file == 'b' ? 11 : font.pointSize()));
-            Session run(folders_.sample(file));
-            run.platform.anyForm = look;
+            Session run(sample(file), *file == 'b' ? 11 : 9);
+            run.onDialog = look;
             for (const char* form :
                  {"disclaimFrm", "databaseTypeFrm", "designFrm", "entryFrm", "formulateFrm", "TotalsFrm",
                   "mailFrm", "reportPageSetup", "layoutPageSetupFrm", "replaceFrm", "searchFrm", "serialFrm",
                   "repeatFrm"})
                 run.platform.showForm(form);
         }
+        Session run;
+        run.onDialog = look;
         gui::QtPlatform platform;
-        whenShown(look);
         platform.msgBox("Save?", platform::Icon::Question, "Title", platform::Buttons::YesNo);
-        whenShown(look);
         platform.inputBox("How many?", "Copies", "1");
-        whenShown(look);
         platform.showFont({"Arial", 8});
-        QTextStream(stderr) << complaints.all.join(u'\n');
-        QVERIFY(complaints.all.empty());
+        QCOMPARE(complaints.all.join(u'\n'), QString());
         QCOMPARE(shown, 29);
     }
 
@@ -172,14 +146,14 @@ private slots:
         Complaints complaints;
         const QPalette before = QApplication::palette();
         for (const char* file : {"books.fwk", "invoices.fwk", ""}) {
-            Session run(*file == 0 ? QString() : folders_.sample(file));
+            Session run(*file == 0 ? QString() : sample(file));
             for (const char* command : {"Totals", "Design"}) {
                 for (const int tab : {1, 2, 0}) {
-                    run.showTab(tab);
+                    run.act(u"tab %1"_s.arg(tab));
                     complaints.unnamed(run.window);
                 }
-                complaints.misplaced(*run.find<QTabWidget>("SSTab1")->currentWidget());
-                run.action(command)->trigger();
+                complaints.misplaced(*run.find<QTabWidget>(u"SSTab1"_s)->currentWidget());
+                run.act(u"click "_s + QLatin1String(command));
             }
             for (const QMenu* menu : run.window.menuBar()->findChildren<QMenu*>()) {
                 QStringList captions;
@@ -196,25 +170,24 @@ private slots:
                 QApplication::setPalette(before);
             }
         }
-        QTextStream(stderr) << complaints.all.join(u'\n');
-        QVERIFY(complaints.all.empty());
+        QCOMPARE(complaints.all.join(u'\n'), QString());
     }
 
     // A question that is waved away is not answered; the hourglass rests as long as it is asked.
     void questions() {
         using platform::MousePointer;
-        const std::pair<const char*, int> ways[] = {
-            {"press Space", 1}, {"press Tab; press Space", 2}, {"press Escape", 3}, {"press Tab", 3}};
-        for (const auto& [acts, wanted] : ways) { // Yes, No, and Cancel twice
-            gui::QtPlatform platform;
+        Session run;
+        gui::QtPlatform platform;
+        for (const char* way :
+             {"1 press Space", "2 press Tab; press Space", "3 press Escape", "3 press Tab"}) {
             for (int i = 0; i < 2; ++i) platform.setMousePointer(MousePointer::Hourglass);
-            whenShown([acts = acts](QDialog& box) {
+            run.onDialog = [&](QDialog& box) {
                 QVERIFY(QApplication::overrideCursor() == nullptr);
                 QCOMPARE(static_cast<QMessageBox&>(box).textFormat(), Qt::PlainText);
-                play(acts);
-            });
+                run.act(QString::fromLatin1(way + 2));
+            };
             const auto answer = platform.msgBox("?", platform::Icon::None, "", platform::Buttons::YesNo);
-            QCOMPARE(static_cast<int>(answer), wanted);
+            QVERIFY2(static_cast<int>(answer) == *way - '0', way); // Yes, No, and Cancel twice
             QVERIFY(QApplication::overrideCursor() != nullptr);
             platform.setMousePointer(MousePointer::Default);
             QVERIFY(QApplication::overrideCursor() == nullptr);
@@ -223,14 +196,15 @@ private slots:
 
     // A font that is not installed, and a size that is in no list, stay unless another is chosen.
     void fonts() {
+        Session run;
+        gui::QtPlatform platform;
         QString told;
         for (const char* acts :
              {"press Return", "press Tab 8; press Return", "press Escape", "type liberation se; press Return",
               "press Tab; type x; press Return; press Backspace; type 0; press Return; press Backspace; "
               "type 1601; press Return; press Shift+Home; type 9,75; press Tab 2; press Space; press Tab; "
               "press Space; press Tab; press Space; press Tab; press Space; press Return"}) {
-            gui::QtPlatform platform;
-            whenShown([acts](QDialog&) { play(acts); });
+            run.onDialog = [&](QDialog&) { run.act(QString::fromLatin1(acts)); };
             const auto font = platform.showFont({"MS Sans Serif", 8.25F, true, false, false, true, -5});
             if (!font) continue;
             told += QString::asprintf("%s %g %d%d%d%d %d|", font->FontName.c_str(), double(font->FontSize),
@@ -247,28 +221,31 @@ private slots:
     void files() {
         QCOMPARE(gui::nameFilters("Pictures (*.bmp;*.gif)|*.bmp;*.gif|All Files (*.*)|*.*").join(u'|'),
                  u"Pictures (*.bmp *.gif)|All Files (*)"_s);
-        folders_.sample("books.fwk");
-        QStringList chosen;
-        for (const char* name : {"books.fwk", "data", "data.", "data.FWK", "data.txt", ""}) {
-            whenShown([&](QDialog& dialog) {
-                // As typed: a selection would have to wait for the folder to be listed.
-                dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(folders_.path(name));
-                if (*name != 0) QMetaObject::invokeMethod(&dialog, "accept");
-            });
-            gui::QtPlatform platform;
-            const auto path = platform.showSave({"", "Untitled", std::string(platform::databaseFilter)});
-            chosen << QFileInfo(gui::toQt(path.value_or("none"))).fileName();
-        }
-        QCOMPARE(chosen.join(u' '), u"books.fwk data.fwk data.fwk data.FWK data.txt none"_s);
+        QString names;
+        for (const char* name : {"books", "data.", "data.FWK", "data.txt", ""})
+            names += gui::withSuffix(QLatin1String(name), platform::databaseFilter) + u' ';
+        QCOMPARE(names, u"books.fwk data.fwk data.FWK data.txt  "_s);
+        Session run;
+        run.onDialog = [&](QDialog& dialog) {
+            // As typed: a selection would have to wait for the folder to be listed.
+            dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(sample("books.fwk").chopped(4));
+            QMetaObject::invokeMethod(&dialog, "accept");
+            QVERIFY(dialog.width() > 650); // sizes and dates have room
+        };
+        const platform::FileDialog asked{"", "Untitled", std::string(platform::databaseFilter)};
+        QCOMPARE(gui::toQt(gui::QtPlatform().showSave(asked).value_or("none")), path("books.fwk"));
+        QCOMPARE(gui::toQt(gui::QtPlatform().showOpen(asked).value_or("none")), path("books.fwk"));
+        run.onDialog = [](QDialog&) {};
+        QVERIFY(!gui::QtPlatform().showSave(asked));
     }
 
     // A program in place of the system's writes down what it was given, and does the rest.
     void theMailProgram() {
-        const QByteArray path = qgetenv("PATH"), folder = QFile::encodeName(folders_.path(""));
-        qputenv("PATH", folder + ':' + path);
+        const QByteArray programs = qgetenv("PATH"), folder = QFile::encodeName(path(""));
+        qputenv("PATH", folder + ':' + programs);
         int failed = 0;
         const auto send = [&](const char* rest, const char* body) {
-            QFile script(folders_.path("xdg-email")), told(folders_.path("told"));
+            QFile script(path("xdg-email")), told(path("told"));
             told.remove();
             script.open(QFile::WriteOnly);
             script.write("#!/bin/sh\ncd ${0%/*}; printf '%s|' \"$@\" > part; mv part told; ");
@@ -287,26 +264,24 @@ private slots:
         send("exit 3", "");
         send("kill -9 $$", "");
         QTRY_COMPARE(failed, 2);
-        qputenv("PATH", path);
+        qputenv("PATH", programs);
     }
 
     void theProgramAsItIsCalled() {
-        folders_.sample("books.fwk");
+        sample("books.fwk");
         const auto codeOf = [&](const char* arguments) {
             QProcess program;
-            program.setWorkingDirectory(folders_.path(""));
+            program.setWorkingDirectory(path(""));
             program.start(QStringLiteral(FERROWICK_PROGRAM), QString::fromLatin1(arguments).split(u' '));
             return program.waitForFinished() ? program.exitCode() : -1;
         };
-        for (const char* fine :
-             {"--help", "--version", "--picture light --size=640x400 --scale=2 a/../books.fwk",
-              "--picture dark --size=640x400 --dark \"books.fwk\""})
-            QVERIFY2(codeOf(fine) == 0, fine);
-        for (const char* wrong : {"--nonsense", "a b", "--picture p --size=100x300 books.fwk",
-                                  "--picture p --size=300by300 books.fwk", "--picture p --scale=0 books.fwk"})
-            QVERIFY2(codeOf(wrong) == 2, wrong);
-        QVERIFY(codeOf("--picture p absent.fwk") == 1 && codeOf("--picture no/p books.fwk") == 1);
-        const QImage light(folders_.path("light")), dark(folders_.path("dark"));
+        for (const char* call :
+             {"0 --help", "0 --version", "0 --picture light --size=640x400 --scale=2 a/../books.fwk",
+              "0 --picture dark --size=640x400 --dark \"books.fwk\"", "2 --nonsense", "2 a b",
+              "2 --picture p --size=100x300 books.fwk", "2 --picture p --size=300by300 books.fwk",
+              "2 --picture p --scale=0 books.fwk", "1 --picture p absent.fwk", "1 --picture no/p books.fwk"})
+            QVERIFY2(codeOf(call + 2) == *call - '0', call);
+        const QImage light(path("light")), dark(path("dark"));
         QVERIFY(light.size() == QSize(1280, 800) && dark.size() == QSize(640, 400));
         QVERIFY(light.pixelColor(2, 796).lightness() > dark.pixelColor(1, 398).lightness() + 100);
         // The user's settings know nothing of it.

@@ -9,44 +9,38 @@ namespace {
 
 TEST_F(InvoiceTest, BothViews) {
     layoutWith(3);
-    app.document.totaledCols.add("Qty", "Qty");
-    app.document.totaledCols.add("Subtotal", "Subtotal");
+    program.total({"Qty", "Subtotal"});
     program.record({"1", "Ann", "a@@c@", "1@9@3@", "@@5@", "", "$4.00"});
     program.record({"2", "Bo", "x@@@q@", "2@@@", "", "", "$.50"});
-    invoice::BuildInvoicesView(app);
-    EXPECT_EQ(view(), "No|Customer|Subtotal|Tax|; i1: 1|Ann|$4.00||; i2: 2|Bo|$.50||; Totals: "
-                      "------|------|$4.50|------|");
+    invoice::BuildInvoicesView(app.document);
+    EXPECT_EQ(
+        view(),
+        "No|Customer|Subtotal|Tax|; i1: 1|Ann|$4.00||; i2: 2|Bo|$.50||; Totals: ------|------|$4.50|------|");
     // The first cell of several values decides which item rows there are: the second one has no item.
-    invoice::BuildItemsView(app);
-    EXPECT_EQ(view(),
-              "Customer|Item|Qty|Price|Line|; i1: Ann|a|1|||; i1: Ann|c|3|5||; i2: Bo|x|2|||; Totals: "
-              "------|------|6|------|------|");
+    invoice::BuildItemsView(app.document);
+    EXPECT_EQ(view(), "Customer|Item|Qty|Price|Line|; i1: Ann|a|1|||; i1: Ann|c|3|5||; i2: Bo|x|2|||; "
+                      "Totals: ------|------|6|------|------|");
     // A new invoice has no cell of several values, so nothing decides, and all rows appear.
     invoice::addInvoiceRecord(app);
     app.document.bInvoiceView = true;
-    invoice::rebuildView(app);
+    invoice::rebuildView(app.document);
     EXPECT_EQ(app.document.iLV.count(), 7);
     app.document.iLV.columns.setPosition(2, 4); // dragged, and kept
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     EXPECT_EQ(app.document.iLV.columns.at(2).Position, 4);
     // A view made anew follows the columns, and leaves them the widths that it was given.
     app.document.iLV.columns["Qty"].Width = 77;
     app.document.LV.columns["Qty"].setTypeFromFile("3");
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     EXPECT_EQ(app.document.iLV.columns["Qty"].Tag, "3");
     EXPECT_EQ(app.document.LV.columns["Qty"].Width, 77);
     app.document.LV.columns.remove(app.document.LV.columns["Line"].Index);
-    invoice::refreshRows(app);
+    invoice::refreshRows(app.document);
     EXPECT_EQ(app.document.iLV.columns.find("Line"), nullptr);
 }
 
 TEST_F(InvoiceTest, ViewsOfFewRecords) {
     layoutWith(2);
-    for (const bool items : {false, true}) {
-        app.document.bInvoiceView = items;
-        invoice::rebuildView(app);
-        EXPECT_TRUE(app.document.iLV.count() == 1 && app.document.iLV.at(1).Text == "Totals");
-    }
     std::string shown; // what the navigation tells behind each new record; the first shows no count
     for (int i = 0; i < 3; ++i) {
         invoice::addInvoiceRecord(app);
@@ -58,30 +52,30 @@ TEST_F(InvoiceTest, ViewsOfFewRecords) {
     // With one field left, a column is of the invoice, and its values show as they are stored.
     record({{"Qty", "1@2@"}});
     layoutWith(1);
-    invoice::BuildInvoicesView(app);
+    invoice::BuildInvoicesView(app.document);
     EXPECT_EQ(view(), "No|Customer|Item|Qty|Price|Line|Subtotal|Tax|; i4: |||1@2@|||||; Totals: "
                       "------|------|------|------|------|------|------|------|");
     layoutWith(2); // without a cell of several values in the first record there is no item row
     cell(app.document.LV.at(1), "Qty") = "7";
-    invoice::BuildItemsView(app);
+    invoice::BuildItemsView(app.document);
     EXPECT_EQ(app.document.iLV.count(), 1);
 }
 
 TEST_F(InvoiceTest, TheColumnsOfAViewKeepTheirPlaces) {
     layoutWith(2);
-    // Moved, each past others, beyond the table, more than there are columns.
-    for (const auto& c : table(" -> No|Customer|Subtotal|Tax|; 1 5 2 3 4 -> Customer|Subtotal|Tax|No|; "
-                               "1 4 5 3 2 -> Tax|Subtotal|No|Customer|; 1 99 -> Customer|Subtotal|Tax|No|; "
-                               "1 2 3 4 5 6 7 -> No|Customer|Subtotal|Tax|")) {
-        app.document.invoiceCols.clear();
-        std::istringstream positions(c[0]);
-        for (std::string position; positions >> position;) app.document.invoiceCols.add(position);
-        invoice::BuildInvoicesView(app);
+    // Of the invoices: moved, beyond the table, more than there are columns; then of the items.
+    for (const auto& c :
+         table("1 4 5 3 2 -> Tax|Subtotal|No|Customer|; 1 99 -> Customer|Subtotal|Tax|No|; 1 2 3 4 5 6 7 -> "
+               "No|Customer|Subtotal|Tax|; 1 6 2 3 4 5 -> Item|Qty|Price|Line|Customer|")) {
+        app.document.bInvoiceView = c[0].size() == 11;
+        for (auto* places : {&app.document.invoiceCols, &app.document.itemLevelCols}) {
+            places->clear();
+            std::istringstream positions(c[0]);
+            for (std::string each; positions >> each;) places->add(each);
+        }
+        invoice::rebuildView(app.document);
         EXPECT_EQ(view().substr(0, view().find(';')), c[1]) << c[0];
     }
-    for (const char* position : {"1", "6", "2", "3", "4", "5"}) app.document.itemLevelCols.add(position);
-    invoice::BuildItemsView(app);
-    EXPECT_EQ(view().substr(0, view().find(';')), "Item|Qty|Price|Line|Customer|");
 }
 
 TEST_F(InvoiceTest, RetrieveShowsAValueInEachRow) {
@@ -95,11 +89,11 @@ TEST_F(InvoiceTest, RetrieveShowsAValueInEachRow) {
     };
     core::LayoutField& lost = app.document.layout.layoutField.load(99);
     lost.Tag = lost.Text = "Gone";
-    for (const auto& c : table("a@b@c@ -> a|b|c|; a@@c@ -> a||c|; a@ -> a|||; single -> |||;  -> |||; "
-                               "a@b@c@d@ -> a|b|c|")) {
+    for (const auto& c :
+         table("a@b@c@ -> a|b|c|; a@@c@ -> a||c|; a@ -> a|||; single -> |||;  -> |||; a@b@c@d@ -> a|b|c|")) {
         core::Item& item = record({{"Item", c[0].c_str()}, {"No", " 7 "}, {"Customer", " Ann "}});
         app.document.LV.setSelectedItem(&item);
-        invoice::retrieveInvoiceRecord(app);
+        invoice::retrieveInvoiceRecord(app.document);
         EXPECT_EQ(fields("Item") + fields("No") + fields("Customer") + fields("Gone"), c[1] + "7| Ann ||")
             << c[0];
     }
@@ -111,18 +105,18 @@ TEST_F(InvoiceTest, ItemRowsArePlacedInAGrid) {
     std::ostringstream places;
     app.document.layout.layoutField.forEach([&](const core::LayoutField& field) {
         places << field.Index << field.Tag << " " << field.Left << "," << field.Top
-               << (field.Enabled ? "" : " off") << (field.align == core::Alignment::Right ? " right" : "")
-               << "; ";
+               << (field.Enabled ? "" : " off")
+               << (field.align == core::Alignment::Right ? " right; " : "; ");
     });
     EXPECT_EQ(places.str(),
               "1Qty 250,350 right; 2Customer 1525,350; 3Qty 250,635 off right; 4Customer 1525,635 off; ");
-    // Made anew they take the place of the old ones.
+    // Made anew they take the place of the old ones; the selected one is not the one that has its number now.
     layout::layoutPage(app).selectedObject = {core::Family::layoutField, 1};
     invoice::repeatItemRows(app, 1, {"Qty"});
-    EXPECT_FALSE(layout::layoutPage(app).selectedObject.isObject()) << "not the one that has its number now";
-    EXPECT_EQ(app.document.layout.layoutField.count(), 3);
-    EXPECT_FALSE(calc::ItemColumns(app.document).contains("Qty"));
-    EXPECT_TRUE(calc::ItemColumns(app.document).contains("Customer"));
+    EXPECT_FALSE(layout::layoutPage(app).selectedObject.isObject());
+    const calc::ItemColumns items(app.document);
+    EXPECT_TRUE(app.document.layout.layoutField.count() == 3 && !items.contains("Qty") &&
+                items.contains("Customer"));
     // A column chosen twice has two fields in a row.
     invoice::repeatItemRows(app, 1, {"Qty", "Qty"});
     EXPECT_TRUE(calc::ItemColumns(app.document).contains("Qty"));

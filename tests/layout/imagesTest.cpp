@@ -32,15 +32,14 @@ struct Images : Sheet {
 // By the height, which leaves two twips; when that is too wide, by the width, which leaves one.
 TEST_F(Images, AreFittedToTheTwip) {
     const core::ImgHolder holder = objects.imgHolder.templateElement(); // 1815 x 1575
-    for (const auto& c :
-         table("100 100 -> 858 738 100 100; 1814 1574 -> 1 1 1814 1574; 100 1575 -> 858 1 100 1573 s; 3000 "
-               "3000 -> 121 1 1573 1573 s; 30000 1500 -> 1 742 1814 91 s; 1815 100 -> 1 738 1814 100 s")) {
+    for (const auto& c : table("1814 1574 -> 1 1 1814 1574; 100 1575 -> 858 1 100 1573 s; 30000 1500 -> 1 "
+                               "742 1814 91 s; 1815 100 -> 1 738 1814 100 s")) {
         drawing::Extent natural;
         std::istringstream(c[0]) >> natural.Width >> natural.Height;
         core::FittedImage image;
         layout::fitImage(app, holder, image, platform.pictureFile("any.jpg", natural));
-        const auto whole = [](float value) { return std::round(value); };
-        EXPECT_EQ(texts({whole(image.Left), whole(image.Top), whole(image.Width), whole(image.Height)}) +
+        EXPECT_EQ(texts({std::round(image.Left), std::round(image.Top), std::round(image.Width),
+                         std::round(image.Height)}) +
                       (image.Stretch ? " s" : ""),
                   c[1]);
     }
@@ -58,10 +57,7 @@ TEST_F(Images, OfTheRecordThatIsShown) {
         std::filesystem::remove(app.document.currentFile);
     }
     EXPECT_EQ(told(), "");
-}
-
-// One byte of each image's contents is another one: the checksum tells.
-TEST_F(Images, DamagedOnesLeaveTheirHolderEmpty) {
+    // One byte of each image's contents is another one: the checksum tells, and the holder stays empty.
     platform.pictures["art.gif"] = {1500, 1500};
     openImages();
     EXPECT_EQ(shown(), "bolt.jpg/bolt.jpg /- art.gif/art.gif ");
@@ -76,11 +72,10 @@ TEST_F(Images, DamagedOnesLeaveTheirHolderEmpty) {
 }
 
 TEST_F(Images, AreChosenForARecordOrAsClipArt) {
-    for (const char* name : {"photo.jpeg", "photo.png", "photo.JPG", "photo.gif"})
+    for (const char* name : {"photo.png", "photo.JPG", "photo.gif"})
         platform.pictureFile(name, {1500, 1500}, name);
     for (const char* name : {"text.jpg", "vast.GIF"})
         ScriptedPlatform::write(platform.folder / name, "no picture");
-    std::filesystem::create_directory(platform.folder / "folder.jpg");
     platform.tooLarge = "vast.GIF";
     for (const bool designing : {false, true}) {
         openImages(designing);
@@ -88,10 +83,8 @@ TEST_F(Images, AreChosenForARecordOrAsClipArt) {
         dialogs();
         choose(designing ? "imgHolder,2" : "clipPic,1", "photo.JPG");
         EXPECT_EQ(dialogs(), ""); // that is the other mode's
-        for (const auto& c :
-             table("photo.jpeg -> other; photo.png -> other;  -> other; text.jpg -> cannot be read.; "
-                   "none.jpg -> cannot be read: No such file or directory.; folder.jpg -> cannot be read: Is "
-                   "a directory.; vast.GIF -> is too large."))
+        for (const auto& c : table("photo.png -> other;  -> other; text.jpg -> cannot be read.; none.jpg -> "
+                                   "cannot be read: No such file or directory.; vast.GIF -> is too large."))
             EXPECT_EQ(choose(name, c[0]),
                       c[1] == "other" ? "i You selected a file other than a GIF or JPEG.  Please try again."
                                       : "! The picture " + c[0] + " " + c[1]);
@@ -126,16 +119,11 @@ TEST_F(Images, TheClipboardFillsThePictureThatIsSelected) {
         layout::mnuImportImage_Click(app);
     }
     EXPECT_EQ(shown(), "bolt.jpg/bolt.jpg cbHolder/clipboard-2.bmp art.gif/- ");
-    EXPECT_EQ(objects.imgHolder[2].viewImage.Width, 1814);
     after("design clipPic,1 select");
     layout::mnuImportImage_Click(app);
     const std::string name = objects.clipPic[1].Tag;
-    EXPECT_EQ(shown(), "bolt.jpg/- cbHolder/- " + name + "/" + name + " ");
-    EXPECT_EQ(entry(name), "quality 75 of bitmap"); // at once
-    file::Zip Zip;
-    Zip.OpenArchive(app.document.currentFile);
-    EXPECT_EQ(Zip.FileCount(), 4); // the other one waits
-    EXPECT_EQ(told(), "");
+    EXPECT_EQ(shown(), "bolt.jpg/- cbHolder/- " + name + "/" + name + " "); // the other one waits
+    EXPECT_EQ(entry(name) + told(), "quality 75 of bitmap");                // at once
 }
 
 } // namespace

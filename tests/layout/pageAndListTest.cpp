@@ -22,7 +22,7 @@ TEST_F(Sheet, FollowsTheListAndKeepsWhatWasNotChosen) {
               "! The picture in the clipboard cannot be read.bolt.jpg");
 
     const auto find = [&](auto qty) { search::findRecords(app, {{{"Qty", search::exact, qty, ""}}}); };
-    search::takeOverColumns(app);
+    search::takeOverColumns(app.document);
     shell::SSTab1_Click(app, app::reportTab);
     find("99");
     shell::SSTab1_Click(app, app::layoutTab);

@@ -86,12 +86,22 @@ struct Sheet : testing::Test, SearchProgram {
         layout::object_MouseDown(app, it, button, border ? 20 : 50, border ? 10 : 40, X, Y);
     }
     core::LayoutObject& object() { return *core::findObject(objects, it); }
-    // The object's place and size, the grip's place, and the rulers: "1000 1000 1800 900, grip 2800 1900
-    // locked, rulers 1000 1000"; without what is hidden.
+    // The object's place and size, the grip, and the rulers: "1000 1000 1800 900, grip locked, rulers". Their
+    // places follow where they are not those of the object's lower right and upper left corner.
     std::string state() {
-        const std::string grip = ", grip " + texts({page.Handle.Left, page.Handle.Top});
-        return place() + (page.Handle.Visible ? grip + (page.Handle.bLocked ? " locked" : "") : "") +
-               (page.ruler1.line ? ", rulers " + texts({*page.ruler1.line, *page.ruler2.line}) : "");
+        const core::LayoutObject none, *at = core::findObject(objects, it);
+        if (at == nullptr) at = &none;
+        const auto beside = [](const char* what, float x, float y, float usualX, float usualY) {
+            return std::string(what) + (x == usualX && y == usualY ? "" : " " + texts({x, y}));
+        };
+        std::string all = place();
+        if (page.Handle.Visible)
+            all += beside(", grip", page.Handle.Left, page.Handle.Top, at->Left + at->Width,
+                          at->Top + at->Height) +
+                   (page.Handle.bLocked ? " locked" : "");
+        if (page.ruler1.line)
+            all += beside(", rulers", *page.ruler1.line, *page.ruler2.line, at->Left, at->Top);
+        return all;
     }
     std::string place() {
         const core::LayoutObject* at = core::findObject(objects, it);

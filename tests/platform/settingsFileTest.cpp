@@ -17,16 +17,16 @@ TEST_F(SettingsFileTest, AnyTextComesBack) {
     file = folder / "made" / "now" / "ferrowick.conf";
     SettingsFile settings(file);
     const std::string all =
-        "zero\0byte|| |  both ends\t|a=b=c|[x]|# no comment|;|two\nlines\r\n|C:\\new\\temp\\|\\|\\ | \\n|\"quoted\"|\xFF not UTF-8|\xC3\xBC\xF0\x9F\x98\x80"s;
-    for (const std::string_view text : core::split(all, '|'))
+        "zero\0byte|| |  both ends\t|a=b=c|[x]|# no comment|;|two\nlines\r\n|C:\\new\\temp\\|\\|"
+        "\\ | \\n|\"quoted\"|\xFF not UTF-8|\xC3\xBC\xF0\x9F\x98\x80"s;
+    const std::vector<std::string_view> texts = core::split(all, '|');
+    for (const auto text : texts)
         settings.SaveSetting("in " + std::string(text), "of " + std::string(text), text);
     ASSERT_TRUE(settings.flush());
-    const SettingsFile again(file);
-    for (const std::string_view text : core::split(all, '|'))
-        for (const SettingsFile* each : {&std::as_const(settings), &again})
-            EXPECT_EQ(each->GetSetting("in " + std::string(text), "of " + std::string(text), "default"),
-                      text);
-    EXPECT_EQ(again.GetSetting("in a=b=c", "absent", "default"), "default");
+    for (const SettingsFile& each : {std::as_const(settings), SettingsFile(file)})
+        for (const auto text : texts)
+            EXPECT_EQ(each.GetSetting("in " + std::string(text), "of " + std::string(text), "none"), text);
+    EXPECT_EQ(settings.GetSetting("in a=b=c", "absent", "default"), "default");
 }
 
 TEST_F(SettingsFileTest, KeepsWhatItDoesNotKnow) {
@@ -44,10 +44,10 @@ TEST_F(SettingsFileTest, KeepsWhatItDoesNotKnow) {
                                "[Other]\n;y=0\nx=1\n[New]\ny=2\n");
 }
 
-TEST_F(SettingsFileTest, ADamagedFileMeansDefaults) {
-    const std::string most(1 << 20, 'x'), head = "[StartUp]\nFile1=x\n";
+TEST_F(SettingsFileTest, ADamagedFileMeansDefaultsAndOneThatCannotBeWrittenStays) {
+    const std::string head = "[StartUp]\nFile1=x\n", most(1 << 20, 'x');
     const std::string texts[] = {head + most.substr(head.size()), head + most.substr(head.size() - 1),
-                                 head + "\0"s, "File1=x\n=x\n[StartUp\n]\n[Start", "\xFF\xFE\n"};
+                                 head + "\0"s, "File1=x\n=x\n[StartUp\n]\n[Start"};
     for (const std::string& text : texts) {
         writeBytes(file, text);
         SettingsFile settings(file);
@@ -56,10 +56,7 @@ TEST_F(SettingsFileTest, ADamagedFileMeansDefaults) {
         EXPECT_TRUE(settings.flush());
         EXPECT_EQ(SettingsFile(file).GetSetting("StartUp", "File1", "default"), "");
     }
-}
-
-TEST_F(SettingsFileTest, SaysWhenItCannotWrite) {
-    writeBytes(file, "[StartUp]\nFile1=old\n");
+    writeBytes(file, head);
     ::chmod(file.c_str(), 0444);
     for (const fs::path& impossible : {file, file / "x.conf", fs::path(), folder}) {
         SettingsFile settings(impossible);
@@ -68,7 +65,7 @@ TEST_F(SettingsFileTest, SaysWhenItCannotWrite) {
         EXPECT_FALSE(settings.flush()) << impossible;
         EXPECT_EQ(settings.GetSetting("StartUp", "File1"), "new") << "for this run";
     }
-    EXPECT_EQ(readBytes(file) + tree(), "[StartUp]\nFile1=old\nconfig/ config/ferrowick.conf ");
+    EXPECT_EQ(readBytes(file) + tree(), head + "config/ config/ferrowick.conf ");
 }
 
 } // namespace

@@ -41,7 +41,7 @@ TEST_F(WorkFolderTest, ClearingFollowsNoLink) {
     fs::create_directories(base);
     fs::create_directory(folder / "mine");
     writeBytes(folder / "mine" / "precious", "mine");
-    fs::create_symlink(folder / "mine", base / "Temp"); // Temp itself a link
+    fs::create_symlink(folder / "mine", base / "Temp");
     WorkFolder work(base);
     for (const char* name : {"Temp/x.jpg", "Temp/.hidden", "data.dat"}) writeBytes(base / name, "x");
     fs::create_symlink(folder / "mine" / "precious", work.temp() / "link.jpg");
@@ -65,7 +65,6 @@ TEST_F(WorkFolderTest, FallsBackToAPrivateFolder) {
         EXPECT_EQ(work.path().parent_path(), folder) << unusable;
         writeBytes(work.temp() / "x.jpg", "x");
     }
-    EXPECT_EQ(tree(), "file ");
     WorkFolder scratch = WorkFolder::scratch();
     scratch.clearTemp();
     scratch.removeDataFile();
@@ -74,17 +73,12 @@ TEST_F(WorkFolderTest, FallsBackToAPrivateFolder) {
 }
 
 TEST(UserFolders, FollowTheDesktopStandard) {
-    const std::string home = std::getenv("HOME") ? std::getenv("HOME") : "/";
-    for (const auto& c :
-         table("/xdg -> /ann -> /xdg/ferrowick; relative -> /ann -> /ann/.local/share/ferrowick;  -> /ann -> "
-               "/ann/.local/share/ferrowick;  -> ann -> ",
-               3)) {
+    for (const auto& c : table(
+             "/xdg -> /ann -> /xdg/ferrowick; xdg -> /ann -> /ann/.local/share/ferrowick;  -> ann -> ", 3)) {
         ::setenv("XDG_DATA_HOME", c[0].c_str(), 1);
         ::setenv("HOME", c[1].c_str(), 1);
         EXPECT_EQ(WorkFolder::defaultDataFolder(), c[2]);
     }
-    ::unsetenv("XDG_DATA_HOME");
-    ::setenv("HOME", home.c_str(), 1);
 }
 
 } // namespace

@@ -1,13 +1,11 @@
 #include "file/dataWriter.h"
 #include "layout/layoutPage.h"
 #include "print/layoutPageSetupFrm.h"
-#include "print/previewPage.h"
 #include "print/reportPageSetup.h"
+#include "print/reportPrinting.h"
 #include "printRecorder.h"
 #include "raised.h"
 #include "shell/mainWindow.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -23,32 +21,29 @@ struct PageSetup : testing::Test, PrintProgram {
 TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     open(DataFile().section("Printed Cols", "Price|").section("Report Data", "1|0.5|0.25|2|1|2|Old|True|"));
     run("mnuPageSetup");
-    EXPECT_EQ(platform.forms.back(), "reportPageSetup");
     app.document.LV.columns.setPosition(4, 2); // Price in front
     print::reportPageSetup form(app);
     form.Command1_Click();
     EXPECT_TRUE(form.unloaded && app.document.bModified);
-    EXPECT_EQ(section("[Report Data") + section("[Printed Cols"), "1|0.5|0.25|2|1|2|Old|True|Price|")
-        << "unchanged";
+    EXPECT_EQ(section("[Report Data") + section("[Printed Cols"), "1|0.5|0.25|2|1|2|Old|True|Price|");
     EXPECT_FALSE(form.allChk());
     form.allChk_Click(true);
     EXPECT_TRUE(form.allChk());
     form.allChk_Click(false);
     form.LV3.at(0).Checked = form.LV3.at(1).Checked = true;
     EXPECT_FALSE(form.LV3.at(2).Checked || form.allChk());
-    form.unloaded = false;
+    form.unloaded = form.boldYesOpt = form.letterOpt = false;
     form.PortraitOpt = true;
-    form.boldYesOpt = form.letterOpt = false;
     form.titleTxt = "  New ";
     form.leftTxt = "1.5in";
-    form.rightTxt = "wide";
+    form.rightTxt = "wide"; // reads as 0
     form.TopTxt = "0.25";
     print::previewPage(app).iReportStartRow = 9;
     form.ApplyBtn_Click();
-    EXPECT_EQ(section("[Report Data"), "1.5|0|0.25|2|5|1|New|False|") << "a text reads as 0";
-    EXPECT_EQ(section("[Printed Cols") + section("[PrnInvoiceCols"), "Price|Name|");
-    EXPECT_NE(textsOf(preview()).find("; Price@3350,360;"), std::string::npos)
-        << "the preview behind it follows";
+    EXPECT_EQ(section("[Report Data") + section("[Printed Cols") + section("[PrnInvoiceCols"),
+              "1.5|0|0.25|2|5|1|New|False|Price|Name|");
+    EXPECT_EQ(wordsOf(preview()), "New Price Name $1.50 Bolt $.25 Nut ------ ------");
+    EXPECT_NE(drawnOn(preview()).find("; Price@3350,360"), std::string::npos) << drawnOn(preview());
     EXPECT_FALSE(form.unloaded);
     form.Command2_Click(); // takes nothing back
     EXPECT_TRUE(form.unloaded && app.document.reportData.reportTitle == "New");
@@ -57,20 +52,25 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     for (const std::size_t view : {0U, 1U}) {
         app.document.bInvoiceView = view == 1;
         print::reportPageSetup invoices(app);
-        for (auto& row : invoices.LV3) row.Checked = false;
+        EXPECT_EQ(std::ssize(invoices.LV3), app.document.iLV.columns.count() - 1);
+        invoices.allChk_Click(false);
         invoices.LV3.at(view).Checked = true;
         invoices.ApplyBtn_Click();
-        EXPECT_EQ(section(view == 1 ? "[PrnItemCols" : "[PrnInvoiceCols"), invoices.LV3[view].Text + "|");
-        EXPECT_EQ(section("[Printed Cols"), invoices.LV3[view].Text + "|");
+        for (const char* name : {view == 1 ? "[PrnItemCols" : "[PrnInvoiceCols", "[Printed Cols"})
+            EXPECT_EQ(section(name), invoices.LV3[view].Text + "|");
+        const std::string words = wordsOf(preview());
+        shell::SSTab1_Click(app, app::previewTab);
+        EXPECT_EQ(wordsOf(preview()), words) << "the invoices";
     }
+    app.document.searchLV.Visible = true;
+    EXPECT_EQ(&print::reportList(app), app.mainFrm.theListView);
     EXPECT_NE(section("[PrnItemCols"), section("[PrnInvoiceCols"));
 }
 
 TEST_F(PageSetup, LayoutSettingsGoIntoTheFormAndBack) {
-    openRecords(1, "F|Name|1440|1440|2000|1000");
+    openRecords(2, "F|Name|1440|1440|2000|1000");
     shell::SSTab1_Click(app, app::layoutTab);
     run("PageSetup");
-    EXPECT_EQ(platform.forms.back(), "layoutPageSetupFrm");
     const std::string before = section("[Layout Options");
     print::layoutPageSetupFrm form(app);
     form.OKButton_Click();
@@ -97,24 +97,20 @@ TEST_F(PageSetup, LayoutSettingsGoIntoTheFormAndBack) {
     EXPECT_FALSE(form.unloaded || app.document.bModified);
     form.spacingTxt = "0.5";
     form.OKButton_Click();
-    EXPECT_EQ(section("[Layout Options") + told(), "7|5|2|1|0|0.75|256|2|0.5|");
+    EXPECT_EQ(section("[Layout Options") + told() + wordsOf(preview()), "7|5|2|1|0|0.75|256|2|0.5|r1");
     EXPECT_TRUE(form.unloaded && app.document.bModified);
     EXPECT_EQ(layout::layoutPage(app).layoutPic2.Width, 7 * 1440) << "the sheet follows";
     EXPECT_EQ(print::previewPage(app).rptPreview1.Width, 7 * 1440) << "and the preview";
-    EXPECT_EQ(wordsOf(preview()), "r1");
-}
 
-TEST_F(PageSetup, ListsOfPapers) {
-    openRecords(3, "F|Name|1440|1440|2000|1000");
-    run("Multiple_Layout_Preview_All");
+    run("Multiple_Layout_Preview_All"); // the form is that of the layouts that are on show
     run("PageSetup");
-    EXPECT_EQ(platform.forms.back(), "layoutPageSetupFrm") << "of the layouts that are on show";
+    EXPECT_EQ(platform.forms, (std::vector<std::string>{"layoutPageSetupFrm", "layoutPageSetupFrm"}));
     app.document.layoutOptions.layoutPaperSize = 5; // the printer has no such paper
-    print::layoutPageSetupFrm form(app);
-    EXPECT_FALSE(form.paperList.SelectedItem.has_value());
-    form.OKButton_Click();
+    print::layoutPageSetupFrm many(app);
+    EXPECT_FALSE(many.paperList.SelectedItem.has_value());
+    many.OKButton_Click();
     EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 9) << "the first of the list";
-    EXPECT_EQ(wordsOf(preview()), "r1 r2 r3");
+    EXPECT_EQ(wordsOf(preview()), "r1 r2");
     platform.paperNames = {{"A4", 9}, {"A4", 70}};
     EXPECT_NE(raisedBy([&] { print::layoutPageSetupFrm twice(app); }), 0);
 }

@@ -26,17 +26,16 @@ TEST(Engine, NumbersInNumericColumns) {
         check(type, "5;5.00;5.001;5.01;1,234;$1,234.50;-3;;12.5;$5",
               "= 5 -> i1 i2 i3; = 5.004 -> i1 i2 i3; = 5.005 -> i4; = 1 -> i5; = $1,234.5 -> i6; = 0 -> i8 "
               "i10; =   12.5  -> i9; >= abc -> i1 i2 i3 i4 i5 i6 i8 i9 i10; >= 12.5 -> i6 i9; <= 0 -> i7 i8 "
-              "i10; "
-              ".. 5 to 12.5 -> i1 i2 i3 i4 i9; .. 1 -> -; .. -3 to   -> i7 i8 i10; "
-              "~ 12.50 -> i9; ~ 5.0 -> i1 i2 i3 i4 i6 i9 i10; ~ 1,234 -> -");
+              "i10; .. 5 to 12.5 -> i1 i2 i3 i4 i9; .. 1 -> -; .. -3 to   -> i7 i8 i10; ~ 12.50 -> i9; ~ 5.0 "
+              "-> i1 i2 i3 i4 i6 i9 i10; ~ 1,234 -> -");
 }
 
 TEST(Engine, TextsInAllOtherColumns) {
     // The bounds of a range are in upper case, the cells not.
     for (const char* type : {"1", "3", "7"})
         check(type, "abc; ABC ;Janet;BANANA;;été;Abd;lap dog",
-              "=  aBc  -> i1 i2; ~ an -> i3 i4; ~ P D -> i8; = ÉTÉ -> i6; >= abd -> i3 i4 i6 i7 i8; "
-              "<= abc -> i1 i2 i5; .. banana to BANANA -> i4; .. a -> -");
+              "=  aBc  -> i1 i2; ~ an -> i3 i4; ~ P D -> i8; = ÉTÉ -> i6; >= abd -> i3 i4 i6 i7 i8; <= abc "
+              "-> i1 i2 i5; .. banana to BANANA -> i4; .. a -> -");
     check("3", "abc; ABC ;Abd;b", ".. a to b -> i3");
 }
 
@@ -45,12 +44,12 @@ TEST(Engine, DatesWhereverACellReadsLikeOne) {
     for (const char* type : {"1", "3", "7"}) {
         // Within is in upper case, and the cell is not.
         check(type, cells,
-              "= 1/5/2004 -> i1 i2 i6 i7; = jan 5, 2004 -> i1 i2 i6 i7; >= 01/06/2004 -> i3; "
-              "<= 1/1/2004 -> i4 i5; .. 1/1/2004 to 1/5/2004 -> i1 i2 i6 i7; ~ JAN -> -; ~ /2004 -> i1 i7");
+              "= 1/5/2004 -> i1 i2 i6 i7; = jan 5, 2004 -> i1 i2 i6 i7; >= 01/06/2004 -> i3; <= 1/1/2004 -> "
+              "i4 i5; .. 1/1/2004 to 1/5/2004 -> i1 i2 i6 i7; ~ JAN -> -; ~ /2004 -> i1 i7");
         // A bound that is no date ends the search at the first cell that is one.
         check(type, "abc;1/5/2004;xyz",
-              ">= abc -> error; <= abc -> error; = 12 -> error; ~ abc -> i1; .. 1/1/2004 -> error; "
-              ".. 1/1/2030 to abc -> error; .. 1/1/2004 to 1/1/2005 -> i2");
+              ">= abc -> error; <= abc -> error; = 12 -> error; ~ abc -> i1; .. 1/1/2004 -> error; .. "
+              "1/1/2030 to abc -> error; .. 1/1/2004 to 1/1/2005 -> i2");
         check(type, "abc;xyz", ">= x -> i2");
     }
     check("4", cells, "= 1/5/2004 -> i1 i7"); // a numeric column never compares days
@@ -61,30 +60,28 @@ TEST(Engine, DatesWhereverACellReadsLikeOne) {
 TEST(Engine, FindsWhatALoopFinds) {
     std::mt19937 random(5);
     const auto word = [&] { return std::string(1 + random() % 3, static_cast<char>('a' + random() % 4)); };
+    const auto number = [&] { return static_cast<int>(random() % 40) - 9; };
     std::vector<std::pair<std::string, int>> rows;
     std::string records;
     for (int i = 0; i < 200; ++i) {
-        rows.emplace_back(word(), static_cast<int>(random() % 40) - 9);
+        rows.emplace_back(word(), number());
         records += rows.back().first + "|" + std::to_string(rows.back().second) + ";";
     }
     SearchProgram program(DataFile("Name Qty:4", records));
-    const auto holds = [](const std::string& option, const auto& cell, const auto& value) {
-        return option == ">=" ? cell >= value : option == "<=" ? cell <= value : cell == value;
-    };
     for (int round = 0; round < 60; ++round) {
         std::vector<bool> wanted(rows.size(), true);
         std::string groups, keys;
         const std::size_t count = 1 + random() % 3, blank = random() % 5;
         for (std::size_t group = 0; group < count; ++group) {
             const std::string name = word(), option = std::array{">=", "<=", "="}[random() % 3];
-            const int qty = static_cast<int>(random() % 40) - 9;
+            const int qty = number();
             const bool byName = random() % 2 == 0;
-            const std::string value = byName ? core::upper(name) : std::to_string(qty);
             groups += (group > 0 ? " & " : "") + std::string(byName ? "Name " : "Qty ") + option + " ";
-            groups += group == blank ? " " : value;
-            for (std::size_t i = 0; i < rows.size() && group < blank; ++i)
-                if (!(byName ? holds(option, rows[i].first, name) : holds(option, rows[i].second, qty)))
-                    wanted[i] = false;
+            groups += group == blank ? " " : byName ? core::upper(name) : std::to_string(qty);
+            for (std::size_t i = 0; i < rows.size() && group < blank; ++i) {
+                const auto order = byName ? rows[i].first <=> name : rows[i].second <=> qty;
+                if (option == ">=" ? order < 0 : option == "<=" ? order > 0 : order != 0) wanted[i] = false;
+            }
         }
         for (std::size_t i = 0; i < rows.size(); ++i)
             if (wanted[i] && blank > 0) keys += (keys.empty() ? "i" : " i") + std::to_string(i + 1);

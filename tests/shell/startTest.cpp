@@ -1,16 +1,16 @@
 #include "calc/recalculation.h"
-#include "core/text.h"
 #include "databases.h"
 #include "shell/mainWindow.h"
 #include "shell/samples.h"
 #include "storage/saveFile.h"
 #include "table.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace {
 
-namespace fs = std::filesystem;
 using platform::Answer;
 
 // Remembers the order of what it is asked too, equal things as one: "read form read ".
@@ -40,7 +40,7 @@ struct Start : testing::Test, ProgramOn<LoggingPlatform> {
 
 TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
     load(app);
-    EXPECT_EQ(platform.log, "read disclaimFrm show read ");
+    EXPECT_EQ(std::exchange(platform.log, ""), "read disclaimFrm show read ");
     std::string panels, settings;
     for (const std::string& panel : app.mainFrm.panels) panels += panel + "|";
     EXPECT_EQ(panels + app.mainFrm.Caption,
@@ -51,29 +51,24 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
     EXPECT_EQ(settings,
               "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= HighlightCalc=False "
               "LayoutDBLClick=False SavePrompt=True SnapToGrid=True defaultFile= ");
-    platform.log.clear();
-    load(app);
-    EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
-}
-
-TEST_F(Start, SettingsAreKept) {
-    for (const std::string value : {"True", "False"}) {
-        platform.settings = {{"File1", "1"}, {"File2", "2"}, {"File3", "3"}, {"defaultFile", ""}};
-        for (const char* key : {"AutoLoad", "ConfirmDelete", "Disclaimer", "HighlightCalc", "LayoutDBLClick",
-                                "SavePrompt", "SnapToGrid"})
-            platform.settings[key] = key[0] == 'D' ? "True" : value;
+    for (const std::string toggle : {"True", "False"}) {
+        for (auto& [key, value] : platform.settings)
+            value = value.size() < 4 ? key.substr(0, 5) : key == "Disclaimer" ? "True" : toggle;
+        platform.settings["defaultFile"].clear();
         const auto before = platform.settings;
+        platform.log.clear();
         load(app);
+        EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
         const auto isPressed = [](const auto& control) { return control.second.Value; };
-        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), value == "True" ? 6 : 0);
+        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 6 : 0);
         shell::Form_QueryUnload(app);
         EXPECT_EQ(platform.settings, before);
     }
     // Somebody else can have written anything.
-    for (const auto& c : table("true -> True; FALSE -> False;  -> True; maybe -> True")) {
+    for (const auto& c : table("true -> 1; FALSE -> 0;  -> 1; maybe -> 1")) {
         platform.settings["SavePrompt"] = c[0];
         load(app);
-        EXPECT_EQ(app.mainFrm.bSavePrompt, c[1] == "True") << c[0];
+        EXPECT_EQ(std::to_string(app.mainFrm.bSavePrompt), c[1]) << c[0];
     }
 }
 
@@ -97,29 +92,28 @@ TEST_F(Start, TheFileOfTheStart) {
         shell::Form_QueryUnload(starting);
         EXPECT_EQ(platform.settings["defaultFile"], opened);
     }
-    for (const auto& c :
-         table(" -> ; /a b.fwk -> \"/a b.fwk\"; \"/a.fwk\" -> \"/a.fwk\"; a -> \"a\"; \" -> \"\"\"; "
-               "\"\" -> \"\"; \"a -> \"\"a\"; a\" -> \"a\"\""))
+    for (const auto& c : table(" -> ; /a b.fwk -> \"/a b.fwk\"; \"/a.fwk\" -> \"/a.fwk\"; \" -> \"\"\"; "
+                               "\"\" -> \"\"; \"a -> \"\"a\"; a\" -> \"a\"\""))
         EXPECT_EQ(shell::commandLineFor(c[0]), c[1]) << c[0];
 }
 
 TEST_F(Start, TheEndKeepsTheSettingsAndOffersToSave) {
-    for (int state = 0; state < 4; ++state)
-        for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel}) { // it cannot be cancelled
-            copyOf("books.fwk");
-            load(app, '"' + books + '"');
-            app.document.LV.at(1).cells[1] = "changed";
-            app.mainFrm.bSavePrompt = (state & 1) != 0;
-            app::setDocumentModified(app, (state & 2) != 0);
-            platform.log.clear();
-            platform.answers = {answer};
-            shell::Form_QueryUnload(app);
-            EXPECT_EQ(platform.log + told(),
-                      state < 3 ? "write flush " : "write flush ? Save current document?");
-            const bool isSaved = dataFileOf(books).find("|changed|") != std::string::npos;
-            EXPECT_EQ(isSaved, state == 3 && answer != Answer::No);
-            EXPECT_TRUE(app.mainFrm.unloaded && fs::exists(platform.workFolder() / "data.dat"));
-        }
+    // Whether it is to ask, what is changed, and the answer, by which it cannot be cancelled.
+    for (const auto& c : table("ask -> changed -> Yes -> saves; ask -> changed -> Cancel -> saves; "
+                               "ask -> changed -> No; ask ->  -> Yes;  -> changed -> Yes",
+                               4)) {
+        open(copyOf("books.fwk"));
+        app.document.LV.at(1).cells[1] = "changed";
+        app.mainFrm.bSavePrompt = !c[0].empty();
+        app::setDocumentModified(app, !c[1].empty());
+        platform.log.clear();
+        platform.answers = {c[2] == "No" ? Answer::No : c[2] == "Yes" ? Answer::Yes : Answer::Cancel};
+        shell::Form_QueryUnload(app);
+        const bool asks = app.mainFrm.bSavePrompt && !c[1].empty();
+        EXPECT_EQ(platform.log + told(), asks ? "write flush ? Save current document?" : "write flush ");
+        EXPECT_EQ(dataFileOf(books).find("|changed|") != std::string::npos, !c[3].empty());
+        EXPECT_TRUE(app.mainFrm.unloaded && fs::exists(platform.workFolder() / "data.dat"));
+    }
 }
 
 TEST_F(Start, RecentFilesOpenWithoutAQuestion) {
@@ -139,31 +133,38 @@ TEST_F(Start, RecentFilesOpenWithoutAQuestion) {
 
 // Installed files are read-only for the user. The copy is his to change, and opened as he left it.
 TEST_F(Start, SamplesAreCalculatedAndCopiedOnce) {
-    const fs::path samples = SAMPLES_DIR, copies = path("Ferrowick");
+    const fs::path samples = SAMPLES_DIR, copies = path("Ferrowick"), installed = path("library.fwk");
     EXPECT_EQ(shell::samplesIn(samples).size(), 5U);
     for (const shell::Sample& sample : shell::samplesIn(samples)) {
         shell::openSample(app, sample, platform.folder);
         EXPECT_EQ(app.document.currentFile, copies / sample.file.filename());
         calc::RecalculateAll(app, app.document.LV);
         storage::SaveFile(app, false, false);
-        EXPECT_EQ(told(), "");
-        EXPECT_EQ(dataFileOf(app.document.currentFile), dataFileOf(sample.file.string()));
+        EXPECT_EQ(dataFileOf(app.document.currentFile) + told(), dataFileOf(sample.file.string()));
     }
-    const fs::path installed = path("library.fwk");
     fs::copy_file(samples / "garden.fwk", installed);
-    const shell::Sample garden = shell::samplesIn(platform.folder).at(0); // those that are there
-    shell::openSample(app, garden, platform.folder);
-    EXPECT_EQ(app.document.LV.columns.find("Plant"), nullptr) << garden.name;
-    EXPECT_EQ(app.mainFrm.control("mnuFile1").Caption, copies / "library.fwk");
-    fs::remove(copies / "library.fwk");
     fs::permissions(installed, fs::perms::owner_read);
-    shell::openSample(app, garden, platform.folder);
-    EXPECT_NE(fs::status(app.document.currentFile).permissions() & fs::perms::owner_write, fs::perms::none);
-    // A file where the folder should be, and no file at all.
-    for (const auto& [file, folder] : {std::pair(installed, path("books.fwk")), {copies, path("b")}}) {
+    const shell::Sample garden = shell::samplesIn(platform.folder).at(0); // those that are there
+    for (const bool isFirst : {false, true}) {
+        shell::openSample(app, garden, platform.folder);
+        EXPECT_EQ(app.document.LV.columns.find("Plant") != nullptr, isFirst) << garden.name;
+        EXPECT_EQ(app.mainFrm.control("mnuFile1").Caption, copies / "library.fwk");
+        EXPECT_NE(fs::status(copies / "library.fwk").permissions() & fs::perms::owner_write, fs::perms::none);
+        fs::remove(copies / "library.fwk");
+    }
+    // A file where the folder should be, no file at all, and a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit room{}, all{};
+    ::getrlimit(RLIMIT_FSIZE, &all);
+    room = {2000, all.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &room);
+    for (const auto& [file, folder] :
+         {std::pair(installed, path("books.fwk")), {copies, path("b")}, {installed, path("c")}}) {
         shell::openSample(app, {file, "", "", ""}, folder);
         EXPECT_TRUE(told().starts_with("! The sample could not be copied to " + folder + "/Ferrowick: "));
+        EXPECT_FALSE(fs::exists(folder + "/Ferrowick/library.fwk"));
     }
+    ::setrlimit(RLIMIT_FSIZE, &all);
     EXPECT_NE(app.document.LV.columns.find("Plant"), nullptr) << "stays open";
 }
 

@@ -1,3 +1,4 @@
+#include "core/text.h"
 #include "folderWatch.h"
 #include "shell/listEvents.h"
 #include "storage/cleanDatabase.h"
@@ -17,7 +18,7 @@ namespace fs = std::filesystem;
 class Machine : public ScriptedPlatform {
 public:
     void setMousePointer(platform::MousePointer pointer) override {
-        pointers += pointer == platform::MousePointer::Hourglass ? "hourglass," : "arrow;";
+        pointers += pointer == platform::MousePointer::Hourglass ? "busy " : "ready\n";
     }
     fs::path workFolder() override {
         if (error != 0) core::raise(error);
@@ -60,20 +61,18 @@ protected:
             std::getline(words >> std::ws, style);
             act(verb, name);
             std::string all = "$ " + line + "\n", rest = std::exchange(log, "");
-            for (const platform::FileDialog& dialog : std::exchange(platform.dialogs, {}))
-                all += dialog.title + "/" + dialog.fileName +
-                       (dialog.filter == platform::databaseFilter ? "\n" : "?\n");
             std::istringstream messages(plain(told()));
-            for (std::string message; std::getline(messages, message);) all += message.substr(0, 40) + "\n";
-            all += plain(rest + changed() + watch.changes(current()));
+            for (std::string message; std::getline(messages, message);) all += message.substr(0, 22) + "\n";
+            all += plain(rest + std::exchange(platform.pointers, "") + changed() + watch.changes(current()));
             return all;
         });
     }
-    // Without the places of the folders.
+    // Without the places of the folders, and what stands in front of others in the panels.
     std::string plain(std::string text) const {
-        for (const std::string& path : {folder.string() + "/", platform.folder.string() + "/"})
-            for (std::size_t at = 0; (at = text.find(path)) != std::string::npos;)
-                text.erase(at, path.size());
+        const std::string outer = platform.folder.string() + "/";
+        for (const std::string& known :
+             {outer + "db/", outer, std::string("Document "), std::string("Database Style: ")})
+            text = core::replaceAll(text, known, "");
         return text;
     }
     std::string current() const { return fs::path(document.currentFile).filename().string(); }
@@ -102,6 +101,13 @@ private:
             document.LV.at(1).cells[0] = name;
             app::setDocumentModified(app, true);
         }
+        if (verb == "search") { // is on, and the page in front
+            document.searchLV.Visible = mainFrm.control("Search").Value = true;
+            mainFrm.theListView = &document.searchLV;
+            mainFrm.SSTab1 = app::layoutTab;
+            mainFrm.iPrintMode = app::printMultipleLayouts;
+            mainFrm.iFieldFocus = 3;
+        }
         if (verb == "error") platform.error = std::stoi(name);
         const std::string line = "cd " + folder.string() + "; " + name + " " + style;
         if (verb == "shell" && std::system(line.c_str()) != 0) log += "failed\n";
@@ -117,54 +123,43 @@ private:
     }
     std::map<std::string, std::string> state() {
         const auto on = [](bool is) { return std::string(is ? "yes/" : "no/"); };
-        const auto number = [](auto value) { return std::to_string(value); };
-        std::string images, recent, aligned;
+        const auto number = [](auto value) { return std::to_string(value) + "/"; };
+        std::string images, recent, aligned, dialog;
         for (const auto& entry : fs::directory_iterator(platform.tempFolder()))
-            images += entry.path().filename().string() + ";";
+            images += "/" + entry.path().filename().string();
         for (const char* key : {"mnuFile1", "mnuFile2", "mnuFile3"})
             recent += mainFrm.control(key).Caption + ";";
         document.layout.layoutField.forEach([&](const core::LayoutField& field) {
             aligned += field.align == core::Alignment::Right ? "R" : "L";
         });
-        document.layout.clipPic.forEach([&](const core::ClipPic& clip) {
-            aligned +=
-                clip.clipImage.path.empty() ? " -" : " " + fs::path(clip.clipImage.path).filename().string();
-        });
         const std::string kept = ScriptedPlatform::read(platform.folder / "work/data.dat");
-        const std::size_t first = std::min(kept.find("[Begin Data") + 18, kept.size());
+        const std::size_t begin = kept.find("[Begin Data"),
+                          first = begin < kept.size() ? begin + 18 : kept.size();
         std::error_code none;
-        const std::string size = "Filesize: " + number(fs::file_size(document.currentFile, none)) + " bytes.";
-        const core::RecordsList& shown = shell::visibleList(app);
-        return {{"caption",
-                 mainFrm.Caption == "Ferrowick - " + document.currentFile ? "the file" : mainFrm.Caption},
-                {"columns", number(document.LV.columns.count())},
-                {"current row", document.LV.selectedItem() ? document.LV.selectedItem()->Key.str() : ""},
-                {"document", on(document.bModified) + panel(app::documentPanel)},
-                {"field", number(mainFrm.iFieldFocus)},
-                {"file", document.currentFile},
-                {"images", images},
-                {"invoices", document.iLV.Visible ? number(document.iLV.count()) : "hidden"},
-                {"items", on(document.bInvoiceView) + number(mainFrm.viewOpt)},
-                {"kept", kept.substr(first, kept.find('|', first) - first)},
-                {"last key", number(document.iLastKey)},
-                {"layout", aligned},
-                {"pointer", std::exchange(platform.pointers, "")},
-                {"printed", text(document.printedCols)},
-                {"printing", number(mainFrm.iPrintMode)},
-                {"recent", recent},
-                {"records", panel(app::recordsPanel) + number(mainFrm.Slider1.Max)},
-                {"rows", number(document.LV.count())},
-                {"save", mainFrm.control("Save").Enabled ? "on" : "off"},
-                {"search", mainFrm.control("Search").Value ? "on" : "off"},
-                {"shown", &shown == &document.iLV  ? "invoices"
-                          : &shown == &document.LV ? "records"
-                                                   : "results"},
-                {"size",
-                 panel(app::fileSizePanel) == size ? "of the file" : panel(app::fileSizePanel).substr(0, 9)},
-                {"style", panel(app::stylePanel)},
-                {"sums", cells(document.LV3)},
-                {"tab", number(mainFrm.SSTab1) + (mainFrm.SSTab1Enabled ? "" : " off")},
-                {"title", document.reportData.reportTitle}};
+        const std::string size = std::to_string(fs::file_size(document.currentFile, none)),
+                          caption = "Ferrowick - " + document.currentFile, told = panel(app::fileSizePanel);
+        for (const platform::FileDialog& each : platform.dialogs)
+            dialog = each.title + "/" + each.fileName + (each.filter == platform::databaseFilter ? "" : "?");
+        const core::RecordsList& LV = document.LV;
+        return {
+            {"count", panel(app::recordsPanel) + std::to_string(mainFrm.Slider1.Max)},
+            {"dialog", dialog},
+            {"document", on(document.bModified) + panel(app::documentPanel) + "/" +
+                             kept.substr(first, kept.find('|', first) - first)},
+            {"file", document.currentFile + (mainFrm.Caption == caption ? "" : " as " + mainFrm.Caption) +
+                         (told == "Filesize: " + size + " bytes." ? "" : " of '" + told.substr(0, 9) + "'")},
+            {"layout", aligned + images},
+            {"print",
+             text(document.printedCols) + number(mainFrm.iPrintMode) + document.reportData.reportTitle},
+            {"recent", recent},
+            {"records", number(LV.columns.count()) + number(LV.count()) + number(document.iLastKey) +
+                            (LV.selectedItem() ? LV.selectedItem()->Key.str() : "") + "/" +
+                            cells(document.LV3)},
+            {"sheet", number(mainFrm.iFieldFocus) + on(mainFrm.control("Search").Value)},
+            {"tab", number(mainFrm.SSTab1) + on(mainFrm.SSTab1Enabled) + on(mainFrm.control("Save").Enabled)},
+            {"view", on(&shell::visibleList(app.document) == &LV) +
+                         number(document.iLV.Visible ? document.iLV.count() : -1) + number(mainFrm.viewOpt) +
+                         on(document.bInvoiceView) + panel(app::stylePanel)}};
     }
     std::string changed() {
         std::string all;
@@ -181,7 +176,7 @@ private:
 DataFile shop() {
     return DataFile("Name Qty:4 Price:2 Photo:7", "Bolt|12|$1.50|a.jpg;Nut|7|$.25|")
         .objects(
-            "F|Name|1|2|3|4;F|Price|1|2|3|4;F|Gone|1|2|3|4;C|logo.gif|1|2|3|4|;C|../x|1|2|3|4|;C||1|2|3|4|")
+            "F|Name|1|2|3|4;F|Price|1|2|3|4;F|Gone|1|2|3|4;C|logo.jpg|1|2|3|4|;C|../x|1|2|3|4|;C||1|2|3|4|")
         .sections("Totaled Cols=Qty|;Printed Cols=Name|;Report Data=1|1|1|1|1|1|Stock|True|");
 }
 
@@ -193,125 +188,90 @@ DataFile invoices(bool items) {
 }
 
 TEST_F(Journey, Opening) {
-    DataFile twice, widths, one("Name", "a"), bare;
-    database("a.fwk", shop(), {"a.jpg", "logo.gif", "x"});
+    DataFile twice, bare;
+    database("a.fwk", shop(), {"a.jpg", "logo.jpg", "x"});
     database("items.fwk", invoices(true));
     database("inv.fwk", invoices(false));
-    database("one.fwk", one);
+    database("one.fwk", DataFile("Name", "a"));
     bare.rows.clear();
     database("bare.fwk", bare);
     database("twice.fwk", twice.section("Totaled Cols", "Qty|Qty|"));
-    widths.spots = "1|2|3|4|5|6|";
-    database("spots.fwk", widths);
     ScriptedPlatform::write(folder / "text.fwk", "no archive");
     fs::create_directory(folder / "folder");
     mainFrm.bCtrlDown = true; // of the shortcut
     expect(R"sh(
-$ choose -> Open Database/ // caption: Ferrowick // save: off // tab: 0 off && $ choose a.fwk
-Open Database/ // caption: the file // columns: 5 // current row: i1 // document: no/Document Opened
-file: a.fwk // images: logo.gif; // kept: Bolt // last key: 2 // layout: LRL - - -
-pointer: hourglass,arrow; // printed: Name| // recent: a.fwk;;; // records: 2 records.2 // rows: 3 // save: on
-size: of the file // style: Database Style: Standard // sums: 12|;$1.50|; // tab: 0 // title: Stock
-$ choose -> Open Database/ // pointer: - && $ type changed -> document: yes/Document Modified && $ choose
-Open Database/ && $ choose gone.fwk -> Open Database/ // i File does not exist! // caption: Ferrowick - a.fwk
-file: - // size: Filesize: && $ open a.fwk -> caption: the file // document: yes/Document Opened
-file: a.fwk // pointer: hourglass,arrow; // size: of the file && $ open folder
-i Previously opened file could not be fo // caption: Ferrowick - a.fwk // file: - // pointer: -
-size: Filesize: && $ open a.fwk -> caption: the file // file: a.fwk // pointer: hourglass,arrow;
-size: of the file && $ open items.fwk -> columns: 4 // file: items.fwk // images: - // invoices: 4
-items: yes/0 // layout: RR // pointer: - // printed: Qty| // shown: invoices // style: Database Style: Invoice
-sums: 7|; && $ choose inv.fwk -> Open Database/ // file: inv.fwk // invoices: 3 // items: no/1
-printed: Name|Price| // recent: inv.fwk;a.fwk;; // sums: $.25|; && $ choose inv.fwk -> Open Database/
-recent: inv.fwk;inv.fwk;a.fwk; && $ choose one.fwk -> Open Database/ // columns: 2 // file: one.fwk
-invoices: hidden // kept: a // last key: 1 // layout: - // printed: - // recent: one.fwk;inv.fwk;inv.fwk;
-rows: 2 // shown: records // style: Database Style: Standard // sums: - && $ open bare.fwk -> columns: 4
-current row: Totals // file: bare.fwk // kept: - // last key: 0 // rows: 1 // sums: |;|; && $ choose twice.fwk
-Open Database/ // caption: Ferrowick // columns: 1 // current row: - // file: - // kept: Bolt // rows: 0
-save: off // size: Filesize: // tab: 0 off && $ choose spots.fwk -> Open Database/ // columns: 4
-last key: 2 // rows: 3 && $ choose text.fwk -> Open Database/ // columns: 1 // kept: - // rows: 0
-$ open a.fwk -> caption: the file // columns: 5 // current row: i1 // file: a.fwk // images: logo.gif;
-kept: Bolt // layout: LRL - - - // pointer: hourglass,arrow; // printed: Name| // rows: 3 // save: on
-size: of the file // sums: 12|;$1.50|; // tab: 0
-)sh");
-    document.searchLV.Visible = mainFrm.control("Search").Value = true;
-    mainFrm.theListView = &document.searchLV;
-    mainFrm.SSTab1 = app::layoutTab;
-    mainFrm.iPrintMode = app::printMultipleLayouts;
-    mainFrm.iFieldFocus = 3;
-    document.lockPassword = "x";
-    expect(R"sh(
-$ open bare.fwk -> columns: 4 // current row: Totals // field: 0 // file: bare.fwk // images: - // kept: -
-last key: 0 // layout: - // printed: - // printing: 1 // rows: 1 // search: off // shown: records
-sums: |;|; // tab: 0
+$ choose -> dialog: Open Database/ // file:  as Ferrowick of '' // tab: 0/no/no/ && $ recover -> no copy
+$ choose a.fwk -> busy ready // count: 2 records.2 // document: no/Opened/Bolt // file: a.fwk
+layout: LRL/logo.jpg // print: Name|1/Stock // recent: a.fwk;;; // records: 5/3/2/i1/12|;$1.50|;
+tab: 0/yes/yes/ // view: yes/-1/1/no/Standard && $ choose && $ choose gone.fwk -> i File does not exist!
+file:  as Ferrowick - a.fwk of 'Filesize:' && $ open folder -> i Previously opened fi && $ open items.fwk
+file: items.fwk // layout: RR // print: Qty|1/Stock // records: 4/3/2/i1/7|; // view: no/4/0/yes/Invoice
+$ choose inv.fwk -> file: inv.fwk // print: Name|Price|1/Stock // recent: inv.fwk;a.fwk;;
+records: 4/3/2/i1/$.25|; // view: no/3/1/no/Invoice && $ choose inv.fwk -> recent: inv.fwk;inv.fwk;a.fwk;
+$ choose one.fwk -> document: no/Opened/a // file: one.fwk // layout: - // print: 1/Stock
+recent: one.fwk;inv.fwk;inv.fwk; // records: 2/2/1/i1/ // view: yes/-1/1/no/Standard && $ search
+print: 3/Stock // sheet: 3/yes/ // tab: 1/yes/yes/ // view: no/-1/1/no/Standard && $ open bare.fwk
+document: no/Opened/ // file: bare.fwk // print: 1/Stock // records: 4/1/0/Totals/|;|; // sheet: 0/no/
+tab: 0/yes/yes/ // view: yes/-1/1/no/Standard && $ choose twice.fwk -> document: no/Opened/Bolt
+file:  as Ferrowick of 'Filesize:' // records: 1/0/0//|;|; // tab: 0/no/no/ && $ choose text.fwk
+document: no/Opened/
 )sh");
 }
 
 TEST_F(Journey, Saving) {
-    database("a.fwk", shop(), {"a.jpg", "logo.gif", "old.jpg", "old.gif"});
+    database("a.fwk", shop(), {"a.jpg", "logo.jpg", "old.jpg"});
     database("taken.fwk", shop(), {"unused.jpg"});
+    file::Zip Zip;
+    Zip.CreateArchive(folder / "images.fwk");
+    Zip.addBuffer("old.jpg", "x", "");
+    Zip.addBuffer("data.dat", DataFile().text(), "");
+    Zip.CloseArchive();
     open(folder / "a.fwk");
-    run("Save");
     expect(R"sh(
-$ save -> pointer: - && $ type One -> document: yes/Document Modified && $ save -> document: no/Document Saved
-kept: One // ~One|12|$1.50|a.jpg| && $ type Two -> document: yes/Document Modified && $ save-as
-Save As.../Untitled.fwk && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
-$ answer cancel && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File? && $ clone
-Clone current file to.../Clone1.fwk // kept: - && $ clone taken.fwk -> Clone current file to.../Clone1.fwk
-- Overwrite Existing File? && $ clone clone.fwk -> Clone current file to.../Clone1.fwk // @ clone.fwk
--a.jpg::bytes of a.jpg // -logo.gif::bytes of logo.gif // -old.jpg::bytes of old.jpg
--old.gif::bytes of old.gif // -One|12|$1.50|a.jpg| // -Nut|7|$.25|| // -------|------|------|------|
-$ answer yes && $ save-as taken.fwk -> Save As.../Untitled.fwk // - Overwrite Existing File?
-document: no/Document Saved // file: taken.fwk // kept: Two // ~a.jpg::bytes of a.jpg
-+logo.gif::bytes of logo.gif // +old.jpg::bytes of old.jpg // +old.gif::bytes of old.gif
--[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg|
-$ type Ж -> document: yes/Document Modified && $ save-as taken.fwk
-Save As.../Untitled.fwk // document: no/Document Saved // kept: Ж // ~Ж|12|$1.50|a.jpg| && $ type One
-document: yes/Document Modified && $ save -> document: no/Document Saved // kept: One // ~One|12|$1.50|a.jpg|
-$ clean -> pointer: hourglass,arrow; // -old.jpg::bytes of old.jpg && $ clean && $ save-results
-Save As.../Untitled Search Results.fwk // pointer: - && $ save-results taken.fwk
-Save As.../Untitled Search Results.fwk // i You cannot save your search results to && $ save-results clone.fwk
-Save As.../Untitled Search Results.fwk // - Overwrite Existing File? && $ answer yes
-$ save-results clone.fwk -> Save As.../Untitled Search Results.fwk // - Overwrite Existing File? // kept: -
+$ save -> busy ready // document: no/Saved/Bolt // -[Totaled Cols  ]Qty| // +[Totaled Cols  ]Qty|
+$ type One -> document: yes/Modified/Bolt && $ save -> document: no/Saved/One // ~One|12|$1.50|a.jpg|
+$ type Two -> document: yes/Modified/One && $ save-as -> dialog: Save As.../Untitled.fwk
+$ save-as taken.fwk -> - Overwrite Existing F && $ answer cancel && $ save-as taken.fwk
+- Overwrite Existing F && $ clone -> dialog: Clone current file to.../Clone1.fwk // document: yes/Modified/
+$ clone taken.fwk -> - Overwrite Existing F && $ clone clone.fwk -> @ clone.fwk // -a.jpg::bytes of a.jpg
+-logo.jpg::bytes of logo.jpg // -old.jpg::bytes of old.jpg // -One|12|$1.50|a.jpg| // -Nut|7|$.25||
+-------|------|------|------| && $ answer yes && $ save-as taken.fwk -> - Overwrite Existing F
+dialog: Save As.../Untitled.fwk // document: no/Saved/Two // file: taken.fwk // ~a.jpg::bytes of a.jpg
++logo.jpg::bytes of logo.jpg // +old.jpg::bytes of old.jpg // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty|
++Two|12|$1.50|a.jpg| && $ type Ж -> document: yes/Modified/Two && $ save-as taken.fwk -> document: no/Saved/Ж
+~Ж|12|$1.50|a.jpg| && $ clean -> busy ready // -old.jpg::bytes of old.jpg && $ clean -> busy ready
+$ save-results -> dialog: Save As.../Untitled Search Results.fwk && $ save-results taken.fwk
+i You cannot save your && $ save-results clone.fwk -> - Overwrite Existing F && $ answer yes
+$ save-results clone.fwk -> - Overwrite Existing F // document: no/Saved/ && $ open images.fwk
+document: no/Opened/Bolt // file: images.fwk // layout: - // print: 1/Stock // records: 4/3/2/i1/12|;$1.50|;
+$ clean -> busy ready // -old.jpg::x
 )sh");
 }
 
 TEST_F(Journey, FailedSaves) {
-    database("a.fwk", shop(), {"a.jpg"});
+    database("a.fwk", DataFile("Name Photo:7", "Bolt|a.jpg"), {"a.jpg", "b.jpg", "c.jpg"});
     database("taken.fwk", DataFile("X", "y"));
     open(folder / "a.fwk");
     fs::permissions(folder / "taken.fwk", fs::perms(0444));
     expect(R"sh(
-$ type One -> document: yes/Document Modified && $ error 71 && $ save-as b.fwk -> Save As.../Untitled.fwk
-!   Please insert your working source di && $ save-as a.fwk -> Save As.../Untitled.fwk
-! There was an error writing to the file && $ save -> ! There was an error writing to the file
-$ clone b.fwk -> ! There was an error writing to the file && $ save-results b.fwk
-Save As.../Untitled Search Results.fwk // !   Please insert your working source di && $ error 75
-$ save-as b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file && $ error 0
-$ save-within 0 -> ! There was an error writing to the file // kept: - && $ save-within 100
-! There was an error writing to the file // kept: Name && $ save-within 500
-! There was an error writing to the file && $ type Two && $ answer yes
-$ save-as taken.fwk -> Save As.../Untitled.fwk
-- Overwrite Existing File? // ! There was an error writing to the file // document: no/Document Saved
-kept: Two && $ save-as no/b.fwk -> Save As.../Untitled.fwk // ! There was an error writing to the file
-$ clone no/b.fwk -> Clone current file to.../Clone1.fwk // ! There was an error writing to the file // kept: -
-$ shell chmod 444 a.fwk && $ save -> ! There was an error writing to the file // kept: Two
-$ shell mv a.fwk away.fwk -> size: Filesize: // @ a.fwk gone // @ away.fwk && $ save
-! There was an error writing to the file && $ save-as b.fwk -> Save As.../Untitled.fwk
-! There was an error writing to the file && $ clean -> pointer: hourglass,arrow; && $ recover
-work/Recovered/a (recovered 1).fwk // pointer: - && $ shell echo text > a.fwk -> @ a.fwk // +text && $ clean
-pointer: hourglass,arrow; && $ recover -> work/Recovered/a (recovered 2).fwk // pointer: -
-$ shell mv ../*/Recovered/a*2* a.fwk -> ~data.dat:Main Data File:
-+F|Name|1|2|3|4|False|False|False|Arial|10|0| // +F|Price|1|2|3|4|False|False|False|Arial|10|0|
-+F|Gone|1|2|3|4|False|False|False|Arial|10|0| // +C|logo.gif|1|2|3|4| // +C|../x|1|2|3|4| // +C||1|2|3|4|
-+[Column Names  ]Name|Qty|Price|Photo| // +[Column Types  ]3|4|2|7| // +[Printed Cols  ]Name|
-+[Report Data   ]1|1|1|1|1|1|Stock|True| // +[Totaled Cols  ]Qty| // +Two|12|$1.50|a.jpg| // +Nut|7|$.25||
-+------|------|------|------| && $ shell mv away.fwk a.fwk -> size: of the file // @ away.fwk gone
-+a.jpg::bytes of a.jpg // +[Totaled Cols  ]Qty| // ~Bolt|12|$1.50|a.jpg| // -Two|12|$1.50|a.jpg|
-$ type Three -> document: yes/Document Modified && $ recover -> work/Recovered/a (recovered 2).fwk
-$ shell mv ../*/Recovered/a*2* b.fwk -> @ b.fwk // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty|
-+Three|12|$1.50|a.jpg| && $ open gone.fwk -> i Previously opened file could not be fo
-caption: Ferrowick - a.fwk // file: - // size: Filesize: && $ save -> ! There was an error writing to the file
-document: no/Document Saved // kept: Three && $ recover -> work/Recovered/Untitled (recovered 1).fwk
+$ type One -> document: yes/Modified/Bolt && $ error 71 && $ save-as b.fwk -> !   Please insert your
+dialog: Save As.../Untitled.fwk && $ save-as a.fwk -> ! There was an error w && $ save-results b.fwk
+!   Please insert your // dialog: Save As.../Untitled Search Results.fwk && $ error 0 && $ save-within 0
+! There was an error w // document: yes/Modified/ && $ save-within 600 -> ! There was an error w
+document: no/Saved/One && $ type Two -> document: yes/Modified/One && $ answer yes && $ save-as taken.fwk
+- Overwrite Existing F // ! There was an error w // dialog: Save As.../Untitled.fwk // document: no/Saved/Two
+$ clone no/b.fwk -> ! There was an error w // dialog: Clone current file to.../Clone1.fwk
+document: no/Saved/ && $ shell mv a.fwk away.fwk -> file: a.fwk of 'Filesize:' // @ a.fwk gone // @ away.fwk
+$ save -> ! There was an error w // document: no/Saved/Two && $ save-as b.fwk -> ! There was an error w
+dialog: Save As.../Untitled.fwk && $ clean -> busy ready && $ recover -> work/Recovered/a (recovered 1).fwk
+$ recover -> work/Recovered/a (recovered 2).fwk && $ shell mv ../*/Recovered/a*2* a.fwk -> @ a.fwk
++data.dat:Main Data File: // +[Column Names  ]Name|Photo| // +[Column Types  ]3|7| // +Two|a.jpg|
++------|------| && $ shell mv away.fwk a.fwk -> file: a.fwk // @ away.fwk gone // +a.jpg::bytes of a.jpg
++b.jpg::bytes of b.jpg // +c.jpg::bytes of c.jpg // ~Bolt|a.jpg| && $ type Three -> document: yes/Modified/Two
+$ recover -> work/Recovered/a (recovered 2).fwk && $ shell mv ../*/Recovered/a*2* b.fwk -> @ b.fwk
+~Three|a.jpg| && $ open gone.fwk -> i Previously opened fi // file:  as Ferrowick - a.fwk of 'Filesize:'
+$ save -> ! There was an error w // document: no/Saved/Three && $ recover
+work/Recovered/Untitled (recovered 1).fwk
 )sh");
 }
 
@@ -320,36 +280,31 @@ TEST_F(Journey, NewDatabases) {
     database("taken.fwk", DataFile("X", "y"));
     database("inv.fwk", invoices(true));
     open(folder / "a.fwk");
-    mainFrm.SSTab1 = app::layoutTab;
-    mainFrm.iFieldFocus = 4;
     expect(R"sh(
-$ new b.fwk cancel -> form databaseTypeFrm && $ new - invoice -> Specify Name For New Database/
-form databaseTypeFrm && $ type One -> document: yes/Document Modified && $ new b.fwk
-Specify Name For New Database/ // - Save current file a.fwk? // form databaseTypeFrm // form designFrm
-columns: 1 // current row: - // document: yes/ // field: 0 // file: b.fwk // printed: - // rows: 0 // size: -
-tab: 0 // columns: 2 // last key: 0 // layout: - // rows: 1 // sums: |; // title: - // @ b.fwk && $ open b.fwk
-caption: Ferrowick // columns: 1 // file: - // kept: - // rows: 0 // save: off // tab: 0 off
-$ new c.fwk invoice -> Specify Name For New Database/ // form databaseTypeFrm // form designFrm
-caption: the file // file: c.fwk // invoices: 0 // shown: invoices // columns: 2 // invoices: 1 // rows: 1
-save: on // style: Database Style: Invoice // sums: - // tab: 0 // @ c.fwk && $ save
-document: no/Document Saved // kept: ------ // size: of the file // +data.dat:Main Data File:
-+[Column Names  ]Qty| // +[Column Types  ]4| // +[DatabaseStyle ]True // +------| && $ open inv.fwk
-columns: 4 // current row: i1 // document: no/Document Opened // file: inv.fwk // invoices: 4 // items: yes/0
-kept: Bolt // last key: 2 // layout: RR // printed: Qty| // rows: 3 // sums: 7|; && $ new taken.fwk
-Specify Name For New Database/ // x Overwrite Existing File? // form databaseTypeFrm // columns: 1
-current row: - // invoices: hidden // printed: - // rows: 0 // shown: records && $ open a.fwk -> columns: 5
-current row: i1 // file: a.fwk // layout: LRL - - - // printed: Name| // rows: 3
-style: Database Style: Standard // sums: 12|;$1.50|; // title: Stock && $ type One
-document: yes/Document Modified && $ answer yes && $ new-at-start taken.fwk -> Specify Name For New Database/
-- Save current file a.fwk? // x Overwrite Existing File? // form databaseTypeFrm // caption: Ferrowick
-columns: 1 // current row: - // document: no/Document Saved // kept: One // printed: - // rows: 0 // save: off
-tab: 0 off // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +[InvoiceView   ]True // +One|12|$1.50|a.jpg|
-$ open a.fwk -> caption: the file // columns: 5 // current row: i1 // document: no/Document Opened
-printed: Name| // rows: 3 // save: on // tab: 0 && $ type Two -> document: yes/Document Modified
-$ answer cancel && $ new no/b.fwk -> Specify Name For New Database/ // - Save current file a.fwk?
-form databaseTypeFrm // columns: 1 // current row: - // document: no/Document Saved // file: no/b.fwk
-kept: Two // printed: - // rows: 0 // size: Filesize: // @ a.fwk // ~Two|12|$1.50|a.jpg| && $ save
-! There was an error writing to the file // kept: - && $ recover -> work/Recovered/b (recovered 1).fwk
+$ search -> print: Name|3/Stock // sheet: 3/yes/ // tab: 1/yes/yes/ // view: no/-1/1/no/Standard
+$ new b.fwk cancel -> form databaseTypeFrm && $ new - invoice -> form databaseTypeFrm
+dialog: Specify Name For New Database/ && $ type One -> document: yes/Modified/Bolt && $ new b.fwk
+- Save current file a. // form databaseTypeFrm // form designFrm // document: yes//Bolt // file: b.fwk of ''
+print: 1/Stock // records: 1/0/2//12|;$1.50|; // sheet: 0/no/ // tab: 0/yes/yes/ // view: yes/-1/1/no/Standard
+layout: - // print: 1/ // records: 2/1/0//|; // @ b.fwk && $ open b.fwk -> document: yes//
+file:  as Ferrowick of '' // records: 1/0/0//|; // tab: 0/no/no/ && $ new c.fwk invoice
+form databaseTypeFrm // form designFrm // file: c.fwk of '' // view: no/0/1/no/Standard // records: 2/1/0//
+tab: 0/yes/yes/ // view: no/1/1/no/Invoice // @ c.fwk && $ save -> document: no/Saved/------ // file: c.fwk
++data.dat:Main Data File: // +[Column Names  ]Qty| // +[Column Types  ]4| // +[DatabaseStyle ]True // +------|
+$ open inv.fwk -> document: no/Opened/Bolt // file: inv.fwk // layout: RR // print: Qty|1/
+records: 4/3/2/i1/7|; // view: no/4/0/yes/Invoice && $ new taken.fwk -> x Overwrite Existing F
+form databaseTypeFrm // print: 1/ // records: 1/0/2//7|; // view: yes/-1/0/yes/Invoice && $ open a.fwk
+file: a.fwk // layout: LRL // print: Name|1/Stock // records: 5/3/2/i1/12|;$1.50|;
+view: yes/-1/0/yes/Standard && $ type One -> document: yes/Modified/Bolt && $ answer yes
+$ new-at-start taken.fwk -> - Save current file a. // x Overwrite Existing F // form databaseTypeFrm
+document: no/Saved/One // file: a.fwk as Ferrowick // print: 1/Stock // records: 1/0/2//12|;$1.50|;
+tab: 0/no/no/ // -[Totaled Cols  ]Qty| // ~[Totaled Cols  ]Qty| // +[InvoiceView   ]True
++One|12|$1.50|a.jpg| && $ open a.fwk -> document: no/Opened/One // file: a.fwk // print: Name|1/Stock
+records: 5/3/2/i1/12|;$1.50|; // tab: 0/yes/yes/ && $ type Two -> document: yes/Modified/One
+$ answer cancel && $ new no/b.fwk -> - Save current file a. // form databaseTypeFrm // document: no/Saved/Two
+file: no/b.fwk of 'Filesize:' // print: 1/Stock // records: 1/0/2//12|;$1.50|; // @ a.fwk
+~Two|12|$1.50|a.jpg| && $ save -> ! There was an error w // document: no/Saved/ && $ recover
+work/Recovered/b (recovered 1).fwk
 )sh");
 }
 

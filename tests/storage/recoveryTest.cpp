@@ -2,6 +2,7 @@
 #include "entry/fieldEvents.h"
 #include "entry/navBar.h"
 #include "shell/mainWindow.h"
+#include "storage/cleanDatabase.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
@@ -12,7 +13,6 @@
 
 namespace {
 
-namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
 // Of one user: all the windows of a test share its folders.
@@ -85,7 +85,26 @@ TEST_F(Recovery, WaitsForAPauseButNotForEver) {
         if (wasStale && !storage::unsavedWork(window.app).isStale) log += std::to_string(half / 2) + " ";
     }
     EXPECT_EQ(log, "10 14 ");
-    EXPECT_FALSE(storage::unsavedWork(window.app).hasKeepFailed);
+    EXPECT_EQ(storage::unsavedWork(window.app).keepFailure, 0);
+}
+
+TEST_F(Recovery, TriesAgainWhatCouldNotBeKept) {
+    Window window(home);
+    window.open(file);
+    window.add("Washer");
+    const auto start = storage::UnsavedWork::Clock::now() + 1s;
+    const storage::UnsavedWork& work = storage::unsavedWork(window.app);
+    std::string log;
+    for (int second = 0; second < 40; ++second) {
+        // Something lies in its place for a while.
+        if (second == 3) fs::remove(work.copy.archive), fs::create_directory(work.copy.archive);
+        if (second == 4) storage::markUnsaved(window.app, start + 4s);
+        if (second == 20) fs::remove(work.copy.archive);
+        storage::tendUnsavedWork(window.app, start + second * 1s);
+        while (storage::unsavedWork(window.app).writer.isRunning()) std::this_thread::sleep_for(1ms);
+        log += work.keepFailure != 0 ? "!" : work.isStale || work.isWriting ? "." : " ";
+    }
+    EXPECT_EQ(log, "..  ...!!!!!!!!!!!!!!!!!!!!!!           "); // at 6, 17 and 28
 }
 
 TEST_F(Recovery, KeepsTheWorkInTheBackgroundForThisUserAlone) {
@@ -93,7 +112,7 @@ TEST_F(Recovery, KeepsTheWorkInTheBackgroundForThisUserAlone) {
     Window window(home);
     window.open(file);
     window.add("Washer");
-    EXPECT_TRUE(storage::tendUnsavedWork(window.app, storage::UnsavedWork::Clock::now() + 2s));
+    storage::tendUnsavedWork(window.app, storage::UnsavedWork::Clock::now() + 2s);
     window.add("Later"); // while it is written
     while (storage::unsavedWork(window.app).writer.isRunning()) std::this_thread::sleep_for(1ms);
     ::umask(022);
@@ -245,6 +264,7 @@ TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
 TEST_F(Recovery, TwoWindowsAskEachOther) {
     Window first(home), second(home);
     first.open(file);
+    EXPECT_EQ((first.open(maker.path("./books.fwk")), first.open(file), first.told()), ""); // by another name
     second.app.document.currentFile = "";
     second.open(file); // waved away
     EXPECT_EQ(second.app.document.currentFile, "");
@@ -286,6 +306,29 @@ TEST_F(Recovery, TwoWindowsAskEachOther) {
     EXPECT_EQ(storage::changeOfOpened(first.app), file::FileState::Change::None);
     shell::Form_QueryUnload(first.app);
     EXPECT_FALSE(fs::exists(file::WriterLock::pathFor(file)));
+}
+
+// Pictures go into the file at once, which is no change by somebody else, nor does it hide one.
+TEST_F(Recovery, KnowsItsOwnWritesFromThoseOfOthers) {
+    Window window(home);
+    window.open(maker.make("books.fwk", DataFile("Name", "Bolt").text(), {"old.jpg", "older.jpg"}));
+    storage::cleanDatabase(window.app);
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
+    maker.make("books.fwk", DataFile("Name", "Theirs").text(), {"new.jpg"});
+    storage::cleanDatabase(window.app);
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::Changed);
+    storage::acceptForeignState(window.app); // not now
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
+    window.platform.choices = {-1, 1};
+    for (const char* saved : {"Theirs", "Bolt"}) {
+        storage::SaveFile(window.app, false, false);
+        EXPECT_NE(window.dataFileOf(file).find(saved), std::string::npos);
+    }
+    fs::remove(file);
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::Gone);
+    storage::writeOpenedAgain(window.app);
+    EXPECT_NE(window.dataFileOf(file).find("Bolt"), std::string::npos);
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
 }
 
 } // namespace

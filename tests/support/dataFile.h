@@ -1,10 +1,10 @@
 #pragma once
 
 #include <algorithm>
-#include <initializer_list>
+#include <sstream>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <vector>
 
 // A document in a few lines, as the text of a data.dat. The columns are names with the digits of their types,
 // 3 (Text) where none is told: 1 Date, 2 Currency, 4 Number, 5 Calculation, 7 Picture. Records end in ";" and
@@ -26,18 +26,16 @@ struct DataFile {
     DataFile() = default;
     explicit DataFile(std::string_view columns, std::string_view records = {})
         : names(), types(), widths(), spots("1|"), rows() {
-        each(columns, ' ', [&](std::string_view column) {
+        for (const std::string& column : pieces(columns, ' ')) {
             const std::size_t colon = std::min(column.find(':'), column.size());
-            addColumn(std::string(column.substr(0, colon)),
-                      colon < column.size() ? column[colon + 1] - '0' : 3);
-        });
-        each(records, ';', [&](std::string_view record) { rows.append(record).append("|\r\n"); });
-        addTotals();
-    }
-    // Columns with the digits of their types, each as wide as the next, and without rows.
-    explicit DataFile(std::initializer_list<std::pair<const char*, int>> columns)
-        : names(), types(), widths(), spots("1|"), rows() {
-        for (const auto& [name, type] : columns) addColumn(name, type);
+            names += column.substr(0, colon) + "|";
+            types += std::string(1, colon < column.size() ? column[colon + 1] : '3') + "|";
+            widths += "1440|";
+            spots += std::to_string(std::ranges::count(types, '|') + 1) + "|";
+        }
+        for (const std::string& record : pieces(records, ';')) rows += record + "|\r\n";
+        for (std::size_t column = pieces(types, '|').size(); column > 0; --column) rows += "------|";
+        rows += "\r\n";
     }
     DataFile& section(std::string name, const std::string& line) {
         name.resize(14, ' ');
@@ -46,34 +44,18 @@ struct DataFile {
     }
     // Several, "Totaled Cols=Qty|;Locks=pBox,1|".
     DataFile& sections(std::string_view lines) {
-        each(lines, ';', [&](std::string_view line) {
-            const std::size_t end = line.find('=');
-            section(std::string(line.substr(0, end)), std::string(line.substr(end + 1)));
-        });
+        for (const std::string& line : pieces(lines, ';'))
+            section(line.substr(0, line.find('=')), line.substr(line.find('=') + 1));
         return *this;
     }
     DataFile& objects(std::string_view lines) {
-        each(lines, ';', [&](std::string_view line) {
-            layout.append(line);
-            if (std::ranges::count(line, '|') == 5 && (line.starts_with("F|") || line.starts_with("L|")))
-                layout.append(line.starts_with("F|") ? "|False|False|False|Arial|10|0|"
-                                                     : "|False|False|False|Arial|10|0||0|");
-            layout.append("\r\n");
-        });
+        for (const std::string& line : pieces(lines, ';')) {
+            const bool isShort = std::ranges::count(line, '|') == 5 && (line[0] == 'F' || line[0] == 'L');
+            layout += line + (isShort ? "|False|False|False|Arial|10|0|" : "");
+            layout += isShort && line[0] == 'L' ? "|0|\r\n" : "\r\n";
+        }
         return *this;
     }
-    void addColumn(const std::string& name, int type) {
-        names += name + "|";
-        types += std::to_string(type) + "|";
-        widths += "1440|";
-        spots += std::to_string(std::ranges::count(types, '|') + 1) + "|";
-    }
-    // A Totals row without a sum.
-    void addTotals() {
-        for (auto column = std::ranges::count(types, '|'); column > 0; --column) rows += "------|";
-        rows += "\r\n";
-    }
-
     std::string text() const {
         return "[LayoutStart]\r\n" + layout + "[LayoutEnd]\r\n[Layout Options]4|6|1|1|1|1|1|1|0.15|\r\n" +
                "[Column Names  ]" + names + "\r\n[Column Types  ]" + types + "\r\n[Column Widths ]" + widths +
@@ -81,12 +63,10 @@ struct DataFile {
     }
 
 private:
-    template <typename Take>
-    static void each(std::string_view text, char end, Take&& take) {
-        while (!text.empty()) {
-            const std::size_t length = std::min(text.find(end), text.size());
-            take(text.substr(0, length));
-            text.remove_prefix(std::min(length + 1, text.size()));
-        }
+    static std::vector<std::string> pieces(std::string_view text, char end) {
+        std::istringstream stream{std::string(text)};
+        std::vector<std::string> all;
+        for (std::string piece; std::getline(stream, piece, end);) all.push_back(piece);
+        return all;
     }
 };

@@ -8,9 +8,6 @@
 #include "shell/program.h"
 #include "storage/openFile.h"
 
-#include <filesystem>
-#include <string>
-
 // A program with a scripted machine, and databases to work on. The usual test:
 //
 //     Program program(DataFile("Name Qty:4", "Bolt|12;Nut|7"));   // opened from a file; see dataFile.h
@@ -33,8 +30,7 @@ struct ProgramOn {
 
     // A copy of a database that comes with the tests.
     std::string copyOf(const std::string& name) const {
-        std::filesystem::copy_file(std::filesystem::path(TEST_DATA_DIR) / name, path(name),
-                                   std::filesystem::copy_options::overwrite_existing);
+        fs::copy_file(fs::path(TEST_DATA_DIR) / name, path(name), fs::copy_options::overwrite_existing);
         return path(name);
     }
     std::string open(const std::string& file) {
@@ -65,9 +61,7 @@ struct ProgramOn {
 
     core::Item& record(std::initializer_list<const char*> cells) {
         const std::string key = app.document.nextKey();
-        core::Item& item = app.document.LV.add(key);
-        std::size_t place = 0;
-        for (const char* cell : cells) item.cells.at(place++) = cell;
+        std::ranges::copy(cells, app.document.LV.add(key).cells.begin());
         core::moveTotals(app.document.LV);
         return app.document.LV.byKey(key);
     }
@@ -106,8 +100,13 @@ struct ProgramOn {
     }
     std::string panel(int number) const { return app.mainFrm.panels.at(static_cast<std::size_t>(number)); }
 
-    // What the user was told since the last look; see toldBy.
-    std::string told() { return toldBy(platform); }
+    // What the user was told since the last look, a line for each message; see ScriptedPlatform.
+    std::string told() {
+        std::string all;
+        for (const std::string& message : std::exchange(platform.messages, {}))
+            all += (all.empty() ? "" : "\n") + message;
+        return all;
+    }
     // The file dialogs since the last look, "title/proposed name/filter" each.
     std::string dialogs() {
         std::string all;

@@ -5,20 +5,6 @@
 
 #include <regex>
 
-// Name, comment and bytes of every entry of an archive, in their order; those of data.dat on request.
-inline std::vector<std::string> entriesOf(const std::string& archive, bool withData) {
-    std::vector<std::string> entries;
-    file::Zip Zip;
-    Zip.OpenArchive(archive);
-    for (int i = 0; i < Zip.FileCount(); ++i) {
-        const std::string name = Zip.FileNameAt(i);
-        const bool isLeftOut = name == "data.dat" && !withData;
-        entries.push_back(name + ":" + Zip.commentAt(i) + ":" +
-                          (isLeftOut ? "" : *Zip.readEntry(name, 1 << 20)));
-    }
-    return entries;
-}
-
 // What acts do to the files of a folder. changes() tells, since the last look, a line for each changed line
 // of a database's design and records, and for each of its entries ("name:comment:bytes"), or of another file:
 //
@@ -30,7 +16,7 @@ inline std::vector<std::string> entriesOf(const std::string& archive, bool withD
 // the named one. Sections that say nothing, or what a new database has, do not count.
 class FolderWatch {
 public:
-    explicit FolderWatch(std::filesystem::path folder) : folder_(std::move(folder)), seen_(look()) {}
+    explicit FolderWatch(fs::path folder) : folder_(std::move(folder)), seen_(look()) {}
 
     std::string changes(const std::string& named = {}) {
         const std::map<std::string, std::string> before = std::exchange(seen_, look());
@@ -54,24 +40,27 @@ private:
 
     std::map<std::string, std::string> look() const {
         std::map<std::string, std::string> files;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder_)) {
+        for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
             std::string& bytes = files[entry.path().lexically_relative(folder_)];
             std::error_code error;
-            if (entry.is_regular_file(error)) bytes = ScriptedPlatform::read(entry.path());
+            if (entry.is_regular_file(error)) bytes = readBytes(entry.path());
         }
         return files;
     }
     static bool isArchive(std::string_view bytes) { return bytes.starts_with("PK"); }
     static Lines linesOf(const std::string& bytes) {
         Lines lines;
-        std::string text = bytes.starts_with("%PDF") ? "" : bytes;
+        std::string text = isArchive(bytes) || bytes.starts_with("%PDF") ? "" : bytes;
         if (isArchive(bytes)) {
-            const ScriptedPlatform machine;
-            const std::string copy = machine.folder / "copy";
-            ScriptedPlatform::write(copy, bytes);
-            lines = entriesOf(copy, false);
-            const std::string data = Program::dataFileOf(copy);
-            text = data == "(none)" ? "" : file::decodeDataFile(data);
+            const TestFolder place;
+            writeBytes(place.folder / "copy", bytes);
+            file::Zip Zip;
+            Zip.OpenArchive(place.folder / "copy");
+            for (int i = 0; i < Zip.FileCount(); ++i) {
+                const std::string name = Zip.FileNameAt(i), entry = *Zip.readEntry(name, 1 << 28);
+                lines.push_back(name + ":" + Zip.commentAt(i) + ":" + (name == "data.dat" ? "" : entry));
+                if (name == "data.dat") text = file::decodeDataFile(entry);
+            }
         }
         // Sections that are empty, or as in a database that nobody has changed them in.
         static const std::regex usual(
@@ -102,6 +91,6 @@ private:
         return all;
     }
 
-    std::filesystem::path folder_;
+    fs::path folder_;
     std::map<std::string, std::string> seen_;
 };

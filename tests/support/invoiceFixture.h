@@ -9,16 +9,17 @@
 #include <gtest/gtest.h>
 
 // An invoice database of header and item columns; layoutWith() says how many fields the item columns have.
-class InvoiceTest : public ::testing::Test {
-protected:
+struct InvoiceTest : testing::Test, Program {
+    Program& program = *this;
+
+    InvoiceTest()
+        : Program(DataFile("No:4 Customer Item Qty:4 Price:2 Line:5 Subtotal:5 Tax:5")
+                      .section("DatabaseStyle", "True")) {}
     void layoutWith(int rows) {
         app.document.layout.unloadAll();
         for (const char* name : {"No", "Customer", "Subtotal", "Tax"})
             invoice::repeatItemRows(app, 1, {name});
         invoice::repeatItemRows(app, rows, {"Item", "Qty", "Price", "Line"});
-    }
-    void formula(const std::string& name, const std::string& expression) {
-        program.formula(name, expression);
     }
     core::Item& record(std::initializer_list<std::pair<const char*, const char*>> cells) {
         core::Item& added = program.record({});
@@ -41,8 +42,4 @@ protected:
         });
         return text;
     }
-
-    Program program{DataFile("No:4 Customer Item Qty:4 Price:2 Line:5 Subtotal:5 Tax:5")
-                        .section("DatabaseStyle", "True")};
-    app::App& app = program.app;
 };

@@ -8,6 +8,7 @@
 #include "print/previewPage.h"
 
 #include <cmath>
+#include <gtest/gtest.h>
 
 using Page = std::vector<drawing::Drawn>;
 
@@ -21,37 +22,43 @@ struct PlainMetrics : drawing::TextMetrics {
 };
 
 // A place or a size in whole twips, "left,top".
-inline std::string placeOf(double x, double y) {
+inline std::string placeOf(auto x, auto y) {
     return std::to_string(std::lround(x)) + "," + std::to_string(std::lround(y));
 }
-// All of one kind that stands on a page, "a; b".
-template <typename Kind, typename Tell>
-std::string allOf(const Page& page, const Tell& tell) {
-    std::string all;
-    for (const drawing::Drawn& each : page)
-        if (const auto* it = std::get_if<Kind>(&each)) all.append(all.empty() ? "" : "; ").append(tell(*it));
+// All that stands on a page, "a; b": a text as "text@left,top", with what it looks like behind it, "Arial 10
+// bu 255", unless that is as the text before or plain; a line as "x1,y1-x2,y2", a dotted one with "." in
+// front; a picture as "left,top width,height", and a rectangle so too, with the width and the color of its
+// pen.
+inline std::string drawnOn(const Page& page) {
+    std::string all, looks = " Arial 10  0";
+    for (const drawing::Drawn& each : page) {
+        if (!all.empty()) all += "; ";
+        if (const auto* text = std::get_if<drawing::DrawnText>(&each)) {
+            const drawing::TextFont& font = text->font;
+            const std::string now = " " + font.FontName + " " + core::numberText(font.FontSize) + " " +
+                                    (font.FontBold ? "b" : "") + (font.FontItalic ? "i" : "") +
+                                    (font.FontUnderline ? "u " : " ") + std::to_string(text->ForeColor);
+            all += text->text + "@" + placeOf(text->Left, text->Top) + (now == looks ? "" : now);
+            looks = now;
+        } else if (const auto* line = std::get_if<drawing::DrawnLine>(&each)) {
+            all += line->pen.DrawStyle == drawing::LineStyle::Dotted ? "." : "";
+            all += placeOf(line->x1, line->y1) + "-" + placeOf(line->x2, line->y2);
+        } else if (const auto* box = std::get_if<drawing::DrawnRectangle>(&each)) {
+            all += placeOf(box->Left, box->Top) + " " + placeOf(box->Width, box->Height) + " " +
+                   placeOf(box->pen.DrawWidth, box->pen.ForeColor);
+        } else if (const auto* picture = std::get_if<drawing::DrawnPicture>(&each)) {
+            all += placeOf(picture->Left, picture->Top) + " " + placeOf(picture->Width, picture->Height);
+        }
+    }
     return all;
 }
-// "text@left,top".
-inline std::string textsOf(const Page& page) {
-    return allOf<drawing::DrawnText>(page,
-                                     [](const auto& it) { return it.text + "@" + placeOf(it.Left, it.Top); });
-}
-// "x1,y1-x2,y2", dotted ones with a "." in front.
-inline std::string linesOf(const Page& page) {
-    return allOf<drawing::DrawnLine>(page, [](const auto& it) {
-        const char* mark = it.pen.DrawStyle == drawing::LineStyle::Dotted ? "." : "";
-        return mark + placeOf(it.x1, it.y1) + "-" + placeOf(it.x2, it.y2);
-    });
-}
-// How each text looks, "Arial 10 bi 255".
-inline std::string facesOf(const Page& page) {
-    return allOf<drawing::DrawnText>(page, [](const auto& it) {
-        const std::string style = std::string(it.font.FontBold ? " b" : " ") +
-                                  (it.font.FontItalic ? "i" : "") + (it.font.FontUnderline ? "u " : " ");
-        return it.font.FontName + " " + core::numberText(it.font.FontSize) + style +
-               std::to_string(it.ForeColor);
-    });
+// The texts of a page alone, without the blanks behind them.
+inline std::string wordsOf(const Page& page) {
+    std::string all;
+    for (const drawing::Drawn& each : page)
+        if (const auto* text = std::get_if<drawing::DrawnText>(&each))
+            all.append(all.empty() ? "" : " ").append(core::rtrim(text->text));
+    return all;
 }
 
 // What came out of a printer.
@@ -61,36 +68,30 @@ struct Printed {
     std::string paper; // the last size
 };
 
-class RecordingPrinter : public drawing::RecordedPage {
-public:
-    explicit RecordingPrinter(Printed& printed) : printed_(printed) {}
-    bool isPrinter() const override { return true; }
-    bool close() override { return !(printed_.ends += '.').empty(); }
+struct RecordingPrinter : drawing::RecordedPage {
+    Printed& printed;
+    std::ptrdiff_t done = 0; // of what is drawn
 
-protected:
+    explicit RecordingPrinter(Printed& into) : printed(into) {}
+    bool isPrinter() const override { return true; }
+    bool close() override { return !(printed.ends += '.').empty(); }
     void pageSet(const drawing::PageSetup& setup) override {
         RecordedPage::pageSet(setup);
-        done_ = 0;
-        printed_.paper = placeOf(static_cast<double>(setup.Width), static_cast<double>(setup.Height));
+        done = 0;
+        printed.paper = placeOf(setup.Width, setup.Height);
     }
     void startSheet() override { finish('/'); }
     void endDocument() override { finish('|'); }
-
-private:
     void finish(char end) {
-        printed_.sheets.emplace_back(drawn().begin() + std::exchange(done_, std::ssize(drawn())),
-                                     drawn().end());
-        printed_.ends += end;
+        const auto from = drawn().begin() + std::exchange(done, std::ssize(drawn()));
+        printed.sheets.emplace_back(from, drawn().end());
+        printed.ends += end;
     }
-
-    Printed& printed_;
-    std::ptrdiff_t done_ = 0; // of what is drawn
 };
 
 // A machine with such a printer. Its print dialog is among the forms, with paper and orientation as shown.
 struct PrintingPlatform : ScriptedPlatform {
-    bool hasPrinter = true;
-    bool fileCancelled = false;
+    bool hasPrinter = true, fileCancelled = false;
     PlainMetrics metrics;
     Printed printed;
     std::optional<platform::PrintChoice> dialogAnswer = platform::PrintChoice{1, 1};
@@ -102,7 +103,7 @@ struct PrintingPlatform : ScriptedPlatform {
     drawing::TextMetrics& textMetrics() override { return metrics; }
     std::vector<platform::PaperName> printerPapers() override { return paperNames; }
     std::optional<platform::PrintChoice> showPrinterDialog(const platform::PrintChoice& now) override {
-        forms.push_back("printer " + std::to_string(now.PaperSize) + " " + std::to_string(now.Orientation));
+        forms.push_back("printer " + placeOf(now.PaperSize, now.Orientation));
         return dialogAnswer;
     }
     std::unique_ptr<drawing::DrawTarget> openPrinter(const std::string&) override {
@@ -136,24 +137,24 @@ struct PrintProgram : ProgramOn<PrintingPlatform> {
             all += (end == '.' ? "" : wordsOf(last.sheets.at(sheet++))) + end;
         return all;
     }
-    // The texts of a page alone, without the blanks behind them.
-    static std::string wordsOf(const Page& page) {
-        const auto word = [](const auto& it) { return core::rtrim(it.text); };
-        return core::replaceAll(allOf<drawing::DrawnText>(page, word), "; ", " ");
-    }
-    // The buttons of the preview one after the other, and what is to tell of the page behind each: "a; b; c".
-    template <typename Tell>
-    std::string walk(std::string_view buttons, Tell&& tell) {
+    // The buttons of the preview one after the other, with the first and the last row of each page, title and
+    // headings left out, and the row that the next one begins with: "r64..r126>127; ".
+    std::string turn(std::string_view buttons) {
+        const print::PreviewPage& page = print::previewPage(app);
+        const bool isReport = app.mainFrm.iPrintMode == app::printReport;
         std::string all;
         for (const std::string_view key : core::split(buttons, ' ')) {
             print::reportToolbar_ButtonClick(app, key);
-            all.append(all.empty() ? "" : "; ").append(tell());
+            const int next = isReport ? page.iReportStartRow : page.iLayoutIndex;
+            all += rowsOf(preview()) + ">" + std::to_string(next) + "; ";
         }
         return all;
     }
-    std::string selection() const {
-        std::string rows;
-        app.document.LV.forEach([&](const core::Item& item) { rows += item.Selected ? '1' : '0'; });
-        return rows;
+    static std::string rowsOf(const Page& page) {
+        std::string first, last;
+        const std::string words = wordsOf(page);
+        for (const std::string_view word : core::split(words, ' '))
+            if (word.starts_with("r") || word.starts_with("-")) (first.empty() ? first : last) = word;
+        return first + (last.empty() ? "" : ".." + last);
     }
 };

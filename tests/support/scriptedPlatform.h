@@ -12,163 +12,135 @@
 
 #include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkdtemp
 
-// A machine that answers from a script and remembers what it was asked.
-class ScriptedPlatform : public platform::Platform {
-public:
-    struct Message {
-        std::string text;
-        platform::Icon icon;
-        std::string caption;
-    };
+namespace fs = std::filesystem;
 
-    ScriptedPlatform() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "ferrowick-test-XXXXXX").string();
-        folder = mkdtemp(pattern.data());
-        std::filesystem::create_directories(folder / "work" / "Temp");
-    }
-    ~ScriptedPlatform() override {
+inline std::string readBytes(const fs::path& file) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+inline void writeBytes(const fs::path& file, std::string_view bytes) {
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+// A folder for the test's own files; removed at the end.
+struct TestFolder {
+    std::string pattern = (fs::temp_directory_path() / "ferrowick-test-XXXXXX").string();
+    fs::path folder = mkdtemp(pattern.data());
+
+    TestFolder() = default;
+    TestFolder(TestFolder&&) = delete;
+    ~TestFolder() {
         std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
+        fs::remove_all(folder, ignored);
     }
-    ScriptedPlatform(const ScriptedPlatform&) = delete;
-    ScriptedPlatform& operator=(const ScriptedPlatform&) = delete;
+};
+
+// A machine that answers from a script and remembers what it was asked.
+struct ScriptedPlatform : platform::Platform, TestFolder {
+    using Text = const std::string&;
+    using Dialog = const platform::FileDialog&;
+    static constexpr auto read = readBytes;
+    static constexpr auto write = writeBytes;
 
     // What the script says. An empty queue answers No, or cancels.
     std::deque<platform::Answer> answers;
     std::deque<int> choices; // of questions with buttons of their own; waved away when empty
     bool guards = false;     // files; see platform::Platform
-    std::deque<std::string> inputs;
-    std::deque<std::string> files;
-    std::function<void(std::string_view)> onForm;
+    std::deque<std::string> inputs, files;
     std::deque<platform::FontChoice> fonts;
+    std::function<void(std::string_view)> onForm = [](auto) {};
+    std::function<void()> onPaint = [] {};
     std::map<std::string, drawing::Extent> pictures; // by file name; any other file is no picture
     std::string tooLarge;                            // the name of a picture that is
     std::string clipboardPicture; // the bytes of the clipboard's bitmap; empty for a text, or nothing
 
-    // What was asked.
-    std::vector<Message> messages;
-    std::vector<std::string> forms;
-    std::vector<std::string> links;
+    // What was asked. A message has a mark for its icon ("-" none, "i", "!", "?", "x") ahead, and the caption
+    // when that is not the program's name.
+    std::vector<std::string> messages, forms, links, proposed;
     std::vector<platform::FileDialog> dialogs;
     std::vector<platform::FontChoice> shownFonts;
-    std::vector<std::string> proposed; // by input boxes
     int paints = 0;
-    std::function<void()> onPaint;
     std::map<std::string, std::string> settings;
-    std::filesystem::path folder; // for the test's own files; removed at the end
     std::chrono::year_month_day day{std::chrono::year(2026) / 3 / 14};
 
-    std::string lastMessage() const { return messages.empty() ? std::string() : messages.back().text; }
+    ScriptedPlatform() { fs::create_directories(ScriptedPlatform::tempFolder()); }
 
-    platform::Answer msgBox(const std::string& text, platform::Icon icon, const std::string& caption,
+    platform::Answer msgBox(Text text, platform::Icon icon, Text caption,
                             platform::Buttons buttons) override {
-        messages.push_back({text, icon, caption});
-        if (buttons == platform::Buttons::Ok) return platform::Answer::Ok;
-        return take(answers).value_or(platform::Answer::No);
+        const char mark = "-i!?x"[static_cast<int>(icon)];
+        messages.push_back(mark + (caption == "Ferrowick" ? " " : " " + caption + ": ") + text);
+        return buttons == platform::Buttons::Ok ? platform::Answer::Ok : take(answers, platform::Answer::No);
     }
-    int choose(const std::string& text, const std::string& caption,
-               const std::vector<std::string>&) override {
-        messages.push_back({text, platform::Icon::Question, caption});
-        return take(choices).value_or(-1);
+    int choose(Text text, Text caption, const std::vector<std::string>&) override {
+        msgBox(text, platform::Icon::Question, caption, platform::Buttons::Ok);
+        return take(choices, -1);
     }
-    std::string inputBox(const std::string& prompt, const std::string& title,
-                         const std::string& text) override {
-        messages.push_back({prompt, platform::Icon::None, title});
+    std::string inputBox(Text prompt, Text title, Text text) override {
+        msgBox(prompt, platform::Icon::None, title, platform::Buttons::Ok);
         proposed.push_back(text);
-        return take(inputs).value_or("");
+        return take(inputs, std::string());
     }
-    std::optional<std::string> showOpen(const platform::FileDialog& dialog) override {
-        return answer(dialog);
+    std::optional<std::string> showOpen(Dialog dialog) override {
+        dialogs.push_back(dialog);
+        return take(files, std::optional<std::string>());
     }
-    std::optional<std::string> showSave(const platform::FileDialog& dialog) override {
-        return answer(dialog);
-    }
+    std::optional<std::string> showSave(Dialog dialog) override { return showOpen(dialog); }
     void showForm(std::string_view name) override {
         forms.emplace_back(name);
         if (onForm) onForm(name);
     }
     std::optional<platform::FontChoice> showFont(const platform::FontChoice& present) override {
         shownFonts.push_back(present);
-        return take(fonts);
+        return take(fonts, std::optional<platform::FontChoice>());
     }
-    std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& path) override {
-        const auto found = pictures.find(path.filename().string());
-        if (found == pictures.end() || !std::filesystem::exists(path)) return std::nullopt;
-        return found->second;
+    std::optional<drawing::Extent> pictureExtent(const fs::path& path) override {
+        const auto found = pictures.find(path.filename());
+        return found != pictures.end() && fs::exists(path) ? std::optional(found->second) : std::nullopt;
     }
-    bool isPictureTooLarge(const std::filesystem::path& path) override { return path.filename() == tooLarge; }
-    bool saveClipboardPicture(const std::filesystem::path& path) override {
-        if (clipboardPicture.empty()) return false;
-        write(path, clipboardPicture);
-        pictures[path.filename().string()] = {clipboardPicture == "damaged" ? 0 : 3000, 1500};
-        return true;
+    bool isPictureTooLarge(const fs::path& path) override { return path.filename() == tooLarge; }
+    bool saveClipboardPicture(const fs::path& path) override {
+        const int width = clipboardPicture == "damaged" ? 0 : 3000;
+        return !clipboardPicture.empty() && !pictureFile(path, {width, 1500}, clipboardPicture).empty();
     }
-    void convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
-                       int quality) override {
-        const std::string bytes = read(bitmap);
-        write(jpeg, "quality " + std::to_string(quality) + " of " + bytes);
-        pictures[jpeg.filename().string()] = {3000, 1500};
+    void convertToJpeg(const fs::path& bitmap, const fs::path& jpeg, int quality) override {
+        pictureFile(jpeg, {3000, 1500}, "quality " + std::to_string(quality) + " of " + read(bitmap));
     }
     void setMousePointer(platform::MousePointer) override {}
     void paintStatus() override {
         ++paints;
-        if (onPaint) onPaint();
+        onPaint();
     }
-    void openLink(const std::string& target) override { links.push_back(target); }
-    std::filesystem::path workFolder() override { return folder / "work"; }
-    std::filesystem::path tempFolder() override { return folder / "work" / "Temp"; }
+    void openLink(Text target) override { links.push_back(target); }
+    fs::path workFolder() override { return folder / "work"; }
+    fs::path tempFolder() override { return folder / "work" / "Temp"; }
     void clearWorkFiles() override {
-        for (const auto& entry : std::filesystem::directory_iterator(tempFolder()))
-            std::filesystem::remove(entry);
-        std::filesystem::remove(workFolder() / "data.dat");
+        for (const auto& entry : fs::directory_iterator(tempFolder())) fs::remove(entry);
+        fs::remove(workFolder() / "data.dat");
     }
     bool keepsDataFile() const override { return true; }
     bool guardsFiles() const override { return guards; }
-    std::string getSetting(const std::string& key, const std::string& byDefault) override {
-        const auto found = settings.find(key);
-        return found == settings.end() ? byDefault : found->second;
+    std::string getSetting(Text key, Text byDefault) override {
+        return settings.contains(key) ? settings[key] : byDefault;
     }
-    void saveSetting(const std::string& key, const std::string& value) override { settings[key] = value; }
+    void saveSetting(Text key, Text value) override { settings[key] = value; }
     void flushSettings() override {}
     std::chrono::year_month_day today() override { return day; }
 
-    static std::string read(const std::filesystem::path& path) {
-        std::ostringstream bytes;
-        bytes << std::ifstream(path, std::ios::binary).rdbuf();
-        return bytes.str();
-    }
-    static void write(const std::filesystem::path& path, std::string_view bytes) {
-        std::ofstream(path, std::ios::binary) << bytes;
-    }
     // A file of that size in twips, to be chosen.
-    std::string pictureFile(const std::string& name, drawing::Extent extent,
+    std::string pictureFile(const fs::path& name, drawing::Extent extent,
                             std::string_view bytes = "picture") {
-        pictures[name] = extent;
+        pictures[name.filename()] = extent;
         write(folder / name, bytes);
-        return (folder / name).string();
+        return folder / name;
     }
 
 private:
-    template <typename Value>
-    static std::optional<Value> take(std::deque<Value>& queue) {
-        if (queue.empty()) return std::nullopt;
-        Value value = queue.front();
+    template <typename Value, typename Answer>
+    static Answer take(std::deque<Value>& queue, Answer answer) {
+        if (queue.empty()) return answer;
+        answer = queue.front();
         queue.pop_front();
-        return value;
-    }
-    std::optional<std::string> answer(const platform::FileDialog& dialog) {
-        dialogs.push_back(dialog);
-        return take(files);
+        return answer;
     }
 };
-
-// What a machine told its user since the last look, a line for each message: a mark for the icon ("-" none,
-// "i", "!",
-// "?", "x"), the caption when it is not the program's name, and the text.
-inline std::string toldBy(ScriptedPlatform& machine) {
-    std::string all;
-    for (const ScriptedPlatform::Message& message : std::exchange(machine.messages, {}))
-        all += (all.empty() ? "" : "\n") + std::string(1, "-i!?x"[static_cast<int>(message.icon)]) + " " +
-               (message.caption == "Ferrowick" ? "" : message.caption + ": ") + message.text;
-    return all;
-}

@@ -101,7 +101,8 @@ entryFrmView::entryFrmView(app::App& app, EventBoundary& events, QWidget* parent
     const QCheckBox check(tr(checkCaption));
     pixelsPerTwip_ = std::max({static_cast<float>(logicalDpiY()) / twipsPerInch,
                                static_cast<float>(srchTxt_->sizeHint().height()) / form_.FieldBox[0].Height,
-                               static_cast<float>(check.sizeHint().width()) / form_.prevChk[0].Width});
+                               static_cast<float>(check.sizeHint().width()) / form_.prevChk[0].Width,
+                               static_cast<float>(check.sizeHint().height()) / form_.prevChk[0].Height});
     auto* top = new QHBoxLayout;
     top->addWidget(makeToolbar());
     top->addSpacing(fontMetrics().height() / 2);

@@ -88,7 +88,7 @@ void MainFrmView::makeTabs() {
     rows->addWidget(notice_);
     rows->addWidget(tabs_, 1);
     setCentralWidget(centre);
-    connect(unsaved_, &UnsavedTimer::failed, notice_, &NoticeBar::refresh);
+    connect(unsaved_, &UnsavedTimer::tended, notice_, &NoticeBar::refresh);
 }
 
 void MainFrmView::load(const std::string& Command) {

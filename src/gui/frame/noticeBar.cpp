@@ -6,6 +6,7 @@
 #include "shell/fileNotice.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QFileInfo>
 #include <QPushButton>
 #include <QScopedValueRollback>

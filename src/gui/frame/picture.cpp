@@ -9,6 +9,7 @@
 #include <QPixmap>
 
 #include <iostream>
+#include <sys/stat.h>
 
 namespace gui {
 
@@ -48,6 +49,10 @@ int drawPicture(const CommandLine& line) {
         return 1;
     }
     QApplication::processEvents();
+    // It shows records, so that a new file is as private as their database.
+    struct stat status {};
+    if (::stat(app.document.currentFile.c_str(), &status) == 0)
+        ::umask(::umask(0777) | (~status.st_mode & 0777));
     if (window.grab().save(line.picture, "PNG")) return 0;
     std::cerr << "ferrowick: " << fromQt(line.picture) << " cannot be written\n";
     return 1;

@@ -14,7 +14,7 @@ UnsavedTimer::UnsavedTimer(app::App& app, QObject* parent) : QObject(parent), ap
     connect(&timer_, &QTimer::timeout, this, [this] {
         const bool goesOn = storage::tendUnsavedWork(app_);
         if (!goesOn) timer_.stop();
-        if (storage::unsavedWork(app_).hasKeepFailed) emit failed();
+        emit tended();
     });
 }
 

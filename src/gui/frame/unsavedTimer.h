@@ -18,7 +18,7 @@ public:
     void refresh();
 
 signals:
-    void failed(); // the work could not be kept
+    void tended(); // perhaps it could not be kept
 
 private:
     app::App& app_;

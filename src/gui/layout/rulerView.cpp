@@ -87,8 +87,6 @@ void RulerView::paintEvent(QPaintEvent*) {
         const QPointF label = isHorizontal() ? QPointF(start + 3, thickness * 0.55) : QPointF(2, start + 11);
         painter.drawText(label, QString::number(inch));
     }
-    painter.setPen(palette().color(QPalette::Mid));
-    line(-1, 0, 0);
     guides().forEach([&](const Guide& guide) {
         painter.fillRect(markerRect(guide),
                          isHorizontal() ? QColor(0x1e, 0x8e, 0x3e) : QColor(0x1f, 0x5f, 0xbf));

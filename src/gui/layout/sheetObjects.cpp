@@ -134,7 +134,7 @@ TextBox* SheetObjects::makeLabel(ObjectRef ref) {
         return passes;
     };
     box->changed = [this, index](const QString& text) {
-        events_.run([&] { layout::tLabel_Change(app_, index, fromQt(text)); });
+        events_.run([&] { layout::tLabel_Change(app_.document, index, fromQt(text)); });
     };
     box->lostFocus = [this, index] { events_.run([&] { layout::tLabel_LostFocus(app_, index); }); };
     return box;

@@ -71,7 +71,7 @@ void ReportPage::refresh() {
     }
     invoiceFrame_->setVisible(app_.mainFrm.invoiceFrameVisible);
     viewOpt_[app_.mainFrm.viewOpt == 0 ? 0 : 1]->setChecked(true);
-    const core::RecordsList& visible = shell::visibleList(app_);
+    const core::RecordsList& visible = shell::visibleList(app_.document);
     for (std::size_t i = 0; i < lists_.size(); ++i) {
         if (listStates_[i] != &visible) continue;
         const bool another = currentWidget() != records_ || shownList_->currentWidget() != lists_[i];
