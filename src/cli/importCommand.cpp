@@ -105,13 +105,12 @@ void tellOfImages(const ImportOptions& options, const CsvTable& table,
 }
 
 // Made elsewhere; it takes its place as a copy of a finished database does.
-void makeDatabase(const ImportOptions& options, const CsvTable& table) {
+void makeDatabase(Session& session, const ImportOptions& options, const CsvTable& table) {
     const std::vector<TableColumn> columns = exchange::columnsOf(table, options.invoice);
     if (columns.size() > calc::mostColumns)
         throw Failure(options.table, "it has " + std::to_string(columns.size()) +
                                          " columns, a database has at most " +
                                          std::to_string(calc::mostColumns));
-    Session session(options.file, options.wait);
     app::App& app = session.app;
     app.document.bInvoiceStyle = options.invoice;
     session.change([&] {
@@ -223,8 +222,7 @@ std::vector<calc::Uncalculated> appendInvoices(Session& session, const CsvTable&
     return failed;
 }
 
-void append(const ImportOptions& options, const CsvTable& table) {
-    Session session(options.file, options.wait);
+void append(Session& session, const ImportOptions& options, const CsvTable& table) {
     session.openToWrite();
     const core::Document& document = session.app.document;
     if (options.invoice && !document.bInvoiceStyle) throw Failure(options.file, "it is no invoice database");
@@ -250,13 +248,15 @@ void append(const ImportOptions& options, const CsvTable& table) {
 int run(const ImportOptions& options) {
     const auto table = readTable(options.table);
     askAboutDividers(options, *table);
+    Session session(options.file, options.wait);
+    session.reserve(); // so that of two that find no database the second one appends
     struct stat status {};
     if (::lstat(options.file.c_str(), &status) == 0)
-        append(options, *table);
+        append(session, options, *table);
     else if (errno == EIO || errno == ESTALE)
         throw Failure(options.file, std::strerror(errno)); // there may be one, which is not to be made anew
     else
-        makeDatabase(options, *table);
+        makeDatabase(session, options, *table);
     writeOutcome(std::to_string(table->rowCount()) + "\n");
     return done;
 }

@@ -99,8 +99,12 @@ void Session::open() {
     }
 }
 
+void Session::reserve() {
+    if (!lock_) lock(file);
+}
+
 void Session::openToWrite() {
-    lock(file);
+    reserve();
     open();
 }
 
@@ -130,8 +134,9 @@ void Session::lock(const std::string& database) {
 
 void Session::lockTarget(const std::string& target) {
     std::error_code error;
-    const bool isWritten = platform.answersYes() || isSameFile(target, file);
-    if (lock_ || target.empty() || !isWritten || !fs::exists(target, error)) return;
+    // Any other file is refused, without waiting for who writes it.
+    const bool isWritten = platform.answersYes() || isSameFile(target, file) || !fs::exists(target, error);
+    if (lock_ || target.empty() || !isWritten) return;
     lock(target);
     if (isSameFile(target, file)) refuseIfChanged();
 }

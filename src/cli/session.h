@@ -37,8 +37,10 @@ public:
 
     // Reads the database. Raises Failure with the reason when it cannot be opened.
     void open();
-    // The same for a command that is going to save what it has read: from here on to the end of the session
-    // nobody else writes it. Raises Failure too when somebody else has it for longer than the time to wait.
+    // From here on to the end of the session nobody else writes the database, nor makes it where there is
+    // none yet. Raises Failure when somebody else has it for longer than the time to wait.
+    void reserve();
+    // Both, for a command that is going to save what it has read.
     void openToWrite();
     // The reason in the user's words, for an error that reading the database ended in.
     std::string whyNotOpened(const core::RunTimeError& error) const;
@@ -87,6 +89,8 @@ public:
 
 private:
     void lock(const std::string& database);
+    // A file that is about to be made or overwritten.
+    void lockTarget(const std::string& target);
     void run(const std::string& target, const std::function<std::optional<core::RunTimeError>()>& save);
 
     double wait_;

@@ -107,6 +107,8 @@ private:
         }
         // File systems of a network write out what they hold back when a lock is set.
         (void)lockMark(fresh.get(), F_WRLCK);
+        // Without locks somebody may have taken it for left over before it said anything.
+        if (locked == Locked::NoSuchLocks && !isAt(path_, fresh.get())) return End::Again;
         outcome.lock = WriterLock(path_, std::move(fresh));
         return over(Result::Taken);
     }
@@ -182,6 +184,7 @@ WriterLock::Outcome WriterLock::take(const fs::path& database, Force force, mill
             std::this_thread::yield();
             continue;
         }
+        round = 0;
         const bool isHeld = outcome.result == Result::Held || outcome.result == Result::HeldElsewhere;
         if (end == Attempt::End::Over && !isHeld) return outcome;
         const bool isUnwritten = end == Attempt::End::Unwritten;

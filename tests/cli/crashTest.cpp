@@ -36,19 +36,12 @@ TEST_F(Crash, AKillAtAnyMomentLeavesAWholeFile) {
         killed += early ? 1 : 0;
         const std::string found = dataFileOf("a.fwk"); // raises when the archive is not whole
         EXPECT_TRUE((found == sorted && found != old) || (early && found == old)) << moment;
-        // A killed writer can leave the file that it wrote beside the database and its lock, and nothing else.
+        // A killed writer can leave the file that it wrote beside the database and its lock, and nothing
+        // else.
         EXPECT_EQ(run("rm -f .a.fwk.* .~lock.a.fwk#; ls -A . $HOME/tmp | xargs").out,
                   ".: a.fwk old.fwk sorted.fwk " + temporary.string() + ":\n");
     }
     EXPECT_GE(killed, 3) << "the kills came too late to show anything";
-}
-
-TEST_F(Crash, TwoAtOnceDoNotDisturbEachOther) {
-    EXPECT_EQ(run("cp old.fwk a.fwk; for f in a a old; do fwk sort $f.fwk Package & done; wait").err, "");
-    EXPECT_EQ(
-        run("for f in a old; do fwk records $f.fwk --csv | sed 1d | cut -d, -f 1 | LC_ALL=C sort -cf; done")
-            .err,
-        "");
 }
 
 } // namespace

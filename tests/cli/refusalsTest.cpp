@@ -19,6 +19,8 @@ $2 fwk -> ! A command is required && $2 fwk nonsense a.fwk -> ! no command "nons
 ! COLUMN: "A" is not of the form NAME:TYPE && $2 fwk new new.fwk A:Tex
 ! COLUMN: "Tex" is none of the types Text, Number, Currency, Date, Picture, Calculation
 $2 fwk duplicate a.fwk i1 1,000 -> ! COPIES: "1,000" is no number of copies
+$2 fwk add a.fwk --wait=-1 -> ! --wait: "-1" is no number of seconds && $2 fwk new n.fwk A:Text --wait nan
+! --wait: "nan" is no number of seconds && $2 fwk import n.fwk t.csv --wait 5s -> ! --wait: "5s" is no number of seconds
 $2 fwk search a.fwk --where Title like x
 ! --where: HOW is ge, le, is, within or range (which alone takes TO), not "like"
 $2 fwk search a.fwk --where Title is x y -> ! --where: HOW is missing
