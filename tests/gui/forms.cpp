@@ -52,6 +52,7 @@ press Backspace; type /2020; press Ctrl+Shift+Return; press Ctrl+S -> LV.0=>Nail
 click prevChk0; click FieldBox0; press Ctrl+A; type NAIL; press Return -> FieldBox0=| prevChk0=x
 press Ctrl+F; type bolt; press Return -> LV.0=Nail|1|12/31/2020|$2.50|$80.00 LV.1=>Bolt|2|TODAY|$12.34|$276.80
     srchTxt=bolt| FieldBox0=Bolt FieldBox1=2 FieldBox2=TODAY FieldBox3=$12.34
+press Ctrl+F -> srchTxt=[bolt]
 click againBtn; click First; press Ctrl+Return -> LV.1=Bolt|2|TODAY|$12.34|$276.80
     LV.2=>Nail|1|12/31/2020|$2.50|$80.00 LV.3=-|-|-|-|$436.80 SB1_1=3 records. SB1_5=Document Modified FieldBox0=|
     FieldBox1 FieldBox2 FieldBox3

@@ -151,8 +151,8 @@ look LV -> "Copies60 No47 Title150 Author147 Price80 Bought87 Value87 Cover93 No
         Session run(database("made.fwk", data));
         run.platform.answers = {platform::Answer::Ok, platform::Answer::Yes};
         run.play(R"(
-click Design; tool Rows; click List1 Item; click List1 Qty; click List1 Price; click List1 Line; fill Text1 2; click
-    OKButton; drag f1 0,160; drag f2 0,160; drag f3 0,160; drag f4 0,160 -> Totals=- Properties=- Design=x Delete=-
+click Design; tool Rows; click List1 Item; click List1 Qty; click List1 Price; click List1 Line; fill Text1 2; press
+    Return; drag f1 0,160; drag f2 0,160; drag f3 0,160; drag f4 0,160 -> Totals=- Properties=- Design=x Delete=-
     page=1 layoutToolbar.Snap=x layoutToolbar.Picture=- clearRulesBtn=- sheet=8 at 19,19 layoutPic2=*(cut)
     SB1_5=Document Modified selectionPlace=At 2.83, 1.92 Size 0.83 x 0.2 in
 click f4; tool Field No; tool Field Customer; drag f10 200,0; tool Field Total; drag f11 0,340 -> sheet=11 at 19,19

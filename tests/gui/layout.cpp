@@ -102,8 +102,9 @@ double ruler2 12,138; click ruler2 4,96; click clearRulesBtn -> clearRulesBtn=- 
 click f7; click ruler1 96,4; focus qt_tabwidget_tabbar; press Ctrl+Left -> page=1* clearRulesBtn sheet=22 at 19,-114
     |1455 selectionPlace=At 1.92, 2.58 Size 1.26 x 0.2 in
 press Del -> -selectionPlace sheet=21 at 19,-114 |1455
-click f6; focus clearRulesBtn; press Ctrl+Right; press Del; double tLabel9; press Del -> sheet=20 at 19,-114 |1455
-    selectionPlace=At 1, 0.75 Size 2.78 x 0.28 in tLabel9=|(cut)
+click f6; focus clearRulesBtn; press Ctrl+Right -> clearRulesBtn=* selectionPlace=At 2.08, 2.33 Size 1.26 x 0.2 in
+press Del; double tLabel9; press Del -> sheet=20 at 19,-114 |1455 selectionPlace=At 1, 0.75 Size 2.78 x 0.28 in
+    tLabel9=|(cut)
 tool Delete; press Tab -> -tLabel9 layoutToolbar.Lock=x sheet=19 at -81,-38 |1455 layoutPic2=*(cut) layoutVScroll=570
     layoutHScroll=1215 selectionPlace=At 0.92, 0.67 Size 6.25 x 3.12 in
 press Tab; press Ctrl+Shift+Right -> layoutToolbar.Lock sheet=19 at -94,-38 |1455 layoutHScroll=1410 selectionPlace=At

@@ -124,7 +124,7 @@ private slots:
             dialog.close();
         };
         for (const char* file : {"books.fwk", "invoices.fwk"}) {
-            Session run(sample(file), *file == 'b' ? 11 : 9);
+            Session run(sample(file), *file == 'b' ? 13 : 9);
             run.onDialog = look;
             for (const char* form :
                  {"disclaimFrm", "databaseTypeFrm", "designFrm", "entryFrm", "formulateFrm", "TotalsFrm",
