@@ -61,7 +61,7 @@ public:
     // Saves the search results as a database of their own.
     void saveSearch(const std::string& target);
 
-    // Of a file that is about to be overwritten.
+    // A file that is about to be made or overwritten.
     void lockTarget(const std::string& target);
     // Says it on standard error when the state that a save has replaced could not be kept.
     void tellVersionFailure() const;
@@ -89,8 +89,6 @@ public:
 
 private:
     void lock(const std::string& database);
-    // A file that is about to be made or overwritten.
-    void lockTarget(const std::string& target);
     void run(const std::string& target, const std::function<std::optional<core::RunTimeError>()>& save);
 
     double wait_;
