@@ -105,16 +105,14 @@ void BuildInvoicesView(core::Document& document) {
         if (column.Index == 1 || !items.contains(column.Text)) copyColumn(view, column);
     positionColumns(view, document.invoiceCols);
     addTotalsRow(view).Text = core::totalsKey;
-    if (document.LV.count() > 1) {
-        const std::vector<int> cells = sourceCells(view, document.LV);
-        const core::TotalsRowUpdater totals(document, view);
-        document.LV.forEach([&](const Item& record) {
-            if (record.isTotals()) return;
-            Item& shown = view.add({}, record.Key);
-            for (std::size_t i = 0; i < cells.size(); ++i) shown.cells[i] = record.subItem(cells[i]);
-            totals.update(core::TotalsMode::Add, shown);
-        });
-    }
+    const std::vector<int> cells = sourceCells(view, document.LV);
+    const core::TotalsRowUpdater totals(document, view);
+    document.LV.forEach([&](const Item& record) {
+        if (record.isTotals()) return;
+        Item& shown = view.add({}, record.Key);
+        for (std::size_t i = 0; i < cells.size(); ++i) shown.cells[i] = record.subItem(cells[i]);
+        totals.update(core::TotalsMode::Add, shown);
+    });
     moveTotals(view);
 }
 

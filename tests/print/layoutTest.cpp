@@ -82,8 +82,8 @@ TEST_F(Layout, ThePreviewGoesThroughTheRecordsWhichCommandsPrint) {
     EXPECT_EQ(told(), "");
     openRecords(4, oneField);
     showLayoutPreview();
-    EXPECT_EQ(turn("Next Back Back Last Next Back First Next"),
-              "r2>0; r1>0; r1>0; r4>0; r4>0; r3>0; r1>0; r2>0; ");
+    EXPECT_EQ(turn("Next Back Back Last Next Back Next First Next"),
+              "r2>0; r1>0; r1>0; r4>0; r4>0; r3>0; r4>0; r1>0; r2>0; ");
     EXPECT_EQ(selection(), "01000");
     for (const auto& c : table("All_As_Layouts -> r1|r2|r3|r4|.00010; Selected_As_Layouts -> r2|r4|.00010; "
                                "Print_All_As_Multiple_Layouts -> r1 r2 r3 r4|.00001; "
