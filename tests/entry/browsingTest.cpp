@@ -104,6 +104,9 @@ TEST_F(Browsing, TheResultsFollow) {
     run("mnuDuplicate");
     expect("Yes, Delete -> Pin|1|$2.00||2|gone.jpg -> Bolt >Pin New Not =");
     EXPECT_EQ(names(app.document.searchLV), " >Pin =");
+    openSheet(onPage);
+    app.document.LV.setSelectedItem(&app.document.LV.at(2)); // and nobody tells the sheet
+    expect("Name=x, Update, Yes, Delete -> x|12|$1.50|05/04/2001|18|bolt.jpg -> Bolt >Nut Pin =");
 }
 
 TEST_F(Browsing, AClipboardPictureIsStoredWithItsRecord) {

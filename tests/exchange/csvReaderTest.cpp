@@ -33,8 +33,7 @@ TEST(CsvTable, Reads) {
         "a,b\n5\" bolt,say \"hi\"\n \n\"q\" ,2 -> a/b/;5\" bolt/say \"hi\"/;q/2/; "
         "a\tb\n1;5\t2,5 -> a/b/;1;5/2,5/; a,b,,\n1,2,,\n3 -> a/b/;1/2/;3//; "
         "Caf\xC3\xA9\n\xE2\x82\xAC -> Café/;€/; Caf\xE9\n\x80 -> Café/;€/; "
-        " -> it has no header line; \n,,\n1,2 -> it has no header line; "
-        "a,,c\n -> its column 2 has no name; "
+        " -> it has no header line; \n,,\n1,2 -> it has no header line; a,,c\n -> its column 2 has no name; "
         "a\n1\n2,3\n -> line 3: more cells than the header has names; "
         "a,b\n1,\"2\n3,4\n -> line 2: a quote is opened and never closed; "
         "a\n\"x\ny\"z\n -> line 3: text behind the closing quote of a cell";

@@ -36,12 +36,10 @@ TEST(LayoutLines, ComeBackAsTheyWereOrInTheShortestForm) {
              // Numbers in the forms that other programs write.
              "C|a|1,440| -.5 |1E3|$12.50| -> C|a|1440|-0.5|1000|12.5|; "
              "X|unknown|1|2| -> skipped; f|A@-1|0|1|A|8|0| -> skipped; LNX@5| -> skipped;  C|a@ -> skipped; "
-             "F|A@True|False|False|Arial|10 -> error 9; L|A@True|False|False|Arial -> error 9; VLN -> error "
-             "9; "
-             "B@5 -> error 9; P|A|1|2|3 -> error 9; C -> error 9; F|A@Yes|False|False|Arial|10|0| -> error "
-             "13; "
-             "L|A#0|link|left| -> error 13; B@0|32768| -> error 6; B@9e9|1| -> error 6; C|a|1E39|2|3|4| -> "
-             "error 6")) {
+             "F|A@True|False|False|Arial|10 -> error 9; L|A@True|False|False|Arial -> error 9; VLN -> "
+             "error 9; B@5 -> error 9; P|A|1|2|3 -> error 9; C -> error 9; F|A@Yes|False|False|Arial|10|0| "
+             "-> error 13; L|A#0|link|left| -> error 13; B@0|32768| -> error 6; B@9e9|1| -> error 6; "
+             "C|a|1E39|2|3|4| -> error 6")) {
         const auto whole = [&](const std::string& line) {
             return core::replaceAll(core::replaceAll(line, "#", font), "@", place);
         };

@@ -43,7 +43,7 @@ private slots:
             run.window.resize(700, 400);
             run.play(R"(
 press Tab -> start_mnuOpen=*
-press Tab -> sample_library=*
+look sample_library; press Tab; look sample_library -> "0" "1" sample_library=*
 press Tab 4 -> sample_invoices=*
 press Space; click Properties -> MainFrm=invoices.fwk ...
 press Tab; press Down 5 -> typeOpt0 typeOpt4=x*
@@ -52,8 +52,8 @@ press Escape; file books.fwk; click mnuOpen -> -iLV -viewOpt0 -viewOpt1 -designF
 file XDG_CONFIG_HOME/ferrowick/ferrowick.conf; click Open -> MainFrm=Ferrowick Save=- Print=- PageSetup=- Search=-
     Totals=- Formulas=- Properties=- Design=- Delete=- page=- sample_invoices=*(cut)
 click start_mnuFile1 -> MainFrm=books.fwk ...
-file packages-500.fwk; click mnuOpen; click mnuAutoLoad -> MainFrm=packages-500.fwk LV.rows=501 top 0 at 0 0ad|games
-    selected 0 SB1_1=500 records.
+file packages-500.fwk; focus qt_tabwidget_tabbar; click mnuOpen; click mnuAutoLoad -> MainFrm=packages-500.fwk
+    LV.rows=501 top 0 at 0 0ad|games selected 0 SB1_1=500 records.
 )");
             QVERIFY(QFile::exists(path("HOME/Documents/Ferrowick/invoices.fwk"))); // a copy of the user's own
             run.act(u"click mnuExit"_s);

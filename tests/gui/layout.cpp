@@ -89,7 +89,7 @@ click pBox1; tool Lock; hold Handle 20,10; look pBox1 0 30 -> "0! 4. 6! 10. 12! 
         Session run(sample("books.fwk"));
         run.window.resize(600, 400);
         run.play(R"(
-click Design -> Totals=- Properties=- Design=x Delete=- page=1 layoutToolbar.Snap=x clearRulesBtn=- sheet=23 at 19,19
+press Ctrl+L -> Totals=- Properties=- Design=x Delete=- page=1 layoutToolbar.Snap=x clearRulesBtn=- sheet=23 at 19,19
     layoutPic2=*(cut) SB1_5=Document Modified
 click f8; tool Bold; press Ctrl+Right -> sheet=23 at 19,-114 layoutVScroll=1710 selectionPlace=At 2.08, 2.83 Size 2.92
     x 0.62 in

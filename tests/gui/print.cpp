@@ -85,7 +85,7 @@ press Escape; file out.pdf; click Print -> -reportPageSetup rptPreview2=*
 tab 1; click PageSetup -> page=1 Slider1=1 ...
 click paperList Custom -> lengthTxt=4 heightTxt=6
 click customOkBtn -> -customOkBtn -heightTxt -lengthTxt OKButton=*
-click paperList Custom -> paperList=* lengthTxt=4 heightTxt=6
+click paperList Custom; fill lengthTxt 10.25 -> lengthTxt=10.25| heightTxt=6
 click paperList A4; fill leftTxt 0.5; click OKButton -> -layoutPageSetupFrm layoutPic2=*(cut)
 )");
         QCOMPARE(run.app.document.layoutOptions.layoutLeftMargin, 0.5F);

@@ -97,7 +97,10 @@ private:
     QString withKeys(QWidget& widget) const {
         const auto* mark = widget.window()->findChild<const QWidget*>(u"sheetMark"_s);
         const bool isField = mark != nullptr && widget.inherits("QTextEdit");
-        const bool isWhole = widget.visibleRegion().boundingRect() == widget.rect() &&
+        const auto* edit = qobject_cast<const QLineEdit*>(&widget);
+        const bool isCut =
+            edit != nullptr && edit->fontMetrics().horizontalAdvance(edit->text()) > edit->width() - 6;
+        const bool isWhole = !isCut && widget.visibleRegion().boundingRect() == widget.rect() &&
                              (!isField || mark->geometry().contains(widget.geometry()));
         QString value = valueOf(widget);
         auto* text = QAccessible::queryAccessibleInterface(&widget)->textInterface();

@@ -132,14 +132,15 @@ private slots:
                   "repeatFrm"})
                 run.platform.showForm(form);
         }
-        Session run;
+        Session run(sample("books.fwk"), 26);
         run.onDialog = look;
+        for (const char* form : {"searchFrm", "reportPageSetup", "designFrm"}) run.platform.showForm(form);
         gui::QtPlatform platform;
         platform.msgBox("Save?", platform::Icon::Question, "Title", platform::Buttons::YesNo);
-        platform.inputBox("How many?", "Copies", "1");
+        platform.inputBox("How many?", "A title that is longer than its box", "1");
         platform.showFont({"Arial", 8});
         QCOMPARE(complaints.all.join(u'\n'), QString());
-        QCOMPARE(shown, 29);
+        QCOMPARE(shown, 32);
     }
 
     void theMainWindow() {
@@ -178,15 +179,16 @@ private slots:
         using platform::MousePointer;
         Session run;
         gui::QtPlatform platform;
-        for (const char* way :
-             {"1 press Space", "2 press Tab; press Space", "3 press Escape", "3 press Tab"}) {
+        for (const char* way : {"1 press Space", "2 press Tab; press Space", "2!press Return",
+                                "3 press Escape", "3 press Tab"}) {
             for (int i = 0; i < 2; ++i) platform.setMousePointer(MousePointer::Hourglass);
             run.onDialog = [&](QDialog& box) {
                 QVERIFY(QApplication::overrideCursor() == nullptr);
                 QCOMPARE(static_cast<QMessageBox&>(box).textFormat(), Qt::PlainText);
                 run.act(QString::fromLatin1(way + 2));
             };
-            const auto answer = platform.msgBox("?", platform::Icon::None, "", platform::Buttons::YesNo);
+            const auto buttons = way[1] == '!' ? platform::Buttons::YesNoDefaultNo : platform::Buttons::YesNo;
+            const auto answer = platform.msgBox("?", platform::Icon::None, "", buttons);
             QVERIFY2(static_cast<int>(answer) == *way - '0', way); // Yes, No, and Cancel twice
             QVERIFY(QApplication::overrideCursor() != nullptr);
             platform.setMousePointer(MousePointer::Default);

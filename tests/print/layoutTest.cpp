@@ -47,12 +47,11 @@ TEST_F(Layout, WordsWrapIntoTheirBox) {
 }
 
 TEST_F(Layout, EveryKindOfObjectHasItsPlaceOnThePage) {
+    DataFile file("Name Price:2", "Bolt|$1.50;Nut|");
     open(
-        DataFile("Name Price:2", "Bolt|$1.50;Nut|")
-            .objects("F|Name|1440|1500|2000|600|True|False|True|Arial|10|255|;F|Price|3000|2500|2000|300;L|A "
+        file.objects("F|Name|1440|1500|2000|600|True|False|True|Arial|10|255|;F|Price|3000|2500|2000|300;L|A "
                      "label|5000|3000|2000|400|False|True|False|Times|12|65280||0|;LN|1440|4000|5000|75|0|;"
-                     "VLN|6000|1440|"
-                     "75|3000|0|;B|1320|960|9000|4500|128|3|"));
+                     "VLN|6000|1440|75|3000|0|;B|1320|960|9000|4500|128|3|"));
     showLayoutPreview();
     EXPECT_EQ(drawnOn(preview()),
               "Bolt@1440,1500 Arial 10 bu 255; $1.50@4500,2500 Arial 10  0; A label@5000,3000 Times 12 i "

@@ -3,6 +3,7 @@
 #include "print/reportPrinting.h"
 #include "printRecorder.h"
 #include "shell/mainWindow.h"
+#include "shell/samples.h"
 
 namespace {
 
@@ -114,6 +115,22 @@ TEST_F(Report, TheSelectionPrintsWithItsOwnSums) {
     run("Selected_As_Report");
     EXPECT_EQ(printed(), "Stock Name Qty Price Bolt 12 $1.50 Nut 7 $.25 ------ ------ ------|.Stock Name Qty "
                          "Price Nut 7 $.25 |.");
+}
+
+TEST_F(Report, TheSamplesShowTheirCellsWholeAndFitTheirSheets) {
+    for (const shell::Sample& sample : shell::samplesIn(SAMPLES_DIR)) {
+        open(sample.file);
+        run("All_As_Report");
+        const std::string words = printed();
+        const core::RecordsList& list = app.document.iLV.Visible ? app.document.iLV : app.document.LV;
+        for (const auto& name : app.document.printedCols)
+            list.forEach([&](const core::Item& row) {
+                const std::string_view cell = core::RecordsList::cell(row, list.columns[name.item]);
+                EXPECT_NE(words.find(cell), words.npos) << sample.name << cell;
+            });
+        run("Multiple_Layout_Preview_All");
+        EXPECT_EQ(told(), "") << sample.name;
+    }
 }
 
 TEST_F(Report, WhatCannotBePrintedIsToldOnce) {

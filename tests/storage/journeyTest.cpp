@@ -281,9 +281,9 @@ TEST_F(Journey, NewDatabases) {
     database("inv.fwk", invoices(true));
     open(folder / "a.fwk");
     expect(R"sh(
-$ search -> print: Name|3/Stock // sheet: 3/yes/ // tab: 1/yes/yes/ // view: no/-1/1/no/Standard
-$ new b.fwk cancel -> form databaseTypeFrm && $ new - invoice -> form databaseTypeFrm
-dialog: Specify Name For New Database/ && $ type One -> document: yes/Modified/Bolt && $ new b.fwk
+$ new - invoice -> form databaseTypeFrm // dialog: Specify Name For New Database/ && $ search
+print: Name|3/Stock // sheet: 3/yes/ // tab: 1/yes/yes/ // view: no/-1/1/no/Standard
+$ new b.fwk cancel -> form databaseTypeFrm && $ type One -> document: yes/Modified/Bolt && $ new b.fwk
 - Save current file a. // form databaseTypeFrm // form designFrm // document: yes//Bolt // file: b.fwk of ''
 print: 1/Stock // records: 1/0/2//12|;$1.50|; // sheet: 0/no/ // tab: 0/yes/yes/ // view: yes/-1/1/no/Standard
 layout: - // print: 1/ // records: 2/1/0//|; // @ b.fwk && $ open b.fwk -> document: yes//

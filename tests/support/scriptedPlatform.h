@@ -69,7 +69,8 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
     platform::Answer msgBox(Text text, platform::Icon icon, Text caption,
                             platform::Buttons buttons) override {
         const char mark = "-i!?x"[static_cast<int>(icon)];
-        messages.push_back(mark + (caption == "Ferrowick" ? " " : " " + caption + ": ") + text);
+        messages.push_back(mark + (caption == "Ferrowick" ? " " : " " + caption + ": ") + text +
+                           (buttons == platform::Buttons::YesNoDefaultNo ? " No" : ""));
         return buttons == platform::Buttons::Ok ? platform::Answer::Ok : take(answers, platform::Answer::No);
     }
     int choose(Text text, Text caption, const std::vector<std::string>&) override {
