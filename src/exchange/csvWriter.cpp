@@ -1,11 +1,13 @@
 #include "exchange/csvWriter.h"
 
+#include <algorithm>
+
 namespace exchange {
 
 void CsvWriter::cell(std::string_view text) {
     if (cells_++ > 0) out_.push_back(',');
     isEmpty_ = cells_ == 1 && text.empty();
-    if (text.find_first_of(quoted_) == std::string_view::npos) {
+    if (std::ranges::none_of(text, [this](char c) { return quoted_[static_cast<unsigned char>(c)]; })) {
         out_.append(text);
         return;
     }
