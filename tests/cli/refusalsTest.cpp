@@ -1,5 +1,4 @@
 #include "fwkProgram.h"
-#include "platform/headlessPlatform.h"
 
 namespace {
 
@@ -63,13 +62,6 @@ $1 fwk export a.fwk -o link.csv -> ! link.csv: is the database itself
 $ cp $(which fwk) $HOME/tmp/x; $HOME/tmp/x report a.fwk -o a.pdf; rm $HOME/tmp/x
 ! this fwk cannot print: fwk-print is not installed
 )sh");
-}
-
-TEST(HeadlessPlatform, TellsAMessageInOneLine) {
-    std::ostringstream messages;
-    platform::HeadlessPlatform machine(messages);
-    machine.msgBox("one\r\ntwo\nthree\r", platform::Icon::None, "Title", platform::Buttons::Ok);
-    EXPECT_EQ(messages.str(), "Title: one two three \n");
 }
 
 } // namespace

@@ -132,19 +132,6 @@ click VScroll1 8,300 -> VScroll1=500 prevChk0=*(cut)
 press Escape -> ...
 )");
     }
-
-    void theProgressIsPainted() {
-        struct Painted : QObject {
-            int times = 0;
-            bool eventFilter(QObject*, QEvent* event) override {
-                return event->type() == QEvent::Paint && ++times < 0;
-            }
-        } painted;
-        Session run(sample("packages-32000.fwk"));
-        run.find<QLabel>(u"SB1_3"_s)->installEventFilter(&painted);
-        run.play("click mnuTotalColumns; press Return -> ...");
-        QVERIFY(painted.times > 10 && painted.times < 60);
-    }
 };
 
 QTEST_MAIN(Forms)
