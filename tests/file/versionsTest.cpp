@@ -72,16 +72,6 @@ TEST_F(VersionsTest, EachStateIsKeptOnceAndPrivately) {
     const file::Version first = store.versionsOf(books).back();
     EXPECT_EQ(first.bytes, fs::file_size(books)); // both states take as many
 
-    // What is no database is passed over, what is none at all told.
-    file::Zip Zip;
-    Zip.CreateArchive(folder / "pictures.zip", "");
-    Zip.addBuffer("a.jpg", "a", "");
-    Zip.CloseArchive();
-    store.keep(folder / "pictures.zip", {}, {});
-    EXPECT_EQ(listed(store, folder / "pictures.zip"), "");
-    writeBytes(folder / "text", "no archive");
-    EXPECT_EQ(raisedBy([&] { store.keep(folder / "text", {}, {}); }), core::errors::badFileFormat);
-
     // Cut short by a loss of power: gone from the list, and the next state like it is kept.
     fs::resize_file(store.versionsOf(books).front().file, 10);
     EXPECT_EQ(listed(store, books), "1:one/1 ");
