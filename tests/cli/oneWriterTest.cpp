@@ -49,14 +49,12 @@ TEST_F(OneWriter, DoesNotOverwriteWhatAnotherProgramHasWritten) {
 }
 
 TEST_F(OneWriter, NewFilesAreAsPrivateAsTheDatabase) {
-    EXPECT_EQ(
-        run(R"(umask 022; for m in 600 664 440; do chmod $m a.fwk; for makes in 'save-as a.fwk new --yes' \
+    const char* acts =
+        R"(umask 022; for m in 600 664 440; do chmod $m a.fwk; for makes in 'save-as a.fwk new --yes' \
         'clone a.fwk new --yes' 'export a.fwk -o new.json' 'search a.fwk --where Name is Nut -o new --yes' \
         'report a.fwk -o new.pdf'; do for i in 1 2; do fwk $makes; stat -c %a new*; chmod 606 new*; done; rm new*
-        done; done | xargs)")
-            .out,
-        "600 606 600 606 600 606 600 606 600 606 664 606 664 606 664 606 664 606 664 606 "
-        "640 606 640 606 640 606 640 606 640 606\n");
+        done; done | sort | uniq -c | xargs)";
+    EXPECT_EQ(run(acts).out, "5 600 15 606 5 640 5 664\n") << "a file that is replaced keeps its own";
 }
 
 } // namespace
