@@ -37,8 +37,8 @@ $1 fwk save-as b.fwk n.fwk --wait 0
 
 // The password is asked for when the file has been read.
 TEST_F(OneWriter, DoesNotOverwriteWhatAnotherProgramHasWritten) {
-    const std::string begin = R"(mkfifo typed; fwk lock a.fwk <typed & exec 3>typed
-        until [ -e .~lock.a.fwk# ] && grep -q ') S ' /proc/$!/stat; do sleep .01; done; sleep .1; )";
+    const std::string begin = R"sh(mkfifo typed; fwk lock a.fwk <typed & exec 3>typed
+        timeout 5 sh -c "until [ -e .~lock.a.fwk# ] && grep -q ') S ' /proc/$!/stat; do sleep .01; done; sleep .1"; )sh";
     const std::string end = "; echo secret >&3; wait $!; echo $?; rm typed; ls -A | xargs";
     const std::string held =
         "fwk add a.fwk --wait 0 2>&1 | grep -c \"changed by .*(process $!) since .* UTC$\"; ";

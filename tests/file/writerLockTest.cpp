@@ -3,6 +3,7 @@
 #include "transcript.h"
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using file::WriterLock;
@@ -67,6 +68,20 @@ $ rm $L; echo "root,$H,1,now;" >$L; chmod 644 $L; chmod 1777 . && $ take nobody 
 $ chmod 777 .; chmod 600 $L && $ take nobody a -> obstructed: L a
 )",
                      std::bind_front(&Locking::play, this));
+}
+
+// A third of them end with the lock in their hands. Two at once would see each other's mark.
+TEST_F(Locking, ManyProcessesAndNeverTwoAtOnce) {
+    for (int i = 0; i < 120; ++i) {
+        if (::fork() != 0) continue;
+        auto taken = WriterLock::take(folder / "a", WriterLock::Force::No, std::chrono::minutes(1));
+        const bool isAlone = taken.lock && fs::create_directory(folder / "mark");
+        ::usleep(300);
+        if (!isAlone || !fs::remove(folder / "mark")) ::_exit(1);
+        if (i % 3 != 0) taken.lock->release();
+        ::_exit(0);
+    }
+    for (int i = 0, status = 0; i < 120; ++i) EXPECT_TRUE(::wait(&status) > 0 && status == 0);
 }
 
 TEST(LockLine, IsOneLineWhateverTheNames) {
