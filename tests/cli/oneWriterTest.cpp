@@ -37,8 +37,8 @@ $1 fwk save-as b.fwk n.fwk --wait 0
 
 // The password is asked for when the file has been read.
 TEST_F(OneWriter, DoesNotOverwriteWhatAnotherProgramHasWritten) {
-    const std::string begin = R"(mkfifo typed; fwk lock a.fwk <typed & exec 3>typed
-        until [ -e .~lock.a.fwk# ] && grep -q ') S ' /proc/$!/stat; do sleep .01; done; sleep .1; )";
+    const std::string begin = R"sh(mkfifo typed; fwk lock a.fwk <typed & exec 3>typed
+        timeout 5 sh -c "until [ -e .~lock.a.fwk# ] && grep -q ') S ' /proc/$!/stat; do sleep .01; done; sleep .1"; )sh";
     const std::string end = "; echo secret >&3; wait $!; echo $?; rm typed; ls -A | xargs";
     const std::string held =
         "fwk add a.fwk --wait 0 2>&1 | grep -c \"changed by .*(process $!) since .* UTC$\"; ";
@@ -49,14 +49,12 @@ TEST_F(OneWriter, DoesNotOverwriteWhatAnotherProgramHasWritten) {
 }
 
 TEST_F(OneWriter, NewFilesAreAsPrivateAsTheDatabase) {
-    EXPECT_EQ(
-        run(R"(umask 022; for m in 600 664 440; do chmod $m a.fwk; for makes in 'save-as a.fwk new --yes' \
+    const char* acts =
+        R"(umask 022; for m in 600 664 440; do chmod $m a.fwk; for makes in 'save-as a.fwk new --yes' \
         'clone a.fwk new --yes' 'export a.fwk -o new.json' 'search a.fwk --where Name is Nut -o new --yes' \
         'report a.fwk -o new.pdf'; do for i in 1 2; do fwk $makes; stat -c %a new*; chmod 606 new*; done; rm new*
-        done; done | xargs)")
-            .out,
-        "600 606 600 606 600 606 600 606 600 606 664 606 664 606 664 606 664 606 664 606 "
-        "640 606 640 606 640 606 640 606 640 606\n");
+        done; done | sort | uniq -c | xargs)";
+    EXPECT_EQ(run(acts).out, "5 600 15 606 5 640 5 664\n") << "a file that is replaced keeps its own";
 }
 
 } // namespace

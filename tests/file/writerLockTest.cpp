@@ -3,6 +3,7 @@
 #include "transcript.h"
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using file::WriterLock;
@@ -24,9 +25,11 @@ struct Locking : FolderTest {
             EXPECT_EQ(std::system((begin + line).c_str()), 0) << line;
             return told;
         }
+        const mode_t mask = ::umask(0077);
         EXPECT_EQ(::seteuid(who == "nobody" ? 65534 : ::getuid()), 0);
         auto outcome = WriterLock::take(folder / file, static_cast<WriterLock::Force>(verb == "force"));
         EXPECT_EQ(::seteuid(::getuid()), 0);
+        ::umask(mask);
         locks[who] = std::move(outcome.lock);
         constexpr const char* names[] = {"taken", "held", "elsewhere", "impossible", "obstructed"};
         told += names[static_cast<int>(outcome.result)];
@@ -34,15 +37,10 @@ struct Locking : FolderTest {
         for (const auto& [name, lock] : locks) told += lock && lock->isStillHeld() ? " " + name : "";
         return told + ": " + core::replaceAll(core::rtrim(tree()), ".~lock.a#", "L") + "\n";
     }
-    void expect(const char* script) {
-        const mode_t mask = ::umask(0077);
-        expectTranscript(script, [this](const std::string& line) { return play(line); });
-        ::umask(mask);
-    }
 };
 
 TEST_F(Locking, OneHoldsItAndNothingElseInItsPlaceIsTouched) {
-    expect(R"sh(
+    expectTranscript(R"sh(
 $ echo records >a; ln -s a link; ln -s circle circle && $ take ann a -> taken ann: L a circle@ link@
 $ force bob a -> held by us ann: L a circle@ link@ && $ take bob link -> held by us ann: L a circle@ link@
 $ take bob b -> taken ann bob: L .~lock.b# a circle@ link@ && $ rm $L
@@ -56,18 +54,33 @@ $ rm $L; echo own >b; ln b $L && $ take ann a -> elsewhere: L a b && $ force ann
 $ ln -sf b $L && $ force ann a -> obstructed: L@ a b && $ ln -sf no $L && $ force ann a -> obstructed: L@ a b
 $ rm $L; mkdir $L && $ force ann a -> obstructed: L/ a b
 $ rmdir $L; mkfifo $L && $ force ann a -> obstructed: L a b && $ [ "$(cat a b | xargs)" = 'records own' ]
-)sh");
+)sh",
+                     std::bind_front(&Locking::play, this));
 }
 
 TEST_F(Locking, OfAnotherUser) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be another user";
-    expect(R"(
+    expectTranscript(R"(
 $ touch a; chmod 755 . && $ take nobody a -> impossible: a && $ chmod 777 . && $ take nobody a -> taken nobody: L a
 $ rm $L && $ take ann a -> taken ann: L a && $ take nobody a -> held by us ann: L a
 $ rm $L; echo "root,$H,1,now;" >$L; chmod 644 $L && $ take nobody a -> taken nobody: L a
 $ rm $L; echo "root,$H,1,now;" >$L; chmod 644 $L; chmod 1777 . && $ take nobody a -> obstructed: L a
 $ chmod 777 .; chmod 600 $L && $ take nobody a -> obstructed: L a
-)");
+)",
+                     std::bind_front(&Locking::play, this));
+}
+
+// Two at once would see each other's mark. At last each ends with the lock in its hands, if it gets it.
+TEST_F(Locking, ManyProcessesAndNeverTwoAtOnce) {
+    for (int i = 0; i < 8; ++i) {
+        for (int tries = ::fork() == 0 ? 1500 : 0; tries > 0; --tries) {
+            const auto outcome = WriterLock::take(folder / "a");
+            if (outcome.lock && !(fs::create_directory(folder / "mark") && fs::remove(folder / "mark")))
+                ::_exit(1);
+            if (tries == 1 || (outcome.lock && tries < 100)) ::_exit(0);
+        }
+    }
+    for (int i = 0, status = 0; i < 8; ++i) EXPECT_TRUE(::wait(&status) > 0 && status == 0) << status;
 }
 
 TEST(LockLine, IsOneLineWhateverTheNames) {

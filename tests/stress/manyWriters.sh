@@ -12,7 +12,7 @@ trap 'rm -rf "$folder"' EXIT
 write() { # PROCESS
     local number
     { echo Name; seq -f "$1 row %g" 100; } >"table.$1"
-    "$fwk" import a.fwk "table.$1" >/dev/null && tail -n +2 "table.$1" >>stored
+    "$fwk" import a.fwk "table.$1" >/dev/null 2>>failed && tail -n +2 "table.$1" >>stored
     for ((number = 1; number <= count; ++number)); do
         "$fwk" add a.fwk "Name=$1 $number" >/dev/null 2>"errors.$1" &
         ((RANDOM % 100 < kills)) && sleep "0.0$((RANDOM % 5))$((RANDOM % 10))" && kill -KILL $! 2>/dev/null
