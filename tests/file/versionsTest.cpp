@@ -2,8 +2,6 @@
 #include "file/checksum.h"
 #include "folderFixture.h"
 
-#include <sys/stat.h>
-
 namespace {
 
 constexpr std::uint64_t plenty = 1 << 20;
@@ -65,9 +63,7 @@ TEST_F(VersionsTest, EachStateIsKeptOnceAndPrivately) {
     EXPECT_EQ(listed(store, folder / "." / "books.fwk"), "2:two/? 1:one/1 ");
     EXPECT_EQ(listed(store, folder / "other" / "books.fwk"), "");
     for (const auto& each : fs::recursive_directory_iterator(folder / "kept")) {
-        struct stat status {};
-        ASSERT_EQ(::stat(each.path().c_str(), &status), 0);
-        EXPECT_EQ(status.st_mode & 0777U, each.is_directory() ? 0700U : 0600U) << each.path();
+        EXPECT_EQ(each.status().permissions(), fs::perms(each.is_directory() ? 0700 : 0600)) << each.path();
     }
     const file::Version first = store.versionsOf(books).back();
     EXPECT_EQ(first.bytes, fs::file_size(books)); // both states take as many

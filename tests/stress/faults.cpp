@@ -74,6 +74,10 @@ bool fails(const char* name, Where where) {
         return real<RESULT(*) PARAMETERS>(#NAME) ARGUMENTS;                                                  \
     }
 
+#define FORWARD_BOTH(RESULT, NAME, WHERE, FAILURE, PARAMETERS, ARGUMENTS)                                    \
+    FORWARD(RESULT, NAME, WHERE, FAILURE, PARAMETERS, ARGUMENTS)                                             \
+    FORWARD(RESULT, NAME##64, WHERE, FAILURE, PARAMETERS, ARGUMENTS)
+
 #define FORWARD_OPEN(NAME)                                                                                   \
     extern "C" int NAME(const char* path, int flags, ...) {                                                  \
         va_list rest;                                                                                        \
@@ -87,16 +91,12 @@ bool fails(const char* name, Where where) {
 FORWARD_OPEN(open)
 FORWARD_OPEN(open64)
 FORWARD(ssize_t, read, fd, -1, (int fd, void* bytes, size_t count), (fd, bytes, count))
-FORWARD(ssize_t, pread, fd, -1, (int fd, void* bytes, size_t count, off_t place), (fd, bytes, count, place))
-FORWARD(ssize_t, pread64, fd, -1, (int fd, void* bytes, size_t count, off64_t place),
-        (fd, bytes, count, place))
+FORWARD_BOTH(ssize_t, pread, fd, -1, (int fd, void* bytes, size_t count, off_t place),
+             (fd, bytes, count, place))
 FORWARD(ssize_t, write, fd, -1, (int fd, const void* bytes, size_t count), (fd, bytes, count))
-FORWARD(ssize_t, pwrite, fd, -1, (int fd, const void* bytes, size_t count, off_t place),
-        (fd, bytes, count, place))
-FORWARD(ssize_t, pwrite64, fd, -1, (int fd, const void* bytes, size_t count, off64_t place),
-        (fd, bytes, count, place))
-FORWARD(off_t, lseek, fd, -1, (int fd, off_t place, int from), (fd, place, from))
-FORWARD(off64_t, lseek64, fd, -1, (int fd, off64_t place, int from), (fd, place, from))
+FORWARD_BOTH(ssize_t, pwrite, fd, -1, (int fd, const void* bytes, size_t count, off_t place),
+             (fd, bytes, count, place))
+FORWARD_BOTH(off_t, lseek, fd, -1, (int fd, off_t place, int from), (fd, place, from))
 FORWARD(int, fsync, fd, -1, (int fd), (fd))
 FORWARD(int, fdatasync, fd, -1, (int fd), (fd))
 FORWARD(int, ftruncate, fd, -1, (int fd, off_t size), (fd, size))
