@@ -31,7 +31,8 @@ void EventBoundary::fail(const std::string& what) {
     const std::optional<std::string> copy = storage::keepRecoveryCopy(app_);
     storage::keepUnsavedWork(app_); // for the next start to offer
     try {
-        std::string text = std::string(app::title) + " has met an error and has to end.\n\n" + what;
+        std::string text(app::title);
+        text.append(" has met an error and has to end.\n\n").append(what);
         if (copy)
             text += "\n\nA copy of your database with all changes is kept in\n" + *copy;
         else if (!app_.document.currentFile.empty())
