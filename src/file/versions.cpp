@@ -222,7 +222,7 @@ void VersionStore::thinOut(const fs::path& folder, std::time_t now) const {
     std::vector<Version> kept;
     std::set<int> days;
     bool isPictureFree = false; // some picture may be nobody's any more
-    constexpr std::int64_t secondsOfDay = 24 * 60 * 60;
+    constexpr std::int64_t secondsOfDay = std::int64_t{24} * 60 * 60;
     for (auto version = versions.rbegin(); version != versions.rend(); ++version) {
         const bool isNewest = kept.size() < newestKept;
         const bool isOfDays = version->kept > now - daysKept * secondsOfDay;

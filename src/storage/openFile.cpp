@@ -170,7 +170,7 @@ std::string faultOfSystem(const std::exception& error) {
     namespace errors = core::errors;
     const auto* known = dynamic_cast<const core::RunTimeError*>(&error);
     if (known == nullptr) return {};
-    const std::string text = known->what();
+    std::string text = known->what();
     for (const int number : {errors::deviceIO, errors::diskNotReady, errors::diskFull, errors::pathAccess})
         if (known->number == number && text.ends_with(')')) return text;
     return {};
