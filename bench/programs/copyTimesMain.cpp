@@ -66,6 +66,7 @@ int main(int argc, char** argv) {
     bool within = true;
     for (int round = 0; round < 5; ++round) {
         app::setDocumentModified(app, true);
+        QCoreApplication::processEvents(); // what the window paints is not the copy's
         within &= isWithin("a copy is begun", 1, 8, begin);
         if (!work.writer.isRunning()) std::cout << "It is written in this process.\n";
         within &= isWithin("a key meanwhile", 20, 8, [&](int) { QTest::keyClick(field, Qt::Key_X); });
