@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Makes every call of the system that a command of fwk makes on its files fail in turn, and asserts after each that
 # a file is the old one or a whole new one, that exit code and message tell which, and that nothing crashed.
-#   faults.sh FWK FAULTS.so
+#   faults.sh FWK FAULTS.so [all]     all: with each of three errors, and not an input/output error alone
 set -u
 fwk=$(realpath "$1")
 faults=$(realpath "$2")
@@ -82,7 +82,8 @@ isWhole() {
 }
 
 f='"$fwk"'
-for fault in 5:EIO:"Input/output error" 28:ENOSPC:"disk may be full\|No space left" 13:EACCES:"Permission denied\|read-only"; do
+for fault in 5:EIO:"Input/output error" \
+    ${3:+28:ENOSPC:"disk may be full\|No space left" 13:EACCES:"Permission denied\|read-only"}; do
     IFS=: read -r errno name says <<<"$fault"
     command="$f add watched/a.fwk Name=1" && every "$errno" "$name" watched/a.fwk "$says"
     command="$f save-as watched/a.fwk watched/new.fwk" && every "$errno" "$name" watched/new.fwk "$says"
