@@ -21,6 +21,7 @@ enum class Change {
     Preview,       // what the preview is to show was chosen
     Modified,      // the document is no longer as it is stored, or it is again
     Unsaved,       // a text was typed, or records were replaced, that nothing else tells of
+    Begun,         // what the document holds has nothing to do with what it held before
     Opened,        // another file is the open one, or none
     Stored,        // the open file holds the document as it is
     Writing,       // the open file is about to be written by ourselves,

@@ -41,6 +41,7 @@ struct Column {
     ColumnType type() const;
     bool isType(ColumnType wanted) const { return type() == wanted; }
     bool isNumeric() const; // Currency, Number or Calculation
+    bool operator==(const Column&) const = default;
     // Sets Tag, the alignment and the icon that go with it when a database is opened.
     void setTypeFromFile(std::string_view tag);
 };
@@ -73,6 +74,8 @@ public:
     void setPositions(const std::vector<int>& positions);
     // Table indexes in display order.
     std::vector<int> displayOrder() const;
+
+    bool operator==(const ColumnHeaders& other) const { return columns_ == other.columns_; }
 
     auto begin() { return columns_.begin(); }
     auto end() { return columns_.end(); }

@@ -19,12 +19,14 @@ struct LayoutObject {
     float Left = 0, Top = 0, Width = 0, Height = 0;
     bool Visible = false;
     int zOrder = 0; // higher is nearer to the front; lives only while the program runs
+    bool operator==(const LayoutObject&) const = default;
 };
 
 struct ObjectFont {
     std::string FontName = "MS Sans Serif";
     float FontSize = 8.25F; // points
     bool FontBold = false, FontItalic = false, FontUnderline = false, FontStrikethru = false;
+    bool operator==(const ObjectFont&) const = default;
 };
 
 // A text box bound to the column that Tag names.
@@ -35,6 +37,7 @@ struct LayoutField : LayoutObject, ObjectFont {
     Alignment align = Alignment::Left;
     bool Enabled = true;
     bool Locked = true;
+    bool operator==(const LayoutField&) const = default;
 };
 
 // A caption; Tag is its link.
@@ -44,6 +47,7 @@ struct Label : LayoutObject, ObjectFont {
     std::int32_t BackColor = white;
     Alignment align = Alignment::Left;
     bool Locked = true;
+    bool operator==(const Label&) const = default;
 };
 
 // A horizontal or a vertical line, drawn through the middle of its rectangle.
@@ -51,12 +55,14 @@ struct LineObject : LayoutObject {
     std::int32_t ForeColor = 0;
     std::int32_t BackColor = white;
     int DrawWidth = 2; // pixels
+    bool operator==(const LineObject&) const = default;
 };
 
 // The outline of a rectangle.
 struct BoxObject : LayoutObject {
     std::int32_t ForeColor = 0;
     int DrawWidth = 1; // pixels, 1 to 10
+    bool operator==(const BoxObject&) const = default;
 };
 
 // The image inside a picture box or clip art box: its fitted rectangle, relative to the holder, and
@@ -66,6 +72,7 @@ struct FittedImage {
     float Left = 0, Top = 0, Width = 0, Height = 0;
     bool Visible = true;
     bool Stretch = false;
+    bool operator==(const FittedImage&) const = default;
 };
 
 // A picture box bound to the Picture column that Tag names; the image is its viewImage.
@@ -73,12 +80,14 @@ struct ImgHolder : LayoutObject {
     std::string ToolTipText; // entry name of the record's image, empty for none
     std::int32_t BackColor = white;
     FittedImage viewImage;
+    bool operator==(const ImgHolder&) const = default;
 };
 
 // A fixed picture of the page; Tag is the entry name of the image, the image is its clipImage.
 struct ClipPic : LayoutObject {
     int BorderStyle = 0;
     FittedImage clipImage;
+    bool operator==(const ClipPic&) const = default;
 };
 
 template <typename Object>

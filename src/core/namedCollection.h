@@ -13,6 +13,7 @@ public:
     struct Entry {
         std::string key; // empty: none
         std::string item;
+        bool operator==(const Entry&) const = default;
     };
 
     // Raises keyInUse for a key that is there already.
@@ -27,6 +28,8 @@ public:
     const Entry* find(std::string_view key) const;
     bool contains(std::string_view item) const; // exact
     std::vector<std::string> items() const;
+
+    bool operator==(const NamedCollection& other) const { return entries_ == other.entries_; }
 
     auto begin() const { return entries_.begin(); }
     auto end() const { return entries_.end(); }

@@ -22,6 +22,7 @@ struct LayoutOptions {
     std::int16_t layoutPaperSize = letterPaper;
     std::int16_t layoutOrientation = portrait;
     float layoutSpacing = 0.15F; // gap between layouts when several print on a page
+    bool operator==(const LayoutOptions&) const = default;
 };
 
 // The page of the report. Lengths in inches. The defaults are those of a new database.
@@ -34,6 +35,7 @@ struct ReportData {
     std::int16_t reportOrientation = portrait;
     std::string reportTitle;
     bool bReportBoldHeaders = false;
+    bool operator==(const ReportData&) const = default;
 };
 
 } // namespace core

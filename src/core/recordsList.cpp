@@ -58,6 +58,12 @@ void RecordsList::clear() {
     numbered_ = true;
 }
 
+void RecordsList::rearrange(const std::function<void(std::vector<std::unique_ptr<Item>>&)>& change) {
+    selectedItem_ = nullptr;
+    change(items_);
+    itemsMoved();
+}
+
 std::size_t RecordsList::placeOf(int index) const {
     if (index < 1 || index > count()) raise(errors::indexOutOfBounds, "item " + std::to_string(index));
     return static_cast<std::size_t>(index - 1);

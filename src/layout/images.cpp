@@ -5,6 +5,7 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
 #include "file/zip.h"
+#include "layout/replacedPictures.h"
 #include "layout/sheet.h"
 
 #include <cerrno>
@@ -93,6 +94,7 @@ void addToArchive(App& app, const fs::path& file, const std::string& comment) {
     app.changes.announce(app, app::Change::Writing);
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
+    keepReplaced(app, Zip, file.filename().string());
     Zip.AddFile(file, comment);
     Zip.CloseArchive();
     app.changes.announce(app, app::Change::Written);

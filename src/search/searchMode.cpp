@@ -97,6 +97,23 @@ void showAllRecords(App& app) {
     app.changes.announce(app, app::Change::CurrentRecord);
 }
 
+void followRecords(App& app) {
+    core::Document& document = app.document;
+    RecordsList& results = document.searchLV;
+    if (!results.Visible || results.empty()) return;
+    // An invoice can have several rows among the results, and which of them is which is not known any more.
+    if (document.bInvoiceStyle) return leaveResults(app);
+    results.removeIf(
+        [&](const Item& result) { return !result.isTotals() && document.LV.find(result.Tag) == nullptr; });
+    core::resetTotalsRow(results);
+    const core::TotalsRowUpdater totals(document, results);
+    results.forEach([&](Item& result) {
+        if (result.isTotals()) return;
+        result.cells = document.LV.byKey(result.Tag).cells;
+        totals.update(core::TotalsMode::Add, result);
+    });
+}
+
 void refreshResults(App& app) {
     core::Document& document = app.document;
     RecordsList& results = document.searchLV;

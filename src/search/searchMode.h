@@ -22,5 +22,7 @@ void showAllRecords(app::App& app);
 
 // The results on show, and their sums, take over what has been calculated anew in the records.
 void refreshResults(app::App& app);
+// They follow whatever has become of the records: those that are gone are no results any more.
+void followRecords(app::App& app);
 
 } // namespace search

@@ -10,6 +10,7 @@
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
+#include "shell/undo.h"
 #include "storage/cleanDatabase.h"
 #include "storage/newDatabase.h"
 #include "storage/openFile.h"
@@ -121,6 +122,8 @@ std::vector<Command> menuCommands() {
         {"mnuFile2", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile2"); }},
         {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
         {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
+        {"mnuUndo", "&Undo", "", "undo", false, undo},
+        {"mnuRedo", "&Redo", "", "redo", false, redo},
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
@@ -188,6 +191,7 @@ bool isCommandEnabled(const App& app, std::string_view key) {
 }
 
 void runCommand(App& app, std::string_view key) {
+    const RunningCommand running(app, command(key).key);
     press(app, key);
     app::allowManySelected(app);
 }
@@ -243,7 +247,7 @@ std::span<const Menu> menuBar() {
           "mnuFile3",
           "-",
           "mnuExit"}},
-        {"mnuEdit", "&Edit", {"mnuDuplicate", "-", "mnuReplace"}},
+        {"mnuEdit", "&Edit", {"mnuUndo", "mnuRedo", "-", "mnuDuplicate", "-", "mnuReplace"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",

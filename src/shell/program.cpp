@@ -9,6 +9,7 @@
 #include "layout/sheet.h"
 #include "shell/mainWindow.h"
 #include "shell/recoveryOffer.h"
+#include "shell/undo.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 
@@ -55,6 +56,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Opened}, [](App& app) {
         if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);
     });
+    followForUndo(changes);
     changes.follow({Change::Preview}, [](App& app) { SSTab1_Click(app, app::previewTab); });
 }
 

@@ -4,6 +4,7 @@
 #include "app/windowState.h"
 #include "core/text.h"
 #include "file/zip.h"
+#include "layout/replacedPictures.h"
 #include "storage/versions.h"
 
 #include <map>
@@ -78,6 +79,7 @@ std::vector<std::string> cleanDatabase(App& app) {
     for (const std::string& name : unused.names()) {
         if (clipArt.contains(name) || unused.isFound(name) || !Zip.contains(name))
             continue; // or gone already
+        layout::keepReplaced(app, Zip, name);
         Zip.DeleteFile(name);
         removed.push_back(name);
     }

@@ -54,6 +54,7 @@ void clearDocument(App& app) {
     app.mainFrm.theListView = &document.LV;
     app.mainFrm.iFieldFocus = 0;
     app.mainFrm.selectedRows.clear();
+    app.changes.announce(app, app::Change::Begun);
 }
 
 void make(App& app, const std::string& path, bool bStartUp) {
@@ -103,6 +104,7 @@ void finishNewDatabase(App& app) {
     document.bInvoiceView = false;
     app.mainFrm.viewOpt = 1;
     invoice::rebuildView(app.document);
+    app.changes.announce(app, app::Change::Begun);
 }
 
 void newDatabase(App& app, bool bStartUp) {

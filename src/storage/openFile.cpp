@@ -195,6 +195,7 @@ void openFrom(App& app, const std::string& path, const std::string& archive, boo
         app::enableControls(app, false);
         app.mainFrm.theListView = &app.document.LV;
     }
+    app.changes.announce(app, app::Change::Begun);
     // Of what was given up nothing is unsaved here any more, though the told flag stays as it was.
     app.changes.announce(app, app::Change::Opened);
     if (!fault.empty()) app::warn(app, path + " could not be opened:\n" + fault);

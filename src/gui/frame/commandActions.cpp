@@ -32,6 +32,8 @@ const std::vector<Shortcut>& shortcuts() {
         {"mnuSearch", "Search", QKeySequence(Qt::CTRL | Qt::Key_F)},
         {"Design", "Design", QKeySequence(Qt::CTRL | Qt::Key_L)},
         {"mnuExit", "", QKeySequence(Qt::CTRL | Qt::Key_Q)},
+        {"mnuUndo", "", QKeySequence(Qt::CTRL | Qt::Key_Z)},
+        {"mnuRedo", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
         {"mnuContents", "Help", QKeySequence(Qt::Key_F1)},
         {"Delete", "Delete", QKeySequence(Qt::Key_Delete)},
     };
@@ -45,6 +47,7 @@ QKeySequence shortcutOfButton(std::string_view key) {
 }
 
 constexpr std::array<std::string_view, 3> recentKeys = {"mnuFile1", "mnuFile2", "mnuFile3"};
+constexpr std::array<std::string_view, 2> namedKeys = {"mnuUndo", "mnuRedo"}; // by what they would do
 constexpr std::string_view separator = "-";
 
 } // namespace
@@ -141,6 +144,9 @@ void CommandActions::refresh() {
     int number = 0;
     for (const std::string_view key : recentKeys)
         showRecentFile(*action(key), ++number, app_.mainFrm.control(key).Caption);
+    for (const std::string_view key : namedKeys)
+        if (const std::string& caption = app_.mainFrm.control(key).Caption; !caption.empty())
+            action(key)->setText(toQt(caption));
     for (const auto& [key, action] : actions_) {
         action->setEnabled(shell::isCommandEnabled(app_, key));
         if (action->isCheckable()) action->setChecked(app_.mainFrm.control(key).Value);

@@ -1,6 +1,7 @@
 #include "gui/frame/eventBoundary.h"
 
 #include "core/runTimeError.h"
+#include "shell/undo.h"
 #include "storage/recovery.h"
 #include "storage/recoveryCopies.h"
 
@@ -15,7 +16,9 @@ EventBoundary::EventBoundary(app::App& app, std::function<void()> refresh)
 
 void EventBoundary::run(const std::function<void()>& handler) {
     try {
+        shell::beforeEvent(app_);
         handler();
+        shell::afterEvent(app_);
         refresh_();
     } catch (const core::RunTimeError& error) {
         fail("Error " + std::to_string(error.number) + ": " + error.what());

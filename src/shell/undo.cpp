@@ -1,0 +1,238 @@
+#include "shell/undo.h"
+
+#include "calc/selectedTotals.h"
+#include "core/runTimeError.h"
+#include "history/stepName.h"
+#include "history/undoStack.h"
+#include "invoice/views.h"
+#include "layout/layoutPage.h"
+#include "layout/replacedPictures.h"
+#include "layout/selection.h"
+#include "layout/sheet.h"
+#include "search/searchMode.h"
+#include "shell/mainWindow.h"
+#include "storage/recoveryCopies.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+namespace shell {
+
+using app::App;
+
+namespace {
+
+struct History {
+    history::UndoStack stack;
+    bool bRecords = false; // they may have changed since they were last looked at
+    std::string_view command;
+};
+
+History& historyOf(const App& app) {
+    return app.rooms.of<History>();
+}
+
+// What changes records is better named after the command than after what came of it.
+std::string_view nameOfCommand(std::string_view key) {
+    static constexpr std::array<std::array<std::string_view, 2>, 9> names = {{
+        {"mnuDuplicate", "Duplicate Record"},
+        {"mnuReplace", "Find And Replace"},
+        {"mnuPaste", "Paste"},
+        {"mnuCut", "Cut"},
+        {"mnuSetValues", "Set Values"},
+        {"mnuDuplicates", "Delete Duplicates"},
+        {"mnuVersions", "Restore Version"},
+        {"mnuSerialAdjust", "Adjust Serial Number"},
+        {"mnuCleanDatabase", "Clean Database"},
+    }};
+    const auto* found = std::ranges::find(names, key, [](const auto& name) { return name[0]; });
+    return found == names.end() ? std::string_view() : (*found)[1];
+}
+
+// A drag is one step, and so is what is typed into a label.
+bool isHalfWay(const App& app) {
+    const layout::LayoutPage& page = layout::layoutPage(app);
+    return page.drag != layout::LayoutPage::Drag::None || page.bEditingLabel;
+}
+
+void show(App& app, const char* key, const char* verb, const history::Step* step) {
+    app::Control& control = app.mainFrm.control(key);
+    control.Enabled = step != nullptr;
+    control.Caption = verb;
+    if (step != nullptr) control.Caption.append(" ").append(step->name);
+}
+
+void showSteps(App& app) {
+    show(app, "mnuUndo", "&Undo", historyOf(app).stack.undone());
+    show(app, "mnuRedo", "&Redo", historyOf(app).stack.redone());
+}
+
+void settle(App& app) {
+    History& history = historyOf(app);
+    if (!history.stack.isStarted() || isHalfWay(app)) return;
+    layout::ReplacedPictures& pictures = layout::replacedPictures(app);
+    for (file::KeptEntry& entry : pictures.entries) history.stack.notePicture(std::move(entry));
+    pictures.entries.clear();
+    history.stack.settle(
+        app.document, std::exchange(history.bRecords, false), [&](const history::Step& step) {
+            const std::string_view command = nameOfCommand(history.command);
+            return command.empty() ? history::nameOf(step, history.stack) : std::string(command);
+        });
+}
+
+void begin(App& app) {
+    historyOf(app).stack.stop();
+    layout::replacedPictures(app) = {};
+    showSteps(app);
+}
+
+bool isDocument(const App& app) {
+    return !app.document.currentFile.empty() || app.document.LV.columns.count() > 1;
+}
+
+// Puts an entry into the open file and answers the one that was there.
+file::KeptEntry swapPicture(App& app, const file::KeptEntry& entry) {
+    app.changes.announce(app, app::Change::Writing);
+    file::Zip Zip;
+    Zip.OpenArchive(app.document.currentFile);
+    file::KeptEntry other = file::keepEntry(Zip, entry.name);
+    file::putBack(Zip, entry);
+    Zip.CloseArchive();
+    app.changes.announce(app, app::Change::Written);
+    std::error_code none;
+    const std::filesystem::path shown = app.platform.tempFolder() / entry.name;
+    std::filesystem::remove(shown, none); // it is unpacked anew
+    return other;
+}
+
+// The page shows other objects, scrolled as it was.
+void showObjects(App& app) {
+    if (app.mainFrm.SSTab1 != app::layoutTab) return;
+    const layout::LayoutPage& page = layout::layoutPage(app);
+    const int top = page.layoutVScroll.Value;
+    const int left = page.layoutHScroll.Value;
+    const core::ObjectRef selected = page.selectedObject;
+    layout::InitLayout(app, layout::isDesignMode(app));
+    if (top != 0) layout::layoutVScroll_Change(app, top);
+    if (left != 0) layout::layoutHScroll_Change(app, left);
+    if (layout::isDesignMode(app) && selected.isObject() &&
+        core::findObject(app.document.layout, selected) != nullptr)
+        layout::select(app, selected);
+}
+
+// The list of the invoices is built for the layout as it is, but shows the columns that it had: after a
+// change of the layout it is built anew no sooner than with the next record.
+void refreshInvoiceRows(core::Document& document, const core::ColumnHeaders& columns) {
+    if (!document.bInvoiceStyle) return;
+    const core::ColumnHeaders built = std::exchange(document.iLV.columns, columns);
+    if (!std::ranges::equal(built, columns, {}, &core::Column::Key, &core::Column::Key))
+        document.iLV.forEach([&](core::Item& row) {
+            const std::vector<core::CellText> cells = std::move(row.cells);
+            row.cells.assign(static_cast<std::size_t>(columns.count() - 1), {});
+            for (const core::Column& column : columns)
+                if (const core::Column* source = built.find(column.Key);
+                    source != nullptr && column.Index > 1)
+                    row.subItem(column.Index - 1) = cells.at(static_cast<std::size_t>(source->Index - 2));
+        });
+    const core::Item* record = document.LV.selectedItem();
+    document.iLV.clearSelection();
+    document.iLV.setSelectedItem(record == nullptr ? nullptr : document.iLV.findText(record->Key));
+}
+
+void showRecords(App& app) {
+    core::Document& document = app.document;
+    app::showRecordCount(app, document.LV);
+    app.mainFrm.Slider1.Max = std::max(document.LV.count() - 1, 1);
+    calc::RefreshSelectedTotals(document);
+    app.mainFrm.selectedRows.clear();
+    if (app.mainFrm.SSTab1 == app::layoutTab) {
+        document.LV.MultiSelect = false; // the sheet shows one record
+        document.LV.setSelectedItem(document.LV.selectedItem());
+    }
+    app.mainFrm.listScroll = app::ListScroll::ToCurrent;
+}
+
+void showChanged(App& app, bool bColumns, bool bObjects) {
+    app.mainFrm.viewOpt = app.document.bInvoiceView ? 0 : 1;
+    const core::ColumnHeaders shown = app.document.iLV.columns;
+    app.changes.announce(app, app::Change::Objects);
+    if (bObjects) showObjects(app);
+    showRecords(app);
+    app.changes.announce(app, bColumns ? app::Change::Columns : app::Change::Values);
+    refreshInvoiceRows(app.document, shown);
+    if (app.document.searchLV.Visible && bColumns)
+        search::leaveResults(app);
+    else
+        search::followRecords(app);
+    app.changes.announce(app, app::Change::CurrentRecord);
+}
+
+void go(App& app, bool bBack) {
+    settle(app);
+    history::UndoStack& stack = historyOf(app).stack;
+    const history::Step* step = bBack ? stack.undone() : stack.redone();
+    if (step == nullptr || isHalfWay(app)) return;
+    const auto design = stack.designPart();
+    const auto objects = stack.objectsPart();
+    const auto swap = [&](const file::KeptEntry& entry) { return swapPicture(app, entry); };
+    try {
+        if (bBack)
+            stack.undo(app.document, swap);
+        else
+            stack.redo(app.document, swap);
+    } catch (const core::RunTimeError& error) {
+        app::warn(app, std::string("A picture could not be put back: ") + error.what());
+        return;
+    }
+    const bool bColumns = stack.designPart() != design;
+    showChanged(app, bColumns, bColumns || stack.objectsPart() != objects);
+    app::setDocumentModified(app, !stack.isSaved());
+    if (stack.isSaved()) storage::removeUnsavedWork(app);
+}
+
+} // namespace
+
+void beforeEvent(App& app) {
+    History& history = historyOf(app);
+    if (!history.stack.isStarted()) {
+        if (!isDocument(app)) return;
+        history.stack.start(app.document, !app.document.bModified);
+        layout::replacedPictures(app).isKept = true;
+    }
+    settle(app); // what came without an event, like the width of a column
+    if (!isHalfWay(app)) history.stack.noteSelection(app.document);
+}
+
+void afterEvent(App& app) {
+    settle(app);
+    showSteps(app);
+}
+
+void undo(App& app) {
+    go(app, true);
+}
+void redo(App& app) {
+    go(app, false);
+}
+
+RunningCommand::RunningCommand(App& app, std::string_view key)
+    : app_(app), before_(std::exchange(historyOf(app).command, key)) {}
+
+RunningCommand::~RunningCommand() {
+    historyOf(app_).command = before_;
+}
+
+void followForUndo(app::Changes& changes) {
+    using app::Change;
+    changes.follow({Change::Begun}, begin);
+    changes.follow(
+        {Change::Modified, Change::Columns, Change::Values, Change::CurrentRecord, Change::Unsaved},
+        [](App& app) { historyOf(app).bRecords = true; });
+    changes.follow({Change::Stored}, [](App& app) {
+        settle(app);
+        historyOf(app).stack.markSaved();
+    });
+}
+
+} // namespace shell
