@@ -107,11 +107,16 @@ void followRecords(App& app) {
         [&](const Item& result) { return !result.isTotals() && document.LV.find(result.Tag) == nullptr; });
     core::resetTotalsRow(results);
     const core::TotalsRowUpdater totals(document, results);
+    Item* current = results.selectedItem();
     results.forEach([&](Item& result) {
         if (result.isTotals()) return;
-        result.cells = document.LV.byKey(result.Tag).cells;
+        const Item& record = document.LV.byKey(result.Tag);
+        result.cells = record.cells;
         totals.update(core::TotalsMode::Add, result);
+        if (&record == document.LV.selectedItem()) current = &result;
     });
+    results.clearSelection();
+    results.setSelectedItem(current);
 }
 
 void refreshResults(App& app) {

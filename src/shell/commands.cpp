@@ -191,8 +191,9 @@ bool isCommandEnabled(const App& app, std::string_view key) {
 }
 
 void runCommand(App& app, std::string_view key) {
-    const RunningCommand running(app, command(key).key);
+    RunningCommand running(app, command(key).key);
     press(app, key);
+    running.end();
     app::allowManySelected(app);
 }
 

@@ -146,15 +146,12 @@ void showRecords(App& app) {
     app.mainFrm.Slider1.Max = std::max(document.LV.count() - 1, 1);
     calc::RefreshSelectedTotals(document);
     app.mainFrm.selectedRows.clear();
-    if (app.mainFrm.SSTab1 == app::layoutTab) {
-        document.LV.MultiSelect = false; // the sheet shows one record
-        document.LV.setSelectedItem(document.LV.selectedItem());
-    }
     app.mainFrm.listScroll = app::ListScroll::ToCurrent;
 }
 
 void showChanged(App& app, bool bColumns, bool bObjects) {
     app.mainFrm.viewOpt = app.document.bInvoiceView ? 0 : 1;
+    const history::Selection selected = history::Selection::of(app.document.LV);
     const core::ColumnHeaders shown = app.document.iLV.columns;
     app.changes.announce(app, app::Change::Objects);
     if (bObjects) showObjects(app);
@@ -166,6 +163,8 @@ void showChanged(App& app, bool bColumns, bool bObjects) {
     else
         search::followRecords(app);
     app.changes.announce(app, app::Change::CurrentRecord);
+    selected.putInto(app.document.LV); // the page has taken one of them perhaps
+    app.document.LV.MultiSelect = app.mainFrm.SSTab1 != app::layoutTab;
 }
 
 void go(App& app, bool bBack) {
@@ -218,6 +217,10 @@ void redo(App& app) {
 
 RunningCommand::RunningCommand(App& app, std::string_view key)
     : app_(app), before_(std::exchange(historyOf(app).command, key)) {}
+
+void RunningCommand::end() {
+    settle(app_);
+}
 
 RunningCommand::~RunningCommand() {
     historyOf(app_).command = before_;

@@ -19,6 +19,7 @@ class RunningCommand {
 public:
     RunningCommand(app::App& app, std::string_view key);
     ~RunningCommand();
+    void end(); // what it has changed is its step
     RunningCommand(const RunningCommand&) = delete;
     RunningCommand& operator=(const RunningCommand&) = delete;
 
