@@ -18,7 +18,9 @@ namespace {
 
 void followUnsaved(app::App& app) {
     storage::UnsavedWork& work = storage::unsavedWork(app);
-    if (app.mainFrm.SSTab1 == app::layoutTab) {
+    if (work.typedInForm) {
+        // It says by itself what that is.
+    } else if (app.mainFrm.SSTab1 == app::layoutTab) {
         work.isTyped = true;
         work.typedKey = entry::sheet(app).shownKey;
     } else {
@@ -38,7 +40,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Columns, Change::Values}, [](App& app) { storage::markUnsaved(app); });
     // What was typed on the sheet is gone with it.
     changes.follow({Change::CurrentRecord}, [](App& app) { storage::unsavedWork(app).isTyped = false; });
-    changes.follow({Change::Stored}, storage::removeUnsavedWork);
+    changes.follow({Change::Stored}, storage::followStoredWork);
     changes.follow({Change::Opened}, storage::followOpened);
     changes.follow({Change::Stored}, storage::followStored);
     changes.follow({Change::Writing}, storage::followWriting);

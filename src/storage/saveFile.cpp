@@ -22,6 +22,7 @@ void pack(App& app, const std::string& bytes) {
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
     openedFile(app).written = Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
+    noteUnsynced(app, Zip);
 }
 
 // The copy carries all the images along. It is finished beside its place and takes it in one step, so
@@ -31,16 +32,14 @@ void packCopy(App& app, const std::string& target, const std::string& bytes) {
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
     openedFile(app).written = Zip.CloseArchiveAs(target, keepingVersion(app, target));
+    noteUnsynced(app, Zip);
     app.document.currentFile = target;
 }
 
 void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
-    if (!target || !mayWriteTo(app, *target) || !guardTarget(app, *target)) return;
-    app.changes.announce(app, app::Change::Writing); // the file may be the open one
-    packAlone(app, *target, bytes);
-    app.changes.announce(app, app::Change::Written);
+    if (target) (void)writeNewFile(app, *target, [&] { packAlone(app, *target, bytes); });
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {

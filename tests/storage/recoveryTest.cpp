@@ -1,4 +1,5 @@
 #include "databases.h"
+#include "entry/entryFrm.h"
 #include "entry/fieldEvents.h"
 #include "entry/navBar.h"
 #include "shell/mainWindow.h"
@@ -6,8 +7,11 @@
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
+#include "storage/saveSearch.h"
+#include "storage/versionsFrm.h"
 #include "support/table.h"
 
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
 
@@ -19,6 +23,7 @@ using namespace std::chrono_literals;
 struct UserMachine : ScriptedPlatform {
     fs::path state;
     fs::path stateFolder() override { return state; }
+    fs::path versionsFolder() override { return state / "versions"; }
 };
 
 struct Window : ProgramOn<UserMachine> {
@@ -219,6 +224,110 @@ TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
         EXPECT_EQ(entry::isSheetNew(window.app), isNew);
         storage::removeUnsavedWork(window.app);
     }
+}
+
+TEST_F(Recovery, ShowsAgainWhatWasTypedInTheEntryForm) {
+    const DataFile data("Name Place", "Bolt|1;Nut|2");
+    {
+        Window window(home);
+        window.open(file = maker.make("books.fwk", data.text()));
+        window.app.document.LV.setSelectedItem(&window.app.document.LV.at(2));
+        entry::entryFrm form(window.app);
+        form.FieldBox_Change(1, "given up");
+        form.Toolbar1_ButtonClick("Back");
+        EXPECT_FALSE(storage::keepUnsavedWork(window.app));
+        form.FieldBox_Change(0, "half\n a \\sent");
+        form.Toolbar1_ButtonClick("Save"); // of the records, not of the boxes
+        ASSERT_TRUE(storage::keepUnsavedWork(window.app));
+        window.kill();
+    }
+    Window window(home);
+    window.platform.choices = {0};
+    std::string shown;
+    window.platform.onForm = [&](auto) {
+        entry::entryFrm form(window.app);
+        shown = form.FieldBox[0].Text + "/" + form.FieldBox[1].Text;
+        form.Toolbar1_ButtonClick("Update");
+        EXPECT_FALSE(storage::unsavedWork(window.app).typedInForm);
+    };
+    window.open(file);
+    EXPECT_EQ(shown, "half\n a \\sent/1");
+    EXPECT_EQ(window.cell(2, "Name"), "Nut");
+    EXPECT_EQ(entry::entryFrm(window.app).FieldBox[0].Text, window.cell(1, "Name"));
+}
+
+// Whatever writes a file under a name of its own says who has that one open, behind its own question.
+TEST_F(Recovery, NothingOverwritesWhatAnotherHolds) {
+    const std::string held = maker.make("held.fwk", DataFile("Name", "Held").text());
+    const std::string other = maker.make("other.fwk", DataFile("Name", "Other").text());
+    crash("Washer");
+    Window holder(home);
+    holder.open(held);
+    const auto lock = file::WriterLock::take(other);
+    const std::pair<const char*, std::function<void(Window&)>> ways[] = {
+        {"save as", [](Window& w) { storage::SaveFile(w.app, true, false); }},
+        {"clone", [](Window& w) { storage::SaveFile(w.app, false, true); }},
+        {"search results", [](Window& w) { storage::saveSearchResults(w.app); }},
+        {"new", [](Window& w) { w.run("mnuNewDatabase"); }},
+        {"version",
+         [](Window& w) {
+             w.add("Screw");
+             storage::SaveFile(w.app, false, false);
+             storage::versionsFrm(w.app).copyBtn_Click();
+         }},
+        {"look at a copy", [this](Window& w) { w.platform.choices = {1}, w.open(file); }},
+        {"open a copy", [&](Window& w) { w.platform.choices = {1}, w.open(other); }},
+    };
+    for (const auto& [name, act] : ways) {
+        SCOPED_TRACE(name);
+        Window window(home);
+        window.open(file);
+        window.told();
+        window.platform.files = {held};
+        window.platform.answers = {platform::Answer::Yes};
+        window.platform.onForm = [&](auto) { window.app.mainFrm.bDatabaseTypeChosen = true; };
+        act(window);
+        EXPECT_NE(window.told().find("held.fwk is open elsewhere, by "), std::string::npos);
+        EXPECT_TRUE(window.platform.answers.empty());
+        EXPECT_NE(window.dataFileOf(held).find("Held"), std::string::npos);
+        EXPECT_FALSE(storage::openedFile(window.app).next);
+        storage::removeUnsavedWork(window.app);
+    }
+}
+
+TEST_F(Recovery, ALockEndsWithItsWindowThoughTheWriterRuns) {
+    const auto open = [&] { return file::FileHandle(::open(file.c_str(), O_RDWR | O_CLOEXEC)); };
+    file::FileHandle ofWindow = open();
+    ASSERT_EQ(::flock(ofWindow.get(), LOCK_EX), 0);
+    storage::BackgroundWriter writer;
+    (void)writer.start([] { ::pause(); });
+    ofWindow.reset();
+    const file::FileHandle next = open();
+    for (int i = 0; i < 2000 && ::flock(next.get(), LOCK_EX | LOCK_NB) != 0; ++i)
+        std::this_thread::sleep_for(1ms);
+    EXPECT_EQ(::flock(next.get(), LOCK_EX | LOCK_NB), 0);
+}
+
+// Somebody removes the lock file, and then takes the lock.
+TEST_F(Recovery, ASaveLooksWhetherItsLockIsStillThere) {
+    Window window(home);
+    window.open(file);
+    const fs::path place = file::WriterLock::pathFor(file);
+    for (const char* name : {"Washer", "Screw"}) {
+        fs::remove(place);
+        window.add(name);
+        storage::SaveFile(window.app, false, false);
+        EXPECT_TRUE(storage::openedFile(window.app).lock->isStillHeld());
+    }
+    fs::remove(place);
+    const auto theirs = file::WriterLock::take(file);
+    window.platform.choices = {-1, 1};
+    for (const char* told : {"elsewhere, by ", "elsewhere, by ", ""}) {
+        window.add("Late");
+        storage::SaveFile(window.app, false, false);
+        EXPECT_NE(window.told().find(told), std::string::npos);
+    }
+    EXPECT_TRUE(theirs.lock->isStillHeld());
 }
 
 // Two windows and a file that both want.

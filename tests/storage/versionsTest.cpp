@@ -77,10 +77,10 @@ TEST(Versions, AFailureIsShownOnceAndTheSaveIsDone) {
     program.addAndSave("Screw", "3");
     EXPECT_TRUE(program.panel(app::documentPanel).starts_with("No version kept: ")) << program.panel(5);
     EXPECT_NE(program.dataFileOf(program.path("books.fwk")).find("Screw|3|"), std::string::npos);
-    EXPECT_NE(storage::takeVersionFailure(program.app), "");
+    EXPECT_NE(storage::takeNoted(program.app), "");
     program.addAndSave("Washer", "4");
     EXPECT_EQ(program.panel(app::documentPanel), "Document Saved");
-    EXPECT_EQ(program.told() + storage::takeVersionFailure(program.app), "");
+    EXPECT_EQ(program.told() + storage::takeNoted(program.app), "");
 }
 
 TEST(VersionsFrm, ShowsRestoresAndCopies) {
