@@ -93,8 +93,11 @@ void addToArchive(App& app, const fs::path& file, const std::string& comment) {
     app.changes.announce(app, app::Change::Writing);
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
+    file::Zip::BeforeReplacing keep;
+    const auto& keeping = app.rooms.of<ReplacedPictures>().keeping;
+    if (keeping && Zip.contains(file.filename())) keep = keeping(app, app.document.currentFile);
     Zip.AddFile(file, comment);
-    Zip.CloseArchive();
+    Zip.CloseArchive(keep);
     app.changes.announce(app, app::Change::Written);
 }
 

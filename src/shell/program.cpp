@@ -5,12 +5,14 @@
 #include "entry/retrieveData.h"
 #include "entry/shownRecord.h"
 #include "invoice/views.h"
+#include "layout/images.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
 #include "shell/mainWindow.h"
 #include "shell/recoveryOffer.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
+#include "storage/versions.h"
 
 namespace shell {
 
@@ -34,6 +36,7 @@ void followUnsaved(app::App& app) {
 // Who follows which change, in the order in which they are told.
 Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     using app::Change;
+    rooms.of<layout::ReplacedPictures>().keeping = storage::keepingVersion;
     changes.follow({Change::Modified}, app::showModified);
     changes.follow({Change::Modified}, storage::followModified);
     changes.follow({Change::Unsaved}, followUnsaved);

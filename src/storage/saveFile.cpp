@@ -43,7 +43,7 @@ void packClone(App& app, const std::string& bytes) {
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {
-    if (saveAsTarget && !mayWriteTo(app, *saveAsTarget)) return;
+    if (saveAsTarget && (!mayWriteTo(app, *saveAsTarget) || !guardTarget(app, *saveAsTarget))) return;
     const std::string bytes = file::encodeDataFile(file::writeDataFile(app.document, bClone));
     keepDataFile(app, bytes);
     // Said before the archive is touched: a failed pack does not show as unsaved. It is wanted so.
@@ -70,10 +70,10 @@ std::optional<core::RunTimeError> SaveFile(App& app, bool bSaveAs, bool bClone) 
     if (way == SaveWay::None) return std::nullopt;
     if (way == SaveWay::SaveAs) {
         target = app.platform.showSave({"Save As...", "Untitled.fwk", std::string(platform::databaseFilter)});
-        if (!target || !guardTarget(app, *target)) return std::nullopt;
+        if (!target) return std::nullopt;
         if (*target == app.document.currentFile) {
+            if (!guardTarget(app, *target) || waySaveOver(app) != SaveWay::Save) return std::nullopt;
             target.reset(); // a plain save
-            if (waySaveOver(app) != SaveWay::Save) return std::nullopt;
         }
     }
     try {

@@ -1,5 +1,7 @@
 #include "storage/versions.h"
 #include "databases.h"
+#include "layout/images.h"
+#include "shell/mainWindow.h"
 #include "storage/saveFile.h"
 #include "storage/versionsFrm.h"
 
@@ -68,6 +70,18 @@ TEST(Versions, EverySaveKeepsWhatItReplaces) {
     program.addAndSave("Last", "6");
     EXPECT_EQ(program.listed(), "2 ");
     EXPECT_EQ(program.platform.settings["KeepVersions"], "False");
+}
+
+TEST(Versions, APictureThatTakesThePlaceOfAnotherKeepsThatOne) {
+    KeepingProgram program;
+    const DataFile data = DataFile("Name Photo:7", "Bolt|a.jpg").objects("P|Photo|0|0|1815|1575|");
+    program.open(program.make("photos.fwk", data.text(), {"a.jpg"}));
+    shell::SSTab1_Click(program.app, app::layoutTab);
+    for (const auto& [name, listed] : {std::pair{"b.jpg", ""}, {"a.jpg", "1 "}}) {
+        program.platform.files = {program.platform.pictureFile(name, {1500, 1500})};
+        layout::imgHolder_DblClick(program.app, 1);
+        EXPECT_EQ(program.told() + program.listed(), listed);
+    }
 }
 
 TEST(Versions, AFailureIsShownOnceAndTheSaveIsDone) {
