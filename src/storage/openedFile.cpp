@@ -6,6 +6,7 @@
 #include "file/zip.h"
 #include "storage/openFile.h"
 #include "storage/recoveryCopies.h"
+#include "storage/saveFile.h"
 #include "storage/saveSteps.h"
 #include "storage/versions.h"
 
@@ -234,6 +235,11 @@ void replaceAtNextSave(App& app) {
 }
 
 void writeOpenedAgain(App& app) {
+    // It has come back, or its place is somebody else's meanwhile.
+    if (changeOfOpened(app) != FileState::Change::Gone || !whoTookLock(openedFile(app)).empty()) {
+        tellReason(app, SaveFile(app, false, false));
+        return;
+    }
     try {
         packAlone(app, app.document.currentFile,
                   file::encodeDataFile(file::writeDataFile(app.document, false)));

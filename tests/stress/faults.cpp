@@ -8,8 +8,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
-#include <fcntl.h>
+#include <fstream>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -21,7 +22,7 @@ long real(const char* name, Arguments... arguments) {
     return reinterpret_cast<long (*)(Arguments...)>(::dlsym(RTLD_NEXT, name))(arguments...);
 }
 
-const char* setting(const char* name) {
+std::string setting(const char* name) {
     const char* value = std::getenv(name);
     return value == nullptr ? "" : value;
 }
@@ -29,32 +30,30 @@ const char* setting(const char* name) {
 std::atomic<int> calls{0};
 thread_local bool isWithin = false;
 
-bool concerns(const char* path) {
-    const char* part = setting("FAULT_PATH");
-    return *part != '\0' && path != nullptr && std::strstr(path, part) != nullptr;
-}
-
-bool concernsOpen(long fd) {
+// Of a call on that path, or on that open file.
+bool concerns(bool isOpen, long where) {
     char path[4096] = {};
-    const std::string link = "/proc/self/fd/" + std::to_string(static_cast<int>(fd));
-    return real("readlink", link.c_str(), path, sizeof path - 1) > 0 && concerns(path);
+    const std::string link = "/proc/self/fd/" + std::to_string(static_cast<int>(where)),
+                      part = setting("FAULT_PATH");
+    if (isOpen) real("readlink", link.c_str(), path, sizeof path - 1);
+    const char* named = isOpen ? path : reinterpret_cast<const char*>(where);
+    return !part.empty() && named != nullptr && std::strstr(named, part.c_str()) != nullptr;
 }
 
-// Whether this call is the one.
-bool fails(const char* name, bool isOpen, long where) {
-    if (isWithin) return false;
-    isWithin = true;
+template <typename... Arguments>
+long call(const char* name, bool isOpen, long where, Arguments... arguments) {
     const int before = errno;
-    const bool isWatched = isOpen ? concernsOpen(where) : concerns(reinterpret_cast<const char*>(where));
-    const bool hit = isWatched && ++calls == std::atoi(setting("FAULT_AT"));
-    if (hit) {
-        const long fd = real("open", setting("FAULT_DONE"), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        real("write", fd, name, std::strlen(name));
-        real("close", fd);
+    bool hit = false;
+    if (!std::exchange(isWithin, true)) {
+        hit = concerns(isOpen, where) && ++calls == std::stoi("0" + setting("FAULT_AT"));
+        if (hit) std::ofstream(setting("FAULT_DONE")) << name;
+        isWithin = false;
     }
-    errno = hit ? std::atoi(setting("FAULT_ERRNO")) : before;
-    isWithin = false;
-    return hit;
+    errno = before;
+    const bool isDone = !hit || std::strcmp(name, "close") == 0;
+    const long result = isDone ? real(name, arguments...) : -1;
+    if (hit) errno = std::stoi(setting("FAULT_ERRNO"));
+    return hit ? -1 : result;
 }
 
 } // namespace
@@ -63,12 +62,7 @@ bool fails(const char* name, bool isOpen, long where) {
 #define FORWARD(NAME, IS_OPEN, WHERE)                                                                        \
     extern "C" long faulty_##NAME(long a, long b, long c, long d, long e, long f) __asm__(#NAME);            \
     long faulty_##NAME(long a, long b, long c, long d, long e, long f) {                                     \
-        const bool hit = fails(#NAME, IS_OPEN, WHERE);                                                       \
-        const int failure = errno;                                                                           \
-        if (hit && std::strcmp(#NAME, "close") != 0) return -1;                                              \
-        const long result = real(#NAME, a, b, c, d, e, f);                                                   \
-        if (hit) errno = failure;                                                                            \
-        return hit ? -1 : result;                                                                            \
+        return call(#NAME, IS_OPEN, WHERE, a, b, c, d, e, f);                                                \
     }
 #define ON_PATH(NAME) FORWARD(NAME, false, a)
 #define ON_OPEN(NAME) FORWARD(NAME, true, a)
