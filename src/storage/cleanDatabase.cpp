@@ -82,7 +82,7 @@ std::vector<std::string> cleanDatabase(App& app) {
         removed.push_back(name);
     }
     Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
-    noteUnsynced(app, Zip);
+    noteUnsynced(app, Zip, app.document.currentFile);
     app.changes.announce(app, app::Change::Written);
     return removed;
 }

@@ -22,7 +22,7 @@ void pack(App& app, const std::string& bytes) {
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
     openedFile(app).written = Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
-    noteUnsynced(app, Zip);
+    noteUnsynced(app, Zip, app.document.currentFile);
 }
 
 // The copy carries all the images along. It is finished beside its place and takes it in one step, so
@@ -32,7 +32,7 @@ void packCopy(App& app, const std::string& target, const std::string& bytes) {
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
     openedFile(app).written = Zip.CloseArchiveAs(target, keepingVersion(app, target));
-    noteUnsynced(app, Zip);
+    noteUnsynced(app, Zip, target);
     app.document.currentFile = target;
 }
 

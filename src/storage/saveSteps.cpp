@@ -45,7 +45,7 @@ void packAlone(App& app, const std::string& target, const std::string& bytes) {
     Zip.CreateArchive(target, "", app.document.currentFile);
     addData(Zip, bytes);
     Zip.CloseArchive(keepingVersion(app, target));
-    noteUnsynced(app, Zip);
+    noteUnsynced(app, Zip, target);
 }
 
 core::RunTimeError tellFailure(App& app, bool bSaveAs, const std::exception& error) {

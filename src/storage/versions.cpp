@@ -81,10 +81,11 @@ void noteRecords(App& app, std::uint32_t textChecksum) {
     app.rooms.of<VersionState>().known = file::KnownText{textChecksum, app.document.LV.count() - 1};
 }
 
-void noteUnsynced(App& app, const file::Zip& Zip) {
+void noteUnsynced(App& app, const file::Zip& Zip, const std::string& file) {
     if (Zip.folderError() == 0) return;
-    note(app, std::string("Written, but the folder could not be synced to the disk: ") +
-                  std::strerror(Zip.folderError()));
+    std::string text = "Written, but the folder of ";
+    text.append(file).append(" could not be synced to the disk: ").append(std::strerror(Zip.folderError()));
+    note(app, std::move(text));
 }
 
 std::string takeNoted(App& app) {

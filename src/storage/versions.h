@@ -33,7 +33,7 @@ void storeVersionSettings(app::App& app, const VersionSettings& settings);
 void noteRecords(app::App& app, std::uint32_t textChecksum);
 // Shows in the status bar that the archive is in its place, but not for certain after a loss of power, when
 // it is so.
-void noteUnsynced(app::App& app, const file::Zip& Zip);
+void noteUnsynced(app::App& app, const file::Zip& Zip, const std::string& file);
 // What was noted since the last call, for who has no status bar: why no version could be kept, or this.
 [[nodiscard]] std::string takeNoted(app::App& app);
 
