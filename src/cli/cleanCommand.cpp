@@ -23,7 +23,7 @@ int clean(const CleanOptions& options) {
         for (const std::string& name : storage::cleanDatabase(session.app))
             removed.append(printable(name)).push_back('\n');
     });
-    session.tellVersionFailure();
+    session.tellNoted();
     writeOutcome(removed);
     return done;
 }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cctype>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
@@ -204,6 +205,9 @@ void Session::saveAs(const std::string& target) {
     const std::string& current = app.document.currentFile;
     platform.setSaveName(isSameFile(target, current) ? current : target);
     lockTarget(target);
+    // The pictures come from the file. It is not locked for that: whoever reads one has all of it, since it
+    // is replaced in one step; but records and pictures are read one after the other.
+    refuseIfChanged();
     run(target, [this] { return storage::SaveFile(app, true, false); });
 }
 
@@ -230,15 +234,17 @@ void Session::run(const std::string& target, const std::function<std::optional<c
     if (target.empty()) throw Failure("a database needs a file name");
     const int refusals = platform.refusedQuestions();
     const std::optional<core::RunTimeError> error = save();
-    tellVersionFailure();
+    tellNoted();
     if (platform.refusedQuestions() != refusals)
         throw Failure(target, "it exists already, --yes overwrites it");
     if (error) throw Failure(target, "could not be saved: " + whyNotWritten(target, *error));
 }
 
-void Session::tellVersionFailure() const {
-    const std::string reason = storage::takeVersionFailure(app);
-    if (!reason.empty()) std::cerr << "fwk: " << printable("no version kept: " + reason) << '\n';
+void Session::tellNoted() const {
+    std::string text = storage::takeNoted(app);
+    if (text.empty()) return;
+    text.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(text.front())));
+    std::cerr << "fwk: " << printable(text) << '\n';
 }
 
 core::Column& Session::column(std::string_view name) {

@@ -63,8 +63,8 @@ public:
 
     // A file that is about to be made or overwritten.
     void lockTarget(const std::string& target);
-    // Says it on standard error when the state that a save has replaced could not be kept.
-    void tellVersionFailure() const;
+    // Says on standard error what else there is to say of a save: that no version could be kept, for example.
+    void tellNoted() const;
 
     // Raises Failure when a file that is to be written, by whatever name, is the database itself.
     void refuseAsOutput(const std::string& output) const;

@@ -97,9 +97,9 @@ int restore(const VersionOptions& options) {
     const auto version = std::ranges::find(versions, options.number, &file::Version::number);
     if (version == versions.end())
         throw Failure(options.file, "no version " + std::to_string(options.number));
+    session.lockTarget(options.target); // so that nobody makes it after it was looked for
     if (file::fileExists(options.target) && !options.yes)
         throw Failure(options.target, "it exists already, --yes overwrites it");
-    session.lockTarget(options.target);
     std::vector<std::string> told;
     try {
         const auto keep = storage::keepingVersion(session.app, options.target);
@@ -113,7 +113,7 @@ int restore(const VersionOptions& options) {
         throw Failure(options.target,
                       "could not be written: " + Session::whyNotWritten(options.target, error));
     }
-    session.tellVersionFailure();
+    session.tellNoted();
     tellRows(options.target, told);
     return done;
 }

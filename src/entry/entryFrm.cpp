@@ -5,9 +5,11 @@
 #include "entry/editRecord.h"
 #include "entry/invoiceRecords.h"
 #include "entry/retrieveData.h"
+#include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace entry {
 
@@ -53,9 +55,36 @@ entryFrm::entryFrm(app::App& app) : app_(app) {
     RefreshEditBoxes();
     // A form of one box starts empty. It is wanted so.
     if (list().count() >= 2 && count() >= 2) RetrieveData();
+    takeTypedBefore();
+}
+
+entryFrm::~entryFrm() {
+    storage::unsavedWork(app_).typedInForm = nullptr;
+}
+
+// What is typed and not stored is kept for the case of a crash.
+void entryFrm::tellTyped() {
+    storage::unsavedWork(app_).typedInForm = [this] {
+        storage::TypedInForm typed;
+        const RecordsList& shown = list();
+        if (const Item* record = currentRecord(app_))
+            typed.key = &shown == &app_.document.LV ? record->Key : record->Tag;
+        for (const TextBox& box : FieldBox) typed.boxes.emplace_back(box.Tag, box.Text);
+        return typed;
+    };
+    app_.changes.announce(app_, app::Change::Unsaved);
+}
+
+void entryFrm::takeTypedBefore() {
+    const storage::BoxTexts typed = std::exchange(app_.rooms.of<TypedBefore>().boxes, {});
+    for (const auto& [column, text] : typed)
+        for (TextBox& box : FieldBox)
+            if (box.Tag == column) setText(box, text);
+    if (!typed.empty()) tellTyped();
 }
 
 void entryFrm::Form_QueryUnload() {
+    storage::unsavedWork(app_).typedInForm = nullptr; // given up
     list().MultiSelect = true;
     unloaded = true;
 }
@@ -167,6 +196,7 @@ void entryFrm::FieldBox_LostFocus(int Index) {
 
 void entryFrm::FieldBox_Change(int Index, std::string_view text) {
     box(Index).Text = text;
+    tellTyped();
     if (bFieldChanged) {
         bFieldChanged = false;
         return;
@@ -235,6 +265,7 @@ void entryFrm::clearBoxes() {
 void entryFrm::RetrieveData() {
     const Item* record = currentRecord(app_);
     if (record == nullptr) return;
+    storage::unsavedWork(app_).typedInForm = nullptr; // another record takes its place
     for (TextBox& box : FieldBox)
         if (const Column* column = app_.document.LV.columns.find(box.Tag))
             setText(box, shownText(*column, RecordsList::cell(*record, *column)));

@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 #include "entry/masks.h"
+#include "storage/recoveryNote.h"
 
 #include <array>
 #include <optional>
@@ -11,6 +12,12 @@
 
 namespace entry {
 
+// What was typed into the boxes when the program ended without being asked to, for the next form that is
+// loaded.
+struct TypedBefore {
+    storage::BoxTexts boxes;
+};
+
 // The key codes that the form's boxes know.
 constexpr int keyBack = 8, keyReturn = 13, keyUp = 38, keyDown = 40;
 
@@ -19,6 +26,9 @@ constexpr int keyBack = 8, keyReturn = 13, keyUp = 38, keyDown = 40;
 class entryFrm {
 public:
     explicit entryFrm(app::App& app); // Load
+    ~entryFrm();
+    entryFrm(const entryFrm&) = delete;
+    entryFrm& operator=(const entryFrm&) = delete;
 
     // Where a control stands in what holds it, in twips.
     struct Place {
@@ -87,6 +97,8 @@ private:
     TextBox& box(int Index) { return FieldBox.at(static_cast<std::size_t>(Index)); }
     const core::Column* columnOf(int Index) const;
 
+    void tellTyped();
+    void takeTypedBefore();
     void makeTemplates();
     void loadRow(const std::string& title);
     void layOutPane();

@@ -173,14 +173,15 @@ void AtomicFile::takeOverAttributes() const {
     if (::fchmod(fd(), mode) != 0) raiseSystemError(errno, target.string());
 }
 
-void AtomicFile::commit() {
+int AtomicFile::commit() {
     takeOverAttributes();
     if (::fsync(fd()) != 0) raiseSystemError(errno, target.string());
     if (::rename(beside.c_str(), target.c_str()) != 0) raiseSystemError(errno, target.string());
     beside.clear();
-    // The new file is in place; a folder that cannot be synced (some file systems refuse) is no failure.
+    // Some file systems refuse to sync a folder, and one that may not be read cannot be.
     const FileHandle folder(::open(folderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.isOpen()) ::fsync(folder.get());
+    if (!folder.isOpen() || ::fsync(folder.get()) == 0) return 0;
+    return errno == EIO || errno == ENOSPC || errno == EDQUOT ? errno : 0;
 }
 
 } // namespace file

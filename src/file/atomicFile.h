@@ -28,7 +28,9 @@ public:
     AtomicFile& operator=(const AtomicFile&) = delete;
 
     [[nodiscard]] int fd() const { return handle.get(); }
-    void commit();
+    // Answers 0, or why the system could not sync the folder: the file is in its place, but after a loss of
+    // power the old one may stand there again.
+    int commit(); // NOLINT(modernize-use-nodiscard): it is done all the same
 
 private:
     void checkTarget();

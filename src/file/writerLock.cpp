@@ -54,6 +54,13 @@ std::string contentOf(int fd) {
     return bytes;
 }
 
+// The system went down before it was on the disk: none of it, a part, or zeros in its place. What others
+// would put there is a whole line.
+bool isTorn(const std::string& content) {
+    return content.find('\0') != std::string::npos ||
+           (content.find('\n') == std::string::npos && !readLockLine(content).isKnown());
+}
+
 bool hasEnded(long long process) {
     return ::kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH;
 }
@@ -66,7 +73,8 @@ public:
     enum class End {
         Over,     // the outcome tells how
         Again,    // the file was another's or gone by the time that it was locked
-        Unwritten // nobody has locked it, and it says nothing: left over, or somebody is just making it
+        Unwritten // nobody has locked it, and it says nothing yet or cannot be read yet: left over, or
+                  // somebody is just making it
     };
 
     Attempt(const fs::path& path, Force force, bool unwrittenIsDead)
@@ -119,7 +127,10 @@ private:
         const bool mayWrite = present.isOpen();
         if (!mayWrite && (errno == EACCES || errno == EPERM || errno == EROFS))
             present.reset(::open(path_.c_str(), O_RDONLY | flags));
-        if (!present.isOpen()) return errno == ENOENT ? End::Again : over(Result::Obstructed, errno);
+        if (!present.isOpen() && errno == ENOENT) return End::Again;
+        // Under a strict mask nobody else can read a new one until its permissions are set.
+        if (!present.isOpen() && errno == EACCES && !unwrittenIsDead_) return End::Unwritten;
+        if (!present.isOpen()) return over(Result::Obstructed, errno);
         struct stat status {};
         if (::fstat(present.get(), &status) != 0 || !S_ISREG(status.st_mode)) return over(Result::Obstructed);
         // What belongs to another user may be locked for reading only. That keeps its owner from locking it,
@@ -135,12 +146,13 @@ private:
         const std::string content = contentOf(fd);
         outcome.owner = readLockLine(content);
         if (locked == Locked::No) return over(Result::Held);
-        if (content.empty() && !unwrittenIsDead_) return End::Unwritten;
+        const bool isUnwritten = isTorn(content);
+        if (isUnwritten && !unwrittenIsDead_) return End::Unwritten;
         const bool isOurMachine = outcome.owner.isOfThisMachine();
         const bool isAlive =
             isOurMachine && locked == Locked::NoSuchLocks && !hasEnded(outcome.owner.process);
         if (isAlive) return over(Result::Held);
-        if (!content.empty() && !isOurMachine && force_ == Force::No) return over(Result::HeldElsewhere);
+        if (!isUnwritten && !isOurMachine && force_ == Force::No) return over(Result::HeldElsewhere);
         // Without locks its owner may have removed it before he ended, and somebody else made another one.
         if (locked == Locked::NoSuchLocks && !isAt(path_, fd)) return End::Again;
         // Removed while it is locked and made anew, never written into: it can be another name of any file.

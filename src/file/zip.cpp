@@ -180,7 +180,7 @@ struct Zip::Archive {
             zip = nullptr;
         }
         if (beforeReplacing) beforeReplacing(same);
-        result.commit();
+        folderError = result.commit();
         return FileState::of(result.fd());
     }
 
@@ -193,6 +193,7 @@ struct Zip::Archive {
     zip_uint64_t originalCount = 0;
     bool isNew = false;
     bool changed = false;
+    int folderError = 0;
 };
 
 Zip::Zip() = default;
@@ -227,18 +228,24 @@ FileState Zip::state() const {
     return FileState::of(open().source.descriptor());
 }
 
+FileState Zip::write(Archive& closing, const fs::path& target, const BeforeReplacing& beforeReplacing) {
+    const FileState state = closing.writeTo(target, beforeReplacing);
+    folderError_ = closing.folderError;
+    return state;
+}
+
 FileState Zip::CloseArchive(const BeforeReplacing& beforeReplacing) {
     const std::unique_ptr<Archive> closing = takeOpen();
     if (!closing->changed && !closing->isNew) return FileState::of(closing->source.descriptor());
     std::error_code error;
     if (!closing->isNew && !fs::exists(closing->file, error))
         raiseSystemError(error ? error.value() : ENOENT, closing->file.string());
-    return closing->writeTo(closing->file, beforeReplacing);
+    return write(*closing, closing->file, beforeReplacing);
 }
 
 FileState Zip::CloseArchiveAs(const fs::path& target, const BeforeReplacing& beforeReplacing) {
     const std::unique_ptr<Archive> closing = takeOpen();
-    return closing->writeTo(target, beforeReplacing);
+    return write(*closing, target, beforeReplacing);
 }
 
 void Zip::AddFile(const fs::path& file, std::string_view comment) {

@@ -51,6 +51,8 @@ public:
     // takes the permissions of the opened one.
     FileState CloseArchiveAs(const std::filesystem::path& target,
                              const BeforeReplacing& beforeReplacing = {});
+    // Why the folder of what was closed last could not be synced (see AtomicFile::commit), or 0.
+    [[nodiscard]] int folderError() const { return folderError_; }
 
     // Adds a file, or replaces the entry of its name (the last component of the path) in its place.
     // The file is read on closing, so it must stay until then.
@@ -80,11 +82,14 @@ private:
     struct Archive;
     [[nodiscard]] Archive& open() const;
     [[nodiscard]] std::unique_ptr<Archive> takeOpen();
+    FileState write(Archive& closing, const std::filesystem::path& target,
+                    const BeforeReplacing& beforeReplacing);
     [[nodiscard]] std::uint64_t entryAt(int index) const;
     [[nodiscard]] std::filesystem::path inBaseFolder(const std::filesystem::path& name) const;
 
     std::unique_ptr<Archive> archive;
     std::filesystem::path baseFolder;
+    int folderError_ = 0;
 };
 
 } // namespace file

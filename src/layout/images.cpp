@@ -5,7 +5,7 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
 #include "file/zip.h"
-#include "layout/replacedPictures.h"
+#include "layout/keptPictures.h"
 #include "layout/sheet.h"
 
 #include <cerrno>
@@ -95,8 +95,11 @@ void addToArchive(App& app, const fs::path& file, const std::string& comment) {
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     keepReplaced(app, Zip, file.filename().string());
+    file::Zip::BeforeReplacing keep;
+    const auto& keeping = app.rooms.of<ReplacedPictures>().keeping;
+    if (keeping && Zip.contains(file.filename())) keep = keeping(app, app.document.currentFile);
     Zip.AddFile(file, comment);
-    Zip.CloseArchive();
+    Zip.CloseArchive(keep);
     app.changes.announce(app, app::Change::Written);
 }
 

@@ -5,6 +5,7 @@
 #include "file/zip.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace layout {
@@ -36,6 +37,12 @@ private:
 std::filesystem::path unpackedImage(app::App& app, const std::string& name, ImageArchive& archive);
 // The same for clip art, which an open has unpacked.
 std::filesystem::path clipArtFile(app::App& app, const core::ClipPic& clip);
+
+// What keeps the state before a picture is replaced by one of the same name, as a save keeps that before it;
+// said by who knows of both.
+struct ReplacedPictures {
+    std::function<file::Zip::BeforeReplacing(app::App& app, const std::string& database)> keeping;
+};
 
 // Double clicks: choose a picture for the record (when browsing), or the clip art (when designing).
 // The archive changes at once.

@@ -64,7 +64,8 @@ public:
     virtual Answer msgBox(const std::string& text, Icon icon, const std::string& caption,
                           Buttons buttons = Buttons::Ok) = 0;
     // A question with buttons of its own, and Cancel behind them. Answers the place of the one that was
-    // pressed; -1 when the user waved the question away, or nobody is there to ask.
+    // pressed; -1 when the user waved the question away, or nobody is there to ask. Enter presses the first
+    // one, or Cancel where there is no choice but whether to go on.
     virtual int choose(const std::string& text, const std::string& caption,
                        const std::vector<std::string>& buttons) {
         (void)text, (void)caption, (void)buttons;

@@ -5,6 +5,7 @@
 #include "entry/retrieveData.h"
 #include "entry/shownRecord.h"
 #include "invoice/views.h"
+#include "layout/images.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
 #include "shell/mainWindow.h"
@@ -12,6 +13,7 @@
 #include "shell/undo.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
+#include "storage/versions.h"
 
 namespace shell {
 
@@ -19,7 +21,9 @@ namespace {
 
 void followUnsaved(app::App& app) {
     storage::UnsavedWork& work = storage::unsavedWork(app);
-    if (app.mainFrm.SSTab1 == app::layoutTab) {
+    if (work.typedInForm) {
+        // It says by itself what that is.
+    } else if (app.mainFrm.SSTab1 == app::layoutTab) {
         work.isTyped = true;
         work.typedKey = entry::sheet(app).shownKey;
     } else {
@@ -33,13 +37,14 @@ void followUnsaved(app::App& app) {
 // Who follows which change, in the order in which they are told.
 Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     using app::Change;
+    rooms.of<layout::ReplacedPictures>().keeping = storage::keepingVersion;
     changes.follow({Change::Modified}, app::showModified);
     changes.follow({Change::Modified}, storage::followModified);
     changes.follow({Change::Unsaved}, followUnsaved);
     changes.follow({Change::Columns, Change::Values}, [](App& app) { storage::markUnsaved(app); });
     // What was typed on the sheet is gone with it.
     changes.follow({Change::CurrentRecord}, [](App& app) { storage::unsavedWork(app).isTyped = false; });
-    changes.follow({Change::Stored}, storage::removeUnsavedWork);
+    changes.follow({Change::Stored}, storage::followStoredWork);
     changes.follow({Change::Opened}, storage::followOpened);
     changes.follow({Change::Stored}, storage::followStored);
     changes.follow({Change::Writing}, storage::followWriting);

@@ -1,6 +1,7 @@
 #include "shell/recoveryOffer.h"
 
 #include "core/runTimeError.h"
+#include "entry/entryFrm.h"
 #include "entry/navBar.h"
 #include "file/fileState.h"
 #include "file/workFiles.h"
@@ -10,6 +11,7 @@
 #include "storage/openFile.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
+#include "storage/saveSteps.h"
 #include "storage/versions.h"
 
 #include <array>
@@ -58,7 +60,7 @@ std::string offerText(const RecoveryNote& note) {
 }
 
 // A new archive of the records, with the pictures of the file that they belong to.
-void writeAsFile(App& app, const RecoveryCopy& copy, const std::string& target) {
+void packAsFile(App& app, const RecoveryCopy& copy, const std::string& target) {
     file::Zip records;
     records.OpenArchive(copy.archive);
     const std::string text = records.readEntry("data.dat", mostBytes).value_or(std::string());
@@ -74,18 +76,18 @@ void writeAsFile(App& app, const RecoveryCopy& copy, const std::string& target) 
     Zip.CloseArchiveAs(target, storage::keepingVersion(app, target));
 }
 
+bool writeAsFile(App& app, const RecoveryCopy& copy, const std::string& target) {
+    return storage::writeNewFile(app, target, [&] { packAsFile(app, copy, target); });
+}
+
 bool lookAtCopy(App& app, const RecoveryCopy& copy) {
     const std::string stem = fs::path(copy.note.file).stem().string();
     const std::optional<std::string> target =
         app.platform.showSave({"Save the Copy As...", (stem.empty() ? "Untitled" : stem) + " (recovered).fwk",
                                std::string(platform::databaseFilter)});
     if (!target) return false;
-    if (file::fileExists(*target) && !app::askYesNo(app, "Overwrite Existing File?", platform::Icon::None))
-        return false;
-    if (!storage::guardTarget(app, *target)) return false;
-    storage::openedFile(app).next.reset();
     try {
-        writeAsFile(app, copy, *target);
+        if (!writeAsFile(app, copy, *target)) return false;
     } catch (const core::RunTimeError& error) {
         app::warn(app, *target + " could not be written: " + error.what());
         return false;
@@ -104,10 +106,10 @@ bool isArchive(const std::string& file) {
     }
 }
 
-// What was typed on the sheet and not stored is shown on it again.
+// What was typed on the sheet or in the Entry Form and not stored is shown there again.
 void showTyped(App& app, const RecoveryNote& note) {
     core::RecordsList& records = app.document.LV;
-    if (!note.isTyped || note.row >= records.count()) return;
+    if (note.row < 0 || note.row >= records.count()) return;
     if (note.row > 0) {
         core::Item& record = records.at(note.row);
         records.setSelectedItem(&record);
@@ -115,6 +117,11 @@ void showTyped(App& app, const RecoveryNote& note) {
         if (app.document.bInvoiceStyle)
             if (core::Item* row = app.document.iLV.findText(record.Key))
                 app.document.iLV.setSelectedItem(row);
+    }
+    if (!note.isTyped) {
+        app.rooms.of<entry::TypedBefore>().boxes = note.boxes;
+        app.platform.showForm("entryFrm");
+        return;
     }
     SSTab1_Click(app, app::layoutTab);
     if (note.row == 0 && !entry::isSheetNew(app)) entry::layoutNavBar_ButtonClick(app, "New");
@@ -127,7 +134,7 @@ bool restore(App& app, RecoveryCopy& copy) {
     const RecoveryNote note = copy.note;
     const bool isThere = file::fileExists(note.file);
     try {
-        if (!isThere && !note.file.empty()) writeAsFile(app, copy, note.file);
+        if (!isThere && !note.file.empty() && !writeAsFile(app, copy, note.file)) return false;
     } catch (const core::RunTimeError&) { // NOLINT(bugprone-empty-catch): the folder has gone; another place
                                           // is asked for
     }
@@ -137,11 +144,11 @@ bool restore(App& app, RecoveryCopy& copy) {
     }
     const bool isForeign = isThere && isChangedSince(note);
     if (!storage::openRecovered(app, note.file, copy.archive.string())) return false;
-    const bool hasRecords = note.isTyped && note.file == app.document.currentFile;
+    const bool isTyped = (note.isTyped || !note.boxes.empty()) && note.file == app.document.currentFile;
     storage::adoptRecoveryCopy(app, std::move(copy));
     storage::openedFile(app).isForeign = isForeign;
     app::setDocumentModified(app, true);
-    if (hasRecords) showTyped(app, note);
+    if (isTyped) showTyped(app, note);
     return true;
 }
 

@@ -6,7 +6,7 @@
 #include "history/undoStack.h"
 #include "invoice/views.h"
 #include "layout/layoutPage.h"
-#include "layout/replacedPictures.h"
+#include "layout/keptPictures.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
 #include "search/searchMode.h"
@@ -71,7 +71,7 @@ void showSteps(App& app) {
 void settle(App& app) {
     History& history = historyOf(app);
     if (!history.stack.isStarted() || isHalfWay(app)) return;
-    layout::ReplacedPictures& pictures = layout::replacedPictures(app);
+    layout::KeptPictures& pictures = layout::keptPictures(app);
     for (file::KeptEntry& entry : pictures.entries) history.stack.notePicture(std::move(entry));
     pictures.entries.clear();
     history.stack.settle(
@@ -83,7 +83,7 @@ void settle(App& app) {
 
 void begin(App& app) {
     historyOf(app).stack.stop();
-    layout::replacedPictures(app) = {};
+    layout::keptPictures(app) = {};
     showSteps(app);
 }
 
@@ -197,7 +197,7 @@ void beforeEvent(App& app) {
     if (!history.stack.isStarted()) {
         if (!isDocument(app)) return;
         history.stack.start(app.document, !app.document.bModified);
-        layout::replacedPictures(app).isKept = true;
+        layout::keptPictures(app).isKept = true;
     }
     settle(app); // what came without an event, like the width of a column
     if (!isHalfWay(app)) history.stack.noteSelection(app.document);

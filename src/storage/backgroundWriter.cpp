@@ -24,7 +24,16 @@ constexpr bool forks = true;
 // that the work would ask for, but a child that waits for ever would keep all later ones from being started.
 constexpr unsigned longestSeconds = 120;
 
+// The locks of the parent would be held as long as the child runs, though it had been killed meanwhile, and
+// its window would stay on the screen.
+void closeInherited() {
+    constexpr unsigned first = STDERR_FILENO + 1, mostGuessed = 1024;
+    if (::close_range(first, ~0U, 0) == 0) return;
+    for (unsigned fd = first; fd < mostGuessed; ++fd) ::close(static_cast<int>(fd)); // an old kernel
+}
+
 [[noreturn]] void workAndLeave(const std::function<void()>& work) {
+    closeInherited();
     for (const int number : {SIGTERM, SIGHUP, SIGINT, SIGALRM, SIGPIPE}) std::signal(number, SIG_DFL);
     ::alarm(longestSeconds);
     (void)!::nice(10); // the window goes first

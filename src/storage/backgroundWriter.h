@@ -12,8 +12,8 @@ namespace storage {
 // may, and to write it in slices would need a document that says what of it was changed between them.
 //
 // The child is left with one thread, and what it may call follows from that: no Qt, no display, no buffered
-// output; its signals mean what they mean by default; it leaves by _exit, so that nothing of the parent's is
-// closed or removed.
+// output; no file or lock of the parent's is open in it; its signals mean what they mean by default; it
+// leaves by _exit, so that nothing of the parent's is removed.
 class BackgroundWriter {
 public:
     BackgroundWriter() = default;

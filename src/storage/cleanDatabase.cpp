@@ -4,7 +4,7 @@
 #include "app/windowState.h"
 #include "core/text.h"
 #include "file/zip.h"
-#include "layout/replacedPictures.h"
+#include "layout/keptPictures.h"
 #include "storage/versions.h"
 
 #include <map>
@@ -84,6 +84,7 @@ std::vector<std::string> cleanDatabase(App& app) {
         removed.push_back(name);
     }
     Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
+    noteUnsynced(app, Zip, app.document.currentFile);
     app.changes.announce(app, app::Change::Written);
     return removed;
 }

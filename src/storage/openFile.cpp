@@ -209,7 +209,7 @@ void OpenFile(App& app, bool StartUp) {
     const std::optional<std::string> path = guardOpening(app, *chosen);
     if (path)
         openFrom(app, *path, *path, StartUp);
-    else
+    else if (StartUp)
         app.document.currentFile = openedFile(app).path; // it goes on as the open one
 }
 

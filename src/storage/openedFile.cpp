@@ -6,6 +6,7 @@
 #include "file/zip.h"
 #include "storage/openFile.h"
 #include "storage/recoveryCopies.h"
+#include "storage/saveFile.h"
 #include "storage/saveSteps.h"
 #include "storage/versions.h"
 
@@ -58,13 +59,13 @@ std::optional<std::string> openCopyOf(App& app, const std::string& path) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Open a Copy As...", "Copy of " + nameOf(path), std::string(platform::databaseFilter)});
     if (!target || *target == path) return std::nullopt;
-    if (std::filesystem::exists(*target) &&
-        !app::askYesNo(app, "Overwrite Existing File?", platform::Icon::None))
-        return std::nullopt;
     try {
-        file::Zip Zip;
-        Zip.OpenArchive(path);
-        Zip.CloseArchiveAs(*target, keepingVersion(app, *target));
+        const bool isWritten = writeNewFile(app, *target, [&] {
+            file::Zip Zip;
+            Zip.OpenArchive(path);
+            Zip.CloseArchiveAs(*target, keepingVersion(app, *target));
+        });
+        if (!isWritten) return std::nullopt;
     } catch (const core::RunTimeError& error) {
         app::warn(app, *target + " could not be written: " + error.what());
         return std::nullopt;
@@ -102,6 +103,16 @@ void takeNext(App& app) {
     opened.next.reset();
     opened.path = path;
     app::showCaption(app); // which says whether it is read only
+}
+
+// Who has the lock that this window had, since somebody has removed its file; nobody, if it could be taken
+// again.
+std::string whoTookLock(OpenedFile& opened) {
+    if (!opened.lock || opened.lock->isStillHeld()) return {};
+    std::optional<WriterLock::Outcome> outcome = tryLock(opened.path);
+    if (outcome && !isFree(*outcome)) return whoHolds(opened.path, *outcome);
+    if (outcome && outcome->lock) opened.lock = std::move(outcome->lock);
+    return {};
 }
 
 } // namespace
@@ -145,14 +156,19 @@ SaveWay waySave(App& app) {
 
 SaveWay waySaveOver(App& app) {
     OpenedFile& opened = openedFile(app);
-    if (!isOfOpened(app) || opened.mayReplace) return SaveWay::Save;
-    // A file that has gone is told by the save itself.
-    if (!opened.isForeign && changeOfOpened(app) != FileState::Change::Changed) return SaveWay::Save;
+    if (!isOfOpened(app)) return SaveWay::Save;
+    std::string question = whoTookLock(opened);
+    if (question.empty()) {
+        // A file that has gone is told by the save itself.
+        const bool isForeign = opened.isForeign || changeOfOpened(app) == FileState::Change::Changed;
+        if (opened.mayReplace || !isForeign) return SaveWay::Save;
+        question = nameOf(opened.path) + " was changed by somebody else since it was opened here.";
+    }
     const int answer = app.platform.choose(
-        nameOf(opened.path) +
-            " was changed by somebody else since it was opened here.\n\nTo overwrite it loses what "
-            "they have changed. To read their state keeps yours for recovery.",
+        question + "\n\nTo overwrite it loses what they have changed. To read their state keeps yours for "
+                   "recovery.",
         app::title, {"&Save as Another File...", "&Overwrite", "&Read the Other State"});
+    if (answer == 1 && opened.lock && !opened.lock->isStillHeld()) opened.lock.reset(); // he knows
     if (answer == 2) readOpenedAgain(app);
     return answer == 0 ? SaveWay::SaveAs : answer == 1 ? SaveWay::Save : SaveWay::None;
 }
@@ -219,6 +235,11 @@ void replaceAtNextSave(App& app) {
 }
 
 void writeOpenedAgain(App& app) {
+    // It has come back, or its place is somebody else's meanwhile.
+    if (changeOfOpened(app) != FileState::Change::Gone || !whoTookLock(openedFile(app)).empty()) {
+        tellReason(app, SaveFile(app, false, false));
+        return;
+    }
     try {
         packAlone(app, app.document.currentFile,
                   file::encodeDataFile(file::writeDataFile(app.document, false)));

@@ -104,9 +104,19 @@ RecoveryNote makeNote(const App& app) {
                       ::getpid(),
                       work.isTyped,
                       0,
+                      {},
                       {}};
+    const auto rowOf = [&](const std::string& key) {
+        const core::Item* record = document.LV.find(key);
+        return record == nullptr ? 0 : document.LV.indexOf(*record);
+    };
+    if (work.typedInForm) {
+        TypedInForm typed = work.typedInForm();
+        note.row = rowOf(typed.key);
+        note.boxes = std::move(typed.boxes);
+    }
     if (!work.isTyped) return note;
-    if (const core::Item* record = document.LV.find(work.typedKey)) note.row = document.LV.indexOf(*record);
+    note.row = rowOf(work.typedKey);
     document.layout.layoutField.forEach(
         [&](const core::LayoutField& field) { note.fields.emplace_back(field.Index, field.Text); });
     return note;
@@ -192,13 +202,14 @@ void keepInBackground(App& app, Clock::time_point now) {
 
 bool hasUnsavedWork(const App& app) {
     const UnsavedWork& work = unsavedWork(app);
-    return work.isChanged || work.isTyped || work.isReplaced || work.hasSaveFailed;
+    return work.isChanged || work.isTyped || work.isReplaced || work.hasSaveFailed || work.typedInForm;
 }
 
 void followModified(App& app) {
     if (!app.document.bModified) return; // whether it is stored is another question: the save may fail yet
     unsavedWork(app).isChanged = true;
     unsavedWork(app).isTyped = false;
+    unsavedWork(app).typedInForm = nullptr;
     markUnsaved(app);
 }
 
@@ -249,11 +260,22 @@ void removeUnsavedWork(App& app) noexcept {
     leaveUnsavedWork(app);
 }
 
+void followStoredWork(App& app) noexcept {
+    UnsavedWork& work = unsavedWork(app);
+    const bool isTyped = work.isTyped && app.mainFrm.SSTab1 == app::layoutTab;
+    auto typedInForm = std::move(work.typedInForm);
+    removeUnsavedWork(app);
+    work.isTyped = isTyped;
+    work.typedInForm = std::move(typedInForm);
+    if (hasUnsavedWork(app)) markUnsaved(app);
+}
+
 void leaveUnsavedWork(App& app) noexcept {
     UnsavedWork& work = unsavedWork(app);
     work.copy = RecoveryCopy();
     work.keepFailure = 0;
     work.isStale = work.isChanged = work.isTyped = work.isReplaced = work.hasSaveFailed = false;
+    work.typedInForm = nullptr;
 }
 
 void endUnsavedWork(App& app, bool bGivenUp) noexcept {

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -33,9 +34,12 @@ struct UnsavedWork {
     BackgroundWriter writer;
     bool isStale = false; // changes have come that the copy does not have, the first and the last of them at
     Clock::time_point first, last;
-    bool isChanged = false;  // as bModified, which outlasts the document that it was said of
-    bool isTyped = false;    // the sheet holds what is not stored
-    std::string typedKey;    // of the record on it; empty for a new one
+    bool isChanged = false; // as bModified, which outlasts the document that it was said of
+    bool isTyped = false;   // the sheet holds what is not stored
+    std::string typedKey;   // of the record on it; empty for a new one
+    // What stands in the boxes of the Entry Form and is not stored; nothing when nothing does. Asked for when
+    // it is kept, so that a key press does not wait for it.
+    std::function<TypedInForm()> typedInForm;
     bool isReplaced = false; // records were replaced, which does not make the document modified
     bool isSetAside = false; // the user has just put it aside; the next open is not to offer it
     bool isWriting = false;  // the writer, when it was looked at last
@@ -58,6 +62,8 @@ void markUnsaved(app::App& app, UnsavedWork::Clock::time_point now = UnsavedWork
 bool tendUnsavedWork(app::App& app, UnsavedWork::Clock::time_point now = UnsavedWork::Clock::now()) noexcept;
 // Keeps it at once, in this process. False when there is nothing to keep or it cannot be kept.
 bool keepUnsavedWork(app::App& app) noexcept;
+// The file holds the document, though not what is typed and not stored.
+void followStoredWork(app::App& app) noexcept;
 // The file holds it, or the user has given it up.
 void removeUnsavedWork(app::App& app) noexcept;
 // Leaves the copy to be offered later, and begins anew.

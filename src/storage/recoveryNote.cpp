@@ -61,6 +61,9 @@ void readLine(RecoveryNote& note, std::string_view line) {
         note.isTyped = true;
         note.row = takeNumber<int>(line);
     }
+    if (key == "row") note.row = takeNumber<int>(line);
+    if (key == "column") note.boxes.emplace_back(asItWas(line), std::string());
+    if (key == "box" && !note.boxes.empty()) note.boxes.back().second = asItWas(line);
     if (key == "field") {
         const int index = takeNumber<int>(line);
         note.fields.emplace_back(index, asItWas(line));
@@ -79,6 +82,9 @@ std::string noteText(const RecoveryNote& note) {
     line("time", note.time);
     line("records", note.records);
     line("process", note.process);
+    if (!note.boxes.empty()) line("row", note.row);
+    for (const auto& [column, typed] : note.boxes)
+        text += "column " + onOneLine(column) + "\nbox " + onOneLine(typed) + "\n";
     if (!note.isTyped) return text;
     line("typed", note.row);
     for (const auto& [index, typed] : note.fields)

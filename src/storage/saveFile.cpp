@@ -22,6 +22,7 @@ void pack(App& app, const std::string& bytes) {
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
     openedFile(app).written = Zip.CloseArchive(keepingVersion(app, app.document.currentFile));
+    noteUnsynced(app, Zip, app.document.currentFile);
 }
 
 // The copy carries all the images along. It is finished beside its place and takes it in one step, so
@@ -31,20 +32,18 @@ void packCopy(App& app, const std::string& target, const std::string& bytes) {
     Zip.OpenArchive(app.document.currentFile);
     addData(Zip, bytes);
     openedFile(app).written = Zip.CloseArchiveAs(target, keepingVersion(app, target));
+    noteUnsynced(app, Zip, target);
     app.document.currentFile = target;
 }
 
 void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
-    if (!target || !mayWriteTo(app, *target) || !guardTarget(app, *target)) return;
-    app.changes.announce(app, app::Change::Writing); // the file may be the open one
-    packAlone(app, *target, bytes);
-    app.changes.announce(app, app::Change::Written);
+    if (target) (void)writeNewFile(app, *target, [&] { packAlone(app, *target, bytes); });
 }
 
 void writeAndPack(App& app, const std::optional<std::string>& saveAsTarget, bool bClone) {
-    if (saveAsTarget && !mayWriteTo(app, *saveAsTarget)) return;
+    if (saveAsTarget && (!mayWriteTo(app, *saveAsTarget) || !guardTarget(app, *saveAsTarget))) return;
     const std::string bytes = file::encodeDataFile(file::writeDataFile(app.document, bClone));
     keepDataFile(app, bytes);
     // Said before the archive is touched: a failed pack does not show as unsaved. It is wanted so.
@@ -71,10 +70,10 @@ std::optional<core::RunTimeError> SaveFile(App& app, bool bSaveAs, bool bClone) 
     if (way == SaveWay::None) return std::nullopt;
     if (way == SaveWay::SaveAs) {
         target = app.platform.showSave({"Save As...", "Untitled.fwk", std::string(platform::databaseFilter)});
-        if (!target || !guardTarget(app, *target)) return std::nullopt;
+        if (!target) return std::nullopt;
         if (*target == app.document.currentFile) {
+            if (!guardTarget(app, *target) || waySaveOver(app) != SaveWay::Save) return std::nullopt;
             target.reset(); // a plain save
-            if (waySaveOver(app) != SaveWay::Save) return std::nullopt;
         }
     }
     try {

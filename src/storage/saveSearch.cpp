@@ -4,6 +4,7 @@
 #include "file/dataWriter.h"
 #include "storage/saveSteps.h"
 
+#include <filesystem>
 #include <optional>
 
 namespace storage {
@@ -41,11 +42,12 @@ std::string writeResults(core::Document& document) {
 }
 
 void writeAndPack(App& app, const std::string& target) {
-    if (!mayWriteTo(app, target)) return;
-    const std::string bytes = file::encodeDataFile(writeResults(app.document));
-    keepDataFile(app, bytes);
-    app::setDocumentModified(app, false);
-    packAlone(app, target, bytes);
+    (void)writeNewFile(app, target, [&] {
+        const std::string bytes = file::encodeDataFile(writeResults(app.document));
+        keepDataFile(app, bytes);
+        app::setDocumentModified(app, false);
+        packAlone(app, target, bytes);
+    });
 }
 
 } // namespace
@@ -54,7 +56,9 @@ std::optional<core::RunTimeError> saveSearchResults(App& app) {
     const std::optional<std::string> target = app.platform.showSave(
         {"Save As...", "Untitled Search Results.fwk", std::string(platform::databaseFilter)});
     if (!target) return std::nullopt;
-    if (*target == app.document.currentFile) {
+    std::error_code none; // the file may have another name
+    if (*target == app.document.currentFile ||
+        std::filesystem::equivalent(*target, app.document.currentFile, none)) {
         app::inform(app, "You cannot save your search results to a file named the same as the one that is "
                          "currently open.");
         return std::nullopt;

@@ -1,6 +1,7 @@
 #include "storage/saveSteps.h"
 
 #include "file/workFiles.h"
+#include "storage/openedFile.h"
 #include "storage/versions.h"
 
 namespace storage {
@@ -19,6 +20,18 @@ bool mayWriteTo(App& app, const std::string& target) {
     return !file::fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
 }
 
+bool writeNewFile(App& app, const std::string& target, const std::function<void()>& write) {
+    struct Release {
+        ~Release() { openedFile(app).next.reset(); }
+        App& app;
+    } const release{app};
+    if (!mayWriteTo(app, target) || !guardTarget(app, target)) return false;
+    app.changes.announce(app, app::Change::Writing); // the file may be the open one, by whatever name
+    write();
+    app.changes.announce(app, app::Change::Written);
+    return true;
+}
+
 void keepDataFile(App& app, const std::string& bytes) {
     if (app.platform.keepsDataFile()) file::writeWorkFile(app.platform.workFolder() / dataFile, bytes);
 }
@@ -32,6 +45,7 @@ void packAlone(App& app, const std::string& target, const std::string& bytes) {
     Zip.CreateArchive(target, "", app.document.currentFile);
     addData(Zip, bytes);
     Zip.CloseArchive(keepingVersion(app, target));
+    noteUnsynced(app, Zip, target);
 }
 
 core::RunTimeError tellFailure(App& app, bool bSaveAs, const std::exception& error) {

@@ -4,6 +4,7 @@
 #include "core/runTimeError.h"
 #include "file/zip.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -13,6 +14,10 @@ namespace storage {
 
 // Asks before a file is overwritten; true also when there is none.
 [[nodiscard]] bool mayWriteTo(app::App& app, const std::string& target);
+// Every database that is made beside the open one is written in here: asks before a file is overwritten, has
+// its place locked until it is there, and asks when somebody else has it open. False when the user has kept
+// it from being written. Lets through what the writing raises.
+[[nodiscard]] bool writeNewFile(app::App& app, const std::string& target, const std::function<void()>& write);
 // Writes the text of the database into the work folder, where the platform keeps one.
 void keepDataFile(app::App& app, const std::string& bytes);
 // Puts it into the open archive.

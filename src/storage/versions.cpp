@@ -5,6 +5,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <utility>
 
@@ -19,16 +20,18 @@ constexpr const char* budgetKey = "VersionsMegabytes";
 
 struct VersionState {
     std::optional<file::KnownText> known;
-    std::string failure;
+    std::string noted;
     bool isToldAlready = false;
 };
 
+void note(App& app, std::string text) {
+    app.mainFrm.panels[app::documentPanel] = text;
+    app.rooms.of<VersionState>().noted = std::move(text);
+}
+
 void noteFailure(App& app, const std::string& reason) {
-    VersionState& state = app.rooms.of<VersionState>();
-    if (state.isToldAlready) return;
-    state.isToldAlready = true;
-    state.failure = reason;
-    app.mainFrm.panels[app::documentPanel] = "No version kept: " + reason;
+    if (std::exchange(app.rooms.of<VersionState>().isToldAlready, true)) return;
+    note(app, "No version kept: " + reason);
 }
 
 } // namespace
@@ -78,8 +81,15 @@ void noteRecords(App& app, std::uint32_t textChecksum) {
     app.rooms.of<VersionState>().known = file::KnownText{textChecksum, app.document.LV.count() - 1};
 }
 
-std::string takeVersionFailure(App& app) {
-    return std::exchange(app.rooms.of<VersionState>().failure, {});
+void noteUnsynced(App& app, const file::Zip& Zip, const std::string& file) {
+    if (Zip.folderError() == 0) return;
+    std::string text = "Written, but the folder of ";
+    text.append(file).append(" could not be synced to the disk: ").append(std::strerror(Zip.folderError()));
+    note(app, std::move(text));
+}
+
+std::string takeNoted(App& app) {
+    return std::exchange(app.rooms.of<VersionState>().noted, {});
 }
 
 } // namespace storage

@@ -31,7 +31,10 @@ void storeVersionSettings(app::App& app, const VersionSettings& settings);
 // The document is what the file has now, in a text of that checksum: the next save need not count its
 // records.
 void noteRecords(app::App& app, std::uint32_t textChecksum);
-// Why a version could not be kept, for who has no status bar; told once.
-[[nodiscard]] std::string takeVersionFailure(app::App& app);
+// Shows in the status bar that the archive is in its place, but not for certain after a loss of power, when
+// it is so.
+void noteUnsynced(app::App& app, const file::Zip& Zip, const std::string& file);
+// What was noted since the last call, for who has no status bar: why no version could be kept, or this.
+[[nodiscard]] std::string takeNoted(app::App& app);
 
 } // namespace storage

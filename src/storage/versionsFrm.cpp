@@ -138,12 +138,16 @@ void versionsFrm::copyBtn_Click() {
         app::inform(app_, "The copy cannot take the place of the database that is open.");
         return;
     }
-    if (!mayWriteTo(app_, *target)) return;
-    const app::Hourglass hourglass(app_);
+    std::vector<std::string> missing;
     try {
-        tellMissing(versionStore(app_)->write(version, file, *target, [keep = keepingVersion(app_, *target)] {
-            if (keep) keep({});
-        }));
+        const bool isWritten = writeNewFile(app_, *target, [&] {
+            const app::Hourglass hourglass(app_);
+            missing =
+                versionStore(app_)->write(version, file, *target, [keep = keepingVersion(app_, *target)] {
+                    if (keep) keep({});
+                });
+        });
+        if (isWritten) tellMissing(missing);
     } catch (const core::RunTimeError& failure) {
         app::warn(app_, std::string("The copy could not be written: ") + failure.what());
     }

@@ -49,6 +49,8 @@ $ take ann circle -> impossible bob: L a circle@ link@
 # A dead owner's, one that is just being made, another machine's, and what nobody understands.
 $ rm $L circle link; printf "ann,$H,1,now;" >$L && $ take ann a -> taken ann: L a
 $ rm $L; touch $L && $ take ann a -> taken ann: L a
+$ rm $L; printf 'ann,els' >$L && $ take ann a -> taken ann: L a
+$ rm $L; head -c 40 /dev/zero >$L && $ take ann a -> taken ann: L a
 $ rm $L; echo 'ann,else,1,now;' >$L && $ take ann a -> elsewhere: L a && $ force ann a -> taken ann: L a
 $ rm $L; echo own >b; ln b $L && $ take ann a -> elsewhere: L a b && $ force ann a -> taken ann: L a b
 $ ln -sf b $L && $ force ann a -> obstructed: L@ a b && $ ln -sf no $L && $ force ann a -> obstructed: L@ a b

@@ -21,216 +21,209 @@ namespace {
 
 struct Undo : Sheet {
     std::mt19937 random{7};
-    std::getenv("FERROWICK_SEED") ? std::strtoul(std::getenv("FERROWICK_SEED"), nullptr, 10) : 7UL
-};
 
-void openRecords(bool invoices) {
-    DataFile file = numberedRecords(invoices);
-    if (!invoices) file.names += "Photo|", file.types += "7|", file.widths += "900|", file.spots += "6|";
-    file.objects("L|Name|200|2000|1200|285;B|200|3000|1000|500|0|1|");
-    openSheet("", false, file);
-    app.mainFrm.bConfirmDelete = false;
-}
-template <typename Handler>
-void event(Handler&& handler) {
-    shell::beforeEvent(app);
-    try {
-        handler();
-    } catch (const core::RunTimeError&) { // ends the program, and what has been done until then is a step
+    void openRecords(bool invoices) {
+        DataFile file = numberedRecords(invoices);
+        if (!invoices) file.names += "Photo|", file.types += "7|", file.widths += "900|", file.spots += "6|";
+        file.objects("L|Name|200|2000|1200|285;B|200|3000|1000|500|0|1|");
+        openSheet("", false, file);
+        app.mainFrm.bConfirmDelete = false;
     }
-    shell::afterEvent(app);
-}
-// What a save would write, and which key comes next.
-std::string written() {
-    std::string text = file::writeDataFile(app.document, false) + std::to_string(app.document.iLastKey);
-    file::Zip Zip;
-    Zip.OpenArchive(app.document.currentFile);
-    std::set<std::string> pictures;
-    for (int i = 0; i < Zip.FileCount(); ++i)
-        if (const std::string name = Zip.FileNameAt(i); name != "data.dat")
-            pictures.insert(" " + name + std::to_string(Zip.checksumOf(name)));
-    for (const std::string& picture : pictures) text += picture;
-    return text;
-}
-std::string selected() {
-    std::string keys;
-    app.document.LV.forEach(
-        [&](const core::Item& item) { keys += item.Selected ? item.Key.str() + " " : ""; });
-    return keys;
-}
-std::string undoes() {
-    return app.mainFrm.control("mnuUndo").Enabled ? app.mainFrm.control("mnuUndo").Caption : "";
-}
-void undo() {
-    event([&] { program("mnuUndo"); });
-}
-void redo() {
-    event([&] { program("mnuRedo"); });
-}
-void program(const char* key) {
-    run(key);
-}
-int number(int below) {
-    return static_cast<int>(random() % static_cast<unsigned>(below));
-}
-std::string word() {
-    return std::array{"Ann", "x@y", "Zoë and others", "12", ""}.at(random() % 5);
-}
-void goTo(int tab) {
-    if (app.mainFrm.SSTab1 != tab) shell::SSTab1_Click(app, tab);
-}
-void page(bool designing) {
-    goTo(app::layoutTab);
-    if (layout::isDesignMode(app) != designing) shell::pressDesign(app);
-}
-std::string someColumn() {
-    const core::ColumnHeaders& columns = app.document.LV.columns;
-    return columns.count() < 2 ? "" : columns.at(2 + number(columns.count() - 1)).Text;
-}
-core::ObjectRef someObject() {
-    std::vector<core::ObjectRef> all;
-    for (const core::Family family : core::allFamilies)
-        core::visitFamily(objects, family, [&](auto& array) {
-            array.forEach([&](const auto& object) { all.push_back({family, object.Index}); });
+    template <typename Handler>
+    void event(Handler&& handler) {
+        shell::beforeEvent(app);
+        try {
+            handler();
+        } catch (const core::RunTimeError&) { // ends the program, and what has been done until then is a step
+        }
+        shell::afterEvent(app);
+    }
+    // What a save would write, and which key comes next.
+    std::string written() {
+        std::string text = file::writeDataFile(app.document, false) + std::to_string(app.document.iLastKey);
+        file::Zip Zip;
+        Zip.OpenArchive(app.document.currentFile);
+        std::set<std::string> pictures;
+        for (int i = 0; i < Zip.FileCount(); ++i)
+            if (const std::string name = Zip.FileNameAt(i); name != "data.dat")
+                pictures.insert(" " + name + std::to_string(Zip.checksumOf(name)));
+        for (const std::string& picture : pictures) text += picture;
+        return text;
+    }
+    std::string selected() {
+        std::string keys;
+        app.document.LV.forEach(
+            [&](const core::Item& item) { keys += item.Selected ? item.Key.str() + " " : ""; });
+        return keys;
+    }
+    std::string undoes() {
+        return app.mainFrm.control("mnuUndo").Enabled ? app.mainFrm.control("mnuUndo").Caption : "";
+    }
+    void undo() {
+        event([&] { program("mnuUndo"); });
+    }
+    void redo() {
+        event([&] { program("mnuRedo"); });
+    }
+    void program(const char* key) { run(key); }
+    int number(int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); }
+    std::string word() { return std::array{"Ann", "x@y", "Zoë and others", "12", ""}.at(random() % 5); }
+    void goTo(int tab) {
+        if (app.mainFrm.SSTab1 != tab) shell::SSTab1_Click(app, tab);
+    }
+    void page(bool designing) {
+        goTo(app::layoutTab);
+        if (layout::isDesignMode(app) != designing) shell::pressDesign(app);
+    }
+    std::string someColumn() {
+        const core::ColumnHeaders& columns = app.document.LV.columns;
+        return columns.count() < 2 ? "" : columns.at(2 + number(columns.count() - 1)).Text;
+    }
+    core::ObjectRef someObject() {
+        std::vector<core::ObjectRef> all;
+        for (const core::Family family : core::allFamilies)
+            core::visitFamily(objects, family, [&](auto& array) {
+                array.forEach([&](const auto& object) { all.push_back({family, object.Index}); });
+            });
+        return all.empty() ? core::ObjectRef{}
+                           : all[static_cast<std::size_t>(number(static_cast<int>(all.size())))];
+    }
+    void press(const char* button) {
+        page(false);
+        entry::layoutNavBar_ButtonClick(app, button);
+    }
+    void type() {
+        page(false);
+        objects.layoutField.forEach([&](const core::LayoutField& field) {
+            if (number(2) == 0) entry::layoutField_Change(app, field.Index, word());
         });
-    return all.empty() ? core::ObjectRef{}
-                       : all[static_cast<std::size_t>(number(static_cast<int>(all.size())))];
-}
-void press(const char* button) {
-    page(false);
-    entry::layoutNavBar_ButtonClick(app, button);
-}
-void type() {
-    page(false);
-    objects.layoutField.forEach([&](const core::LayoutField& field) {
-        if (number(2) == 0) entry::layoutField_Change(app, field.Index, word());
-    });
-}
-void designs(const char* acts) {
-    page(true);
-    if (objects.count() > 40) acts = "Delete";
-    it = someObject();
-    if (!it.isObject()) return;
-    layout::select(app, it);
-    after(acts);
-}
-void inProperties(int what) {
-    goTo(app::reportTab);
-    calc::designFrm form(app);
-    form.selectedRow = number(static_cast<int>(form.List1.size()) + 1) - 1;
-    form.fieldTxt = std::string("C") + std::to_string(number(30));
-    form.typeOpt_Click(number(6));
-    if (what == 0 && form.List1.size() < 9) form.addBtn_Click();
-    if (what == 1) form.changeBtn_Click();
-    if (what == 2 && form.List1.size() > 3) form.deleteBtn_Click();
-    if (what == 3) form.List1_DblClick(form.selectedRow);
-    form.doneBtn_Click();
-}
-void onList(const char* command, int most) {
-    goTo(app::reportTab);
-    select({1 + number(app.document.LV.count())});
-    const int count = app.document.LV.count();
-    if (count > 4 && count < most) run(command);
-}
-void replaceWords() {
-    search::replaceFrm form(app);
-    form.Text1 = std::array{"Ann", "1", "2", "Zoë and others"}.at(random() % 4);
-    form.Text2 = word();
-    form.Command1_Click();
-}
-void inExpressions() {
-    calc::formulateFrm form(app);
-    if (form.colList.empty()) return;
-    form.colList_Click(0);
-    for (const int key : {number(10), number(10)}) form.NumKey_Click(key);
-    form.addCalcBtn_Click();
-    form.donebtn_Click();
-}
-void chooseTotals() {
-    calc::TotalsFrm form(app);
-    for (auto& row : form.LV) row.Checked = number(2) == 0;
-    form.OKButton_Click();
-}
-void adjustSerial() {
-    calc::serialFrm form(app);
-    if (form.List1.empty()) return;
-    form.List1_Click(0);
-    form.Text1 = std::to_string(number(500));
-    form.setBtn_Click();
-}
-void setUpReport() {
-    print::reportPageSetup form(app);
-    form.allChk_Click(number(2) == 0);
-    form.ApplyBtn_Click();
-}
-core::ColumnHeaders& shownColumns() {
-    goTo(app::reportTab);
-    return shell::visibleList(app.document).columns;
-}
-void choosePicture() {
-    const int count = objects.imgHolder.count();
-    page(false);
-    if (count > 0) layout::imgHolder_DblClick(app, objects.imgHolder.upperBound());
-}
-void act(int what) {
-    platform.answers = std::deque<platform::Answer>(6, platform::Answer::Yes);
-    platform.inputs = {number(2) == 0 ? "2" : "7"};
-    platform.files = {platform.pictureFile("art" + std::to_string(number(3)) + ".jpg", {1000, 1000}, word())};
-    const bool invoices = app.document.bInvoiceStyle, rarely = number(4) == 0;
-    const std::function<void()> acts[] = {
-        [&] { invoices&& rarely ? shell::viewOpt_Click(app, number(2)) : goTo(app::reportTab); },
-        [&] { press("New"), type(), press("Add"); },
-        [&] { press("Last"), press("Back"), type(), press("Update"); },
-        [&] {
-            if (app.document.LV.count() > 4) press("Delete");
-        },
-        [&] { onList("Delete", 99); },
-        [&] { onList("mnuDuplicate", 12); },
-        [&] { replaceWords(); },
-        [&] { shownColumns(), shell::list_ColumnClick(app, shell::visibleList(app.document), 2); },
-        [&] { inProperties(0); },
-        [&] { inProperties(1); },
-        [&] {
-            if (rarely) inProperties(2);
-        },
-        [&] { inProperties(3); },
-        [&] { inExpressions(); },
-        [&] { chooseTotals(); },
-        [&] { adjustSerial(); },
-        [&] { designs("Label"); },
-        [&] { designs("Box SendBack vLine"); },
-        [&] { designs("take by 300 200 by 150 60 drop click"); },
-        [&] { designs("grip by 300 200 release"); },
-        [&] { designs("Delete"); },
-        [&] { designs("Bold"); },
-        [&] { designs("SendFront"); },
-        [&] { designs("Lock"); },
-        [&] { designs("AutoLabel"); },
-        [&] {
-            designs(("ClipArt clipPic," + std::to_string(objects.clipPic.upperBound() + 1) + " dblclick")
-                        .c_str());
-        },
-        [&] { designs(rarely ? "Nuke" : "Italic"); },
-        [&] {
-            if (!invoices) designs("Photo");
-        },
-        [&] { choosePicture(); },
-        [&] { setUpReport(); },
-        [&] { run("mnuDatabaseLock"); },
-        [&] { shownColumns().at(2).Width += 100; },
-        [&] { shownColumns().setPosition(2, 1 + number(3)); },
-        [&] {
-            if (invoices && rarely) invoice::repeatItemRows(app, 2 + number(2), {"Qty"});
-        },
-        [&] { storage::SaveFile(app, false, false); },
-        [&] { run("mnuCleanDatabase"); },
-        [&] { find(shownColumns().at(2).Text + " ~ " + word()); },
-        [&] {
-            if (app.document.searchLV.Visible) run("Search");
-        },
-    };
-    acts[static_cast<std::size_t>(what) % std::size(acts)]();
-}
+    }
+    void designs(const char* acts) {
+        page(true);
+        if (objects.count() > 40) acts = "Delete";
+        it = someObject();
+        if (!it.isObject()) return;
+        layout::select(app, it);
+        after(acts);
+    }
+    void inProperties(int what) {
+        goTo(app::reportTab);
+        calc::designFrm form(app);
+        form.selectedRow = number(static_cast<int>(form.List1.size()) + 1) - 1;
+        form.fieldTxt = std::string("C") + std::to_string(number(30));
+        form.typeOpt_Click(number(6));
+        if (what == 0 && form.List1.size() < 9) form.addBtn_Click();
+        if (what == 1) form.changeBtn_Click();
+        if (what == 2 && form.List1.size() > 3) form.deleteBtn_Click();
+        if (what == 3) form.List1_DblClick(form.selectedRow);
+        form.doneBtn_Click();
+    }
+    void onList(const char* command, int most) {
+        goTo(app::reportTab);
+        select({1 + number(app.document.LV.count())});
+        const int count = app.document.LV.count();
+        if (count > 4 && count < most) run(command);
+    }
+    void replaceWords() {
+        search::replaceFrm form(app);
+        form.Text1 = std::array{"Ann", "1", "2", "Zoë and others"}.at(random() % 4);
+        form.Text2 = word();
+        form.Command1_Click();
+    }
+    void inExpressions() {
+        calc::formulateFrm form(app);
+        if (form.colList.empty()) return;
+        form.colList_Click(0);
+        for (const int key : {number(10), number(10)}) form.NumKey_Click(key);
+        form.addCalcBtn_Click();
+        form.donebtn_Click();
+    }
+    void chooseTotals() {
+        calc::TotalsFrm form(app);
+        for (auto& row : form.LV) row.Checked = number(2) == 0;
+        form.OKButton_Click();
+    }
+    void adjustSerial() {
+        calc::serialFrm form(app);
+        if (form.List1.empty()) return;
+        form.List1_Click(0);
+        form.Text1 = std::to_string(number(500));
+        form.setBtn_Click();
+    }
+    void setUpReport() {
+        print::reportPageSetup form(app);
+        form.allChk_Click(number(2) == 0);
+        form.ApplyBtn_Click();
+    }
+    core::ColumnHeaders& shownColumns() {
+        goTo(app::reportTab);
+        return shell::visibleList(app.document).columns;
+    }
+    void choosePicture() {
+        const int count = objects.imgHolder.count();
+        page(false);
+        if (count > 0) layout::imgHolder_DblClick(app, objects.imgHolder.upperBound());
+    }
+    void act(int what) {
+        platform.answers = std::deque<platform::Answer>(6, platform::Answer::Yes);
+        platform.inputs = {number(2) == 0 ? "2" : "7"};
+        platform.files = {
+            platform.pictureFile("art" + std::to_string(number(3)) + ".jpg", {1000, 1000}, word())};
+        const bool invoices = app.document.bInvoiceStyle, rarely = number(4) == 0;
+        const std::function<void()> acts[] = {
+            [&] { invoices&& rarely ? shell::viewOpt_Click(app, number(2)) : goTo(app::reportTab); },
+            [&] { press("New"), type(), press("Add"); },
+            [&] { press("Last"), press("Back"), type(), press("Update"); },
+            [&] {
+                if (app.document.LV.count() > 4) press("Delete");
+            },
+            [&] { onList("Delete", 99); },
+            [&] { onList("mnuDuplicate", 12); },
+            [&] { replaceWords(); },
+            [&] { shownColumns(), shell::list_ColumnClick(app, shell::visibleList(app.document), 2); },
+            [&] { inProperties(0); },
+            [&] { inProperties(1); },
+            [&] {
+                if (rarely) inProperties(2);
+            },
+            [&] { inProperties(3); },
+            [&] { inExpressions(); },
+            [&] { chooseTotals(); },
+            [&] { adjustSerial(); },
+            [&] { designs("Label"); },
+            [&] { designs("Box SendBack vLine"); },
+            [&] { designs("take by 300 200 by 150 60 drop click"); },
+            [&] { designs("grip by 300 200 release"); },
+            [&] { designs("Delete"); },
+            [&] { designs("Bold"); },
+            [&] { designs("SendFront"); },
+            [&] { designs("Lock"); },
+            [&] { designs("AutoLabel"); },
+            [&] {
+                designs(("ClipArt clipPic," + std::to_string(objects.clipPic.upperBound() + 1) + " dblclick")
+                            .c_str());
+            },
+            [&] { designs(rarely ? "Nuke" : "Italic"); },
+            [&] {
+                if (!invoices) designs("Photo");
+            },
+            [&] { choosePicture(); },
+            [&] { setUpReport(); },
+            [&] { run("mnuDatabaseLock"); },
+            [&] { shownColumns().at(2).Width += 100; },
+            [&] { shownColumns().setPosition(2, 1 + number(3)); },
+            [&] {
+                if (invoices && rarely) invoice::repeatItemRows(app, 2 + number(2), {"Qty"});
+            },
+            [&] { storage::SaveFile(app, false, false); },
+            [&] { run("mnuCleanDatabase"); },
+            [&] { find(shownColumns().at(2).Text + " ~ " + word()); },
+            [&] {
+                if (app.document.searchLV.Visible) run("Search");
+            },
+        };
+        acts[static_cast<std::size_t>(what) % std::size(acts)]();
+    }
 };
 
 TEST_F(Undo, RandomCommandsAreUndoneAndRedoneToTheByte) {

@@ -1,4 +1,5 @@
 #include "databases.h"
+#include "entry/entryFrm.h"
 #include "entry/fieldEvents.h"
 #include "entry/navBar.h"
 #include "shell/mainWindow.h"
@@ -6,8 +7,11 @@
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
+#include "storage/saveSearch.h"
+#include "storage/versionsFrm.h"
 #include "support/table.h"
 
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
 
@@ -19,6 +23,7 @@ using namespace std::chrono_literals;
 struct UserMachine : ScriptedPlatform {
     fs::path state;
     fs::path stateFolder() override { return state; }
+    fs::path versionsFolder() override { return state / "versions"; }
 };
 
 struct Window : ProgramOn<UserMachine> {
@@ -219,6 +224,86 @@ TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
         EXPECT_EQ(entry::isSheetNew(window.app), isNew);
         storage::removeUnsavedWork(window.app);
     }
+}
+
+TEST_F(Recovery, ShowsAgainWhatWasTypedInTheEntryForm) {
+    file = maker.make("books.fwk", DataFile("Name Place", "Bolt|1;Nut|2").text());
+    {
+        Window window(home);
+        window.open(file);
+        entry::entryFrm form(window.app);
+        form.FieldBox_Change(1, "given up");
+        form.Toolbar1_ButtonClick("Last");
+        EXPECT_FALSE(storage::keepUnsavedWork(window.app));
+        form.FieldBox_Change(0, "half\n a \\sent");
+        form.Toolbar1_ButtonClick("Save"); // of the records, not of the boxes
+        ASSERT_TRUE(storage::keepUnsavedWork(window.app));
+        window.kill();
+    }
+    Window window(home);
+    window.platform.choices = {0};
+    window.platform.onForm = [&](auto) { entry::entryFrm(window.app).Toolbar1_ButtonClick("Update"); };
+    window.open(file);
+    EXPECT_EQ(window.cells(), "Bolt|1|;half\n a \\sent|2|;------|------|;");
+    EXPECT_FALSE(storage::unsavedWork(window.app).typedInForm);
+}
+
+// Whatever writes a file under a name of its own says who has that one open.
+TEST_F(Recovery, NothingOverwritesWhatAnotherHolds) {
+    const std::string held = maker.make("held.fwk", "Held"), other = maker.copyOf("books-clone.fwk");
+    const auto first = file::WriterLock::take(held), second = file::WriterLock::take(other);
+    crash("Washer");
+    const auto save = [](bool bSaveAs, bool bClone) {
+        return [=](Window& w) { storage::SaveFile(w.app, bSaveAs, bClone); };
+    };
+    const std::pair<const char*, std::function<void(Window&)>> ways[] = {
+        {"version", [](Window& w) { storage::versionsFrm(w.app).copyBtn_Click(); }},
+        {"save as", save(true, false)},
+        {"clone", save(false, true)},
+        {"search results", [](Window& w) { storage::saveSearchResults(w.app); }},
+        {"look at a copy", [this](Window& w) { w.platform.choices = {1}, w.open(file); }},
+        {"open a copy", [&](Window& w) { w.platform.choices = {1}, w.open(other); }},
+    };
+    for (const auto& [name, act] : ways) {
+        Window window(home);
+        window.open(file);
+        window.add("Screw");
+        save(false, false)(window); // which makes a version
+        window.platform.files = {held};
+        window.platform.answers = {platform::Answer::Yes};
+        act(window);
+        EXPECT_NE(window.told().find("held.fwk is open elsewhere, by "), std::string::npos) << name;
+        EXPECT_EQ(window.dataFileOf(held), "Held") << name;
+    }
+}
+
+TEST_F(Recovery, ALockEndsWithItsWindowThoughTheWriterRuns) {
+    file::FileHandle ofWindow(::open(file.c_str(), O_RDWR)), next(::open(file.c_str(), O_RDWR));
+    ASSERT_EQ(::flock(ofWindow.get(), LOCK_EX), 0);
+    storage::BackgroundWriter writer;
+    (void)writer.start([] { ::pause(); });
+    ofWindow.reset();
+    for (int i = 0; i < 2000 && ::flock(next.get(), LOCK_EX | LOCK_NB) != 0; ++i)
+        std::this_thread::sleep_for(1ms);
+    EXPECT_EQ(::flock(next.get(), LOCK_EX | LOCK_NB), 0);
+}
+
+// Somebody removes the lock file, and then takes the lock: the question is waved away, and answered.
+TEST_F(Recovery, ASaveLooksWhetherItsLockIsStillThere) {
+    Window window(home);
+    window.open(file);
+    window.platform.choices = {-1, 1};
+    std::optional<file::WriterLock> theirs;
+    std::string log;
+    for (int save = 0; save < 4; ++save) {
+        if (save < 2) fs::remove(file::WriterLock::pathFor(file));
+        if (save == 1) theirs = file::WriterLock::take(file).lock;
+        window.add("Late");
+        storage::SaveFile(window.app, false, false);
+        log += window.told().find("elsewhere, by ") == std::string::npos ? "saved " : "asked ";
+    }
+    EXPECT_EQ(log, "saved asked asked saved ");
+    EXPECT_TRUE(theirs->isStillHeld());
 }
 
 // Two windows and a file that both want.

@@ -1,5 +1,7 @@
 #include "storage/versions.h"
 #include "databases.h"
+#include "layout/images.h"
+#include "shell/mainWindow.h"
 #include "storage/saveFile.h"
 #include "storage/versionsFrm.h"
 
@@ -70,6 +72,18 @@ TEST(Versions, EverySaveKeepsWhatItReplaces) {
     EXPECT_EQ(program.platform.settings["KeepVersions"], "False");
 }
 
+TEST(Versions, APictureThatTakesThePlaceOfAnotherKeepsThatOne) {
+    KeepingProgram program;
+    const DataFile data = DataFile("Name Photo:7", "Bolt|a.jpg").objects("P|Photo|0|0|1815|1575|");
+    program.open(program.make("photos.fwk", data.text(), {"a.jpg"}));
+    shell::SSTab1_Click(program.app, app::layoutTab);
+    for (const auto& [name, listed] : {std::pair{"b.jpg", ""}, {"a.jpg", "1 "}}) {
+        program.platform.files = {program.platform.pictureFile(name, {1500, 1500})};
+        layout::imgHolder_DblClick(program.app, 1);
+        EXPECT_EQ(program.told() + program.listed(), listed);
+    }
+}
+
 TEST(Versions, AFailureIsShownOnceAndTheSaveIsDone) {
     KeepingProgram program;
     program.file("books.fwk");
@@ -77,10 +91,10 @@ TEST(Versions, AFailureIsShownOnceAndTheSaveIsDone) {
     program.addAndSave("Screw", "3");
     EXPECT_TRUE(program.panel(app::documentPanel).starts_with("No version kept: ")) << program.panel(5);
     EXPECT_NE(program.dataFileOf(program.path("books.fwk")).find("Screw|3|"), std::string::npos);
-    EXPECT_NE(storage::takeVersionFailure(program.app), "");
+    EXPECT_NE(storage::takeNoted(program.app), "");
     program.addAndSave("Washer", "4");
     EXPECT_EQ(program.panel(app::documentPanel), "Document Saved");
-    EXPECT_EQ(program.told() + storage::takeVersionFailure(program.app), "");
+    EXPECT_EQ(program.told() + storage::takeNoted(program.app), "");
 }
 
 TEST(VersionsFrm, ShowsRestoresAndCopies) {

@@ -55,8 +55,10 @@ MessageBox::MessageBox(QWidget* parent, const std::string& text, platform::Icon 
     : MessageBox(parent, text, icon, caption) {
     // Of one role they stand in their own order, whatever order the desktop has for roles.
     for (const std::string& button : buttons) own_ << addButton(toQt(button), QMessageBox::ActionRole);
-    setEscapeButton(addButton(QMessageBox::Cancel));
-    if (!own_.isEmpty()) setDefaultButton(qobject_cast<QPushButton*>(own_.constFirst()));
+    QPushButton* cancel = addButton(QMessageBox::Cancel);
+    setEscapeButton(cancel);
+    // A single one does all the same what there are reasons against.
+    setDefaultButton(own_.size() > 1 ? qobject_cast<QPushButton*>(own_.constFirst()) : cancel);
     fit();
 }
 

@@ -9,16 +9,16 @@ namespace layout {
 
 // Pictures go into the open file at once, and out of it, so what they replace is kept here until the command
 // is over, for it to be undone.
-struct ReplacedPictures {
+struct KeptPictures {
     bool isKept = false; // where commands can be undone
     std::vector<file::KeptEntry> entries;
 };
-inline ReplacedPictures& replacedPictures(const app::App& app) {
-    return app.rooms.of<ReplacedPictures>();
+inline KeptPictures& keptPictures(const app::App& app) {
+    return app.rooms.of<KeptPictures>();
 }
 // Before the entry of that name is replaced or deleted.
 inline void keepReplaced(const app::App& app, const file::Zip& archive, const std::string& name) {
-    ReplacedPictures& pictures = replacedPictures(app);
+    KeptPictures& pictures = keptPictures(app);
     if (pictures.isKept) pictures.entries.push_back(file::keepEntry(archive, name));
 }
 
