@@ -8,6 +8,7 @@
 #include "storage/saveFile.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace entry {
 
@@ -53,6 +54,7 @@ entryFrm::entryFrm(app::App& app) : app_(app) {
     RefreshEditBoxes();
     // A form of one box starts empty. It is wanted so.
     if (list().count() >= 2 && count() >= 2) RetrieveData();
+    if (std::exchange(formOpening(app).bNew, false)) newRecord();
 }
 
 void entryFrm::Form_QueryUnload() {

@@ -8,6 +8,8 @@
 #include "print/printCommands.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
+#include "shell/clipboardCommands.h"
+#include "shell/listCommands.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 #include "storage/cleanDatabase.h"
@@ -121,6 +123,12 @@ std::vector<Command> menuCommands() {
         {"mnuFile2", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile2"); }},
         {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
         {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
+        {"mnuCut", "Cu&t", "", "cut", false, cut, canCut},
+        {"mnuCopy", "&Copy", "", "copy", false, copy, canCopy},
+        {"mnuPaste", "&Paste", "", "paste", false, paste, canPaste},
+        {"mnuNewRecord", "&New Record", "", "recordNew", false, newRecord, canAddRecord},
+        {"mnuOpenPage", "Show On &Layout Page", "", "pageSetup", false, openOnPage, canOpenOnPage},
+        {"mnuOpenForm", "Open In &Entry Form", "", "field", false, openInForm, canOpenInForm},
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
@@ -182,7 +190,8 @@ bool hasCommand(std::string_view key) {
 }
 
 bool isCommandEnabled(const App& app, std::string_view key) {
-    if (!command(key).run) return false;
+    const Command& asked = command(key);
+    if (!asked.run || (asked.isReady != nullptr && !asked.isReady(app))) return false;
     const std::string_view menu = menuOf(key);
     return isControlEnabled(app, key) && (menu.empty() || isControlEnabled(app, menu));
 }
@@ -243,7 +252,9 @@ std::span<const Menu> menuBar() {
           "mnuFile3",
           "-",
           "mnuExit"}},
-        {"mnuEdit", "&Edit", {"mnuDuplicate", "-", "mnuReplace"}},
+        {"mnuEdit",
+         "&Edit",
+         {"mnuCut", "mnuCopy", "mnuPaste", "-", "mnuNewRecord", "mnuDuplicate", "-", "mnuReplace"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",
