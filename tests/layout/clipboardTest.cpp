@@ -4,7 +4,6 @@ namespace {
 
 struct Clipboard : Sheet {
     const std::string none = "i There are no objects of a layout on the clipboard.";
-    std::string& clipboard = platform.onClipboard.text;
 
     // Pastes what is on the clipboard, or that text; what the page holds then, or what was told.
     std::string pasted() {
@@ -12,8 +11,7 @@ struct Clipboard : Sheet {
         const std::string before = lines();
         run("mnuPaste");
         const std::string message = told();
-        EXPECT_EQ(app.document.bModified, message.empty());
-        EXPECT_TRUE(message.empty() || lines() == before) << message;
+        EXPECT_TRUE(app.document.bModified == message.empty() && (message.empty() || lines() == before));
         return message.empty() ? lines() : message;
     }
     std::string pasted(const std::string& text) {
@@ -23,22 +21,18 @@ struct Clipboard : Sheet {
 };
 
 TEST_F(Clipboard, EachObjectComesToAnotherPageAsItIs) {
-    const char* const all[] = {"F|Name|960|960|1500|300|True|False|False|Arial|12|255|",
-                               "L|One | two|960|1200|900|240|False|True|False|Arial|10|0|http://x|2|",
-                               "LN|600|3000|4800|75|16777215|",
-                               "VLN|3000|900|75|3000|16777215|",
-                               "B|1500|1500|3000|1200|255|3|",
-                               "P|Photo|4800|900|600|600|",
-                               "C|art.gif|3000|0|2175|1815|"};
     std::size_t number = 0;
-    for (const std::string line : all) {
+    for (const std::string& line : std::vector<std::string>(
+             {"F|Name|960|960|1500|300|True|False|False|Arial|12|255|",
+              "L|One | two|960|1200|900|240|False|True|False|Arial|10|0|http://x|2|",
+              "LN|600|3000|4800|75|16777215|", "VLN|3000|900|75|3000|16777215|",
+              "B|1500|1500|3000|1200|255|3|", "P|Photo|4800|900|600|600|", "C|art.gif|3000|0|2175|1815|"})) {
         openSheet(line, true);
         it = {core::allFamilies[number++], 1};
         after("select");
         run("mnuCopy");
-        EXPECT_EQ(clipboard, line + "\n");
-        const bool isPlainText = number % 2 == 0;
-        if (isPlainText) platform.onClipboard.layout.clear(); // as another program gives it back
+        EXPECT_EQ(platform.onClipboard.text, line + "\n");
+        if (number % 2 == 0) platform.onClipboard.layout.clear(); // as another program gives it back
         openSheet({}, true);
         EXPECT_EQ(pasted(), line + "; ");
         EXPECT_TRUE(page.selectedObject == it && page.bShowSelected && state().ends_with("grip"));
@@ -54,13 +48,11 @@ TEST_F(Clipboard, EachObjectComesToAnotherPageAsItIs) {
     run("mnuCopy");
     pasted();
     EXPECT_TRUE(pasted().ends_with(" B|1620|1620|3000|1200|255|3|; B|1740|1740|3000|1200|255|3|; "));
-    EXPECT_TRUE(pasted("B|30000|-50|1000|500|0|1|").ends_with(" B|11240|0|1000|500|0|1|; "))
-        << "on the sheet";
+    EXPECT_TRUE(pasted("B|30000|-50|1000|500|0|1|").ends_with(" B|11240|0|1000|500|0|1|; "));
     openSheet("F|Qty|0|0|900|300;F|Qty|0|300|900|300", true);
     const std::string repeated = lines();
     after("layoutField,1 select");
     run("mnuCut");
-    EXPECT_EQ(lines(), "");
     EXPECT_EQ(pasted(), repeated);
     EXPECT_TRUE(objects.layoutField[1].Enabled && !objects.layoutField[2].Enabled);
 }
@@ -86,8 +78,7 @@ TEST_F(Clipboard, ClipArtBringsItsPicture) {
     };
     for (const char* name : {"data.dat", "../a.gif", "no.gif", "gif"})
         EXPECT_EQ(hostile(name, "QUJD"), "! The picture " + std::string(name) + " cannot be read.");
-    EXPECT_EQ(hostile("art.gif", "Q!"), none);
-    EXPECT_FALSE(fs::exists(platform.tempFolder() / "no.gif"));
+    EXPECT_EQ(hostile("art.gif", "Q!") + (fs::exists(platform.tempFolder() / "no.gif") ? "!" : ""), none);
     fs::remove(app.document.currentFile);
     EXPECT_TRUE(hostile("art.gif", "QUJD").starts_with("! The picture could not be added to the database: "));
 }
@@ -96,10 +87,9 @@ TEST_F(Clipboard, WhatIsNoObjectIsRefused) {
     openSheet("B|0|0|900|900|0|1|", true);
     std::string many, label = "L|" + std::string(70'000, 'x') + "|0|0|9|9|False|False|False|Arial|10|0||0|";
     for (int i = 0; i < 1001; ++i) many += "B|0|0|9|9|0|1|\n";
-    for (const std::string& text :
-         {std::string(), std::string("a\tb\n"), std::string("F|Name|1|2"), std::string("B|0|0|-5|9|0|1|"),
-          std::string("B|0|0|1e9|9|0|1|"), std::string("B|nan|0|9|9|0|1|"), std::string("B|0|0|9|9|0|1|\nx"),
-          many, label, std::string(std::size_t{65} << 20, '\n')})
+    for (const std::string& text : std::vector<std::string>(
+             {"", "a\tb\n", "F|Name|1|2", "B|0|0|-5|9|0|1|", "B|0|0|1e9|9|0|1|", "B|nan|0|9|9|0|1|",
+              "B|0|0|9|9|0|1|\nx", many, label, std::string(std::size_t{65} << 20, '\n')}))
         EXPECT_EQ(pasted(text), none) << text.substr(0, 40);
     for (const auto& c :
          table("F|Nope|0|0|9|9 -> column \"Nope\"; F|Photo|0|0|9|9 -> column \"Photo\"; "

@@ -11,10 +11,8 @@
 namespace {
 
 struct ListCommands : testing::Test, Program {
-    core::RecordsList& LV = app.document.LV;
-
-    // The menu of the list on view, with what cannot be done now in brackets and what a double click is
-    // marked.
+    // The menu of the list on view as far as it is about records, with what cannot be done now in brackets
+    // and a mark on what a double click is.
     std::string menu() {
         const core::RecordsList& list = shell::visibleList(app.document);
         std::string all;
@@ -23,21 +21,19 @@ struct ListCommands : testing::Test, Program {
             const bool isOff = key != "-" && !shell::isCommandEnabled(app, key);
             all.append(isOff ? "(" : "").append(key).append(isOff ? ") " : " ");
         }
-        return all;
+        return all.substr(0, all.find(" - ", all.find(" - ") + 1));
     }
 };
 
 TEST_F(ListCommands, TheMenuHasWhatCanBeDoneToThatListsRecords) {
-    const std::string rest = "- (mnuCopy) (mnuPaste) - mnuReplace mnuSearch - mnuSelectedTotals "
-                             "Selected_As_Report ";
     open(DataFile("Name", "a"));
-    EXPECT_EQ(menu(), "mnuOpenPage *mnuOpenForm - mnuNewRecord mnuDuplicate Delete " + rest);
+    EXPECT_EQ(menu(), "mnuOpenPage *mnuOpenForm - mnuNewRecord mnuDuplicate Delete");
     open(DataFile("Name"));
-    EXPECT_EQ(menu(), "(mnuOpenPage) *(mnuOpenForm) - mnuNewRecord mnuDuplicate Delete " + rest);
+    EXPECT_EQ(menu(), "(mnuOpenPage) *(mnuOpenForm) - mnuNewRecord mnuDuplicate Delete");
     openCopyOf("invoices.fwk");
-    EXPECT_EQ(menu(), "*mnuOpenPage - mnuNewRecord Delete " + rest);
+    EXPECT_EQ(menu(), "*mnuOpenPage - mnuNewRecord Delete");
     shell::viewOpt_Click(app, 0);
-    EXPECT_EQ(menu(), "*mnuOpenPage - mnuNewRecord " + rest);
+    EXPECT_EQ(menu(), "*mnuOpenPage - mnuNewRecord");
 }
 
 // Where records are opened; never while the page is designed.
@@ -59,6 +55,7 @@ TEST_F(ListCommands, ANewRecordIsTypedInTheFormOrOnThePage) {
 }
 
 TEST_F(ListCommands, TypedLettersFindTheBeginningOfARow) {
+    core::RecordsList& LV = app.document.LV;
     open(DataFile("Name Price:2", "Zoe|$8.50;émile|$12.00;Ann|$.75;Emma|$8.00;Łukasz|$1.00"));
     for (const auto& c :
          table("z -> 1 -> 0; E -> 2 -> 0; em -> 2 -> 0; EMM -> 4 -> 1; ee -> 4 -> 2; ee -> 2 -> "
@@ -66,13 +63,10 @@ TEST_F(ListCommands, TypedLettersFindTheBeginningOfARow) {
                3))
         EXPECT_EQ(shell::rowBeginningWith(LV, LV.columns["Name"], c[0], std::stoi(c[2])), std::stoi(c[1]))
             << c[0];
-    for (const auto& c : table("8 -> 1; $8.0 -> 4; 12 -> 2"))
-        EXPECT_EQ(shell::rowBeginningWith(LV, LV.columns["Price"], c[0], 0), std::stoi(c[1])) << c[0];
-    for (const auto& [order, first] :
-         {std::pair(shell::Order::Ascending, "Ann"), std::pair(shell::Order::Ascending, "Ann"),
-          std::pair(shell::Order::Descending, "Łukasz")}) {
-        shell::sortList(app, LV, 2, order);
-        EXPECT_EQ(cell(1, "Name"), first);
+    EXPECT_EQ(shell::rowBeginningWith(LV, LV.columns["Price"], "8.0", 0), 4);
+    for (const bool isDown : {false, false, true}) {
+        shell::sortList(app, LV, 2, isDown ? shell::Order::Descending : shell::Order::Ascending);
+        EXPECT_EQ(cell(1, "Name"), isDown ? "Łukasz" : "Ann");
     }
 }
 

@@ -7,6 +7,7 @@
 #include "gui/widgets/qtText.h"
 #include "shell/listEvents.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -233,10 +234,12 @@ void RecordsView::addSortMenu(QMenu& menu) {
     QMenu* columns = menu.addMenu(tr("Sort &By"));
     columns->setObjectName(QStringLiteral("sortMenu"));
     columns->setEnabled(list_.count() >= 2);
+    auto* one = new QActionGroup(columns);
     for (const int section : sectionOrder()) {
         const QString name = model_->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
         QAction* action = columns->addAction(withoutMnemonics(name));
         action->setCheckable(true);
+        one->addAction(action);
         action->setChecked(isSorted() && sort_->section == section);
         connect(action, &QAction::triggered, this, [this, section] { columnClicked(section); });
     }
@@ -251,6 +254,10 @@ void RecordsView::wantMenu(QPoint place) {
 void RecordsView::wantMenuAtRow() {
     const QModelIndex current = currentIndex();
     if (current.isValid()) scrollTo(current);
+    if (current.isValid() && !selectionModel()->isSelected(current)) {
+        selectionModel()->select(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        clickWithoutCtrl();
+    }
     const QRect row = current.isValid() ? visualRect(current) : QRect();
     const QRect room = viewport()->rect();
     const QPoint place(std::clamp(row.left() + row.height(), room.left(), room.right()), row.bottom());
@@ -287,12 +294,14 @@ void RecordsView::mousePressEvent(QMouseEvent* event) {
     const bool selects = row.isValid() && !selectionModel()->isSelected(row);
     QTreeView::mousePressEvent(event);
     // The right button takes a row that is not selected, as a click does.
-    if (event->button() == Qt::RightButton && selects) {
-        events_.run([&] {
-            followCtrl(false);
-            shell::list_Click(app_, list_);
-        });
-    }
+    if (event->button() == Qt::RightButton && selects) clickWithoutCtrl();
+}
+
+void RecordsView::clickWithoutCtrl() {
+    events_.run([&] {
+        followCtrl(false);
+        shell::list_Click(app_, list_);
+    });
 }
 
 void RecordsView::mouseReleaseEvent(QMouseEvent* event) {

@@ -63,6 +63,7 @@ private:
     void showHeaderMenu(QPoint place);
     void wantMenu(QPoint place);
     void wantMenuAtRow();
+    void clickWithoutCtrl();
     bool isSorted() const { return sort_ && sort_->arrangement == list_.arrangement(); }
     void columnMoved(int section, int newVisual);
     void columnResized(int section, int pixels);
