@@ -127,7 +127,7 @@ std::vector<Command> menuCommands() {
         {"mnuCopy", "&Copy", "", "copy", false, copy, canCopy},
         {"mnuPaste", "&Paste", "", "paste", false, paste, canPaste},
         {"mnuNewRecord", "&New Record", "", "recordNew", false, newRecord, canAddRecord},
-        {"mnuOpenPage", "Show On &Layout Page", "", "pageSetup", false, openOnPage, canOpenOnPage},
+        {"mnuOpenPage", "Show On &Layout Page", "", "openPage", false, openOnPage, canOpenOnPage},
         {"mnuOpenForm", "Open In &Entry Form", "", "field", false, openInForm, canOpenInForm},
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},

@@ -136,7 +136,7 @@ int rowBeginningWith(const RecordsList& list, const core::Column& column, std::s
     if (wanted.empty()) return 0;
     if (const int row = firstRow(list, column, wanted, 1); row != 0) return row;
     const std::string letter(core::left(wanted, 1));
-    if (core::replaceAll(wanted, letter, "") != "") return 0;
+    if (!core::replaceAll(wanted, letter, "").empty()) return 0;
     const int next = firstRow(list, column, letter, std::max(currentRow, 0) + 1);
     return next != 0 ? next : firstRow(list, column, letter, 1);
 }
