@@ -62,8 +62,9 @@ CopiedObjects::Picture readPicture(std::string_view line) {
 
 // Not a number is none of these either.
 bool isPlaced(const core::LayoutObject& object) {
-    return object.Width >= 0 && object.Width <= mostTwips && object.Height >= 0 && object.Height <= mostTwips &&
-           std::abs(object.Left) <= mostTwips && std::abs(object.Top) <= mostTwips;
+    return object.Width >= 0 && object.Width <= mostTwips && object.Height >= 0 &&
+           object.Height <= mostTwips && std::abs(object.Left) <= mostTwips &&
+           std::abs(object.Top) <= mostTwips;
 }
 
 void readLine(std::string_view line, CopiedObjects& copied) {
