@@ -55,6 +55,7 @@ entryFrm::entryFrm(app::App& app) : app_(app) {
     RefreshEditBoxes();
     // A form of one box starts empty. It is wanted so.
     if (list().count() >= 2 && count() >= 2) RetrieveData();
+    if (std::exchange(formOpening(app).bNew, false)) newRecord();
     takeTypedBefore();
 }
 

@@ -21,6 +21,14 @@ struct TypedBefore {
 // The key codes that the form's boxes know.
 constexpr int keyBack = 8, keyReturn = 13, keyUp = 38, keyDown = 40;
 
+// How the form is to begin when it is shown next.
+struct FormOpening {
+    bool bNew = false; // with the boxes of a new record; the form takes it back
+};
+inline FormOpening& formOpening(const app::App& app) {
+    return app.rooms.of<FormOpening>();
+}
+
 // The Entry Form: a labelled box for each column that can be typed into, stacked in a pane that scrolls.
 // It works on theListView. Typing changes the boxes alone; Add, Update and Enter on the last box write.
 class entryFrm {

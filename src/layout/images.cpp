@@ -111,6 +111,29 @@ bool archiveHas(core::Document& document, const std::string& name) {
     return found;
 }
 
+bool isImageName(const std::string& name) {
+    const std::string ending = core::upper(core::right(name, 4));
+    return file::isSafeEntryName(name) && (ending == ".GIF" || ending == ".JPG");
+}
+
+// The name itself when no picture has it, or this one; else with a number, "art-2.gif".
+std::string nameInArchive(const file::Zip& Zip, const std::string& name, std::string_view bytes) {
+    std::string chosen = name;
+    for (int number = 2; Zip.contains(chosen); ++number) {
+        if (Zip.readEntry(chosen, file::Zip::maxFileBytes) == bytes) break;
+        chosen = fs::path(name).stem().string();
+        chosen.append("-").append(std::to_string(number)).append(fs::path(name).extension().string());
+    }
+    return chosen;
+}
+
+void writeWorkFile(const fs::path& path, std::string_view bytes) {
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    out.close();
+    if (!out) core::raise(core::errors::pathAccess, path.string());
+}
+
 int randomNumber() {
     static std::mt19937 engine{std::random_device{}()};
     return std::uniform_int_distribution<int>(1, 10000)(engine);
@@ -210,6 +233,30 @@ void selectClipArt(App& app, int iIndex) {
     if (!added) return;
     clip->Tag = file->filename().string();
     fitImage(app, *clip, clip->clipImage, copy);
+}
+
+std::optional<std::string> storeClipArt(App& app, const std::string& name, std::string_view bytes) {
+    if (!isImageName(name)) {
+        app::warn(app, "The picture " + name + " cannot be read.");
+        return std::nullopt;
+    }
+    std::string chosen;
+    bool isShown = true;
+    const bool stored = tryToAdd(app, [&] {
+        file::Zip Zip;
+        Zip.OpenArchive(app.document.currentFile);
+        chosen = nameInArchive(Zip, name, bytes);
+        const bool isThere = Zip.contains(chosen);
+        Zip.CloseArchive();
+        const fs::path file = app.platform.tempFolder() / chosen;
+        writeWorkFile(file, bytes);
+        if (isThere) return;
+        isShown = app.platform.pictureExtent(file).has_value();
+        if (isShown) return addToArchive(app, file, "Clip Art");
+        app::warn(app, faultOf(app, file, name));
+        fs::remove(file);
+    });
+    return stored && isShown ? std::optional(chosen) : std::nullopt;
 }
 
 std::string storeClipboardImage(App& app, const FittedImage& image) {

@@ -6,7 +6,9 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace layout {
 
@@ -48,6 +50,10 @@ struct ReplacedPictures {
 // The archive changes at once.
 void imgHolder_DblClick(app::App& app, int index);
 void selectClipArt(app::App& app, int iIndex);
+
+// Clip art from another place: puts the picture into the archive and the work folder, unless it is there.
+// Another picture that has its name keeps it. The name that it has here, or nothing after a message.
+std::optional<std::string> storeClipArt(app::App& app, const std::string& name, std::string_view bytes);
 
 // The image of the clipboard for the selected picture box or clip art.
 void mnuImportImage_Click(app::App& app);

@@ -65,6 +65,7 @@ struct LayoutPage {
     std::vector<std::string> fieldMenu, pictureMenu;
 
     bool bEditingLabel = false;
+    bool bShowSelected = false; // the view is to scroll to the selected object, and to clear this
 
     // A drag, from the mouse-down to the mouse-up.
     enum class Drag { None, Move, Resize, HorizontalGuide, VerticalGuide };

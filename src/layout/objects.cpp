@@ -52,21 +52,9 @@ core::LayoutField* selectedField(App& app) {
                                                   : nullptr;
 }
 
-// The selected object, and the copies of a repeated field behind it.
 template <typename Visitor>
 void forSelectedGroup(App& app, Visitor&& visit) {
-    core::LayoutObjects& layout = app.document.layout;
-    core::LayoutField* field = selectedField(app);
-    if (field == nullptr || !isRepeatedField(layout, *field)) {
-        visit(layoutPage(app).selectedObject);
-        return;
-    }
-    const std::string tag = field->Tag;
-    std::vector<int> group;
-    layout.layoutField.forEach([&](const core::LayoutField& each) {
-        if (each.Tag == tag) group.push_back(each.Index);
-    });
-    for (const int index : group) visit(ObjectRef{Family::layoutField, index});
+    for (const ObjectRef object : selectedGroup(app)) visit(object);
 }
 
 // What was chosen anew; the copies of a field can differ in all else. Boxes and lines have no text, but take
@@ -168,6 +156,21 @@ void addHorizontalLine(App& app) {
 
 void addVerticalLine(App& app) {
     selectNew(app, {Family::vLine, add(app, app.document.layout.vLine).Index});
+}
+
+std::vector<ObjectRef> selectedGroup(App& app) {
+    core::LayoutObjects& layout = app.document.layout;
+    const core::LayoutField* field = selectedField(app);
+    if (field == nullptr || !isRepeatedField(layout, *field)) {
+        const ObjectRef selected = layoutPage(app).selectedObject;
+        if (findObject(layout, selected) == nullptr) return {};
+        return {selected};
+    }
+    std::vector<ObjectRef> group;
+    layout.layoutField.forEach([&](const core::LayoutField& each) {
+        if (each.Tag == field->Tag) group.push_back({Family::layoutField, each.Index});
+    });
+    return group;
 }
 
 void deleteSelectedObject(App& app) {

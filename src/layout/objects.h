@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app/app.h"
+#include "core/objectRef.h"
 
 #include <string>
+#include <vector>
 
 namespace layout {
 
@@ -15,6 +17,8 @@ void addBox(app::App& app);
 void addHorizontalLine(app::App& app);
 void addVerticalLine(app::App& app);
 
+// The selected object, and with a repeated field its copies; empty while nothing is selected.
+std::vector<core::ObjectRef> selectedGroup(app::App& app);
 // Locks of a deleted object stay, so a new one that takes its name is locked from birth. It is wanted so.
 void deleteSelectedObject(app::App& app);
 // Asks, and removes all objects.

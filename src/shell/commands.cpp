@@ -8,6 +8,8 @@
 #include "print/printCommands.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
+#include "shell/clipboardCommands.h"
+#include "shell/listCommands.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 #include "shell/undo.h"
@@ -124,6 +126,12 @@ std::vector<Command> menuCommands() {
         {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
         {"mnuUndo", "&Undo", "", "undo", false, undo},
         {"mnuRedo", "&Redo", "", "redo", false, redo},
+        {"mnuCut", "Cu&t", "", "cut", false, cut, canCut},
+        {"mnuCopy", "&Copy", "", "copy", false, copy, canCopy},
+        {"mnuPaste", "&Paste", "", "paste", false, paste, canPaste},
+        {"mnuNewRecord", "&New Record", "", "recordNew", false, newRecord, canAddRecord},
+        {"mnuOpenPage", "Show On &Layout Page", "", "openPage", false, openOnPage, canOpenOnPage},
+        {"mnuOpenForm", "Open In &Entry Form", "", "field", false, openInForm, canOpenInForm},
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
@@ -185,7 +193,8 @@ bool hasCommand(std::string_view key) {
 }
 
 bool isCommandEnabled(const App& app, std::string_view key) {
-    if (!command(key).run) return false;
+    const Command& asked = command(key);
+    if (!asked.run || (asked.isReady != nullptr && !asked.isReady(app))) return false;
     const std::string_view menu = menuOf(key);
     return isControlEnabled(app, key) && (menu.empty() || isControlEnabled(app, menu));
 }
@@ -248,7 +257,10 @@ std::span<const Menu> menuBar() {
           "mnuFile3",
           "-",
           "mnuExit"}},
-        {"mnuEdit", "&Edit", {"mnuUndo", "mnuRedo", "-", "mnuDuplicate", "-", "mnuReplace"}},
+        {"mnuEdit",
+         "&Edit",
+         {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuPaste", "-", "mnuNewRecord", "mnuDuplicate",
+          "-", "mnuReplace"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",

@@ -17,12 +17,14 @@ struct Command {
     std::string_view icon;    // name in the icon family
     bool checkable = false;
     std::function<void(app::App&)> run; // empty: the subsystem is not there yet
+    // Whether there is something to do it with, where the state of the controls does not tell.
+    bool (*isReady)(const app::App&) = nullptr;
 };
 
 const Command& command(std::string_view key); // raises elementNotFound
 bool hasCommand(std::string_view key);
 
-// What a view asks: the command is built, and the window's state allows it.
+// What a view asks: the command is built, it is ready, and the window's state allows it.
 bool isCommandEnabled(const app::App& app, std::string_view key);
 
 // Carries a command out, if it is enabled.

@@ -43,19 +43,6 @@ void showRecordOf(App& app, const RecordsList& list) {
     SSTab1_Click(app, app::layoutTab);
 }
 
-void results_DblClick(App& app, RecordsList& results) {
-    if (results.count() == 1) return;
-    if (app.document.bInvoiceStyle) {
-        showRecordOf(app, results);
-        return;
-    }
-    // Asked is whether the menu item is enabled, not whether it is checked. It is wanted so.
-    if (app.mainFrm.control("mnuLayoutDoubleClick").Enabled)
-        SSTab1_Click(app, app::layoutTab);
-    else if (results.count() >= 2)
-        app.platform.showForm("entryFrm");
-}
-
 } // namespace
 
 void list_ColumnClick(App& app, RecordsList& list, int columnIndex) {
@@ -72,15 +59,32 @@ void list_ColumnClick(App& app, RecordsList& list, int columnIndex) {
     app.changes.announce(app, app::Change::CurrentRecord);
 }
 
-void list_DblClick(App& app, RecordsList& list) {
-    if (&list == &app.document.searchLV)
-        results_DblClick(app, list);
-    else if (&list == &app.document.iLV)
+void showOnPage(App& app, RecordsList& list) {
+    const bool isOfRecords =
+        &list == &app.document.iLV || (&list == &app.document.searchLV && app.document.bInvoiceStyle);
+    if (isOfRecords)
         showRecordOf(app, list);
-    else if (app.document.bInvoiceStyle || app.mainFrm.bLayoutDblClick)
-        SSTab1_Click(app, app::layoutTab);
     else
+        SSTab1_Click(app, app::layoutTab);
+}
+
+void showInForm(App& app, RecordsList& list) {
+    if (&list != &app.document.searchLV)
         showEntryForm(app);
+    else if (list.count() >= 2)
+        app.platform.showForm("entryFrm");
+}
+
+bool opensOnPage(App& app, const RecordsList& list) {
+    if (app.document.bInvoiceStyle || &list == &app.document.iLV) return true;
+    // Asked of results is whether the menu item is enabled, not whether it is checked. It is wanted so.
+    return &list == &app.document.searchLV ? app.mainFrm.control("mnuLayoutDoubleClick").Enabled
+                                           : app.mainFrm.bLayoutDblClick;
+}
+
+void list_DblClick(App& app, RecordsList& list) {
+    const bool isEmpty = &list == &app.document.searchLV && list.count() == 1;
+    if (!isEmpty) opensOnPage(app, list) ? showOnPage(app, list) : showInForm(app, list);
     app::allowManySelected(app);
 }
 
@@ -92,10 +96,21 @@ void list_KeyUp(App& app) {
     app.mainFrm.bCtrlDown = false;
 }
 
-RecordsList& visibleList(core::Document& document) {
+namespace {
+template <typename Document>
+auto& listOnView(Document& document) {
     if (document.searchLV.Visible) return document.searchLV;
     // Not by the style: a new database that is cancelled half-way has chosen one for the records on view.
     return document.iLV.Visible ? document.iLV : document.LV;
+}
+} // namespace
+
+RecordsList& visibleList(core::Document& document) {
+    return listOnView(document);
+}
+
+const RecordsList& visibleList(const core::Document& document) {
+    return listOnView(document);
 }
 
 } // namespace shell

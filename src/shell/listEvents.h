@@ -15,10 +15,16 @@ using calc::collectSelected;
 using calc::list_Click;
 void list_ColumnClick(app::App& app, core::RecordsList& list, int columnIndex);
 void list_DblClick(app::App& app, core::RecordsList& list);
+// The two ways to a record, whichever the double click takes.
+void showOnPage(app::App& app, core::RecordsList& list);
+void showInForm(app::App& app, core::RecordsList& list);
+// Whether the double click shows the page.
+bool opensOnPage(app::App& app, const core::RecordsList& list);
 void list_KeyDown(app::App& app, int keyCode);
 void list_KeyUp(app::App& app);
 
 // The list that the report tab shows now.
 core::RecordsList& visibleList(core::Document& document);
+const core::RecordsList& visibleList(const core::Document& document);
 
 } // namespace shell

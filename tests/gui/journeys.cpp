@@ -112,6 +112,25 @@ look LV -> "Copies60 No47 Title150 Author147 Price80 Bought87 Value87 Cover93 No
 )");
     }
 
+    void theListByItsKeysAndObjectsOnTheClipboard() {
+        Session run(database("menu.fwk", DataFile("Name Qty:4", "Bolt|2;Nut|1;\xC9lan|3;Nail|5")));
+        run.platform.inputs = {"1"};
+        run.play(R"(
+type el -> LV.0=Bolt|2 LV.2=>Élan|3
+press Shift+F10; press B; press Return; type nn -> LV.0=Élan|3 LV.2=>Nail|5 LV.3=Bolt|2 LV.sort=0/1
+press Ctrl+D -> -LV LV.4=Nail|5 LV.5=-|- SB1_1=5 records. SB1_5=Document Modified
+press Menu; press E; fill FieldBox0 Nap; press Ctrl+Shift+Return; press Escape -> LV.2=>Nap|5
+press Insert; type Cog; press Return; type 9; press Return; press Escape -> LV.2=Nap|5 LV.5=>Cog|9 LV.6=-|- SB1_1=6
+    records.
+press Ctrl+L; tool Box; press Ctrl+C; press Ctrl+V; press Ctrl+Right -> Totals=- Properties=- Design=x Delete=- page=1
+    layoutToolbar.Snap=x layoutToolbar.Rows=- clearRulesBtn=- sheet=2 at 19,19 layoutPic2=*(cut) selectionPlace=At 1.17,
+    1.34 Size 1.59 x 1.26 in
+press Ctrl+X; press Ctrl+V; press Ctrl+V -> sheet=3 at 19,19 selectionPlace=At 1.25, 1.43 Size 1.59 x 1.26 in
+tool Field Name; press Ctrl+L; tab 0; click mnuLayoutDoubleClick; press Insert -> -clearRulesBtn -layoutToolbar
+    -selectionPlace Design Slider1=6 recordPosition=New record sheet=4 at 19,0 f1=|
+)");
+    }
+
     // Dropped or not; and an error that nobody caught keeps a copy and ends the program.
     void filesThatAreDroppedAndProgramsThatEnd() {
         Session run;

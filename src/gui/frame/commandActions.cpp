@@ -4,6 +4,7 @@
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "shell/commands.h"
+#include "shell/listCommands.h"
 
 #include <QFontMetrics>
 #include <QMenuBar>
@@ -29,6 +30,12 @@ const std::vector<Shortcut>& shortcuts() {
         {"mnuSave", "Save", QKeySequence(Qt::CTRL | Qt::Key_S)},
         {"mnuSaveAs", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
         {"mnuPrint", "Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
+        {"mnuCut", "", QKeySequence(Qt::CTRL | Qt::Key_X)},
+        {"mnuCopy", "", QKeySequence(Qt::CTRL | Qt::Key_C)},
+        {"mnuPaste", "", QKeySequence(Qt::CTRL | Qt::Key_V)},
+        {"mnuNewRecord", "", QKeySequence(Qt::Key_Insert)},
+        {"mnuDuplicate", "", QKeySequence(Qt::CTRL | Qt::Key_D)},
+        {"mnuReplace", "", QKeySequence(Qt::CTRL | Qt::Key_H)},
         {"mnuSearch", "Search", QKeySequence(Qt::CTRL | Qt::Key_F)},
         {"Design", "Design", QKeySequence(Qt::CTRL | Qt::Key_L)},
         {"mnuExit", "", QKeySequence(Qt::CTRL | Qt::Key_Q)},
@@ -61,7 +68,10 @@ CommandActions::CommandActions(app::App& app, EventBoundary& events, QObject* pa
     for (const shell::Menu& menu : shell::menuBar()) addAll(menu.items);
     addAll(shell::toolbarKeys());
     for (const std::string_view button : shell::toolbarKeys()) addAll(shell::buttonMenuKeys(button));
+    addAll(shell::contextMenuKeys(app.document.LV, app.document));
     for (const Shortcut& shortcut : shortcuts()) action(shortcut.key)->setShortcut(shortcut.keys);
+    // Of the list alone: where a text is typed the key has another meaning.
+    action("mnuNewRecord")->setShortcutContext(Qt::WidgetShortcut);
 }
 
 QAction* CommandActions::add(std::string_view key) {

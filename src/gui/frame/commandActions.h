@@ -24,6 +24,7 @@ public:
     CommandActions(app::App& app, EventBoundary& events, QObject* parent = nullptr);
 
     QAction* action(std::string_view key) const;
+    void fill(QMenu& menu, const std::vector<std::string_view>& keys);
     void addMenuBar(QMainWindow& window);
     void addToolbar(QMainWindow& window);
 
@@ -31,7 +32,6 @@ public:
 
 private:
     QAction* add(std::string_view key);
-    void fill(QMenu& menu, const std::vector<std::string_view>& keys);
     void showRecentFile(QAction& action, int number, const std::string& path);
 
     app::App& app_;

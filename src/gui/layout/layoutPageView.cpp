@@ -229,7 +229,7 @@ void LayoutPageView::refresh() {
     // Whoever comes by the mouse goes on with the sheet, once the record is there; the tabs keep the keys of
     // whoever walks them.
     if (std::exchange(arriving_, false) && qobject_cast<QTabBar*>(QApplication::focusWidget()) == nullptr)
-        sheet_->takeFocus();
+        entry::isSheetNew(app_) ? sheet_->takeFirstField() : sheet_->takeFocus();
 }
 
 } // namespace gui

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace gui {
 
@@ -80,6 +81,10 @@ void SheetView::refresh() {
     paper_->setVisible(sheet.Visible);
     placeMark();
     placeGrip();
+    // The bars take nothing while they are shown anew themselves.
+    if (std::exchange(page.bShowSelected, false))
+        QMetaObject::invokeMethod(
+            this, [this] { bringIntoView(layout::layoutPage(app_).selectedObject); }, Qt::QueuedConnection);
     ruler1_->setGeometry(pixels(page.ruler1.Left), 0, pixels(page.ruler1.Width), pixels(page.ruler1.Height));
     ruler2_->setGeometry(0, pixels(page.ruler2.Top), pixels(page.ruler2.Width), pixels(page.ruler2.Height));
     corner_->setGeometry(0, 0, pixels(layout::rulerThickness), pixels(layout::rulerThickness));

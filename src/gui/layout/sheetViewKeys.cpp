@@ -86,7 +86,9 @@ bool SheetView::paperKey(const QKeyEvent& key) {
         doubleClick(selected);
         return true;
     }
-    if (key.key() == Qt::Key_Menu) {
+    const bool isMenuKey =
+        key.key() == Qt::Key_Menu || (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier);
+    if (isMenuKey) {
         bool wantsMenu = false;
         events_.run([&] { wantsMenu = layout::object_MouseUp(app_, selected, layout::MouseButton::Right); });
         if (wantsMenu) showImportMenu(widget->mapToGlobal(widget->rect().center()));

@@ -2,10 +2,14 @@
 
 #include "gui/records/listLook.h"
 #include "gui/records/recordsHeader.h"
+#include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "shell/listEvents.h"
 
+#include <QActionGroup>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -15,8 +19,6 @@
 #include <cmath>
 
 namespace gui {
-
-namespace {} // namespace
 
 RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent)
     : QTreeView(parent), app_(app), list_(list), events_(events), model_(new RecordsModel(list, this)) {
@@ -35,6 +37,8 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
     columns->setSortIndicatorShown(true);
     useListLook(*this);
     connect(columns, &QHeaderView::sectionClicked, this, &RecordsView::columnClicked);
+    columns->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(columns, &QWidget::customContextMenuRequested, this, &RecordsView::showHeaderMenu);
     connect(columns, &QHeaderView::sectionMoved, this,
             [this](int section, int, int newVisual) { columnMoved(section, newVisual); });
     connect(columns, &QHeaderView::sectionResized, this,
@@ -112,13 +116,24 @@ void RecordsView::columnClicked(int section) {
     events_.run([&] {
         const std::uint64_t before = list_.arrangement();
         shell::list_ColumnClick(app_, list_, RecordsModel::columnIndex(section));
-        if (list_.arrangement() != before) sort_ = {section, list_.arrangement()};
+        noteSort(section, before);
     });
 }
 
+void RecordsView::sortBy(int section, shell::Order order) {
+    events_.run([&] {
+        const std::uint64_t before = list_.arrangement();
+        shell::sortList(app_, list_, RecordsModel::columnIndex(section), order);
+        noteSort(section, before);
+    });
+}
+
+void RecordsView::noteSort(int section, std::uint64_t before) {
+    if (list_.arrangement() != before) sort_ = {section, list_.arrangement()};
+}
+
 void RecordsView::showSortArrow() {
-    const bool sorted = sort_ && sort_->arrangement == list_.arrangement();
-    header()->setSortIndicator(sorted ? sort_->section : -1,
+    header()->setSortIndicator(isSorted() ? sort_->section : -1,
                                list_.SortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
@@ -200,11 +215,93 @@ void RecordsView::currentChanged(const QModelIndex& current, const QModelIndex& 
     QTreeView::currentChanged(current, previous);
 }
 
+// --- menus and typing ---
+
+void RecordsView::showHeaderMenu(QPoint place) {
+    const int section = header()->logicalIndexAt(place);
+    if (section < 0) return;
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("headerMenu"));
+    menu.setAccessibleName(tr("Column"));
+    connect(menu.addAction(familyIcon(QStringLiteral("sortUp")), tr("Sort &Ascending")), &QAction::triggered,
+            this, [this, section] { sortBy(section, shell::Order::Ascending); });
+    connect(menu.addAction(familyIcon(QStringLiteral("sortDown")), tr("Sort &Descending")),
+            &QAction::triggered, this, [this, section] { sortBy(section, shell::Order::Descending); });
+    menu.exec(header()->viewport()->mapToGlobal(place));
+}
+
+void RecordsView::addSortMenu(QMenu& menu) {
+    QMenu* columns = menu.addMenu(tr("Sort &By"));
+    columns->setObjectName(QStringLiteral("sortMenu"));
+    columns->setEnabled(list_.count() >= 2);
+    auto* one = new QActionGroup(columns);
+    for (const int section : sectionOrder()) {
+        const QString name = model_->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+        QAction* action = columns->addAction(withoutMnemonics(name));
+        action->setCheckable(true);
+        one->addAction(action);
+        action->setChecked(isSorted() && sort_->section == section);
+        connect(action, &QAction::triggered, this, [this, section] { columnClicked(section); });
+    }
+}
+
+// What is printed and copied are the rows that were collected, by whatever way they were selected.
+void RecordsView::wantMenu(QPoint place) {
+    events_.run([&] { shell::collectSelected(app_, list_); });
+    emit menuWanted(place);
+}
+
+void RecordsView::wantMenuAtRow() {
+    const QModelIndex current = currentIndex();
+    if (current.isValid()) scrollTo(current);
+    if (current.isValid() && !selectionModel()->isSelected(current)) {
+        selectionModel()->select(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        clickWithoutCtrl();
+    }
+    const QRect row = current.isValid() ? visualRect(current) : QRect();
+    const QRect room = viewport()->rect();
+    const QPoint place(std::clamp(row.left() + row.height(), room.left(), room.right()), row.bottom());
+    wantMenu(viewport()->mapToGlobal(place));
+}
+
+void RecordsView::contextMenuEvent(QContextMenuEvent* event) {
+    // The key itself comes too, on every platform.
+    if (event->reason() != QContextMenuEvent::Keyboard) wantMenu(event->globalPos());
+    event->accept();
+}
+
+// In the sorted column, or in the first one. Letters that follow one another quickly are one beginning.
+void RecordsView::keyboardSearch(const QString& search) {
+    const bool isNext = lastTyped_.isValid() && !lastTyped_.hasExpired(QApplication::keyboardInputInterval());
+    if (search.isEmpty() || !isNext) typed_.clear();
+    lastTyped_.start();
+    if (typed_.isEmpty() && search.trimmed().isEmpty()) return; // Space selects
+    typed_ += search;
+    const std::vector<int> order = sectionOrder();
+    if (order.empty()) return;
+    const core::Column& column =
+        list_.columns.at(RecordsModel::columnIndex(isSorted() ? sort_->section : order.front()));
+    const int row = shell::rowBeginningWith(list_, column, fromQt(typed_), currentIndex().row() + 1);
+    if (row == 0) return;
+    setCurrentIndex(model_->index(row - 1, std::clamp(currentSection_, 0, model_->columnCount() - 1)));
+}
+
 // --- mouse and keys ---
 
 void RecordsView::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton;
+    const QModelIndex row = indexAt(event->position().toPoint());
+    const bool selects = row.isValid() && !selectionModel()->isSelected(row);
     QTreeView::mousePressEvent(event);
+    // The right button takes a row that is not selected, as a click does.
+    if (event->button() == Qt::RightButton && selects) clickWithoutCtrl();
+}
+
+void RecordsView::clickWithoutCtrl() {
+    events_.run([&] {
+        followCtrl(false);
+        shell::list_Click(app_, list_);
+    });
 }
 
 void RecordsView::mouseReleaseEvent(QMouseEvent* event) {
@@ -233,6 +330,9 @@ void RecordsView::followCtrl(bool isDown) {
 
 void RecordsView::keyPressEvent(QKeyEvent* event) {
     followCtrl(event->key() == Qt::Key_Control || event->modifiers().testFlag(Qt::ControlModifier));
+    const bool isMenuKey = event->key() == Qt::Key_Menu ||
+                           (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+    if (isMenuKey) return wantMenuAtRow();
     // Enter is the keyboard's double click.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         events_.run([&] { shell::list_DblClick(app_, list_); });

@@ -3,7 +3,10 @@
 #include "app/app.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/records/recordsModel.h"
+#include "shell/listCommands.h"
 
+#include <QElapsedTimer>
+#include <QMenu>
 #include <QTreeView>
 
 #include <optional>
@@ -21,9 +24,17 @@ public:
     RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent = nullptr);
 
     void refresh(app::ListScroll scroll);
+    // A submenu with the columns, for whoever has no mouse to click their headers.
+    void addSortMenu(QMenu& menu);
+    void keyboardSearch(const QString& search) override;
+
+signals:
+    // What can be done to the selected rows is asked for, at that place on the screen.
+    void menuWanted(QPoint place);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -47,6 +58,13 @@ private:
     void markSelected(const QItemSelection& rows, bool selected);
 
     void columnClicked(int section);
+    void sortBy(int section, shell::Order order);
+    void noteSort(int section, std::uint64_t before);
+    void showHeaderMenu(QPoint place);
+    void wantMenu(QPoint place);
+    void wantMenuAtRow();
+    void clickWithoutCtrl();
+    bool isSorted() const { return sort_ && sort_->arrangement == list_.arrangement(); }
     void columnMoved(int section, int newVisual);
     void columnResized(int section, int pixels);
     int pixels(float twips) const;
@@ -58,7 +76,9 @@ private:
     RecordsModel* model_;
     bool showing_ = false;   // the view follows the state, not the user
     bool pressed_ = false;   // the left button went down here
-    int currentSection_ = 0; // the column that typing searches in
+    int currentSection_ = 0; // the column that was clicked last
+    QString typed_;          // the beginning of a row, letter by letter
+    QElapsedTimer lastTyped_;
 
     // The last sort by a click, as long as the rows stand as it left them.
     struct Sort {

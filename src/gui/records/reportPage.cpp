@@ -1,6 +1,7 @@
 #include "gui/records/reportPage.h"
 
 #include "gui/widgets/qtText.h"
+#include "shell/listCommands.h"
 #include "shell/listEvents.h"
 #include "shell/mainWindow.h"
 
@@ -13,8 +14,8 @@
 namespace gui {
 
 ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
-    : QStackedWidget(parent), app_(app), start_(new StartPage(app, events, actions)), records_(new QWidget),
-      invoiceFrame_(makeInvoiceFrame(events)),
+    : QStackedWidget(parent), app_(app), actions_(actions), start_(new StartPage(app, events, actions)),
+      records_(new QWidget), invoiceFrame_(makeInvoiceFrame(events)),
       shownList_(new QStackedWidget), listStates_{&app.document.LV, &app.document.iLV,
                                                   &app.document.searchLV},
       sums_(new SelectedTotalsView(app.document.LV3)) {
@@ -22,6 +23,8 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
     for (std::size_t i = 0; i < lists_.size(); ++i) {
         lists_[i] = new RecordsView(app, *listStates_[i], events);
         lists_[i]->setAccessibleName(names[i]);
+        lists_[i]->addAction(actions.action("mnuNewRecord"));
+        connect(lists_[i], &RecordsView::menuWanted, this, [this, i](QPoint place) { showMenu(i, place); });
         shownList_->addWidget(lists_[i]);
     }
     auto* splitter = new QSplitter(Qt::Vertical);
@@ -56,6 +59,17 @@ QFrame* ReportPage::makeInvoiceFrame(EventBoundary& events) {
     }
     row->addStretch();
     return frame;
+}
+
+void ReportPage::showMenu(std::size_t list, QPoint place) {
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("recordMenu"));
+    menu.setAccessibleName(tr("Record"));
+    actions_.fill(menu, shell::contextMenuKeys(*listStates_[list], app_.document));
+    menu.setDefaultAction(actions_.action(shell::defaultMenuKey(app_, *listStates_[list])));
+    menu.addSeparator();
+    lists_[list]->addSortMenu(menu);
+    menu.exec(place);
 }
 
 QWidget* ReportPage::keyHolder() const {

@@ -28,8 +28,10 @@ public:
 
 private:
     QFrame* makeInvoiceFrame(EventBoundary& events);
+    void showMenu(std::size_t list, QPoint place);
 
     app::App& app_;
+    CommandActions& actions_;
     StartPage* start_;
     QWidget* records_;
     std::array<QRadioButton*, 2> viewOpt_{}; // made with the frame, so ahead of it
