@@ -51,6 +51,7 @@ void duplicatesFrm::find() {
     for (std::size_t i = 0; i < List1.size(); ++i)
         if (List1[i].Checked) compared.push_back(columns_[i]);
     groups_ = findDuplicates(app_.document.LV, compared, Check1);
+    ++findings;
     List2.clear();
     std::size_t behindFirst = 0;
     for (const EqualRecords& group : groups_) {

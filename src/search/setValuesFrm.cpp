@@ -5,15 +5,12 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace search {
 
 using core::ColumnType;
 
 namespace {
-
-constexpr int backspaceKey = 8;
 
 std::vector<std::string> settableColumns(const core::Document& document) {
     std::vector<std::string> names;
@@ -71,15 +68,11 @@ void setValuesFrm::Opt2_Click(bool expression) {
     show();
 }
 
-void setValuesFrm::Text1_KeyDown(int keyCode) {
-    if (keyCode == backspaceKey) bErased_ = true;
-}
-
 void setValuesFrm::Text1_Change(const std::string& text) {
+    const bool isErased = text.size() < Text1.Text.size(); // a slash too, which does not come back then
     Text1.Text = text;
     Text1.SelStart = -1;
-    if (!std::exchange(bErased_, false) && !bExpression && isColumn(ColumnType::Date))
-        entry::insertDateSlashes(Text1);
+    if (!isErased && !bExpression && isColumn(ColumnType::Date)) entry::insertDateSlashes(Text1);
     show();
 }
 

@@ -47,7 +47,6 @@ public:
     void Opt1_Click(int scope);
     void Opt2_Click(bool expression);
     void Text1_Change(const std::string& text);
-    void Text1_KeyDown(int keyCode);
     void Text1_LostFocus();
     void OKButton_Click();
     void CancelButton_Click() { unloaded = true; }
@@ -59,7 +58,6 @@ private:
     void tellRefused(const SetOutcome& outcome);
 
     app::App& app_;
-    bool bErased_ = false; // Backspace takes a slash of a date, which is then not put back
     std::array<std::vector<core::Item*>, 3> records_;
 };
 
