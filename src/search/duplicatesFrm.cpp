@@ -38,9 +38,10 @@ void duplicatesFrm::Check1_Click(bool bChecked) {
 std::string duplicatesFrm::valuesOf(const core::Item& record) const {
     std::string text;
     for (std::size_t i = 0; i < List1.size(); ++i) {
-        if (!List1[i].Checked) continue;
+        const std::string_view cell = core::RecordsList::cell(record, *columns_[i]);
+        if (!List1[i].Checked || cell.empty()) continue;
         if (!text.empty()) text.append(", ");
-        text.append(core::RecordsList::cell(record, *columns_[i]).view());
+        text.append(cell);
     }
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include "app/windowState.h"
 #include "search/manyRecords.h"
+#include "search/searchMode.h"
 
 #include <algorithm>
 
@@ -63,6 +64,7 @@ void serialCheckFrm::selectBtn_Click() {
     for (const auto& repeat : findings_.repeats)
         records.insert(records.end(), repeat.records.begin(), repeat.records.end());
     app::showReportTab(app_);
+    if (app_.document.searchLV.Visible) leaveResults(app_); // which may be others
     selectRecords(app_, records);
     unloaded = true;
 }

@@ -94,7 +94,6 @@ NewValue setValuesFrm::value() const {
 
 void setValuesFrm::show() {
     preview.clear();
-    moreRecords = 0;
     OKButtonEnabled = false;
     Label2.clear();
     const std::vector<core::Item*>& records = records_.at(static_cast<std::size_t>(scope));
@@ -116,7 +115,6 @@ void setValuesFrm::show() {
         }
         preview.push_back(std::move(row));
     }
-    moreRecords = records.size() - shown;
     OKButtonEnabled = !maker.fault() && Label2.empty();
 }
 

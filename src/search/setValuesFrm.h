@@ -39,7 +39,6 @@ public:
     std::string Label1; // "Set Price in 7 records"
     std::string Label2; // what is wrong; empty while nothing is
     std::vector<Row> preview;
-    std::size_t moreRecords = 0; // behind those of the preview
     bool OKButtonEnabled = false;
     bool unloaded = false;
 

@@ -64,7 +64,7 @@ QLayout* duplicatesFrmView::makeGroups() {
     List2_->setColumnWidth(0, em() * 5);
     connect(List2_, &QTreeWidget::itemSelectionChanged, this,
             [this] { on([this] { form_.List2_Select(selectedRows()); }); });
-    connect(List2_, &QTreeWidget::itemActivated, this, [this] { on([this] { form_.showBtn_Click(); }); });
+    connect(List2_, &QTreeWidget::itemDoubleClicked, this, [this] { on([this] { form_.showBtn_Click(); }); });
     Label1_->setTextFormat(Qt::PlainText);
     Label1_->setWordWrap(true);
     auto* column = new QVBoxLayout;

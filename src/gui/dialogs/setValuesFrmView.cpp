@@ -104,7 +104,7 @@ QWidget* setValuesFrmView::makePreview() {
     preview_->setSelectionMode(QAbstractItemView::SingleSelection);
     useListLook(*preview_);
     preview_->header()->setSectionResizeMode(QHeaderView::Stretch);
-    preview_->setMinimumHeight(em() * 9);
+    preview_->setMinimumHeight(em() * 10);
     column->addWidget(Label1_);
     column->addWidget(preview_, 1);
     return part;
@@ -116,8 +116,6 @@ void setValuesFrmView::showPreview() {
         auto* item = new QTreeWidgetItem(preview_, {toQt(row.Record), toQt(row.Before), toQt(row.After)});
         for (int place = 0; place < 3; ++place) item->setToolTip(place, item->text(place));
     }
-    if (form_.moreRecords > 0)
-        new QTreeWidgetItem(preview_, {tr("and %1 more").arg(static_cast<qulonglong>(form_.moreRecords))});
 }
 
 void setValuesFrmView::showMembers() {
