@@ -81,7 +81,7 @@ std::string gapText(const SerialFindings::Gap& gap) {
 std::string repeatText(const SerialFindings::Repeat& repeat) {
     std::string text = std::to_string(repeat.number);
     if (repeat.records.size() == 2) return text.append(" twice");
-    return text.append(" ").append(std::to_string(repeat.records.size())).append(" times");
+    return text.append(" occurs ").append(std::to_string(repeat.records.size())).append(" times");
 }
 
 } // namespace calc

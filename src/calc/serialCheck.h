@@ -32,7 +32,7 @@ std::vector<std::string> serialColumns(const core::Document& document);
 // The records of LV by their numbers in one column. The cells of an invoice's item rows count one by one.
 SerialFindings checkSerials(const core::Document& document, const core::Column& column);
 
-// "7 missing", "9 to 12 missing"; "12 twice", "12 3 times".
+// "7 missing", "9 to 12 missing"; "12 twice", "12 occurs 3 times".
 std::string gapText(const SerialFindings::Gap& gap);
 std::string repeatText(const SerialFindings::Repeat& repeat);
 

@@ -95,7 +95,7 @@ void ValueMaker::prepareExpression() {
         copied_ = named;
         fault_ = itemColumnIn(app_.document, text);
     } else if (column_->isType(ColumnType::Date)) {
-        fault_ = "A date is set to a date, or to a column of dates; it cannot be worked out";
+        fault_ = "A date is set to a date or to a column of dates, and cannot be worked out";
     } else if ((fault_ = calc::faultOf(value_.text, records)) == std::nullopt) {
         fault_ = itemColumnIn(app_.document, value_.text);
         if (!fault_) expression_.emplace(value_.text, records);
