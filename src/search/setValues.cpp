@@ -3,6 +3,7 @@
 #include "app/hourglass.h"
 #include "calc/invoiceCalculation.h"
 #include "calc/itemColumns.h"
+#include "core/dates.h"
 #include "core/format.h"
 #include "core/number.h"
 #include "core/runTimeError.h"
