@@ -29,7 +29,7 @@ public:
     std::vector<Entry> List1;  // the columns, as the user sees them from the left to the right
     bool Check1 = false;       // ignore case, and blanks at the ends
     std::vector<Group> List2;  // the groups
-    int findings = 0; // goes up whenever there are others
+    int findings = 0;          // goes up whenever there are others
     std::string Label1;        // "3 groups, 5 records behind the first of each"
     bool hasSelection = false; // of a group: the buttons are enabled
     bool unloaded = false;
