@@ -52,7 +52,7 @@ _fwk() {
     for ((i = 1; i < COMP_CWORD; ++i)); do
         word=${COMP_WORDS[i]}
         case $word in
-        -o | --output | --columns | --column | --title | --records | --where | --wait) option=$word taken=0 ;;
+        -o | --output | --columns | --by | --expression | --column | --title | --records | --where | --wait) option=$word taken=0 ;;
         -*) option="" ;;
         *)
             if [[ -n $option ]]; then
@@ -89,7 +89,7 @@ _fwk() {
         esac
         return
         ;;
-    --columns:*)
+    --columns:* | --by:*)
         local before=""
         [[ $cur == *,* ]] && before=${cur%,*},
         compopt -o nospace
@@ -112,7 +112,7 @@ _fwk() {
     column:0) _fwk_offer < <(_fwk_commands column) ;;
     *:0 | clone:1 | save-as:1) _fwk_files '*.fwk' ;;
     import:1) _fwk_files '*.csv' ;;
-    sort:1 | expression:1 | serial:1 | total:* | column-rename:1 | column-remove:1)
+    sort:1 | expression:1 | serial:1 | set:1 | total:* | column-rename:1 | column-remove:1)
         _fwk_offer < <(_fwk_columns "$file")
         ;;
     add:* | update:[2-9]*)

@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--column|--title|--records|--where|--wait) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--wait) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -62,7 +62,7 @@ _fwk() {
         (*) _files -g '*.pdf' ;;
         esac
         return ;;
-    (--columns:*) compset -P '*,'; _fwk_columns -S ''; return ;;
+    (--columns:*|--by:*) compset -P '*,'; _fwk_columns -S ''; return ;;
     (--column:*|--where:0) _fwk_columns; return ;;
     (--where:1) compadd ge le is within range; return ;;
     (-*) return ;;
@@ -73,7 +73,7 @@ _fwk() {
     (*:0|clone:1|save-as:1) _files -g '*.fwk' ;;
     (import:1) _files -g '*.csv' ;;
     (new:*|column-add:*) compset -P '*:' && compadd Text Number Currency Date Picture Calculation ;;
-    (sort:1|expression:1|serial:1|total:*|column-rename:1|column-remove:1) _fwk_columns ;;
+    (sort:1|expression:1|serial:1|set:1|total:*|column-rename:1|column-remove:1) _fwk_columns ;;
     (add:*|update:<2->) [[ $PREFIX == *=* ]] || _fwk_columns -S = ;;
     esac
 }

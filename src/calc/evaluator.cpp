@@ -47,13 +47,14 @@ bool isLetter(char32_t c) {
 
 class Parser {
 public:
-    explicit Parser(std::string_view text) : text_(text) {}
+    explicit Parser(std::string_view text, bool bFormOnly = false) : text_(text), bFormOnly_(bFormOnly) {}
 
     double parse() {
         const double value = sum();
         if (current() != '\0' || at_ != text_.size()) raise(errors::syntax, std::string(text_));
         return value;
     }
+    std::size_t at() const { return at_; }
 
 private:
     // The next character that is no blank; a zero at the end.
@@ -62,7 +63,8 @@ private:
         return at_ < text_.size() ? text_[at_] : '\0';
     }
 
-    static double checked(double value) {
+    double checked(double value) const {
+        if (bFormOnly_) return 0;
         if (!std::isfinite(value)) raise(errors::overflow, "calculation");
         return value;
     }
@@ -82,7 +84,7 @@ private:
         for (char sign = current(); sign == '*' || sign == '/'; sign = current()) {
             ++at_;
             const double next = factor();
-            if (sign == '/' && next == 0) raise(errors::divisionByZero);
+            if (sign == '/' && next == 0 && !bFormOnly_) raise(errors::divisionByZero);
             value = checked(sign == '*' ? value * next : value / next);
         }
         return value;
@@ -124,8 +126,8 @@ private:
         if (result.ec == std::errc::result_out_of_range) {
             // Beyond a double, or so near to zero that it is none: only the first is an error.
             const std::optional<double> read = core::toDouble(text_.substr(at_, size));
-            if (!read) raise(errors::overflow, "number");
-            value = *read;
+            if (!read && !bFormOnly_) raise(errors::overflow, "number");
+            value = read.value_or(0);
         } else if (result.ec != std::errc()) {
             raise(errors::syntax, std::string(text_));
         }
@@ -140,9 +142,11 @@ private:
         }
         const std::string_view word = text_.substr(from, at_ - from);
         if (word.empty()) raise(errors::syntax, std::string(text_));
-        if (std::ranges::any_of(keywords,
-                                [&](std::string_view keyword) { return core::equalsNoCase(keyword, word); }))
+        if (std::ranges::any_of(
+                keywords, [&](std::string_view keyword) { return core::equalsNoCase(keyword, word); })) {
+            at_ = from;
             raise(errors::syntax, std::string(word));
+        }
         endOperand();
         return 0;
     }
@@ -168,6 +172,7 @@ private:
     }
 
     std::string_view text_;
+    bool bFormOnly_; // nothing is worked out
     std::size_t at_ = 0;
     int depth_ = 0;
 };
@@ -176,6 +181,16 @@ private:
 
 double evaluate(std::string_view text) {
     return Parser(text).parse();
+}
+
+std::optional<std::size_t> syntaxErrorAt(std::string_view text) {
+    Parser parser(text, true);
+    try {
+        parser.parse();
+    } catch (const core::RunTimeError&) {
+        return parser.at();
+    }
+    return std::nullopt;
 }
 
 } // namespace calc

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace calc {
@@ -13,5 +15,9 @@ namespace calc {
 // nesting deeper than 250 levels. Raises divisionByZero, and overflow for a number or result beyond a
 // double.
 double evaluate(std::string_view text);
+
+// Where evaluate would raise syntax, as a byte offset; nothing for an expression that is well formed,
+// whatever its value.
+std::optional<std::size_t> syntaxErrorAt(std::string_view text);
 
 } // namespace calc

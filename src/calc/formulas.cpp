@@ -1,7 +1,6 @@
 #include "calc/formulas.h"
 
 #include "calc/evaluator.h"
-#include "core/currency.h"
 #include "core/format.h"
 #include "core/number.h"
 #include "core/runTimeError.h"
@@ -50,22 +49,8 @@ void reportCalculationError(app::App& app) {
 RowCalculator::RowCalculator(app::App& app, RecordsList& list) : app_(app) {
     for (const auto& entry : app.document.formulas) {
         const Formula formula(entry.item);
-        Prepared prepared;
-        prepared.name = formula.name;
-        prepared.isUndefined = formula.isUndefined();
-        prepared.target = list.columns.find(formula.name);
-        for (const std::string_view text : formula.tokens()) {
-            Token token;
-            token.text = text;
-            const Column* column = list.columns.find(text);
-            // The hidden column carries no data: its cell is what the last sort has left there.
-            if (column != nullptr && column->Index != 1) {
-                token.subItem = column->Index - 1;
-                token.isCurrency = column->isType(core::ColumnType::Currency);
-            }
-            prepared.tokens.push_back(token);
-        }
-        formulas_.push_back(std::move(prepared));
+        formulas_.push_back({formula.name, formula.isUndefined(), list.columns.find(formula.name),
+                             Expression(formula.expression, list)});
     }
 }
 
@@ -90,7 +75,7 @@ bool RowCalculator::calculate(Item& row) {
 std::optional<std::string> RowCalculator::tryCalculate(Item& row) {
     // Errors end in the message from the first evaluation on; before it they are the program's end.
     bool armed = false;
-    for (const Prepared& formula : formulas_) {
+    for (Prepared& formula : formulas_) {
         try {
             if (formula.target == nullptr)
                 core::raise(core::errors::elementNotFound, std::string(formula.name));
@@ -98,40 +83,16 @@ std::optional<std::string> RowCalculator::tryCalculate(Item& row) {
                 RecordsList::cell(row, *formula.target) = undefined;
                 continue;
             }
-            joinTokens(formula, row);
+            formula.expression.read(row);
             armed = true;
-            evaluateInto(RecordsList::cell(row, *formula.target));
+            CellText& cell = RecordsList::cell(row, *formula.target);
+            cell = resultText(formula.expression.value(), formula.expression.isMoney());
         } catch (const core::RunTimeError& error) {
             if (!armed) throw;
             return error.what();
         }
     }
     return std::nullopt;
-}
-
-void RowCalculator::joinTokens(const Prepared& formula, const Item& row) {
-    bDecimal_ = false;
-    joined_.clear();
-    for (const Token& token : formula.tokens) {
-        if (token.subItem == 0) {
-            joined_ += token.text;
-            continue;
-        }
-        if (token.isCurrency) bDecimal_ = true;
-        const std::string_view operand = core::trim(row.subItem(token.subItem));
-        if (operand.find('.') != std::string_view::npos) bDecimal_ = true;
-        // A cell that is no number leaves the column's name, which is worth 0.
-        if (core::isNumeric(operand))
-            joined_ += core::Currency::parse(operand).text();
-        else
-            joined_ += token.text;
-    }
-}
-
-void RowCalculator::evaluateInto(CellText& cell) {
-    const double result = evaluate(joined_);
-    if (joined_.find('.') != std::string::npos) bDecimal_ = true;
-    cell = resultText(result, bDecimal_);
 }
 
 void CalculateRow(app::App& app, int rowIndex, RecordsList& list) {

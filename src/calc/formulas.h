@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "calc/expression.h"
 
 #include <optional>
 #include <string>
@@ -46,25 +47,15 @@ public:
     bool calculate(core::Item& row);
 
 private:
-    struct Token {
-        std::string_view text;
-        int subItem = 0; // of the column that it names; 0 for none
-        bool isCurrency = false;
-    };
     struct Prepared {
         std::string_view name;
         bool isUndefined = false;
         const core::Column* target = nullptr;
-        std::vector<Token> tokens;
+        Expression expression;
     };
-
-    void joinTokens(const Prepared& formula, const core::Item& row);
-    void evaluateInto(core::CellText& cell);
 
     app::App& app_;
     std::vector<Prepared> formulas_;
-    std::string joined_;
-    bool bDecimal_ = false; // the result is shown as money
 };
 
 // One row of a standard database; the flag bCalcError is set when it failed.

@@ -1,5 +1,6 @@
 #include "calc/formulateFrm.h"
 #include "calc/recalculation.h"
+#include "calc/serialCheck.h"
 #include "calc/serialFrm.h"
 #include "calc/totalsFrm.h"
 #include "cli/command.h"
@@ -18,6 +19,7 @@ struct CalculationOptions {
     std::string file, column, value;
     std::optional<std::string> expression;
     std::vector<std::string> columns;
+    bool check = false;
     double wait = usualWait;
 };
 
@@ -115,6 +117,30 @@ int setSerial(const CalculationOptions& options) {
     return done;
 }
 
+std::string keysOf(const std::vector<const core::Item*>& records) {
+    std::string keys;
+    for (const core::Item* record : records) keys.append(" ").append(record->Key.view());
+    return keys;
+}
+
+int checkSerial(const CalculationOptions& options) {
+    Session session(options.file);
+    session.open();
+    const core::Column& column = session.column(options.column);
+    const std::vector<std::string> names = calc::serialColumns(session.app.document);
+    if (std::ranges::find(names, column.Text) == names.end())
+        throw Failure(session.file, "the column \"" + column.Text + "\" has no serial numbers");
+    const calc::SerialFindings findings = calc::checkSerials(session.app.document, column);
+    std::string out;
+    for (const auto& repeat : findings.repeats)
+        out.append(calc::repeatText(repeat)).append(":").append(keysOf(repeat.records)).push_back('\n');
+    for (const auto& gap : findings.gaps) out.append(calc::gapText(gap)).push_back('\n');
+    if (!findings.unnumbered.empty())
+        out.append("no whole number:").append(keysOf(findings.unnumbered)).push_back('\n');
+    writeOut(out);
+    return done;
+}
+
 void addColumnArgument(CLI::App& command, CalculationOptions& options) {
     command.add_option("COLUMN", options.column, "The column")->required();
 }
@@ -147,8 +173,13 @@ Run setUpSerial(CLI::App& command) {
     const auto options = std::make_shared<CalculationOptions>();
     addWrittenFileArgument(command, options->file, options->wait);
     addColumnArgument(command, *options);
-    command.add_option("VALUE", options->value, "The number that was stored last")->required();
-    return [options] { return setSerial(*options); };
+    CLI::Option* value = command.add_option("VALUE", options->value, "The number that was stored last");
+    command.add_flag("--check", options->check, "Tell which numbers are missing, and which there are twice")
+        ->excludes(value);
+    command.parse_complete_callback([options, value] {
+        if (!options->check && value->count() == 0) throw CLI::RequiredError("VALUE");
+    });
+    return [options] { return options->check ? checkSerial(*options) : setSerial(*options); };
 }
 
 } // namespace cli

@@ -45,6 +45,8 @@ Run setUpDelete(CLI::App& command);
 Run setUpDuplicate(CLI::App& command);
 Run setUpSearch(CLI::App& command);
 Run setUpReplace(CLI::App& command);
+Run setUpSet(CLI::App& command);
+Run setUpDuplicates(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);
@@ -61,7 +63,7 @@ Run setUpImport(CLI::App& command);
 // The command line as the program was started with.
 char** commandLine();
 
-// Lets the words of search's --where begin with a "-" where they are none of its options; in their order.
+// Lets the words of --where begin with a "-" where they are none of the options; in their order.
 void markWhereWords(const CLI::App& command, std::vector<std::string>& words);
 
 // Arguments that many commands share.

@@ -28,8 +28,10 @@ constexpr Command commands[] = {
     {"expression", "Prints or sets the expression of a calculation column", setUpExpression},
     {"total", "Chooses the columns to total, and recalculates", setUpTotal},
     {"recalculate", "Recalculates all records and the Totals row", setUpRecalculate},
-    {"serial", "Sets a serial counter", setUpSerial},
+    {"serial", "Sets a serial counter, or checks the numbers", setUpSerial},
     {"replace", "Replaces words, and prints how many cells have changed", setUpReplace},
+    {"set", "Sets a column of many records, and prints how many have changed", setUpSet},
+    {"duplicates", "Lists the records that are equal, or deletes all but the first of them", setUpDuplicates},
     {"lock", "Locks the design with a password, read from standard input", setUpLock},
     {"unlock", "Opens a locked design with its password, read from standard input", setUpUnlock},
     {"clone", "Makes a database of the same design without records", setUpClone},
@@ -86,7 +88,8 @@ int runProgram(int argc, char** argv) {
         return tellWrongCommandLine(program, "no command \"" + printable(argv[1]) + '"');
     try {
         std::vector<std::string> words(argv + 1, argv + argc);
-        if (words.front() == "search") markWhereWords(*program.get_subcommand("search"), words);
+        for (const char* name : {"search", "set"})
+            if (words.front() == name) markWhereWords(*program.get_subcommand(name), words);
         std::ranges::reverse(words); // as they are taken
         program.parse(std::move(words));
     } catch (const CLI::Success& help) {

@@ -56,6 +56,14 @@ RecordsList& sourceList(Document& document) {
 
 namespace {
 
+void putInOrder(App& app) {
+    RecordsList& results = app.document.searchLV;
+    if (results.count() < 2) return;
+    core::moveTotals(results);
+    calc::list_Click(app, results);
+    app::showRecordCount(app, results);
+}
+
 void fillResults(App& app, const Groups& groups) {
     const RecordsList& source = sourceList(app.document);
     RecordsList& results = app.document.searchLV;
@@ -67,16 +75,22 @@ void fillResults(App& app, const Groups& groups) {
         if (record.isTotals() || !isMatch(criteria, record)) return;
         totals.update(core::TotalsMode::Add, addCopy(app.document, results, record));
     });
-    if (results.count() < 2) return;
-    core::moveTotals(results);
-    calc::list_Click(app, results);
-    app::showRecordCount(app, results);
+    putInOrder(app);
 }
 
 } // namespace
 
 void findRecords(App& app, const Groups& groups) {
     fillResults(app, groups);
+    app.changes.announce(app, app::Change::CurrentRecord);
+}
+
+void showRows(App& app, const std::vector<const Item*>& rows) {
+    RecordsList& results = app.document.searchLV;
+    showEmptyResults(app);
+    const core::TotalsRowUpdater totals(app.document, results);
+    for (const Item* row : rows) totals.update(core::TotalsMode::Add, addCopy(app.document, results, *row));
+    putInOrder(app);
     app.changes.announce(app, app::Change::CurrentRecord);
 }
 

@@ -4,6 +4,7 @@
 #include "search/criterion.h"
 
 #include <array>
+#include <vector>
 
 namespace search {
 
@@ -17,5 +18,8 @@ core::RecordsList& sourceList(core::Document& document);
 // nothing and leaves the status bar alone, as does a search without a match. Every search starts
 // afresh. searchLV has the columns of the source already.
 void findRecords(app::App& app, const Groups& groups);
+
+// The same for rows of the source list that were found in another way, in their order.
+void showRows(app::App& app, const std::vector<const core::Item*>& rows);
 
 } // namespace search

@@ -28,10 +28,12 @@ std::string keyOf(const core::Document& document, const Item& row) {
     return (document.bInvoiceStyle ? row.Text : row.Key).str();
 }
 
-// But for what is calculated.
-bool isTheSame(const core::ColumnHeaders& columns, const Item& result, const Item& row) {
+// But for what is calculated, and what was written.
+bool isTheSame(const core::ColumnHeaders& columns, const Item& result, const Item& row,
+               std::string_view written) {
     return result.cells.size() == row.cells.size() && std::ranges::all_of(columns, [&](const Column& column) {
                return column.Index == 1 || column.isType(core::ColumnType::Calculation) ||
+                      column.Text == written ||
                       RecordsList::cell(result, column) == RecordsList::cell(row, column);
            });
 }
@@ -119,7 +121,7 @@ void followRecords(App& app) {
     results.setSelectedItem(current);
 }
 
-void refreshResults(App& app) {
+void refreshResults(App& app, std::string_view written) {
     core::Document& document = app.document;
     RecordsList& results = document.searchLV;
     if (!results.Visible || results.empty()) return;
@@ -132,7 +134,7 @@ void refreshResults(App& app) {
         std::vector<const Item*>& sources = rows[result.Tag.str()];
         // An invoice can have several item rows, of which some were found.
         const auto source = std::ranges::find_if(
-            sources, [&](const Item* row) { return isTheSame(results.columns, result, *row); });
+            sources, [&](const Item* row) { return isTheSame(results.columns, result, *row, written); });
         if (source != sources.end()) {
             result.cells = (*source)->cells;
             sources.erase(source);

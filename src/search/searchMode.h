@@ -2,6 +2,8 @@
 
 #include "app/app.h"
 
+#include <string_view>
+
 namespace search {
 
 // A search is a mode of the main window. From the first search until the user leaves it, searchLV
@@ -20,9 +22,10 @@ void takeOverColumns(core::Document& document);
 // Puts the records back in place of the results.
 void showAllRecords(app::App& app);
 
-// The results on show, and their sums, take over what has been calculated anew in the records.
-void refreshResults(app::App& app);
 // They follow whatever has become of the records: those that are gone are no results any more.
 void followRecords(app::App& app);
+// The results on show, and their sums, take over what has been calculated anew in the records, and what was
+// written into the one column that is named.
+void refreshResults(app::App& app, std::string_view written = {});
 
 } // namespace search

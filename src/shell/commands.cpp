@@ -6,8 +6,11 @@
 #include "entry/invoiceRecords.h"
 #include "lock/designLock.h"
 #include "print/printCommands.h"
+#include "search/duplicatesFrm.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
+#include "search/serialCheckFrm.h"
+#include "search/setValuesFrm.h"
 #include "shell/clipboardCommands.h"
 #include "shell/listCommands.h"
 #include "shell/mainWindow.h"
@@ -134,12 +137,16 @@ std::vector<Command> menuCommands() {
         {"mnuOpenForm", "Open In &Entry Form", "", "field", false, openInForm, canOpenInForm},
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
+        {"mnuSetValues", "Set &Values...", "", "setValues", false, search::mnuSetValues_Click},
+        {"mnuDuplicates", "Find D&uplicates...", "", "duplicates", false, search::mnuDuplicates_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
         {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, showExpressionEditor},
         {"mnuDatabaseProperties", "Database &Properties", "", "properties", false, showDatabaseProperties},
         {"mnuTotalColumns", "Choose Columns To Total", "", "totalColumns", false, showing("TotalsFrm")},
         {"mnuSerialAdjust", "&Adjust Serial Number Increment", "", "serial", false, showing("serialFrm")},
+        {"mnuSerialCheck", "Check Serial &Numbers...", "", "serialCheck", false,
+         search::mnuSerialCheck_Click},
         {"mnuConfirmDelete", "&Confirm Delete", "", "", true,
          toggling("mnuConfirmDelete", &MainFrm::bConfirmDelete)},
         {"mnuSavePrompt", "&Prompt For Save On Exit", "", "", true,
@@ -260,11 +267,11 @@ std::span<const Menu> menuBar() {
         {"mnuEdit",
          "&Edit",
          {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuPaste", "-", "mnuNewRecord", "mnuDuplicate",
-          "-", "mnuReplace"}},
+          "-", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",
-          "-", "mnuTotalColumns", "-", "mnuSerialAdjust"}},
+          "-", "mnuTotalColumns", "-", "mnuSerialAdjust", "mnuSerialCheck"}},
         {"mnuOptions",
          "&Options",
          {"mnuConfirmDelete", "mnuSavePrompt", "-", "mnuCalcHighlight", "mnuDatabaseLock", "-",

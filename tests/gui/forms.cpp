@@ -94,6 +94,25 @@ click Command1; press Escape -> -replaceFrm LV.0=>1|An Sea|Poe|$12.34|01/02/2020
 )");
     }
 
+    void manyRecordsAtOnce() {
+        const DataFile data = DataFile("No:4 Name Price:2", "1|Bolt|$1.00;1|Nut|$2.00;3|Bolt|$1.00")
+                                  .sections("Optioned Cols=No|;Increments=No,3|");
+        Session run(database("many.fwk", data));
+        run.play(R"(
+press Ctrl+A; click mnuSetValues; press End; press Alt+W; press Alt+T; type Price*2 -> LV.1=>1|Nut|$2.00
+    LV.2=>3|Bolt|$1.00 LV.3=>-|-|- setValuesFrm=Set Values List1=2 Opt2_1=x Text1=Price*2| Opt1_0=x Opt1_1=-
+    preview.0=1|$1.00| preview.1=1|$2.00| preview.2=3|$1.00| OKButton=-
+press Ctrl+A; type Price * 2; press Return -> -setValuesFrm LV.0=>1|Bolt|$2.00 LV.1=>1|Nut|$4.00
+    LV.2=>3|Bolt|$2.00 LV=* SB1_5=Document Modified
+click mnuDuplicates; press Alt+N -> -LV Search=x Formulas=- Delete=- searchLV.0=1|Bolt|$2.00
+    searchLV.1=>3|Bolt|$2.00 searchLV.2=-|-|- SB1_1=2 records. duplicatesFrm=Find Duplicates List1.0=>No
+    List1.1=x Name List1.2=x Price List1=* List2.0=>2|Bolt, $2.00
+press Alt+D; press Escape -> "Delete 1 record" -duplicatesFrm searchLV=*
+click mnuSerialCheck; press Return -> -searchLV Search Formulas Delete LV.0=>1|Bolt|$2.00 LV.1=>1|Nut|$4.00
+    LV.2=3|Bolt|$2.00 LV.3=-|-|- LV=* SB1_1=3 records.
+)");
+    }
+
     void aPageByTheKeys() {
         const DataFile data = DataFile("Name Qty:4", "Bolt|2;Nut|3").objects("F|Name|1440|1440|2000|1000");
         Session run(database("page.fwk", data));

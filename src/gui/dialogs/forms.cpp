@@ -3,6 +3,7 @@
 #include "gui/dialogs/databaseTypeFrmView.h"
 #include "gui/dialogs/designFrmView.h"
 #include "gui/dialogs/disclaimFrmView.h"
+#include "gui/dialogs/duplicatesFrmView.h"
 #include "gui/dialogs/entryFrmView.h"
 #include "gui/dialogs/formulateFrmView.h"
 #include "gui/dialogs/layoutPageSetupFrmView.h"
@@ -11,7 +12,9 @@
 #include "gui/dialogs/replaceFrmView.h"
 #include "gui/dialogs/reportPageSetupView.h"
 #include "gui/dialogs/searchFrmView.h"
+#include "gui/dialogs/serialCheckFrmView.h"
 #include "gui/dialogs/serialFrmView.h"
+#include "gui/dialogs/setValuesFrmView.h"
 #include "gui/dialogs/totalsFrmView.h"
 #include "gui/dialogs/versionsFrmView.h"
 
@@ -42,6 +45,9 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });
     platform.registerForm("versionsFrm", shown<versionsFrmView>(app, events));
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
+    platform.registerForm("setValuesFrm", shown<setValuesFrmView>(app, events));
+    platform.registerForm("duplicatesFrm", shown<duplicatesFrmView>(app, events));
+    platform.registerForm("serialCheckFrm", shown<serialCheckFrmView>(app, events));
 }
 
 } // namespace gui

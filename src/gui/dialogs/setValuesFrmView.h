@@ -1,0 +1,44 @@
+#pragma once
+
+#include "gui/dialogs/formView.h"
+#include "search/setValuesFrm.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTreeWidget>
+
+#include <array>
+
+namespace gui {
+
+// Set Values.
+class setValuesFrmView : public FormView {
+    Q_OBJECT
+
+public:
+    setValuesFrmView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
+
+protected:
+    void showMembers() override;
+    void closeForm() override { form_.CancelButton_Click(); }
+    bool isUnloaded() const override { return form_.unloaded; }
+
+private:
+    QWidget* makeValue();
+    QWidget* makeScopes();
+    QWidget* makePreview();
+    void showPreview();
+
+    search::setValuesFrm form_;
+    QComboBox* List1_;
+    QRadioButton *valueOpt_ = nullptr, *expressionOpt_ = nullptr;
+    QLineEdit* Text1_;
+    std::array<QRadioButton*, 3> Opt1_{};
+    QLabel *Label1_, *Label2_;
+    QTreeWidget* preview_;
+    QPushButton* OKButton_ = nullptr;
+};
+
+} // namespace gui

@@ -1,0 +1,36 @@
+#include "fwkProgram.h"
+
+namespace {
+
+// A refusal leaves the file as it was, and so does a command that changes nothing.
+TEST_F(FwkTest, ManyRecordsAtOnce) {
+    make("a.fwk",
+         DataFile("No:4 Name Price:2 Half:5",
+                  "1|Bolt|$1.00|$.50;2|Nut|$.00|$.00;4|bolt |$1.00|$.50;4|Bolt|$1.00|$.50")
+             .sections("Formulas=Half,Price / 2|;Optioned Cols=No|;Increments=No,4|;Totaled Cols=Half|"));
+    expect(R"sh(
+$ fwk recalculate a.fwk -> +[Totaled Cols]Half| // -[Totaled Cols]Half| // ~=|=|=|$1.50|
+$ fwk duplicates a.fwk -> Records  Keys   Name  Price // -------  -----  ----  ----- //       2  i1 i4  Bolt  $1.00
+$ fwk duplicates a.fwk --by Price,name --json --ignore-case -> {"columns": ["Price", "Name"],
+ "groups": [ //   {"keys": ["i1", "i3", "i4"], "cells": ["$1.00", "Bolt"]}]}
+$ fwk duplicates a.fwk --by No,Name && $1 fwk duplicates a.fwk --by Nme -> ! no column "Nme"
+$1 fwk duplicates a.fwk --by Name --delete -> ! --yes deletes 1 record behind the first of a group
+$ fwk serial a.fwk No --check -> 4 twice: i3 i4 // 3 missing
+$1 fwk serial a.fwk Name --check -> ! the column "Name" has no serial numbers
+$2 fwk serial a.fwk No 3 --check -> ! VALUE excludes --check && $2 fwk serial a.fwk No -> ! VALUE is required
+$2 fwk set a.fwk Price 3 -> ! --where or --all is required && $2 fwk set a.fwk Price --all
+! VALUE or --expression is required
+$1 fwk set a.fwk Price --all --expression 'No / Price' -> ! i2 would get no value (Division by zero), so that nothing is set
+$1 fwk set a.fwk Price --all --expression 'No * Prize'
+! "Prize" is neither a column nor a number (character 6) && $1 fwk set a.fwk Half 3 --all
+! "Half" is calculated and takes no value && $1 fwk set a.fwk Price "$(printf '1\n2')" --all
+! "1 2" is more than one line && $ fwk set a.fwk Price 1 --where Name is bolt -> 0
+$ fwk set a.fwk Price -3 --where Name is nut --where No le 2 -> 1 // ~2|Nut|-$3.00|-$1.50| // ~=|=|=|$.00|
+$ fwk set a.fwk No --expression 'No * 2' --where Price range -3 1 -> 4 // ~2|Bolt|$1.00|$.50| // ~4|Nut|-$3.00|-$1.50|
+~8|bolt |$1.00|$.50| // ~8|Bolt|$1.00|$.50|
+$ fwk duplicates a.fwk --by Name --ignore-case --delete --yes -> 2 // ~=|=|=|-$1.00|
+-8|Bolt|$1.00|$.50| // -=|=|=|$.00| && $ fwk duplicates a.fwk --by Name --ignore-case --delete -> 0
+)sh");
+}
+
+} // namespace
