@@ -47,6 +47,8 @@ public:
     void setMousePointer(MousePointer) override {}
     void paintStatus() override {}
     void openLink(const std::string&) override {}
+    void setClipboard(const ClipboardData&) override {}
+    ClipboardData clipboard() override { return {}; }
     std::string printerDeviceName() override { return printer().DeviceName(); }
     drawing::TextMetrics& textMetrics() override { return printer().textMetrics(); }
     std::unique_ptr<drawing::DrawTarget> openPrinter(const std::string& documentName) override {

@@ -51,6 +51,13 @@ struct FontChoice {
     std::int32_t ForeColor = 0; // 0x00BBGGRR
 };
 
+// What is on the clipboard, in each form that there is: UTF-8, empty where it is not in that form.
+struct ClipboardData {
+    std::string text; // a table has tabs between its cells
+    std::string html;
+    std::string layout; // objects of a page
+};
+
 // What became of a message that was given to the user's mail program.
 enum class MailStart { NoProgram, WithoutAttachment, WithAttachment };
 
@@ -94,6 +101,11 @@ public:
     virtual MailStart sendMail(const MailMessage&, const std::function<void()>&) {
         return MailStart::NoProgram;
     }
+
+    // --- the clipboard ---
+    // Takes the place of all that was there.
+    virtual void setClipboard(const ClipboardData& data) = 0;
+    virtual ClipboardData clipboard() = 0;
 
     // --- the printer ---
     // Raises when there is no printer at all. The window always has one: its own "Print to PDF".

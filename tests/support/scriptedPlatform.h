@@ -55,6 +55,8 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
     std::string tooLarge;                            // the name of a picture that is
     std::string clipboardPicture; // the bytes of the clipboard's bitmap; empty for a text, or nothing
 
+    platform::ClipboardData onClipboard;
+
     // What was asked. A message has a mark for its icon ("-" none, "i", "!", "?", "x") ahead, and the caption
     // when that is not the program's name.
     std::vector<std::string> messages, forms, links, proposed;
@@ -104,6 +106,8 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
         const int width = clipboardPicture == "damaged" ? 0 : 3000;
         return !clipboardPicture.empty() && !pictureFile(path, {width, 1500}, clipboardPicture).empty();
     }
+    void setClipboard(const platform::ClipboardData& data) override { onClipboard = data; }
+    platform::ClipboardData clipboard() override { return onClipboard; }
     void convertToJpeg(const fs::path& bitmap, const fs::path& jpeg, int quality) override {
         pictureFile(jpeg, {3000, 1500}, "quality " + std::to_string(quality) + " of " + read(bitmap));
     }

@@ -1,5 +1,6 @@
 #include "gui/machine/qtPlatform.h"
 
+#include "core/encoding.h"
 #include "core/runTimeError.h"
 #include "gui/dialogs/dialogFit.h"
 #include "gui/dialogs/fontDialog.h"
@@ -33,6 +34,7 @@ namespace {
 
 constexpr std::string_view windowSection = "Window";
 constexpr std::string_view geometryKey = "Geometry";
+constexpr QLatin1String layoutFormat("application/x-ferrowick-layout");
 
 // The file dialog that Qt draws itself comes so narrow that sizes and dates are cut.
 void giveRoom(QFileDialog& dialog) {
@@ -199,6 +201,24 @@ std::optional<platform::FontChoice> QtPlatform::showFont(const platform::FontCho
     FontDialog dialog(present, dialogParent());
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.choice();
+}
+
+void QtPlatform::setClipboard(const platform::ClipboardData& data) {
+    auto* content = new QMimeData; // the clipboard's own from here on
+    if (!data.text.empty()) content->setText(toQt(data.text));
+    if (!data.html.empty()) content->setHtml(toQt(data.html));
+    if (!data.layout.empty()) content->setData(layoutFormat, QByteArray::fromStdString(data.layout));
+    QGuiApplication::clipboard()->setMimeData(content);
+}
+
+platform::ClipboardData QtPlatform::clipboard() {
+    platform::ClipboardData data;
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    if (content == nullptr) return data;
+    if (content->hasText()) data.text = fromQt(content->text());
+    if (content->hasHtml()) data.html = fromQt(content->html());
+    data.layout = core::sanitizeUtf8(content->data(layoutFormat).toStdString());
+    return data;
 }
 
 std::optional<drawing::Extent> QtPlatform::pictureExtent(const std::filesystem::path& path) {

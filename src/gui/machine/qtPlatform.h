@@ -57,6 +57,9 @@ public:
                                  const std::function<void()>& failed) override;
     std::optional<platform::FontChoice> showFont(const platform::FontChoice& present) override;
 
+    void setClipboard(const platform::ClipboardData& data) override;
+    platform::ClipboardData clipboard() override;
+
     std::string printerDeviceName() override { return printer_.deviceName(); }
     std::vector<platform::PaperName> printerPapers() override;
     std::optional<platform::PrintChoice> showPrinterDialog(const platform::PrintChoice& present) override;
