@@ -92,10 +92,4 @@ void list_KeyUp(App& app) {
     app.mainFrm.bCtrlDown = false;
 }
 
-RecordsList& visibleList(core::Document& document) {
-    if (document.searchLV.Visible) return document.searchLV;
-    // Not by the style: a new database that is cancelled half-way has chosen one for the records on view.
-    return document.iLV.Visible ? document.iLV : document.LV;
-}
-
 } // namespace shell
