@@ -16,6 +16,8 @@
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
 #include "storage/saveSteps.h"
+#include "tables/copyRecords.h"
+#include "tables/pasteFrm.h"
 
 #include <algorithm>
 #include <array>
@@ -67,6 +69,12 @@ void clone(App& app) {
 }
 void saveSearch(App& app) {
     storage::tellReason(app, storage::saveSearchResults(app));
+}
+
+// New records are shown in the list, and what is typed on the page is left as a click on its tab leaves it.
+void pasteRecords(App& app) {
+    if (app.mainFrm.SSTab1 != app::reportTab) SSTab1_Click(app, app::reportTab);
+    if (app.mainFrm.SSTab1 == app::reportTab) tables::mnuPaste_Click(app);
 }
 
 std::vector<Command> toolbarCommands() {
@@ -122,6 +130,9 @@ std::vector<Command> menuCommands() {
         {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
         {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
+        {"mnuCopy", "&Copy", "", "copy", false, tables::mnuCopy_Click},
+        {"mnuCopyHeadings", "Copy With &Headings", "", "copyHeadings", false, tables::mnuCopyHeadings_Click},
+        {"mnuPaste", "&Paste...", "", "paste", false, pasteRecords},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
@@ -243,7 +254,9 @@ std::span<const Menu> menuBar() {
           "mnuFile3",
           "-",
           "mnuExit"}},
-        {"mnuEdit", "&Edit", {"mnuDuplicate", "-", "mnuReplace"}},
+        {"mnuEdit",
+         "&Edit",
+         {"mnuCopy", "mnuCopyHeadings", "mnuPaste", "-", "mnuDuplicate", "-", "mnuReplace"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",

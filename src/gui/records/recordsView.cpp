@@ -4,6 +4,7 @@
 #include "gui/records/recordsHeader.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
+#include "shell/commands.h"
 #include "shell/listEvents.h"
 
 #include <QKeyEvent>
@@ -233,6 +234,15 @@ void RecordsView::followCtrl(bool isDown) {
 
 void RecordsView::keyPressEvent(QKeyEvent* event) {
     followCtrl(event->key() == Qt::Key_Control || event->modifiers().testFlag(Qt::ControlModifier));
+    // By whatever keys the desktop has for them; the list's own copy would take one cell alone.
+    if (event->matches(QKeySequence::Copy)) {
+        events_.run([&] { shell::runCommand(app_, "mnuCopy"); });
+        return;
+    }
+    if (event->matches(QKeySequence::Paste)) {
+        events_.run([&] { shell::runCommand(app_, "mnuPaste"); });
+        return;
+    }
     // Enter is the keyboard's double click.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         events_.run([&] { shell::list_DblClick(app_, list_); });
