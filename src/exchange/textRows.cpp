@@ -9,8 +9,8 @@ namespace exchange {
 
 namespace {
 
-// Twice what the largest database holds. The bound keeps a hostile table from taking all memory.
-constexpr std::size_t mostTableCells = 4'000'000;
+// More than the largest database holds. The bound keeps a hostile table from taking all memory.
+constexpr std::size_t mostTableCells = 2'000'000;
 
 class TabbedReader {
 public:

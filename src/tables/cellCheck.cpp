@@ -14,7 +14,8 @@ CheckedCell refused(std::string_view reason) {
 }
 
 CheckedCell checkedText(std::string_view cell) {
-    if (cell.find('|') != std::string_view::npos) return refused("has a \"|\", which divides the cells of a database");
+    if (cell.find('|') != std::string_view::npos)
+        return refused("has a \"|\", which divides the cells of a database");
     return {std::string(cell), {}};
 }
 

@@ -28,6 +28,10 @@ int fieldsOf(const core::Document& document, const Column& column) {
     return fields;
 }
 
+bool isTypedColumn(const Column& column) {
+    return !column.isType(ColumnType::Calculation) && !column.isType(ColumnType::Picture);
+}
+
 bool hasFormula(const core::Document& document, const Column& column) {
     return std::ranges::any_of(document.formulas, [&](const auto& entry) {
         const calc::Formula formula(entry.item);
@@ -54,7 +58,7 @@ NewRecords::NewRecords(app::App& app, exchange::TextRows rows, Headings headings
 }
 
 bool NewRecords::isTypedInto(const Column& column) const {
-    if (column.isType(ColumnType::Calculation) || column.isType(ColumnType::Picture)) return false;
+    if (!isTypedColumn(column)) return false;
     if (!app_.document.bInvoiceStyle) return true;
     return fieldsOf(app_.document, column) > 0 && !hasFormula(app_.document, column);
 }
@@ -127,7 +131,7 @@ void NewRecords::targetByName(Source& source) const {
                                                 : "no column \"" + source.name + "\"";
     else if (isTypedInto(*column))
         source.target = column;
-    else if (app_.document.bInvoiceStyle && !hasFormula(app_.document, *column))
+    else if (isTypedColumn(*column) && !hasFormula(app_.document, *column))
         source.whyLeftOut.assign("the column \"")
             .append(column->Text)
             .append("\" has no field on the layout");

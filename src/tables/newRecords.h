@@ -47,6 +47,7 @@ public:
     std::size_t count() const { return rows_.size() - (hasHeadings_ ? 1 : 0); } // of the records
     // Of the record, from 0; what a row leaves out at its end is empty.
     std::string_view cell(std::size_t record, std::size_t column) const;
+    std::size_t rowNumber(std::size_t record) const { return rowOf(record).number; }
     // How many cells are refused, and the first of them, row by row.
     std::size_t refusedCount() const;
     std::vector<Refusal> refusals(std::size_t most) const;

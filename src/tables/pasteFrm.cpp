@@ -86,9 +86,11 @@ void pasteFrm::showAll() {
         Columns.push_back({source.name, isLeftOut ? 0 : static_cast<int>(place - targets.begin()) + 1});
     }
     Grid1.assign(std::min(shownRows, records_->count()), {});
-    for (std::size_t row = 0; row < Grid1.size(); ++row)
+    for (std::size_t row = 0; row < Grid1.size(); ++row) {
+        Grid1[row].Number = records_->rowNumber(row);
         for (std::size_t column = 0; column < Columns.size(); ++column)
-            Grid1[row].emplace_back(records_->cell(row, column));
+            Grid1[row].Cells.emplace_back(records_->cell(row, column));
+    }
     showRefusals();
 }
 

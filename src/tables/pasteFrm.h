@@ -29,7 +29,11 @@ public:
     bool Check1 = false;                // the first row has the names of the columns
     std::vector<std::string> columnCbo; // what each column has to choose from; the first leaves it out
     std::vector<Column> Columns;
-    std::vector<std::vector<std::string>> Grid1; // the first rows, a cell for each column
+    struct Row {
+        std::size_t Number = 0; // in the table, from 1
+        std::vector<std::string> Cells;
+    };
+    std::vector<Row> Grid1;     // the first rows
     std::string Label2;         // what is left out, refused or too much; empty when nothing is
     std::vector<Refused> List1; // the first of the refused cells
     bool Check2 = false;        // store the others, and leave the refused cells empty

@@ -94,6 +94,16 @@ click Command1; press Escape -> -replaceFrm LV.0=>1|An Sea|Poe|$12.34|01/02/2020
 )");
     }
 
+    void rowsCopiedAndPasted() {
+        Session run(database("rows.fwk", DataFile("No:4 Name Price:2", "1|Bolt|$1.00;2|Nut|$2.00")));
+        run.play(R"(
+press Home; press Shift+Down; press Ctrl+Shift+C; press End; press Ctrl+V -> ...
+press Space; press Tab 2; press Home -> ...
+press Alt+L; press Return -> ...
+press Escape; press Shift+Insert; press Return -> ...
+)");
+    }
+
     void aPageByTheKeys() {
         const DataFile data = DataFile("Name Qty:4", "Bolt|2;Nut|3").objects("F|Name|1440|1440|2000|1000");
         Session run(database("page.fwk", data));

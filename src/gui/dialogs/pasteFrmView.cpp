@@ -57,6 +57,8 @@ void pasteFrmView::makeGrid() {
     Grid1_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     Grid1_->setMinimumHeight(em() * 7);
     Grid1_->setWordWrap(false);
+    Grid1_->verticalHeader()->setDefaultSectionSize(em() * 3 / 2);
+    Grid1_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     const auto columns = static_cast<int>(form_.Columns.size());
     Grid1_->setColumnCount(columns);
     Grid1_->setRowCount(1);
@@ -106,7 +108,8 @@ void pasteFrmView::showGrid() {
         columnCbo_[column]->setAccessibleName(tr("%1 goes into").arg(headings.back()));
         const bool isLeftOut = form_.Columns[column].ListIndex == 0;
         for (int row = 0; row < rows; ++row) {
-            auto* item = new QTableWidgetItem(onOneLine(form_.Grid1[static_cast<std::size_t>(row)][column]));
+            auto* item =
+                new QTableWidgetItem(onOneLine(form_.Grid1[static_cast<std::size_t>(row)].Cells[column]));
             if (isLeftOut) item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             Grid1_->setItem(row + 1, static_cast<int>(column), item);
@@ -114,7 +117,7 @@ void pasteFrmView::showGrid() {
     }
     Grid1_->setHorizontalHeaderLabels(headings);
     QStringList numbers(tr("Goes into"));
-    for (int row = 1; row <= rows; ++row) numbers.append(QString::number(row));
+    for (const tables::pasteFrm::Row& row : form_.Grid1) numbers.append(QString::number(row.Number));
     Grid1_->setVerticalHeaderLabels(numbers);
     if (isVisible()) return; // a width that was chosen stays
     Grid1_->resizeColumnsToContents();
@@ -122,7 +125,7 @@ void pasteFrmView::showGrid() {
         Grid1_->setColumnWidth(
             column, std::clamp(Grid1_->columnWidth(column),
                                columnCbo_[static_cast<std::size_t>(column)]->sizeHint().width(), em() * 16));
-    Grid1_->resizeRowToContents(0);
+    Grid1_->setRowHeight(0, columnCbo_.front()->sizeHint().height());
 }
 
 void pasteFrmView::showList() {
