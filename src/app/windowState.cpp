@@ -64,6 +64,25 @@ void showCaption(App& app) {
     if (app.mainFrm.bReadOnly) app.mainFrm.Caption += " (read only)";
 }
 
+namespace {
+
+template <typename Document>
+auto& listOnView(Document& document) {
+    if (document.searchLV.Visible) return document.searchLV;
+    // Not by the style: a new database that is cancelled half-way has chosen one for the records on view.
+    return document.iLV.Visible ? document.iLV : document.LV;
+}
+
+} // namespace
+
+core::RecordsList& visibleList(core::Document& document) {
+    return listOnView(document);
+}
+
+const core::RecordsList& visibleList(const core::Document& document) {
+    return listOnView(document);
+}
+
 void enableTabButtons(App& app) {
     const bool onReport = app.mainFrm.SSTab1 == reportTab;
     for (const std::string_view key : {"Totals", "Properties"}) app.mainFrm.control(key).Enabled = onReport;

@@ -25,6 +25,9 @@ void showReportTab(App& app);
 // Several records can be selected again wherever they are on view: a command that has worked on one at a time
 // leaves the list so.
 void allowManySelected(App& app);
+// The list that the report tab shows now.
+core::RecordsList& visibleList(core::Document& document);
+const core::RecordsList& visibleList(const core::Document& document);
 // The buttons that work on the records alone follow the tab.
 void enableTabButtons(App& app);
 

@@ -59,6 +59,7 @@ Run setUpReport(CLI::App& command);
 Run setUpLayouts(CLI::App& command);
 Run setUpExport(CLI::App& command);
 Run setUpImport(CLI::App& command);
+Run setUpPaste(CLI::App& command);
 
 // The command line as the program was started with.
 char** commandLine();

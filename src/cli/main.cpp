@@ -43,6 +43,7 @@ constexpr Command commands[] = {
     {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
     {"export", "Writes the records with their column types into a table", setUpExport},
     {"import", "Makes a database from a table, or appends the table's rows", setUpImport},
+    {"paste", "Makes new records of the rows of a table on standard input", setUpPaste},
 };
 
 constexpr const char* exitCodes =

@@ -5,6 +5,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/totalsRow.h"
+#include "entry/allOrNone.h"
 #include "entry/invoiceRecords.h"
 #include "entry/shownRecord.h"
 
@@ -115,13 +116,16 @@ addRecords(App& app, int count, const std::function<void(int row, std::vector<Bo
     calc::RowCalculator formulas(app, records);
     std::vector<const Item*> added;
     std::vector<BoxText> boxes;
-    for (int row = 0; row < count; ++row) {
-        fill(row, boxes);
-        Item& record = records.add(document.nextKey());
-        writeCells(app.document, record, boxes, false);
-        if (const auto reason = formulas.tryCalculate(record)) failed.push_back({record.Key.str(), *reason});
-        added.push_back(&record);
-    }
+    addAllOrNone(document, [&] {
+        for (int row = 0; row < count; ++row) {
+            fill(row, boxes);
+            Item& record = records.add(document.nextKey());
+            writeCells(document, record, boxes, false);
+            if (const auto reason = formulas.tryCalculate(record))
+                failed.push_back({record.Key.str(), *reason});
+            added.push_back(&record);
+        }
+    });
     core::moveTotals(records); // and the last record is the selected one
     records.MultiSelect = false;
     const core::TotalsRowUpdater totals(document, records);

@@ -33,6 +33,7 @@ core::Item* EditRecord(app::App& app, bool bUpdate, const std::vector<BoxText>& 
 // and the status bar in order once at the end. `fill` puts what the row, from 0, is to hold into the
 // boxes, which keep what they held for the row before. Keys that would run out raise overflow before anything
 // is written. Answers the records that could not be calculated, without a message; they are stored as well.
+// What `fill` raises leaves none of them, and no key or serial number used up.
 std::vector<calc::Uncalculated>
 addRecords(app::App& app, int count, const std::function<void(int row, std::vector<BoxText>& boxes)>& fill);
 

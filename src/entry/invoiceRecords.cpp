@@ -6,6 +6,7 @@
 #include "core/format.h"
 #include "core/text.h"
 #include "core/totalsRow.h"
+#include "entry/allOrNone.h"
 #include "entry/editRecord.h"
 #include "entry/shownRecord.h"
 #include "invoice/records.h"
@@ -127,15 +128,17 @@ std::vector<calc::Uncalculated> addInvoices(App& app, int count, const std::func
     requireKeys(app.document, count);
     std::vector<const Item*> added;
     std::vector<calc::Uncalculated> failed;
-    for (int row = 0; row < count; ++row) {
-        proposeValues(app);
-        fill(row);
-        Item& record = records.add(app.document.nextKey());
-        writeCells(app.document, record, true, nullptr);
-        if (const auto reason = calc::tryCalculateInvoice(app.document, records, records.count()))
-            failed.push_back({record.Key.str(), *reason});
-        added.push_back(&record);
-    }
+    addAllOrNone(app.document, [&] {
+        for (int row = 0; row < count; ++row) {
+            proposeValues(app);
+            fill(row);
+            Item& record = records.add(app.document.nextKey());
+            writeCells(app.document, record, true, nullptr);
+            if (const auto reason = calc::tryCalculateInvoice(app.document, records, records.count()))
+                failed.push_back({record.Key.str(), *reason});
+            added.push_back(&record);
+        }
+    });
     if (added.empty()) return failed;
     core::moveTotals(records); // and the last invoice is the selected one
     records.MultiSelect = false;

@@ -29,6 +29,7 @@ void proposeValues(app::App& app);
 // order once at the end. `fill` puts what the row, from 0, is to hold into the fields, which hold the
 // proposed values. Keys that would run out raise overflow before anything is written. Answers the invoices
 // that could not be calculated, without a message; they are stored as well.
+// What `fill` raises leaves none of them, and no key or serial number used up.
 std::vector<calc::Uncalculated> addInvoices(app::App& app, int count,
                                             const std::function<void(int row)>& fill);
 

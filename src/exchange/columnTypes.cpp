@@ -150,14 +150,20 @@ std::string typedHeader(const core::Column& column) {
     return column.Text + ":" + std::string(core::typeName(hasType ? column.type() : ColumnType::Text));
 }
 
+std::optional<TableColumn> typedColumn(std::string_view headerCell) {
+    const std::size_t colon = headerCell.rfind(':');
+    if (colon == 0 || colon == std::string_view::npos) return std::nullopt;
+    const ColumnType type = typeNamed(headerCell.substr(colon + 1));
+    if (type == ColumnType::None) return std::nullopt;
+    return TableColumn{std::string(headerCell.substr(0, colon)), type, false};
+}
+
 std::optional<std::vector<TableColumn>> typedColumns(const CsvTable& table) {
     std::vector<TableColumn> columns;
     for (const std::string_view cell : table.header()) {
-        const std::size_t colon = cell.rfind(':');
-        if (colon == 0 || colon == std::string_view::npos) return std::nullopt;
-        const ColumnType type = typeNamed(cell.substr(colon + 1));
-        if (type == ColumnType::None) return std::nullopt;
-        columns.push_back({std::string(cell.substr(0, colon)), type, false});
+        auto column = typedColumn(cell);
+        if (!column) return std::nullopt;
+        columns.push_back(*std::move(column));
     }
     return columns;
 }

@@ -23,6 +23,8 @@ std::string columnName(std::string_view headerCell);
 
 // "Price:Currency", the form in which a column goes out with its type. A name may hold a colon.
 std::string typedHeader(const core::Column& column);
+// What a header cell of that form tells; nothing for another one.
+std::optional<TableColumn> typedColumn(std::string_view headerCell);
 // The columns of a table whose header cells all have that form; nothing for other tables.
 std::optional<std::vector<TableColumn>> typedColumns(const CsvTable& table);
 // The columns of any table, with guessed types where the header has none: Number, Currency or Date

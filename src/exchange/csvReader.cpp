@@ -20,13 +20,6 @@ constexpr std::size_t mostCells = 4096;
     throw TableError("line " + std::to_string(line) + ": " + what);
 }
 
-std::string textOf(std::string bytes) {
-    if (core::hasUtf8Mark(bytes)) bytes.erase(0, 3);
-    if (bytes.find('\0') != std::string::npos) throw TableError("it is no text in UTF-8 or Windows-1252");
-    if (core::isAscii(bytes) || core::sanitizeUtf8(bytes) == bytes) return bytes;
-    return core::fromWindows1252(bytes);
-}
-
 bool isLineEnd(char c) {
     return c == '\n' || c == '\r';
 }
@@ -49,6 +42,13 @@ char separatorOf(std::string_view text) {
 }
 
 } // namespace
+
+std::string textOf(std::string bytes) {
+    if (core::hasUtf8Mark(bytes)) bytes.erase(0, 3);
+    if (bytes.find('\0') != std::string::npos) throw TableError("it is no text in UTF-8 or Windows-1252");
+    if (core::isAscii(bytes) || core::sanitizeUtf8(bytes) == bytes) return bytes;
+    return core::fromWindows1252(bytes);
+}
 
 CsvTable::CsvTable(std::string bytes) : text_(textOf(std::move(bytes))), separator_(separatorOf(text_)) {
     readHeader();

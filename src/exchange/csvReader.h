@@ -14,6 +14,10 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// The bytes of a table as text: they are UTF-8, or else Windows-1252. Raises TableError when they are no
+// text.
+std::string textOf(std::string bytes);
+
 // A table of comma-separated values with a header line, as RFC 4180 has it; also one whose header is
 // divided by ";" or by tabs, as spreadsheets write in many countries. The bytes are UTF-8, or else
 // Windows-1252. A line end inside quotes becomes a line feed, the one that a cell of a database can

@@ -5,7 +5,7 @@
 namespace exchange {
 
 void CsvWriter::cell(std::string_view text) {
-    if (cells_++ > 0) out_.push_back(',');
+    if (cells_++ > 0) out_.push_back(separator_);
     isEmpty_ = cells_ == 1 && text.empty();
     if (std::ranges::none_of(text, [this](char c) { return quoted_[static_cast<unsigned char>(c)]; })) {
         out_.append(text);

@@ -11,7 +11,8 @@ namespace exchange {
 // table's own.
 class CsvWriter {
 public:
-    explicit CsvWriter(std::string& out, std::string_view quoted = ",;\t\"\r\n") : out_(out) {
+    explicit CsvWriter(std::string& out, std::string_view quoted = ",;\t\"\r\n", char separator = ',')
+        : out_(out), separator_(separator) {
         for (const char c : quoted) quoted_.at(static_cast<unsigned char>(c)) = true;
     }
 
@@ -20,6 +21,7 @@ public:
 
 private:
     std::string& out_;
+    char separator_;
     std::array<bool, 256> quoted_{}; // by character: a search for each of several takes twice the time
     int cells_ = 0;                  // in the line so far
     bool isEmpty_ = true;

@@ -95,6 +95,12 @@ public:
     virtual void setMousePointer(MousePointer pointer) = 0;
     // Paints the status bar at once, for commands that keep the window busy.
     virtual void paintStatus() = 0;
+    // How far a command that may take long has come; at the total it is over. Once it has taken a second, the
+    // user sees it and can give it up: False from then on.
+    virtual bool tellProgress(const std::string& what, int done, int total) {
+        (void)what, (void)done, (void)total;
+        return true;
+    }
     // Opens a file or an address with the user's default program.
     virtual void openLink(const std::string& target) = 0;
     // Opens the user's mail program with the message, and does not wait for it. A program that turns out

@@ -22,6 +22,7 @@
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
 #include "storage/saveSteps.h"
+#include "tables/copyRecords.h"
 
 #include <algorithm>
 #include <array>
@@ -131,7 +132,9 @@ std::vector<Command> menuCommands() {
         {"mnuRedo", "&Redo", "", "redo", false, redo},
         {"mnuCut", "Cu&t", "", "cut", false, cut, canCut},
         {"mnuCopy", "&Copy", "", "copy", false, copy, canCopy},
-        {"mnuPaste", "&Paste", "", "paste", false, paste, canPaste},
+        {"mnuCopyHeadings", "Copy With &Headings", "", "copyHeadings", false, tables::mnuCopyHeadings_Click,
+         canCopyRecords},
+        {"mnuPaste", "&Paste...", "", "paste", false, paste, canPaste},
         {"mnuNewRecord", "&New Record", "", "recordNew", false, newRecord, canAddRecord},
         {"mnuOpenPage", "Show On &Layout Page", "", "openPage", false, openOnPage, canOpenOnPage},
         {"mnuOpenForm", "Open In &Entry Form", "", "field", false, openInForm, canOpenInForm},
@@ -266,8 +269,8 @@ std::span<const Menu> menuBar() {
           "mnuExit"}},
         {"mnuEdit",
          "&Edit",
-         {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuPaste", "-", "mnuNewRecord", "mnuDuplicate",
-          "-", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
+         {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuCopyHeadings", "mnuPaste", "-", "mnuNewRecord",
+          "mnuDuplicate", "-", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",

@@ -96,21 +96,4 @@ void list_KeyUp(App& app) {
     app.mainFrm.bCtrlDown = false;
 }
 
-namespace {
-template <typename Document>
-auto& listOnView(Document& document) {
-    if (document.searchLV.Visible) return document.searchLV;
-    // Not by the style: a new database that is cancelled half-way has chosen one for the records on view.
-    return document.iLV.Visible ? document.iLV : document.LV;
-}
-} // namespace
-
-RecordsList& visibleList(core::Document& document) {
-    return listOnView(document);
-}
-
-const RecordsList& visibleList(const core::Document& document) {
-    return listOnView(document);
-}
-
 } // namespace shell

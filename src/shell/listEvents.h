@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/app.h"
+#include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/sorting.h"
 
@@ -23,8 +23,6 @@ bool opensOnPage(app::App& app, const core::RecordsList& list);
 void list_KeyDown(app::App& app, int keyCode);
 void list_KeyUp(app::App& app);
 
-// The list that the report tab shows now.
-core::RecordsList& visibleList(core::Document& document);
-const core::RecordsList& visibleList(const core::Document& document);
+using app::visibleList;
 
 } // namespace shell

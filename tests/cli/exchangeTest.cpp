@@ -67,4 +67,23 @@ $1 echo a | fwk import no/n.fwk t -> ! Ferrowick: There was an ...
 )sh");
 }
 
+TEST_F(Exchange, RowsOfStandardInputBecomeRecords) {
+    make("a.fwk",
+         DataFile("No:4 Name Price:2 Day:1 Sum:5", "7|a|$1.00|01/02/2003|$2.00")
+             .sections("Formulas=Sum,Price * 2|;Totaled Cols=Sum|;Optioned Cols=No|;Increments=No,7|"));
+    expect(R"sh(
+$ printf 'name\tPRICE\tSum\n"x\ny"\t1,234.5\t1\n\nz\t\t\n' | fwk paste a.fwk -> 2 // ~[Increments]No,9| // ~8|x
++y|$1,234.50||$2,469.00| // +9|z|$.00||$.00| // +=|=|=|=|$2,469.00|
+$ echo '<table><tr><td>Name<td>&lt;' | fwk paste --no-headings a.fwk --yes -> 1
+! standard input: row 1, "No": "Name" is no number // +0|<|$.00||$.00|
+$1 printf 'Name\tPrice\tDay\tPrise\nb|\tx\t1\t1\n' | fwk paste a.fwk -> ! standard input: no column "Prise"
+! standard input: row 2, "Name": "b|" has a "|", which divides the cells of a database
+! standard input: row 2, "Price": "x" is no number // ! standard input: row 2, "Day": "1" is no date
+! nothing is stored; --yes leaves out what cannot be stored
+$1 fwk paste a.fwk -> ! standard input: it has no rows
+$2 fwk paste --headings --no-headings a.fwk -> ! --headings excludes --no-headings
+$1 seq 32764 | fwk paste a.fwk -> ! it has room for 32763 more records, not 32764
+)sh");
+}
+
 } // namespace

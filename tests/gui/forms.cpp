@@ -113,6 +113,20 @@ click mnuSerialCheck; press Return -> -searchLV Search Formulas Delete LV.0=>1|B
 )");
     }
 
+    void rowsCopiedAndPasted() {
+        Session run(database("rows.fwk", DataFile("No:4 Name Price:2", "1|Bolt|$1.00;2|Nut|$2.00")));
+        run.play(R"(
+press Home; press Shift+Down; press Ctrl+Shift+C; press End; press Ctrl+V -> LV.0=1|Bolt|$1.00 LV.2=>-|-|-
+    pasteFrm=Paste Records Check1=x* Grid1.0=|| Grid1.1=1|Bolt|$1.00 Grid1.2=2|Nut|$2.00 columnCbo0=1 columnCbo1=2
+    columnCbo2=3
+press Escape; press Ctrl+C; press Shift+Insert -> -Grid1 Check1=* Grid1.1=-|-|- List1.0=1|No|-|is no number
+    List1.1=1|Price|-|is no number OKButton=-
+press Tab; press Down; press Tab 2; press End -> -List1 columnCbo0=2 columnCbo1 columnCbo2=3* List1.0=1|Price|-|is
+    no number
+press Alt+L; press Return -> -pasteFrm LV.2=>0|-|$.00 LV.3=-|-|- LV=* SB1_1=3 records. SB1_5=Document Modified
+)");
+    }
+
     void aPageByTheKeys() {
         const DataFile data = DataFile("Name Qty:4", "Bolt|2;Nut|3").objects("F|Name|1440|1440|2000|1000");
         Session run(database("page.fwk", data));

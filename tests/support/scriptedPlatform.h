@@ -5,6 +5,7 @@
 #include <deque>
 #include <fstream>
 #include <functional>
+#include <limits>
 #include <map>
 #include <sstream>
 #include <string>
@@ -56,6 +57,7 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
     std::string clipboardPicture; // the bytes of the clipboard's bitmap; empty for a text, or nothing
 
     platform::ClipboardData onClipboard;
+    int givesUpAt = std::numeric_limits<int>::max(); // how far a long command comes
 
     // What was asked. A message has a mark for its icon ("-" none, "i", "!", "?", "x") ahead, and the caption
     // when that is not the program's name.
@@ -116,6 +118,7 @@ struct ScriptedPlatform : platform::Platform, TestFolder {
         ++paints;
         onPaint();
     }
+    bool tellProgress(Text, int done, int) override { return done < givesUpAt; }
     void openLink(Text target) override { links.push_back(target); }
     fs::path workFolder() override { return folder / "work"; }
     fs::path tempFolder() override { return folder / "work" / "Temp"; }

@@ -8,6 +8,7 @@
 #include "gui/dialogs/formulateFrmView.h"
 #include "gui/dialogs/layoutPageSetupFrmView.h"
 #include "gui/dialogs/mailFrmView.h"
+#include "gui/dialogs/pasteFrmView.h"
 #include "gui/dialogs/repeatFrmView.h"
 #include "gui/dialogs/replaceFrmView.h"
 #include "gui/dialogs/reportPageSetupView.h"
@@ -40,6 +41,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("reportPageSetup", shown<reportPageSetupView>(app, events));
     platform.registerForm("layoutPageSetupFrm", shown<layoutPageSetupFrmView>(app, events));
     platform.registerForm("mailFrm", shown<mailFrmView>(app, events));
+    platform.registerForm("pasteFrm", shown<pasteFrmView>(app, events));
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
     platform.registerForm("replaceFrm", [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
     platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });

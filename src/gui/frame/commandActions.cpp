@@ -32,6 +32,7 @@ const std::vector<Shortcut>& shortcuts() {
         {"mnuPrint", "Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
         {"mnuCut", "", QKeySequence(Qt::CTRL | Qt::Key_X)},
         {"mnuCopy", "", QKeySequence(Qt::CTRL | Qt::Key_C)},
+        {"mnuCopyHeadings", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C)},
         {"mnuPaste", "", QKeySequence(Qt::CTRL | Qt::Key_V)},
         {"mnuNewRecord", "", QKeySequence(Qt::Key_Insert)},
         {"mnuDuplicate", "", QKeySequence(Qt::CTRL | Qt::Key_D)},

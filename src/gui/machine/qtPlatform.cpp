@@ -184,6 +184,30 @@ void QtPlatform::paintStatus() {
     if (window_.paintStatus) window_.paintStatus();
 }
 
+bool QtPlatform::tellProgress(const std::string& what, int done, int total) {
+    constexpr qint64 patience = 1000; // milliseconds
+    if (done == 0) workTime_.start();
+    if (done >= total) {
+        progress_.reset();
+        return true;
+    }
+    // Until then no event comes between the command and its work.
+    if (progress_ == nullptr && workTime_.elapsed() < patience) return true;
+    if (progress_ == nullptr) {
+        progress_ =
+            std::make_unique<QProgressDialog>(toQt(what), QObject::tr("Cancel"), 0, total, dialogParent());
+        progress_->setObjectName(QStringLiteral("progress"));
+        progress_->setWindowTitle(QStringLiteral("Ferrowick"));
+        progress_->setWindowModality(Qt::ApplicationModal);
+        progress_->setAutoClose(false);
+        progress_->setAutoReset(false);
+        progress_->setMinimumDuration(0);
+        progress_->show();
+    }
+    progress_->setValue(done); // lets the events of the dialog through
+    return !progress_->wasCanceled();
+}
+
 void QtPlatform::openLink(const std::string& target) {
     openTarget(target);
 }

@@ -8,11 +8,14 @@
 #include "qtprint/twipsFont.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QWidget>
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 
 namespace gui {
@@ -52,6 +55,7 @@ public:
 
     void setMousePointer(platform::MousePointer pointer) override;
     void paintStatus() override;
+    bool tellProgress(const std::string& what, int done, int total) override;
     void openLink(const std::string& target) override;
     platform::MailStart sendMail(const platform::MailMessage& message,
                                  const std::function<void()>& failed) override;
@@ -99,6 +103,8 @@ private:
     SystemPrinter printer_;
     qtprint::QtTextMetrics textMetrics_;
     std::map<std::string, FormFactory, std::less<>> forms_;
+    QElapsedTimer workTime_; // of the command that tells its progress
+    std::unique_ptr<QProgressDialog> progress_;
     bool hourglass_ = false;
     bool isUsers_ = false;
 };

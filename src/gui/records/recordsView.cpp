@@ -5,6 +5,7 @@
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
+#include "shell/commands.h"
 #include "shell/listEvents.h"
 
 #include <QActionGroup>
@@ -333,6 +334,15 @@ void RecordsView::keyPressEvent(QKeyEvent* event) {
     const bool isMenuKey = event->key() == Qt::Key_Menu ||
                            (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
     if (isMenuKey) return wantMenuAtRow();
+    // By whatever keys the desktop has for them; the list's own copy would take one cell alone.
+    if (event->matches(QKeySequence::Copy)) {
+        events_.run([&] { shell::runCommand(app_, "mnuCopy"); });
+        return;
+    }
+    if (event->matches(QKeySequence::Paste)) {
+        events_.run([&] { shell::runCommand(app_, "mnuPaste"); });
+        return;
+    }
     // Enter is the keyboard's double click.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         events_.run([&] { shell::list_DblClick(app_, list_); });

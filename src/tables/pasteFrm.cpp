@@ -1,0 +1,159 @@
+#include "tables/pasteFrm.h"
+
+#include "app/hourglass.h"
+#include "app/windowState.h"
+#include "core/runTimeError.h"
+
+#include <algorithm>
+
+namespace tables {
+
+namespace {
+
+constexpr std::size_t shownRows = 10;
+constexpr std::size_t shownRefusals = 1000;
+
+exchange::TextRows clipboardRows(app::App& app) {
+    const auto data = app.platform.clipboard();
+    exchange::TextRows rows = exchange::readTabbedRows(data.text);
+    return rows.empty() ? exchange::readHtmlRows(data.html) : rows;
+}
+
+std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+    std::string text = std::to_string(count);
+    text.append(" ").append(count == 1 ? one : many);
+    return text;
+}
+
+// What is left out without having been chosen so.
+void appendLeftOut(std::string& text, const std::vector<NewRecords::Source>& sources) {
+    constexpr std::size_t mostNamed = 5;
+    std::size_t count = 0;
+    for (const NewRecords::Source& source : sources) {
+        if (source.whyLeftOut.empty() || ++count > mostNamed) continue;
+        text.append(count == 1 ? "Left out: " : ", ").append(source.whyLeftOut);
+    }
+    if (count > mostNamed) text.append(", and ").append(std::to_string(count - mostNamed)).append(" more");
+    if (count > 0) text.append(".");
+}
+
+} // namespace
+
+void mnuPaste_Click(app::App& app) {
+    const core::RecordsList& list = app::visibleList(app.document);
+    if (app.document.LV.columns.count() < 2)
+        app::inform(app, "Your database has no columns to paste into.");
+    else if (&list == &app.document.searchLV)
+        app::inform(app, "Records cannot be pasted into search results. Please go back to all records.");
+    else if (app.document.bInvoiceStyle && app.document.bInvoiceView)
+        app::inform(app,
+                    "Each row that is pasted becomes an invoice. Please show the invoices, not their items.");
+    else
+        app.platform.showForm("pasteFrm");
+}
+
+pasteFrm::pasteFrm(app::App& app) : app_(app) {
+    const app::Hourglass hourglass(app);
+    try {
+        exchange::TextRows rows = clipboardRows(app);
+        if (rows.empty())
+            app::inform(app, "There is no text and no table on the clipboard.");
+        else
+            records_.emplace(app, std::move(rows), Headings::Guess);
+    } catch (const exchange::TableError& error) {
+        app::warn(app, std::string("What is on the clipboard cannot be pasted: ") + error.what() + ".");
+    }
+    unloaded = !records_;
+    if (unloaded) return;
+    columnCbo.emplace_back("(leave out)");
+    for (const core::Column* column : records_->targets()) columnCbo.push_back(column->Text);
+    showAll();
+}
+
+void pasteFrm::showAll() {
+    Check1 = records_->hasHeadings();
+    const bool isInvoice = app_.document.bInvoiceStyle;
+    Label1 = counted(records_->count(), isInvoice ? "new invoice" : "new record",
+                     isInvoice ? "new invoices" : "new records");
+    if (records_->count() > shownRows)
+        Label1.append(". The first ").append(std::to_string(shownRows)).append(" are shown");
+    Label1.append(".");
+    const auto& targets = records_->targets();
+    Columns.clear();
+    for (const NewRecords::Source& source : records_->sources()) {
+        const auto place = std::ranges::find(targets, source.target);
+        const bool isLeftOut = place == targets.end();
+        Columns.push_back({source.name, isLeftOut ? 0 : static_cast<int>(place - targets.begin()) + 1});
+    }
+    Grid1.assign(std::min(shownRows, records_->count()), {});
+    for (std::size_t row = 0; row < Grid1.size(); ++row) {
+        Grid1[row].Number = records_->rowNumber(row);
+        for (std::size_t column = 0; column < Columns.size(); ++column)
+            Grid1[row].Cells.emplace_back(records_->cell(row, column));
+    }
+    showRefusals();
+}
+
+void pasteFrm::showRefusals() {
+    List1.clear();
+    for (const NewRecords::Refusal& refusal : records_->refusals(shownRefusals))
+        List1.push_back({std::to_string(refusal.row), records_->sources()[refusal.column].target->Text,
+                         std::string(refusal.value), refusal.reason});
+    Label2.clear();
+    appendLeftOut(Label2, records_->sources());
+    const std::size_t refused = records_->refusedCount();
+    const std::size_t room = records_->room();
+    const auto add = [&](const std::string& sentence) {
+        Label2.append(Label2.empty() ? "" : "\n") += sentence;
+    };
+    if (refused > List1.size())
+        add(counted(refused, "", "cells are refused, these among them."));
+    else if (refused > 0)
+        add(counted(refused, "cell is refused.", "cells are refused."));
+    if (records_->count() > room)
+        add("The database has room for " + counted(room, "more record.", "more records."));
+    const bool isAny =
+        std::ranges::any_of(Columns, [](const Column& column) { return column.ListIndex > 0; });
+    if (!isAny) add("No column is chosen.");
+    Check2Visible = refused > 0;
+    okEnabled = isAny && records_->count() > 0 && records_->count() <= room && (refused == 0 || Check2);
+}
+
+void pasteFrm::Check1_Click(bool checked) {
+    const app::Hourglass hourglass(app_);
+    records_->setHeadings(checked);
+    showAll();
+}
+
+void pasteFrm::columnCbo_Click(std::size_t column, int entry) {
+    const app::Hourglass hourglass(app_);
+    const auto& targets = records_->targets();
+    records_->setTarget(column, entry < 1 ? nullptr : targets.at(static_cast<std::size_t>(entry) - 1));
+    showAll();
+}
+
+void pasteFrm::Check2_Click(bool checked) {
+    Check2 = checked;
+    showRefusals();
+}
+
+void pasteFrm::OKButton_Click() {
+    if (!okEnabled) return;
+    try {
+        store();
+        unloaded = true;
+    } catch (const core::RunTimeError& error) {
+        if (error.number != core::errors::cancelled) throw; // given up: the form stays as it is
+    }
+}
+
+void pasteFrm::store() {
+    const app::Hourglass hourglass(app_);
+    const std::vector<calc::Uncalculated> failed = records_->store();
+    if (failed.empty()) return;
+    std::string text = counted(failed.size(), "of the records cannot be calculated: ",
+                               "of the records cannot be calculated. The first one: ");
+    app::warn(app_, text.append(failed.front().reason));
+}
+
+} // namespace tables
