@@ -210,10 +210,25 @@ private:
     RowCollector rows_;
 };
 
+std::size_t cellsOf(const TextRows& rows) {
+    std::size_t cells = 0;
+    for (const TextRow& row : rows) cells += row.cells.size();
+    return cells;
+}
+
 } // namespace
 
 TextRows readHtmlRows(std::string_view html) {
     return HtmlReader(html).read();
+}
+
+TextRows readRowsOfEither(std::string_view text, std::string_view html) {
+    TextRows rows = readTabbedRows(text);
+    TextRows ofPage = readHtmlRows(html);
+    // Each line end that tears a cell makes a row and a cell more. Any other page is another table.
+    const bool isSame =
+        ofPage.size() < rows.size() && cellsOf(rows) - cellsOf(ofPage) == rows.size() - ofPage.size();
+    return !ofPage.empty() && (rows.empty() || isSame) ? ofPage : rows;
 }
 
 bool isHtml(std::string_view text) {
@@ -240,7 +255,7 @@ void appendHtmlText(std::string& out, std::string_view text) {
             out.append("&quot;");
             break;
         case '\n':
-            out.append("<br>");
+            out.append("<br>\n"); // some spreadsheets go by the one, some by the other
             break;
         default:
             out.push_back(c);

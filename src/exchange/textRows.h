@@ -26,6 +26,10 @@ TextRows readHtmlRows(std::string_view html);
 // Whether a text that may be either is a page.
 bool isHtml(std::string_view text);
 
+// The rows of a table that is there in both forms, each empty where it is not. The text has the cells as they
+// were typed; but a program that does not quote line ends tears them apart in it, which the page does not.
+TextRows readRowsOfEither(std::string_view text, std::string_view html);
+
 // The text with "&", "<" and quotes as HTML has them, and line feeds as breaks.
 void appendHtmlText(std::string& out, std::string_view text);
 

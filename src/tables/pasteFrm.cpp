@@ -15,8 +15,7 @@ constexpr std::size_t shownRefusals = 1000;
 
 exchange::TextRows clipboardRows(app::App& app) {
     const auto data = app.platform.clipboard();
-    exchange::TextRows rows = exchange::readTabbedRows(data.text);
-    return rows.empty() ? exchange::readHtmlRows(data.html) : rows;
+    return exchange::readRowsOfEither(data.text, data.html);
 }
 
 std::string counted(std::size_t count, std::string_view one, std::string_view many) {

@@ -37,6 +37,12 @@ TEST(TextRows, OfAPage) {
         "<table><tr><td>a<table><tr><td>in</table>ner<td>5 < 6 -> 1:ainner/5 < 6/;; <td>no -> ; <table><tr "
         "-> ";
     for (const auto& c : table(cases)) EXPECT_EQ(told(exchange::readHtmlRows(c[0])), c[1]) << c[0];
+    for (const auto& c :
+         table("a\tb -> <table><td>c -> 1:a/b/;;  -> <table><td>c -> 1:c/;; a\tb\nc\td\te -> x -> "
+               "1:a/b/;2:c/d/e/;; a\tb\nc\td -> <table><td>a<td>b<br>c<td>d -> 1:a/b\nc/d/;; "
+               "a\tb\nc\td -> <table><td>a<tr><td>b -> 1:a/b/;2:c/d/;",
+               3))
+        EXPECT_EQ(told(exchange::readRowsOfEither(c[0], c[1])), c[2]) << c[0];
     for (const auto& c : table(" <HTML> -> 1; <meta x> -> 1; <b>a</b>\tb -> 0; a -> 0"))
         EXPECT_EQ(exchange::isHtml(c[0]), c[1] == "1") << c[0];
     EXPECT_TRUE(exchange::readHtmlRows(std::string(1'000'000, '<')).empty()); // and soon
