@@ -55,6 +55,7 @@ void UndoStack::settle(const Document& document, bool bRecords, const Naming& na
     Step step = lookAgain(document, bRecords);
     step.pictures = std::exchange(pictures_, {});
     if (step.empty()) return;
+    ++taken_;
     step.before = selection_;
     step.after = Selection::of(document.LV);
     step.name = name(step);
@@ -104,6 +105,7 @@ void UndoStack::go(Document& document, std::vector<Step>& from, std::vector<Step
     back.after = std::move(step.after);
     back.size = back.bytes();
     to.push_back(std::move(back));
+    ++taken_;
 }
 
 std::size_t UndoStack::loudSteps(const std::vector<Step>& steps) {

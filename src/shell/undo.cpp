@@ -208,6 +208,10 @@ void afterEvent(App& app) {
     showSteps(app);
 }
 
+std::uint64_t stepsTaken(const App& app) {
+    return historyOf(app).stack.taken();
+}
+
 void undo(App& app) {
     go(app, true);
 }

@@ -127,6 +127,23 @@ press Alt+L; press Return -> -pasteFrm LV.2=>0|-|$.00 LV.3=-|-|- LV=* SB1_1=3 re
 )");
     }
 
+    void undoneByTheKeys() {
+        const DataFile data = DataFile("Name Qty:4", "Bolt|2;Nut|3").objects("F|Name|1440|1440|2000|1000");
+        Session run(database("undo.fwk", data));
+        run.platform.answers = {platform::Answer::Yes};
+        run.play(R"(
+press Home; press Delete -> "Are you sure?" -LV LV.0=>Nut|3 LV.1=-|- SB1_5=Document Modified
+press Ctrl+Z -> LV.0=>Bolt|2 LV.1=Nut|3 LV.2=-|- SB1_5=Document Saved
+press Ctrl+Shift+Z; press Ctrl+Z ->
+tab 1; focus f1; press End; type xy -> Totals=- Properties=- Delete=- page=1 Slider1=1 recordPosition=Record 1 of 2
+    sheet=1 at 19,0 f1=Boltxy|
+press Ctrl+Z -> f1=Bolt|
+type z; click layoutNavBar.Update -> SB1_5=Document Modified f1=Boltz|
+press Ctrl+Z -> SB1_5=Document Saved f1=|Bolt
+press Ctrl+Shift+Z -> SB1_5=Document Modified f1=|Boltz
+)");
+    }
+
     void aPageByTheKeys() {
         const DataFile data = DataFile("Name Qty:4", "Bolt|2;Nut|3").objects("F|Name|1440|1440|2000|1000");
         Session run(database("page.fwk", data));
