@@ -48,7 +48,7 @@ void UndoStack::stop() {
 }
 
 void UndoStack::notePicture(file::KeptEntry before) {
-    if (isStarted_) pictures_.insert(pictures_.begin(), std::move(before));
+    if (isStarted_) pictures_.push_back(std::move(before));
 }
 
 void UndoStack::settle(const Document& document, bool bRecords, const Naming& name) {
@@ -87,9 +87,10 @@ Step UndoStack::lookAgain(const Document& document, bool bRecords) {
 
 void UndoStack::go(Document& document, std::vector<Step>& from, std::vector<Step>& to,
                    const SwapPicture& swap, bool bBack) {
-    std::vector<file::KeptEntry> pictures;
-    for (const file::KeptEntry& picture : from.back().pictures)
-        pictures.insert(pictures.begin(), swap(picture)); // first: the file may not take them
+    std::vector<file::KeptEntry> pictures; // first: the file may not take them
+    const std::vector<file::KeptEntry>& others = from.back().pictures;
+    for (auto picture = others.rbegin(); picture != others.rend(); ++picture)
+        pictures.push_back(swap(*picture));
     Step step = std::move(from.back());
     from.pop_back();
     if (step.design) step.design->putInto(document);

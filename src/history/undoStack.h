@@ -18,7 +18,7 @@ struct Step {
     std::shared_ptr<const Objects> objects;
     std::optional<Counters> counters;
     RecordChange records;
-    std::vector<file::KeptEntry> pictures; // the latest first
+    std::vector<file::KeptEntry> pictures; // the latest last
     Selection before, after;               // of the records
     bool isSilent = false;                 // another view was chosen; goes with the step before or behind it
     std::size_t size = 0;                  // bytes(), once the step is whole
