@@ -187,7 +187,8 @@ void go(App& app, bool bBack) {
     const bool bColumns = stack.designPart() != design;
     showChanged(app, bColumns, bColumns || stack.objectsPart() != objects);
     app::setDocumentModified(app, !stack.isSaved());
-    if (stack.isSaved()) storage::removeUnsavedWork(app);
+    // After a save that failed it is not known what the file holds, or whether there still is one.
+    if (stack.isSaved() && !storage::unsavedWork(app).hasSaveFailed) storage::removeUnsavedWork(app);
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -64,6 +65,8 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
                       },
                       [this] { return app_.document.currentFile; }});
     registerForms(platform_, app_, events_);
+    // The desktop asks when its user logs out, who may still stay.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &MainFrmView::keepForTheEnd);
 }
 
 MainFrmView::~MainFrmView() {
