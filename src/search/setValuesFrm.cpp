@@ -125,10 +125,21 @@ void setValuesFrm::tellRefused(const SetOutcome& outcome) {
     app::warn(app_, text);
 }
 
+// Enter is quickly pressed, before anything has been typed.
+bool setValuesFrm::confirmEmpty(const std::string& column) {
+    std::string question = "Do you want to empty ";
+    question.append(column).append(" in ").append(
+        counted(records_.at(static_cast<std::size_t>(scope)).size(), "record", "records"));
+    question += "?";
+    return app_.platform.msgBox(question, platform::Icon::Question, "Set Values",
+                                platform::Buttons::YesNoDefaultNo) == platform::Answer::Yes;
+}
+
 void setValuesFrm::OKButton_Click() {
     Text1_LostFocus();
     if (!OKButtonEnabled) return;
     const NewValue wanted = value();
+    if (!wanted.isExpression && wanted.text.empty() && !confirmEmpty(wanted.column)) return;
     ValueMaker maker(app_, wanted);
     const SetOutcome outcome = setValues(app_, maker, records_.at(static_cast<std::size_t>(scope)));
     if (outcome.refused != nullptr) {

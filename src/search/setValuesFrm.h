@@ -54,6 +54,7 @@ private:
     bool isColumn(core::ColumnType type) const;
     NewValue value() const;
     void show();
+    bool confirmEmpty(const std::string& column);
     void tellRefused(const SetOutcome& outcome);
 
     app::App& app_;

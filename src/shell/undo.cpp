@@ -2,6 +2,9 @@
 
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "entry/navBar.h"
+#include "entry/retrieveData.h"
+#include "entry/shownRecord.h"
 #include "history/stepName.h"
 #include "history/undoStack.h"
 #include "invoice/views.h"
@@ -159,21 +162,61 @@ void showRecords(App& app) {
     app.mainFrm.listScroll = app::ListScroll::ToCurrent;
 }
 
-void showChanged(App& app, bool bColumns, bool bObjects) {
+// What was typed on the page and is stored nowhere yet outlives the undoing of what was stored before.
+class TypedWords {
+public:
+    explicit TypedWords(App& app) : app_(app) {
+        const core::Document& document = app.document;
+        if (document.bInvoiceStyle || layout::isDesignMode(app) || !storage::unsavedWork(app).isTyped) return;
+        const core::Item* record = entry::recordOnSheet(app);
+        if (record == nullptr) return;
+        key_ = record->Key.str();
+        document.layout.layoutField.forEach([&](const core::LayoutField& field) {
+            const core::Column* column = document.LV.columns.find(field.Tag);
+            if (column == nullptr || column->Index == 1) return;
+            const std::string stored = entry::shownText(*column, core::RecordsList::cell(*record, *column));
+            if (field.Text != stored) fields_.emplace_back(field.Index, field.Text);
+        });
+    }
+    // The page stays at its record, if that is still there.
+    void stay() const {
+        core::Item* record = fields_.empty() ? nullptr : app_.document.LV.find(key_);
+        if (record == nullptr) return;
+        app_.document.LV.MultiSelect = false;
+        app_.document.LV.setSelectedItem(record);
+    }
+    void putBack() const {
+        if (fields_.empty() || entry::sheet(app_).shownKey != key_) return;
+        for (const auto& [index, text] : fields_)
+            if (core::LayoutField* field = app_.document.layout.layoutField.find(index)) field->Text = text;
+        app_.changes.announce(app_, app::Change::Unsaved);
+    }
+
+private:
+    App& app_;
+    std::string key_;
+    std::vector<std::pair<int, std::string>> fields_;
+};
+
+void showChanged(App& app, const TypedWords& typed, bool bColumns, bool bObjects) {
+    // A record that is new on the page stays there until it is added.
+    const bool bNew = entry::isSheetNew(app) && !app.document.bInvoiceStyle && !bObjects;
     app.mainFrm.viewOpt = app.document.bInvoiceView ? 0 : 1;
+    typed.stay();
     const history::Selection selected = history::Selection::of(app.document.LV);
     const core::ColumnHeaders shown = app.document.iLV.columns;
     app.changes.announce(app, app::Change::Objects);
     if (bObjects) showObjects(app);
     showRecords(app);
-    app.changes.announce(app, bColumns ? app::Change::Columns : app::Change::Values);
+    app.changes.announce(app, bColumns || bNew ? app::Change::Columns : app::Change::Values);
     refreshInvoiceRows(app.document, shown);
     if (app.document.searchLV.Visible && bColumns)
         search::leaveResults(app);
     else
         search::followRecords(app);
     if (app.document.searchLV.Visible) app::showRecordCount(app, app.document.searchLV);
-    app.changes.announce(app, app::Change::CurrentRecord);
+    if (!bNew) app.changes.announce(app, app::Change::CurrentRecord);
+    typed.putBack();
     // What is designed shows the names of its columns again.
     if (app.mainFrm.SSTab1 == app::layoutTab && layout::isDesignMode(app)) showObjects(app);
     selected.putInto(app.document.LV); // the page has taken one of them perhaps
@@ -185,6 +228,7 @@ void go(App& app, bool bBack) {
     history::UndoStack& stack = historyOf(app).stack;
     const history::Step* step = bBack ? stack.undone() : stack.redone();
     if (step == nullptr || isHalfWay(app)) return;
+    const TypedWords typed(app);
     const auto design = stack.designPart();
     const auto objects = stack.objectsPart();
     const auto swap = [&](const file::KeptEntry& entry) { return swapPicture(app, entry); };
@@ -198,7 +242,7 @@ void go(App& app, bool bBack) {
         return;
     }
     const bool bColumns = stack.designPart() != design;
-    showChanged(app, bColumns, bColumns || stack.objectsPart() != objects);
+    showChanged(app, typed, bColumns, bColumns || stack.objectsPart() != objects);
     historyOf(app).bUnmarked = stack.isSaved();
     app::setDocumentModified(app, !stack.isSaved());
     // After a save that failed it is not known what the file holds, or whether there still is one.

@@ -74,14 +74,19 @@ private:
 
 void copySelected(app::App& app, bool withHeadings) {
     const RecordsList& list = app::visibleList(app.document);
-    bool isAny = false;
-    list.forEach([&](const Item& item) { isAny |= item.Selected; });
+    // The sums come along only when they are meant alone: who takes all records wants to paste them
+    // elsewhere.
+    bool isAny = false, isRecord = false;
+    list.forEach([&](const Item& item) {
+        isAny |= item.Selected;
+        isRecord |= item.Selected && !item.isTotals();
+    });
     if (!isAny) return;
     const app::Hourglass hourglass(app);
     TableCopy copy(list);
     if (withHeadings) copy.headings();
     list.forEach([&](const Item& item) {
-        if (item.Selected) copy.row(item);
+        if (item.Selected && !(isRecord && item.isTotals())) copy.row(item);
     });
     copy.toClipboard(app);
 }

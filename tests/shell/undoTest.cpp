@@ -250,4 +250,43 @@ TEST_F(Undo, RandomCommandsAreUndoneAndRedoneToTheByte) {
     }
 }
 
+TEST_F(Undo, AWholeDragIsOneStepAndASaveKeepsTheSteps) {
+    openRecords(false);
+    event([&] { page(true); });
+    it = ref("pBox,1");
+    const std::string before = place();
+    for (const char* acts : {"select", "take", "by 300 200", "by 30 20", "drop", "click"})
+        event([&] { after(acts); });
+    EXPECT_EQ(undoes(), "&Undo Move Object");
+    event([&] { run("Save"); });
+    EXPECT_FALSE(app.document.bModified);
+    undo();
+    EXPECT_EQ(place() + (app.document.bModified ? " modified " : "") + undoes(), before + " modified ");
+    redo();
+    EXPECT_FALSE(app.document.bModified);
+}
+
+TEST_F(Undo, LeavesWhatIsTypedAndShowsTheRecordThatCameBack) {
+    openRecords(false);
+    const auto field = [&](int index) -> std::string& { return objects.layoutField[index].Text; };
+    event([&] { press("Delete"); });
+    event([&] { press("New"); });
+    event([&] { entry::layoutField_Change(app, 2, "Eve"); });
+    undo();
+    EXPECT_EQ(field(2) + (entry::isSheetNew(app) ? " new " : " ") + cell(1, "Name"), "Eve new Ann");
+    event([&] { press("Last"); });
+    event([&] { entry::layoutField_Change(app, 2, "Zed"); });
+    event([&] { press("Update"); });
+    event([&] { press("First"); });
+    event([&] { entry::layoutField_Change(app, 2, "Anna"); });
+    undo();
+    EXPECT_EQ(field(2) + cell(5, "Name"), "AnnaBob");
+    openRecords(true);
+    event([&] { page(false); });
+    event([&] { press("Last"); });
+    event([&] { press("Delete"); });
+    undo();
+    EXPECT_EQ(field(2), "Bob");
+}
+
 } // namespace

@@ -42,6 +42,10 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
     connect(columns, &QWidget::customContextMenuRequested, this, &RecordsView::showHeaderMenu);
     connect(columns, &QHeaderView::sectionMoved, this,
             [this](int section, int, int newVisual) { columnMoved(section, newVisual); });
+    constexpr int sizedFor = 300; // milliseconds without another width: it is a step to undo
+    resized_.setSingleShot(true);
+    resized_.setInterval(sizedFor);
+    connect(&resized_, &QTimer::timeout, this, [this] { events_.run([] {}); });
     connect(columns, &QHeaderView::sectionResized, this,
             [this](int section, int, int newSize) { columnResized(section, newSize); });
 }
@@ -111,6 +115,7 @@ void RecordsView::columnResized(int section, int pixels) {
     // No refresh: this comes with every pixel of the drag, and the column is already as wide.
     list_.columns.at(RecordsModel::columnIndex(section)).Width =
         static_cast<float>(pixels) * twipsPerInch / static_cast<float>(logicalDpiX());
+    resized_.start();
 }
 
 void RecordsView::columnClicked(int section) {

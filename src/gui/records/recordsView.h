@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QMenu>
+#include <QTimer>
 #include <QTreeView>
 
 #include <optional>
@@ -79,6 +80,7 @@ private:
     int currentSection_ = 0; // the column that was clicked last
     QString typed_;          // the beginning of a row, letter by letter
     QElapsedTimer lastTyped_;
+    QTimer resized_; // runs while a column is being sized
 
     // The last sort by a click, as long as the rows stand as it left them.
     struct Sort {
