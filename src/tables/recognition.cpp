@@ -113,7 +113,7 @@ private:
         std::size_t order = static_cast<std::size_t>(hints.dates);
         if (!hints.bDatesTold) {
             const std::size_t most = std::ranges::max(dates_);
-            if (dates_[byYear] == most)
+            if (most > 0 && dates_[byYear] == most)
                 order = byYear;
             else if (dates_[byDay] != dates_[byMonth])
                 order = dates_[byDay] == most ? byDay : byMonth;
