@@ -23,6 +23,10 @@ bool canExportTable(const App& app) {
     return app.document.LV.columns.count() > 1;
 }
 
+bool isTableFile(const std::string& file) {
+    return tables::isTableFile(file);
+}
+
 void importDropped(App& app, const std::string& file) {
     tables::chooseTableToImport(app, file);
     runCommand(app, "mnuImportTable");
