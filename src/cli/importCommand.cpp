@@ -5,6 +5,7 @@
 #include "cli/invoiceEntry.h"
 #include "cli/output.h"
 #include "cli/session.h"
+#include "cli/sheetImport.h"
 #include "cli/tableFile.h"
 #include "core/text.h"
 #include "entry/editRecord.h"
@@ -42,12 +43,18 @@ constexpr const char* aboutImport =
     "With FILE the rows become new records, stored as add stores them: types in the header do not count, "
     "columns\n"
     "that the table leaves out take what a new record proposes, and calculated ones are calculated.\n"
+    "An option that says how the table is written has all the others recognised: the separator, the "
+    "encoding,\n"
+    "the order of dates, decimal marks and currency signs of each column. Cells that cannot be stored so "
+    "are\n"
+    "told, and nothing is stored; with --yes they are empty. TABLE.csv may be - for standard input.\n"
     "Prints how many records there are more.";
 
 struct ImportOptions {
     std::string file, table;
     double wait = usualWait;
     bool invoice = false, yes = false;
+    WrittenTable written;
 };
 
 // What needs the user's consent. Without it nothing is stored, so that nothing is lost unasked.
@@ -166,9 +173,12 @@ void askAboutImages(const ImportOptions& options, const CsvTable& table,
     }
 }
 
-// What would be typed into the box. A date sorts only with its leading zeros.
-std::string boxText(const Column& column, std::string_view cell) {
+// What would be typed into the box. A date sorts only with its leading zeros. An amount of a table that tells
+// its types is its value, and not the digits of a key pad, whose last two are cents.
+std::string boxText(const Column& column, std::string_view cell, bool isTyped) {
     if (column.isType(ColumnType::Text)) return std::string(cell);
+    if (isTyped && column.isType(ColumnType::Currency))
+        return exchange::storedCell({{}, ColumnType::Currency, true}, cell);
     if (column.isType(ColumnType::Date)) return exchange::storedCell({{}, ColumnType::Date, true}, cell);
     return std::string(core::trim(cell));
 }
@@ -181,13 +191,14 @@ std::vector<calc::Uncalculated> appendRecords(Session& session, const CsvTable& 
         if (column.Index != 1 && !column.isType(ColumnType::Calculation) &&
             !column.isType(ColumnType::Picture) && std::ranges::find(columns, &column) == columns.end())
             others.push_back(&column);
+    const bool isTyped = exchange::typedColumns(table).has_value();
     const auto fill = [&](int row, std::vector<entry::BoxText>& boxes) {
         if (row == 0) {
             for (const Column* column : columns) boxes.push_back({column->Text, {}});
             for (const Column* column : others) boxes.push_back({column->Text, {}});
         }
         for (std::size_t i = 0; i < columns.size(); ++i)
-            boxes[i].Text = boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i));
+            boxes[i].Text = boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i), isTyped);
         for (std::size_t i = 0; i < others.size(); ++i)
             boxes[columns.size() + i].Text = calc::proposedValue(app, others[i]->Text).value_or("");
     };
@@ -207,10 +218,12 @@ std::vector<calc::Uncalculated> appendInvoices(Session& session, const CsvTable&
         if (!parts.isUndefined()) calculated.insert(parts.name);
     }
     document.layout.layoutField.forEach([&](const core::LayoutField& field) { onLayout.insert(field.Tag); });
+    const bool isTyped = exchange::typedColumns(table).has_value();
     const auto fill = [&](int row) {
         std::vector<CellValue> values;
         for (std::size_t i = 0; i < columns.size(); ++i) {
-            const std::string text = boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i));
+            const std::string text =
+                boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i), isTyped);
             const bool isBlank = text.empty() && !onLayout.contains(columns[i]->Text);
             if (!isBlank && !calculated.contains(columns[i]->Text)) values.push_back({columns[i], text});
         }
@@ -246,6 +259,15 @@ void append(Session& session, const ImportOptions& options, const CsvTable& tabl
 }
 
 int run(const ImportOptions& options) {
+    if (options.written.isTold()) {
+        exchange::Sheet sheet = readTextSheet(options.table, options.written);
+        Session session(options.file, options.wait);
+        session.reserve();
+        const SheetImport import{options.file, options.table, options.invoice, options.yes};
+        const std::size_t records = importSheet(session, import, std::move(sheet), options.written);
+        writeOutcome(std::to_string(records) + "\n");
+        return done;
+    }
     const auto table = readTable(options.table);
     askAboutDividers(options, *table);
     Session session(options.file, options.wait);
@@ -268,6 +290,7 @@ Run setUpImport(CLI::App& command) {
     command.add_option("FILE", options->file, "The database, to make or to append to")->required();
     command.add_option("TABLE.csv", options->table, "The table")->required();
     command.add_flag("--invoice", options->invoice, "Make an invoice database");
+    addWrittenTableOptions(command, options->written);
     addYesFlag(command, options->yes,
                "Store cells with a \"|\", which divides them in the file, and images that FILE has not");
     addWaitOption(command, options->wait);

@@ -186,29 +186,16 @@ bool importFrm::isKnownTable() const {
     return std::ranges::all_of(named.sources(), [](const auto& source) { return source.target != nullptr; });
 }
 
-// By the names of the columns, as a paste finds them.
 void importFrm::findTargets() {
-    records_.reset();
-    whyLeftOut_.assign(table_->columns().size(), {});
-    if (!isAppending()) return;
-    const NewRecords named(app_, {table_->headingRow(), table_->headingRow()},
-                           table_->hasHeadings() ? Headings::Yes : Headings::No);
-    targets_ = named.targets();
-    for (std::size_t i = 0; i < named.sources().size(); ++i) {
-        table_->setTarget(i, named.sources()[i].target);
-        whyLeftOut_[i] = named.sources()[i].whyLeftOut;
-    }
+    targets_ = {{}, std::vector<std::string>(table_->columns().size())};
+    if (isAppending()) targets_ = tables::findTargets(app_, *table_);
     makeRecords();
 }
 
 // What is refused in the open database has to be asked of it.
 void importFrm::makeRecords() {
     records_.reset();
-    if (!isAppending()) return;
-    records_.emplace(app_, table_->rowsForTargets(), Headings::No);
-    for (std::size_t i = 0; i < records_->sources().size(); ++i) records_->setTarget(i, nullptr);
-    for (std::size_t i = 0; i < records_->sources().size(); ++i)
-        if (table_->columns()[i].target != nullptr) records_->setTarget(i, table_->columns()[i].target);
+    if (isAppending()) records_.emplace(newRecordsOf(app_, *table_));
 }
 
 void importFrm::showAll() {
@@ -234,7 +221,7 @@ void importFrm::showColumns() {
             shown.ReadAs = waysToRead(column.how.as).at(static_cast<std::size_t>(wayToRead(column.how.as)));
             shown.Note = noteOf(column.how);
         } else {
-            shown.Note = whyLeftOut_[i];
+            shown.Note = targets_.whyLeftOut[i];
         }
         List2.push_back(std::move(shown));
     }
@@ -247,8 +234,8 @@ void importFrm::showColumn() {
     Text1Visible = !isAppending();
     targetCbo.Visible = isAppending();
     targetCbo.entries = {"(leave out)"};
-    for (const core::Column* target : targets_) targetCbo.entries.push_back(target->Text);
-    targetCbo.ListIndex = placeIn(targets_, column.target) + 1;
+    for (const core::Column* target : targets_.choices) targetCbo.entries.push_back(target->Text);
+    targetCbo.ListIndex = placeIn(targets_.choices, column.target) + 1;
     typeCbo.entries.clear();
     // Pictures and calculations come from this program alone.
     const std::size_t offered = placeIn(types, as.type) > 3 ? types.size() : 4;
@@ -365,12 +352,12 @@ void importFrm::List2_ItemCheck(int column, bool checked) {
     } else {
         // The first column that no other one goes into.
         const auto& columns = table_->columns();
-        const auto free = std::ranges::find_if(targets_, [&](const core::Column* target) {
+        const auto free = std::ranges::find_if(targets_.choices, [&](const core::Column* target) {
             return std::ranges::none_of(columns, [&](const auto& taken) { return taken.target == target; });
         });
-        if (free != targets_.end()) table_->setTarget(place, *free);
+        if (free != targets_.choices.end()) table_->setTarget(place, *free);
     }
-    whyLeftOut_[place].clear();
+    targets_.whyLeftOut[place].clear();
     makeRecords();
     showAll();
 }
@@ -384,11 +371,12 @@ void importFrm::Text1_Change(const std::string& text) {
 
 void importFrm::targetCbo_Click(int entry) {
     const app::Hourglass hourglass(app_);
-    const core::Column* target = entry < 1 ? nullptr : targets_.at(static_cast<std::size_t>(entry) - 1);
+    const core::Column* target =
+        entry < 1 ? nullptr : targets_.choices.at(static_cast<std::size_t>(entry) - 1);
     for (std::size_t i = 0; i < table_->columns().size(); ++i)
         if (target != nullptr && table_->columns()[i].target == target) table_->setTarget(i, nullptr);
     table_->setTarget(column(), target);
-    whyLeftOut_[column()].clear();
+    targets_.whyLeftOut[column()].clear();
     makeRecords();
     showAll();
 }

@@ -2,7 +2,6 @@
 
 #include "exchange/delimited.h"
 #include "tables/importTable.h"
-#include "tables/newRecords.h"
 
 #include <optional>
 #include <string>
@@ -102,8 +101,7 @@ private:
     std::string bytes_; // of a text file, which may be decoded anew
     exchange::Delimiters delimiters_;
     std::optional<ImportTable> table_;
-    std::vector<const core::Column*> targets_;
-    std::vector<std::string> whyLeftOut_;
+    Targets targets_;                   // of the open database
     std::optional<NewRecords> records_; // for the open database
 };
 

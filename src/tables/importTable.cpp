@@ -234,28 +234,53 @@ exchange::TextRows ImportTable::rowsForTargets() const {
     return rows;
 }
 
-bool writeImported(app::App& app, const std::string& target, const ImportTable& table) {
-    core::Document document;
-    std::vector<std::size_t> imported;
-    for (std::size_t i = 0; i < table.columns().size(); ++i) {
-        const ImportTable::Column& column = table.columns()[i];
-        if (!column.bImport) continue;
-        calc::addColumn(document, exchange::columnName(column.name),
-                        std::to_string(static_cast<int>(column.how.as.type)));
-        imported.push_back(i);
+Targets findTargets(app::App& app, ImportTable& table) {
+    const NewRecords named(app, {table.headingRow(), table.headingRow()},
+                           table.hasHeadings() ? Headings::Yes : Headings::No);
+    Targets targets{named.targets(), {}};
+    for (std::size_t i = 0; i < named.sources().size(); ++i) {
+        table.setTarget(i, named.sources()[i].target);
+        targets.whyLeftOut.push_back(named.sources()[i].whyLeftOut);
     }
-    core::addTotalsRow(document.LV);
+    return targets;
+}
+
+NewRecords newRecordsOf(app::App& app, const ImportTable& table) {
+    NewRecords records(app, table.rowsForTargets(), Headings::No);
+    // Each target takes one column, so those that its place has given it go first.
+    for (std::size_t i = 0; i < records.sources().size(); ++i) records.setTarget(i, nullptr);
+    for (std::size_t i = 0; i < records.sources().size(); ++i)
+        if (table.columns()[i].target != nullptr) records.setTarget(i, table.columns()[i].target);
+    return records;
+}
+
+void addImportedColumns(core::Document& document, const ImportTable& table) {
+    for (const ImportTable::Column& column : table.columns())
+        if (column.bImport)
+            calc::addColumn(document, exchange::columnName(column.name),
+                            std::to_string(static_cast<int>(column.how.as.type)));
+}
+
+void addImportedRecords(app::App& app, core::Document& document, const ImportTable& table) {
+    std::vector<std::size_t> imported;
+    for (std::size_t i = 0; i < table.columns().size(); ++i)
+        if (table.columns()[i].bImport) imported.push_back(i);
     document.LV.reserve(table.count() + 1);
-    {
-        app::LongWork work(app, "Making the records", static_cast<int>(table.count()));
-        for (std::size_t record = 0; record < table.count(); ++record) {
-            work.reached(static_cast<int>(record));
-            core::Item& item = document.LV.add(document.nextKey());
-            for (std::size_t i = 0; i < imported.size(); ++i)
-                item.cells[i] = table.cell(record, imported[i]).text;
-        }
+    app::LongWork work(app, "Making the records", static_cast<int>(table.count()));
+    for (std::size_t record = 0; record < table.count(); ++record) {
+        work.reached(static_cast<int>(record));
+        core::Item& item = document.LV.add(document.nextKey());
+        for (std::size_t i = 0; i < imported.size(); ++i)
+            item.cells[i] = table.cell(record, imported[i]).text;
     }
     core::moveTotals(document.LV);
+}
+
+bool writeImported(app::App& app, const std::string& target, const ImportTable& table) {
+    core::Document document;
+    addImportedColumns(document, table);
+    core::addTotalsRow(document.LV);
+    addImportedRecords(app, document, table);
     const std::string bytes = file::encodeDataFile(file::writeDataFile(document, false));
     return storage::writeNewFile(app, target, [&] { storage::packAlone(app, target, bytes); });
 }

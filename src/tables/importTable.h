@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 #include "exchange/textRows.h"
+#include "tables/newRecords.h"
 #include "tables/recognition.h"
 
 #include <string>
@@ -85,9 +86,22 @@ private:
     std::vector<std::vector<RefusedCell>> refused_; // by column
 };
 
-// Writes a new database with the columns that are imported and all the records, refused cells empty. False
-// when the user keeps it from being written. Raises what writing it raises, and cancelled; there is no half
-// database then.
+// The columns of an open database that the table may go into.
+struct Targets {
+    std::vector<const core::Column*> choices;
+    std::vector<std::string> whyLeftOut; // by column of the table; empty where nothing has to be said
+};
+// Sets the targets of all columns by their headings, or without such by the places of the columns on screen.
+Targets findTargets(app::App& app, ImportTable& table);
+// The new records that the open database gets of it.
+NewRecords newRecordsOf(app::App& app, const ImportTable& table);
+
+// A new database: the columns that are imported, and behind the Totals row's making the records, refused
+// cells empty. Raises cancelled.
+void addImportedColumns(core::Document& document, const ImportTable& table);
+void addImportedRecords(app::App& app, core::Document& document, const ImportTable& table);
+// Both in a file of its own. False when the user keeps it from being written. Raises what writing it raises,
+// and cancelled; there is no half database then.
 [[nodiscard]] bool writeImported(app::App& app, const std::string& target, const ImportTable& table);
 
 } // namespace tables

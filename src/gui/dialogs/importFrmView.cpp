@@ -45,13 +45,13 @@ importFrmView::importFrmView(app::App& app, EventBoundary& events, QWidget* pare
 }
 
 void importFrmView::addChoice(QHBoxLayout& row, const char* name, const QString& caption,
-                              List importFrm::*member, ListEvent event) {
+                              List importFrm::*member, ListEvent chosen) {
     auto* label = new QLabel(caption);
     auto* box = named(name, new QComboBox);
     label->setBuddy(box);
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(box, &QComboBox::activated, this,
-            [this, event](int entry) { on([&] { (form_.*event)(entry); }); });
+            [this, chosen](int entry) { on([&] { (form_.*chosen)(entry); }); });
     row.addWidget(label);
     row.addWidget(box);
     choices_.push_back({member, label, box});

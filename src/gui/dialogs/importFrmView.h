@@ -40,7 +40,7 @@ private:
         QComboBox* box;
     };
     void addChoice(QHBoxLayout& row, const char* name, const QString& caption,
-                   List tables::importFrm::*member, ListEvent event);
+                   List tables::importFrm::*member, ListEvent chosen);
     QLayout* makeFile();
     QLayout* makeTarget();
     QLayout* makeColumns();
