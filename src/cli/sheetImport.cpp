@@ -8,7 +8,9 @@
 #include "tables/importTable.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <sys/stat.h>
 
 namespace cli {
@@ -42,6 +44,10 @@ void settle(const SheetImport& import, const std::vector<std::string>& questions
 
 void makeOf(Session& session, const SheetImport& import, const ImportTable& table) {
     if (const std::string why = table.whyNoDatabase(); !why.empty()) throw Failure(import.table, why);
+    if (import.invoice && std::ranges::any_of(table.columns(), [](const ImportTable::Column& column) {
+            return column.how.as.type == core::ColumnType::Picture;
+        }))
+        throw Failure(import.file, "an invoice database has no Picture columns");
     settle(import, refusedCells(table));
     app::App& app = session.app;
     app.document.bInvoiceStyle = import.invoice;

@@ -256,7 +256,7 @@ void importFrm::showRows() {
             if (table_->columns()[i].bImport) cell = table_->cell(row, i);
             Grid1[row].Refused.push_back(!cell.reason.empty());
             Grid1[row].Cells.push_back(cell.reason.empty() ? std::move(cell.text)
-                                                           : "(" + std::move(cell.reason) + ")");
+                                                           : std::string(table_->written(row, i)));
         }
     }
 }

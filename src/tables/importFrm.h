@@ -37,7 +37,7 @@ public:
     };
     struct Row {
         std::size_t Number = 0; // in the table, from 1
-        std::vector<std::string> Cells;
+        std::vector<std::string> Cells; // refused ones as they are in the table
         std::vector<bool> Refused;
     };
 

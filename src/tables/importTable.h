@@ -50,6 +50,9 @@ public:
     std::size_t count() const { return rows_.size() - (hasHeadings_ ? 1 : 0); } // of the records
     std::size_t rowNumber(std::size_t record) const { return rowOf(record).number; }
     CheckedCell cell(std::size_t record, std::size_t column) const;
+    std::string_view written(std::size_t record, std::size_t column) const { // as it is in the table
+        return sheetCell(record, column).text;
+    }
     // Of the columns that are imported.
     std::size_t refusedCount() const;
     std::vector<Refusal> refusals(std::size_t most) const; // row by row

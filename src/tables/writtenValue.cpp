@@ -123,7 +123,7 @@ CheckedCell dateCell(const SheetCell& cell, const ReadAs& as) {
 CheckedCell numberCell(const SheetCell& cell, const ReadAs& as, year_month_day today) {
     if (cell.kind == SheetCell::Kind::Number) return checkedCell(as.type, cell.text, today);
     const auto number = writtenNumber(cell.text, as.decimal);
-    if (!number) return unreadable("is no number that is written so");
+    if (!number) return unreadable("is no number in this form");
     if (as.type == ColumnType::Currency && number->places > 2)
         return unreadable("has more places than an amount of money");
     return checkedCell(as.type, number->digits, today);

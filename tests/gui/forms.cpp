@@ -1,5 +1,7 @@
 #include "session.h"
 
+#include <fstream>
+
 using platform::Answer;
 
 // What a user does in the forms, from an empty window to a searched database.
@@ -124,6 +126,19 @@ press Escape; press Ctrl+C; press Shift+Insert -> -Grid1 Check1=* Grid1.1=-|-|- 
 press Tab; press Down; press Tab 2; press End -> -List1 columnCbo0=2 columnCbo1 columnCbo2=3* List1.0=1|Price|-|is
     no number
 press Alt+L; press Return -> -pasteFrm LV.2=>0|-|$.00 LV.3=-|-|- LV=* SB1_1=3 records. SB1_5=Document Modified
+)");
+    }
+
+    void aTableImportedAndExported() {
+        Session run(database("table.fwk", DataFile("No:4 Name Price:2", "1|Bolt|$1.00")));
+        std::ofstream("people.csv") << "Name;Day;Pay\nAnn;31.12.2024;1.234,50\nBob;1.2.2024;x\n";
+        run.play(R"(
+file people.csv; click mnuImportTable -> x
+press Alt+C; press Down 2; press Space; press Up 2; press Alt+N; type 2 -> x
+press Alt+O; press Alt+W -> x
+file made.fwk; press Alt+I -> x
+click mnuExportTable; press Alt+N -> x
+press Escape -> x
 )");
     }
 

@@ -127,7 +127,7 @@ TEST_F(Importing, ANewDatabaseIsMadeWholeOrNotAtAll) {
     form.List2_Click(2);
     form.typeCbo_Click(2); // Currency
     EXPECT_EQ(form.Grid1[0].Cells[2], "$1,234.50");
-    EXPECT_EQ(form.List1.back().Reason, "is no number that is written so");
+    EXPECT_EQ(form.List1.back().Reason, "is no number in this form");
     form.Text1_Change("name");
     EXPECT_NE(form.Label2.find("\"name\" is there twice"), std::string::npos);
     form.Text1_Change("Cost");

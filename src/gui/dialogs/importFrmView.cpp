@@ -36,12 +36,16 @@ importFrmView::importFrmView(app::App& app, EventBoundary& events, QWidget* pare
     column->addLayout(makeTarget());
     column->addLayout(makeColumns(), 3);
     column->addLayout(makeRows(), 3);
-    column->addLayout(makeRefused(), 2);
+    column->addLayout(makeRefused(), 3);
     OKButton_ = makeButton("OKButton", tr("&Import"), [this] { form_.OKButton_Click(); });
     OKButton_->setDefault(true);
     column->addLayout(makeBottomRow(
         OKButton_, makeButton("CancelButton", tr("Cancel"), [this] { form_.CancelButton_Click(); })));
-    resize(em() * 46, em() * 40);
+    // The stretches decide, and not what each of them would like to have.
+    for (QWidget* list :
+         {static_cast<QWidget*>(List2_), static_cast<QWidget*>(Grid1_), static_cast<QWidget*>(List1_)})
+        list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    resize(em() * 46, em() * 43);
 }
 
 void importFrmView::addChoice(QHBoxLayout& row, const char* name, const QString& caption,
@@ -199,9 +203,10 @@ void importFrmView::showRows() {
             auto* item = new QTableWidgetItem(inOneLine(shown.Cells[place]));
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             if (shown.Refused[place]) {
-                QFont slanted = Grid1_->font();
-                slanted.setItalic(true);
-                item->setFont(slanted);
+                QFont struck = Grid1_->font();
+                struck.setStrikeOut(true);
+                item->setFont(struck);
+                item->setToolTip(tr("This cell cannot be stored"));
             }
             Grid1_->setItem(row, column, item);
         }
