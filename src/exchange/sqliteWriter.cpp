@@ -35,7 +35,7 @@ void run(sqlite3& database, const std::string& command) {
         refuseDatabase(database);
 }
 
-void bind(sqlite3_stmt* row, int place, const OutCell& cell, std::string_view text) {
+void bindCell(sqlite3_stmt* row, int place, const OutCell& cell, std::string_view text) {
     using What = OutCell::What;
     if (cell.what == What::Number || cell.what == What::Money)
         sqlite3_bind_double(row, place, cell.value);
@@ -57,7 +57,7 @@ void insertRows(sqlite3& database, const OutTable& table, const std::string& nam
         for (std::size_t i = 0; i < table.columns.size(); ++i) {
             const OutCell cell = outCell(table.columns[i].type, cellIn(table, row, i));
             const std::string text = cell.what == OutCell::What::Date ? cell.iso : cellIn(table, row, i);
-            bind(insert.get(), static_cast<int>(i) + 1, cell, text);
+            bindCell(insert.get(), static_cast<int>(i) + 1, cell, text);
         }
         if (sqlite3_step(insert.get()) != SQLITE_DONE) refuseDatabase(database);
         sqlite3_reset(insert.get());
