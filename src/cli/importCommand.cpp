@@ -2,6 +2,7 @@
 #include "calc/formulas.h"
 #include "calc/serialNumbers.h"
 #include "cli/command.h"
+#include "cli/formatOption.h"
 #include "cli/invoiceEntry.h"
 #include "cli/output.h"
 #include "cli/session.h"
@@ -48,6 +49,10 @@ constexpr const char* aboutImport =
     "the order of dates, decimal marks and currency signs of each column. Cells that cannot be stored so "
     "are\n"
     "told, and nothing is stored; with --yes they are empty. TABLE.csv may be - for standard input.\n"
+    "The table may also be .xlsx, .ods, .json, .sqlite, .html or .vcf, by its ending or --format; hidden "
+    "rows "
+    "and\n"
+    "columns are left out. --sheet tells which sheet, otherwise it is the first one.\n"
     "Prints how many records there are more.";
 
 struct ImportOptions {
@@ -55,6 +60,7 @@ struct ImportOptions {
     double wait = usualWait;
     bool invoice = false, yes = false;
     WrittenTable written;
+    std::string format, sheet;
 };
 
 // What needs the user's consent. Without it nothing is stored, so that nothing is lost unasked.
@@ -258,13 +264,28 @@ void append(Session& session, const ImportOptions& options, const CsvTable& tabl
     tellRows(options.file, rows);
 }
 
+// What is read cell by cell; nothing for a table of comma-separated values.
+std::optional<exchange::Sheet> sheetOf(const ImportOptions& options) {
+    const auto format =
+        options.format.empty() ? exchange::formatOf(options.table) : formatNamed(options.format);
+    const bool isText = !format || *format == exchange::Format::Csv || *format == exchange::Format::Tsv;
+    if (isText && !options.sheet.empty()) throw Failure(options.table, "it has no sheets");
+    if (isText && !options.written.isTold()) return std::nullopt;
+    if (isText) return readTextSheet(options.table, options.written);
+    try {
+        const std::size_t place = sheetNamed(options.table, *format, options.sheet);
+        return exchange::readSheet(options.table, *format, place);
+    } catch (const core::RunTimeError& error) {
+        throw Failure(options.table, error.what());
+    }
+}
+
 int run(const ImportOptions& options) {
-    if (options.written.isTold()) {
-        exchange::Sheet sheet = readTextSheet(options.table, options.written);
+    if (std::optional<exchange::Sheet> sheet = sheetOf(options)) {
         Session session(options.file, options.wait);
         session.reserve();
         const SheetImport import{options.file, options.table, options.invoice, options.yes};
-        const std::size_t records = importSheet(session, import, std::move(sheet), options.written);
+        const std::size_t records = importSheet(session, import, *std::move(sheet), options.written);
         writeOutcome(std::to_string(records) + "\n");
         return done;
     }
@@ -291,6 +312,9 @@ Run setUpImport(CLI::App& command) {
     command.add_option("TABLE.csv", options->table, "The table")->required();
     command.add_flag("--invoice", options->invoice, "Make an invoice database");
     addWrittenTableOptions(command, options->written);
+    addFormatOption(command, options->format);
+    command.add_option("--sheet", options->sheet, "The sheet, or table of a database, by number or name")
+        ->type_name("N|NAME");
     addYesFlag(command, options->yes,
                "Store cells with a \"|\", which divides them in the file, and images that FILE has not");
     addWaitOption(command, options->wait);

@@ -36,6 +36,8 @@ std::optional<Format> formatOf(std::string_view fileName); // by its ending
 // Names of what can be picked; one entry for formats that have one table.
 std::vector<std::string> sheetNames(const std::filesystem::path& file, Format format);
 
+// Rows and columns that are hidden in a spreadsheet, and hidden sheets of an .xlsx, are left out; of merged
+// cells the first one has the value. A formula is its last value. SQLite is read as the file stands.
 // Raises core::RunTimeError (badFileFormat with the reason, fileNotFound, pathAccess ...). `progress`
 // answers false to give up (raises cancelled).
 Sheet readSheet(const std::filesystem::path& file, Format format, std::size_t sheet,
@@ -61,8 +63,15 @@ struct OutTable {
     bool bLastIsTotals = false;
 };
 
-// The file is replaced in one step or not at all.
+// The formats that are texts, and such a text.
+bool isTextFormat(Format format);
+std::string sheetText(Format format, const OutTable& table,
+                      const std::function<bool(int percent)>& progress = {});
+
+// The file is replaced in one step or not at all. Of vCards the columns that a card has no place for are
+// left out. A new file takes the permissions of `like`, where one is told.
 void writeSheet(const std::filesystem::path& file, Format format, const OutTable& table,
-                const std::function<bool(int percent)>& progress = {});
+                const std::function<bool(int percent)>& progress = {},
+                const std::filesystem::path& like = {});
 
 } // namespace exchange
