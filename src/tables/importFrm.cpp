@@ -33,15 +33,14 @@ struct ImportRequest {
     std::string file; // empty: the user is asked
 };
 
-bool isTextFormat(exchange::Format format) {
+bool isDelimited(exchange::Format format) {
     return format == exchange::Format::Csv || format == exchange::Format::Tsv;
 }
 
 std::optional<exchange::Format> tableFormat(std::string_view fileName) {
     if (core::equalsNoCase(std::filesystem::path(fileName).extension().string(), ".txt"))
         return exchange::Format::Csv;
-    const auto format = exchange::formatOf(fileName);
-    return format == exchange::Format::Html ? std::nullopt : format; // which goes out only
+    return exchange::formatOf(fileName);
 }
 
 template <typename Values, typename Value>
@@ -91,7 +90,7 @@ void mnuImportTable_Click(app::App& app) {
     if (file.empty()) {
         const auto chosen = app.platform.showOpen(
             {"Import", "",
-             "Tables (*.csv)|*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.json;*.sqlite;*.sqlite3;*.db;*.vcf|"
+             "Tables (*.csv)|*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.json;*.sqlite;*.sqlite3;*.db;*.html;*.vcf|"
              "All Files (*.*)|*.*"});
         if (!chosen) return;
         file = *chosen;
@@ -126,7 +125,7 @@ void importFrm::readFile() {
     const auto format = tableFormat(file_);
     if (!format) core::raise(core::errors::badFileFormat, "the program knows no table of this kind");
     format_ = *format;
-    isText_ = isTextFormat(format_);
+    isText_ = isDelimited(format_);
     encodingCbo.Visible = separatorCbo.Visible = quoteCbo.Visible = isText_;
     if (isText_) {
         auto bytes = file::readSmallFile(file_, mostTableBytes);
