@@ -36,25 +36,25 @@ public:
         std::string Row, Column, Value, Reason;
     };
     struct Row {
-        std::size_t Number = 0; // in the table, from 1
+        std::size_t Number = 0;         // in the table, from 1
         std::vector<std::string> Cells; // refused ones as they are in the table
         std::vector<bool> Refused;
     };
 
     std::string Label1; // the file and how many records it makes
     List sheetCbo, encodingCbo, separatorCbo, quoteCbo;
-    bool Check1 = false;      // the first row has the names of the columns
-    int Opt1 = 0;             // 0: a new database, 1: the open one
-    bool Opt1Enabled = false; // there is an open one that takes records
     std::vector<Column> List2;
-    int List2Index = 0; // the column that the next four are of
-    std::string Text1;  // its name in a new database
-    bool Text1Visible = true;
-    List targetCbo; // its column of the open one
-    List typeCbo, readAsCbo;
-    std::vector<Row> Grid1; // the first rows, as they would be stored
-    std::string Label2;     // what is open, refused or too much; empty when nothing is
+    std::string Text1;       // the name of the chosen column in a new database
+    List targetCbo;          // its column of the open one
+    List typeCbo, readAsCbo; // of it, too
+    std::vector<Row> Grid1;  // the first rows, as they would be stored
+    std::string Label2;      // what is open, refused or too much; empty when nothing is
     std::vector<Refused> List1;
+    int Opt1 = 0;             // 0: a new database, 1: the open one
+    int List2Index = 0;       // the chosen column
+    bool Check1 = false;      // the first row has the names of the columns
+    bool Opt1Enabled = false; // there is an open one that takes records
+    bool Text1Visible = true;
     bool Command1Visible = false; // keep the columns with refused cells as texts
     bool Check2 = false;          // leave the refused cells empty
     bool Check2Visible = false, okEnabled = false;
@@ -94,15 +94,15 @@ private:
     std::size_t column() const { return static_cast<std::size_t>(List2Index); }
     bool isAppending() const { return Opt1 == 1; }
 
+    bool isText_ = false;
+    exchange::Delimiters delimiters_;
+    exchange::Format format_ = exchange::Format::Csv;
     app::App& app_;
     std::string file_;
-    exchange::Format format_ = exchange::Format::Csv;
-    bool isText_ = false;
     std::string bytes_; // of a text file, which may be decoded anew
-    exchange::Delimiters delimiters_;
     std::optional<ImportTable> table_;
     Targets targets_;                   // of the open database
-    std::optional<NewRecords> records_; // for the open database
+    std::optional<NewRecords> records_; // for it
 };
 
 } // namespace tables
