@@ -202,6 +202,29 @@ keys alt+t Up Up Return
 window '^Choose Columns To Total$'
 shot totals
 
+cat >customers.csv <<'END'
+Name;Since;Turnover;Orders;Post code
+Anna Berg;31.12.2019;1.234,50 €;12;04335
+Carl Dorn;1.2.2021;87,00 €;3;80618
+Eva Frost;15.6.2022;12.600,25 €;41;59915
+Gerd Horn;30.9.2023;-20,00 €;2;30057
+Ida Jung;3.4.2024;410,10 €;7;61241
+Karl Lind;11.11.2020;55,90 €;1;10115
+Mia Nolte;24.5.2021;2.010,00 €;9;20095
+Otto Pohl;8.8.2022;640,75 €;5;50667
+Rosa Stein;19.1.2023;75,00 €;many;70173
+Uwe Vogt;2.2.2024;320,00 €;4;01067
+END
+open
+keys alt+f i
+window '^Import$'
+write "$PWD/customers.csv"
+keys Return
+window '^Import$'
+shot import
+keys Escape
+back
+
 open addresses.fwk
 press PrintMenu
 keys Up Up Return

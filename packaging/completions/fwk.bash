@@ -52,7 +52,7 @@ _fwk() {
     for ((i = 1; i < COMP_CWORD; ++i)); do
         word=${COMP_WORDS[i]}
         case $word in
-        -o | --output | --columns | --by | --expression | --column | --title | --records | --where | --wait) option=$word taken=0 ;;
+        -o | --output | --columns | --by | --expression | --column | --title | --records | --where | --wait | --dates | --decimal | --encoding | --separator) option=$word taken=0 ;;
         -*) option="" ;;
         *)
             if [[ -n $option ]]; then
@@ -98,6 +98,8 @@ _fwk() {
         ;;
     --column:* | --where:0) _fwk_offer < <(_fwk_columns "$file"); return ;;
     --where:1) _fwk_offer < <(printf '%s\n' ge le is within range); return ;;
+    --dates:*) _fwk_offer < <(printf '%s\n' dmy mdy ymd); return ;;
+    --encoding:*) _fwk_offer < <(printf '%s\n' utf-8 utf-16le utf-16be windows-1252); return ;;
     -*) return ;;
     esac
 

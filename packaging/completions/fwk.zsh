@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--wait) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--wait|--dates|--decimal|--encoding|--separator) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -65,6 +65,8 @@ _fwk() {
     (--columns:*|--by:*) compset -P '*,'; _fwk_columns -S ''; return ;;
     (--column:*|--where:0) _fwk_columns; return ;;
     (--where:1) compadd ge le is within range; return ;;
+    (--dates:*) compadd dmy mdy ymd; return ;;
+    (--encoding:*) compadd utf-8 utf-16le utf-16be windows-1252; return ;;
     (-*) return ;;
     esac
     case $command${sub:+-$sub}:$count in

@@ -33,6 +33,13 @@ ColumnArgument::ColumnArgument(const std::string& argument)
     : name(argument.substr(0, argument.rfind(':'))),
       typeOpt(typeOptOf(argument.substr(argument.rfind(':') + 1))) {}
 
+std::vector<std::string> namesIn(const std::string& list) {
+    std::vector<std::string> names;
+    if (!list.empty())
+        for (const std::string_view name : core::split(list, ',')) names.emplace_back(name);
+    return names;
+}
+
 void expectColumns(CLI::Option& option) {
     option.check(whatIsWrong);
     option.option_text("NAME:TYPE");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace CLI {
 class Option;
@@ -15,6 +16,9 @@ struct ColumnArgument {
     std::string name;
     int typeOpt; // the option button of Database Properties; -1 for a type that does not exist
 };
+
+// The names of a list, "A,B".
+std::vector<std::string> namesIn(const std::string& list);
 
 // Has the command line refused when an argument is no NAME:TYPE.
 void expectColumns(CLI::Option& option);

@@ -1,8 +1,10 @@
+#include "calc/formulas.h"
+#include "cli/columnArgument.h"
 #include "cli/command.h"
+#include "cli/formatOption.h"
 #include "cli/infoJson.h"
 #include "cli/output.h"
 #include "cli/session.h"
-#include "core/text.h"
 #include "exchange/columnTypes.h"
 #include "exchange/csvWriter.h"
 #include "file/atomicFile.h"
@@ -17,6 +19,7 @@ namespace {
 using core::Column;
 using core::Item;
 using core::RecordsList;
+using exchange::Format;
 using Columns = std::vector<const Column*>;
 
 constexpr const char* aboutExport =
@@ -24,14 +27,25 @@ constexpr const char* aboutExport =
     "reads it back with all cells to the letter. OUT.json is\n"
     "  {\"style\": \"standard\", \"columns\": [{\"name\": \"Price\", \"type\": \"Currency\"}],\n"
     "   \"records\": [[\"$1.50\"]]}\n"
-    "The Totals row, expressions, the layout and images stay behind; save-as copies all of it.";
+    "The Totals row, expressions, the layout and images stay behind; save-as copies all of it.\n"
+    "OUT.tsv is the same with tabs. In OUT.xlsx and OUT.ods dates, numbers and money are typed cells under "
+    "a\n"
+    "heading row that stays in sight, and calculated columns are formulas where a spreadsheet counts alike\n"
+    "(--values: always their values). OUT.sqlite has one table. OUT.vcf has a card a record, of the columns\n"
+    "that it has a place for (Name, Last_Name, First_Name, Company, Phone, Mobile, Email, Street, City ...).";
 
 struct ExportOptions {
-    std::string file, output;
+    std::string file, output, format, columns;
+    bool totals = false, values = false;
 };
 
-bool hasSuffix(const std::string& file, std::string_view suffix) {
-    return core::equalsNoCase(std::filesystem::path(file).extension().string(), suffix);
+constexpr const char* standardOutput = "-";
+
+Format formatOf(const ExportOptions& options) {
+    if (!options.format.empty()) return *formatNamed(options.format);
+    if (const auto format = exchange::formatOf(options.output)) return *format;
+    throw Failure(options.output,
+                  "a table is a .csv or a .json file, or a .tsv, .xlsx, .ods, .sqlite, .html or .vcf one");
 }
 
 std::string tableAsCsv(const RecordsList& list, const Columns& columns) {
@@ -82,17 +96,62 @@ void write(const std::string& file, std::string_view text, const std::string& da
     }
 }
 
+std::string expressionOf(const core::Document& document, const Column& column) {
+    for (const auto& entry : document.formulas)
+        if (const calc::Formula formula(entry.item); formula.name == column.Text && !formula.isUndefined())
+            return std::string(formula.expression);
+    return {};
+}
+
+exchange::OutTable tableOf(const ExportOptions& options, core::Document& document, const Columns& columns) {
+    exchange::OutTable table;
+    table.title = std::filesystem::path(options.file).stem().string();
+    for (const Column* column : columns)
+        table.columns.push_back({column->Text, column->type(), column->Width,
+                                 options.values ? std::string() : expressionOf(document, *column)});
+    const auto add = [&](const Item& item) {
+        std::vector<std::string>& row = table.rows.emplace_back();
+        row.reserve(columns.size());
+        for (const Column* column : columns) row.emplace_back(RecordsList::cell(item, *column).view());
+    };
+    document.LV.forEach([&](const Item& item) {
+        if (!item.isTotals()) add(item);
+    });
+    table.bLastIsTotals = options.totals && document.LV.totals() != nullptr;
+    if (table.bLastIsTotals) add(*document.LV.totals());
+    return table;
+}
+
 int run(const ExportOptions& options) {
-    const bool asJson = hasSuffix(options.output, ".json");
-    if (!asJson && !hasSuffix(options.output, ".csv"))
-        throw Failure(options.output, "a table is a .csv or a .json file");
+    const Format format = formatOf(options);
+    const bool toStandardOutput = options.output == standardOutput;
+    if (toStandardOutput && !exchange::isTextFormat(format))
+        throw Failure(options.output, "this kind of table is no text; it needs a file");
     Session session(options.file);
     session.open();
-    session.refuseAsOutput(options.output);
-    const core::Document& document = session.app.document;
-    const Columns columns = session.columns({});
-    write(options.output, asJson ? tableAsJson(document, columns) : tableAsCsv(document.LV, columns),
-          options.file);
+    if (!toStandardOutput) session.refuseAsOutput(options.output);
+    core::Document& document = session.app.document;
+    const Columns columns = session.columns(namesIn(options.columns));
+    std::string text;
+    if (format == Format::Json && !options.totals) {
+        text = tableAsJson(document, columns);
+    } else if (format == Format::Csv && !options.totals) {
+        text = tableAsCsv(document.LV, columns);
+    } else {
+        const exchange::OutTable table = tableOf(options, document, columns);
+        try {
+            if (exchange::isTextFormat(format))
+                text = exchange::sheetText(format, table);
+            else
+                exchange::writeSheet(options.output, format, table, {}, options.file);
+        } catch (const core::RunTimeError& error) {
+            throw Failure(options.output, std::string("could not be written: ") + error.what());
+        }
+    }
+    if (toStandardOutput)
+        writeOut(text);
+    else if (exchange::isTextFormat(format))
+        write(options.output, text, options.file);
     return done;
 }
 
@@ -101,9 +160,15 @@ int run(const ExportOptions& options) {
 Run setUpExport(CLI::App& command) {
     const auto options = std::make_shared<ExportOptions>();
     addFileArgument(command, options->file);
-    command.add_option("-o,--output", options->output, "The table, which is overwritten")
+    command
+        .add_option("-o,--output", options->output,
+                    "The table, which is overwritten; its ending tells its kind; - for standard output")
         ->required()
-        ->type_name("OUT.csv|OUT.json");
+        ->type_name("OUT.csv|OUT.json|...");
+    addFormatOption(command, options->format);
+    command.add_option("--columns", options->columns, "These columns alone, in this order")->type_name("A,B");
+    command.add_flag("--totals", options->totals, "With the Totals row");
+    command.add_flag("--values", options->values, "Calculated columns as values, not as formulas");
     command.footer(aboutExport);
     return [options] { return run(*options); };
 }

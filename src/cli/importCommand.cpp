@@ -2,9 +2,11 @@
 #include "calc/formulas.h"
 #include "calc/serialNumbers.h"
 #include "cli/command.h"
+#include "cli/formatOption.h"
 #include "cli/invoiceEntry.h"
 #include "cli/output.h"
 #include "cli/session.h"
+#include "cli/sheetImport.h"
 #include "cli/tableFile.h"
 #include "core/text.h"
 #include "entry/editRecord.h"
@@ -42,12 +44,23 @@ constexpr const char* aboutImport =
     "With FILE the rows become new records, stored as add stores them: types in the header do not count, "
     "columns\n"
     "that the table leaves out take what a new record proposes, and calculated ones are calculated.\n"
+    "An option that says how the table is written has all the others recognised: the separator, the "
+    "encoding,\n"
+    "the order of dates, decimal marks and currency signs of each column. Cells that cannot be stored so "
+    "are\n"
+    "told, and nothing is stored; with --yes they are empty. TABLE.csv may be - for standard input.\n"
+    "The table may also be .xlsx, .ods, .json, .sqlite, .html or .vcf, by its ending or --format; hidden "
+    "rows "
+    "and\n"
+    "columns are left out. --sheet tells which sheet, otherwise it is the first one.\n"
     "Prints how many records there are more.";
 
 struct ImportOptions {
     std::string file, table;
     double wait = usualWait;
     bool invoice = false, yes = false;
+    WrittenTable written;
+    std::string format, sheet;
 };
 
 // What needs the user's consent. Without it nothing is stored, so that nothing is lost unasked.
@@ -166,9 +179,12 @@ void askAboutImages(const ImportOptions& options, const CsvTable& table,
     }
 }
 
-// What would be typed into the box. A date sorts only with its leading zeros.
-std::string boxText(const Column& column, std::string_view cell) {
+// What would be typed into the box. A date sorts only with its leading zeros. An amount of a table that tells
+// its types is its value, and not the digits of a key pad, whose last two are cents.
+std::string boxText(const Column& column, std::string_view cell, bool isTyped) {
     if (column.isType(ColumnType::Text)) return std::string(cell);
+    if (isTyped && column.isType(ColumnType::Currency))
+        return exchange::storedCell({{}, ColumnType::Currency, true}, cell);
     if (column.isType(ColumnType::Date)) return exchange::storedCell({{}, ColumnType::Date, true}, cell);
     return std::string(core::trim(cell));
 }
@@ -181,13 +197,14 @@ std::vector<calc::Uncalculated> appendRecords(Session& session, const CsvTable& 
         if (column.Index != 1 && !column.isType(ColumnType::Calculation) &&
             !column.isType(ColumnType::Picture) && std::ranges::find(columns, &column) == columns.end())
             others.push_back(&column);
+    const bool isTyped = exchange::typedColumns(table).has_value();
     const auto fill = [&](int row, std::vector<entry::BoxText>& boxes) {
         if (row == 0) {
             for (const Column* column : columns) boxes.push_back({column->Text, {}});
             for (const Column* column : others) boxes.push_back({column->Text, {}});
         }
         for (std::size_t i = 0; i < columns.size(); ++i)
-            boxes[i].Text = boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i));
+            boxes[i].Text = boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i), isTyped);
         for (std::size_t i = 0; i < others.size(); ++i)
             boxes[columns.size() + i].Text = calc::proposedValue(app, others[i]->Text).value_or("");
     };
@@ -207,10 +224,12 @@ std::vector<calc::Uncalculated> appendInvoices(Session& session, const CsvTable&
         if (!parts.isUndefined()) calculated.insert(parts.name);
     }
     document.layout.layoutField.forEach([&](const core::LayoutField& field) { onLayout.insert(field.Tag); });
+    const bool isTyped = exchange::typedColumns(table).has_value();
     const auto fill = [&](int row) {
         std::vector<CellValue> values;
         for (std::size_t i = 0; i < columns.size(); ++i) {
-            const std::string text = boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i));
+            const std::string text =
+                boxText(*columns[i], table.cell(static_cast<std::size_t>(row), i), isTyped);
             const bool isBlank = text.empty() && !onLayout.contains(columns[i]->Text);
             if (!isBlank && !calculated.contains(columns[i]->Text)) values.push_back({columns[i], text});
         }
@@ -245,7 +264,31 @@ void append(Session& session, const ImportOptions& options, const CsvTable& tabl
     tellRows(options.file, rows);
 }
 
+// What is read cell by cell; nothing for a table of comma-separated values.
+std::optional<exchange::Sheet> sheetOf(const ImportOptions& options) {
+    const auto format =
+        options.format.empty() ? exchange::formatOf(options.table) : formatNamed(options.format);
+    const bool isText = !format || *format == exchange::Format::Csv || *format == exchange::Format::Tsv;
+    if (isText && !options.sheet.empty()) throw Failure(options.table, "it has no sheets");
+    if (isText && !options.written.isTold()) return std::nullopt;
+    if (isText) return readTextSheet(options.table, options.written);
+    try {
+        const std::size_t place = sheetNamed(options.table, *format, options.sheet);
+        return exchange::readSheet(options.table, *format, place);
+    } catch (const core::RunTimeError& error) {
+        throw Failure(options.table, error.what());
+    }
+}
+
 int run(const ImportOptions& options) {
+    if (std::optional<exchange::Sheet> sheet = sheetOf(options)) {
+        Session session(options.file, options.wait);
+        session.reserve();
+        const SheetImport import{options.file, options.table, options.invoice, options.yes};
+        const std::size_t records = importSheet(session, import, *std::move(sheet), options.written);
+        writeOutcome(std::to_string(records) + "\n");
+        return done;
+    }
     const auto table = readTable(options.table);
     askAboutDividers(options, *table);
     Session session(options.file, options.wait);
@@ -268,6 +311,10 @@ Run setUpImport(CLI::App& command) {
     command.add_option("FILE", options->file, "The database, to make or to append to")->required();
     command.add_option("TABLE.csv", options->table, "The table")->required();
     command.add_flag("--invoice", options->invoice, "Make an invoice database");
+    addWrittenTableOptions(command, options->written);
+    addFormatOption(command, options->format);
+    command.add_option("--sheet", options->sheet, "The sheet, or table of a database, by number or name")
+        ->type_name("N|NAME");
     addYesFlag(command, options->yes,
                "Store cells with a \"|\", which divides them in the file, and images that FILE has not");
     addWaitOption(command, options->wait);

@@ -38,25 +38,6 @@ void writeOutcome(std::string_view text) {
     }
 }
 
-void appendJsonText(std::string& out, std::string_view text) {
-    constexpr const char* hex = "0123456789abcdef";
-    out.push_back('"');
-    std::size_t plain = 0; // where the run that needs no escape begins
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        if (!isControl(c) && c != '"' && c != '\\') continue;
-        out.append(text.substr(plain, i - plain));
-        plain = i + 1;
-        if (c == '"' || c == '\\') {
-            out.append({'\\', c});
-        } else {
-            out.append("\\u00");
-            out.append({hex[static_cast<unsigned char>(c) >> 4U], hex[static_cast<unsigned char>(c) & 15U]});
-        }
-    }
-    out.append(text.substr(plain)).push_back('"');
-}
-
 std::string printable(std::string_view text) {
     std::string line(text);
     for (std::size_t i = 0; i < line.size(); ++i) {

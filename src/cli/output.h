@@ -1,5 +1,7 @@
 #pragma once
 
+#include "exchange/jsonText.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,9 +16,7 @@ void writeOut(std::string_view text);
 // not.
 void writeOutcome(std::string_view text);
 
-// The text in quotes, as JSON has it. The library for JSON makes a list of 32,000 records take twice the
-// time.
-void appendJsonText(std::string& out, std::string_view text);
+using exchange::appendJsonText;
 // One line for people: whatever would break it or drive the terminal becomes a blank.
 std::string printable(std::string_view text);
 

@@ -1,3 +1,4 @@
+#include "cli/columnArgument.h"
 #include "cli/command.h"
 #include "cli/recordsOutput.h"
 #include "cli/session.h"
@@ -14,13 +15,6 @@ struct ListOptions {
     bool json = false, csv = false;
     std::string columns; // "A,B"; empty: all
 };
-
-std::vector<std::string> namesIn(const std::string& list) {
-    std::vector<std::string> names;
-    if (!list.empty())
-        for (const std::string_view name : core::split(list, ',')) names.emplace_back(name);
-    return names;
-}
 
 int run(const ListOptions& options) {
     Session session(options.file);

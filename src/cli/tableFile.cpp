@@ -31,11 +31,16 @@ std::string bytesOf(const std::string& file, int handle) {
 
 } // namespace
 
+std::string readBytes(const std::string& file) {
+    if (file == "-") return standardInput();
+    const file::FileHandle handle(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!handle.isOpen()) throw Failure(file, std::strerror(errno));
+    return bytesOf(file, handle.get());
+}
+
 std::unique_ptr<exchange::CsvTable> readTable(const std::string& file) {
     try {
-        const file::FileHandle handle(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
-        if (!handle.isOpen()) throw Failure(file, std::strerror(errno));
-        return std::make_unique<exchange::CsvTable>(bytesOf(file, handle.get()));
+        return std::make_unique<exchange::CsvTable>(readBytes(file));
     } catch (const exchange::TableError& error) {
         throw Failure(file, error.what());
     }

@@ -267,9 +267,13 @@ void Zip::AddFile(const fs::path& file, std::string_view comment) {
 }
 
 void Zip::addBuffer(const std::string& name, std::string_view bytes, std::string_view comment) {
-    Archive& target = open();
     if (!isSafeEntryName(name)) core::raise(core::errors::badFileName, name);
-    if (target.hasUnchanged(name, bytes, comment)) return;
+    if (open().hasUnchanged(name, bytes, comment)) return;
+    putBytes(name, bytes, comment);
+}
+
+void Zip::putBytes(const std::string& name, std::string_view bytes, std::string_view comment) {
+    Archive& target = open();
     // Larger than the counters of the packing take, or so small that packing needs no help.
     if (bytes.size() >= smallestDeflated && bytes.size() <= maxFileBytes) {
         target.put(name, makeDeflatedSource(target.zip, bytes, largeTextLevel), comment);
@@ -281,6 +285,15 @@ void Zip::addBuffer(const std::string& name, std::string_view bytes, std::string
     zip_source_t* source = zip_source_buffer(target.zip, copy, bytes.size(), copy ? 1 : 0);
     if (!source) std::free(copy);
     target.put(name, source, comment);
+}
+
+void Zip::addPart(const std::string& name, std::string_view bytes, bool bUnpacked) {
+    putBytes(name, bytes, {});
+    Archive& target = open();
+    const zip_int64_t place = zip_name_locate(target.zip, name.c_str(), 0);
+    if (bUnpacked && (place < 0 || zip_set_file_compression(target.zip, static_cast<zip_uint64_t>(place),
+                                                            ZIP_CM_STORE, 0) != 0))
+        target.failPut(name);
 }
 
 void Zip::DeleteFile(const std::string& name) {

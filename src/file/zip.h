@@ -59,6 +59,9 @@ public:
     void AddFile(const std::filesystem::path& file, std::string_view comment);
     // The same with bytes from memory, which are copied.
     void addBuffer(const std::string& name, std::string_view bytes, std::string_view comment);
+    // Adds a part of another program's kind of file, whose name may have folders; unpacked, where it is to be
+    // read without unpacking.
+    void addPart(const std::string& name, std::string_view bytes, bool bUnpacked = false);
     // An absent entry passes silently.
     void DeleteFile(const std::string& name);
     // Unpacks an entry into the base folder, over a file of that name. An absent entry passes
@@ -81,6 +84,7 @@ public:
 private:
     struct Archive;
     [[nodiscard]] Archive& open() const;
+    void putBytes(const std::string& name, std::string_view bytes, std::string_view comment);
     [[nodiscard]] std::unique_ptr<Archive> takeOpen();
     FileState write(Archive& closing, const std::filesystem::path& target,
                     const BeforeReplacing& beforeReplacing);

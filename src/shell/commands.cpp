@@ -15,6 +15,7 @@
 #include "shell/listCommands.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
+#include "shell/tableCommands.h"
 #include "shell/undo.h"
 #include "storage/cleanDatabase.h"
 #include "storage/newDatabase.h"
@@ -122,6 +123,8 @@ std::vector<Command> menuCommands() {
         {"mnuPrint", "&Print", "", "print", false, pressing("Print")},
         {"mnuPageSetup", "Page Setup", "", "pageSetup", false, pressing("PageSetup")},
         {"mnuCleanDatabase", "&Clean Database", "", "clean", false, storage::mnuCleanDatabase_Click},
+        {"mnuImportTable", "&Import...", "", "import", false, importTable},
+        {"mnuExportTable", "Expor&t...", "", "export", false, exportTable, canExportTable},
         {"mnuClone", "C&lone Database To..", "", "clone", false, clone},
         {"mnuEmail", "Send Database File To...", "", "mail", false, showing("mailFrm")},
         {"mnuFile1", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile1"); }},
@@ -257,6 +260,9 @@ std::span<const Menu> menuBar() {
           "mnuPageSetup",
           "-",
           "mnuCleanDatabase",
+          "-",
+          "mnuImportTable",
+          "mnuExportTable",
           "-",
           "mnuClone",
           "-",

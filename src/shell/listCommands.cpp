@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view separator = "-";
 
-bool isDesigning(const App& app) {
+bool isDesignOn(const App& app) {
     const auto design = app.mainFrm.controls.find("Design");
     return design != app.mainFrm.controls.end() && design->second.Value;
 }
@@ -106,7 +106,7 @@ void openInForm(App& app) {
 }
 
 bool canAddRecord(const App& app) {
-    return app.mainFrm.SSTab1Enabled && app.mainFrm.SSTab1 != app::previewTab && !isDesigning(app);
+    return app.mainFrm.SSTab1Enabled && app.mainFrm.SSTab1 != app::previewTab && !isDesignOn(app);
 }
 
 void newRecord(App& app) {

@@ -39,10 +39,11 @@ History& historyOf(const App& app) {
 
 // What changes records is better named after the command than after what came of it.
 std::string_view nameOfCommand(std::string_view key) {
-    static constexpr std::array<std::array<std::string_view, 2>, 9> names = {{
+    static constexpr std::array<std::array<std::string_view, 2>, 10> names = {{
         {"mnuDuplicate", "Duplicate Record"},
         {"mnuReplace", "Find And Replace"},
         {"mnuPaste", "Paste"},
+        {"mnuImportTable", "Import"},
         {"mnuCut", "Cut"},
         {"mnuSetValues", "Set Values"},
         {"mnuDuplicates", "Delete Duplicates"},

@@ -3,6 +3,7 @@
 #include "app/hourglass.h"
 #include "app/windowState.h"
 #include "core/runTimeError.h"
+#include "tables/counted.h"
 
 #include <algorithm>
 
@@ -16,12 +17,6 @@ constexpr std::size_t shownRefusals = 1000;
 exchange::TextRows clipboardRows(app::App& app) {
     const auto data = app.platform.clipboard();
     return exchange::readRowsOfEither(data.text, data.html);
-}
-
-std::string counted(std::size_t count, std::string_view one, std::string_view many) {
-    std::string text = std::to_string(count);
-    text.append(" ").append(count == 1 ? one : many);
-    return text;
 }
 
 // What is left out without having been chosen so.

@@ -86,6 +86,8 @@ $ fwk update a.fwk i2 Item=Nut@Saw -> ~7|$1.00|Nut@Saw@|x|$2.00| && $1 fwk add a
 ! the column "Note" has no field on the layout
 $ printf 'No,Paid,Item,Note,Sum\n,5,Bolt@Nut@,,7\n' | fwk import a.fwk /dev/stdin -> 1 // ~[Increments]No,10|
 ~0|$5.00|Bolt@Nut@||$10.00| // +=|=|=|=|$211.00|
+$ printf 'Paid:Currency,Item:Text\n100,Nut@\n' | fwk import a.fwk /dev/stdin -> 1
+~[Increments]No,11| // ~11|$100.00|Nut@@||$200.00| // +=|=|=|=|$411.00|
 $1 printf 'Item,Note\nBolt,x' | fwk import a.fwk /dev/stdin -> ! the column "Note" has no field on the layout
 )sh");
 }

@@ -80,9 +80,19 @@ $1 printf 'Name\tPrice\tDay\tPrise\nb|\tx\t1\t1\n' | fwk paste a.fwk -> ! standa
 ! standard input: row 2, "Name": "b|" has a "|", which divides the cells of a database
 ! standard input: row 2, "Price": "x" is no number // ! standard input: row 2, "Day": "1" is no date
 ! nothing is stored; --yes leaves out what cannot be stored
+$ printf 'Name;Day;Price\nb;31.12.2024;1.234,50\n' | fwk import a.fwk - --decimal , -> 1
+~[Increments]No,10| // ~10|b|$1,234.50|12/31/2024|$2,469.00| // +=|=|=|=|$4,938.00|
+$1 printf 'Name;Day;Nope\nb|;30.2.2024;1\n' | fwk import a.fwk - --separator ';' -> ! -: no column "Nope"
+! -: row 2, "Name": "b|" has a "|", which divides the cells of a database
+! -: row 2, "Day": "30.2.2024" is no date in this order
+! -: nothing is stored; --yes leaves out what cannot be stored
+$ printf '1,5;\344;03/04/2024\n2;b;05/06/2024\n' | fwk import new.fwk - --no-headings --dates dmy -> 2 // @ new.fwk
++data.dat:Main Data File: // +[Column Names]Column_1|Column_2|Column_3| // +[Column Types]4|3|1|
++1.5|ä|04/03/2024| // +2|b|06/05/2024| // +=|=|=|
+$2 fwk import a.fwk - --dates dym -> ! --dates: dym not in {dmy,mdy,ymd}
 $1 fwk paste a.fwk -> ! standard input: it has no rows
 $2 fwk paste --headings --no-headings a.fwk -> ! --headings excludes --no-headings
-$1 seq 32764 | fwk paste a.fwk -> ! it has room for 32763 more records, not 32764
+$1 seq 32764 | fwk paste a.fwk -> ! it has room for 32762 more records, not 32764
 )sh");
 }
 

@@ -1,5 +1,7 @@
 #include "session.h"
 
+#include <fstream>
+
 using platform::Answer;
 
 // What a user does in the forms, from an empty window to a searched database.
@@ -141,6 +143,27 @@ press Ctrl+Z -> f1=Bolt|
 type z; click layoutNavBar.Update -> SB1_5=Document Modified f1=Boltz|
 press Ctrl+Z -> SB1_5=Document Saved f1=|Bolt
 press Ctrl+Shift+Z -> SB1_5=Document Modified f1=|Boltz
+)");
+    }
+
+    void aTableImportedAndExported() {
+        Session run(database("table.fwk", DataFile("No:4 Name Price:2", "1|Bolt|$1.00")));
+        std::ofstream(path("people.csv").toStdString()) << "Name;Day;Pay\nAnn;31.12.2024;1.234,50\nBob;1.2.2024;x\n";
+        run.play(R"(
+file people.csv; click mnuImportTable -> importFrm=Import separatorCbo=1* Check1=x Opt1_0=x List2.0=>x Name|Text|As it
+    is| List2.1=x Day|Date|Day, month, year| List2.2=x Pay|Text|As it is| Text1=Name readAsCbo=-
+    Grid1.0=Ann|12/31/2024|1.234,50 Grid1.1=Bob|02/01/2024|x
+press Alt+O; press Alt+W -> Opt1_0=x*
+press Alt+C; press Down 2; press Alt+T; press Down 2 -> List2.0=x Name|Text|As it is| List2.2=>x
+    Pay|Currency|1.234,50| Text1=Pay typeCbo=2* readAsCbo=1 Grid1.0=Ann|12/31/2024|$1,234.50 List1.0=3|Pay|x|is no
+    number in this form OKButton=-
+press Alt+L; press Alt+N; type 2 -> List2.2=>x 2|Currency|1.234,50| Text1=2| List1.0=3|2|x|is no number in this form
+    Check2=x OKButton
+file made.fwk; press Alt+I -> -importFrm MainFrm=made.fwk LV.0=>Ann|12/31/2024|$1,234.50 LV.1=Bob|02/01/2024| LV.2=-|-|-
+    LV=* SB1_1=2 records.
+click mnuExportTable; press Alt+N -> exportFrm=Export Opt1_0=* Opt1_1=- Opt1_2=x List1.0=>Name List1.1=Day List1.2=2
+    Check2=- OKButton=-
+press Escape -> -exportFrm LV=*
 )");
     }
 

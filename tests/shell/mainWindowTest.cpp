@@ -108,7 +108,7 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
     app::enableControls(app, false);
     EXPECT_EQ(those(std::not_fn(disabled)),
               "New Open Help SaveSearch All_As_Report Selected_As_Report " + prints + many +
-                  "mnuNew mnuOpen mnuSaveSearch mnuFile1 mnuFile2 mnuFile3 mnuExit mnuContents "
+                  "mnuNew mnuOpen mnuSaveSearch mnuImportTable mnuFile1 mnuFile2 mnuFile3 mnuExit mnuContents "
                   "mnuDisclaimer mnuWebpage mnuAbout ");
     EXPECT_EQ(shown("Save") + shown("mnuDatabaseProperties"), "");
     EXPECT_FALSE(mainFrm.SSTab1Enabled);

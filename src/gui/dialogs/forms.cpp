@@ -5,7 +5,9 @@
 #include "gui/dialogs/disclaimFrmView.h"
 #include "gui/dialogs/duplicatesFrmView.h"
 #include "gui/dialogs/entryFrmView.h"
+#include "gui/dialogs/exportFrmView.h"
 #include "gui/dialogs/formulateFrmView.h"
+#include "gui/dialogs/importFrmView.h"
 #include "gui/dialogs/layoutPageSetupFrmView.h"
 #include "gui/dialogs/mailFrmView.h"
 #include "gui/dialogs/pasteFrmView.h"
@@ -42,6 +44,8 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("layoutPageSetupFrm", shown<layoutPageSetupFrmView>(app, events));
     platform.registerForm("mailFrm", shown<mailFrmView>(app, events));
     platform.registerForm("pasteFrm", shown<pasteFrmView>(app, events));
+    platform.registerForm("importFrm", shown<importFrmView>(app, events));
+    platform.registerForm("exportFrm", shown<exportFrmView>(app, events));
     platform.registerForm("repeatFrm", shown<repeatFrmView>(app, events));
     platform.registerForm("replaceFrm", [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
     platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });

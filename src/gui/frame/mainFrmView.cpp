@@ -7,6 +7,7 @@
 #include "gui/widgets/qtText.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
+#include "shell/tableCommands.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -24,12 +25,16 @@ namespace {
 
 constexpr QSize firstSize(1100, 720);
 
-// The one database among what is dragged over the window.
-QString droppedDatabase(const QMimeData* data) {
+bool isDatabase(const QString& path) {
+    return path.endsWith(QLatin1String(".fwk"), Qt::CaseInsensitive);
+}
+
+// A database, or a table of another program; empty for anything else.
+QString droppedFile(const QMimeData* data) {
     const QList<QUrl> urls = data->urls();
     if (urls.size() != 1 || !urls.constFirst().isLocalFile()) return {};
     const QString path = urls.constFirst().toLocalFile();
-    return path.endsWith(QLatin1String(".fwk"), Qt::CaseInsensitive) ? path : QString();
+    return isDatabase(path) || shell::isTableFile(fromQt(path)) ? path : QString();
 }
 
 } // namespace
@@ -156,14 +161,21 @@ void MainFrmView::changeEvent(QEvent* event) {
 }
 
 void MainFrmView::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedDatabase(event->mimeData()).isEmpty()) event->acceptProposedAction();
+    if (!droppedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
 void MainFrmView::dropEvent(QDropEvent* event) {
-    const QString path = droppedDatabase(event->mimeData());
+    const QString path = droppedFile(event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
-    events_.run([&] { shell::openNamedFile(app_, fromQt(path)); });
+    if (isDatabase(path)) {
+        events_.run([&] { shell::openNamedFile(app_, fromQt(path)); });
+        return;
+    }
+    // The program that the file comes from waits for the end of the drop, and the form takes its time.
+    QMetaObject::invokeMethod(
+        this, [this, path] { events_.run([&] { shell::importDropped(app_, fromQt(path)); }); },
+        Qt::QueuedConnection);
 }
 
 } // namespace gui

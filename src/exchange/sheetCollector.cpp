@@ -1,0 +1,85 @@
+#include "exchange/sheetCollector.h"
+
+#include "core/encoding.h"
+#include "core/runTimeError.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace exchange {
+
+namespace {
+
+constexpr std::size_t textWithin = 15; // bytes that a string keeps in itself
+constexpr std::size_t blockBytes = 16; // that a block of memory costs beside its text
+
+[[noreturn]] void refuseMoreThan(std::size_t most, const char* what) {
+    std::string reason = "it has more than ";
+    refuseSheet(reason.append(std::to_string(most)).append(what));
+}
+
+} // namespace
+
+void refuseSheet(const std::string& reason) {
+    core::raise(core::errors::badFileFormat, reason);
+}
+
+void tellProgress(const Progress& progress, std::size_t done, std::size_t total) {
+    constexpr std::size_t whole = 100;
+    if (progress && !progress(static_cast<int>(total == 0 ? whole : std::min(done, total) * whole / total)))
+        core::raise(core::errors::cancelled);
+}
+
+void SheetCollector::cell(SheetCell::Kind kind, std::string text) {
+    if (kind == SheetCell::Kind::Empty || (kind == SheetCell::Kind::Text && text.empty())) {
+        ++pendingCells_;
+        return;
+    }
+    if (column() >= SheetBounds::columns) refuseMoreThan(SheetBounds::columns, " columns");
+    row_.resize(column());
+    pendingCells_ = 0;
+    if (cells_ + row_.size() >= SheetBounds::cells) refuseMoreThan(SheetBounds::cells, " cells");
+    if (!core::isAscii(text)) text = core::sanitizeUtf8(text);
+    std::erase(text, '\0');
+    if (text.size() > textWithin) textBytes_ += text.size() + blockBytes;
+    if (textBytes_ > SheetBounds::textBytes) refuseSheet("its texts are too long");
+    row_.push_back({kind, std::move(text)});
+}
+
+void SheetCollector::keep(const SheetRow& row) {
+    if (sheet_.rows.size() >= SheetBounds::rows) refuseMoreThan(SheetBounds::rows, " rows");
+    cells_ += row.size();
+    if (cells_ > SheetBounds::cells) refuseMoreThan(SheetBounds::cells, " cells");
+    sheet_.rows.push_back(row);
+}
+
+void SheetCollector::endRow() {
+    endRow(1);
+}
+
+void SheetCollector::endRow(std::size_t times) {
+    pendingCells_ = 0;
+    if (row_.empty()) {
+        pendingRows_ += times;
+        return;
+    }
+    if (row() > SheetBounds::rows || times > SheetBounds::rows) refuseMoreThan(SheetBounds::rows, " rows");
+    for (; pendingRows_ > 0; --pendingRows_) keep({});
+    for (std::size_t i = 1; i < times; ++i) {
+        for (const SheetCell& each : row_)
+            if (each.text.size() > textWithin) textBytes_ += each.text.size() + blockBytes;
+        if (textBytes_ > SheetBounds::textBytes) refuseSheet("its texts are too long");
+        keep(row_);
+    }
+    // Moved, and without the room that a growing row has kept.
+    SheetRow exact;
+    exact.reserve(row_.size());
+    std::ranges::move(row_, std::back_inserter(exact));
+    row_.clear();
+    keep({});
+    cells_ += exact.size();
+    if (cells_ > SheetBounds::cells) refuseMoreThan(SheetBounds::cells, " cells");
+    sheet_.rows.back() = std::move(exact);
+}
+
+} // namespace exchange

@@ -1,0 +1,114 @@
+#include "core/runTimeError.h"
+#include "core/text.h"
+#include "exchange/formats.h"
+#include "exchange/sqliteHandles.h"
+
+#include <new>
+
+namespace exchange::sqlite {
+
+namespace {
+
+// A name between quotes.
+std::string inQuotes(std::string_view name) {
+    std::string text = "\"";
+    text.append(core::replaceAll(name, "\"", "\"\"")).push_back('"');
+    return text;
+}
+
+const char* declaredAs(core::ColumnType type) {
+    switch (type) {
+    case core::ColumnType::Date:
+        return " DATE";
+    case core::ColumnType::Currency:
+        return " DECIMAL(18,2)";
+    case core::ColumnType::Number:
+    case core::ColumnType::Calculation:
+        return " NUMERIC";
+    default:
+        return " TEXT";
+    }
+}
+
+void run(sqlite3& database, const std::string& command) {
+    if (sqlite3_exec(&database, command.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        refuseDatabase(database);
+}
+
+void bindCell(sqlite3_stmt* row, int place, const OutCell& cell, std::string_view text) {
+    using What = OutCell::What;
+    if (cell.what == What::Number || cell.what == What::Money)
+        sqlite3_bind_double(row, place, cell.value);
+    else if (cell.what == What::Date || !text.empty())
+        sqlite3_bind_text64(row, place, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+    else
+        sqlite3_bind_null(row, place);
+}
+
+void insertRows(sqlite3& database, const OutTable& table, const std::string& name, const Progress& progress) {
+    constexpr std::size_t rowsBetween = 500;
+    std::string command = "INSERT INTO ";
+    command.append(name).append(" VALUES (?");
+    for (std::size_t i = 1; i < table.columns.size(); ++i) command.append(", ?");
+    const Statement insert = prepare(database, command.append(")"));
+    // The sums are no record, and who has the records can add them up.
+    const std::size_t count = table.rows.size() - (table.bLastIsTotals && !table.rows.empty() ? 1 : 0);
+    for (std::size_t row = 0; row < count; ++row) {
+        for (std::size_t i = 0; i < table.columns.size(); ++i) {
+            const OutCell cell = outCell(table.columns[i].type, cellIn(table, row, i));
+            const std::string text = cell.what == OutCell::What::Date ? cell.iso : cellIn(table, row, i);
+            bindCell(insert.get(), static_cast<int>(i) + 1, cell, text);
+        }
+        if (sqlite3_step(insert.get()) != SQLITE_DONE) refuseDatabase(database);
+        sqlite3_reset(insert.get());
+        if (row % rowsBetween == 0) tellProgress(progress, row, count);
+    }
+}
+
+} // namespace
+
+Database openDatabase(const char* address, int flags) {
+    sqlite3* raw = nullptr;
+    const int result = sqlite3_open_v2(address, &raw, flags, nullptr);
+    if (raw == nullptr) throw std::bad_alloc();
+    Database database(raw);
+    if (result != SQLITE_OK) refuseDatabase(*database);
+    return database;
+}
+
+Statement prepare(sqlite3& database, const std::string& question) {
+    sqlite3_stmt* raw = nullptr;
+    if (sqlite3_prepare_v2(&database, question.c_str(), static_cast<int>(question.size()), &raw, nullptr) !=
+        SQLITE_OK)
+        refuseDatabase(database);
+    return Statement(raw);
+}
+
+void refuseDatabase(sqlite3& database) {
+    refuseSheet(sqlite3_errmsg(&database));
+}
+
+void write(const Target& target, const OutTable& table, const Progress& progress) {
+    if (table.columns.empty()) refuseSheet("it has no columns");
+    sqlite3_hard_heap_limit64(0);
+    const Database database = openDatabase(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    const std::string name = inQuotes(table.title.empty() ? "records" : table.title);
+    std::string command = "CREATE TABLE ";
+    command.append(name);
+    const char* before = " (";
+    for (const OutColumn& column : table.columns) {
+        command.append(before).append(inQuotes(column.name)).append(declaredAs(column.type));
+        before = ", ";
+    }
+    run(*database, command.append(")"));
+    run(*database, "BEGIN");
+    insertRows(*database, table, name, progress);
+    run(*database, "COMMIT");
+    sqlite3_int64 size = 0;
+    const std::unique_ptr<unsigned char, void (*)(void*)> bytes(
+        sqlite3_serialize(database.get(), "main", &size, 0), &sqlite3_free);
+    if (!bytes) throw std::bad_alloc();
+    writeBytes(target, {reinterpret_cast<const char*>(bytes.get()), static_cast<std::size_t>(size)});
+}
+
+} // namespace exchange::sqlite

@@ -1,0 +1,320 @@
+#include "core/format.h"
+#include "exchange/sheet.h"
+#include "folderFixture.h"
+
+#include <chrono>
+#include <random>
+#include <sqlite3.h>
+#include <sys/resource.h>
+
+namespace {
+
+using core::ColumnType;
+using exchange::Format;
+using exchange::OutTable;
+using exchange::Sheet;
+using Kind = exchange::SheetCell::Kind;
+
+struct SheetFile : FolderTest {
+    fs::path path(const std::string& name) const { return folder / name; }
+    Sheet read(const std::string& name, std::size_t sheet = 0) const {
+        return exchange::readSheet(path(name), *exchange::formatOf(name), sheet);
+    }
+    // "a.xlsx" of "part name|text" parts.
+    void zip(const std::string& name,
+             std::initializer_list<std::pair<const char*, std::string>> parts) const {
+        file::Zip zip;
+        zip.CreateArchive(path(name));
+        for (const auto& [part, text] : parts) zip.addPart(part, text);
+        zip.CloseArchive();
+    }
+    void xlsx(const std::string& name, const std::string& sheet, const std::string& book = {},
+              const std::string& strings = {}) const {
+        const auto relation = [](const char* id, const char* type, const char* target) {
+            return std::string("<Relationship Id='") + id + "' Type='http://x/" + type + "' Target='" +
+                   target + "'/>";
+        };
+        zip(name,
+            {{"_rels/.rels", "<R>" + relation("a", "officeDocument", "xl/workbook.xml") + "</R>"},
+             {"xl/_rels/workbook.xml.rels",
+              "<R>" + relation("r1", "worksheet", "/xl/s.xml") + relation("r2", "worksheet", "s.xml") +
+                  relation("r3", "styles", "styles.xml") + relation("r4", "sharedStrings", "t.xml") + "</R>"},
+             {"xl/workbook.xml",
+              "<x:workbook>" + book +
+                  "<x:sheets><x:sheet name='H' state='hidden' r:id='r1'/><x:sheet name='A&amp;B' "
+                  "r:id='r2'/></x:sheets></x:workbook>"},
+             {"xl/styles.xml",
+              "<s><numFmts><numFmt numFmtId='170' formatCode='[$-409]d\\ mmm yyyy;@'/><numFmt numFmtId='171' "
+              "formatCode='&quot;day&quot; #,##0.00'/><numFmt numFmtId='172' "
+              "formatCode='[h]:mm'/></numFmts><cellXfs><xf numFmtId='0'/><xf numFmtId='14'/><xf "
+              "numFmtId='22'/><xf numFmtId='170'/><xf numFmtId='171'/><xf numFmtId='172'/></cellXfs></s>"},
+             {"xl/t.xml", "<sst>" + strings + "</sst>"},
+             {"xl/s.xml", "<?xml version='1.0'?><!-- <row> --><x:worksheet>" + sheet + "</x:worksheet>"}});
+    }
+    void ods(const std::string& name, const std::string& tables) const {
+        zip(name, {{"content.xml", "<d><office:spreadsheet>" + tables + "</office:spreadsheet></d>"}});
+    }
+    void sqlite(const std::string& name, const char* commands) const {
+        sqlite3* database = nullptr;
+        ASSERT_EQ(sqlite3_open(path(name).c_str(), &database), SQLITE_OK);
+        EXPECT_EQ(sqlite3_exec(database, commands, nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(database);
+        sqlite3_close(database);
+    }
+};
+
+// A row a line; what is no text has its kind in front.
+std::string told(const Sheet& sheet) {
+    std::string all = sheet.name + (sheet.name.empty() ? "" : ": ");
+    for (const auto& row : sheet.rows) {
+        for (const auto& cell : row)
+            all.append(cell.kind == Kind::Text ? ""
+                                               : std::string(1, "-TNDhXB"[static_cast<int>(cell.kind)]) + ":")
+                .append(cell.text)
+                .append("|");
+        all += "/";
+    }
+    return all;
+}
+
+// The cell of ours that a cell of a file stands for.
+std::string ours(ColumnType type, const exchange::SheetCell& cell) {
+    if (cell.kind == Kind::Date)
+        return cell.text.substr(5, 2) + "/" + cell.text.substr(8) + "/" + cell.text.substr(0, 4);
+    const bool bMoney = type == ColumnType::Currency ||
+                        (type == ColumnType::Calculation && cell.text.find('.') != std::string::npos);
+    return cell.kind == Kind::Number && bMoney ? core::format(cell.text, core::Mask::Money) : cell.text;
+}
+
+OutTable randomTable(std::mt19937& random, bool bCards) {
+    OutTable table{"T [1]: \"x\"", {}, {}, random() % 2 == 0};
+    const std::vector<std::pair<const char*, ColumnType>> columns = {
+        {"Name", ColumnType::Text},    {"Email", ColumnType::Text},     {"Birthday", ColumnType::Date},
+        {"Note", ColumnType::Text},    {"Qty", ColumnType::Number},     {"Price", ColumnType::Currency},
+        {"City", ColumnType::Picture}, {"Sum", ColumnType::Calculation}};
+    for (const auto& [name, type] : columns)
+        if (!bCards ||
+            (type != ColumnType::Number && type != ColumnType::Currency && type != ColumnType::Calculation))
+            table.columns.push_back(
+                {name, type, 1440, type == ColumnType::Calculation ? "Qty * ( Price + 2.5 ) - -1" : ""});
+    const std::vector<std::string> texts = {"a",
+                                            "=1+1",
+                                            "00123",
+                                            "1e5",
+                                            "12",
+                                            "1.50",
+                                            " two  blanks ",
+                                            "<&\">]]>",
+                                            "line\nend\n",
+                                            "\xC3\xA6\xE2\x82\xAC\xF0\x9F\x98\x80",
+                                            "_x0041_",
+                                            "x;y,z\\n\"q\"",
+                                            std::string(200, 'w') + "\xC3\xA9",
+                                            "12345678901234567890",
+                                            "",
+                                            "\ttab"};
+    const std::vector<std::string> dates = {"12/31/2024", "03/01/1900", "02/29/2024",
+                                            "02/30/2024", "01/01/1850", ""};
+    const auto number = [&] { return std::to_string(static_cast<int>(random() % 20'000) - 10'000); };
+    const auto money = [&] {
+        return core::format(number() + "." + std::to_string(random() % 100), core::Mask::Money);
+    };
+    for (std::size_t i = random() % 40 + 2; i > 0; --i) {
+        auto& row = table.rows.emplace_back();
+        for (const auto& column : table.columns) {
+            const std::string any = texts[random() % texts.size()];
+            const bool bAny = random() % 5 == 0;
+            if (column.type == ColumnType::Date)
+                row.push_back(dates[random() % dates.size()]);
+            else if (column.type == ColumnType::Number)
+                row.push_back(bAny ? any : (random() % 2 == 0 ? number() : number() + ".50"));
+            else if (column.type == ColumnType::Currency || column.type == ColumnType::Calculation)
+                row.push_back(bAny ? any : money());
+            else
+                row.push_back(any);
+        }
+        row[0] = bCards ? "N" + number() : "n"; // no row is blank, and no card without a name
+    }
+    return table;
+}
+
+TEST_F(SheetFile, WhatIsWrittenIsReadAgain) {
+    std::mt19937 random(20240229);
+    for (int round = 0; round < 60; ++round) {
+        for (const char* name : {"t.xlsx", "t.ods", "t.json", "t.sqlite", "t.vcf", "t.tsv"}) {
+            const Format format = *exchange::formatOf(name);
+            const OutTable table = randomTable(random, format == Format::Vcard);
+            exchange::writeSheet(path(name), format, table);
+            const Sheet sheet = read(name);
+            const bool bTotals = format == Format::Xlsx || format == Format::Ods || format == Format::Tsv;
+            const std::size_t rows = table.rows.size() - (table.bLastIsTotals && !bTotals ? 1 : 0);
+            ASSERT_EQ(sheet.rows.size(), rows + 1) << name;
+            std::vector<std::size_t> place(table.columns.size(), 99); // cards have an order of their own
+            for (std::size_t i = 0; i < place.size(); ++i)
+                for (std::size_t k = 0; k < sheet.rows[0].size(); ++k)
+                    if (sheet.rows[0][k].text.substr(0, sheet.rows[0][k].text.find(':')) ==
+                        table.columns[i].name)
+                        place[i] = k;
+            for (std::size_t row = 0; row < rows; ++row)
+                for (std::size_t i = 0; i < place.size(); ++i) {
+                    const auto& cells = sheet.rows[row + 1];
+                    ASSERT_EQ(place[i] < cells.size() ? ours(table.columns[i].type, cells[place[i]]) : "",
+                              table.rows[row][i])
+                        << name << " " << row << " " << table.columns[i].name;
+                }
+        }
+    }
+    const OutTable sums{"",
+                        {{"A", ColumnType::Text, 9, ""},
+                         {"Qty", ColumnType::Number, 9, ""},
+                         {"S", ColumnType::Calculation, 9, "Qty * 2"},
+                         {"Z", ColumnType::Calculation, 9, "Qty * None"}},
+                        {{"x", "2", "4", "$.50"}, {"x", "-", "0", "$1.00"}},
+                        false};
+    exchange::writeSheet(path("f.ods"), Format::Ods, sums);
+    file::Zip zip;
+    zip.OpenArchive(path("f.ods"));
+    const std::string text = *zip.readEntry("content.xml", 1 << 20);
+    EXPECT_EQ(text.find("of:="), text.rfind("of:=")) << "only where all operands are numbers";
+    EXPECT_NE(text.find("\"of:=[.B2]*2\""), std::string::npos);
+    const auto never = [](int) { return false; };
+    writeBytes(path("keep.ods"), "old");
+    for (const char* name : {"keep.ods", "new.xlsx"})
+        EXPECT_EQ(raisedBy([&] { exchange::writeSheet(path(name), *exchange::formatOf(name), sums, never); }),
+                  core::errors::cancelled);
+    EXPECT_EQ(readBytes(path("keep.ods")), "old");
+    EXPECT_EQ(tree(), "f.ods keep.ods t.json t.ods t.sqlite t.tsv t.vcf t.xlsx ");
+}
+
+TEST_F(SheetFile, OfOtherPrograms) {
+    const std::string cells =
+        "<cols><col min='3' max='3' hidden='1'/></cols><x:sheetData><x:row r='2'><x:c r='A2' "
+        "t='s'><x:v>0</x:v></x:c>"
+        "<x:c r='C2'><x:v>9</x:v></x:c><x:c r='D2' t='inlineStr'><x:is><x:r><x:t>a_x0041_</x:t></x:r><x:t> b"
+        "</x:t></x:is></x:c></x:row><x:row r='3' hidden='1'><x:c><x:v>1</x:v></x:c></x:row><x:row><x:c "
+        "s='1'><x:v>60.5"
+        "</x:v></x:c><x:c s='2'><x:v>45657.545138888891</x:v></x:c><x:c/><x:c s='3'><x:v>1</x:v></x:c><x:c "
+        "s='4'><x:v>-1.5"
+        "</x:v></x:c><x:c s='5'><x:v>1.5</x:v></x:c><x:c t='b'><x:v>1</x:v></x:c><x:c "
+        "t='e'><x:v>#DIV/0!</x:v></x:c><x:c>"
+        "<x:v>1E+20</x:v></x:c><x:c><x:f>1/3</x:f><x:v>0.1000000000000000055</x:v></x:c></x:row><x:row "
+        "r='9999999'/>";
+    xlsx("a.xlsx", cells, "", "<si><t xml:space='preserve'> s\r\n</t><rPh><t>no</t></rPh></si>");
+    xlsx("b.xlsx", "<row><c s='1'><v>0</v></c></row>", "<workbookPr date1904='1'/>");
+    EXPECT_EQ(told(read("a.xlsx")),
+              "A&B: / s\n|-:|aA b|/D:1900-02-28|X:2024-12-31 13:05:00|D:1900-01-01|N:-1.50|h:36:00:00|"
+              "B:true|#DIV/0!|N:100000000000000000000|N:0.1|/");
+    EXPECT_EQ(told(read("b.xlsx")), "A&B: D:1904-01-01|/");
+    const std::string odd = "<table:table-row><table:table-cell office:value-type='float' office:value='";
+    ods("a.ods",
+        "<table:table table:name='One'/><table:table "
+        "table:name='Two'><table:table-column/><table:table-column "
+        "table:visibility='collapse'/><table:table-column table:number-columns-repeated='1022'/>" +
+            odd +
+            "1234.5'><text:p>1.234,50</text:p></table:table-cell><table:table-cell "
+            "office:value-type='string'><text:p>no</text:p></table:table-cell><table:table-cell "
+            "table:number-columns-repeated='2' "
+            "office:value-type='date' office:date-value='2024-12-31T13:05:00.5'/><table:covered-table-cell "
+            "office:value-type='string'><text:p>no</text:p></table:covered-table-cell><table:table-cell "
+            "office:value-type='string'><office:annotation><text:p>no</text:p></"
+            "office:annotation><text:p>a<text:s "
+            "text:c='2'/>b <text:span>\n c</text:span></text:p><text:p/></table:table-cell><table:table-cell "
+            "table:number-columns-repeated='16000'/></table:table-row><table:table-row "
+            "table:visibility='filter'>"
+            "<table:table-cell office:value-type='float' "
+            "office:value='1'/></table:table-row><table:table-row "
+            "table:number-rows-repeated='2'><table:table-cell office:value-type='time' "
+            "office:time-value='PT26H05M00S'/>"
+            "<table:table-cell/><table:table-cell office:value-type='percentage' "
+            "office:value='0.5'><text:p>50.00%</text:p>"
+            "</table:table-cell></table:table-row><table:table-row table:number-rows-repeated='1048000'>"
+            "<table:table-cell/></table:table-row></table:table>");
+    EXPECT_EQ(told(read("a.ods", 1)), "Two: N:1234.50|X:2024-12-31 13:05:00|X:2024-12-31 13:05:00|-:|a  b "
+                                      "c\n|/h:26:05:00|N:0.5|/h:26:05:00|N:0.5|/");
+    sqlite("a.db", "CREATE TABLE t(\"a b\", d DATE, x BOOLEAN, y REAL, z); INSERT INTO t "
+                   "VALUES('12','2024-12-31',1,0.1,x'00');"
+                   "CREATE VIEW v AS SELECT d, 1+1 AS two FROM t;");
+    EXPECT_EQ(told(read("a.db")), "t: a b|d|x|y|z|/12|D:2024-12-31|B:true|N:0.1|/");
+    EXPECT_EQ(told(read("a.db", 1)), "v: d|two|/D:2024-12-31|N:2|/");
+    EXPECT_EQ(exchange::sheetNames(path("a.db"), Format::Sqlite), (std::vector<std::string>{"t", "v"}));
+    writeBytes(path("a.db-wal"), "x");
+    EXPECT_EQ(raisedBy([&] { read("a.db"); }), core::errors::badFileFormat)
+        << "changes that are not in it yet";
+
+    const char* const json =
+        "[{\"a\":1,\"b\":null},{\"b\":[1,{\"c\":\"\\\"\"}],\"d\":true}] -> "
+        "a|b|d|/N:1|/-:|[1,{\"c\":\"\\\"\"}]|B:true|/; "
+        "[[\"x\",-1.50],[]] -> x|N:-1.5|/; "
+        "{\"columns\":[\"A\"],\"records\":[{\"key\":\"i1\",\"cells\":[\"v\"]}],\"totals\":[\"9\"]} "
+        "-> A|/v|/; "
+        "{\"style\":\"x\",\"columns\":[{\"name\":\"P\",\"type\":\"Currency\"}],\"records\":[[\"$1.00\"]]} -> "
+        "P:Currency|/$1.00|/; 5 -> !; [1] -> !; {} -> !; [{\"a\":1} -> !; ";
+    const char* const cards =
+        "BEGIN:VCARD\r\nVERSION:4.0\r\nN:D;J;;;\r\nFN:J\\, "
+        "D\r\nitem1.TEL;TYPE=\"work,cell\";VALUE=uri:tel:+1\r\nTEL:2\r\n"
+        "BDAY:19850412\r\nADR;LABEL=\"a:b;c\":;;S\\n1;C;;Z;X\r\nADR:;;No;;;;\r\nNOTE:a\r\n "
+        "b\r\nEND:VCARD\r\n -> "
+        "Name|Last_Name|First_Name|Phone|Mobile|Street|City|Zip|Country|Birthday|Note|/"
+        "J, D|D|J|2|+1|S\n1|C|Z|X|D:1985-04-12|ab|/; "
+        "begin:vcard\nFN;ENCODING=QUOTED-PRINTABLE;CHARSET=UTF-8:=C3=86=\n=20x\nTEL;CELL:1\nTEL;FAX:2\nEND:"
+        "VCARD -> "
+        "Name|Mobile|Fax|/\xC3\x86 x|1|2|/; BEGIN:VCARD\nFN:x -> !; FN:x\n -> !; x -> !; ";
+    for (const auto& [name, cases] : {std::pair("a.json", json), std::pair("a.vcf", cards)})
+        for (const auto& c : table(cases)) {
+            writeBytes(path(name), c[0]);
+            std::string got;
+            if (raisedBy([&] { got = told(read(name)); }) == core::errors::badFileFormat) got = "!";
+            EXPECT_EQ(got, c[1]) << c[0];
+        }
+}
+
+TEST_F(SheetFile, HostileFilesAreRefusedInTime) {
+    const auto many = [](std::string_view text, std::size_t times) {
+        std::string all;
+        for (std::size_t i = 0; i < times; ++i) all += text;
+        return all;
+    };
+    const std::string row = "<table:table-row><table:table-cell office:value-type='float' office:value='1'";
+    const std::string cell = "<c r='A1'><v>1</v></c>";
+    xlsx("doctype.xlsx", "<!DOCTYPE x [<!ENTITY a '&b;&b;'>]><row>" + cell + "</row>");
+    xlsx("bomb.xlsx", std::string(70 << 20, ' '));
+    xlsx("rows.xlsx", "<dimension ref='A1:A2147483648'/><row r='2147483648'>" + cell + "</row>");
+    xlsx("columns.xlsx", "<row>" + many("<c><v>1</v></c>", 200'000) + "</row>");
+    xlsx("one.xlsx", "<row><c r='ZZZZZZZZZZZ1'><v>1</v></c></row>");
+    xlsx("deep.xlsx", "<row>" + many("<c>", 1'500'000) + "</row>");
+    xlsx("strings.xlsx", "<row>" + many("<c t='s'><v>0</v></c>", 3'000) + "</row>", "",
+         "<si><t>" + std::string(32'000, 'x') + "</t></si>");
+    xlsx("blanks.xlsx", many("<row><c r='EZZ1'><v>1</v></c></row>", 5'000));
+    xlsx("unknown.xlsx", "<row><c t='s'><v>7</v></c></row>");
+    xlsx("short.xlsx", "<row><c><v>1</v>");
+    ods("rows.ods", "<table:table>" + row +
+                        "/></table:table-row><table:table-row table:number-rows-repeated='2147483648'>" +
+                        row.substr(17) + "/></table:table-row></table:table>");
+    ods("columns.ods",
+        "<table:table>" + row + " table:number-columns-repeated='1000000'/></table:table-row></table:table>");
+    ods("both.ods", "<table:table><table:table-row table:number-rows-repeated='60000'>" + row.substr(17) +
+                        " table:number-columns-repeated='4000'/></table:table-row></table:table>");
+    ods("huge.ods",
+        "<table:table>" + row +
+            " table:number-columns-repeated='99999999999999999999'/></table:table-row></table:table>");
+    ods("none.ods", "");
+    sqlite("cycle.sqlite", "CREATE TABLE b(x); CREATE VIEW a AS SELECT * FROM b; DROP TABLE b; CREATE VIEW b "
+                           "AS SELECT * FROM a;");
+    const char* const endless =
+        "CREATE VIEW v AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n) SELECT ";
+    sqlite("endless.sqlite", (std::string(endless) + "i FROM n").c_str());
+    sqlite("silent.sqlite", (std::string(endless) + "count(*) FROM n").c_str());
+    sqlite("large.sqlite", "CREATE VIEW v AS SELECT replace(hex(zeroblob(8000000)), '0', 'xxxxxxxx')");
+    writeBytes(path("deep.json"), "[[" + std::string(30 << 20, '['));
+    writeBytes(path("wide.json"), "[[" + many("0,", 16 << 20) + "0]]");
+    writeBytes(path("pieces.vcf"), "BEGIN:VCARD\nA" + std::string(60 << 20, ';'));
+    writeBytes(path("large.csv"), std::string(65 << 20, 'x'));
+    for (const auto& each : fs::directory_iterator(folder)) {
+        const std::string name = each.path().filename().string();
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(raisedBy([&] { read(name); }), core::errors::badFileFormat) << name;
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2)) << name;
+    }
+}
+
+} // namespace
