@@ -53,7 +53,7 @@ public:
         if (name == "s") text_.append(std::min(repeats(node, "c"), mostBlanks), ' ');
         if (name == "tab") text_.push_back('\t');
         if (name == "line-break") text_.push_back('\n');
-        bLastBlank_ = false;
+        if (name == "s" || name == "tab" || name == "line-break") bLastBlank_ = false;
         return text_.size() <= SheetBounds::textBytes;
     }
 
