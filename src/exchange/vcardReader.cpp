@@ -218,7 +218,7 @@ private:
             for (const std::size_t i : used) {
                 SheetCell cell{SheetCell::Kind::Text, std::move(card[i])};
                 if (vcardFields[i].property == "BDAY" && !cell.text.empty()) cell = birthday(cell.text);
-                collector.cell(cell.kind, std::move(cell.text));
+                collector.cell(std::move(cell));
             }
             collector.endRow();
         }
