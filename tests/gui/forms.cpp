@@ -148,7 +148,8 @@ press Ctrl+Shift+Z -> SB1_5=Document Modified f1=|Boltz
 
     void aTableImportedAndExported() {
         Session run(database("table.fwk", DataFile("No:4 Name Price:2", "1|Bolt|$1.00")));
-        std::ofstream(path("people.csv").toStdString()) << "Name;Day;Pay\nAnn;31.12.2024;1.234,50\nBob;1.2.2024;x\n";
+        std::ofstream(path("people.csv").toStdString())
+            << "Name;Day;Pay\nAnn;31.12.2024;1.234,50\nBob;1.2.2024;x\n";
         run.play(R"(
 file people.csv; click mnuImportTable -> importFrm=Import separatorCbo=1* Check1=x Opt1_0=x List2.0=>x Name|Text|As it
     is| List2.1=x Day|Date|Day, month, year| List2.2=x Pay|Text|As it is| Text1=Name readAsCbo=-
