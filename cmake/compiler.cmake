@@ -15,6 +15,12 @@ if(FERROWICK_SANITIZE)
     target_link_options(ferrowick_options INTERFACE -fsanitize=${FERROWICK_SANITIZE})
 endif()
 
+# Every room is linked with every test program; a package is linked by the system's own linker.
+find_program(MOLD_PROGRAM mold)
+if(MOLD_PROGRAM AND (FERROWICK_TESTS OR FERROWICK_FUZZ))
+    target_link_options(ferrowick_options INTERFACE -fuse-ld=mold)
+endif()
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     # Without this ccache keeps nothing that was compiled with a precompiled header.
@@ -22,7 +28,7 @@ if(CCACHE_PROGRAM)
 endif()
 
 # ferrowick_unity(TARGET ...)
-# A file must still include what it uses: builds without FERROWICK_UNITY, and the fuzz targets, check that.
+# A file must still include what it uses: builds without FERROWICK_UNITY, the daily ones, check that.
 function(ferrowick_unity)
     set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ${FERROWICK_UNITY} UNITY_BUILD_BATCH_SIZE 16)
 endfunction()

@@ -2,9 +2,9 @@
 // run-time error. What has been opened can be saved and opens again; or, when another entry of the archive
 // is damaged, the save is refused and leaves the file as it was.
 
+#include "app/app.h"
 #include "core/runTimeError.h"
 #include "platform/headlessPlatform.h"
-#include "shell/program.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 
@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const InputFile file(bytes);
     std::ostringstream messages;
     platform::HeadlessPlatform machine(messages);
-    shell::Program app(machine);
+    app::App app(machine);
     try {
         storage::readArchive(app, filePath());
     } catch (const core::RunTimeError&) {

@@ -12,14 +12,14 @@ tidy=(clang-tidy-14)
 bench=(libbenchmark-dev hyperfine zip unzip sqlite3)
 package=(dpkg-dev file gzip)
 # Work without these is slower or leaves a step out, but is done.
-optional=(ccache clang-14 libclang-rt-14-dev)
+optional=(ccache mold clang-14 libclang-rt-14-dev)
 
 wanted=()
 for purpose in "$@"; do
     case $purpose in
     build) wanted+=("${build[@]}" ccache) ;;
     run) wanted+=("${run[@]}") ;;
-    test) wanted+=("${test[@]}" clang-14 libclang-rt-14-dev) ;;
+    test) wanted+=("${test[@]}" mold clang-14 libclang-rt-14-dev) ;;
     tidy) wanted+=("${tidy[@]}") ;;
     bench) wanted+=("${bench[@]}") ;;
     package) wanted+=("${package[@]}") ;;

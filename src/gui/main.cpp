@@ -28,7 +28,6 @@ int showWindow(const gui::CommandLine& line) {
         window.endAtOnce();
         std::_Exit(128 + number); // dialogs further up would take their end for an answer
     });
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, [&] { window.keepForTheEnd(); });
     window.load(shell::commandLineFor(gui::fromQt(line.file)));
     return QApplication::exec();
 }

@@ -48,13 +48,14 @@ void UndoStack::stop() {
 }
 
 void UndoStack::notePicture(file::KeptEntry before) {
-    if (isStarted_) pictures_.insert(pictures_.begin(), std::move(before));
+    if (isStarted_) pictures_.push_back(std::move(before));
 }
 
 void UndoStack::settle(const Document& document, bool bRecords, const Naming& name) {
     Step step = lookAgain(document, bRecords);
     step.pictures = std::exchange(pictures_, {});
     if (step.empty()) return;
+    ++taken_;
     step.before = selection_;
     step.after = Selection::of(document.LV);
     step.name = name(step);
@@ -86,9 +87,10 @@ Step UndoStack::lookAgain(const Document& document, bool bRecords) {
 
 void UndoStack::go(Document& document, std::vector<Step>& from, std::vector<Step>& to,
                    const SwapPicture& swap, bool bBack) {
-    std::vector<file::KeptEntry> pictures;
-    for (const file::KeptEntry& picture : from.back().pictures)
-        pictures.insert(pictures.begin(), swap(picture)); // first: the file may not take them
+    std::vector<file::KeptEntry> pictures; // first: the file may not take them
+    const std::vector<file::KeptEntry>& others = from.back().pictures;
+    for (auto picture = others.rbegin(); picture != others.rend(); ++picture)
+        pictures.push_back(swap(*picture));
     Step step = std::move(from.back());
     from.pop_back();
     if (step.design) step.design->putInto(document);
@@ -104,6 +106,7 @@ void UndoStack::go(Document& document, std::vector<Step>& from, std::vector<Step
     back.after = std::move(step.after);
     back.size = back.bytes();
     to.push_back(std::move(back));
+    ++taken_;
 }
 
 std::size_t UndoStack::loudSteps(const std::vector<Step>& steps) {

@@ -18,7 +18,7 @@ struct Step {
     std::shared_ptr<const Objects> objects;
     std::optional<Counters> counters;
     RecordChange records;
-    std::vector<file::KeptEntry> pictures; // the latest first
+    std::vector<file::KeptEntry> pictures; // the latest last
     Selection before, after;               // of the records
     bool isSilent = false;                 // another view was chosen; goes with the step before or behind it
     std::size_t size = 0;                  // bytes(), once the step is whole
@@ -60,6 +60,7 @@ public:
     // The document is as it was when it was saved.
     bool isSaved() const { return savedAt_ == loudSteps(undo_); }
 
+    std::uint64_t taken() const { return taken_; } // raised by every step that is made, undone or redone
     // As they were when they were last looked at.
     const Design& design() const { return *design_; }
     const Objects& objects() const { return *objects_; }
@@ -77,6 +78,7 @@ private:
     void forgetOldest();
 
     bool isStarted_ = false;
+    std::uint64_t taken_ = 0;
     std::vector<Step> undo_, redo_;
     std::optional<std::size_t> savedAt_;
     std::shared_ptr<const Design> design_;

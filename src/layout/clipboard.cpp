@@ -60,7 +60,7 @@ bool takeSelected(App& app) {
             visitFamily(app.document.layout, object.family, [&](const auto& own) {
                 // Both are of one kind, which the compiler cannot know.
                 if constexpr (std::is_same_v<std::decay_t<decltype(family)>, std::decay_t<decltype(own)>>)
-                    family.load(object.Index) = *own.find(object.Index);
+                    if (const auto* source = own.find(object.Index)) family.load(object.Index) = *source;
             });
         });
         if (object.family == Family::clipPic)

@@ -14,7 +14,7 @@ using app::App;
 
 namespace {
 
-bool isDesigning(const App& app) {
+bool meansObjects(const App& app) {
     const auto design = app.mainFrm.controls.find("Design");
     return app.mainFrm.SSTab1 == app::layoutTab && design != app.mainFrm.controls.end() &&
            design->second.Value;
@@ -33,15 +33,15 @@ bool canCut(const App& app) {
 }
 
 bool canCopyRecords(const App& app) {
-    return !isDesigning(app) && app::visibleList(app.document).count() > 0;
+    return !meansObjects(app) && app::visibleList(app.document).count() > 0;
 }
 
 bool canCopy(const App& app) {
-    return isDesigning(app) ? layout::canCopyObjects(app) : canCopyRecords(app);
+    return meansObjects(app) ? layout::canCopyObjects(app) : canCopyRecords(app);
 }
 
 bool canPaste(const App& app) {
-    return isDesigning(app) ? layout::canPasteObjects(app) : app.document.LV.columns.count() > 1;
+    return meansObjects(app) ? layout::canPasteObjects(app) : app.document.LV.columns.count() > 1;
 }
 
 void cut(App& app) {
@@ -49,14 +49,14 @@ void cut(App& app) {
 }
 
 void copy(App& app) {
-    if (isDesigning(app))
+    if (meansObjects(app))
         layout::copyObjects(app);
     else
         tables::mnuCopy_Click(app);
 }
 
 void paste(App& app) {
-    if (!isDesigning(app))
+    if (!meansObjects(app))
         pasteRecords(app);
     else if (!lock::isDesignLocked(app))
         layout::pasteObjects(app);

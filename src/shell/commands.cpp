@@ -144,7 +144,7 @@ std::vector<Command> menuCommands() {
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSetValues", "Set &Values...", "", "setValues", false, search::mnuSetValues_Click},
-        {"mnuDuplicates", "Find D&uplicates...", "", "duplicates", false, search::mnuDuplicates_Click},
+        {"mnuDuplicates", "Find Duplicat&es...", "", "duplicates", false, search::mnuDuplicates_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
         {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, showExpressionEditor},

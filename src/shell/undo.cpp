@@ -25,7 +25,8 @@ namespace {
 
 struct History {
     history::UndoStack stack;
-    bool bRecords = false; // they may have changed since they were last looked at
+    bool bRecords = false;  // they may have changed since they were last looked at
+    bool bUnmarked = false; // undone to what is saved
     std::string_view command;
 };
 
@@ -82,8 +83,17 @@ void settle(App& app) {
         });
 }
 
+// What is designed was marked when the design began, and no command marks it again after an undo.
+void markAgain(App& app) {
+    History& history = historyOf(app);
+    if (!history.bUnmarked || history.stack.isSaved()) return;
+    history.bUnmarked = false;
+    if (!app.document.bModified) app::setDocumentModified(app, true);
+}
+
 void begin(App& app) {
     historyOf(app).stack.stop();
+    historyOf(app).bUnmarked = false;
     layout::keptPictures(app) = {};
     showSteps(app);
 }
@@ -163,7 +173,10 @@ void showChanged(App& app, bool bColumns, bool bObjects) {
         search::leaveResults(app);
     else
         search::followRecords(app);
+    if (app.document.searchLV.Visible) app::showRecordCount(app, app.document.searchLV);
     app.changes.announce(app, app::Change::CurrentRecord);
+    // What is designed shows the names of its columns again.
+    if (app.mainFrm.SSTab1 == app::layoutTab && layout::isDesignMode(app)) showObjects(app);
     selected.putInto(app.document.LV); // the page has taken one of them perhaps
     app.document.LV.MultiSelect = app.mainFrm.SSTab1 != app::layoutTab;
 }
@@ -187,8 +200,10 @@ void go(App& app, bool bBack) {
     }
     const bool bColumns = stack.designPart() != design;
     showChanged(app, bColumns, bColumns || stack.objectsPart() != objects);
+    historyOf(app).bUnmarked = stack.isSaved();
     app::setDocumentModified(app, !stack.isSaved());
-    if (stack.isSaved()) storage::removeUnsavedWork(app);
+    // After a save that failed it is not known what the file holds, or whether there still is one.
+    if (stack.isSaved() && !storage::unsavedWork(app).hasSaveFailed) storage::removeUnsavedWork(app);
 }
 
 } // namespace
@@ -206,7 +221,12 @@ void beforeEvent(App& app) {
 
 void afterEvent(App& app) {
     settle(app);
+    markAgain(app);
     showSteps(app);
+}
+
+std::uint64_t stepsTaken(const App& app) {
+    return historyOf(app).stack.taken();
 }
 
 void undo(App& app) {
@@ -236,6 +256,7 @@ void followForUndo(app::Changes& changes) {
     changes.follow({Change::Stored}, [](App& app) {
         settle(app);
         historyOf(app).stack.markSaved();
+        historyOf(app).bUnmarked = false;
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 
+#include <cstdint>
 #include <string_view>
 
 namespace shell {
@@ -10,6 +11,9 @@ namespace shell {
 // its events, those of dialogs too; what the event has changed is a step.
 void beforeEvent(app::App& app);
 void afterEvent(app::App& app);
+
+// Raised by every step that is made, undone or redone.
+std::uint64_t stepsTaken(const app::App& app);
 
 void undo(app::App& app);
 void redo(app::App& app);

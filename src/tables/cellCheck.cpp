@@ -5,6 +5,8 @@
 #include "core/number.h"
 #include "core/text.h"
 
+#include <algorithm>
+
 namespace tables {
 
 namespace {
@@ -16,6 +18,10 @@ CheckedCell refused(std::string_view reason) {
 CheckedCell checkedText(std::string_view cell) {
     if (cell.find('|') != std::string_view::npos)
         return refused("has a \"|\", which divides the cells of a database");
+    const auto isControl = [](char c) {
+        return (static_cast<unsigned char>(c) < ' ' && c != '\n' && c != '\r' && c != '\t') || c == '\x7f';
+    };
+    if (std::ranges::any_of(cell, isControl)) return refused("has a character that cannot be shown");
     return {std::string(cell), {}};
 }
 

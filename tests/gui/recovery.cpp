@@ -3,6 +3,7 @@
 #include "shell/menuCommands.h"
 #include "storage/recoveryCopies.h"
 
+#include <QSessionManager>
 #include <csignal>
 
 namespace fs = std::filesystem;
@@ -90,6 +91,16 @@ private slots:
         QCOMPARE(copies(), 1);
         QVERIFY(!QFile::exists(path(".~lock.books.fwk#")));
         QCOMPARE(gui::toQt(platform::SettingsFile().GetSetting("StartUp", "defaultFile")), file);
+    }
+
+    void keepsAllWhenTheUserLogsOut() {
+        Session run;
+        open(run, books());
+        run.window.events().run([&] { app::setDocumentModified(run.app, true); });
+        emit qApp->commitDataRequest(*qApp->findChild<QSessionManager*>());
+        QCOMPARE(copies(), 1);
+        QCOMPARE(platform::SettingsFile().GetSetting("StartUp", "defaultFile"), run.app.document.currentFile);
+        QVERIFY(QFile::exists(path(".~lock.books.fwk#"))); // who may stay
     }
 
     void saysWhatOthersDoToTheFile() {

@@ -106,8 +106,7 @@ TEST_F(Clipboard, WhatIsNoObjectIsRefused) {
     EXPECT_EQ(lines() + std::to_string(told().size() > 150), "B|0|0|900|900|0|1|; 1");
     app.document.lockPassword.clear();
     after("design");
-    for (const char* command : {"mnuCut", "mnuCopy", "mnuPaste"})
-        EXPECT_FALSE(shell::isCommandEnabled(app, command));
+    EXPECT_FALSE(shell::isCommandEnabled(app, "mnuCut"));
 }
 
 } // namespace

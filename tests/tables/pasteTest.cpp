@@ -44,7 +44,7 @@ TEST(CellCheck, OfEachType) {
         "; "
         "4 -> 1E+3 -> 1000; 4 -> 1,5 € -> !is no number; 4 -> ------ -> !is no number; "
         "4 -> 1E+999 -> !is too large a number; 2 -> 12345 -> $12,345.00; 2 -> $1.5 -> $1.50; 2 -> - -> !is "
-        "no number; "
+        "no number; 3 -> a\x01z -> !has a character that cannot be shown; "
         "1 -> 2024-03-05 -> 03/05/2024; 1 -> 3/5/2024 00:00:00 -> 03/05/2024; 1 -> 25/12/2024 -> 12/25/2024; "
         "1 -> 2/30/2024 -> !is no date; 1 -> 45000 -> !is no date; "
         "1 -> 3/5/2024 14:00 -> !has a time, which a date has no room for; 1 -> 0:00 -> 12/30/1899";

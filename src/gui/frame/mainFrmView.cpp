@@ -9,6 +9,7 @@
 #include "shell/menuCommands.h"
 #include "shell/tableCommands.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -69,6 +70,8 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
                       },
                       [this] { return app_.document.currentFile; }});
     registerForms(platform_, app_, events_);
+    // The desktop asks when its user logs out, who may still stay.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &MainFrmView::keepForTheEnd);
 }
 
 MainFrmView::~MainFrmView() {

@@ -5,9 +5,11 @@
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/textBox.h"
 #include "layout/rulers.h"
 #include "layout/sheet.h"
 #include "layout/toolbar.h"
+#include "shell/undo.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -226,6 +228,10 @@ void LayoutPageView::refresh() {
     refreshScrollBar(*layoutHScroll_, page.layoutHScroll, static_cast<int>(page.viewportWidth));
     refreshScrollBar(*layoutVScroll_, page.layoutVScroll, static_cast<int>(page.viewportHeight));
     sheet_->refresh();
+    // What was typed before a step cannot be taken back after it, or the box would show what is stored
+    // nowhere.
+    if (std::exchange(steps_, shell::stepsTaken(app_)) != steps_)
+        for (TextBox* box : sheet_->findChildren<TextBox*>()) box->forgetTyped();
     // Whoever comes by the mouse goes on with the sheet, once the record is there; the tabs keep the keys of
     // whoever walks them.
     if (std::exchange(arriving_, false) && qobject_cast<QTabBar*>(QApplication::focusWidget()) == nullptr)

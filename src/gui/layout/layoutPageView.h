@@ -53,7 +53,8 @@ private:
     QMenu* fieldMenu_ = nullptr;
     QMenu* pictureMenu_ = nullptr;
     bool refreshing_ = false;
-    bool arriving_ = false;  // the page has come to the front and not shown its record yet
+    bool arriving_ = false; // the page has come to the front and not shown its record yet
+    std::uint64_t steps_ = 0;
     bool designing_ = false; // what is shown
 };
 

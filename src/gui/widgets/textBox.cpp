@@ -137,6 +137,17 @@ QString TextBox::allowed(const QString& typed) const {
     return kept;
 }
 
+// Where there is nothing to take back in the box, the keys mean the last step.
+bool TextBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool isForWindow = (key->matches(QKeySequence::Undo) && !document()->isUndoAvailable()) ||
+                                 (key->matches(QKeySequence::Redo) && !document()->isRedoAvailable());
+        if (isForWindow) return false;
+    }
+    return QTextEdit::event(event);
+}
+
 void TextBox::keyPressEvent(QKeyEvent* event) {
     if (isReadOnly()) {
         event->ignore();

@@ -30,9 +30,11 @@ public:
         bool locked = true;
     };
     void show(const Look& look);
-    void setCaret(int position); // in characters
+    void setCaret(int position);                              // in characters
+    void forgetTyped() { document()->clearUndoRedoStacks(); } // it is stored, or given up
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
