@@ -183,7 +183,7 @@ private:
 
     void keepRow() {
         constexpr std::size_t rowsBetween = 500;
-        for (SheetCell& each : row_) collector_.cell(each.kind, std::move(each.text));
+        for (SheetCell& each : row_) collector_.cell(std::move(each));
         collector_.endRow();
         bRow_ = bCells_ = false;
         if (collector_.row() % rowsBetween == 0) tellProgress(progress_, collector_.row(), SheetBounds::rows);

@@ -53,7 +53,7 @@ public:
         if (name == "s") text_.append(std::min(repeats(node, "c"), mostBlanks), ' ');
         if (name == "tab") text_.push_back('\t');
         if (name == "line-break") text_.push_back('\n');
-        bLastBlank_ = false;
+        if (name == "s" || name == "tab" || name == "line-break") bLastBlank_ = false;
         return text_.size() <= SheetBounds::textBytes;
     }
 
@@ -77,7 +77,7 @@ SheetCell cellOf(const pugi::xml_node& node) {
     if (type == "float" || type == "percentage" || type == "currency") {
         const auto number = doubleIn(attributeOf(node, "value").value());
         if (!number) return {Kind::Text, CellText::of(node)};
-        return {Kind::Number, digitsAsShown(numberDigits(*number), CellText::of(node))};
+        return {Kind::Number, digitsAsShown(numberDigits(*number), CellText::of(node)), type == "currency"};
     }
     if (type == "date") return isoCell(attributeOf(node, "date-value").value());
     if (type == "time") return durationCell(attributeOf(node, "time-value").value());
@@ -137,7 +137,7 @@ private:
                     break;
                 }
                 if (column < hidden_.size() && hidden_[column]) continue;
-                collector_.cell(bBlank ? Kind::Empty : read.kind, read.text);
+                collector_.cell(bBlank ? SheetCell() : read);
             }
         }
         collector_.endRow(repeats(node, "number-rows-repeated"));

@@ -147,9 +147,16 @@ private:
         else if (cell.what == OutCell::What::Date)
             rows_.append(" office:value-type=\"date\" office:date-value=\"").append(cell.iso).append("\">");
         else
-            rows_.append(" office:value-type=\"float\" office:value=\"").append(cell.digits).append("\">");
+            appendNumber(cell);
         appendParagraphs(rows_, text);
         rows_.append("</table:table-cell>");
+    }
+
+    void appendNumber(const OutCell& cell) {
+        const bool bMoney = cell.what == OutCell::What::Money;
+        rows_.append(bMoney ? " office:value-type=\"currency\" office:currency=\"USD\""
+                            : " office:value-type=\"float\"");
+        rows_.append(" office:value=\"").append(cell.digits).append("\">");
     }
 
     void appendStyles(std::string& out) const {

@@ -20,6 +20,7 @@ struct SheetCell {
     // Number: digits with ".", as "-1234.5"; Date "2024-12-31"; Time "13:05:00"; DateTime
     // "2024-12-31 13:05:00"; Boolean "true" or "false".
     std::string text;
+    bool bMoney = false; // a number that is shown with the sign of a currency
 };
 using SheetRow = std::vector<SheetCell>;
 

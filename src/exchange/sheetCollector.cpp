@@ -30,8 +30,9 @@ void tellProgress(const Progress& progress, std::size_t done, std::size_t total)
         core::raise(core::errors::cancelled);
 }
 
-void SheetCollector::cell(SheetCell::Kind kind, std::string text) {
-    if (kind == SheetCell::Kind::Empty || (kind == SheetCell::Kind::Text && text.empty())) {
+void SheetCollector::cell(SheetCell cell) {
+    std::string& text = cell.text;
+    if (cell.kind == SheetCell::Kind::Empty || (cell.kind == SheetCell::Kind::Text && text.empty())) {
         ++pendingCells_;
         return;
     }
@@ -43,7 +44,7 @@ void SheetCollector::cell(SheetCell::Kind kind, std::string text) {
     std::erase(text, '\0');
     if (text.size() > textWithin) textBytes_ += text.size() + blockBytes;
     if (textBytes_ > SheetBounds::textBytes) refuseSheet("its texts are too long");
-    row_.push_back({kind, std::move(text)});
+    row_.push_back(std::move(cell));
 }
 
 void SheetCollector::keep(const SheetRow& row) {

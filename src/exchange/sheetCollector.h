@@ -32,7 +32,8 @@ class SheetCollector {
 public:
     // A row far below the last one, or a cell far to the right, is refused only where something stands in
     // it: spreadsheets fill up to their edges with blanks.
-    void cell(SheetCell::Kind kind, std::string text);
+    void cell(SheetCell cell);
+    void cell(SheetCell::Kind kind, std::string text) { cell({kind, std::move(text)}); }
     void text(std::string text) { cell(SheetCell::Kind::Text, std::move(text)); }
     void blanks(std::size_t count) { pendingCells_ += count; }
     // The place of the next cell, from 0.

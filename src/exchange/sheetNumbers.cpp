@@ -94,6 +94,7 @@ public:
             return shape;
         }
         shape.places = bCutDown_ ? 0 : std::min(places_, mostPlaces);
+        shape.bMoney = bSign_;
         shape.bLeadingZero = !(bPoint_ && !bWholeZero_ && bWhole_);
         return shape;
     }
@@ -101,13 +102,18 @@ public:
 private:
     void step() {
         const char c = code_[at_++];
-        if (c == '"') return skipBehind('"');
+        if (c == '"') {
+            const std::size_t from = at_;
+            skipBehind('"');
+            return lookForSign(code_.substr(from, at_ - from));
+        }
         if (c == '\\' || c == '_' || c == '*') {
             ++at_;
             return;
         }
         if (c == '[') return bracket();
         const std::string_view rest = code_.substr(at_ - 1);
+        lookForSign(rest.substr(0, 3));
         for (const std::string_view word : {"AM/PM", "am/pm", "A/P", "a/p", "General", "GENERAL"})
             if (rest.starts_with(word)) {
                 at_ += word.size() - 1;
@@ -154,11 +160,17 @@ private:
         }
     }
     void skipBehind(char end) { at_ = std::min(code_.find(end, at_), code_.size() - 1) + 1; }
+    void lookForSign(std::string_view text) {
+        for (const std::string_view sign : {"$", "\xE2\x82\xAC", "\xC2\xA3", "\xC2\xA5"})
+            bSign_ = bSign_ || text.starts_with(sign);
+    }
     // "[h]" is an elapsed time; others are colours, conditions and currencies.
     void bracket() {
         const std::size_t from = at_;
         skipBehind(']');
         const std::string_view inside = code_.substr(from, at_ - 1 - from);
+        // "[$-409]" is a language alone.
+        if (inside.starts_with('$') && !inside.starts_with("$-")) bSign_ = true;
         if (!inside.empty() && inside.find_first_not_of("hHmMsS") == std::string_view::npos) bTime_ = true;
     }
 
@@ -167,6 +179,7 @@ private:
     int places_ = 0;
     bool bDate_ = false, bTime_ = false, bMonth_ = false;
     bool bCutDown_ = false, bPoint_ = false, bWhole_ = false, bWholeZero_ = false;
+    bool bSign_ = false;
 };
 
 } // namespace
@@ -186,6 +199,7 @@ NumberShape builtInShape(std::size_t id) {
         shape.what = What::Time;
     else if (id == 2 || id == 4 || within(7, 8) || within(39, 40) || within(43, 44))
         shape.places = 2;
+    shape.bMoney = within(5, 8) || id == 42 || id == 44;
     return shape;
 }
 
@@ -255,7 +269,8 @@ SheetCell shapedCell(double serial, const NumberShape& shape, bool b1904) {
     const bool bPossible = serial >= 0 && serial < lastSerial;
     if (shape.what == What::Number || !bPossible)
         return {Kind::Number,
-                numberDigits(serial, shape.what == What::Number ? shape.places : 0, shape.bLeadingZero)};
+                numberDigits(serial, shape.what == What::Number ? shape.places : 0, shape.bLeadingZero),
+                shape.bMoney};
     const long total = std::lround(serial * static_cast<double>(secondsOfDay));
     if (shape.what == What::Time) return {Kind::Time, timeText(total)};
     constexpr int days1904 = 1462;

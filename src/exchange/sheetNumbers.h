@@ -14,6 +14,7 @@ struct NumberShape {
     What what = What::Number;
     int places = 0;           // at least so many behind the point
     bool bLeadingZero = true; // "0.5", not ".5"
+    bool bMoney = false;      // with the sign of a currency
 };
 // "mm/dd/yyyy", "#,##0.00", "[h]:mm:ss"
 NumberShape shapeOf(std::string_view formatCode);

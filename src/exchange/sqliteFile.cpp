@@ -107,12 +107,14 @@ private:
 };
 
 // What a column is declared as; the values themselves are numbers and texts.
-enum class Declared : std::uint8_t { Plain, Day, Truth };
+enum class Declared : std::uint8_t { Plain, Day, Truth, Money };
 
 Declared declaredOf(const Statement& statement, int column) {
     const char* told = sqlite3_column_decltype(statement.get(), column);
     const std::string type = core::upper(told == nullptr ? "" : told);
     if (type.starts_with("BOOL")) return Declared::Truth;
+    if (type.starts_with("MONEY") || type.starts_with("CURRENCY") || type.ends_with(",2)"))
+        return Declared::Money;
     const bool bDay = type.starts_with("DATE") || type.starts_with("TIME");
     return bDay ? Declared::Day : Declared::Plain;
 }
@@ -124,15 +126,15 @@ void readValue(SheetCollector& collector, const Statement& statement, int column
         std::string digits = OpenFile::textAt(statement, column);
         if (declared == Declared::Truth && (digits == "0" || digits == "1"))
             return collector.cell(Kind::Boolean, digits == "1" ? "true" : "false");
-        return collector.cell(Kind::Number, std::move(digits));
+        return collector.cell({Kind::Number, std::move(digits), declared == Declared::Money});
     }
     case SQLITE_FLOAT:
-        return collector.cell(Kind::Number, numberDigits(sqlite3_column_double(statement.get(), column)));
+        return collector.cell({Kind::Number, numberDigits(sqlite3_column_double(statement.get(), column)),
+                               declared == Declared::Money});
     case SQLITE_TEXT: {
         std::string text = OpenFile::textAt(statement, column);
         if (declared != Declared::Day) return collector.text(std::move(text));
-        SheetCell read = isoCell(text);
-        return collector.cell(read.kind, std::move(read.text));
+        return collector.cell(isoCell(text));
     }
     default: // bytes are no text
         return collector.blanks(1);

@@ -89,8 +89,10 @@ public:
             while (at_ < text_.size() && (text_[at_] == ' ' || text_[at_] == '\t'))
                 whole.append(physical().substr(1));
         } while (core::trim(whole).empty());
-        const auto head = splitUnescaped(whole, ':', true).front();
-        if (head.size() == whole.size()) refuseSheet("one of its lines is no line of a vCard");
+        constexpr std::size_t longestHead = 4096;
+        const std::string_view front = std::string_view(whole).substr(0, longestHead);
+        const auto head = splitUnescaped(front, ':', true).front();
+        if (head.size() == front.size()) refuseSheet("one of its lines is no line of a vCard");
         auto pieces = splitUnescaped(head, ';', true);
         line.name = core::upper(pieces.front().substr(pieces.front().find('.') + 1));
         line.parameters.clear();
@@ -216,7 +218,7 @@ private:
             for (const std::size_t i : used) {
                 SheetCell cell{SheetCell::Kind::Text, std::move(card[i])};
                 if (vcardFields[i].property == "BDAY" && !cell.text.empty()) cell = birthday(cell.text);
-                collector.cell(cell.kind, std::move(cell.text));
+                collector.cell(std::move(cell));
             }
             collector.endRow();
         }

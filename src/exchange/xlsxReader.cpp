@@ -233,8 +233,7 @@ private:
             return value.empty() ? collector_.blanks(1)
                                  : collector_.cell(Kind::Boolean, value == "1" ? "true" : "false");
         if (type == "d") {
-            SheetCell read = isoCell(value);
-            return collector_.cell(read.kind, std::move(read.text));
+            return collector_.cell(isoCell(value));
         }
         if (type == "str" || type == "e") {
             std::string text;
@@ -244,8 +243,7 @@ private:
         const auto number = doubleIn(value);
         if (!number) return collector_.text(std::string(value));
         const std::size_t style = countIn(attributeOf(cell, "s"));
-        SheetCell read = shapedCell(*number, style < shapes_.size() ? shapes_[style] : NumberShape(), b1904_);
-        collector_.cell(read.kind, std::move(read.text));
+        collector_.cell(shapedCell(*number, style < shapes_.size() ? shapes_[style] : NumberShape(), b1904_));
     }
 
     const std::string& shared(std::string_view index) const {

@@ -33,7 +33,7 @@ struct ImportRequest {
     std::string file; // empty: the user is asked
 };
 
-bool isDelimited(exchange::Format format) {
+bool isTextFile(exchange::Format format) {
     return format == exchange::Format::Csv || format == exchange::Format::Tsv;
 }
 
@@ -125,7 +125,7 @@ void importFrm::readFile() {
     const auto format = tableFormat(file_);
     if (!format) core::raise(core::errors::badFileFormat, "the program knows no table of this kind");
     format_ = *format;
-    isText_ = isDelimited(format_);
+    isText_ = isTextFile(format_);
     encodingCbo.Visible = separatorCbo.Visible = quoteCbo.Visible = isText_;
     if (isText_) {
         auto bytes = file::readSmallFile(file_, mostTableBytes);

@@ -23,6 +23,7 @@ public:
         switch (cell.kind) {
         case SheetCell::Kind::Number:
             ++count_, ++numberCells_;
+            moneyCells_ += cell.bMoney;
             return;
         case SheetCell::Kind::Date:
         case SheetCell::Kind::DateTime:
@@ -141,13 +142,14 @@ private:
 
     // Amounts have their sign, or cents throughout behind thousands.
     bool isMoney(char decimal) const {
+        if (moneyCells_ > 0 && moneyCells_ == count_) return true;
         const Marks& marks = marks_.at(decimal == ',' ? 1 : 0);
         if (marks.ofMorePlaces > 0) return false;
         return !sign_.empty() || (marks.grouped > 0 && marks.ofTwoPlaces == marks.fits && numberCells_ == 0);
     }
 
     bool isTyped_;
-    std::size_t count_ = 0, numberCells_ = 0, dotted_ = 0;
+    std::size_t count_ = 0, numberCells_ = 0, moneyCells_ = 0, dotted_ = 0;
     std::array<std::size_t, 3> dates_{};
     std::array<Marks, 2> marks_{}; // with a decimal point, with a decimal comma
     bool hasCode_ = false, hasSigns_ = false;
