@@ -149,6 +149,13 @@ click mnuExportTable; press Alt+N -> exportFrm=Export Opt1_0=* Opt1_1=- Opt1_2=x
     Check2=- OKButton=-
 press Escape -> -exportFrm LV=*
 )");
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(path("people.csv"))});
+        QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QString shown;
+        run.onDialog = [&](QDialog& dialog) { shown = dialog.objectName(); };
+        QCoreApplication::sendEvent(&run.window, &drop);
+        QTRY_COMPARE(shown, u"importFrm"_s);
     }
 
     void undoneByTheKeys() {
