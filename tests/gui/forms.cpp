@@ -151,10 +151,12 @@ press Escape -> -exportFrm LV=*
 )");
         QMimeData dragged;
         dragged.setUrls({QUrl::fromLocalFile(path("people.csv"))});
+        QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
         QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
         QString shown;
         run.onDialog = [&](QDialog& dialog) { shown = dialog.objectName(); };
-        QCoreApplication::sendEvent(&run.window, &drop);
+        for (QEvent* event : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&drop)})
+            QCoreApplication::sendEvent(&run.window, event);
         QTRY_COMPARE(shown, u"importFrm"_s);
     }
 
