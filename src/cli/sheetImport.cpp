@@ -81,6 +81,7 @@ void appendTo(Session& session, const SheetImport& import, ImportTable& table) {
     session.change([&] { failed = records.store(); });
     session.save();
     std::vector<std::string> uncalculated;
+    uncalculated.reserve(failed.size());
     for (const auto& [key, reason] : failed)
         uncalculated.push_back(
             std::string(key).append(" is stored, but cannot be calculated (").append(reason) + ')');

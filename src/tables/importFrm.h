@@ -3,6 +3,7 @@
 #include "exchange/delimited.h"
 #include "tables/importTable.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +24,10 @@ public:
     explicit importFrm(
         app::App& app); // Load; without a table that can be read it unloads itself after a message
 
+    // As typeCbo offers them; the last two come from this program alone.
+    static constexpr std::array types = {core::ColumnType::Text,        core::ColumnType::Number,
+                                         core::ColumnType::Currency,    core::ColumnType::Date,
+                                         core::ColumnType::Calculation, core::ColumnType::Picture};
     struct List {
         std::vector<std::string> entries;
         int ListIndex = 0;

@@ -56,7 +56,7 @@ $1 fwk search d.fwk --where Bought range 1/1/2004 soon -> ! "soon" is no date fo
 $1 fwk search d.fwk --where Note ge soon -> ! Type mismatch: "SOON" is no date
 $1 fwk search a.fwk --where Title is x -o link.fwk --yes -> ! Ferrowick: You cannot sa...
 ! link.fwk: is the database that was searched && $1 fwk replace inv.fwk a b -> ! Ferrowick: This feature ...
-! words have not been replaced && $1 fwk export a.fwk -o t.txt -> ! t.txt: a table is a .csv or a .json file
+! words have not been replaced && $1 fwk export a.fwk -o t.txt -> ! t.txt: a table is a .csv or a .json file, or a .tsv, .xlsx, .ods, .sqlite, .html or .vcf one
 $1 fwk export a.fwk -o no/t.csv -> ! no/t.csv: could not be written: File not found: no/t.csv
 $1 fwk export a.fwk -o link.csv -> ! link.csv: is the database itself
 $ cp $(which fwk) $HOME/tmp/x; $HOME/tmp/x report a.fwk -o a.pdf; rm $HOME/tmp/x

@@ -129,23 +129,6 @@ press Alt+L; press Return -> -pasteFrm LV.2=>0|-|$.00 LV.3=-|-|- LV=* SB1_1=3 re
 )");
     }
 
-    void undoneByTheKeys() {
-        const DataFile data = DataFile("Name Qty:4", "Bolt|2;Nut|3").objects("F|Name|1440|1440|2000|1000");
-        Session run(database("undo.fwk", data));
-        run.platform.answers = {platform::Answer::Yes};
-        run.play(R"(
-press Home; press Delete -> "Are you sure?" -LV LV.0=>Nut|3 LV.1=-|- SB1_5=Document Modified
-press Ctrl+Z -> LV.0=>Bolt|2 LV.1=Nut|3 LV.2=-|- SB1_5=Document Saved
-press Ctrl+Shift+Z; press Ctrl+Z ->
-tab 1; focus f1; press End; type xy -> Totals=- Properties=- Delete=- page=1 Slider1=1 recordPosition=Record 1 of 2
-    sheet=1 at 19,0 f1=Boltxy|
-press Ctrl+Z -> f1=Bolt|
-type z; click layoutNavBar.Update -> SB1_5=Document Modified f1=Boltz|
-press Ctrl+Z -> SB1_5=Document Saved f1=|Bolt
-press Ctrl+Shift+Z -> SB1_5=Document Modified f1=|Boltz
-)");
-    }
-
     void aTableImportedAndExported() {
         Session run(database("table.fwk", DataFile("No:4 Name Price:2", "1|Bolt|$1.00")));
         std::ofstream(path("people.csv").toStdString())
@@ -165,6 +148,32 @@ file made.fwk; press Alt+I -> -importFrm MainFrm=made.fwk LV.0=>Ann|12/31/2024|$
 click mnuExportTable; press Alt+N -> exportFrm=Export Opt1_0=* Opt1_1=- Opt1_2=x List1.0=>Name List1.1=Day List1.2=2
     Check2=- OKButton=-
 press Escape -> -exportFrm LV=*
+)");
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(path("people.csv"))});
+        QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QString shown;
+        run.onDialog = [&](QDialog& dialog) { shown = dialog.objectName(); };
+        for (QEvent* event : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&drop)})
+            QCoreApplication::sendEvent(&run.window, event);
+        QTRY_COMPARE(shown, u"importFrm"_s);
+    }
+
+    void undoneByTheKeys() {
+        const DataFile data = DataFile("Name Qty:4", "Bolt|2;Nut|3").objects("F|Name|1440|1440|2000|1000");
+        Session run(database("undo.fwk", data));
+        run.platform.answers = {platform::Answer::Yes};
+        run.play(R"(
+press Home; press Delete -> "Are you sure?" -LV LV.0=>Nut|3 LV.1=-|- SB1_5=Document Modified
+press Ctrl+Z -> LV.0=>Bolt|2 LV.1=Nut|3 LV.2=-|- SB1_5=Document Saved
+press Ctrl+Shift+Z; press Ctrl+Z ->
+tab 1; focus f1; press End; type xy -> Totals=- Properties=- Delete=- page=1 Slider1=1 recordPosition=Record 1 of 2
+    sheet=1 at 19,0 f1=Boltxy|
+press Ctrl+Z -> f1=Bolt|
+type z; click layoutNavBar.Update -> SB1_5=Document Modified f1=Boltz|
+press Ctrl+Z -> SB1_5=Document Saved f1=|Bolt
+press Ctrl+Shift+Z -> SB1_5=Document Modified f1=|Boltz
 )");
     }
 

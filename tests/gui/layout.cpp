@@ -148,7 +148,7 @@ press Tab; press Tab; press Tab -> sheet=23 at 19,-95 layoutVScroll=1425 f8=[spi
 press Tab; press Return -> "You selected a" sheet=23 at -13,-95 layoutHScroll=195 imgHolder1=*
 another imgHolder1; drag tLabel10 0,60; another tLabel10; click tLabel1; double clipPic1 -> layoutPic2=*(cut)
 click tLabel10; double imgHolder1 -> "mailto:library@example.org" "You selected a"
-slide Slider1 7; focus f2; press Ctrl+Z -> Slider1=7 recordPosition=Record 7 of 42 f1=7 f2=|Pride and Prejudice
+slide Slider1 7; focus f2 -> Slider1=7 recordPosition=Record 7 of 42 f1=7 f2=|Pride and Prejudice
     f3=Jane Austen f4=08/18/1999 f5=$949.97 f6=4 f7=$3,799.88 f8=lent to a friend. lent twice
 press End; type andmoreandmoreandmoreandmoreandmoreandmoreandmore -> f2=Pride and
     Prejudiceandmoreandmoreandmoreandmoreandmoreandmoreandmore|(scrolled)

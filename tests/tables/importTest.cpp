@@ -122,8 +122,9 @@ TEST_F(Importing, ANewDatabaseIsMadeWholeOrNotAtAll) {
     const std::string before = cells();
     const auto target = platform.folder / "new.fwk";
     import("t.csv", european, [&](importFrm& form) {
-        EXPECT_EQ(shown(form), "t.csv: 2 records. new +Name:Text +Day:Date +Price:Text +Extra:Text 2/Name/B|x/has a "
-                               "\"|\", which divides the cells of a database 1 cell cannot be stored:");
+        EXPECT_EQ(shown(form),
+                  "t.csv: 2 records. new +Name:Text +Day:Date +Price:Text +Extra:Text 2/Name/B|x/has a \"|\", "
+                  "which divides the cells of a database 1 cell cannot be stored:");
     form.List2_Click(2);
     form.typeCbo_Click(2); // Currency
     EXPECT_EQ(form.Grid1[0].Cells[2], "$1,234.50");

@@ -1,0 +1,148 @@
+#include "core/text.h"
+#include "tables/counted.h"
+#include "tables/importFrm.h"
+#include "tables/placeIn.h"
+
+#include <algorithm>
+#include <filesystem>
+
+// What the form shows of the table.
+namespace tables {
+
+namespace {
+
+using core::ColumnType;
+
+constexpr std::size_t previewRows = 20;
+constexpr std::size_t shownRefused = 1000;
+
+std::vector<std::string> waysToRead(const ReadAs& as) {
+    if (as.bToTheLetter) return {"As it is"};
+    if (as.type == ColumnType::Date) return {"Day, month, year", "Month, day, year", "Year, month, day"};
+    if (as.type == ColumnType::Number || as.type == ColumnType::Currency) return {"1,234.50", "1.234,50"};
+    return {"As it is"};
+}
+
+int wayToRead(const ReadAs& as) {
+    if (as.bToTheLetter) return 0;
+    if (as.type == ColumnType::Date) return static_cast<int>(as.dates);
+    const bool isNumber = as.type == ColumnType::Number || as.type == ColumnType::Currency;
+    return isNumber && as.decimal == ',' ? 1 : 0;
+}
+
+std::string noteOf(const Recognized& how) {
+    std::string note;
+    if (how.bDatesOpen || how.bDecimalOpen) {
+        note.append("Please check: \"").append(how.example).append("\" can be read in two ways.");
+    }
+    if (!how.sign.empty()) {
+        note.append(note.empty() ? "" : " ").append("The sign ").append(how.sign);
+        note.append(" is not kept: amounts are shown with $.");
+    }
+    return note;
+}
+
+} // namespace
+
+void importFrm::showAll() {
+    Check1 = table_->hasHeadings();
+    Label1 = std::filesystem::path(file_).filename().string();
+    Label1.append(": ").append(counted(table_->count(), "record", "records")).append(".");
+    showColumns();
+    showColumn();
+    showRows();
+    showRefusals();
+}
+
+void importFrm::showColumns() {
+    List2.clear();
+    for (std::size_t i = 0; i < table_->columns().size(); ++i) {
+        const ImportTable::Column& column = table_->columns()[i];
+        Column shown;
+        shown.Checked = column.bImport;
+        shown.Name = column.name;
+        if (isAppending()) shown.Name = column.target != nullptr ? column.target->Text : column.heading;
+        if (column.bImport) {
+            shown.Type = core::typeName(column.how.as.type);
+            shown.ReadAs = waysToRead(column.how.as).at(static_cast<std::size_t>(wayToRead(column.how.as)));
+            shown.Note = noteOf(column.how);
+        } else {
+            shown.Note = targets_.whyLeftOut[i];
+        }
+        List2.push_back(std::move(shown));
+    }
+}
+
+void importFrm::showColumn() {
+    const ImportTable::Column& column = table_->columns()[this->column()];
+    const ReadAs& as = column.how.as;
+    Text1 = column.name;
+    Text1Visible = !isAppending();
+    targetCbo.Visible = isAppending();
+    targetCbo.entries = {"(leave out)"};
+    for (const core::Column* target : targets_.choices) targetCbo.entries.push_back(target->Text);
+    targetCbo.ListIndex = placeIn(targets_.choices, column.target) + 1;
+    typeCbo.entries.clear();
+    // The last two are for columns that have them already.
+    const std::size_t offered = placeIn(types, as.type) > 3 ? types.size() : 4;
+    for (std::size_t i = 0; i < offered; ++i) typeCbo.entries.emplace_back(core::typeName(types.at(i)));
+    typeCbo.ListIndex = placeIn(types, as.type);
+    typeCbo.Enabled = column.bImport && !isAppending();
+    readAsCbo.entries = waysToRead(as);
+    readAsCbo.ListIndex = wayToRead(as);
+    readAsCbo.Enabled = column.bImport && readAsCbo.entries.size() > 1;
+}
+
+void importFrm::showRows() {
+    Grid1.assign(std::min(previewRows, table_->count()), {});
+    for (std::size_t row = 0; row < Grid1.size(); ++row) {
+        Grid1[row].Number = table_->rowNumber(row);
+        for (std::size_t i = 0; i < table_->columns().size(); ++i) {
+            CheckedCell cell;
+            if (table_->columns()[i].bImport) cell = table_->cell(row, i);
+            Grid1[row].Refused.push_back(!cell.reason.empty());
+            Grid1[row].Cells.push_back(cell.reason.empty() ? std::move(cell.text)
+                                                           : std::string(table_->written(row, i)));
+        }
+    }
+}
+
+void importFrm::showRefusals() {
+    List1.clear();
+    for (const ImportTable::Refusal& refusal : table_->refusals(shownRefused))
+        List1.push_back({std::to_string(refusal.row), List2[refusal.column].Name, std::string(refusal.value),
+                         refusal.reason});
+    std::size_t refused = table_->refusedCount();
+    if (records_) {
+        for (const NewRecords::Refusal& refusal : records_->refusals(shownRefused))
+            List1.push_back({std::to_string(refusal.row), List2[refusal.column].Name,
+                             std::string(refusal.value), refusal.reason});
+        refused += records_->refusedCount();
+    }
+    Label2.clear();
+    const auto add = [&](const std::string& sentence) {
+        Label2.append(Label2.empty() ? "" : "\n").append(sentence);
+    };
+    std::string why;
+    if (!isAppending())
+        why = table_->whyNoDatabase();
+    else if (std::ranges::none_of(List2, &Column::Checked))
+        why = "No column is chosen.";
+    else if (table_->count() > records_->room())
+        why = "The database has room for " + counted(records_->room(), "more record.", "more records.");
+    else if (table_->count() == 0)
+        why = "The table has no records.";
+    for (const Column& column : List2)
+        if (!column.Note.empty()) add(column.Name + ": " + column.Note);
+    if (refused > 0) add(counted(refused, "cell cannot be stored:", "cells cannot be stored:"));
+    if (!why.empty()) add(why);
+    const bool canBeText =
+        std::ranges::any_of(table_->refusals(shownRefused), [&](const ImportTable::Refusal& refusal) {
+            return table_->columns()[refusal.column].how.as.type != ColumnType::Text;
+        });
+    Command1Visible = !isAppending() && canBeText;
+    Check2Visible = refused > 0;
+    okEnabled = why.empty() && (refused == 0 || Check2);
+}
+
+} // namespace tables
