@@ -95,8 +95,8 @@ public:
     void appendCells();
     void removeCells(int subItem);
 
-    // Hands out the items themselves, in their order, to be taken out, put in and moved about. Nothing has the
-    // focus afterwards.
+    // Hands out the items themselves, in their order, to be taken out, put in and moved about. Nothing has
+    // the focus afterwards.
     void rearrange(const std::function<void(std::vector<std::unique_ptr<Item>>&)>& change);
 
     // Puts the items into the order that SortKey and SortOrder ask for. Stable; by upper-cased
