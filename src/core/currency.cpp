@@ -9,7 +9,7 @@ namespace core {
 
 namespace {
 
-constexpr int places = 4;
+constexpr int currencyPlaces = 4;
 constexpr int mostTenThousandths = 19; // of the number of ten thousandths
 constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
 
@@ -17,7 +17,7 @@ constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int
 
 Currency Currency::parse(std::string_view text) {
     if (const std::optional<PlainNumber> plain = readPlainNumber(text)) {
-        const std::optional<std::uint64_t> units = plain->digitsWith(places, Rounding::HalfEven);
+        const std::optional<std::uint64_t> units = plain->digitsWith(currencyPlaces, Rounding::HalfEven);
         if (units && *units <= largest) {
             const auto value = static_cast<std::int64_t>(*units);
             return Currency(plain->negative ? -value : value);
@@ -25,9 +25,9 @@ Currency Currency::parse(std::string_view text) {
     }
     const std::optional<Decimal> read = readDecimal(text);
     if (!read) raise(errors::typeMismatch, "\"" + std::string(text) + "\" is no amount");
-    const Decimal number = rounded(*read, places, Rounding::HalfEven);
+    const Decimal number = rounded(*read, currencyPlaces, Rounding::HalfEven);
     if (number.isZero()) return {};
-    const int digits = number.point + places;
+    const int digits = number.point + currencyPlaces;
     if (digits > mostTenThousandths) raise(errors::overflow, std::string(text));
     // A number of 19 digits fits into the unsigned type, and may be beyond the signed one.
     std::uint64_t magnitude = 0;

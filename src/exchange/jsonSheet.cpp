@@ -154,8 +154,8 @@ private:
         } else if (list_ == "columns" && bInObject_ && depth_ == 2) {
             heading_.push_back(std::move(text));
         } else if (list_ == "columns" && bInObject_ && depth_ == 3) {
-            if (key_ == "name") column_.Text = std::move(text);
             if (key_ == "type") column_.setTypeFromFile(typeTag(text));
+            if (key_ == "name") column_.Text = std::move(text);
         } else if (depth_ < rowDepth()) {
             if (!bInObject_) refuseSheet("it is no list of records");
         }

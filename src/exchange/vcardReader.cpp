@@ -168,30 +168,41 @@ public:
 private:
     static constexpr std::size_t mostCards = SheetBounds::rows - 1;
 
+    // Whether a field says where the line goes by its type; then it does not go to the one without.
+    static bool hasTypedField(const CardLine& line) {
+        return std::ranges::any_of(vcardFields, [&](const VcardField& field) {
+            return field.property == line.name && !field.type.empty() && line.has(field.type);
+        });
+    }
+
+    // Of a second address nothing fits beside the first.
+    bool isFilled(std::string_view property) const {
+        for (std::size_t i = 0; i < vcardFields.size(); ++i)
+            if (vcardFields[i].property == property && vcardFields[i].part >= 0 && !card_[i].empty())
+                return true;
+        return false;
+    }
+
     void take(const CardLine& line) {
-        bool bTyped = false; // goes where its type says, and not to the one without
-        for (std::size_t i = 0; i < vcardFields.size(); ++i)
-            bTyped = bTyped || (vcardFields[i].property == line.name && !vcardFields[i].type.empty() &&
-                                line.has(vcardFields[i].type));
+        const bool bTyped = hasTypedField(line), bFilled = isFilled(line.name);
         const auto parts = splitUnescaped(line.value, ';', false);
-        bool bFilled = false; // of a second address nothing fits beside the first
-        for (std::size_t i = 0; i < vcardFields.size(); ++i)
-            bFilled = bFilled ||
-                      (vcardFields[i].property == line.name && vcardFields[i].part >= 0 && !card_[i].empty());
         for (std::size_t i = 0; i < vcardFields.size(); ++i) {
             const VcardField& field = vcardFields[i];
             if (field.property != line.name || (!field.type.empty()) != bTyped) continue;
             if (bTyped && !line.has(field.type)) continue;
-            if (field.part < 0) {
-                std::string value = unescaped(line.value);
-                if (line.name == "TEL" && value.starts_with("tel:")) value.erase(0, 4);
-                if (value.empty()) continue;
-                if (!card_[i].empty()) card_[i].append(line.name == "NOTE" ? "\n" : ", ");
-                card_[i].append(value);
-            } else if (!bFilled && static_cast<std::size_t>(field.part) < parts.size()) {
+            if (field.part < 0)
+                addWhole(card_[i], line);
+            else if (!bFilled && static_cast<std::size_t>(field.part) < parts.size())
                 card_[i] = unescaped(parts[static_cast<std::size_t>(field.part)]);
-            }
         }
+    }
+
+    static void addWhole(std::string& into, const CardLine& line) {
+        std::string value = unescaped(line.value);
+        if (line.name == "TEL" && value.starts_with("tel:")) value.erase(0, 4);
+        if (value.empty()) return;
+        if (!into.empty()) into.append(line.name == "NOTE" ? "\n" : ", ");
+        into.append(value);
     }
 
     void keepCard(const Progress& progress) {
