@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--wait|--dates|--decimal|--encoding|--separator) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--wait|--dates|--decimal|--encoding|--separator|--format|--sheet) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -58,7 +58,7 @@ _fwk() {
     (-o:*|--output:*)
         case $command in
         (search|restore) _files -g '*.fwk' ;;
-        (export) _files -g '*.(csv|json)' ;;
+        (export) _files -g '*.(csv|tsv|xlsx|ods|json|sqlite|html|vcf)' ;;
         (*) _files -g '*.pdf' ;;
         esac
         return ;;
@@ -66,6 +66,7 @@ _fwk() {
     (--column:*|--where:0) _fwk_columns; return ;;
     (--where:1) compadd ge le is within range; return ;;
     (--dates:*) compadd dmy mdy ymd; return ;;
+    (--format:*) compadd csv tsv xlsx ods json sqlite html vcf; return ;;
     (--encoding:*) compadd utf-8 utf-16le utf-16be windows-1252; return ;;
     (-*) return ;;
     esac
@@ -73,7 +74,7 @@ _fwk() {
     (:*) _fwk_commands ;;
     (column:0) _fwk_commands column ;;
     (*:0|clone:1|save-as:1) _files -g '*.fwk' ;;
-    (import:1) _files -g '*.csv' ;;
+    (import:1) _files -g '*.(csv|tsv|txt|xlsx|xlsm|ods|json|sqlite|sqlite3|db|html|htm|vcf)' ;;
     (new:*|column-add:*) compset -P '*:' && compadd Text Number Currency Date Picture Calculation ;;
     (sort:1|expression:1|serial:1|set:1|total:*|column-rename:1|column-remove:1) _fwk_columns ;;
     (add:*|update:<2->) [[ $PREFIX == *=* ]] || _fwk_columns -S = ;;
