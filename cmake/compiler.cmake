@@ -6,6 +6,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     # GCC 12 sees overlaps in the standard library's own string concatenation that cannot be (its bug 105651).
     target_compile_options(ferrowick_options INTERFACE -Wno-restrict)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    # What clang-tidy would look for at many times the cost. What moc makes has names that are reserved.
+    target_compile_options(ferrowick_options INTERFACE -Wsuggest-override
+        $<$<NOT:$<BOOL:$<TARGET_PROPERTY:AUTOMOC>>>:-Wreserved-identifier>)
+endif()
 if(FERROWICK_WERROR)
     target_compile_options(ferrowick_options INTERFACE -Werror)
 endif()
@@ -28,9 +33,10 @@ if(CCACHE_PROGRAM)
 endif()
 
 # ferrowick_unity(TARGET ...)
-# A file must still include what it uses: builds without FERROWICK_UNITY, the daily ones, check that.
+# A file must still include what it uses: builds without FERROWICK_UNITY, the daily ones, check that. A room is one or
+# two files then, since most of the time goes into the headers.
 function(ferrowick_unity)
-    set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ${FERROWICK_UNITY} UNITY_BUILD_BATCH_SIZE 16)
+    set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ${FERROWICK_UNITY} UNITY_BUILD_BATCH_SIZE 32)
 endfunction()
 
 # ferrowick_precompile(TARGET HEADER ...)

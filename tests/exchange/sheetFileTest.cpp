@@ -268,11 +268,11 @@ TEST_F(SheetFile, OfOtherPrograms) {
         "begin:vcard\nFN;ENCODING=QUOTED-PRINTABLE;CHARSET=UTF-8:=C3=86=\n=20x\nTEL;CELL:1\nTEL;FAX:2\nEND:"
         "VCARD -> "
         "Name|Mobile|Fax|/\xC3\x86 x|1|2|/; BEGIN:VCARD\nFN:x -> !; FN:x\n -> !; x -> !; ";
-    for (const auto& [name, cases] : {std::pair("a.json", json), std::pair("a.vcf", cards)})
-        for (const auto& c : table(cases)) {
-            writeBytes(path(name), c[0]);
+    for (const auto& file : {std::pair("a.json", json), std::pair("a.vcf", cards)})
+        for (const auto& c : table(file.second)) {
+            writeBytes(path(file.first), c[0]);
             std::string got;
-            if (raisedBy([&] { got = told(read(name)); }) == core::errors::badFileFormat) got = "!";
+            if (raisedBy([&] { got = told(read(file.first)); }) == core::errors::badFileFormat) got = "!";
             EXPECT_EQ(got, c[1]) << c[0];
         }
 }

@@ -145,7 +145,7 @@ TEST_F(VersionsTest, PicturesAreThereOnceAndGoWithTheirLastVersion) {
 }
 
 TEST_F(VersionsTest, TheBudgetTakesTheOldestAndTheLastOfEachFileLast) {
-    const auto bytes = [this](int i) { // too random to pack
+    const auto bytes = [](int i) { // too random to pack
         std::string text = std::to_string(i);
         unsigned state = 12345U + static_cast<unsigned>(i);
         while (text.size() < 2000) text += static_cast<char>((state = state * 1103515245U + 12345U) >> 16U);

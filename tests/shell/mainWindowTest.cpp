@@ -28,8 +28,9 @@ struct MainWindow : testing::Test, Program {
             shell::toolbarKeys(), shell::buttonMenuKeys("Save"), shell::buttonMenuKeys("Print")};
         for (const shell::Menu& menu : shell::menuBar()) keys.emplace_back(menu.items);
         std::string all;
-        for (const std::string_view key : keys | std::views::join)
-            if (key != "-" && test(key)) all.append(key) += ' ';
+        for (const auto& menu : keys)
+            for (const std::string_view key : menu)
+                if (key != "-" && test(key)) all.append(key) += ' ';
         return all;
     }
     // What has come up since the last look, or with that command.
