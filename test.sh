@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Builds Ferrowick and runs all its tests: as released (but for the window), then with the address and undefined-behaviour
-# sanitizers; then checks the formatting and the style, and fuzzes the readers for a while.
+# Builds Ferrowick as it is released and runs the tests that start its programs; builds it with the address and
+# undefined-behaviour sanitizers and runs all the others; then checks the formatting and the style, and fuzzes the readers
+# for a while.
 #   ./test.sh [--quick]
-# --quick  the released build and its tests alone
+# --quick  the released build alone, with all tests
 # The last line is "N passed, N failed"; a step that is no test counts as one failure when it fails.
 set -uo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")" || exit 1
@@ -74,21 +75,21 @@ check_format() {
 
 # clang-tidy is loud about what it keeps to itself; only its findings are shown.
 check_style() {
-    scripts/tidy.sh build/release >"$logs/tidy.log" 2>&1 && return
+    scripts/tidy.sh --quick build/sanitized >"$logs/tidy.log" 2>&1 && return
     grep -E '(error|warning): ' "$logs/tidy.log" | sort -u
     return 1
 }
 
-# Starts from the databases of the tests. An input that breaks the program stays in build/fuzz/found-*.
+# Starts from the databases of the tests. An input that breaks the program stays in build/sanitized/found-*.
 fuzz() {
-    cmake --preset fuzz --log-level=WARNING &&
-        cmake --build --preset fuzz --target fuzz_reader fuzz_archive fuzz_corpus -- -j2 "${quiet[@]}" || return 1
+    local at=build/sanitized
+    cmake --build --preset sanitized --target fuzz_corpus -- "${quiet[@]}" || return 1
     local target failed=0 running=()
     for target in reader archive; do
-        mkdir -p "build/fuzz/grown-$target"
-        "build/fuzz/fuzz/fuzz_$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
-            -print_final_stats=1 -verbosity=0 -dict=fuzz/reader.dict -artifact_prefix="build/fuzz/found-$target-" \
-            "build/fuzz/grown-$target" "build/fuzz/corpus-$target" >"$logs/fuzz-$target.log" 2>&1 &
+        mkdir -p "$at/grown-$target"
+        "$at/fuzz/fuzz_$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
+            -print_final_stats=1 -verbosity=0 -dict=fuzz/reader.dict -artifact_prefix="$at/found-$target-" \
+            "$at/grown-$target" "$at/corpus-$target" >"$logs/fuzz-$target.log" 2>&1 &
         running+=($!)
     done
     for target in "${running[@]}"; do wait "$target" || failed=1; done
@@ -115,10 +116,12 @@ packages=(build run test)
 $quick || packages+=(tidy)
 step "packages" scripts/install-packages.sh "${packages[@]}" || finish
 
-# The journeys through the window run once, with the sanitizers, or they would be compiled twice.
-step "build, release" build release -DFERROWICK_WINDOW_TESTS="$($quick && echo ON || echo OFF)" && tests release
+# What does not start a program runs once, with the sanitizers, or it would be compiled twice.
+step "build, release" build release -DFERROWICK_ROOM_TESTS="$($quick && echo ON || echo OFF)" && tests release
 if ! $quick; then
-    step "build, sanitized" build sanitized && tests sanitized
+    clang=()
+    command -v clang++-14 >/dev/null || clang=(-DCMAKE_CXX_COMPILER=g++ -DFERROWICK_FUZZ=OFF)
+    step "build, sanitized" build sanitized "${clang[@]}" && tests sanitized
     step "formatting" check_format
     step "clang-tidy" check_style
     if command -v clang++-14 >/dev/null; then
