@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <vector>
 
 namespace print {
 
@@ -35,6 +37,26 @@ void drawImage(DrawTarget& target, const core::LayoutObject& holder, const core:
                             image.Width, image.Height);
 }
 
+// Where the head of the text ends that is no wider, behind a blank; npos where every blank is in it. A wide
+// field of a damaged file may hold thousands of words, so they are not measured one by one, but in strides
+// that grow, and then by halves: a text does not become narrower by a word more.
+std::size_t headThatFits(DrawTarget& target, std::string_view text, float width) {
+    std::size_t fits = 0;
+    std::vector<std::size_t> ends; // behind the blanks of one stride
+    for (std::size_t stride = 1;; stride *= 2) {
+        ends.clear();
+        for (std::size_t blank = fits; ends.size() < stride; ends.push_back(++blank)) {
+            blank = text.find(' ', blank);
+            if (blank == std::string_view::npos) break;
+        }
+        const auto end = std::ranges::partition_point(
+            ends, [&](std::size_t each) { return target.TextWidth(text.substr(0, each)) <= width; });
+        if (end != ends.begin()) fits = *std::prev(end);
+        if (end != ends.end()) return fits;
+        if (ends.size() < stride) return std::string_view::npos;
+    }
+}
+
 } // namespace
 
 void copyObjectFont(const core::ObjectFont& object, std::int32_t ForeColor, DrawTarget& target) {
@@ -60,21 +82,9 @@ void printWrapped(DrawTarget& target, float x, float maxHeight, float width, std
     std::string_view rest = text;
     float used = 0;
     do {
-        // The head of the text up to the last blank that still fits.
-        std::size_t start = 0; // behind the blank before
-        std::size_t blank = rest.find(' ');
-        while (blank != std::string_view::npos &&
-               target.TextWidth(rest.substr(0, blank + 1)) <= width - inset) {
-            start = blank + 1;
-            blank = rest.find(' ', start);
-        }
-        std::string_view line = rest;
-        if (blank == std::string_view::npos) {
-            rest = {};
-        } else {
-            line = rest.substr(0, start);
-            rest = core::ltrim(rest.substr(start));
-        }
+        const std::size_t head = headThatFits(target, rest, width - inset);
+        const std::string_view line = rest.substr(0, head);
+        rest = head == std::string_view::npos ? std::string_view() : core::ltrim(rest.substr(head));
         target.CurrentX = x;
         if (!(used < maxHeight)) return;
         target.Print(line, true);
