@@ -37,12 +37,23 @@ protected:
     qint64 readData(char*, qint64) override { return -1; }
     qint64 writeData(const char* bytes, qint64 count) override {
         constexpr std::size_t most = std::size_t{64} * 1024;
+        const std::size_t before = buffer_.size();
         buffer_.append(bytes, static_cast<std::size_t>(count));
+        if (std::string_view(bytes, static_cast<std::size_t>(count)).find("begincmap") !=
+            std::string_view::npos)
+            tellBlanks(before);
         if (buffer_.size() >= most) flush();
         return failure_ == 0 ? count : -1;
     }
 
 private:
+    // A font's table of characters, which Qt writes in one piece. Qt takes the first character that a shape
+    // stands for, so what is copied from the page would have tabs for its blanks.
+    void tellBlanks(std::size_t from) {
+        constexpr std::string_view tab = "<0009>", blank = "<0020>";
+        for (std::size_t at = from; (at = buffer_.find(tab, at)) != std::string::npos; at += blank.size())
+            buffer_.replace(at, tab.size(), blank);
+    }
     void flush() {
         if (failure_ == 0) failure_ = file::writeAt(file_.fd(), buffer_.data(), buffer_.size(), place_);
         place_ += static_cast<long long>(buffer_.size());

@@ -31,6 +31,7 @@ Bolt and washer Nut Label Label // Pages:           1 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many --records i2; pdftotext -layout a.pdf - | xargs -> Nut Label // @ a.pdf
 $ fwk layouts wide.fwk -o a.pdf; pdftotext a.pdf - | xargs -> a // @ a.pdf
 $ fwk layouts books.fwk -o a.pdf --records i1; pdfimages -list a.pdf | grep -c ' image ' -> 2 // @ a.pdf
+$ fwk report a.fwk -o a.pdf; grep -aoE '<00(09|20)>' a.pdf | sort -u -> <0020> // @ a.pdf
 $ fwk layouts inv.fwk -o a.pdf; pdftotext -layout -l 1 a.pdf - | xargs | cut -c 1-99
 INVOICE 1 01/15/2004 Ærø Maskiner Item Qty Price Line Bolt M8 2 $1.50 $3.00 Nut M8 3 $2.00 $6.00  // @ a.pdf
 $1 fwk report absent.fwk -o a.pdf -> ! File not found && $1 fwk report a.fwk -o a.pdf --columns Prise
