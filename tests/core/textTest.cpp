@@ -25,6 +25,7 @@ TEST(Text, UpperCasesLatinGreekAndCyrillic) {
         const std::string wanted = upper(text += "b");
         std::size_t offset = 1;
         ASSERT_EQ(nextCodePoint(text, offset), c);
+        EXPECT_EQ(text.size() - 2, c < 0x800 ? 2U : c < 0x10000 ? 3U : 4U) << text;
         EXPECT_TRUE(offset == text.size() - 1 && wanted.size() == text.size() && length(wanted) == 3) << text;
         EXPECT_EQ(upper(wanted), wanted);
     }
