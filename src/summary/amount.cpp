@@ -16,6 +16,7 @@ namespace {
 constexpr int mostPlaces = 9;
 constexpr int moneyPlaces = 2;
 constexpr double mostExact = 1e20;
+constexpr int mostExactDigits = 20; // ahead of the point
 constexpr double mostPlain = 1e15;
 
 constexpr std::array<std::int64_t, mostPlaces + 1> powersOfTen = [] {
@@ -60,6 +61,16 @@ Amount Amount::of(std::uint64_t digits, int places, bool negative) {
         value = roundedQuotient(value, 10);
     }
     return Amount(negative ? -value : value);
+}
+
+Amount Amount::of(const core::Decimal& number) {
+    Integer value = 0;
+    for (int place = 0; place < number.point + mostPlaces; ++place) {
+        const auto at = static_cast<std::size_t>(place);
+        value = value * 10 + (at < number.digits.size() ? number.digits[at] - '0' : 0);
+    }
+    // Digits behind more zeros than there are places stand for nothing.
+    return Amount(number.negative ? -value : value);
 }
 
 Amount Amount::ofDouble(double value) {
@@ -136,8 +147,13 @@ std::optional<Amount> amountIn(std::string_view cell, core::ColumnType type) {
 std::optional<Amount> numberIn(std::string_view cell) {
     if (const auto plain = core::readPlainNumber(cell))
         return Amount::of(plain->digits, plain->places, plain->negative);
-    const std::optional<double> value = core::toDouble(cell);
-    return value ? std::optional(Amount::ofDouble(*value)) : std::nullopt;
+    const std::optional<core::Decimal> decimal = core::readDecimal(cell);
+    if (!decimal) return std::nullopt;
+    if (decimal->point > mostExactDigits) {
+        const std::optional<double> value = core::toDouble(cell);
+        return value ? std::optional(Amount::ofDouble(*value)) : std::nullopt;
+    }
+    return Amount::of(core::rounded(*decimal, mostPlaces, core::Rounding::HalfAwayFromZero));
 }
 
 } // namespace summary

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/column.h"
+#include "core/decimal.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,6 +18,8 @@ public:
 
     constexpr Amount() = default;
     static Amount of(std::uint64_t digits, int places, bool negative);
+    static Amount
+    of(const core::Decimal& number); // with at most nine places, and 20 digits ahead of the point
     static Amount ofDouble(double value);
     static constexpr Amount ofWhole(std::int64_t value) { return Amount(Integer{value} * unit); }
 

@@ -130,7 +130,7 @@ GroupKey GroupReader::numberKey(std::string_view cell) const {
     const Amount low = number->floorTo(step_.width);
     Amount high = low;
     high += step_.width;
-    const bool bMoney = type_ == ColumnType::Currency;
+    const bool bMoney = isMoney(cell, type_);
     std::string label = bMoney ? low.money() : low.text();
     label.append(" to below ").append(bMoney ? high.money() : high.text());
     return {GroupKey::Rank::Value, low, label};

@@ -3,7 +3,7 @@
 #include "app/hourglass.h"
 #include "app/windowState.h"
 #include "core/runTimeError.h"
-#include "exchange/sheet.h"
+#include "exchange/csvWriter.h"
 #include "print/printCommands.h"
 #include "search/duplicates.h"
 #include "search/manyRecords.h"
@@ -270,9 +270,15 @@ std::string SummaryPanel::title() const {
 void SummaryPanel::copy() {
     const exchange::OutTable table = tableOf(summary, title());
     if (table.rows.empty()) return;
-    app_.platform.setClipboard({exchange::sheetText(exchange::Format::Tsv, table),
-                                exchange::sheetText(exchange::Format::Html, table),
-                                {}});
+    std::string text;
+    exchange::CsvWriter tabbed(text, "\t\"\r\n", '\t');
+    for (const exchange::OutColumn& column : table.columns) tabbed.cell(column.name);
+    tabbed.endLine();
+    for (const auto& row : table.rows) {
+        for (const std::string& cell : row) tabbed.cell(cell);
+        tabbed.endLine();
+    }
+    app_.platform.setClipboard({text, exchange::sheetText(exchange::Format::Html, table), {}});
 }
 
 void SummaryPanel::exportTable() {

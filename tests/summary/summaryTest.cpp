@@ -1,6 +1,7 @@
 #include "../search/searchProgram.h"
 #include "../support/printRecorder.h"
 #include "core/dates.h"
+#include "core/format.h"
 #include "invoiceFixture.h"
 #include "shell/mainWindow.h"
 #include "summary/statisticsFrm.h"
@@ -70,7 +71,10 @@ TEST(Amounts, AreReadAsTheTotalsRowReadsThem) {
              "number -> 12 pcs -> 12; number -> .1 -> 0.1; number -> $5 -> 0; number ->  -> none; number -> "
              "0 -> 0; "
              "number -> 1e30 -> 1E+30; number -> 0.0000000004 -> 0; number -> 0.0000000005 -> 0.000000001; "
-             "number -> 999999999999999999 -> 1E+18; number -> 123456789012.123456789 -> 123456789012.123")) {
+             "number -> 999999999999999999 -> 1E+18; number -> 123456789012.123456789 -> "
+             "123456789012.123456789; "
+             "number -> 12345678901234567890.5 -> 1.23456789012346E+19; number -> 1e-12 -> 0; number -> "
+             "(2.5e-3) -> -0.0025")) {
         const std::optional<Amount> amount = amountIn(row[1], typeOf(row[0]));
         EXPECT_EQ(amount ? amount->text() : "none", row[2]) << row[1];
     }
@@ -149,7 +153,7 @@ TEST(Summary, CountsWhatALoopCounts) {
 }
 
 // "a, b: 2 $1.00 ; total: 3 $2.00"
-std::string told(const Summary& summary) {
+std::string tellAll(const Summary& summary) {
     std::string all;
     const auto add = [&](const Group& group, const std::string& name) {
         all += name + ": " + std::to_string(group.records);
@@ -171,8 +175,8 @@ TEST_F(InvoiceTest, ItemsCountInTheGroupOfTheirRow) {
     record({{"Customer", "Bob"}, {"Item", "Nut@@@"}, {"Qty", "8@@@"}, {"Tax", "$.25"}});
     core::moveTotals(app.document.LV);
     const auto by = [&](const char* column) {
-        return told(summarise(app.document,
-                              {{{column, {}}}, {{FigureKind::Sum, "Qty"}, {FigureKind::Sum, "Tax"}}}, today));
+        return tellAll(summarise(
+            app.document, {{{column, {}}}, {{FigureKind::Sum, "Qty"}, {FigureKind::Sum, "Tax"}}}, today));
     };
     EXPECT_EQ(by("Customer"), "Ann: 1 7 $1.50; Bob: 1 8 $.25; all: 2 15 $1.75");
     EXPECT_EQ(by("Item"), "(empty): 1 - $.25; Bolt: 1 5 $1.50; Nut: 2 10 $1.75; all: 2 15 $1.75");
@@ -203,7 +207,7 @@ TEST(SummaryPanel, FollowsNarrowsAndHandsOn) {
     const auto seen = [&] {
         const bool isStale = panel.follow();
         panel.recount();
-        return std::string(isStale ? "" : "same ") + told(panel.summary) + " | " + program.found();
+        return std::string(isStale ? "" : "same ") + tellAll(panel.summary) + " | " + program.found();
     };
     EXPECT_EQ(seen(), "Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | -");
     EXPECT_EQ(seen(), "same Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | -");
@@ -232,8 +236,8 @@ TEST(SummaryPanel, FollowsNarrowsAndHandsOn) {
     panel.step_Change(0, "2");
     EXPECT_EQ(seen(), "$.00 to below $2.00: 1; $2.00 to below $4.00: 2; all: 3 | i2");
     panel.copy();
-    EXPECT_EQ(program.platform.onClipboard.text, "Cost (steps of 2)\tRecords\r\n$.00 to below $2.00\t1\r\n"
-                                                 "$2.00 to below $4.00\t2\r\nTotal\t3\r\n");
+    EXPECT_EQ(program.platform.onClipboard.text, "Cost (steps of 2)\tRecords\n$.00 to below $2.00\t1\n"
+                                                 "$2.00 to below $4.00\t2\nTotal\t3\n");
     program.platform.files = {program.path("sums")};
     panel.exportTable();
     EXPECT_TRUE(readBytes(program.path("sums.xlsx")).starts_with("PK"));
