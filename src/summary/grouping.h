@@ -51,6 +51,7 @@ struct GroupKey {
     std::string label; // the cell itself, "2015", "2015-Q2", "2015-04", "10 to below 20" or "(empty)"
 
     bool operator<(const GroupKey& other) const;
+    bool operator==(const GroupKey& other) const = default;
 };
 
 // Sorts cells of one column into groups. A cell's text is looked at once, however many records have it; the

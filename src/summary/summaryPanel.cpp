@@ -3,6 +3,7 @@
 #include "app/hourglass.h"
 #include "app/windowState.h"
 #include "core/runTimeError.h"
+#include "core/totalsRow.h"
 #include "exchange/csvWriter.h"
 #include "print/printCommands.h"
 #include "search/duplicates.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <unordered_set>
 
 namespace summary {
 
@@ -28,12 +30,21 @@ struct ChangeCount {
 
 constexpr std::string_view eachValue = "Each value", eachDay = "Day";
 
-// What is proposed for a column before anybody has chosen: words rather than numbers, money rather than
-// counts.
+// What is proposed before anybody has chosen: the first column of words that several records share.
 int firstGroupColumn(const core::Document& document, const std::vector<std::string>& names) {
-    for (std::size_t i = 0; i < names.size(); ++i)
-        if (document.LV.columns[names[i]].isType(ColumnType::Text)) return static_cast<int>(i);
-    return 0;
+    int firstText = -1;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const Column& column = document.LV.columns[names[i]];
+        if (!column.isType(ColumnType::Text)) continue;
+        if (firstText < 0) firstText = static_cast<int>(i);
+        std::unordered_set<std::string_view> different;
+        document.LV.forEach([&](const Item& record) {
+            if (!record.isTotals()) different.insert(core::RecordsList::cell(record, column));
+        });
+        const auto records = static_cast<std::size_t>(document.LV.count());
+        if (different.size() > 1 && different.size() * 2 < records) return static_cast<int>(i);
+    }
+    return std::max(firstText, 0);
 }
 
 } // namespace
@@ -106,8 +117,11 @@ void SummaryPanel::takeColumns() {
         figures.push_back(entry);
     }
     figureColumns = std::move(figures);
-    const auto money = std::ranges::find(figureColumns, ColumnType::Currency, &FigureColumn::type);
-    if (!isAny && money != figureColumns.end()) money->checked.front() = true;
+    // What is totaled is what the user wants to know the sums of.
+    for (FigureColumn& column : figureColumns)
+        if (!isAny && core::isTotaledColumn(app_.document, column.name) &&
+            isCounted(FigureKind::Sum, column.type))
+            column.checked.front() = true;
 }
 
 void SummaryPanel::takeSteps(Chooser& chooser, ColumnType type) {
@@ -238,9 +252,16 @@ void SummaryPanel::onlyFound_Click(bool bChecked) {
 }
 
 void SummaryPanel::showGroup(std::size_t group) {
-    if (follow()) recount(); // what stood there may be gone
     if (group >= summary.groups.size()) return;
-    const std::vector<const Item*> records = summary.membersOf(group);
+    // The records that it was counted from may be gone, so it is looked for among those of now.
+    const std::vector<GroupKey> keysOfGroup = summary.groups[group].keys;
+    isStale_ = true;
+    follow();
+    recount();
+    const auto found = std::ranges::find(summary.groups, keysOfGroup, &Group::keys);
+    if (found == summary.groups.end()) return;
+    const std::vector<const Item*> records =
+        summary.membersOf(static_cast<std::size_t>(found - summary.groups.begin()));
     std::vector<std::string> keys;
     if (onlyFound)
         for (const Item* record : base()) keys.push_back(record->Key.str());
@@ -287,8 +308,7 @@ void SummaryPanel::exportTable() {
     if (table.rows.empty()) return;
     auto target = app_.platform.showSave(
         {"Export Summary", "Summary.xlsx",
-         "Tables (*.xlsx *.ods *.csv *.tsv *.html *.json *.sqlite)|*.xlsx *.ods *.csv *.tsv *.html *.json "
-         "*.sqlite|All Files (*.*)|*.*"});
+         "Tables (*.xlsx)|*.xlsx;*.ods;*.csv;*.tsv;*.html;*.json;*.sqlite|All Files (*.*)|*.*"});
     if (!target) return;
     if (!exchange::formatOf(*target)) target->append(".xlsx");
     const Format format = *exchange::formatOf(*target);

@@ -35,15 +35,25 @@ exchange::OutTable tableOf(const Summary& summary, std::string title) {
     return table;
 }
 
+namespace {
+
+const Value* figureAt(const Group& group, int figure) {
+    const auto place = static_cast<std::size_t>(figure);
+    return place < group.figures.size() ? &group.figures[place] : nullptr;
+}
+
+} // namespace
+
 std::optional<double> barValue(const Group& group, int figure) {
     if (figure == recordsBar) return static_cast<double>(group.records);
-    const Value& value = group.figures.at(static_cast<std::size_t>(figure));
-    return value.number ? std::optional(value.number->toDouble()) : std::nullopt;
+    const Value* value = figureAt(group, figure);
+    return value != nullptr && value->number ? std::optional(value->number->toDouble()) : std::nullopt;
 }
 
 std::string barText(const Group& group, int figure) {
-    return figure == recordsBar ? std::to_string(group.records)
-                                : group.figures.at(static_cast<std::size_t>(figure)).text;
+    if (figure == recordsBar) return std::to_string(group.records);
+    const Value* value = figureAt(group, figure);
+    return value == nullptr ? std::string() : value->text;
 }
 
 BarScale::BarScale(const Summary& summary, int figure) : figure_(figure) {

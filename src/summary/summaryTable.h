@@ -11,7 +11,8 @@ constexpr std::string_view totalLabel = "Total";
 // The summary as a table for other programs: the groups, the records, the figures; last the grand total.
 exchange::OutTable tableOf(const Summary& summary, std::string title);
 
-// What a bar of a group is as long as: the records for -1, else a figure by its place.
+// What a bar of a group is as long as: the records for -1, else a figure by its place; nothing where there is
+// none.
 constexpr int recordsBar = -1;
 std::optional<double> barValue(const Group& group, int figure);
 std::string barText(const Group& group, int figure);

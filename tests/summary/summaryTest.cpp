@@ -202,7 +202,8 @@ TEST(Statistics, TellOfAColumn) {
 
 // The panel follows the document, and a group that takes the place of the results leaves their summary.
 TEST(SummaryPanel, FollowsNarrowsAndHandsOn) {
-    SearchProgram program(DataFile("Bed Plant Cost:2", "Hedge|Yew|$2.00;Pond|Iris|$3.00;Hedge|Box|$1.00"));
+    SearchProgram program(DataFile("Bed Plant Cost:2", "Hedge|Yew|$2.00;Pond|Iris|$3.00;Hedge|Box|$1.00")
+                              .section("Totaled Cols", "Cost|"));
     SummaryPanel panel(program.app);
     const auto seen = [&] {
         const bool isStale = panel.follow();

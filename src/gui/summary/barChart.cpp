@@ -50,7 +50,7 @@ QString BarChart::told(int group) const {
         .arg(toQt(shown.name()), figureName_, value.empty() ? tr("none") : toQt(value));
 }
 
-void BarChart::show(const summary::Summary& summary, int figure, const QString& figureName) {
+void BarChart::showSummary(const summary::Summary& summary, int figure, const QString& figureName) {
     summary_ = &summary;
     figure_ = figure;
     figureName_ = figureName;
@@ -107,7 +107,7 @@ void BarChart::paintEvent(QPaintEvent* event) {
 
 void BarChart::paintRow(QPainter& painter, int group, const QRect& row) const {
     const summary::Group& shown = summary_->groups[static_cast<std::size_t>(group)];
-    const bool bCurrent = group == current_ && hasFocus();
+    const bool bCurrent = group == current_;
     painter.setPen(palette().color(QPalette::Text));
     const QRect name(row.left() + gap, row.top(), nameWidth_, row.height());
     painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter,
@@ -118,7 +118,7 @@ void BarChart::paintRow(QPainter& painter, int group, const QRect& row) const {
     const int inset = row.height() / 5;
     const QRectF place(left + bar.from * room, row.top() + inset, (bar.to - bar.from) * room,
                        row.height() - 2 * inset);
-    drawBar(painter, place, palette(), bCurrent);
+    drawBar(painter, place, palette(), bCurrent ? BarLook::Current : BarLook::Plain);
     painter.setPen(palette().color(QPalette::Text));
     const int behind = static_cast<int>(place.right()) + gap;
     painter.drawText(QRect(behind, row.top(), row.right() - behind, row.height()),
@@ -127,7 +127,7 @@ void BarChart::paintRow(QPainter& painter, int group, const QRect& row) const {
         const int zero = left + static_cast<int>(scale_->zero() * room);
         painter.drawLine(zero, row.top(), zero, row.bottom());
     }
-    if (!bCurrent) return;
+    if (!bCurrent || !hasFocus()) return;
     QStyleOptionFocusRect focus;
     focus.initFrom(this);
     focus.rect = row.adjusted(1, 1, -1, -1);

@@ -15,7 +15,7 @@ public:
     explicit BarChart(QWidget* parent = nullptr);
 
     // The summary has to stay as it is until the next call.
-    void show(const summary::Summary& summary, int figure, const QString& figureName);
+    void showSummary(const summary::Summary& summary, int figure, const QString& figureName);
     void setCurrent(int group);
     int current() const { return current_; }
 

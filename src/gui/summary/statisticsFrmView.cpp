@@ -28,7 +28,8 @@ public:
         drawBar(
             *painter,
             QRectF(room.left(), room.top(), room.width() * index.data(partRole).toDouble(), room.height()),
-            option.palette, option.state.testFlag(QStyle::State_Selected));
+            option.palette,
+            option.state.testFlag(QStyle::State_Selected) ? BarLook::OnSelection : BarLook::Plain);
     }
 };
 

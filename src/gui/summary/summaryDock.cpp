@@ -75,12 +75,9 @@ QLayout* SummaryDock::makeChoosers() {
         grid->addWidget(column);
         grid->addWidget(step);
     }
-    figures_ = new QToolButton;
+    figures_ = new QPushButton(tr("Fig&ures"));
     figures_->setObjectName(QStringLiteral("figuresBtn"));
-    figures_->setText(tr("Fig&ures"));
     figures_->setToolTip(tr("Which sums, means, least and greatest values are counted"));
-    figures_->setPopupMode(QToolButton::InstantPopup);
-    figures_->setFocusPolicy(Qt::StrongFocus);
     figureMenu_ = new QMenu(figures_);
     figureMenu_->setObjectName(QStringLiteral("figureMenu"));
     figures_->setMenu(figureMenu_);
@@ -133,7 +130,7 @@ QPushButton* SummaryDock::makeButton(const char* name, const QString& caption,
     button->setObjectName(QLatin1String(name));
     connect(button, &QPushButton::clicked, this, [this, handler] {
         on([&] {
-            if (panel_.follow()) panel_.recount();
+            count(); // for the handler, which may ask something, and for what is seen behind the question
             (panel_.*handler)();
         });
     });
@@ -164,6 +161,7 @@ void SummaryDock::refresh() {
     if (!isVisible()) return;
     if (panel_.follow()) soon_.start();
     showChoosers();
+    if (shown_ != panel_.countings) showSummary();
 }
 
 void SummaryDock::count() {
@@ -236,8 +234,8 @@ void SummaryDock::showSummary() {
         for (QPushButton* button : outputs_) button->setEnabled(!panel_.summary.groups.empty());
     }
     const auto bar = static_cast<std::size_t>(panel_.bars);
-    chart_->show(panel_.summary, panel_.barFigure(),
-                 bar < panel_.barNames.size() ? toQt(panel_.barNames[bar]) : QString());
+    chart_->showSummary(panel_.summary, panel_.barFigure(),
+                        bar < panel_.barNames.size() ? toQt(panel_.barNames[bar]) : QString());
 }
 
 // A group, or all records for the grand total.

@@ -12,7 +12,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
-#include <QToolButton>
 #include <QTreeView>
 
 namespace gui {
@@ -52,7 +51,7 @@ private:
     EventBoundary& events_;
     summary::SummaryPanel panel_;
     std::array<Choosers, 2> by_{};
-    QToolButton* figures_ = nullptr;
+    QPushButton* figures_ = nullptr;
     QMenu* figureMenu_ = nullptr;
     QComboBox* bars_ = nullptr;
     QCheckBox* onlyFound_ = nullptr;
