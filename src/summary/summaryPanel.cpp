@@ -85,46 +85,55 @@ void SummaryPanel::takeColumns() {
     }
     if (shown == columnsShown_) return;
     columnsShown_ = shown;
-    std::array<std::string, 2> chosen;
-    for (std::size_t i = 0; i < by.size(); ++i)
-        if (by.at(i).column < static_cast<int>(by.at(i).columns.size()))
-            chosen.at(i) = by.at(i).columns[static_cast<std::size_t>(by.at(i).column)];
-    by[0].columns = names;
-    by[1].columns.assign(1, "(none)");
-    by[1].columns.insert(by[1].columns.end(), names.begin(), names.end());
+    takeGroupColumns(names);
+    takeFigureColumns(names);
+}
+
+// What was chosen stays, where it is there still.
+void SummaryPanel::takeGroupColumns(const std::vector<std::string>& names) {
     for (std::size_t i = 0; i < by.size(); ++i) {
         Chooser& chooser = by.at(i);
-        const auto found = std::ranges::find(chooser.columns, chosen.at(i));
-        const bool isThere = found != chooser.columns.end();
-        chooser.column = isThere  ? static_cast<int>(found - chooser.columns.begin())
-                         : i == 0 ? firstGroupColumn(app_.document, names)
-                                  : 0;
-        const Column* column = chooser.columns.empty()
-                                   ? nullptr
-                                   : columns.find(chooser.columns[static_cast<std::size_t>(chooser.column)]);
-        takeSteps(chooser,
-                  column == nullptr || (i == 1 && chooser.column == 0) ? ColumnType::Text : column->type());
+        std::string chosen;
+        if (!chooser.columns.empty()) chosen = chooser.columns.at(static_cast<std::size_t>(chooser.column));
+        chooser.columns.clear();
+        if (i == 1) chooser.columns.emplace_back("(none)");
+        chooser.columns.insert(chooser.columns.end(), names.begin(), names.end());
+        const auto found = std::ranges::find(chooser.columns, chosen);
+        if (found != chooser.columns.end())
+            chooser.column = static_cast<int>(found - chooser.columns.begin());
+        else
+            chooser.column = i == 0 ? firstGroupColumn(app_.document, names) : 0;
+        takeSteps(i);
     }
+}
+
+void SummaryPanel::takeFigureColumns(const std::vector<std::string>& names) {
     std::vector<FigureColumn> figures;
     bool isAny = false;
     for (const std::string& name : names) {
-        const ColumnType type = columns[name].type();
-        if (!isCounted(FigureKind::Least, type)) continue;
-        FigureColumn entry{name, type};
+        FigureColumn entry{name, app_.document.LV.columns[name].type()};
+        if (!isCounted(FigureKind::Least, entry.type)) continue;
         const auto known = std::ranges::find(figureColumns, name, &FigureColumn::name);
-        if (known != figureColumns.end() && known->type == type) entry.checked = known->checked;
+        if (known != figureColumns.end() && known->type == entry.type) entry.checked = known->checked;
         isAny |= std::ranges::find(entry.checked, true) != entry.checked.end();
         figures.push_back(entry);
     }
     figureColumns = std::move(figures);
+    if (isAny) return;
     // What is totaled is what the user wants to know the sums of.
     for (FigureColumn& column : figureColumns)
-        if (!isAny && core::isTotaledColumn(app_.document, column.name) &&
-            isCounted(FigureKind::Sum, column.type))
-            column.checked.front() = true;
+        column.checked.front() =
+            core::isTotaledColumn(app_.document, column.name) && isCounted(FigureKind::Sum, column.type);
 }
 
-void SummaryPanel::takeSteps(Chooser& chooser, ColumnType type) {
+// The steps of the column that is chosen.
+void SummaryPanel::takeSteps(std::size_t place) {
+    Chooser& chooser = by.at(place);
+    const bool bNone = chooser.columns.empty() || (place == 1 && chooser.column == 0);
+    const Column* column =
+        bNone ? nullptr
+              : app_.document.LV.columns.find(chooser.columns[static_cast<std::size_t>(chooser.column)]);
+    const ColumnType type = column == nullptr ? ColumnType::Text : column->type();
     std::vector<std::string> steps;
     if (type == ColumnType::Date)
         steps = {"Year", "Quarter", "Month", std::string(eachDay)};
@@ -226,9 +235,7 @@ void SummaryPanel::column_Click(std::size_t chooser, int entry) {
     Chooser& chosen = by.at(chooser);
     if (entry < 0 || entry >= static_cast<int>(chosen.columns.size())) return;
     chosen.column = entry;
-    const Column* column = app_.document.LV.columns.find(chosen.columns[static_cast<std::size_t>(entry)]);
-    const bool bNone = column == nullptr || (chooser == 1 && entry == 0);
-    takeSteps(chosen, bNone ? ColumnType::Text : column->type());
+    takeSteps(chooser);
     isStale_ = true;
 }
 

@@ -64,7 +64,9 @@ public:
 
 private:
     void takeColumns();
-    void takeSteps(Chooser& chooser, core::ColumnType type);
+    void takeGroupColumns(const std::vector<std::string>& names);
+    void takeFigureColumns(const std::vector<std::string>& names);
+    void takeSteps(std::size_t place);
     void followResults();
     std::optional<Request> request();
     std::string title() const;

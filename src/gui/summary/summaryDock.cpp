@@ -19,6 +19,7 @@ namespace gui {
 namespace {
 
 constexpr int soonMilliseconds = 150; // without another change
+constexpr int fewestLetters = 6;      // of a box
 
 void fillBox(QComboBox& box, const std::vector<std::string>& texts) {
     bool isSame = box.count() == static_cast<int>(texts.size());
@@ -37,10 +38,15 @@ SummaryDock::SummaryDock(app::App& app, EventBoundary& events, QWidget* parent)
     setObjectName(QStringLiteral("summaryDock"));
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
+    rows->setContentsMargins(8, 2, 8, 4);
+    rows->setSpacing(4);
     rows->addLayout(makeChoosers());
     rows->addWidget(makeResult(), 1);
     rows->addLayout(makeButtons());
     content->setFocusProxy(table_);
+    // As narrow as a small screen at twice the size; the choosers make two rows of themselves there.
+    constexpr int narrowest = 24; // heights of a line
+    content->setMinimumWidth(narrowest * fontMetrics().height());
     setWidget(content);
     soon_.setSingleShot(true);
     soon_.setInterval(soonMilliseconds);
@@ -52,7 +58,7 @@ SummaryDock::SummaryDock(app::App& app, EventBoundary& events, QWidget* parent)
 }
 
 QLayout* SummaryDock::makeChoosers() {
-    auto* grid = new QHBoxLayout;
+    auto* groups = new QHBoxLayout;
     const std::array<QString, 2> captions = {tr("&Group by:"), tr("a&nd by:")};
     const std::array<QString, 2> names = {tr("Steps of the groups"), tr("Steps of the groups within")};
     for (std::size_t i = 0; i < by_.size(); ++i) {
@@ -71,9 +77,14 @@ QLayout* SummaryDock::makeChoosers() {
         connect(step, &QComboBox::currentTextChanged, this,
                 [this, i](const QString& text) { on([&] { panel_.step_Change(i, fromQt(text)); }); });
         by_.at(i) = {column, step};
-        grid->addWidget(label);
-        grid->addWidget(column);
-        grid->addWidget(step);
+        for (QComboBox* box : {column, step}) {
+            box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+            box->setMinimumContentsLength(fewestLetters);
+            box->setMinimumWidth(box->minimumContentsLength() * fontMetrics().averageCharWidth() * 2);
+        }
+        groups->addWidget(label);
+        groups->addWidget(column);
+        groups->addWidget(step);
     }
     figures_ = new QPushButton(tr("Fig&ures"));
     figures_->setObjectName(QStringLiteral("figuresBtn"));
@@ -94,10 +105,27 @@ QLayout* SummaryDock::makeChoosers() {
     onlyFound_->setObjectName(QStringLiteral("onlyFound"));
     connect(onlyFound_, &QCheckBox::clicked, this,
             [this](bool bChecked) { on([&] { panel_.onlyFound_Click(bChecked); }); });
+    auto* figures = new QHBoxLayout;
     for (QWidget* widget : std::initializer_list<QWidget*>{figures_, barsLabel, bars_, onlyFound_})
-        grid->addWidget(widget);
-    grid->addStretch(1);
-    return grid;
+        figures->addWidget(widget);
+    choosers_ = new QBoxLayout(QBoxLayout::LeftToRight);
+    for (QHBoxLayout* row : {groups, figures}) {
+        row->addStretch(1);
+        choosers_->addLayout(row);
+    }
+    return choosers_;
+}
+
+void SummaryDock::resizeEvent(QResizeEvent* event) {
+    QDockWidget::resizeEvent(event);
+    arrangeChoosers();
+}
+
+// Side by side where there is room for all of them.
+void SummaryDock::arrangeChoosers() {
+    int wanted = 4 * fontMetrics().height();
+    for (int i = 0; i < choosers_->count(); ++i) wanted += choosers_->itemAt(i)->sizeHint().width();
+    choosers_->setDirection(wanted > width() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 QWidget* SummaryDock::makeResult() {
@@ -121,6 +149,9 @@ QWidget* SummaryDock::makeResult() {
     splitter->addWidget(table_);
     splitter->addWidget(chart_);
     splitter->setChildrenCollapsible(false);
+    constexpr int fewestLines = 4; // in sight; a list asks for more by itself
+    table_->setMinimumHeight(fewestLines * fontMetrics().height());
+    chart_->setMinimumHeight(table_->minimumHeight());
     return splitter;
 }
 
@@ -142,6 +173,7 @@ QLayout* SummaryDock::makeButtons() {
     note_ = new QLabel;
     note_->setObjectName(QStringLiteral("summaryNote"));
     note_->setTextFormat(Qt::PlainText);
+    note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(note_, 1);
     all_ = makeButton("allBtn", tr("&All Records"), &summary::SummaryPanel::showAll);
     all_->setToolTip(tr("Puts all records back in place of those of a group"));
@@ -187,6 +219,7 @@ void SummaryDock::showChoosers() {
     onlyFound_->setEnabled(panel_.onlyFoundEnabled);
     onlyFound_->setChecked(panel_.onlyFound);
     all_->setEnabled(panel_.canShowAll);
+    arrangeChoosers();
 }
 
 // A menu for each column, made anew where the columns are others.

@@ -5,6 +5,7 @@
 #include "gui/summary/summaryModel.h"
 #include "summary/summaryPanel.h"
 
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
@@ -28,6 +29,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -42,6 +44,7 @@ private:
                             void (summary::SummaryPanel::*handler)());
     void on(const std::function<void()>& handler);
     void count();
+    void arrangeChoosers();
     void showChoosers();
     void fillFigures();
     void showSummary();
@@ -51,6 +54,7 @@ private:
     EventBoundary& events_;
     summary::SummaryPanel panel_;
     std::array<Choosers, 2> by_{};
+    QBoxLayout* choosers_ = nullptr;
     QPushButton* figures_ = nullptr;
     QMenu* figureMenu_ = nullptr;
     QComboBox* bars_ = nullptr;
