@@ -1,7 +1,7 @@
 #include "summary/statistics.h"
 
-#include "calc/itemColumns.h"
 #include "summary/counter.h"
+#include "summary/itemRows.h"
 
 #include <algorithm>
 #include <numeric>
@@ -16,8 +16,7 @@ namespace {
 class ColumnRun {
 public:
     ColumnRun(const core::Document& document, std::string_view name, std::chrono::year_month_day today)
-        : column_(document.LV.columns[name]),
-          bItems_(document.bInvoiceStyle && calc::ItemColumns(document).contains(column_.Text)),
+        : column_(document.LV.columns[name]), items_(document), bItems_(items_.isItemColumn(column_)),
           reader_(column_.type(), {}, today), counter_(column_.type(), today),
           isNumber_(isCounted(FigureKind::Sum, column_.type())),
           isOrdered_(isCounted(FigureKind::Least, column_.type())) {
@@ -27,7 +26,10 @@ public:
     void add(const Item& record) {
         ++statistics_.records;
         splitValues(core::RecordsList::cell(record, column_), bItems_, values_);
-        for (const std::string_view value : values_) {
+        if (bItems_) items_.read(record);
+        for (std::size_t row = 0; row < values_.size(); ++row) {
+            if (bItems_ && !items_.isUsed(row)) continue;
+            const std::string_view value = values_[row];
             const std::uint32_t group = reader_.groupOf(value);
             if (group == counts_.size()) counts_.push_back(0);
             ++counts_[group];
@@ -86,6 +88,7 @@ private:
     }
 
     const core::Column& column_;
+    ItemRows items_;
     bool bItems_;
     GroupReader reader_;
     Counter counter_;

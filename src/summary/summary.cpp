@@ -1,7 +1,7 @@
 #include "summary/summary.h"
 
-#include "calc/itemColumns.h"
 #include "summary/counter.h"
+#include "summary/itemRows.h"
 
 #include <algorithm>
 #include <numeric>
@@ -46,9 +46,9 @@ private:
         return counters_[group * counted_.size() + column];
     }
 
-    const core::Document& document_;
     std::chrono::year_month_day today_;
     Summary summary_;
+    ItemRows items_;
     std::vector<GroupColumn> by_;
     std::vector<Counted> counted_;
     std::vector<std::size_t> countedOf_; // for each figure
@@ -64,15 +64,11 @@ private:
 };
 
 GroupRun::GroupRun(const core::Document& document, const Request& request, std::chrono::year_month_day today)
-    : document_(document), today_(today) {
+    : today_(today), items_(document) {
     summary_.request = request;
-    const calc::ItemColumns items(document);
-    const auto hasItems = [&](const Column& column) {
-        return document.bInvoiceStyle && items.contains(column.Text);
-    };
     for (const GroupBy& by : request.by) {
         const Column& column = document.LV.columns[by.column];
-        by_.push_back({&column, hasItems(column), GroupReader(column.type(), by.step, today)});
+        by_.push_back({&column, items_.isItemColumn(column), GroupReader(column.type(), by.step, today)});
         bItems_ |= by_.back().bItems;
     }
     for (const Figure& figure : request.figures) {
@@ -80,7 +76,7 @@ GroupRun::GroupRun(const core::Document& document, const Request& request, std::
         const auto known = std::ranges::find(counted_, &column, &Counted::column);
         countedOf_.push_back(static_cast<std::size_t>(known - counted_.begin()));
         if (known != counted_.end()) continue;
-        counted_.push_back({&column, hasItems(column)});
+        counted_.push_back({&column, items_.isItemColumn(column)});
         bItemValues_ |= counted_.back().bItems;
     }
     for (const Counted& counted : counted_) totals_.emplace_back(counted.column->type(), today);
@@ -100,6 +96,7 @@ std::uint32_t GroupRun::placeOf(std::uint32_t first, std::uint32_t second) {
 
 void GroupRun::add(const Item& record) {
     ++allRecords_;
+    if (bItems_ || bItemValues_) items_.read(record);
     if (bItems_)
         addItems(record);
     else
@@ -116,7 +113,8 @@ void GroupRun::addSingle(const Item& record) {
     for (std::size_t i = 0; i < counted_.size(); ++i) {
         const std::string_view cell = RecordsList::cell(record, *counted_[i].column);
         splitValues(cell, counted_[i].bItems, values_);
-        for (const std::string_view value : values_) count(group, i, value);
+        for (std::size_t row = 0; row < values_.size(); ++row)
+            if (!counted_[i].bItems || items_.isUsed(row)) count(group, i, values_[row]);
     }
 }
 
@@ -128,8 +126,9 @@ void GroupRun::addItems(const Item& record) {
         splitValues(RecordsList::cell(record, *by_[i].column), by_[i].bItems, values.at(i));
         rows = std::max(rows, values.at(i).size());
     }
-    std::vector<std::uint32_t> groupOfRow, groups;
+    std::vector<std::uint32_t> groupOfRow(rows), groups;
     for (std::size_t row = 0; row < rows; ++row) {
+        if (!items_.isUsed(row)) continue;
         std::array<std::uint32_t, 2> keys{};
         for (std::size_t i = 0; i < by_.size(); ++i) {
             const auto& all = values.at(i);
@@ -137,7 +136,7 @@ void GroupRun::addItems(const Item& record) {
             keys.at(i) = by_[i].reader.groupOf(place < all.size() ? all[place] : std::string_view());
         }
         const std::uint32_t group = placeOf(keys[0], keys[1]);
-        groupOfRow.push_back(group);
+        groupOfRow[row] = group;
         if (std::ranges::find(groups, group) == groups.end()) groups.push_back(group);
     }
     for (const std::uint32_t group : groups) {
@@ -148,9 +147,10 @@ void GroupRun::addItems(const Item& record) {
         const std::string_view cell = RecordsList::cell(record, *counted_[i].column);
         splitValues(cell, counted_[i].bItems, values_);
         for (std::size_t row = 0; row < values_.size(); ++row) {
+            if (counted_[i].bItems && (!items_.isUsed(row) || row >= rows)) continue;
             totals_[i].add(values_[row]);
             if (counted_[i].bItems)
-                counterOf(groupOfRow[std::min(row, rows - 1)], i).add(values_[row]);
+                counterOf(groupOfRow[row], i).add(values_[row]);
             else
                 for (const std::uint32_t group : groups) counterOf(group, i).add(values_[row]);
         }
@@ -223,21 +223,6 @@ std::vector<const Item*> Summary::membersOf(std::size_t group) const {
     for (const auto& [record, place] : members)
         if (place == group) records.push_back(record);
     return records;
-}
-
-void splitValues(std::string_view cell, bool bItems, std::vector<std::string_view>& values) {
-    values.clear();
-    if (!bItems || cell.find(core::itemSeparator) == std::string_view::npos) {
-        values.push_back(cell);
-        return;
-    }
-    if (cell.ends_with(core::itemSeparator)) cell.remove_suffix(1);
-    for (;;) {
-        const std::size_t end = cell.find(core::itemSeparator);
-        values.push_back(cell.substr(0, end));
-        if (end == std::string_view::npos) return;
-        cell.remove_prefix(end + 1);
-    }
 }
 
 Summary summarise(const core::Document& document, const Request& request, std::chrono::year_month_day today,

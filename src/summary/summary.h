@@ -58,12 +58,10 @@ struct Summary {
 // Groups records of LV: the given ones, or all. Raises elementNotFound for a column that there is not.
 //
 // In an invoice database a column of the item rows holds several values. A record is then in each group that
-// one of them belongs to, and counts there once; values in the same item row belong together. What such a
+// one of them belongs to, and counts there once; values in the same item row belong together,
+// and rows that nobody has filled in count nowhere. What such a
 // record has one value of counts in full in each of its groups, but in the grand total once.
 Summary summarise(const core::Document& document, const Request& request, std::chrono::year_month_day today,
                   const std::vector<const core::Item*>* records = nullptr);
-
-// The values of a cell: itself, or those of its item rows.
-void splitValues(std::string_view cell, bool bItems, std::vector<std::string_view>& values);
 
 } // namespace summary

@@ -24,7 +24,10 @@ class SummaryPage {
 public:
     SummaryPage(app::App& app, DrawTarget& target, const Summary& summary, int barFigure)
         : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {})),
-          scale_(summary, barFigure), byCount_(summary.request.by.size()) {}
+          scale_(summary, barFigure), byCount_(summary.request.by.size()),
+          barName_(barFigure == recordsBar
+                       ? std::string(recordsHeading)
+                       : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {}
 
     void draw(std::string_view title) {
         print::usePage(app_, target_, print::reportPage(app_));
@@ -40,7 +43,7 @@ public:
         target_.CurrentX = left_;
         target_.CurrentY = top_;
         target_.Print(title, true);
-        y_ = target_.CurrentY + ruleGap;
+        y_ = target_.CurrentY + columnGap / 2;
         measure();
         drawHeadings();
         for (std::size_t row = 0; row < table_.rows.size(); ++row) drawRow(row);
@@ -101,6 +104,11 @@ private:
     void drawHeadings() {
         target_.FontBold = true;
         drawCells([&](std::size_t i) { return std::string_view(table_.columns[i].name); });
+        if (bars_ >= leastBars) {
+            target_.CurrentX = right_ - bars_ + columnGap;
+            target_.CurrentY = y_;
+            target_.Print(fitted(barName_, bars_ - columnGap), false);
+        }
         target_.FontBold = false;
         y_ += lineHeight_;
         drawRule();
@@ -140,6 +148,7 @@ private:
     exchange::OutTable table_;
     BarScale scale_;
     std::size_t byCount_;
+    std::string barName_;
     std::vector<float> widths_;
     float left_ = 0, right_ = 0, top_ = 0, bottom_ = 0, bars_ = 0, lineHeight_ = 0, y_ = 0;
 };

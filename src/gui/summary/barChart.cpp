@@ -67,7 +67,7 @@ void BarChart::measure() {
     const int measured = std::min(count(), mostMeasured);
     for (int i = 0; i < measured; ++i) {
         const summary::Group& group = summary_->groups[static_cast<std::size_t>(i)];
-        nameWidth_ = std::max(nameWidth_, fontMetrics().horizontalAdvance(toQt(group.name())));
+        nameWidth_ = std::max(nameWidth_, fontMetrics().horizontalAdvance(toQt(group.name())) + 2);
         valueWidth_ =
             std::max(valueWidth_, fontMetrics().horizontalAdvance(toQt(summary::barText(group, figure_))));
     }
