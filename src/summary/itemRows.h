@@ -16,6 +16,7 @@ public:
     bool isItemColumn(const core::Column& column) const;
     // Looks which rows of a record are filled in. A record without any has one.
     void read(const core::Item& record);
+    std::size_t rows() const { return used_.size(); } // filled in or not
     bool isUsed(std::size_t row) const { return row < used_.size() && used_[row] != 0; }
 
 private:

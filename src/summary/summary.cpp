@@ -121,10 +121,9 @@ void GroupRun::addSingle(const Item& record) {
 // The groups of the item rows one by one, and then the values of each row into the group of the row.
 void GroupRun::addItems(const Item& record) {
     std::array<std::vector<std::string_view>, 2> values;
-    std::size_t rows = 1;
+    const std::size_t rows = items_.rows();
     for (std::size_t i = 0; i < by_.size(); ++i) {
         splitValues(RecordsList::cell(record, *by_[i].column), by_[i].bItems, values.at(i));
-        rows = std::max(rows, values.at(i).size());
     }
     std::vector<std::uint32_t> groupOfRow(rows), groups;
     for (std::size_t row = 0; row < rows; ++row) {
@@ -147,7 +146,7 @@ void GroupRun::addItems(const Item& record) {
         const std::string_view cell = RecordsList::cell(record, *counted_[i].column);
         splitValues(cell, counted_[i].bItems, values_);
         for (std::size_t row = 0; row < values_.size(); ++row) {
-            if (counted_[i].bItems && (!items_.isUsed(row) || row >= rows)) continue;
+            if (counted_[i].bItems && !items_.isUsed(row)) continue;
             totals_[i].add(values_[row]);
             if (counted_[i].bItems)
                 counterOf(groupOfRow[row], i).add(values_[row]);
