@@ -10,6 +10,8 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace gui {
 
 namespace {
@@ -90,7 +92,7 @@ void statisticsFrmView::showMembers() {
     const auto add = [](QTreeWidget& list, const std::string& name, const std::string& value) {
         auto* item = new QTreeWidgetItem(&list, {toQt(name), toQt(value)});
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-        item->setToolTip(0, item->text(0));
+        for (int column = 0; column < 2; ++column) item->setToolTip(column, item->text(column));
         return item;
     };
     List1_->clear();
@@ -102,7 +104,8 @@ void statisticsFrmView::showMembers() {
     }
     const int mostOfName = em() * 12;
     for (QTreeWidget* list : {List1_, List2_}) {
-        for (int column = 0; column < 2; ++column) list->resizeColumnToContents(column);
+        // The last one has the room that is left, however long a text is.
+        for (int column = 0; column + 1 < list->columnCount(); ++column) list->resizeColumnToContents(column);
         list->setColumnWidth(0, std::min(list->columnWidth(0), mostOfName));
         list->setCurrentItem(list->topLevelItem(0));
     }
