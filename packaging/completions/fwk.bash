@@ -52,7 +52,7 @@ _fwk() {
     for ((i = 1; i < COMP_CWORD; ++i)); do
         word=${COMP_WORDS[i]}
         case $word in
-        -o | --output | --columns | --by | --expression | --column | --title | --records | --where | --wait | --dates | --decimal | --encoding | --separator | --format | --sheet) option=$word taken=0 ;;
+        -o | --output | --columns | --by | --expression | --column | --title | --records | --where | --wait | --dates | --decimal | --encoding | --separator | --format | --sheet | --sum | --mean | --min | --max | --top) option=$word taken=0 ;;
         -*) option="" ;;
         *)
             if [[ -n $option ]]; then
@@ -96,7 +96,7 @@ _fwk() {
         _fwk_offer "$before" < <(_fwk_columns "$file")
         return
         ;;
-    --column:* | --where:0) _fwk_offer < <(_fwk_columns "$file"); return ;;
+    --column:* | --where:0 | --sum:* | --mean:* | --min:* | --max:*) _fwk_offer < <(_fwk_columns "$file"); return ;;
     --where:1) _fwk_offer < <(printf '%s\n' ge le is within range); return ;;
     --dates:*) _fwk_offer < <(printf '%s\n' dmy mdy ymd); return ;;
     --format:*) _fwk_offer < <(printf '%s\n' csv tsv xlsx ods json sqlite html vcf); return ;;
@@ -115,7 +115,7 @@ _fwk() {
     column:0) _fwk_offer < <(_fwk_commands column) ;;
     *:0 | clone:1 | save-as:1) _fwk_files '*.fwk' ;;
     import:1) _fwk_files '*.@(csv|tsv|txt|xlsx|xlsm|ods|json|sqlite|sqlite3|db|html|htm|vcf)' ;;
-    sort:1 | expression:1 | serial:1 | set:1 | total:* | column-rename:1 | column-remove:1)
+    sort:1 | expression:1 | serial:1 | set:1 | statistics:1 | total:* | column-rename:1 | column-remove:1)
         _fwk_offer < <(_fwk_columns "$file")
         ;;
     add:* | update:[2-9]*)

@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--wait|--dates|--decimal|--encoding|--separator|--format|--sheet) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--wait|--dates|--decimal|--encoding|--separator|--format|--sheet|--sum|--mean|--min|--max|--top) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -63,7 +63,7 @@ _fwk() {
         esac
         return ;;
     (--columns:*|--by:*) compset -P '*,'; _fwk_columns -S ''; return ;;
-    (--column:*|--where:0) _fwk_columns; return ;;
+    (--column:*|--where:0|--sum:*|--mean:*|--min:*|--max:*) _fwk_columns; return ;;
     (--where:1) compadd ge le is within range; return ;;
     (--dates:*) compadd dmy mdy ymd; return ;;
     (--format:*) compadd csv tsv xlsx ods json sqlite html vcf; return ;;
@@ -76,7 +76,7 @@ _fwk() {
     (*:0|clone:1|save-as:1) _files -g '*.fwk' ;;
     (import:1) _files -g '*.(csv|tsv|txt|xlsx|xlsm|ods|json|sqlite|sqlite3|db|html|htm|vcf)' ;;
     (new:*|column-add:*) compset -P '*:' && compadd Text Number Currency Date Picture Calculation ;;
-    (sort:1|expression:1|serial:1|set:1|total:*|column-rename:1|column-remove:1) _fwk_columns ;;
+    (sort:1|expression:1|serial:1|set:1|statistics:1|total:*|column-rename:1|column-remove:1) _fwk_columns ;;
     (add:*|update:<2->) [[ $PREFIX == *=* ]] || _fwk_columns -S = ;;
     esac
 }

@@ -47,6 +47,8 @@ Run setUpSearch(CLI::App& command);
 Run setUpReplace(CLI::App& command);
 Run setUpSet(CLI::App& command);
 Run setUpDuplicates(CLI::App& command);
+Run setUpSummary(CLI::App& command);
+Run setUpStatistics(CLI::App& command);
 Run setUpSort(CLI::App& command);
 Run setUpClone(CLI::App& command);
 Run setUpSaveAs(CLI::App& command);

@@ -17,6 +17,8 @@ constexpr Command commands[] = {
     {"info", "Tells what a database is", setUpInfo},
     {"records", "Prints the records and the Totals row", setUpRecords},
     {"search", "Prints the records found, or saves them as a database of their own", setUpSearch},
+    {"summary", "Counts records in groups, with sums, means, least and greatest values", setUpSummary},
+    {"statistics", "Tells figures and the most frequent values of a column", setUpStatistics},
     {"check", "Tells what is wrong with a database, one finding a line", setUpCheck},
     {"new", "Makes a database with these columns", setUpNew},
     {"add", "Adds a record", setUpAdd},
@@ -89,7 +91,7 @@ int runProgram(int argc, char** argv) {
         return tellWrongCommandLine(program, "no command \"" + printable(argv[1]) + '"');
     try {
         std::vector<std::string> words(argv + 1, argv + argc);
-        for (const char* name : {"search", "set"})
+        for (const char* name : {"search", "set", "summary", "statistics"})
             if (words.front() == name) markWhereWords(*program.get_subcommand(name), words);
         std::ranges::reverse(words); // as they are taken
         program.parse(std::move(words));

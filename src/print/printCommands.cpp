@@ -25,16 +25,19 @@ std::string documentName(const core::Document& document) {
     return std::filesystem::path(document.currentFile).stem().string();
 }
 
-// Opens the printer for one command, and closes it behind it.
-void printOn(App& app, const std::function<void(DrawTarget& printer)>& print) {
+} // namespace
+
+void printOn(App& app, const std::function<void(DrawTarget& printer)>& draw) {
     const std::unique_ptr<DrawTarget> printer = app.platform.openPrinter(documentName(app.document));
     if (!printer) return;
     const app::Hourglass hourglass(app);
-    print(*printer);
+    draw(*printer);
     if (printer->close()) return;
     const std::string why = printer->failure();
     app::warn(app, "The print could not be written" + (why.empty() ? "." : ": " + why + "."));
 }
+
+namespace {
 
 void printReport(App& app, bool bSelectedOnly) {
     previewPage(app).iReportStartRow = 1;

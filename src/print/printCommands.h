@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 
+#include <functional>
 #include <string_view>
 
 namespace print {
@@ -12,6 +13,9 @@ void PageSetup_Click(app::App& app);
 
 // The entries of the Print button's menu.
 void Toolbar_ButtonMenuClick(app::App& app, std::string_view key);
+
+// Opens the printer for one command, and closes it behind it.
+void printOn(app::App& app, const std::function<void(drawing::DrawTarget& printer)>& draw);
 
 // Asks for printer, copies and paper. The paper becomes the document's own. False when cancelled.
 bool showPrinterDialog(app::App& app);

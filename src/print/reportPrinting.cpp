@@ -57,21 +57,6 @@ std::string padded(std::string_view text, std::size_t characters) {
     return result;
 }
 
-drawing::PageSetup reportPage(App& app) {
-    core::ReportData& settings = app.document.reportData;
-    if (settings.reportOrientation == 0) settings.reportOrientation = core::landscape;
-    if (settings.reportPaperSize == 0) settings.reportPaperSize = core::letterPaper;
-    drawing::PageSetup setup;
-    setup.PaperSize = settings.reportPaperSize;
-    setup.Orientation = settings.reportOrientation;
-    if (const auto paper = app.platform.paperExtent(setup.PaperSize)) {
-        setup.Width = paper->Width;
-        setup.Height = paper->Height;
-    }
-    if (setup.Orientation == core::landscape) std::swap(setup.Width, setup.Height);
-    return setup;
-}
-
 // One run of PrintReport.
 class Report {
 public:
@@ -223,6 +208,21 @@ void Report::print() {
 }
 
 } // namespace
+
+drawing::PageSetup reportPage(App& app) {
+    core::ReportData& settings = app.document.reportData;
+    if (settings.reportOrientation == 0) settings.reportOrientation = core::landscape;
+    if (settings.reportPaperSize == 0) settings.reportPaperSize = core::letterPaper;
+    drawing::PageSetup setup;
+    setup.PaperSize = settings.reportPaperSize;
+    setup.Orientation = settings.reportOrientation;
+    if (const auto paper = app.platform.paperExtent(setup.PaperSize)) {
+        setup.Width = paper->Width;
+        setup.Height = paper->Height;
+    }
+    if (setup.Orientation == core::landscape) std::swap(setup.Width, setup.Height);
+    return setup;
+}
 
 RecordsList& reportList(App& app) {
     core::Document& document = app.document;

@@ -7,6 +7,9 @@ namespace print {
 // The list that a report shows: in an invoice database the invoice list, or what was found.
 core::RecordsList& reportList(app::App& app);
 
+// The paper of the report; landscape on letter paper where the database has none yet.
+drawing::PageSetup reportPage(app::App& app);
+
 // Draws the report: all of it on a printer, a page a call on the preview. A failure ends in a message and
 // leaves what has been drawn.
 void PrintReport(app::App& app, drawing::DrawTarget& target, core::RecordsList& theList);

@@ -23,6 +23,8 @@
 #include "storage/saveFile.h"
 #include "storage/saveSearch.h"
 #include "storage/saveSteps.h"
+#include "summary/statisticsFrm.h"
+#include "summary/summaryPanel.h"
 #include "tables/copyRecords.h"
 
 #include <algorithm>
@@ -147,6 +149,8 @@ std::vector<Command> menuCommands() {
         {"mnuDuplicates", "Find Duplicat&es...", "", "duplicates", false, search::mnuDuplicates_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
+        {"mnuSummary", "Su&mmary", "", "summary", true, summary::mnuSummary_Click},
+        {"mnuStatistics", "Column Stat&istics...", "", "statistics", false, summary::mnuStatistics_Click},
         {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, showExpressionEditor},
         {"mnuDatabaseProperties", "Database &Properties", "", "properties", false, showDatabaseProperties},
         {"mnuTotalColumns", "Choose Columns To Total", "", "totalColumns", false, showing("TotalsFrm")},
@@ -279,8 +283,9 @@ std::span<const Menu> menuBar() {
           "mnuDuplicate", "-", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
         {"mnuTools",
          "&Tools",
-         {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",
-          "-", "mnuTotalColumns", "-", "mnuSerialAdjust", "mnuSerialCheck"}},
+         {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuSummary", "mnuStatistics", "-",
+          "mnuDatabaseProperties", "Design", "-", "mnuTotalColumns", "-", "mnuSerialAdjust",
+          "mnuSerialCheck"}},
         {"mnuOptions",
          "&Options",
          {"mnuConfirmDelete", "mnuSavePrompt", "-", "mnuCalcHighlight", "mnuDatabaseLock", "-",

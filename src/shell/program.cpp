@@ -14,6 +14,7 @@
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/versions.h"
+#include "summary/summaryPanel.h"
 
 namespace shell {
 
@@ -61,6 +62,9 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Opened}, [](App& app) {
         if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);
     });
+    changes.follow({Change::Modified, Change::Columns, Change::Values, Change::CurrentRecord, Change::Unsaved,
+                    Change::Begun, Change::Opened},
+                   summary::followChanges);
     followForUndo(changes);
     changes.follow({Change::Preview}, [](App& app) { SSTab1_Click(app, app::previewTab); });
 }

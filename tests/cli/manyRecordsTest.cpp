@@ -33,4 +33,35 @@ $ fwk duplicates a.fwk --by Name --ignore-case --delete --yes -> 2 // ~=|=|=|-$1
 )sh");
 }
 
+TEST_F(FwkTest, Summaries) {
+    make("a.fwk", DataFile("Bed Day:1 Cost:2 A",
+                           "Pond|03/01/2015|$1.50|x;\"Hedge|12/31/2015||x;Pond|01/01/2016|$2.25|x"));
+    expect(R"sh(
+$ fwk summary a.fwk --by bed --sum Cost --max Day -> Bed     Records  Sum of Cost  Greatest of Day
+------  -------  -----------  ---------------
+"Hedge        1                    12/31/2015
+Pond          2        $3.75       01/01/2016
+------  -------  -----------  ---------------
+Total         3        $3.75       01/01/2016
+$ fwk summary a.fwk --by Day:year --by Bed --mean Cost --json -> {"by": ["Day (year)", "Bed"], "figures": ["Mean of Cost"],
+ "groups": [ //   {"group": ["2015", "\"Hedge"], "records": 1, "figures": [null]},
+  {"group": ["2015", "Pond"], "records": 1, "figures": [1.5]},
+  {"group": ["2016", "Pond"], "records": 1, "figures": [2.25]}], //  "total": {"records": 3, "figures": [1.88]}}
+$ fwk summary a.fwk --by Cost:2 --csv --where Bed is pond
+Cost (steps of 2),Records // $.00 to below $2.00,1 // $2.00 to below $4.00,1
+$ fwk statistics a.fwk Cost --top 1 -> Figure            Value // ----------------  -----
+Records               3 // Values                2 // Empty                 1 // Different values      2
+Least             $1.50 // Greatest          $2.25 // Mean              $1.88 // Median            $1.88
+Sum               $3.75 // Most frequent  Count // -------------  ----- // $1.50              1
+$ fwk statistics a.fwk Day --json --top 1 -> {"column": "Day", "records": 3, "values": 3, "empty": 0, "different": 3,
+ "least": "03/01/2015", //  "greatest": "01/01/2016", //  "mean": null, //  "median": "12/31/2015", //  "sum": null,
+ "mostFrequent": [ //   {"value": "03/01/2015", "count": 1}]}
+$1 fwk summary a.fwk --by Bed:year -> ! "year" is no step of the column "Bed" && $1 fwk summary a.fwk --by Day:week
+! "week" is no step of the column "Day": year, quarter, month or day && $1 fwk summary a.fwk --by Bd -> ! no column "Bd"
+$1 fwk summary a.fwk --by Bed --sum Day -> ! the column "Day" has no sum
+$1 fwk statistics a.fwk Index -> ! no column "Index" && $2 fwk summary a.fwk -> ! --by is required
+$2 fwk summary a.fwk --by Bed --by Day --by Cost -> ! --by: At Most 2 required but received 3
+)sh");
+}
+
 } // namespace

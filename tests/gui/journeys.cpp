@@ -132,6 +132,55 @@ tool Field Name; press Ctrl+L; tab 0; click mnuLayoutDoubleClick; press Insert -
     }
 
     // Dropped or not; and an error that nobody caught keeps a copy and ends the program.
+    // Groups, and the records of one, by keys and by mouse; the summary follows what is changed.
+    void theSummary() {
+        Session run(sample("books.fwk"));
+        const auto* view = run.find<QTreeView>(u"summaryTable"_s);
+        const auto row = [&](int number) {
+            const int last = view->model()->rowCount() - 1;
+            QStringList cells;
+            for (int i = 0; i < view->model()->columnCount(); ++i)
+                cells << view->model()->index(number < 0 ? last : number, i).data().toString();
+            return cells.join(u'|');
+        };
+        const auto results = [&] {
+            return run.app.document.searchLV.Visible ? run.app.document.searchLV.count() - 1 : -1;
+        };
+        run.act(u"press Ctrl+M"_s);
+        QVERIFY(view->isVisible() && view->hasFocus());
+        QTRY_COMPARE(row(-1).section(u'|', 0, 1), u"Total|42"_s);
+        run.act(u"focus groupCbo0; type Bought"_s);
+        QTRY_COMPARE(row(0).section(u'|', 0, 1), u"1998|8"_s);
+        run.act(u"focus summaryTable; press Home; press Down 2; press Return"_s);
+        QCOMPARE(results(), 2);
+        QVERIFY(view->hasFocus()); // to go on to the next group
+        run.act(u"click summaryBars 20,10"_s);
+        QCOMPARE(results(), 8);
+        QCOMPARE(view->currentIndex().row(), 0);
+        run.act(u"click allBtn"_s);
+        QCOMPARE(results(), -1);
+        run.platform.answers = {platform::Answer::Yes};
+        run.act(u"focus LV; click Delete"_s);
+        QTRY_COMPARE(row(-1).section(u'|', 0, 1), u"Total|41"_s);
+        run.platform.chosenFile = gui::fromQt(path("sums.pdf"));
+        run.act(u"click printSummary"_s);
+        QVERIFY(QFile::exists(path("sums.pdf")));
+        QStringList figures;
+        run.onDialog = [&](QDialog& dialog) {
+            const auto* list = dialog.findChild<QTreeWidget*>(u"List1"_s);
+            for (int i = 0; i < list->topLevelItemCount(); ++i) figures << list->topLevelItem(i)->text(1);
+        };
+        auto* head = run.find<QTreeView>(u"LV"_s)->header();
+        const int price = run.app.document.LV.columns["Price"].Index - 2;
+        QTimer::singleShot(0, head, [&] {
+            emit head->customContextMenuRequested({head->sectionViewportPosition(price) + 5, 5});
+        });
+        run.play("focus LV; press t -> ...");
+        QCOMPARE(figures.join(u' '), u"41 41 0 41 $1.05 $949.97 $50.10 $28.60 $2,053.90"_s);
+        run.act(u"focus summaryTable; press Ctrl+M"_s);
+        QVERIFY(!view->isVisible() && run.find<QTreeView>(u"LV"_s)->hasFocus());
+    }
+
     void filesThatAreDroppedAndProgramsThatEnd() {
         Session run;
         const auto drop = [&](const QString& path) {

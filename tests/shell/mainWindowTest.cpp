@@ -100,7 +100,7 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
         }
     }
     EXPECT_EQ(those([](std::string_view key) { return shell::command(key).checkable; }),
-              "Search Totals Design Design mnuConfirmDelete mnuSavePrompt mnuCalcHighlight "
+              "Search Totals Design mnuSummary Design mnuConfirmDelete mnuSavePrompt mnuCalcHighlight "
               "mnuLayoutDoubleClick mnuAutoLoad ");
     const auto disabled = [&](std::string_view key) { return !shell::isCommandEnabled(app, key); };
     const std::string prints = "All_As_Layouts Selected_As_Layouts ";

@@ -20,6 +20,7 @@
 #include "gui/dialogs/setValuesFrmView.h"
 #include "gui/dialogs/totalsFrmView.h"
 #include "gui/dialogs/versionsFrmView.h"
+#include "gui/summary/statisticsFrmView.h"
 
 namespace gui {
 
@@ -53,6 +54,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
     platform.registerForm("setValuesFrm", shown<setValuesFrmView>(app, events));
     platform.registerForm("duplicatesFrm", shown<duplicatesFrmView>(app, events));
+    platform.registerForm("statisticsFrm", shown<statisticsFrmView>(app, events));
     platform.registerForm("serialCheckFrm", shown<serialCheckFrmView>(app, events));
 }
 

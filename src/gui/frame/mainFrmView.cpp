@@ -44,13 +44,16 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
       actions_(new CommandActions(app, events_, this)), tabs_(new QTabWidget),
       report_(new ReportPage(app, events_, *actions_)), layout_(new LayoutPageView(app, events_)),
       preview_(new PreviewView(app, events_)), status_(new StatusPanels(app)),
-      notice_(new NoticeBar(app, events_)), unsaved_(new UnsavedTimer(app, this)) {
+      notice_(new NoticeBar(app, events_)), unsaved_(new UnsavedTimer(app, this)),
+      summary_(new SummaryDock(app, events_, this)) {
     setObjectName(QStringLiteral("MainFrm"));
     setWindowIcon(programIcon());
     setAcceptDrops(true);
     actions_->addMenuBar(*this);
     actions_->addToolbar(*this);
     makeTabs();
+    addDockWidget(Qt::BottomDockWidgetArea, summary_);
+    summary_->hide();
     new PaneKeys(*this, *tabs_, [this] {
         const int tab = tabs_->currentIndex();
         return tab == app::layoutTab    ? layout_->keyHolder()
@@ -130,10 +133,25 @@ void MainFrmView::showState() {
     if (app_.mainFrm.SSTab1 == app::reportTab) report_->refresh();
     if (app_.mainFrm.SSTab1 == app::layoutTab) layout_->refresh();
     if (app_.mainFrm.SSTab1 == app::previewTab) preview_->refresh();
+    showSummary();
     status_->refresh();
     notice_->refresh();
     unsaved_->refresh();
     if (app_.mainFrm.unloaded) close();
+}
+
+// It takes the keys when it comes up, and gives them back to the page.
+void MainFrmView::showSummary() {
+    const bool bShown = app_.mainFrm.control("mnuSummary").Value && app_.mainFrm.SSTab1Enabled;
+    if (bShown == summary_->isHidden()) {
+        const bool bHadKeys = summary_->isAncestorOf(focusWidget());
+        summary_->setVisible(bShown);
+        if (bShown)
+            summary_->widget()->setFocus();
+        else if (bHadKeys)
+            report_->keyHolder()->setFocus();
+    }
+    summary_->refresh();
 }
 
 // Whichever way the window is closed: the menu's Exit has done the handler's part already.

@@ -10,6 +10,7 @@
 #include "gui/machine/qtPlatform.h"
 #include "gui/print/previewView.h"
 #include "gui/records/reportPage.h"
+#include "gui/summary/summaryDock.h"
 
 #include <QMainWindow>
 #include <QTabWidget>
@@ -46,6 +47,7 @@ protected:
 private:
     void showState();
     void makeTabs();
+    void showSummary();
 
     app::App& app_;
     QtPlatform& platform_;
@@ -58,6 +60,7 @@ private:
     StatusPanels* status_;
     NoticeBar* notice_;
     UnsavedTimer* unsaved_;
+    SummaryDock* summary_;
     bool stale_ = false; // an event came while the window was shown anew
     bool refreshing_ = false;
 };

@@ -2,6 +2,7 @@
 
 #include "gui/frame/noticeBar.h"
 
+#include <QDockWidget>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>
@@ -64,6 +65,8 @@ std::vector<PaneKeys::Pane> PaneKeys::panes() const {
     QWidget* page = tabs_.currentWidget();
     addBars(*page, Qt::FindChildrenRecursively);
     all.push_back({page, keyHolder_()});
+    for (const auto* dock : window_.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (dock->isVisible()) all.push_back({dock, dock->widget()->focusProxy()});
     return all;
 }
 

@@ -7,6 +7,7 @@
 #include "gui/widgets/qtText.h"
 #include "shell/commands.h"
 #include "shell/listEvents.h"
+#include "summary/statisticsFrm.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -233,6 +234,12 @@ void RecordsView::showHeaderMenu(QPoint place) {
             this, [this, section] { sortBy(section, shell::Order::Ascending); });
     connect(menu.addAction(familyIcon(QStringLiteral("sortDown")), tr("Sort &Descending")),
             &QAction::triggered, this, [this, section] { sortBy(section, shell::Order::Descending); });
+    menu.addSeparator();
+    connect(menu.addAction(familyIcon(QStringLiteral("statistics")), tr("S&tatistics...")),
+            &QAction::triggered, this, [this, section] {
+                const std::string name = list_.columns.at(RecordsModel::columnIndex(section)).Text;
+                events_.run([&] { summary::showStatisticsOf(app_, name); });
+            });
     menu.exec(header()->viewport()->mapToGlobal(place));
 }
 

@@ -1,0 +1,339 @@
+#include "summary/summaryPanel.h"
+
+#include "app/hourglass.h"
+#include "app/windowState.h"
+#include "core/runTimeError.h"
+#include "core/totalsRow.h"
+#include "exchange/csvWriter.h"
+#include "print/printCommands.h"
+#include "search/duplicates.h"
+#include "search/manyRecords.h"
+#include "search/searchMode.h"
+#include "storage/saveSteps.h"
+#include "summary/summaryPrinting.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <unordered_set>
+
+namespace summary {
+
+using core::Column;
+using core::ColumnType;
+using core::Item;
+
+namespace {
+
+struct ChangeCount {
+    std::uint64_t changes = 1;
+};
+
+constexpr std::string_view eachValue = "Each value", eachDay = "Day";
+
+// What is proposed before anybody has chosen: the first column of words that several records share.
+int firstGroupColumn(const core::Document& document, const std::vector<std::string>& names) {
+    int firstText = -1;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const Column& column = document.LV.columns[names[i]];
+        if (!column.isType(ColumnType::Text)) continue;
+        if (firstText < 0) firstText = static_cast<int>(i);
+        std::unordered_set<std::string_view> different;
+        document.LV.forEach([&](const Item& record) {
+            if (!record.isTotals()) different.insert(core::RecordsList::cell(record, column));
+        });
+        const auto records = static_cast<std::size_t>(document.LV.count());
+        if (different.size() > 1 && different.size() * 2 < records) return static_cast<int>(i);
+    }
+    return std::max(firstText, 0);
+}
+
+} // namespace
+
+void followChanges(app::App& app) {
+    ++app.rooms.of<ChangeCount>().changes;
+}
+
+std::uint64_t changesSoFar(const app::App& app) {
+    return app.rooms.of<ChangeCount>().changes;
+}
+
+void mnuSummary_Click(app::App& app) {
+    bool& bShown = app.mainFrm.control("mnuSummary").Value;
+    bShown = !bShown;
+}
+
+bool SummaryPanel::follow() {
+    const std::uint64_t now = changesSoFar(app_);
+    if (now != counted_) {
+        counted_ = now;
+        isStale_ = true;
+        takeColumns();
+    }
+    followResults();
+    return isStale_;
+}
+
+void SummaryPanel::takeColumns() {
+    const core::ColumnHeaders& columns = app_.document.LV.columns;
+    std::string shown;
+    std::vector<std::string> names;
+    for (const int index : columns.displayOrder()) {
+        if (index == 1) continue;
+        const Column& column = columns.at(index);
+        names.push_back(column.Text);
+        shown.append(column.Text).append("|").append(column.Tag).append("|");
+    }
+    if (shown == columnsShown_) return;
+    columnsShown_ = shown;
+    takeGroupColumns(names);
+    takeFigureColumns(names);
+}
+
+// What was chosen stays, where it is there still.
+void SummaryPanel::takeGroupColumns(const std::vector<std::string>& names) {
+    for (std::size_t i = 0; i < by.size(); ++i) {
+        Chooser& chooser = by.at(i);
+        std::string chosen;
+        if (!chooser.columns.empty()) chosen = chooser.columns.at(static_cast<std::size_t>(chooser.column));
+        chooser.columns.clear();
+        if (i == 1) chooser.columns.emplace_back("(none)");
+        chooser.columns.insert(chooser.columns.end(), names.begin(), names.end());
+        const auto found = std::ranges::find(chooser.columns, chosen);
+        if (found != chooser.columns.end())
+            chooser.column = static_cast<int>(found - chooser.columns.begin());
+        else
+            chooser.column = i == 0 ? firstGroupColumn(app_.document, names) : 0;
+        takeSteps(i);
+    }
+}
+
+void SummaryPanel::takeFigureColumns(const std::vector<std::string>& names) {
+    std::vector<FigureColumn> figures;
+    bool isAny = false;
+    for (const std::string& name : names) {
+        FigureColumn entry{name, app_.document.LV.columns[name].type()};
+        if (!isCounted(FigureKind::Least, entry.type)) continue;
+        const auto known = std::ranges::find(figureColumns, name, &FigureColumn::name);
+        if (known != figureColumns.end() && known->type == entry.type) entry.checked = known->checked;
+        isAny |= std::ranges::find(entry.checked, true) != entry.checked.end();
+        figures.push_back(entry);
+    }
+    figureColumns = std::move(figures);
+    if (isAny) return;
+    // What is totaled is what the user wants to know the sums of.
+    for (FigureColumn& column : figureColumns)
+        column.checked.front() =
+            core::isTotaledColumn(app_.document, column.name) && isCounted(FigureKind::Sum, column.type);
+}
+
+// The steps of the column that is chosen.
+void SummaryPanel::takeSteps(std::size_t place) {
+    Chooser& chooser = by.at(place);
+    const bool bNone = chooser.columns.empty() || (place == 1 && chooser.column == 0);
+    const Column* column =
+        bNone ? nullptr
+              : app_.document.LV.columns.find(chooser.columns[static_cast<std::size_t>(chooser.column)]);
+    const ColumnType type = column == nullptr ? ColumnType::Text : column->type();
+    std::vector<std::string> steps;
+    if (type == ColumnType::Date)
+        steps = {"Year", "Quarter", "Month", std::string(eachDay)};
+    else if (isCounted(FigureKind::Sum, type))
+        steps = {std::string(eachValue), "1", "10", "100", "1000"};
+    else
+        steps = {std::string(eachValue)};
+    if (steps == chooser.steps) return;
+    chooser.steps = std::move(steps);
+    chooser.step = chooser.steps.front();
+    chooser.bFreeSteps = isCounted(FigureKind::Sum, type);
+}
+
+// A group that is shown in place of the records found leaves the summary of those as it is; other results,
+// and all records, do not.
+void SummaryPanel::followResults() {
+    const core::RecordsList& results = app_.document.searchLV;
+    const bool bResults = results.Visible && app_.document.LV.columns.count() > 1;
+    canShowAll = bResults;
+    onlyFoundEnabled = bResults;
+    if (bNarrowed_ && bResults && results.arrangement() == narrowed_) return;
+    if (bNarrowed_) isStale_ = true;
+    bNarrowed_ = false;
+    baseKeys_.clear();
+    if (!bResults && onlyFound) {
+        onlyFound = false;
+        isStale_ = true;
+    }
+}
+
+std::optional<Request> SummaryPanel::request() {
+    Request request;
+    for (std::size_t i = 0; i < by.size(); ++i) {
+        const Chooser& chooser = by.at(i);
+        if (chooser.columns.empty() || (i == 1 && chooser.column == 0)) continue;
+        const std::string& name = chooser.columns[static_cast<std::size_t>(chooser.column)];
+        const Column* column = app_.document.LV.columns.find(name);
+        if (column == nullptr) return std::nullopt;
+        GroupBy grouped{name, {}};
+        if (chooser.step != eachValue && chooser.step != eachDay) {
+            const std::optional<Step> step = stepNamed(chooser.step, column->type());
+            if (!step) {
+                note = "\"";
+                note.append(chooser.step).append("\" is no step: type a number above 0.");
+                return std::nullopt;
+            }
+            grouped.step = *step;
+        }
+        request.by.push_back(grouped);
+    }
+    if (request.by.empty()) return std::nullopt;
+    for (const FigureColumn& column : figureColumns)
+        for (const FigureKind kind : figureKinds)
+            if (column.checked.at(static_cast<std::size_t>(kind)) && isCounted(kind, column.type))
+                request.figures.push_back({kind, column.name});
+    return request;
+}
+
+std::vector<const Item*> SummaryPanel::base() {
+    std::vector<const Item*> records;
+    if (bNarrowed_) {
+        for (const std::string& key : baseKeys_)
+            if (const Item* record = app_.document.LV.find(key)) records.push_back(record);
+        return records;
+    }
+    for (const Item* record : search::recordsIn(app_, search::foundRecords)) records.push_back(record);
+    return records;
+}
+
+void SummaryPanel::recount() {
+    if (!isStale_) return;
+    isStale_ = false;
+    ++countings;
+    note.clear();
+    const std::string barBefore =
+        bars < static_cast<int>(barNames.size()) ? barNames[static_cast<std::size_t>(bars)] : std::string();
+    const std::optional<Request> wanted = request();
+    if (!wanted) {
+        summary = {};
+    } else if (onlyFound) {
+        const std::vector<const Item*> records = base();
+        summary = summarise(app_.document, *wanted, app_.platform.today(), &records);
+    } else {
+        summary = summarise(app_.document, *wanted, app_.platform.today());
+    }
+    barNames.assign(1, std::string(recordsHeading));
+    for (const Figure& figure : summary.request.figures) barNames.push_back(headingOf(figure));
+    const auto known = std::ranges::find(barNames, barBefore);
+    bars = known == barNames.end() ? 0 : static_cast<int>(known - barNames.begin());
+    if (wanted) {
+        note = search::counted(summary.groups.size(), "group", "groups");
+        note.append(", ").append(search::counted(summary.total.records, "record", "records"));
+    } else if (note.empty()) {
+        note = "Open a database, or add columns, to see its records in groups.";
+    }
+}
+
+void SummaryPanel::column_Click(std::size_t chooser, int entry) {
+    Chooser& chosen = by.at(chooser);
+    if (entry < 0 || entry >= static_cast<int>(chosen.columns.size())) return;
+    chosen.column = entry;
+    takeSteps(chooser);
+    isStale_ = true;
+}
+
+void SummaryPanel::step_Change(std::size_t chooser, const std::string& text) {
+    isStale_ |= by.at(chooser).step != text;
+    by.at(chooser).step = text;
+}
+
+void SummaryPanel::figure_Click(std::size_t column, FigureKind kind, bool bChecked) {
+    figureColumns.at(column).checked.at(static_cast<std::size_t>(kind)) = bChecked;
+    isStale_ = true;
+}
+
+void SummaryPanel::bars_Click(int entry) {
+    if (entry >= 0 && entry < static_cast<int>(barNames.size())) bars = entry;
+}
+
+void SummaryPanel::onlyFound_Click(bool bChecked) {
+    onlyFound = bChecked && onlyFoundEnabled;
+    isStale_ = true;
+}
+
+void SummaryPanel::showGroup(std::size_t group) {
+    if (group >= summary.groups.size()) return;
+    // The records that it was counted from may be gone, so it is looked for among those of now.
+    const std::vector<GroupKey> keysOfGroup = summary.groups[group].keys;
+    isStale_ = true;
+    follow();
+    recount();
+    const auto found = std::ranges::find(summary.groups, keysOfGroup, &Group::keys);
+    if (found == summary.groups.end()) return;
+    const std::vector<const Item*> records =
+        summary.membersOf(static_cast<std::size_t>(found - summary.groups.begin()));
+    std::vector<std::string> keys;
+    if (onlyFound)
+        for (const Item* record : base()) keys.push_back(record->Key.str());
+    search::showRecords(app_, {records});
+    app::showReportTab(app_);
+    if (!onlyFound) return;
+    bNarrowed_ = true;
+    baseKeys_ = std::move(keys);
+    narrowed_ = app_.document.searchLV.arrangement();
+}
+
+void SummaryPanel::showAll() {
+    if (app_.document.searchLV.Visible) search::leaveResults(app_);
+    app::showReportTab(app_);
+}
+
+std::string SummaryPanel::title() const {
+    std::string title = app_.document.reportData.reportTitle;
+    if (title.empty()) title = std::filesystem::path(app_.document.currentFile).stem().string();
+    for (std::size_t i = 0; i < summary.request.by.size(); ++i) {
+        title.append(i > 0 ? " and " : title.empty() ? "By " : " by ");
+        title.append(headingOf(summary.request.by[i]));
+    }
+    return title;
+}
+
+void SummaryPanel::copy() {
+    const exchange::OutTable table = tableOf(summary, title());
+    if (table.rows.empty()) return;
+    std::string text;
+    exchange::CsvWriter tabbed(text, "\t\"\r\n", '\t');
+    for (const exchange::OutColumn& column : table.columns) tabbed.cell(column.name);
+    tabbed.endLine();
+    for (const auto& row : table.rows) {
+        for (const std::string& cell : row) tabbed.cell(cell);
+        tabbed.endLine();
+    }
+    app_.platform.setClipboard({text, exchange::sheetText(exchange::Format::Html, table), {}});
+}
+
+void SummaryPanel::exportTable() {
+    using exchange::Format;
+    const exchange::OutTable table = tableOf(summary, title());
+    if (table.rows.empty()) return;
+    auto target = app_.platform.showSave(
+        {"Export Summary", "Summary.xlsx",
+         "Tables (*.xlsx)|*.xlsx;*.ods;*.csv;*.tsv;*.html;*.json;*.sqlite|All Files (*.*)|*.*"});
+    if (!target) return;
+    if (!exchange::formatOf(*target)) target->append(".xlsx");
+    const Format format = *exchange::formatOf(*target);
+    if (format == Format::Vcard) return app::warn(app_, "A summary has no place in address cards.");
+    if (!storage::mayWriteTo(app_, *target)) return;
+    const app::Hourglass hourglass(app_);
+    try {
+        exchange::writeSheet(*target, format, table);
+    } catch (const core::RunTimeError& error) {
+        app::warn(app_, std::string("The table could not be written: ").append(error.what()));
+    }
+}
+
+void SummaryPanel::print() {
+    if (summary.groups.empty()) return;
+    print::printOn(app_, [&](drawing::DrawTarget& printer) {
+        drawSummary(app_, printer, summary, title(), barFigure());
+    });
+}
+
+} // namespace summary

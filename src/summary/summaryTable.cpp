@@ -1,0 +1,74 @@
+#include "summary/summaryTable.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace summary {
+
+exchange::OutTable tableOf(const Summary& summary, std::string title) {
+    using core::ColumnType;
+    exchange::OutTable table;
+    table.title = std::move(title);
+    for (const GroupBy& by : summary.request.by)
+        table.columns.push_back({headingOf(by), ColumnType::Text, core::newColumnWidth, {}});
+    table.columns.push_back({std::string(recordsHeading), ColumnType::Number, core::newColumnWidth, {}});
+    for (std::size_t i = 0; i < summary.request.figures.size(); ++i)
+        table.columns.push_back(
+            {headingOf(summary.request.figures[i]), summary.figureTypes[i], core::newColumnWidth, {}});
+    const auto addCounted = [](std::vector<std::string>& row, const Group& group) {
+        row.push_back(std::to_string(group.records));
+        for (const Value& figure : group.figures) row.push_back(figure.text);
+    };
+    table.rows.reserve(summary.groups.size() + 1);
+    for (const Group& group : summary.groups) {
+        std::vector<std::string> row;
+        for (const GroupKey& key : group.keys) row.push_back(key.label);
+        addCounted(row, group);
+        table.rows.push_back(std::move(row));
+    }
+    std::vector<std::string> total(summary.request.by.size());
+    if (total.empty()) return table;
+    total.front() = totalLabel;
+    addCounted(total, summary.total);
+    table.rows.push_back(std::move(total));
+    table.bLastIsTotals = true;
+    return table;
+}
+
+namespace {
+
+const Value* figureAt(const Group& group, int figure) {
+    const auto place = static_cast<std::size_t>(figure);
+    return place < group.figures.size() ? &group.figures[place] : nullptr;
+}
+
+} // namespace
+
+std::optional<double> barValue(const Group& group, int figure) {
+    if (figure == recordsBar) return static_cast<double>(group.records);
+    const Value* value = figureAt(group, figure);
+    return value != nullptr && value->number ? std::optional(value->number->toDouble()) : std::nullopt;
+}
+
+std::string barText(const Group& group, int figure) {
+    if (figure == recordsBar) return std::to_string(group.records);
+    const Value* value = figureAt(group, figure);
+    return value == nullptr ? std::string() : value->text;
+}
+
+BarScale::BarScale(const Summary& summary, int figure) : figure_(figure) {
+    for (const Group& group : summary.groups) {
+        const double value = barValue(group, figure).value_or(0);
+        least_ = std::min(least_, value);
+        greatest_ = std::max(greatest_, value);
+    }
+    if (!(room() > 0) || !std::isfinite(room())) greatest_ = least_ + 1;
+}
+
+Bar BarScale::barOf(const Group& group) const {
+    const double value = std::clamp(barValue(group, figure_).value_or(0), least_, greatest_);
+    const double end = (value - least_) / room();
+    return {std::min(zero(), end), std::max(zero(), end)};
+}
+
+} // namespace summary

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "exchange/sheet.h"
+#include "summary/summary.h"
+
+namespace summary {
+
+constexpr std::string_view recordsHeading = "Records";
+constexpr std::string_view totalLabel = "Total";
+
+// The summary as a table for other programs: the groups, the records, the figures; last the grand total.
+exchange::OutTable tableOf(const Summary& summary, std::string title);
+
+// What a bar of a group is as long as: the records for -1, else a figure by its place; nothing where there is
+// none.
+constexpr int recordsBar = -1;
+std::optional<double> barValue(const Group& group, int figure);
+std::string barText(const Group& group, int figure);
+
+// From where to where a bar goes, in parts of the room that all bars of a summary share: from 0 to 1.
+struct Bar {
+    double from = 0, to = 0;
+};
+class BarScale {
+public:
+    BarScale(const Summary& summary, int figure);
+    Bar barOf(const Group& group) const;
+    double zero() const { return least_ < 0 ? -least_ / room() : 0; }
+
+private:
+    double room() const { return greatest_ - least_; }
+
+    int figure_;
+    double least_ = 0, greatest_ = 0;
+};
+
+} // namespace summary
