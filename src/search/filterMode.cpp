@@ -1,6 +1,6 @@
 #include "search/filterMode.h"
 
-#include "app/fileSettings.h"
+#include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
 #include "search/searchEngine.h"
@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace search {
 
@@ -17,9 +18,6 @@ using core::Item;
 using core::RecordsList;
 
 namespace {
-
-constexpr std::string_view settingsName = "filter.";
-constexpr char scopeSign = '\n'; // between the text and the scope of a kept filter
 
 struct FilterState {
     FilterBarState bar;
@@ -201,6 +199,26 @@ void leaveFilter(App& app) {
     leaveResults(app);
 }
 
+void mnuFilter_Click(App& app) {
+    if (!canFilter(app)) return;
+    app::showReportTab(app);
+    stateOf(app).bar.isOpen = stateOf(app).bar.wantsKeys = true;
+    prepareFilter(app);
+}
+
+bool canFilter(const App& app) {
+    return app.document.LV.columns.count() > 1;
+}
+
+void closeFilterBar(App& app) {
+    leaveFilter(app);
+    stateOf(app).bar.isOpen = stateOf(app).bar.wantsKeys = false;
+}
+
+bool takeFilterKeys(App& app) {
+    return std::exchange(stateOf(app).bar.wantsKeys, false);
+}
+
 void forgetFilter(App& app) {
     FilterState& state = stateOf(app);
     state.bar.isOn = false;
@@ -231,34 +249,6 @@ Passed recordsPassing(App& app, const Filter& filter) {
     FoldedTexts texts;
     texts.follow(app.document.LV, filterColumns(app.document, app.document.LV));
     return filter.error ? Passed(texts.rows(), 0) : passing(filter, texts, app.platform.today());
-}
-
-std::vector<std::string> keptFilters(const App& app) {
-    return app::fileSettingNames(app, settingsName);
-}
-
-bool keepFilter(App& app, std::string_view name) {
-    const FilterBarState& bar = filterBar(app);
-    std::string text = bar.text;
-    text.push_back(scopeSign);
-    text.append(bar.scope);
-    std::string key(settingsName);
-    key.append(name);
-    return app::setFileSetting(app, key, text);
-}
-
-void useKeptFilter(App& app, std::string_view name) {
-    std::string key(settingsName);
-    key.append(name);
-    const std::string kept = app::fileSetting(app, key);
-    const std::size_t end = std::min(kept.find(scopeSign), kept.size());
-    setFilter(app, kept.substr(0, end), end < kept.size() ? kept.substr(end + 1) : std::string());
-}
-
-void removeKeptFilter(App& app, std::string_view name) {
-    std::string key(settingsName);
-    key.append(name);
-    app::setFileSetting(app, key, "");
 }
 
 } // namespace search

@@ -17,6 +17,8 @@ struct FilterBarState {
     std::string scope; // the column that plain words apply to; empty for all
     std::optional<FilterError> error;
     int found = 0, all = 0;
+    bool isOpen = false;    // the bar is there
+    bool wantsKeys = false; // and takes them when it is shown next; the view takes it back
 };
 const FilterBarState& filterBar(const app::App& app);
 
@@ -33,6 +35,14 @@ Passed recordsPassing(app::App& app, const Filter& filter);
 Filter parseFilter(const app::App& app, const core::RecordsList& list, std::string_view text,
                    std::string_view scope = {});
 
+// Opens the bar over the records.
+void mnuFilter_Click(app::App& app);
+bool canFilter(const app::App& app);
+// Shows all records and puts the bar away.
+void closeFilterBar(app::App& app);
+// The bar has the keys, or will have them.
+bool takeFilterKeys(app::App& app);
+
 // Other results take the place of the filter's.
 void forgetFilter(app::App& app);
 // Follow the changes: the one the results, which may be gone, and the other the records.
@@ -43,8 +53,8 @@ void prepareFilter(app::App& app);
 
 // Filters that the user keeps for the open database, by name, in the order in which they were kept first.
 std::vector<std::string> keptFilters(const app::App& app);
-// False when it cannot be kept: the document has no file yet, or the name is too long.
-bool keepFilter(app::App& app, std::string_view name);
+// Asks for the name; says so when it cannot be kept, as for a document that has no file yet.
+void keepFilter(app::App& app);
 void useKeptFilter(app::App& app, std::string_view name);
 void removeKeptFilter(app::App& app, std::string_view name);
 

@@ -2,6 +2,7 @@
 
 #include "search/folding.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace search {
@@ -47,29 +48,35 @@ bool FoldedTexts::follow(const RecordsList& list, const FilterColumns& columns) 
     if (!isAny) return false;
     if (isOtherTable) columns_.clear();
     columns_.resize(subItems.size());
-    for (std::size_t place = 0; place < subItems.size(); ++place)
-        columns_[place] = copied(columns_[place], subItems[place], isChanged);
+    columns_ = copied(subItems, isChanged);
     hashes_ = std::move(hashes);
     subItems_ = std::move(subItems);
     read_.assign(columns_.size(), {});
     return true;
 }
 
-FoldedTexts::Column FoldedTexts::copied(const Column& before, int subItem,
-                                        const std::vector<char>& isChanged) const {
-    Column column;
-    column.texts.reserve(before.texts.size() + items_.size());
-    column.from.reserve(items_.size() + 1);
-    for (std::size_t row = 0; row < items_.size(); ++row) {
-        column.from.push_back(static_cast<std::uint32_t>(column.texts.size()));
-        if (isChanged[row] == 0)
-            column.texts.append(before.text(row));
-        else if (const auto cell = static_cast<std::size_t>(subItem - 1); cell < items_[row]->cells.size())
-            appendFolded(column.texts, items_[row]->cells[cell]);
-        column.texts.push_back(separator);
+// Record by record, since the cells of one lie together.
+std::vector<FoldedTexts::Column> FoldedTexts::copied(const std::vector<int>& subItems,
+                                                     const std::vector<char>& isChanged) const {
+    constexpr std::size_t usualText = 8;
+    std::vector<Column> copies(subItems.size());
+    for (std::size_t place = 0; place < copies.size(); ++place) {
+        copies[place].texts.reserve(std::max(columns_[place].texts.size(), items_.size() * usualText));
+        copies[place].from.reserve(items_.size() + 1);
     }
-    column.from.push_back(static_cast<std::uint32_t>(column.texts.size()));
-    return column;
+    for (std::size_t row = 0; row < items_.size(); ++row)
+        for (std::size_t place = 0; place < copies.size(); ++place) {
+            Column& copy = copies[place];
+            copy.from.push_back(static_cast<std::uint32_t>(copy.texts.size()));
+            if (isChanged[row] == 0)
+                copy.texts.append(columns_[place].text(row));
+            else if (const auto cell = static_cast<std::size_t>(subItems[place] - 1);
+                     cell < items_[row]->cells.size())
+                appendFolded(copy.texts, items_[row]->cells[cell]);
+            copy.texts.push_back(separator);
+        }
+    for (Column& copy : copies) copy.from.push_back(static_cast<std::uint32_t>(copy.texts.size()));
+    return copies;
 }
 
 const std::vector<std::int64_t>& FoldedTexts::numbers(std::size_t place) const {

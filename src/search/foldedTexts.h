@@ -44,7 +44,7 @@ private:
         std::chrono::year_month_day today{};
     };
 
-    Column copied(const Column& before, int subItem, const std::vector<char>& isChanged) const;
+    std::vector<Column> copied(const std::vector<int>& subItems, const std::vector<char>& isChanged) const;
 
     std::vector<const core::Item*> items_;
     std::vector<std::size_t> hashes_; // of the texts that were folded

@@ -38,6 +38,7 @@ const std::vector<Shortcut>& shortcuts() {
         {"mnuDuplicate", "", QKeySequence(Qt::CTRL | Qt::Key_D)},
         {"mnuReplace", "", QKeySequence(Qt::CTRL | Qt::Key_H)},
         {"mnuSearch", "Search", QKeySequence(Qt::CTRL | Qt::Key_F)},
+        {"mnuFilter", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)},
         {"Design", "Design", QKeySequence(Qt::CTRL | Qt::Key_L)},
         {"mnuExit", "", QKeySequence(Qt::CTRL | Qt::Key_Q)},
         {"mnuUndo", "", QKeySequence(Qt::CTRL | Qt::Key_Z)},
