@@ -20,6 +20,14 @@ std::size_t hashOf(const Item& item) {
     return all;
 }
 
+void appendRows(FoldedTexts::Column& copy, const FoldedTexts::Column& before, std::size_t row,
+                std::size_t end) {
+    const std::uint32_t first = before.from[row];
+    const auto moved = static_cast<std::uint32_t>(copy.texts.size()) - first; // modulo its range
+    copy.texts.append(before.texts, first, before.from[end] - first);
+    for (; row < end; ++row) copy.from.push_back(before.from[row] + moved);
+}
+
 } // namespace
 
 bool FoldedTexts::follow(const RecordsList& list, const FilterColumns& columns) {
@@ -56,6 +64,19 @@ bool FoldedTexts::follow(const RecordsList& list, const FilterColumns& columns) 
 }
 
 // Record by record, since the cells of one lie together.
+void FoldedTexts::fold(std::size_t row, std::size_t end, const std::vector<int>& subItems,
+                       std::vector<Column>& copies) const {
+    for (; row < end; ++row)
+        for (std::size_t place = 0; place < copies.size(); ++place) {
+            Column& copy = copies[place];
+            copy.from.push_back(static_cast<std::uint32_t>(copy.texts.size()));
+            if (const auto cell = static_cast<std::size_t>(subItems[place] - 1);
+                cell < items_[row]->cells.size())
+                appendFolded(copy.texts, items_[row]->cells[cell]);
+            copy.texts.push_back(separator);
+        }
+}
+
 std::vector<FoldedTexts::Column> FoldedTexts::copied(const std::vector<int>& subItems,
                                                      const std::vector<char>& isChanged) const {
     constexpr std::size_t usualText = 8;
@@ -64,17 +85,15 @@ std::vector<FoldedTexts::Column> FoldedTexts::copied(const std::vector<int>& sub
         copies[place].texts.reserve(std::max(columns_[place].texts.size(), items_.size() * usualText));
         copies[place].from.reserve(items_.size() + 1);
     }
-    for (std::size_t row = 0; row < items_.size(); ++row)
-        for (std::size_t place = 0; place < copies.size(); ++place) {
-            Column& copy = copies[place];
-            copy.from.push_back(static_cast<std::uint32_t>(copy.texts.size()));
-            if (isChanged[row] == 0)
-                copy.texts.append(columns_[place].text(row));
-            else if (const auto cell = static_cast<std::size_t>(subItems[place] - 1);
-                     cell < items_[row]->cells.size())
-                appendFolded(copy.texts, items_[row]->cells[cell]);
-            copy.texts.push_back(separator);
+    for (std::size_t row = 0, end = 0; row < items_.size(); row = end) {
+        for (end = row; end < items_.size() && isChanged[end] == isChanged[row];) ++end;
+        if (isChanged[row] != 0) {
+            fold(row, end, subItems, copies);
+            continue;
         }
+        for (std::size_t place = 0; place < copies.size(); ++place)
+            appendRows(copies[place], columns_[place], row, end);
+    }
     for (Column& copy : copies) copy.from.push_back(static_cast<std::uint32_t>(copy.texts.size()));
     return copies;
 }

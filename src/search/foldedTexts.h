@@ -44,6 +44,8 @@ private:
         std::chrono::year_month_day today{};
     };
 
+    void fold(std::size_t row, std::size_t end, const std::vector<int>& subItems,
+              std::vector<Column>& copies) const;
     std::vector<Column> copied(const std::vector<int>& subItems, const std::vector<char>& isChanged) const;
 
     std::vector<const core::Item*> items_;
