@@ -71,6 +71,35 @@ TEST(Filter, EachItemOfAnInvoiceCounts) {
         EXPECT_EQ(program.filter(each[0]), each[1]) << each[0];
 }
 
+TEST(Filter, IsKeptByFileAndEndsWhereASearchDoes) {
+    FilterProgram program(DataFile("Name Bed", "Oak|North;Fern|South;Elm|North"));
+    program.platform.inputs = {"In the north", " In the north", ""};
+    program.platform.answers = {platform::Answer::Yes};
+    EXPECT_EQ(program.filter("north", "Bed"), "i1 i3");
+    search::keepFilter(program.app);
+    EXPECT_EQ(program.filter("oak"), "i1");
+    search::keepFilter(program.app); // in place of the other
+    search::keepFilter(program.app); // cancelled
+    EXPECT_EQ(program.filter("f"), "i2");
+    ASSERT_EQ(search::keptFilters(program.app), std::vector<std::string>{"In the north"});
+    search::useKeptFilter(program.app, "In the north");
+    EXPECT_EQ(program.found() + search::filterBar(program.app).text, "i1oak");
+    search::removeKeptFilter(program.app, "In the north");
+    EXPECT_TRUE(search::keptFilters(program.app).empty());
+    // The record that was chosen among the results is the current one afterwards.
+    program.filter("north");
+    program.app.document.searchLV.setSelectedItem(&program.app.document.searchLV.at(2));
+    program.run("Search");
+    EXPECT_EQ(search::filterBar(program.app).text, "");
+    EXPECT_FALSE(program.app.document.searchLV.Visible);
+    program.filter("north");
+    program.app.document.searchLV.setSelectedItem(&program.app.document.searchLV.at(2));
+    search::leaveFilter(program.app);
+    EXPECT_EQ(program.app.document.LV.selectedItem()->Key, "i3");
+    program.filter("north");
+    EXPECT_EQ(program.find("Name = fern") + search::filterBar(program.app).text, "i2");
+}
+
 // Records and filters of small parts, so that a good deal is found; each part of a filter comes with a test
 // that knows nothing of its text.
 struct Chance {

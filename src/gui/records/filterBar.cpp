@@ -18,7 +18,7 @@ namespace gui {
 
 namespace {
 constexpr int warningSize = 16;
-constexpr int shortestText = 24; // characters
+constexpr int shortestText = 24, longestColumn = 24; // characters
 } // namespace
 
 FilterBar::FilterBar(app::App& app, EventBoundary& events, QWidget* parent)
@@ -36,11 +36,13 @@ FilterBar::FilterBar(app::App& app, EventBoundary& events, QWidget* parent)
     columns_->setObjectName(QStringLiteral("filterColumns"));
     columns_->setAccessibleName(tr("Columns that words are looked for in"));
     columns_->setToolTip(columns_->accessibleName());
+    columns_->setMaximumWidth(longestColumn * fontMetrics().averageCharWidth());
     columns_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     columns_->installEventFilter(this);
     count_->setObjectName(QStringLiteral("filterCount"));
     reason_->setObjectName(QStringLiteral("filterReason"));
     reason_->setTextFormat(Qt::PlainText);
+    reason_->setMinimumWidth(1); // a long one does not widen the window
     warning_->setPixmap(
         familyIcon(QStringLiteral("warning")).pixmap(QSize(warningSize, warningSize), devicePixelRatioF()));
     makeMenu();
@@ -201,6 +203,7 @@ void FilterBar::showState() {
     count_->setText(count);
     count_->setVisible(!count.isEmpty());
     reason_->setText(reason);
+    reason_->setToolTip(reason);
     reason_->setVisible(!reason.isEmpty());
     warning_->setVisible(isWrong);
     underline(0, 0);
