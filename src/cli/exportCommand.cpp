@@ -1,6 +1,7 @@
 #include "calc/formulas.h"
 #include "cli/columnArgument.h"
 #include "cli/command.h"
+#include "cli/filterOption.h"
 #include "cli/formatOption.h"
 #include "cli/infoJson.h"
 #include "cli/output.h"
@@ -35,7 +36,7 @@ constexpr const char* aboutExport =
     "that it has a place for (Name, Last_Name, First_Name, Company, Phone, Mobile, Email, Street, City ...).";
 
 struct ExportOptions {
-    std::string file, output, format, columns;
+    std::string file, output, format, columns, filter;
     bool totals = false, values = false;
 };
 
@@ -130,6 +131,7 @@ int run(const ExportOptions& options) {
     Session session(options.file);
     session.open();
     if (!toStandardOutput) session.refuseAsOutput(options.output);
+    keepPassing(session, options.filter);
     core::Document& document = session.app.document;
     const Columns columns = session.columns(namesIn(options.columns));
     std::string text;
@@ -167,6 +169,7 @@ Run setUpExport(CLI::App& command) {
         ->type_name("OUT.csv|OUT.json|...");
     addFormatOption(command, options->format);
     command.add_option("--columns", options->columns, "These columns alone, in this order")->type_name("A,B");
+    addFilterOption(command, options->filter);
     command.add_flag("--totals", options->totals, "With the Totals row");
     command.add_flag("--values", options->values, "Calculated columns as values, not as formulas");
     command.footer(aboutExport);

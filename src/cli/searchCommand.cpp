@@ -1,4 +1,5 @@
 #include "cli/command.h"
+#include "cli/filterOption.h"
 #include "cli/recordsOutput.h"
 #include "cli/session.h"
 #include "cli/whereOption.h"
@@ -12,6 +13,7 @@ namespace {
 struct SearchOptions {
     std::string file;
     WhereOption where;
+    std::string filter;
     bool json = false, csv = false;
     std::string target;
     double wait = usualWait;
@@ -32,7 +34,7 @@ int run(const SearchOptions& options) {
     Session session(options.file, options.wait);
     session.platform.setAnswersYes(options.yes);
     session.open();
-    find(session, options.where);
+    options.where.groups.empty() ? findPassing(session, options.filter) : find(session, options.where);
     if (!options.target.empty()) session.saveSearch(options.target);
     // Records that went into a file are printed only when a form is asked for.
     if (options.target.empty() || options.json || options.csv) print(session.app.document.searchLV, options);
@@ -44,7 +46,8 @@ int run(const SearchOptions& options) {
 Run setUpSearch(CLI::App& command) {
     const auto options = std::make_shared<SearchOptions>();
     addFileArgument(command, options->file);
-    addWhereOption(command, options->where)->required();
+    CLI::Option* where = addWhereOption(command, options->where);
+    CLI::Option* filter = addFilterOption(command, options->filter)->excludes(where);
     CLI::Option* json =
         command.add_flag("--json", options->json, "As JSON, with the keys and the Totals row");
     command.add_flag("--csv", options->csv, "As CSV, with a header line")->excludes(json);
@@ -52,7 +55,10 @@ Run setUpSearch(CLI::App& command) {
                               ->type_name("NEW.fwk");
     command.add_flag("--yes", options->yes, "Overwrite a file of that name")->needs(target);
     addWaitOption(command, options->wait);
-    command.parse_complete_callback([options] { options->where.read(); });
+    command.parse_complete_callback([options, where, filter] {
+        if (where->empty() && filter->empty()) throw CLI::RequiredError("--where or --filter");
+        options->where.read();
+    });
     return [options] { return run(*options); };
 }
 

@@ -7,6 +7,7 @@
 #include "lock/designLock.h"
 #include "print/printCommands.h"
 #include "search/duplicatesFrm.h"
+#include "search/filterMode.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
 #include "search/serialCheckFrm.h"
@@ -146,6 +147,7 @@ std::vector<Command> menuCommands() {
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSetValues", "Set &Values...", "", "setValues", false, search::mnuSetValues_Click},
+        {"mnuFilter", "F&ilter...", "", "filter", false, search::mnuFilter_Click, search::canFilter},
         {"mnuDuplicates", "Find Duplicat&es...", "", "duplicates", false, search::mnuDuplicates_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
@@ -280,7 +282,7 @@ std::span<const Menu> menuBar() {
         {"mnuEdit",
          "&Edit",
          {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuCopyHeadings", "mnuPaste", "-", "mnuNewRecord",
-          "mnuDuplicate", "-", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
+          "mnuDuplicate", "-", "mnuFilter", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuSummary", "mnuStatistics", "-",

@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "entry/entryFrm.h"
 #include "entry/navBar.h"
+#include "search/folding.h"
 #include "shell/commands.h"
 #include "shell/listEvents.h"
 #include "shell/mainWindow.h"
@@ -29,30 +30,9 @@ bool hasRecords(const App& app) {
            visibleList(app.document).count() >= 2;
 }
 
-// Latin letters without their accents, from U+00C0 on; a blank stands for what stays as it is.
-char plainLetter(char32_t letter) {
-    constexpr std::string_view plain = "AAAAAA CEEEEIIII NOOOOO OUUUUY  aaaaaa ceeeeiiii nooooo ouuuuy y"
-                                       "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIi  JjKk LlLlLlLlLl"
-                                       "NnNnNn   OoOoOo  RrRrRrSsSsSsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZz";
-    constexpr char32_t first = 0xC0;
-    const bool isLatin = letter >= first && letter < first + plain.size();
-    return isLatin ? plain[letter - first] : ' ';
-}
-
-// Upper case, without accents.
-std::string folded(std::string_view text) {
-    std::string plain;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t from = at;
-        const char letter = plainLetter(core::nextCodePoint(text, at));
-        letter == ' ' ? plain.append(text.substr(from, at - from)) : plain.append(1, letter);
-    }
-    return core::upper(plain);
-}
-
 // An amount is found by its digits too.
 bool beginsWith(std::string_view cell, const std::string& wanted) {
-    const std::string text = folded(core::left(cell, wanted.size() + 1));
+    const std::string text = search::folded(core::left(cell, wanted.size() + 1));
     return text.starts_with(wanted) || (text.starts_with('$') && text.substr(1).starts_with(wanted));
 }
 
@@ -132,7 +112,7 @@ void sortList(App& app, RecordsList& list, int columnIndex, Order order) {
 
 int rowBeginningWith(const RecordsList& list, const core::Column& column, std::string_view typed,
                      int currentRow) {
-    const std::string wanted = folded(typed);
+    const std::string wanted = search::folded(typed);
     if (wanted.empty()) return 0;
     if (const int row = firstRow(list, column, wanted, 1); row != 0) return row;
     const std::string letter(core::left(wanted, 1));

@@ -91,6 +91,11 @@ $ fwk search a.fwk --where Qty range -10 -1 --csv -> Name,Qty,Price // "Nut, sma
 $ fwk search a.fwk --where Name within t --where Qty range 0 9 --where Price ge 1 --csv -> Name,Qty,Price
 Bolt,7,$12.34 && $ fwk search a.fwk --where Price is 1234 --csv -> Name,Qty,Price
 $ fwk search a.fwk --where Name is '' --where Name is [a,b] --csv -> Name,Qty,Price
+$ fwk search a.fwk --filter 'bolt price>2' --csv -> Name,Qty,Price // Bolt,7,$12.34
+$ fwk records a.fwk --filter qty:7 --columns Name,Qty -> Key     Name        Qty // ------  ----------  ---
+i2      Nut, small   -7 // i3      Bolt          7 // ------  ----------  --- // Totals  ------        0
+$ fwk export a.fwk -o - --format csv --columns Name --filter small -> Name:Text // "Nut, small"
+$1 fwk records a.fwk --filter 'bölt qty>few' -> ! --filter, character 10: "few" is no number
 $ fwk search b.fwk --where Day ge 'Jan 5 2004' --csv -> Name,Day,Note // -old --long -x,01/05/2004,1/5/2004
 $ fwk search b.fwk --csv --where Name within -x --where=Name within --long --where Name within -old
 Name,Day,Note // -old --long -x,01/05/2004,1/5/2004 && $ fwk search b.fwk --where Name range -x -z --csv

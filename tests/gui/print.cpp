@@ -47,6 +47,31 @@ file out.pdf; click mnuPrint ->
         QCOMPARE(printed(u"games"_s), u"8 of 612 x 792, 25"_s);
     }
 
+    void whatTheFilterFindsIsPrinted() {
+        Session run(sample("packages-500.fwk"));
+        run.play(R"(
+press Ctrl+Shift+F -> filterText=|
+type section:games data -> -LV Search=x Formulas=- Delete=- filterText=section:games data| searchLV.rows=11 top 0
+    at 0 0ad-data|games selected 0 SB1_1=10 records.
+press Down; file out.pdf; click mnuPrint -> searchLV=*
+tab 2 -> Totals=- Properties=- page=2 rptPreview2=*
+tab 0; press / -> Totals Properties page filterText=[section:games data] searchLV.rows=11 top 0 at 0
+    0ad-data|games selected 0
+press Ctrl+A; type bytes>x -> filterText=bytes>x|
+)");
+        QCOMPARE(run.find<QLabel>(u"filterReason"_s)->text(), u"\"x\" is no number"_s);
+        run.play(R"(
+press Escape -> -searchLV Search Formulas Delete filterText=| LV.rows=501 top 0 at 0 0ad|games selected 0
+    SB1_1=500 records.
+press Escape -> -filterClose -filterColumns -filterKept -filterText LV=*
+press Ctrl+Shift+F; type dat -> -LV Search=x Formulas=- Delete=- filterText=dat| searchLV.rows=38 top 0 at 0
+    0ad-data|games selected 0 SB1_1=37 records.
+click Search -> -searchLV Search Formulas Delete filterText=| LV.rows=501 top 0 at 0 0ad|games selected 0
+    SB1_1=500 records.
+)");
+        QCOMPARE(printed(u"games"_s), u"1 of 612 x 792, 10"_s);
+    }
+
     void theDialogsChangeThePages() {
         Session run(sample("books.fwk"));
         run.play(R"(

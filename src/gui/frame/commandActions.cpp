@@ -39,6 +39,7 @@ const std::vector<Shortcut>& shortcuts() {
         {"mnuReplace", "", QKeySequence(Qt::CTRL | Qt::Key_H)},
         {"mnuSearch", "Search", QKeySequence(Qt::CTRL | Qt::Key_F)},
         {"mnuSummary", "", QKeySequence(Qt::CTRL | Qt::Key_M)},
+        {"mnuFilter", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)},
         {"Design", "Design", QKeySequence(Qt::CTRL | Qt::Key_L)},
         {"mnuExit", "", QKeySequence(Qt::CTRL | Qt::Key_Q)},
         {"mnuUndo", "", QKeySequence(Qt::CTRL | Qt::Key_Z)},

@@ -5,6 +5,7 @@
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
+#include "search/filterMode.h"
 #include "shell/commands.h"
 #include "shell/listEvents.h"
 #include "summary/statisticsFrm.h"
@@ -283,10 +284,14 @@ void RecordsView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
 }
 
+bool RecordsView::isTyping() const {
+    return !typed_.isEmpty() && lastTyped_.isValid() &&
+           !lastTyped_.hasExpired(QApplication::keyboardInputInterval());
+}
+
 // In the sorted column, or in the first one. Letters that follow one another quickly are one beginning.
 void RecordsView::keyboardSearch(const QString& search) {
-    const bool isNext = lastTyped_.isValid() && !lastTyped_.hasExpired(QApplication::keyboardInputInterval());
-    if (search.isEmpty() || !isNext) typed_.clear();
+    if (search.isEmpty() || !isTyping()) typed_.clear();
     lastTyped_.start();
     if (typed_.isEmpty() && search.trimmed().isEmpty()) return; // Space selects
     typed_ += search;
@@ -353,6 +358,15 @@ void RecordsView::keyPressEvent(QKeyEvent* event) {
     }
     if (event->matches(QKeySequence::Paste)) {
         events_.run([&] { shell::runCommand(app_, "mnuPaste"); });
+        return;
+    }
+    // Where a text is being typed a slash belongs to it, as in a date.
+    if (event->text() == QLatin1String("/") && !isTyping()) {
+        emit filterWanted();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape && search::filterBar(app_).isOn) {
+        events_.run([&] { search::leaveFilter(app_); });
         return;
     }
     // Enter is the keyboard's double click.

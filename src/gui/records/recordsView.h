@@ -32,6 +32,8 @@ public:
 signals:
     // What can be done to the selected rows is asked for, at that place on the screen.
     void menuWanted(QPoint place);
+    // The key that opens the filter was typed.
+    void filterWanted();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -65,6 +67,7 @@ private:
     void wantMenu(QPoint place);
     void wantMenuAtRow();
     void clickWithoutCtrl();
+    bool isTyping() const; // the beginning of a row
     bool isSorted() const { return sort_ && sort_->arrangement == list_.arrangement(); }
     void columnMoved(int section, int newVisual);
     void columnResized(int section, int pixels);

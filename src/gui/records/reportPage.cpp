@@ -15,7 +15,7 @@ namespace gui {
 
 ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
     : QStackedWidget(parent), app_(app), actions_(actions), start_(new StartPage(app, events, actions)),
-      records_(new QWidget), invoiceFrame_(makeInvoiceFrame(events)),
+      records_(new QWidget), invoiceFrame_(makeInvoiceFrame(events)), filter_(new FilterBar(app, events)),
       shownList_(new QStackedWidget), listStates_{&app.document.LV, &app.document.iLV,
                                                   &app.document.searchLV},
       sums_(new SelectedTotalsView(app.document.LV3)) {
@@ -25,8 +25,11 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
         lists_[i]->setAccessibleName(names[i]);
         lists_[i]->addAction(actions.action("mnuNewRecord"));
         connect(lists_[i], &RecordsView::menuWanted, this, [this, i](QPoint place) { showMenu(i, place); });
+        connect(lists_[i], &RecordsView::filterWanted, this,
+                [&actions] { actions.action("mnuFilter")->trigger(); });
         shownList_->addWidget(lists_[i]);
     }
+    connect(filter_, &FilterBar::listWanted, this, [this] { keyHolder()->setFocus(Qt::TabFocusReason); });
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->addWidget(shownList_);
     splitter->addWidget(sums_);
@@ -37,6 +40,7 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(invoiceFrame_);
+    column->addWidget(filter_);
     column->addWidget(splitter, 1);
     addWidget(start_);
     addWidget(records_);
@@ -92,10 +96,11 @@ void ReportPage::refresh() {
         shownList_->setCurrentWidget(lists_[i]);
         setCurrentWidget(records_);
         lists_[i]->refresh(std::exchange(app_.mainFrm.listScroll, app::ListScroll::ToCurrent));
-        // The keys go to the records as soon as they are there.
+        // The keys go to the records as soon as they are there, but not away from what is typed.
         const bool opened = std::exchange(app_.mainFrm.bListFocus, false);
-        if (another || opened) lists_[i]->setFocus();
+        if (opened || (another && !filter_->hasKeys())) lists_[i]->setFocus();
     }
+    filter_->refresh();
     sums_->refresh();
 }
 

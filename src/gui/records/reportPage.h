@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "gui/frame/commandActions.h"
 #include "gui/frame/startPage.h"
+#include "gui/records/filterBar.h"
 #include "gui/records/recordsView.h"
 #include "gui/records/selectedTotalsView.h"
 
@@ -36,6 +37,7 @@ private:
     QWidget* records_;
     std::array<QRadioButton*, 2> viewOpt_{}; // made with the frame, so ahead of it
     QFrame* invoiceFrame_;
+    FilterBar* filter_;
     QStackedWidget* shownList_;
     std::array<RecordsView*, 3> lists_{};
     std::array<core::RecordsList*, 3> listStates_{};
