@@ -82,12 +82,14 @@ check_style() {
 # Starts from the databases of the tests. An input that breaks the program stays in build/fuzz/found-*.
 fuzz() {
     cmake --preset fuzz --log-level=WARNING &&
-        cmake --build --preset fuzz --target fuzz_reader fuzz_archive fuzz_corpus -- -j2 "${quiet[@]}" || return 1
-    local target failed=0 running=()
-    for target in reader archive; do
+        cmake --build --preset fuzz --target fuzz_reader fuzz_archive fuzz_tables fuzz_corpus -- -j2 "${quiet[@]}" || return 1
+    local target dictionary failed=0 running=()
+    for target in reader archive tables; do
         mkdir -p "build/fuzz/grown-$target"
+        dictionary=reader
+        [[ $target != tables ]] || dictionary=tables
         "build/fuzz/fuzz/fuzz_$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
-            -print_final_stats=1 -verbosity=0 -dict=fuzz/reader.dict -artifact_prefix="build/fuzz/found-$target-" \
+            -print_final_stats=1 -verbosity=0 -dict="fuzz/$dictionary.dict" -artifact_prefix="build/fuzz/found-$target-" \
             "build/fuzz/grown-$target" "build/fuzz/corpus-$target" >"$logs/fuzz-$target.log" 2>&1 &
         running+=($!)
     done

@@ -1,5 +1,6 @@
 #include "core/text.h"
 #include "exchange/formats.h"
+#include "exchange/mergedCells.h"
 #include "exchange/sheetNumbers.h"
 #include "exchange/xmlPieces.h"
 #include "file/zip.h"
@@ -136,6 +137,7 @@ public:
         for (const pugi::xml_node& node : childOf(root, "numFmts"))
             own[countIn(attributeOf(node, "numFmtId"))] = shapeOf(attributeOf(node, "formatCode").value());
         for (const pugi::xml_node& node : childOf(root, "cellXfs")) {
+            if (node.type() != pugi::node_element) continue; // blanks between them do not count
             const std::size_t id = countIn(attributeOf(node, "numFmtId"));
             const auto found = own.find(id);
             shapes.push_back(found == own.end() ? builtInShape(id) : found->second);
@@ -177,6 +179,7 @@ public:
         XmlPieces pieces(text_);
         pugi::xml_document tree;
         std::size_t rows = 0;
+        findMerged();
         for (auto each = pieces.next(" row col "); !each.name.empty(); each = pieces.next(" row col ")) {
             const bool bRow = each.name == "row";
             pieces.read(each, tree);
@@ -192,6 +195,19 @@ public:
     }
 
 private:
+    // They stand behind the rows, and have to be known before them.
+    void findMerged() {
+        const std::size_t behindRows = text_.rfind("sheetData");
+        if (behindRows == std::string::npos || text_.find("mergeCell", behindRows) == std::string::npos)
+            return;
+        XmlPieces pieces(text_, behindRows);
+        pugi::xml_document tree;
+        for (auto each = pieces.next(" mergeCell "); !each.name.empty(); each = pieces.next(" mergeCell ")) {
+            pieces.readTag(each, tree);
+            merged_.add(attributeOf(tree.document_element(), "ref").value());
+        }
+    }
+
     void readColumn(const pugi::xml_node& node) {
         if (!isTrue(attributeOf(node, "hidden"))) return;
         const std::size_t last = std::min(countIn(attributeOf(node, "max")), SheetBounds::columns);
@@ -214,7 +230,10 @@ private:
             // Only as far as it can matter, since a hidden one is left out.
             for (; next < column && next < SheetBounds::columns; ++next) skip(next);
             if (column > next) collector_.blanks(column - next);
-            if (!isHidden(column)) readCell(cell);
+            if (merged_.covers({nextRow_ - 2, column}))
+                skip(column);
+            else if (!isHidden(column))
+                readCell(cell);
             next = column + 1;
         }
         collector_.endRow();
@@ -259,6 +278,7 @@ private:
     std::string text_;
     bool b1904_;
     std::vector<bool> hidden_;
+    MergedCells merged_;
     std::size_t nextRow_ = 1;
     SheetCollector collector_;
 };
