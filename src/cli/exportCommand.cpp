@@ -29,7 +29,7 @@ constexpr const char* aboutExport =
     "reads it back with all cells to the letter. OUT.json is\n"
     "  {\"style\": \"standard\", \"columns\": [{\"name\": \"Price\", \"type\": \"Currency\"}],\n"
     "   \"records\": [[\"$1.50\"]]}\n"
-    "The Totals row, expressions, the layout and images stay behind; save-as copies all of it.\n"
+    "The Totals row, expressions, the layout and, without --pictures, images stay behind; save-as copies all of it.\n"
     "OUT.tsv is the same with tabs. In OUT.xlsx and OUT.ods dates, numbers and money are typed cells under "
     "a\n"
     "heading row that stays in sight, and calculated columns are formulas where a spreadsheet counts alike\n"

@@ -1,5 +1,6 @@
 #include "exchange/formats.h"
 #include "exchange/sheetNumbers.h"
+#include "exchange/toldTypes.h"
 #include "exchange/xmlPieces.h"
 #include "file/zip.h"
 
@@ -20,6 +21,23 @@ std::string contentOf(const std::filesystem::path& file) {
     auto text = zip.readEntry("content.xml", SheetBounds::fileBytes);
     if (!text) refuseSheet("it has no content.xml");
     return *std::move(text);
+}
+
+std::vector<std::string> toldTypes(const std::filesystem::path& file) {
+    file::Zip zip;
+    zip.OpenArchive(file);
+    std::vector<std::string> headings;
+    std::string text = zip.readEntry("meta.xml", SheetBounds::fileBytes).value_or("");
+    XmlPieces pieces(text);
+    pugi::xml_document tree;
+    for (auto each = pieces.next(" user-defined "); !each.name.empty();
+         each = pieces.next(" user-defined ")) {
+        pieces.read(each, tree);
+        const pugi::xml_node node = tree.document_element();
+        if (std::string_view(attributeOf(node, "name").value()).starts_with(typeProperty))
+            headings.emplace_back(node.text().get());
+    }
+    return headings;
 }
 
 std::size_t repeats(const pugi::xml_node& node, std::string_view name) {
@@ -213,6 +231,7 @@ Sheet read(const std::filesystem::path& file, std::size_t sheet, const Progress&
     Sheet table = SheetReader(pieces).read(progress);
     table.name = std::move(name);
     table.bTyped = true;
+    restoreTypes(table, toldTypes(file));
     return table;
 }
 

@@ -1,5 +1,6 @@
 #include "core/text.h"
 #include "exchange/formats.h"
+#include "exchange/toldTypes.h"
 #include "file/packedPart.h"
 #include "file/zip.h"
 
@@ -246,6 +247,21 @@ std::string settings(const OutTable& table) {
     return out.append("</office:document-settings>\n");
 }
 
+// The types of the columns.
+std::string properties(const OutTable& table) {
+    std::string out(xmlHead);
+    out.append("<office:document-meta xmlns:meta=\"urn:oasis:names:tc:opendocument:xmlns:meta:1.0\"");
+    out.append(namespaces).append("><office:meta>");
+    std::size_t number = 0;
+    for (const std::string& heading : typedHeadings(table)) {
+        out.append("<meta:user-defined meta:name=\"").append(typeProperty).append(std::to_string(++number));
+        out.append("\">");
+        appendXml(out, heading);
+        out.append("</meta:user-defined>");
+    }
+    return out.append("</office:meta></office:document-meta>\n");
+}
+
 std::string manifest() {
     std::string out(xmlHead);
     out.append("<manifest:manifest xmlns:manifest=\"urn:oasis:names:tc:opendocument:xmlns:manifest:1.0\""
@@ -256,6 +272,7 @@ std::string manifest() {
     };
     entry("/", mediaType);
     entry("content.xml", "text/xml");
+    entry("meta.xml", "text/xml");
     entry("settings.xml", "text/xml");
     return out.append("</manifest:manifest>\n");
 }
@@ -269,6 +286,7 @@ void write(const Target& target, const OutTable& table, const Progress& progress
     // In front and as it is, so that the type can be told from the first bytes of the file.
     zip.addPart("mimetype", mediaType, true);
     zip.addPart("content.xml", ContentWriter(table).write(progress));
+    zip.addPart("meta.xml", properties(table));
     zip.addPart("settings.xml", settings(table));
     zip.addPart("META-INF/manifest.xml", manifest());
     zip.CloseArchive();

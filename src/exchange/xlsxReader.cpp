@@ -2,6 +2,7 @@
 #include "exchange/formats.h"
 #include "exchange/mergedCells.h"
 #include "exchange/sheetNumbers.h"
+#include "exchange/toldTypes.h"
 #include "exchange/xmlPieces.h"
 #include "file/zip.h"
 
@@ -85,8 +86,10 @@ public:
     explicit Workbook(const path& file) {
         zip_.OpenArchive(file);
         std::string main;
-        for (const auto& [id, part] : relationsOf(zip_, ""))
+        for (const auto& [id, part] : relationsOf(zip_, "")) {
             if (part.type == "officeDocument") main = part.target;
+            if (part.type == "custom-properties") properties_ = part.target;
+        }
         if (main.empty()) refuseSheet("it has no workbook");
         const auto relations = relationsOf(zip_, main);
         for (const auto& [id, part] : relations) {
@@ -126,6 +129,17 @@ public:
         return strings;
     }
 
+    std::vector<std::string> typedHeadings() const {
+        std::vector<std::string> headings;
+        if (properties_.empty() || !zip_.contains(properties_)) return headings;
+        pugi::xml_document tree;
+        readXml(partOf(zip_, properties_), tree);
+        for (const pugi::xml_node& node : tree.document_element())
+            if (std::string_view(attributeOf(node, "name").value()).starts_with(typeProperty))
+                headings.emplace_back(childOf(node, "lpwstr").text().get());
+        return headings;
+    }
+
     // The shape of the numbers of each style.
     std::vector<NumberShape> shapes() const {
         std::vector<NumberShape> shapes;
@@ -153,7 +167,7 @@ private:
 
     file::Zip zip_;
     std::vector<std::string> targets_;
-    std::string strings_, styles_;
+    std::string strings_, styles_, properties_;
 };
 
 // "BC12" is in column 54, from 0; what has no letters is in the next one.
@@ -294,6 +308,7 @@ Sheet read(const path& file, std::size_t sheet, const Progress& progress) {
     const std::string& name = sheetAt(book.names, sheet);
     Sheet table = SheetReader(book, sheet).read(progress);
     table.name = name;
+    restoreTypes(table, book.typedHeadings());
     return table;
 }
 

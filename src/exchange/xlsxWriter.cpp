@@ -2,6 +2,7 @@
 #include "core/text.h"
 #include "exchange/formats.h"
 #include "exchange/imageSize.h"
+#include "exchange/toldTypes.h"
 #include "file/atomicFile.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ std::string sheetTitle(std::string_view title) {
 class SheetWriter {
 public:
     SheetWriter(const std::string& file, const OutTable& table)
-        : table_(table), book_(newBook(file)), formulas_(table, OutFormulas::Style::Xlsx) {
+        : table_(table), book_(newBook(file, table)), formulas_(table, OutFormulas::Style::Xlsx) {
         if (!book_) throw std::bad_alloc();
         const std::string title = sheetTitle(table.title);
         // A name that the library still refuses is no reason to refuse the table.
@@ -121,14 +122,27 @@ private:
             const std::string name = codesKept(table_.columns[i].name);
             check(worksheet_write_string(sheet_, 0, column, name.c_str(), formatFor({}, true)));
         }
+        tellTypes();
         worksheet_freeze_panes(sheet_, 1, 0);
         worksheet_repeat_rows(sheet_, 0, 0);
     }
 
-    // Row by row, so that memory has the rows once.
-    static lxw_workbook* newBook(const std::string& file) {
+    // As properties of the workbook, which take texts of so many characters.
+    void tellTypes() {
+        constexpr std::size_t longestProperty = 255;
+        std::size_t number = 0;
+        for (const std::string& heading : typedHeadings(table_)) {
+            std::string name(typeProperty);
+            name.append(std::to_string(++number));
+            if (core::length(heading) <= longestProperty)
+                check(workbook_set_custom_property_string(book_.get(), name.c_str(), heading.c_str()));
+        }
+    }
+
+    // Row by row, so that memory has the rows once; but the places of pictures need the heights of all rows.
+    static lxw_workbook* newBook(const std::string& file, const OutTable& table) {
         lxw_workbook_options options{};
-        options.constant_memory = LXW_TRUE;
+        options.constant_memory = table.pictures.empty() ? LXW_TRUE : LXW_FALSE;
         return workbook_new_opt(file.c_str(), &options);
     }
 

@@ -16,6 +16,13 @@ TEST_F(Exchange, RoundTripLosesNothing) {
         "for n in odd books 'invoices --invoice'; do set $n; both $1 t; fwk import n.fwk t.csv $2;"
         "both n u; for t in csv json; do cmp t.$t u.$t; done; rm n.fwk [tu].*; done";
     EXPECT_EQ(run(again).out, "3\n42\n4\n");
+    EXPECT_EQ(run("for s in " SAMPLES_DIR "/*.fwk; do o=; case $s in */invoices.fwk) o=--invoice;; esac;"
+                  "fwk export $s -o t.csv; for k in tsv xlsx ods json sqlite; do fwk export $s -o t.$k;"
+                  "fwk import n.fwk t.$k $o; fwk export n.fwk -o u.csv; cmp t.csv u.csv || echo $s $k;"
+                  "rm n.fwk; done; done | sort | uniq -c | tr -s ' '")
+                  .out,
+              " 5 12\n 5 30\n 5 32\n 5 40\n 5 42\n")
+        << "records of each sample, of five kinds of tables";
     expect(R"sh(
 $ fwk export odd.fwk -o t.csv -> @ t.csv // +A:b:Text,Qty:Number,Sum:Calculation,"Pay,ed:Currency" // +"  two
 +lines ""q"" ",0012,Undefined,abc // +,,, // +"; Æ",1e5,x,5 && $ fwk export odd.fwk -o t.JSON -> @ t.JSON
@@ -24,6 +31,17 @@ $ fwk export odd.fwk -o t.csv -> @ t.csv // +A:b:Text,Qty:Number,Sum:Calculation
 +  {"name": "Pay,ed", "type": "Currency"}], // + "records": [
 +  ["  two\u000alines \"q\" ", "0012", "Undefined", "abc"], // +  ["", "", "", ""],
 +  ["; Æ", "1e5", "x", "5"]]}
+)sh");
+}
+
+TEST_F(Exchange, PicturesGoAlong) {
+    make("p.fwk", DataFile("Name Photo:7", "a|in.jpg;b|no.jpg;c|in.jpg"), {"in.jpg"});
+    expect(R"sh(
+$ fwk export p.fwk -o t.csv --pictures -> ! it has no picture "no.jpg" && $ ls t_pictures -> in.jpg
+$ unzip -p p.fwk in.jpg | cmp - t_pictures/in.jpg && $1 fwk export p.fwk -o - --format csv --pictures
+! pictures need a file beside them && $ fwk export p.fwk -o t.xlsx --pictures -> ! it has no picture "no.jpg"
+$ printf "a';b'\n1';2\n" | fwk import q.fwk - --quotes none -> 1 && $ fwk export q.fwk -o - --format csv
+a':Text,b':Number // 1',2
 )sh");
 }
 
