@@ -36,13 +36,17 @@ $ fwk export odd.fwk -o t.csv -> @ t.csv // +A:b:Text,Qty:Number,Sum:Calculation
 
 TEST_F(Exchange, PicturesGoAlong) {
     make("p.fwk", DataFile("Name Photo:7", "a|in.jpg;b|no.jpg;c|in.jpg"), {"in.jpg"});
-    expect(R"sh(
-$ fwk export p.fwk -o t.csv --pictures -> ! it has no picture "no.jpg" && $ ls t_pictures -> in.jpg
-$ unzip -p p.fwk in.jpg | cmp - t_pictures/in.jpg && $1 fwk export p.fwk -o - --format csv --pictures
-! pictures need a file beside them && $ fwk export p.fwk -o t.xlsx --pictures -> ! it has no picture "no.jpg"
-$ printf "a';b'\n1';2\n" | fwk import q.fwk - --quotes none -> 1 && $ fwk export q.fwk -o - --format csv
-a':Text,b':Number // 1',2
-)sh");
+    const auto ran =
+        run("fwk export p.fwk -o t.csv --pictures; ls t_pictures; unzip -p p.fwk in.jpg | cmp - "
+            "t_pictures/in.jpg; fwk export p.fwk -o - --format csv --pictures; fwk export " SAMPLES_DIR
+            "/garden.fwk -o g.xlsx --pictures; unzip -l g.xlsx | grep -c media");
+    EXPECT_EQ(ran.out, "in.jpg\n15\n");
+    EXPECT_EQ(ran.err,
+              "fwk: p.fwk: it has no picture \"no.jpg\"\nfwk: -: pictures need a file beside them\n");
+    EXPECT_EQ(run("printf \"a';b'\\n1';2\\n\" | fwk import q.fwk - --quotes none; fwk export q.fwk -o - "
+                  "--format csv")
+                  .out,
+              "1\na':Text,b':Number\n1',2\n");
 }
 
 TEST_F(Exchange, ATableMakesADatabaseOrIsAppended) {
