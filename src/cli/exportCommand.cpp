@@ -29,7 +29,8 @@ constexpr const char* aboutExport =
     "reads it back with all cells to the letter. OUT.json is\n"
     "  {\"style\": \"standard\", \"columns\": [{\"name\": \"Price\", \"type\": \"Currency\"}],\n"
     "   \"records\": [[\"$1.50\"]]}\n"
-    "The Totals row, expressions, the layout and, without --pictures, images stay behind; save-as copies all of it.\n"
+    "The Totals row, expressions, the layout and, without --pictures, images stay behind; save-as copies all "
+    "of it.\n"
     "OUT.tsv is the same with tabs. In OUT.xlsx and OUT.ods dates, numbers and money are typed cells under "
     "a\n"
     "heading row that stays in sight, and calculated columns are formulas where a spreadsheet counts alike\n"
@@ -125,8 +126,7 @@ exchange::OutTable tableOf(const ExportOptions& options, core::Document& documen
 }
 
 // In the workbook, or in a folder beside any other kind of table.
-void takePictures(Session& session, const ExportOptions& options, Format format,
-                  exchange::OutTable& table) {
+void takePictures(Session& session, const ExportOptions& options, Format format, exchange::OutTable& table) {
     const bool bInside = format == Format::Xlsx;
     const std::filesystem::path folder =
         bInside ? session.platform.workFolder() / "pictures" : exchange::picturesBeside(options.output);
