@@ -113,7 +113,7 @@ int run(const LabelsOptions& options) {
     } catch (const core::RunTimeError& error) {
         throw Failure(std::string("the table of label stocks cannot be read: ") + error.what());
     }
-    if (all.empty()) throw Failure("the table of label stocks is not there");
+    if (all.empty()) throw Failure("the table of label stocks is missing or empty");
     std::string text;
     for (const std::string& word : options.words) text.append(text.empty() ? 0 : 1, ' ').append(word);
     const Stocks found = print::findLabelStocks(all, text);

@@ -202,7 +202,7 @@ std::vector<const LabelStock*> findLabelStocks(const std::vector<LabelStock>& st
         const auto isIn = [&](const std::string& word) { return about.find(word) != std::string::npos; };
         if (size ? isOfSize(stock, *size) : std::ranges::all_of(words, isIn)) found.push_back(&stock);
     }
-    std::ranges::stable_partition(found, [&](const LabelStock* stock) {
+    std::stable_partition(found.begin(), found.end(), [&](const LabelStock* stock) {
         return std::ranges::find(words, core::upper(stock->number)) != words.end();
     });
     return found;

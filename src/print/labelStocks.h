@@ -26,8 +26,8 @@ struct LabelStock {
     int columns = 0, rows = 0;
     double width = 0, height = 0; // of a label
     double left = 0, top = 0;     // of the first one
-    double columnPitch = 0,
-           rowPitch = 0; // from edge to edge, the size of a label where there is no other one
+    // From edge to edge; the size of a label where there is no other one.
+    double columnPitch = 0, rowPitch = 0;
     LabelShape shape = LabelShape::Rectangle;
 
     int perSheet() const { return columns * rows; }
