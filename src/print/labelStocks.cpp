@@ -174,7 +174,8 @@ std::string_view shapeName(LabelShape shape) {
 
 LabelStock::Position LabelStock::position(int n) const {
     const int place = std::max(n - 1, 0) % std::max(perSheet(), 1), across = std::max(columns, 1);
-    return {left + place % across * columnPitch, top + static_cast<double>(place / across) * rowPitch};
+    const int column = place % across, row = place / across;
+    return {left + column * columnPitch, top + row * rowPitch};
 }
 
 std::vector<LabelStock> readLabelStocks(std::string_view table) {

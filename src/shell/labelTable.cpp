@@ -7,7 +7,7 @@
 namespace shell {
 
 std::vector<print::LabelStock> installedLabelStocks() {
-    constexpr std::size_t maxBytes = 16 * 1024 * 1024;
+    constexpr std::size_t maxBytes = std::size_t{16} * 1024 * 1024;
     const auto table = platform::programFile("stocks/labels.tsv");
     if (!table) return {};
     const auto text = file::readSmallFile(*table, maxBytes);
