@@ -113,6 +113,7 @@ _fwk() {
     [[ $cur == = || $prev == = ]] && return
     case $command${sub:+-$sub}:$count in
     column:0) _fwk_offer < <(_fwk_commands column) ;;
+    labels:*) ;;
     *:0 | clone:1 | save-as:1) _fwk_files '*.fwk' ;;
     import:1) _fwk_files '*.@(csv|tsv|txt|xlsx|xlsm|ods|json|sqlite|sqlite3|db|html|htm|vcf)' ;;
     sort:1 | expression:1 | serial:1 | set:1 | statistics:1 | total:* | column-rename:1 | column-remove:1)

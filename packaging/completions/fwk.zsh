@@ -73,6 +73,7 @@ _fwk() {
     case $command${sub:+-$sub}:$count in
     (:*) _fwk_commands ;;
     (column:0) _fwk_commands column ;;
+    (labels:*) ;;
     (*:0|clone:1|save-as:1) _files -g '*.fwk' ;;
     (import:1) _files -g '*.(csv|tsv|txt|xlsx|xlsm|ods|json|sqlite|sqlite3|db|html|htm|vcf)' ;;
     (new:*|column-add:*) compset -P '*:' && compadd Text Number Currency Date Picture Calculation ;;

@@ -59,6 +59,7 @@ Run setUpVersions(CLI::App& command);
 Run setUpRestore(CLI::App& command);
 Run setUpReport(CLI::App& command);
 Run setUpLayouts(CLI::App& command);
+Run setUpLabels(CLI::App& command);
 Run setUpExport(CLI::App& command);
 Run setUpImport(CLI::App& command);
 Run setUpPaste(CLI::App& command);

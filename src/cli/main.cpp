@@ -43,6 +43,7 @@ constexpr Command commands[] = {
     {"restore", "Makes a database as it was in one of its versions", setUpRestore},
     {"report", "Prints the report of all records into a PDF file", setUpReport},
     {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
+    {"labels", "Lists the label stocks that have these words or this size", setUpLabels},
     {"export", "Writes the records with their column types into a table", setUpExport},
     {"import", "Makes a database from a table, or appends the table's rows", setUpImport},
     {"paste", "Makes new records of the rows of a table on standard input", setUpPaste},

@@ -42,6 +42,11 @@ $1 fwk layouts none.fwk -o a.pdf -> ! there are no records && $1 fwk layouts inv
 ! invoices print one to a page only && $1 fwk layouts wide.fwk -o a.pdf --many
 ! Ferrowick: The layout is... // ! no layout fits on a sheet && $1 fwk report a.fwk -o no/a.pdf
 ! no/a.pdf: File not found: no/a.pdf && $1 fwk report a.fwk -o link.fwk -> ! link.fwk: is the database itself
+$ fwk labels avery l7163 --csv -> maker,number,kind,paper,shape,columns,rows,width,height,left,top,columnPitch,rowPitch
+Avery,L7163,Address labels,A4,rounded,2,7,99.1,38.1,4.65,15.15,101.6,38.1
+$ fwk labels 1 x 2 5/8 in --json | grep -A7 '"5160"' | tail -4 | xargs -> columns: 3, rows: 10, width: 66.675, height: 25.4,
+$ fwk labels 5160 | sed -n 3p | xargs -> Avery 5160 Address labels Letter rounded 3 10 66.675 25.4 4.762 12.7 69.85 25.4
+$ fwk labels no such && $2 fwk labels --csv --json -> ! --json excludes --csv
 $2 fwk report a.fwk -> ! --output is required && $1 ulimit -f 4; fwk report books.fwk -o a.pdf
 ! a.pdf: could not be written: Device I/O error: a.pdf (File too large)
 )sh");

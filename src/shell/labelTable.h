@@ -1,0 +1,11 @@
+#pragma once
+
+#include "print/labelStocks.h"
+
+namespace shell {
+
+// The stocks of the table that the program comes with. None when it is not there, as when only the program
+// itself was copied. Raises when it cannot be read.
+std::vector<print::LabelStock> installedLabelStocks();
+
+} // namespace shell
