@@ -289,11 +289,16 @@ private:
                 fail(value, text, isDate ? "date" : "number");
             return bounds.has_value();
         }
-        term.needle = folded(text);
+        compareTexts(term, comparison, text);
+        return true;
+    }
+
+    static void compareTexts(FilterTerm& term, Comparison comparison, std::string_view text) {
+        const bool isEquality = comparison == Comparison::Equal || comparison == Comparison::NotEqual;
         const bool isUp = comparison == Comparison::Greater || comparison == Comparison::GreaterOrEqual;
+        term.needle = folded(text);
         term.test = isEquality ? Test::Equal : isUp ? Test::Above : Test::Below;
         term.isInclusive = comparison == Comparison::GreaterOrEqual || comparison == Comparison::LessOrEqual;
-        return true;
     }
 
     static void setBounds(FilterTerm& term, Test test, Comparison comparison, const Days& bounds) {

@@ -116,7 +116,7 @@ private:
 
 Passed passing(const Filter& filter, const FoldedTexts& texts, std::chrono::year_month_day today,
                const Passed* among) {
-    const Passed all = among != nullptr ? *among : Passed(texts.rows(), 1);
+    Passed all = among != nullptr ? *among : Passed(texts.rows(), 1);
     if (filter.empty()) return all;
     Passed passed;
     for (const std::vector<FilterTerm>& terms : filter.alternatives) {

@@ -231,6 +231,10 @@ TEST(Filter, FindsWhatALoopFindsWhileItIsTypedAndRecordsChange) {
             for (std::size_t end = text.size() / 2; end <= text.size(); ++end)
                 program.filter(text.substr(0, end));
             ASSERT_EQ(program.found(), wanted.empty() ? "-" : wanted) << text << "\n" << program.cells();
+            program.app.document.searchLV.forEach([&](const core::Item& item) {
+                const core::Item* record = item.isTotals() ? nullptr : program.app.document.LV.find(item.Tag);
+                if (record != nullptr) EXPECT_EQ(program.cells(item), program.cells(*record)) << text;
+            });
             const core::Item& totals = *program.app.document.searchLV.totals();
             ASSERT_EQ(totals.subItem(4), wanted.empty() ? "------" : std::to_string(sum)) << text;
             const auto changed = static_cast<std::size_t>(chance.below(60));
