@@ -233,7 +233,8 @@ TEST(Filter, FindsWhatALoopFindsWhileItIsTypedAndRecordsChange) {
             ASSERT_EQ(program.found(), wanted.empty() ? "-" : wanted) << text << "\n" << program.cells();
             program.app.document.searchLV.forEach([&](const core::Item& item) {
                 const core::Item* record = item.isTotals() ? nullptr : program.app.document.LV.find(item.Tag);
-                if (record != nullptr) EXPECT_EQ(program.cells(item), program.cells(*record)) << text;
+                if (record == nullptr) return;
+                EXPECT_EQ(program.cells(item), program.cells(*record)) << text;
             });
             const core::Item& totals = *program.app.document.searchLV.totals();
             ASSERT_EQ(totals.subItem(4), wanted.empty() ? "------" : std::to_string(sum)) << text;
