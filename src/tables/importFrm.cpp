@@ -125,18 +125,26 @@ void importFrm::readTable() {
                                     });
         app_.platform.tellProgress("Reading the table", percents, percents);
     }
-    table_.emplace(std::move(sheet), hints, true, app_.platform.today());
+    // Made first: the table that is shown stays when this one cannot be had.
+    ImportTable read(std::move(sheet), hints, true, app_.platform.today());
+    table_ = std::move(read);
     List2Index = 0;
     Check2 = false;
     findTargets();
 }
 
-// After another choice of how the file is read; what cannot be read so is told, and the form stays.
-void importFrm::readAgain() {
+// After another choice of how the file is read; what cannot be read so is told, and the form stays as it was.
+void importFrm::readAgain(int& choice, int entry) {
     const app::Hourglass hourglass(app_);
+    const auto delimiters = delimiters_;
+    const int before = std::exchange(choice, entry);
+    delimiters_ = {separators.at(static_cast<std::size_t>(separatorCbo.ListIndex)),
+                   quotes.at(static_cast<std::size_t>(quoteCbo.ListIndex))};
     try {
         readTable();
     } catch (const std::exception& error) {
+        choice = before;
+        delimiters_ = delimiters;
         const auto* failed = dynamic_cast<const core::RunTimeError*>(&error);
         if (failed == nullptr || failed->number != core::errors::cancelled)
             app::warn(app_, std::string("The table cannot be read so: ").append(error.what()));
@@ -166,23 +174,19 @@ void importFrm::makeRecords() {
 // --- events
 
 void importFrm::sheetCbo_Click(int entry) {
-    sheetCbo.ListIndex = entry;
-    readAgain();
+    readAgain(sheetCbo.ListIndex, entry);
 }
 
 void importFrm::encodingCbo_Click(int entry) {
-    encodingCbo.ListIndex = entry;
-    readAgain();
+    readAgain(encodingCbo.ListIndex, entry);
 }
 
 void importFrm::separatorCbo_Click(int entry) {
-    delimiters_.separator = separators.at(static_cast<std::size_t>(entry));
-    readAgain();
+    readAgain(separatorCbo.ListIndex, entry);
 }
 
 void importFrm::quoteCbo_Click(int entry) {
-    delimiters_.quote = quotes.at(static_cast<std::size_t>(entry));
-    readAgain();
+    readAgain(quoteCbo.ListIndex, entry);
 }
 
 void importFrm::Check1_Click(bool checked) {

@@ -85,7 +85,7 @@ public:
 private:
     void readFile();
     void readTable();
-    void readAgain();
+    void readAgain(int& choice, int entry);
     bool isKnownTable() const;
     void findTargets();
     void makeRecords();
