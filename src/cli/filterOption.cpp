@@ -7,6 +7,7 @@
 #include "search/searchMode.h"
 
 #include <CLI/CLI.hpp>
+#include <iostream>
 #include <unordered_set>
 
 namespace cli {
@@ -19,6 +20,10 @@ void check(const Session& session, const std::string& text, const std::optional<
     std::string message = "--filter, character ";
     message.append(std::to_string(core::length(std::string_view(text).substr(0, error->offset)) + 1));
     throw Failure(session.file, message.append(": ").append(error->reason));
+}
+
+void hint(const Session& session, const std::string& doubt) {
+    if (!doubt.empty()) std::cerr << "fwk: " << session.file << ": --filter: " << doubt << '\n';
 }
 
 } // namespace
@@ -42,6 +47,7 @@ void keepPassing(Session& session, const std::string& filter) {
     document.LV.forEach([&](const core::Item& record) {
         if (!record.isTotals() && passed.at(row++) == 0) gone.insert(&record);
     });
+    if (gone.size() == row) hint(session, read.doubt);
     document.LV.removeIf([&](const core::Item& record) { return gone.contains(&record); });
     core::resetTotalsRow(document.LV);
     const core::TotalsRowUpdater totals(document, document.LV);
@@ -53,6 +59,7 @@ void keepPassing(Session& session, const std::string& filter) {
 void findPassing(Session& session, const std::string& filter) {
     search::setFilter(session.app, filter);
     check(session, filter, search::filterBar(session.app).error);
+    hint(session, search::filterBar(session.app).doubt);
     if (session.app.document.searchLV.Visible) return;
     // All of them are found.
     std::vector<const core::Item*> all;

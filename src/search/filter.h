@@ -79,6 +79,7 @@ struct FilterTerm {
 struct Filter {
     std::vector<std::vector<FilterTerm>> alternatives; // one of which must hold, with all of its terms
     std::optional<FilterError> error;                  // and then there are no alternatives
+    std::string doubt; // why nothing may be found: "There is no column "Prise"", where that is read as a word
 
     bool empty() const { return alternatives.empty(); } // every record passes
 };

@@ -151,6 +151,7 @@ void showPassing(App& app, FilterState& state, Filter filter, bool isSame) {
     state.bar.isOn = true;
     state.bar.found = static_cast<int>(state.shown.size());
     state.bar.all = static_cast<int>(state.texts.rows());
+    state.bar.doubt = state.shown.empty() ? state.filter.doubt : std::string();
     chooseCurrent(app, state);
     app.changes.announce(app, app::Change::CurrentRecord);
     state.isStale = false; // nobody has changed a record, but another one is the current one
@@ -224,6 +225,7 @@ void forgetFilter(App& app) {
     state.bar.isOn = false;
     state.bar.text.clear();
     state.bar.error.reset();
+    state.bar.doubt.clear();
     state.passed.clear();
     state.shown.clear();
     state.chosen = nullptr;

@@ -16,6 +16,7 @@ struct FilterBarState {
     std::string text;  // as typed
     std::string scope; // the column that plain words apply to; empty for all
     std::optional<FilterError> error;
+    std::string doubt; // why nothing was found, perhaps
     int found = 0, all = 0;
     bool isOpen = false;    // the bar is there
     bool wantsKeys = false; // and takes them when it is shown next; the view takes it back

@@ -86,6 +86,19 @@ private:
         fail(value.offset, value.size, std::move(reason));
     }
 
+    static std::string noColumn(std::string_view name) {
+        std::string reason = "There is no column \"";
+        reason.append(name).append("\"");
+        return reason;
+    }
+
+    // A misspelt name, unless it is the beginning of an address or of a time.
+    void doubt(std::string_view name) {
+        if (filter_.doubt.empty() && !name.empty() && !core::isDigit(name.front()) &&
+            !rest().starts_with("//"))
+            filter_.doubt = noColumn(name);
+    }
+
     void endAlternative() {
         if (!terms_.empty()) filter_.alternatives.push_back(std::move(terms_));
         terms_.clear();
@@ -176,11 +189,12 @@ private:
         const std::optional<Comparison> comparison = readOperator();
         if (!comparison || (isApart && *comparison == Comparison::Colon) ||
             (column == anyColumn && !isBracketed) || (name.empty() && *comparison == Comparison::Colon)) {
+            if (comparison && !isApart && column == anyColumn) doubt(name);
             at_ = from;
             return false;
         }
         if (column == anyColumn) {
-            fail(from, behindName - from, "There is no column \"" + name + "\"");
+            fail(from, behindName - from, noColumn(name));
             return true;
         }
         std::optional<Comparison> second; // "Price:>10" is "Price>10"

@@ -68,6 +68,8 @@ void Search_ButtonClick(App& app) {
 
 void mnuSearch_Click(App& app) {
     if (!hasColumns(app.document)) return;
+    // Who closes the dialog without a search sees all records, and no list that is empty without a reason.
+    if (filterBar(app).isOn && !entry::isSheetNew(app)) leaveFilter(app);
     app.mainFrm.control("Search").Value = true;
     openDialog(app);
 }

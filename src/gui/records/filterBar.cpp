@@ -64,7 +64,7 @@ FilterBar::FilterBar(app::App& app, EventBoundary& events, QWidget* parent)
 void FilterBar::setRow() {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 4, 4);
-    auto* caption = new QLabel(tr("&Filter:"));
+    auto* caption = new QLabel(tr("F&ilter:"));
     caption->setBuddy(text_);
     row->addWidget(caption);
     row->addWidget(text_, 1);
@@ -156,7 +156,10 @@ bool FilterBar::eventFilter(QObject* watched, QEvent* event) {
     }
     const bool isDown = key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter;
     if (watched != text_ || !isDown) return QFrame::eventFilter(watched, event);
-    takeNow();
+    if (key == Qt::Key_Down)
+        takeNow();
+    else
+        take(); // anew, as the records may have changed
     const auto& error = search::filterBar(app_).error;
     if (!error || key == Qt::Key_Down) emit listWanted();
     return true;
@@ -198,7 +201,7 @@ void FilterBar::showState() {
     const QString count = bar.isOn ? tr("%L1 of %L2").arg(bar.found).arg(bar.all) : QString();
     // What is being typed is nothing to warn of.
     const bool isWrong = bar.error && !bar.error->isUnfinished;
-    const QString reason = bar.error ? toQt(bar.error->reason) : QString();
+    const QString reason = bar.error ? toQt(bar.error->reason) : toQt(bar.doubt);
     const bool isNews = count != count_->text() || reason != reason_->text();
     count_->setText(count);
     count_->setVisible(!count.isEmpty());
