@@ -3,8 +3,10 @@
 #include "app/hourglass.h"
 #include "calc/formulas.h"
 #include "core/runTimeError.h"
+#include "exchange/pictures.h"
 #include "search/manyRecords.h"
 #include "storage/saveSteps.h"
+#include "tables/counted.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -80,13 +82,22 @@ core::Item* exportFrm::totals() const {
 }
 
 void exportFrm::show() {
-    const Format format = kinds.at(static_cast<std::size_t>(ListIndex)).format;
+    const Format format = this->format();
     Check1Enabled = totals() != nullptr && format != Format::Vcard;
     // The items of an invoice share a cell, which no formula of a spreadsheet works on.
     Check2Enabled = (format == Format::Xlsx || format == Format::Ods) && !app_.document.bInvoiceStyle &&
                     std::ranges::any_of(
                         columns_, [&](const core::Column* column) { return !expressionOf(*column).empty(); });
+    Check3Enabled = false;
+    for (std::size_t i = 0; i < List1.size(); ++i)
+        Check3Enabled =
+            Check3Enabled || (List1[i].Checked && columns_[i]->type() == core::ColumnType::Picture);
+    Check3Enabled = Check3Enabled && format != Format::Vcard && !app_.document.currentFile.empty();
     OKButtonEnabled = std::ranges::any_of(List1, &Column::Checked);
+}
+
+Format exportFrm::format() const {
+    return kinds.at(static_cast<std::size_t>(ListIndex)).format;
 }
 
 void exportFrm::Opt1_Click(int chosen) {
@@ -156,26 +167,49 @@ std::optional<std::string> exportFrm::askForFile() const {
     return target;
 }
 
+// Raises cancelled, and what unpacking and writing raise.
+void exportFrm::write(const std::string& file) {
+    constexpr int percents = 100;
+    const auto telling = [&](const char* what) {
+        return [this, what](int percent) {
+            return app_.platform.tellProgress(what, std::min(percent, percents - 1), percents);
+        };
+    };
+    exchange::OutTable out = table();
+    std::vector<std::string> missing;
+    if (Check3 && Check3Enabled) {
+        const bool isInside = format() == Format::Xlsx;
+        const auto folder =
+            isInside ? app_.platform.workFolder() / "pictures" : exchange::picturesBeside(file);
+        missing = exchange::unpackPictures(app_.document.currentFile, out, folder,
+                                           telling("Taking the pictures out"));
+        if (isInside) out.pictures = folder;
+    }
+    exchange::writeSheet(file, format(), out, telling("Writing the table"));
+    if (!out.pictures.empty()) {
+        std::error_code none; // what stays there goes with the work folder
+        std::filesystem::remove_all(out.pictures, none);
+    }
+    if (missing.empty()) return;
+    std::string text = counted(missing.size(), "picture is", "pictures are");
+    app::warn(app_, text.append(" not in the database. The first one: ").append(missing.front()));
+}
+
 void exportFrm::OKButton_Click() {
     if (!OKButtonEnabled) return;
     const std::optional<std::string> target = askForFile();
     if (!target) return;
     app_.rooms.of<LastExport>().format = ListIndex;
-    constexpr int percents = 100;
-    constexpr const char* what = "Writing the table";
-    const auto progress = [&](int percent) {
-        return app_.platform.tellProgress(what, std::min(percent, percents - 1), percents);
-    };
     const app::Hourglass hourglass(app_);
     try {
-        exchange::writeSheet(*target, kinds.at(static_cast<std::size_t>(ListIndex)).format, table(),
-                             progress);
+        write(*target);
         unloaded = true;
     } catch (const core::RunTimeError& error) {
         if (error.number != core::errors::cancelled)
             app::warn(app_, std::string("The table could not be written: ").append(error.what()));
     }
-    app_.platform.tellProgress(what, percents, percents);
+    constexpr int whole = 1;
+    app_.platform.tellProgress("Writing the table", whole, whole);
 }
 
 } // namespace tables

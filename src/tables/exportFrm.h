@@ -33,6 +33,8 @@ public:
     bool Check1Enabled = true;
     bool Check2 = false; // calculated columns as formulas
     bool Check2Enabled = true;
+    bool Check3 = false; // with the pictures: in an .xlsx, else in a folder beside the file
+    bool Check3Enabled = false;
     std::vector<std::string> formatCbo;
     int ListIndex = 0;
     bool OKButtonEnabled = true;
@@ -44,6 +46,7 @@ public:
     void Command2_Click() { checkAll(false); } // none
     void Check1_Click(bool checked) { Check1 = checked; }
     void Check2_Click(bool checked) { Check2 = checked; }
+    void Check3_Click(bool checked) { Check3 = checked; }
     void formatCbo_Click(int entry);
     void OKButton_Click();
     void CancelButton_Click() { unloaded = true; }
@@ -52,6 +55,8 @@ private:
     void checkAll(bool checked);
     void show();
     exchange::OutTable table();
+    void write(const std::string& file);
+    exchange::Format format() const;
     core::Item* totals() const;
     std::string expressionOf(const core::Column& column) const;
     std::optional<std::string> askForFile() const;

@@ -15,6 +15,7 @@ exportFrmView::exportFrmView(app::App& app, EventBoundary& events, QWidget* pare
       List1_(named("List1", new QTreeWidget)),
       Check1_(named("Check1", new QCheckBox(tr("With the &Totals row")))),
       Check2_(named("Check2", new QCheckBox(tr("Calculated columns as &formulas")))),
+      Check3_(named("Check3", new QCheckBox(tr("With the &pictures")))),
       formatCbo_(named("formatCbo", new QComboBox)) {
     auto* kind = new QLabel(tr("&Kind of file:"));
     kind->setBuddy(formatCbo_);
@@ -25,6 +26,10 @@ exportFrmView::exportFrmView(app::App& app, EventBoundary& events, QWidget* pare
             [this](bool checked) { on([&] { form_.Check1_Click(checked); }); });
     connect(Check2_, &QCheckBox::clicked, this,
             [this](bool checked) { on([&] { form_.Check2_Click(checked); }); });
+    connect(Check3_, &QCheckBox::clicked, this,
+            [this](bool checked) { on([&] { form_.Check3_Click(checked); }); });
+    Check3_->setToolTip(
+        tr("In an Excel workbook they stand in their rows, else in a folder beside the file"));
     auto* row = new QHBoxLayout;
     row->addWidget(kind);
     row->addWidget(formatCbo_, 1);
@@ -34,6 +39,7 @@ exportFrmView::exportFrmView(app::App& app, EventBoundary& events, QWidget* pare
     column->addWidget(Check1_);
     column->addLayout(row);
     column->addWidget(Check2_);
+    column->addWidget(Check3_);
     column->addSpacing(em() / 2);
     OKButton_ = makeButton("OKButton", tr("&Export..."), [this] { form_.OKButton_Click(); });
     OKButton_->setDefault(true);
@@ -105,6 +111,8 @@ void exportFrmView::showMembers() {
     Check1_->setEnabled(form_.Check1Enabled);
     Check2_->setChecked(form_.Check2 && form_.Check2Enabled);
     Check2_->setEnabled(form_.Check2Enabled);
+    Check3_->setChecked(form_.Check3 && form_.Check3Enabled);
+    Check3_->setEnabled(form_.Check3Enabled);
     formatCbo_->setCurrentIndex(form_.ListIndex);
     OKButton_->setEnabled(form_.OKButtonEnabled);
 }

@@ -33,6 +33,7 @@ private:
     QTreeWidget* List1_;
     QCheckBox* Check1_;
     QCheckBox* Check2_;
+    QCheckBox* Check3_;
     QComboBox* formatCbo_;
     QPushButton* OKButton_ = nullptr;
 };
