@@ -38,6 +38,10 @@ FilterState& stateOf(const App& app) {
     return app.rooms.of<FilterState>();
 }
 
+int records(const RecordsList& list) {
+    return std::max(0, list.count() - 1); // without the Totals row
+}
+
 int scopeIn(const FilterColumns& columns, std::string_view name) {
     const auto place =
         std::ranges::find_if(columns, [&](const FilterColumn& column) { return column.name == name; });
@@ -149,8 +153,6 @@ void showPassing(App& app, FilterState& state, Filter filter, bool isSame) {
     if (!isOn) beginResults(app);
     fillResults(app, state, isOn && isSame);
     state.bar.isOn = true;
-    state.bar.found = static_cast<int>(state.shown.size());
-    state.bar.all = static_cast<int>(state.texts.rows());
     state.bar.doubt = state.shown.empty() ? state.filter.doubt : std::string();
     chooseCurrent(app, state);
     app.changes.announce(app, app::Change::CurrentRecord);
@@ -160,7 +162,12 @@ void showPassing(App& app, FilterState& state, Filter filter, bool isSame) {
 } // namespace
 
 const FilterBarState& filterBar(const App& app) {
-    return stateOf(app).bar;
+    FilterBarState& bar = stateOf(app).bar;
+    if (bar.isOn) { // some may have been deleted since, and others added
+        bar.found = records(app.document.searchLV);
+        bar.all = records(app.document.bInvoiceStyle ? app.document.iLV : app.document.LV);
+    }
+    return bar;
 }
 
 Filter parseFilter(const App& app, const RecordsList& list, std::string_view text, std::string_view scope) {
@@ -184,6 +191,11 @@ void setFilter(App& app, const std::string& text, const std::string& scope) {
     }
     const bool isSame = !followSource(app, state, columns);
     showPassing(app, state, std::move(filter), isSame);
+}
+
+void filterAnew(App& app) {
+    const FilterBarState bar = filterBar(app);
+    if (bar.isOn) setFilter(app, bar.text, bar.scope);
 }
 
 void leaveFilter(App& app) {

@@ -27,6 +27,8 @@ const FilterBarState& filterBar(const app::App& app);
 // With an error the results stay as they are. The current record stays the current one, if it is among those
 // found. A record that is edited stays, whatever it says now, until the filter is set again.
 void setFilter(app::App& app, const std::string& text, const std::string& scope = {});
+// The same filter for what the records are now.
+void filterAnew(app::App& app);
 
 // Shows all records again. The current one is that of the results, if the user has chosen it there.
 void leaveFilter(app::App& app);

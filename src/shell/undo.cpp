@@ -12,6 +12,7 @@
 #include "layout/layoutPage.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
+#include "search/filterMode.h"
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
 #include "storage/recoveryCopies.h"
@@ -215,6 +216,7 @@ void showChanged(App& app, const TypedWords& typed, bool bColumns, bool bObjects
         search::leaveResults(app);
     else
         search::followRecords(app);
+    if (!bNew) search::filterAnew(app); // a record that is back is found again
     if (app.document.searchLV.Visible) app::showRecordCount(app, app.document.searchLV);
     if (!bNew) app.changes.announce(app, app::Change::CurrentRecord);
     typed.putBack();

@@ -97,6 +97,12 @@ TEST(Filter, IsKeptByFileAndEndsWhereASearchDoes) {
     search::leaveFilter(program.app);
     EXPECT_EQ(program.app.document.LV.selectedItem()->Key, "i3");
     program.filter("north");
+    program.inDialog([](search::searchFrm&) {}); // and is closed again
+    EXPECT_FALSE(program.app.document.searchLV.Visible);
+    for (const auto& each :
+         table("Nam>5 -> There is no column \"Nam\"; a://b -> ; 1:2 -> ; Nam:o -oak|oak -> "))
+        EXPECT_EQ((program.filter(each[0]), search::filterBar(program.app).doubt), each[1]) << each[0];
+    program.filter("north");
     EXPECT_EQ(program.find("Name = fern") + search::filterBar(program.app).text, "i2");
 }
 

@@ -12,6 +12,7 @@
 #include "layout/sheetFixture.h"
 #include "print/layoutPageSetupFrm.h"
 #include "print/reportPageSetup.h"
+#include "search/filterMode.h"
 #include "search/replaceFrm.h"
 #include "sheetWatch.h"
 #include "shell/listEvents.h"
@@ -287,6 +288,16 @@ TEST_F(Undo, LeavesWhatIsTypedAndShowsTheRecordThatCameBack) {
     event([&] { press("Delete"); });
     undo();
     EXPECT_EQ(field(2), "Bob");
+}
+
+TEST_F(Undo, BringsARecordBackIntoTheFilter) {
+    openRecords(false);
+    event([&] { search::setFilter(app, "b -zoe"); });
+    event([&] { press("Delete"); });
+    const search::FilterBarState& bar = search::filterBar(app);
+    EXPECT_EQ(std::pair(bar.found, bar.all), std::pair(2, 4));
+    undo();
+    EXPECT_EQ(std::pair(search::filterBar(app).found, bar.all), std::pair(3, 5));
 }
 
 } // namespace

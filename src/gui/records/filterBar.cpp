@@ -64,7 +64,7 @@ FilterBar::FilterBar(app::App& app, EventBoundary& events, QWidget* parent)
 void FilterBar::setRow() {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 4, 4);
-    auto* caption = new QLabel(tr("F&ilter:"));
+    auto* caption = new QLabel(tr("Fi&lter:"));
     caption->setBuddy(text_);
     row->addWidget(caption);
     row->addWidget(text_, 1);
