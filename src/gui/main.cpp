@@ -1,3 +1,4 @@
+#include "app/fileSettings.h"
 #include "gui/frame/commandLine.h"
 #include "gui/frame/mainFrmView.h"
 #include "gui/frame/picture.h"
@@ -20,6 +21,7 @@ namespace {
 int showWindow(const gui::CommandLine& line) {
     gui::QtPlatform platform;
     shell::Program app(platform);
+    app::keepFileSettings(app, platform::FileSettings::defaultFile());
     gui::MainFrmView window(app, platform);
     // Not with the last window: the disclaimer of the first start closes before the window opens.
     QApplication::setQuitOnLastWindowClosed(false);
