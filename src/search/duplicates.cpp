@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "core/totalsRow.h"
 #include "entry/editRecord.h"
+#include "search/filterMode.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"
 
@@ -94,6 +95,7 @@ void showRecords(App& app, const std::vector<EqualRecords>& groups) {
             const std::vector<const Item*>& found = rows[record->Key.str()];
             shown.insert(shown.end(), found.begin(), found.end());
         }
+    forgetFilter(app);
     takeOverColumns(app.document);
     showRows(app, shown);
 }

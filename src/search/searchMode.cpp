@@ -4,6 +4,7 @@
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
 #include "entry/navBar.h"
+#include "search/filterMode.h"
 #include "search/searchEngine.h"
 
 #include <algorithm>
@@ -43,6 +44,7 @@ void openDialog(App& app) {
     calc::RefreshSelectedTotals(app.document);
     // The record of a sheet that is new is none of the results.
     const bool bResultsGone = app.document.searchLV.Visible && !entry::isSheetNew(app);
+    forgetFilter(app);
     takeOverColumns(app.document);
     app.platform.showForm("searchFrm");
     if (bResultsGone) app.changes.announce(app, app::Change::CurrentRecord);

@@ -8,6 +8,7 @@
 #include "layout/images.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
+#include "search/filterMode.h"
 #include "shell/mainWindow.h"
 #include "shell/recoveryOffer.h"
 #include "shell/undo.h"
@@ -57,6 +58,9 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::PageEmptied}, entry::unbindSheet);
     changes.follow({Change::Values, Change::CurrentRecord}, entry::refreshShownRecord);
     changes.follow({Change::Columns, Change::Values}, [](App& app) { invoice::rebuildView(app.document); });
+    changes.follow({Change::Modified, Change::Columns, Change::Values, Change::CurrentRecord, Change::Unsaved,
+                    Change::Begun, Change::Opened},
+                   search::followRecordsForFilter);
     changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Opened}, [](App& app) {
         if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/app.h"
+#include "search/filter.h"
+#include "search/filterSearch.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace search {
+
+// What the bar over the records shows.
+struct FilterBarState {
+    bool isOn = false; // the results on show are those of the text
+    std::string text;  // as typed
+    std::string scope; // the column that plain words apply to; empty for all
+    std::optional<FilterError> error;
+    int found = 0, all = 0;
+};
+const FilterBarState& filterBar(const app::App& app);
+
+// Shows the records that pass as a search shows what it has found; an empty filter shows all records again.
+// With an error the results stay as they are. The current record stays the current one, if it is among those
+// found. A record that is edited stays, whatever it says now, until the filter is set again.
+void setFilter(app::App& app, const std::string& text, const std::string& scope = {});
+
+// Shows all records again. The current one is that of the results, if the user has chosen it there.
+void leaveFilter(app::App& app);
+
+// The records of LV that pass. Raises nothing: an error is in the filter, and then there are none.
+Passed recordsPassing(app::App& app, const Filter& filter);
+Filter parseFilter(const app::App& app, const core::RecordsList& list, std::string_view text,
+                   std::string_view scope = {});
+
+// Other results take the place of the filter's.
+void forgetFilter(app::App& app);
+// Follow the changes: the one the results, which may be gone, and the other the records.
+void followResultsForFilter(app::App& app);
+void followRecordsForFilter(app::App& app);
+// Makes the next key as quick as those after it.
+void prepareFilter(app::App& app);
+
+// Filters that the user keeps for the open database, by name, in the order in which they were kept first.
+std::vector<std::string> keptFilters(const app::App& app);
+// False when it cannot be kept: the document has no file yet, or the name is too long.
+bool keepFilter(app::App& app, std::string_view name);
+void useKeptFilter(app::App& app, std::string_view name);
+void removeKeptFilter(app::App& app, std::string_view name);
+
+} // namespace search
