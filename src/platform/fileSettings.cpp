@@ -57,7 +57,8 @@ bool FileSettings::read() const {
 
 void FileSettings::write() const {
     if (file_.empty()) return;
-    std::string text;
+    std::vector<std::string> sections;
+    std::size_t bytes = 0;
     for (const Database& database : databases_) {
         std::string section = "[";
         section.append(escapedSetting(database.path, true)).append("]\n");
@@ -66,8 +67,13 @@ void FileSettings::write() const {
                 .append("=")
                 .append(escapedSetting(value, false))
                 .append("\n");
-        if (text.size() + section.size() > maxFileBytes) break; // those behind were written longest ago
-        text.append(section);
+        bytes += section.size();
+        sections.push_back(std::move(section));
+    }
+    std::string text;
+    for (const std::string& section : sections) {
+        if (bytes <= maxFileBytes) text.append(section);
+        bytes -= bytes > maxFileBytes ? section.size() : 0; // the first ones were written longest ago
     }
     writeSettings(file_, text);
 }
@@ -98,8 +104,8 @@ bool FileSettings::set(std::string_view database, std::string_view name, std::st
     } else {
         changed.texts.emplace_back(name, text);
     }
-    if (!changed.texts.empty()) databases_.insert(databases_.begin(), std::move(changed));
-    if (databases_.size() > maxDatabases) databases_.pop_back();
+    if (!changed.texts.empty()) databases_.push_back(std::move(changed));
+    if (databases_.size() > maxDatabases) databases_.erase(databases_.begin());
     if (mayWrite) write(); // or what cannot be read now would be lost
     return true;
 }

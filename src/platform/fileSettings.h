@@ -43,7 +43,7 @@ private:
     Database* find(std::string_view path) const;
 
     std::filesystem::path file_;              // empty: kept for this run only
-    mutable std::vector<Database> databases_; // the one written last is the first
+    mutable std::vector<Database> databases_; // the one written last is the last
     mutable bool isRead_ = false;
 };
 
