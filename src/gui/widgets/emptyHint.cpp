@@ -1,0 +1,106 @@
+#include "gui/widgets/emptyHint.h"
+
+#include "gui/widgets/qtText.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace gui {
+
+EmptyHint::EmptyHint(app::App& app, EventBoundary& events, QWidget* page)
+    : QFrame(page), app_(app), events_(events), title_(new QLabel), text_(new QLabel),
+      buttons_(new QHBoxLayout) {
+    setObjectName(QStringLiteral("emptyHint"));
+    setFrameShape(StyledPanel);
+    setAutoFillBackground(true);
+    QFont bold = title_->font();
+    bold.setBold(true);
+    title_->setFont(bold);
+    for (QLabel* label : {title_, text_}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
+    }
+    auto* column = new QVBoxLayout(this);
+    const int margin = fontMetrics().height();
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(margin / 2);
+    column->addWidget(title_);
+    column->addWidget(text_);
+    column->addLayout(buttons_);
+    takeColours();
+    page->installEventFilter(this);
+    hide();
+}
+
+void EmptyHint::show(const std::optional<shell::Hint>& hint) {
+    QStringList shown;
+    if (hint) {
+        shown << toQt(hint->title) << toQt(hint->text);
+        for (const auto& button : hint->buttons) shown << toQt(button.key);
+    }
+    if (shown == shown_) return;
+    shown_ = shown;
+    const bool hadKeys = isAncestorOf(QApplication::focusWidget());
+    while (QLayoutItem* item = buttons_->takeAt(0)) {
+        if (QWidget* button = item->widget()) {
+            button->hide();
+            button->deleteLater(); // it may be the one that is being pressed
+        }
+        delete item;
+    }
+    if (hint) {
+        title_->setText(shown[0]);
+        text_->setText(shown[1]);
+        setAccessibleName(shown[0]);
+        setAccessibleDescription(shown[1]);
+        buttons_->addStretch();
+        for (const auto& each : hint->buttons) {
+            auto* button = new QPushButton(toQt(each.caption), this);
+            button->setObjectName(QStringLiteral("hint_") + toQt(each.key));
+            button->setAccessibleDescription(shown[0] + QStringLiteral(". ") + shown[1]);
+            connect(button, &QPushButton::clicked, this,
+                    [this, run = each.run] { events_.run([&] { run(app_); }); });
+            buttons_->addWidget(button);
+        }
+        buttons_->addStretch();
+        setAttribute(Qt::WA_TransparentForMouseEvents, hint->buttons.empty());
+        place();
+    }
+    setVisible(hint.has_value());
+    raise();
+    if (hadKeys) parentWidget()->setFocus(Qt::OtherFocusReason);
+}
+
+void EmptyHint::place() {
+    constexpr int widest = 26; // lines high, about sixty letters
+    const QRect room = parentWidget()->rect();
+    const int gap = fontMetrics().height();
+    const int width = std::min(fontMetrics().height() * widest, room.width() - 2 * gap);
+    layout()->activate();
+    const int height = std::min(layout()->totalHeightForWidth(width), room.height());
+    setGeometry(room.center().x() - width / 2, std::max(room.center().y() - height / 2, 0), width, height);
+}
+
+// Those of the program, whatever the page has for its own.
+void EmptyHint::takeColours() {
+    const QScopedValueRollback guard(colouring_, true);
+    setPalette(QApplication::palette());
+}
+
+void EmptyHint::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange && !colouring_) takeColours();
+}
+
+bool EmptyHint::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && !isHidden()) place();
+    return QFrame::eventFilter(watched, event);
+}
+
+} // namespace gui
