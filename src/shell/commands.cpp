@@ -6,6 +6,7 @@
 #include "entry/invoiceRecords.h"
 #include "lock/designLock.h"
 #include "print/printCommands.h"
+#include "search/coloursFrm.h"
 #include "search/duplicatesFrm.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
@@ -13,6 +14,7 @@
 #include "search/setValuesFrm.h"
 #include "shell/clipboardCommands.h"
 #include "shell/listCommands.h"
+#include "shell/looks.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 #include "shell/tableCommands.h"
@@ -145,6 +147,13 @@ std::vector<Command> menuCommands() {
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSetValues", "Set &Values...", "", "setValues", false, search::mnuSetValues_Click},
         {"mnuDuplicates", "Find Duplicat&es...", "", "duplicates", false, search::mnuDuplicates_Click},
+        {"mnuZoomIn", "Zoom &In", "", "zoomIn", false, zoomIn, canZoomIn},
+        {"mnuZoomOut", "Zoom &Out", "", "zoomOut", false, zoomOut, canZoomOut},
+        {"mnuZoomNormal", "&Normal Size", "", "zoomNormal", false, zoomNormal, canZoomNormal},
+        {"mnuFitPage", "Fit &Page", "Show the whole page", "fitPage", false, fitPage, canFit},
+        {"mnuFitWidth", "Fit &Width", "As wide as the window", "fitWidth", false, fitWidth, canFit},
+        {"mnuFreezeColumn", "&Freeze First Column", "", "", true, toggleFreezeColumn, canFreezeColumn},
+        {"mnuColours", "&Colours...", "", "colours", false, search::mnuColours_Click, canFreezeColumn},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
         {"mnuExpressionEditor", "&Expression Editor", "", "expressionEditor", false, showExpressionEditor},
@@ -277,6 +286,10 @@ std::span<const Menu> menuBar() {
          "&Edit",
          {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuCopyHeadings", "mnuPaste", "-", "mnuNewRecord",
           "mnuDuplicate", "-", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
+        {"mnuView",
+         "&View",
+         {"mnuZoomIn", "mnuZoomOut", "mnuZoomNormal", "-", "mnuFitPage", "mnuFitWidth", "-",
+          "mnuFreezeColumn", "mnuColours"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuDatabaseProperties", "Design",

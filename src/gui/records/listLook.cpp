@@ -16,6 +16,14 @@ public:
         return {QStyledItemDelegate::sizeHint(option, index).width(),
                 option.fontMetrics.height() + option.fontMetrics.height() / 3};
     }
+
+protected:
+    // A mark is as large as the letters beside it, whatever their zoom.
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int side = option->fontMetrics.height();
+        option->decorationSize = QSize(side, side);
+    }
 };
 
 // Room at the sides of a cell, so that a number at the right edge of its column does not touch the text

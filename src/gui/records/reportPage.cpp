@@ -25,6 +25,7 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
         lists_[i]->setAccessibleName(names[i]);
         lists_[i]->addAction(actions.action("mnuNewRecord"));
         connect(lists_[i], &RecordsView::menuWanted, this, [this, i](QPoint place) { showMenu(i, place); });
+        hints_[i] = new EmptyHint(app, events, lists_[i]);
         shownList_->addWidget(lists_[i]);
     }
     auto* splitter = new QSplitter(Qt::Vertical);
@@ -92,6 +93,7 @@ void ReportPage::refresh() {
         shownList_->setCurrentWidget(lists_[i]);
         setCurrentWidget(records_);
         lists_[i]->refresh(std::exchange(app_.mainFrm.listScroll, app::ListScroll::ToCurrent));
+        hints_[i]->show(shell::emptyList(app_, *listStates_[i]));
         // The keys go to the records as soon as they are there.
         const bool opened = std::exchange(app_.mainFrm.bListFocus, false);
         if (another || opened) lists_[i]->setFocus();
