@@ -106,7 +106,8 @@ void readLooks(App& app) {
     Looks& looks = app::looks(app);
     for (const Kept& each : kept) {
         const double percent = core::val(app.platform.getSetting(each.key, "100"));
-        looks.*each.zoom = static_cast<int>(std::clamp<double>(percent, steps.front(), steps.back()));
+        const bool isUsable = percent >= steps.front() && percent <= steps.back();
+        looks.*each.zoom = isUsable ? static_cast<int>(percent) : 100;
     }
     const std::string fitted = app.platform.getSetting("PreviewFit", "");
     looks.previewFit = fitted == "Page" ? Fit::Page : fitted == "Width" ? Fit::Width : Fit::None;

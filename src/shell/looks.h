@@ -24,7 +24,7 @@ bool canFit(const app::App& app);
 void toggleFreezeColumn(app::App& app);
 bool canFreezeColumn(const app::App& app);
 
-// What settings that somebody has written in say beyond the bounds, is brought within them.
+// A zoom that is none, or beyond the bounds, is the normal size.
 void readLooks(app::App& app);
 void writeLooks(app::App& app);
 

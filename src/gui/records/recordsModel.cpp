@@ -1,6 +1,7 @@
 #include "gui/records/recordsModel.h"
 
 #include "gui/records/colourLook.h"
+#include "gui/records/listLook.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/qtText.h"
@@ -87,7 +88,7 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const {
         return qtAlignment(columns_[section].align);
     case Qt::ToolTipRole:
     case Qt::BackgroundRole:
-    case Qt::DecorationRole:
+    case markRole:
     case Qt::AccessibleTextRole: {
         const core::Item* row = item(index.row());
         const QVariant marked = row == nullptr ? QVariant() : markData(*row, index.column(), role);
@@ -114,7 +115,7 @@ QVariant RecordsModel::markData(const core::Item& row, int section, int role) co
     const search::ColourRule* rule = markOf(column, row.cells[place].view());
     if (rule == nullptr) return {};
     if (role == Qt::BackgroundRole) return colourGround(rule->colour);
-    if (role == Qt::DecorationRole) return colourMark(rule->colour);
+    if (role == markRole) return colourMark(rule->colour);
     const QString reason = toQt(search::ruleText(*rule, column.type()));
     const bool isTip = role == Qt::ToolTipRole;
     return QStringLiteral("%1: %2").arg(

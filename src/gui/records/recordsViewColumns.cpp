@@ -63,7 +63,7 @@ int RecordsView::sizeHintForColumn(int section) const {
     QFont totals(font());
     totals.setBold(true);
     const QFontMetrics bold(totals);
-    const int mark = plain.height() + margins / 2;
+    const int mark = plain.height();
     const core::Column& column = list_.columns.at(RecordsModel::columnIndex(section));
     int widest = 0;
     list_.forEach([&](const core::Item& item) {
@@ -90,8 +90,9 @@ QModelIndex RecordsView::indexAt(const QPoint& place) const {
 // The frozen column is in sight wherever the list stands.
 void RecordsView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     const int offset = horizontalScrollBar()->value();
+    const bool isOver = frozen_ != nullptr && frozen_->isOver(index.column());
     QTreeView::scrollTo(index, hint);
-    if (frozen_ != nullptr && frozen_->isOver(index.column())) horizontalScrollBar()->setValue(offset);
+    if (isOver) horizontalScrollBar()->setValue(offset);
 }
 
 // Dragging and sizing columns goes into the column table and so into the next save, but it does not

@@ -18,6 +18,7 @@ EmptyHint::EmptyHint(app::App& app, EventBoundary& events, QWidget* page)
     setObjectName(QStringLiteral("emptyHint"));
     setFrameShape(StyledPanel);
     setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Window); // or it would take the grey of what it lies on
     QFont bold = title_->font();
     bold.setBold(true);
     title_->setFont(bold);
@@ -70,9 +71,9 @@ void EmptyHint::show(const std::optional<shell::Hint>& hint) {
         }
         buttons_->addStretch();
         setAttribute(Qt::WA_TransparentForMouseEvents, hint->buttons.empty());
-        place();
     }
     setVisible(hint.has_value());
+    if (hint) place();
     raise();
     if (hadKeys) parentWidget()->setFocus(Qt::OtherFocusReason);
 }
@@ -82,7 +83,8 @@ void EmptyHint::place() {
     const QRect room = parentWidget()->rect();
     const int gap = fontMetrics().height();
     const int width = std::min(fontMetrics().height() * widest, room.width() - 2 * gap);
-    layout()->activate();
+    for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
+    layout()->invalidate();
     const int height = std::min(layout()->totalHeightForWidth(width), room.height());
     setGeometry(room.center().x() - width / 2, std::max(room.center().y() - height / 2, 0), width, height);
 }
@@ -91,6 +93,12 @@ void EmptyHint::place() {
 void EmptyHint::takeColours() {
     const QScopedValueRollback guard(colouring_, true);
     setPalette(QApplication::palette());
+}
+
+// Its letters are measured anew in the window that it is shown in.
+void EmptyHint::showEvent(QShowEvent* event) {
+    QFrame::showEvent(event);
+    place();
 }
 
 void EmptyHint::changeEvent(QEvent* event) {
