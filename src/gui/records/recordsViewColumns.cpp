@@ -56,7 +56,7 @@ void RecordsView::showColumns() {
     }
 }
 
-// What is longer than the window is wide is cut off there.
+// Of all rows, without asking for each as a cell of Qt's.
 int RecordsView::sizeHintForColumn(int section) const {
     const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
     const QFontMetrics plain(font());
@@ -73,7 +73,7 @@ int RecordsView::sizeHintForColumn(int section) const {
         const int width = (item.isTotals() ? bold : plain).horizontalAdvance(toQt(cell));
         widest = std::max(widest, width + (isMarked ? mark : 0));
     });
-    return std::min(widest + margins, viewport()->width() * 9 / 10);
+    return widest + margins;
 }
 
 void RecordsView::updateGeometries() {

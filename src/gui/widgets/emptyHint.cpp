@@ -83,9 +83,14 @@ void EmptyHint::place() {
     const QRect room = parentWidget()->rect();
     const int gap = fontMetrics().height();
     const int width = std::min(fontMetrics().height() * widest, room.width() - 2 * gap);
-    for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
-    layout()->invalidate();
-    const int height = std::min(layout()->totalHeightForWidth(width), room.height());
+    // A layout would leave out what is not shown yet.
+    const QMargins margins = layout()->contentsMargins();
+    const int inside = width - margins.left() - margins.right();
+    int height = margins.top() + title_->heightForWidth(inside) + layout()->spacing() +
+                 text_->heightForWidth(inside) + margins.bottom();
+    if (const auto* button = findChild<QPushButton*>())
+        height += layout()->spacing() + button->sizeHint().height();
+    height = std::min(height, room.height());
     setGeometry(room.center().x() - width / 2, std::max(room.center().y() - height / 2, 0), width, height);
 }
 
@@ -96,9 +101,10 @@ void EmptyHint::takeColours() {
 }
 
 // Its letters are measured anew in the window that it is shown in.
-void EmptyHint::showEvent(QShowEvent* event) {
-    QFrame::showEvent(event);
-    place();
+bool EmptyHint::event(QEvent* event) {
+    const bool isDone = QFrame::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) place();
+    return isDone;
 }
 
 void EmptyHint::changeEvent(QEvent* event) {
