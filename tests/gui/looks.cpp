@@ -51,7 +51,7 @@ private slots:
             QVERIFY((before - after).manhattanLength() < 0.03);
             run.act(u"click mnuExit"_s);
         }
-        Session next(file);
+        Session next(sample("books.fwk"));
         QCOMPARE(app::looks(next.app).listZoom, 175);
         next.act(u"tab 2; click mnuFitPage"_s);
         const auto& port = *next.find<QWidget>(u"rptPreview2"_s);

@@ -37,7 +37,6 @@ signals:
     void menuWanted(QPoint place);
 
 protected:
-    int sizeHintForColumn(int section) const override;
     void updateGeometries() override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -2,8 +2,6 @@
 
 #include "app/looks.h"
 #include "gui/widgets/measures.h"
-#include "gui/widgets/qtText.h"
-#include "search/colourRules.h"
 #include "shell/listEvents.h"
 
 #include <QApplication>
@@ -54,26 +52,6 @@ void RecordsView::showColumns() {
         const int width = pixels(list_.columns.at(RecordsModel::columnIndex(section)).Width);
         if (columns->sectionSize(section) != width) columns->resizeSection(section, width);
     }
-}
-
-// Of all rows, without asking for each as a cell of Qt's.
-int RecordsView::sizeHintForColumn(int section) const {
-    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
-    const QFontMetrics plain(font());
-    QFont totals(font());
-    totals.setBold(true);
-    const QFontMetrics bold(totals);
-    const int mark = plain.height();
-    const core::Column& column = list_.columns.at(RecordsModel::columnIndex(section));
-    int widest = 0;
-    list_.forEach([&](const core::Item& item) {
-        if (static_cast<std::size_t>(section) >= item.cells.size()) return;
-        const std::string_view cell = item.cells[static_cast<std::size_t>(section)].view();
-        const bool isMarked = !item.isTotals() && search::markOf(app_, column, cell) != nullptr;
-        const int width = (item.isTotals() ? bold : plain).horizontalAdvance(toQt(cell));
-        widest = std::max(widest, width + (isMarked ? mark : 0));
-    });
-    return widest + margins;
 }
 
 void RecordsView::updateGeometries() {
