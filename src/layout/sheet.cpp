@@ -206,7 +206,7 @@ void layoutVScroll_Change(App& app, int value) {
     page.layoutVScroll.Value = std::clamp(value, 0, page.layoutVScroll.Max);
     const auto offset = static_cast<float>(page.layoutVScroll.Value);
     page.layoutPic2.Top = -offset;
-    page.ruler2.Top = rulerThickness - offset;
+    page.ruler2.Top = page.ruler1.Height - offset;
     if (page.layoutPic2.Top == -1) page.layoutPic2.Top = page.ruler1.Height;
     if (isDesignMode(app) && page.layoutVScroll.Value == 0) {
         constexpr float creep = 45; // each return to the top takes it off again: it is wanted so
@@ -220,7 +220,7 @@ void layoutHScroll_Change(App& app, int value) {
     page.layoutHScroll.Value = std::clamp(value, 0, page.layoutHScroll.Max);
     const auto offset = static_cast<float>(page.layoutHScroll.Value);
     page.layoutPic2.Left = -offset;
-    page.ruler1.Left = rulerThickness - offset;
+    page.ruler1.Left = page.ruler2.Width - offset;
     if (page.layoutPic2.Left == 0) page.layoutPic2.Left = page.ruler2.Width;
 }
 

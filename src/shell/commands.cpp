@@ -6,6 +6,7 @@
 #include "entry/invoiceRecords.h"
 #include "lock/designLock.h"
 #include "print/printCommands.h"
+#include "search/coloursFrm.h"
 #include "search/duplicatesFrm.h"
 #include "search/filterMode.h"
 #include "search/replaceFrm.h"
@@ -14,6 +15,7 @@
 #include "search/setValuesFrm.h"
 #include "shell/clipboardCommands.h"
 #include "shell/listCommands.h"
+#include "shell/looks.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 #include "shell/tableCommands.h"
@@ -149,6 +151,13 @@ std::vector<Command> menuCommands() {
         {"mnuSetValues", "Set &Values...", "", "setValues", false, search::mnuSetValues_Click},
         {"mnuFilter", "F&ilter...", "", "filter", false, search::mnuFilter_Click, search::canFilter},
         {"mnuDuplicates", "Find Duplicat&es...", "", "duplicates", false, search::mnuDuplicates_Click},
+        {"mnuZoomIn", "Zoom &In", "", "zoomIn", false, zoomIn, canZoomIn},
+        {"mnuZoomOut", "Zoom &Out", "", "zoomOut", false, zoomOut, canZoomOut},
+        {"mnuZoomNormal", "&Normal Size", "", "zoomNormal", false, zoomNormal, canZoomNormal},
+        {"mnuFitPage", "Fit &Page", "Show the whole page", "fitPage", false, fitPage, canFit},
+        {"mnuFitWidth", "Fit &Width", "As wide as the window", "fitWidth", false, fitWidth, canFit},
+        {"mnuFreezeColumn", "&Freeze First Column", "", "", true, toggleFreezeColumn, canFreezeColumn},
+        {"mnuColours", "&Colours...", "", "colours", false, search::mnuColours_Click, canFreezeColumn},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
         {"mnuSummary", "Su&mmary", "", "summary", true, summary::mnuSummary_Click},
@@ -283,6 +292,10 @@ std::span<const Menu> menuBar() {
          "&Edit",
          {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuCopyHeadings", "mnuPaste", "-", "mnuNewRecord",
           "mnuDuplicate", "-", "mnuFilter", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
+        {"mnuView",
+         "&View",
+         {"mnuZoomIn", "mnuZoomOut", "mnuZoomNormal", "-", "mnuFitPage", "mnuFitWidth", "-",
+          "mnuFreezeColumn", "mnuColours"}},
         {"mnuTools",
          "&Tools",
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuSummary", "mnuStatistics", "-",

@@ -8,7 +8,9 @@
 #include "layout/images.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
+#include "search/colourRules.h"
 #include "search/filterMode.h"
+#include "search/suggestions.h"
 #include "shell/mainWindow.h"
 #include "shell/recoveryOffer.h"
 #include "shell/undo.h"
@@ -62,6 +64,11 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Modified, Change::Columns, Change::Values, Change::CurrentRecord, Change::Unsaved,
                     Change::Begun, Change::Opened},
                    search::followRecordsForFilter);
+    changes.follow({Change::Modified, Change::Columns, Change::Values, Change::CurrentRecord, Change::Begun,
+                    Change::Opened},
+                   search::forgetSuggestions);
+    changes.follow({Change::Opened}, search::readColours);
+    changes.follow({Change::Stored}, search::followStoredColours);
     changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Opened}, [](App& app) {
         if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);

@@ -1,6 +1,7 @@
 #include "shell/settings.h"
 
 #include "core/text.h"
+#include "shell/looks.h"
 
 namespace shell {
 
@@ -42,6 +43,7 @@ void readSettings(app::App& app) {
     for (const char* number : recentFiles)
         app.mainFrm.control(std::string("mnuFile") + number).Caption =
             app.platform.getSetting(std::string("File") + number, "");
+    readLooks(app);
 }
 
 void writeSettings(app::App& app) {
@@ -51,6 +53,7 @@ void writeSettings(app::App& app) {
     for (const char* number : recentFiles)
         app.platform.saveSetting(std::string("File") + number,
                                  app.mainFrm.control(std::string("mnuFile") + number).Caption);
+    writeLooks(app);
     app.platform.flushSettings();
 }
 

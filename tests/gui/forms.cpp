@@ -44,7 +44,7 @@ press Alt+D; click mnuTotalColumns; press End; press Space -> -formulateFrm SB1_
     Total LV.0=No LV.1=Price LV.2=>x Total LV=*
 press Return; press Return -> -TotalsFrm LV.0=>-|-|-|-|- entryFrm=Entry Form FieldBox0=|
 press Ctrl+N; type Nail; press Return 3; type 2.50 -> FieldBox0=Nail FieldBox1=1 FieldBox2=TODAY FieldBox3=2.50|
-press Return; press Ctrl+N; type Bolt; press Down; press Enter 2; type 1234; press Return ->
+press Return; press Ctrl+N; type Bolt; press Down; press Enter 2; type 1234; press Return -> -hint_mnuImportTable -hint_mnuNewRecord
     LV.0=Nail|1|TODAY|$2.50|$80.00 LV.1=>Bolt|2|TODAY|$12.34|$276.80 LV.2=-|-|-|-|$356.80 SB1_1=2 records. FieldBox0=|
     FieldBox1 FieldBox2 FieldBox3
 press PgUp; press Tab 2; type 1231 -> LV.0=>Nail|1|TODAY|$2.50|$80.00 LV.1=Bolt|2|TODAY|$12.34|$276.80 FieldBox0=Nail

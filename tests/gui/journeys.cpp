@@ -227,7 +227,7 @@ click f4; tool Field No; tool Field Customer; drag f10 200,0; tool Field Total; 
     selectionPlace=At 1, 3.75 Size 1.26 x 0.2 in
 click Design -> "To create a" -clearRulesBtn -layoutPic2 -layoutToolbar -selectionPlace -sheet Design page=1*
     layoutNavBar.Add=- Slider1=1
-nav New; fill f10 Ann; fill f1 Bolt; fill f2 2x; fill f3 150; fill f5 Nut; fill f6 3; fill f7 2.5 ->
+nav New; fill f10 Ann; fill f1 Bolt; fill f2 2x; fill f3 150; fill f5 Nut; fill f6 3; fill f7 2.5 -> -hint_mnuNewRecord
     recordPosition=New record sheet=11 at 19,0 f1=Bolt f2=2 f3=150 f4=$.00 f5=Nut f6=3 f7=2.5| f8=$.00 f9=1 f10=Ann
     f11=$.00
 click f4 -> f3=$1.50 f4=|$3.00 f7=$2.50 f8=$7.50 f11=$11.34

@@ -129,7 +129,8 @@ private slots:
             for (const char* form :
                  {"disclaimFrm", "databaseTypeFrm", "designFrm", "entryFrm", "formulateFrm", "TotalsFrm",
                   "mailFrm", "reportPageSetup", "layoutPageSetupFrm", "replaceFrm", "searchFrm", "serialFrm",
-                  "repeatFrm", "setValuesFrm", "duplicatesFrm", "serialCheckFrm", "statisticsFrm"})
+                  "repeatFrm", "setValuesFrm", "duplicatesFrm", "serialCheckFrm", "statisticsFrm",
+                  "coloursFrm"})
                 run.platform.showForm(form);
         }
         Session run(sample("books.fwk"), 26);

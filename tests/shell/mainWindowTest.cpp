@@ -100,7 +100,8 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
         }
     }
     EXPECT_EQ(those([](std::string_view key) { return shell::command(key).checkable; }),
-              "Search Totals Design mnuSummary Design mnuConfirmDelete mnuSavePrompt mnuCalcHighlight "
+              "Search Totals Design mnuFreezeColumn mnuSummary Design mnuConfirmDelete mnuSavePrompt "
+              "mnuCalcHighlight "
               "mnuLayoutDoubleClick mnuAutoLoad ");
     const auto disabled = [&](std::string_view key) { return !shell::isCommandEnabled(app, key); };
     const std::string prints = "All_As_Layouts Selected_As_Layouts ";
@@ -116,11 +117,12 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
     EXPECT_FALSE(mainFrm.SSTab1Enabled);
     openCopyOf("books.fwk");
     const std::string onPage = "mnuUndo mnuRedo mnuCut "; // nothing to undo, and no page that is designed
-    EXPECT_EQ(those(disabled) + mainFrm.Caption, onPage + "Ferrowick - " + document.currentFile);
+    const std::string view = "mnuZoomNormal mnuFitPage mnuFitWidth "; // of a normal size, and no preview
+    EXPECT_EQ(those(disabled) + mainFrm.Caption, onPage + view + "Ferrowick - " + document.currentFile);
     openCopyOf("invoices.fwk");
-    EXPECT_EQ(those(disabled), many + onPage + "mnuDuplicate ");
+    EXPECT_EQ(those(disabled), many + onPage + "mnuDuplicate " + view);
     shell::viewOpt_Click(app, 0);
-    EXPECT_EQ(those(disabled), "Delete " + prints + many + onPage + "mnuDuplicate ");
+    EXPECT_EQ(those(disabled), "Delete " + prints + many + onPage + "mnuDuplicate " + view);
     app::enableControls(app, false);
     EXPECT_EQ(mainFrm.Caption, "Ferrowick");
     // Sizes are cut, not rounded.

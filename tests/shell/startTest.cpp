@@ -1,3 +1,4 @@
+#include "app/looks.h"
 #include "calc/recalculation.h"
 #include "databases.h"
 #include "shell/mainWindow.h"
@@ -49,22 +50,32 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
     shell::Form_QueryUnload(app);
     for (const auto& [key, value] : platform.settings) settings += key + "=" + value + " ";
     EXPECT_EQ(settings,
-              "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= HighlightCalc=False "
-              "LayoutDBLClick=False SavePrompt=True SnapToGrid=True defaultFile= ");
+              "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= FreezeColumn=False "
+              "HighlightCalc=False LayoutDBLClick=False LayoutZoom=100 ListZoom=100 PreviewFit= "
+              "PreviewZoom=100 SavePrompt=True SnapToGrid=True defaultFile= ");
     for (const std::string toggle : {"True", "False"}) {
         for (auto& [key, value] : platform.settings)
-            value = value.size() < 4 ? key.substr(0, 5) : key == "Disclaimer" ? "True" : toggle;
+            value = key.ends_with("Zoom") ? "250"
+                    : key == "PreviewFit" ? "Width"
+                    : value.size() < 4    ? key.substr(0, 5)
+                    : key == "Disclaimer" ? "True"
+                                          : toggle;
         platform.settings["defaultFile"].clear();
         const auto before = platform.settings;
         platform.log.clear();
         load(app);
         EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
         const auto isPressed = [](const auto& control) { return control.second.Value; };
-        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 6 : 0);
+        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 7 : 0);
         shell::Form_QueryUnload(app);
         EXPECT_EQ(platform.settings, before);
     }
     // Somebody else can have written anything.
+    for (const auto& c : table("x -> 100; 49 -> 100; 1e9 -> 100; -80 -> 100; 130 -> 130")) {
+        platform.settings["ListZoom"] = c[0];
+        load(app);
+        EXPECT_EQ(app::looks(app).listZoom, std::stoi(c[1]));
+    }
     for (const auto& c : table("true -> 1; FALSE -> 0;  -> 1; maybe -> 1")) {
         platform.settings["SavePrompt"] = c[0];
         load(app);

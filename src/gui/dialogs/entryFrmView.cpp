@@ -5,6 +5,7 @@
 #include "gui/widgets/measures.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/qtText.h"
+#include "search/suggestions.h"
 
 #include <QCoreApplication>
 #include <QFocusEvent>
@@ -93,8 +94,9 @@ Widget* indexed(const char* name, int index, Widget* widget) {
 } // namespace
 
 entryFrmView::entryFrmView(app::App& app, EventBoundary& events, QWidget* parent)
-    : QDialog(parent), form_(app), events_(events), srchTxt_(new QLineEdit), Picture1_(new QWidget),
-      Picture2_(new QWidget(Picture1_)), VScroll1_(new QScrollBar(Qt::Vertical)) {
+    : QDialog(parent), form_(app), app_(app), events_(events), suggestions_(new SuggestionList(this)),
+      srchTxt_(new QLineEdit), Picture1_(new QWidget), Picture2_(new QWidget(Picture1_)),
+      VScroll1_(new QScrollBar(Qt::Vertical)) {
     setObjectName(QStringLiteral("entryFrm"));
     setWindowTitle(tr("Entry Form"));
     if (isDark(palette())) setPalette(raisedBoxes(palette()));
@@ -229,8 +231,10 @@ void entryFrmView::makeRow(int index) {
     box->setMaxLength(std::numeric_limits<int>::max());
     box->setAccessibleName(caption);
     box->installEventFilter(this);
-    connect(box, &QLineEdit::textEdited, this,
-            [this, index](const QString& text) { on([&] { form_.FieldBox_Change(index, fromQt(text)); }); });
+    connect(box, &QLineEdit::textEdited, this, [this, index](const QString& text) {
+        on([&] { form_.FieldBox_Change(index, fromQt(text)); });
+        suggestions_->typed(suggestedBox(index));
+    });
     FieldBox_.push_back(box);
 }
 
@@ -358,6 +362,7 @@ bool entryFrmView::eventFilter(QObject* watched, QEvent* event) {
 bool entryFrmView::boxEvent(int index, QEvent& event) {
     switch (event.type()) {
     case QEvent::KeyPress: {
+        if (suggestions_->keyPress(suggestedBox(index), static_cast<QKeyEvent&>(event))) return true;
         const int code = keyCode(static_cast<QKeyEvent&>(event));
         if (code != 0) on([&] { form_.FieldBox_KeyDown(index, code); });
         return code != 0 && code != entry::keyBack;
@@ -373,6 +378,21 @@ bool entryFrmView::boxEvent(int index, QEvent& event) {
     default:
         return false;
     }
+}
+
+SuggestedBox entryFrmView::suggestedBox(int index) {
+    QLineEdit* box = FieldBox_[static_cast<std::size_t>(index)];
+    const std::string column = form_.editlbl[static_cast<std::size_t>(index)].Caption;
+    return {box, [box] { return box->text(); },
+            [this, box, column](bool asked) {
+                return toQt(search::suggestions(app_, column, fromQt(box->text()),
+                                                asked ? search::Asked::ForList : search::Asked::Typing));
+            },
+            [this, box, index](const QString& value) {
+                box->selectAll();
+                box->insert(value);
+                on([&] { form_.FieldBox_Change(index, fromQt(value)); });
+            }};
 }
 
 // Whoever walks with the Tab key sees where he is.

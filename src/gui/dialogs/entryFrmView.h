@@ -2,6 +2,7 @@
 
 #include "entry/entryFrm.h"
 #include "gui/frame/eventBoundary.h"
+#include "gui/widgets/suggestionList.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -50,11 +51,14 @@ private:
     void moveFocus();
 
     bool boxEvent(int index, QEvent& event);
+    SuggestedBox suggestedBox(int index);
     void focusArrives(int index, QEvent& event);
     void pageScrolled(int action);
 
     entry::entryFrm form_;
+    app::App& app_;
     EventBoundary& events_;
+    SuggestionList* suggestions_;
     float pixelsPerTwip_ = 0;
     std::vector<QAction*> Toolbar1_;
     QLineEdit* srchTxt_;

@@ -1,5 +1,6 @@
 #include "gui/dialogs/forms.h"
 
+#include "gui/dialogs/coloursFrmView.h"
 #include "gui/dialogs/databaseTypeFrmView.h"
 #include "gui/dialogs/designFrmView.h"
 #include "gui/dialogs/disclaimFrmView.h"
@@ -53,6 +54,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("versionsFrm", shown<versionsFrmView>(app, events));
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
     platform.registerForm("setValuesFrm", shown<setValuesFrmView>(app, events));
+    platform.registerForm("coloursFrm", shown<coloursFrmView>(app, events));
     platform.registerForm("duplicatesFrm", shown<duplicatesFrmView>(app, events));
     platform.registerForm("statisticsFrm", shown<statisticsFrmView>(app, events));
     platform.registerForm("serialCheckFrm", shown<serialCheckFrmView>(app, events));

@@ -44,6 +44,9 @@ const std::vector<Shortcut>& shortcuts() {
         {"mnuExit", "", QKeySequence(Qt::CTRL | Qt::Key_Q)},
         {"mnuUndo", "", QKeySequence(Qt::CTRL | Qt::Key_Z)},
         {"mnuRedo", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+        {"mnuZoomIn", "", QKeySequence(QKeySequence::ZoomIn)},
+        {"mnuZoomOut", "", QKeySequence(QKeySequence::ZoomOut)},
+        {"mnuZoomNormal", "", QKeySequence(Qt::CTRL | Qt::Key_0)},
         {"mnuContents", "Help", QKeySequence(Qt::Key_F1)},
         {"Delete", "Delete", QKeySequence(Qt::Key_Delete)},
     };
@@ -73,6 +76,9 @@ CommandActions::CommandActions(app::App& app, EventBoundary& events, QObject* pa
     for (const std::string_view button : shell::toolbarKeys()) addAll(shell::buttonMenuKeys(button));
     addAll(shell::contextMenuKeys(app.document.LV, app.document));
     for (const Shortcut& shortcut : shortcuts()) action(shortcut.key)->setShortcut(shortcut.keys);
+    // The plus of many keyboards is the upper half of a key.
+    action("mnuZoomIn")
+        ->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
     // Of the list alone: where a text is typed the key has another meaning.
     action("mnuNewRecord")->setShortcutContext(Qt::WidgetShortcut);
 }

@@ -43,7 +43,7 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
     : QMainWindow(parent), app_(app), platform_(platform), events_(app, [this] { refresh(); }),
       actions_(new CommandActions(app, events_, this)), tabs_(new QTabWidget),
       report_(new ReportPage(app, events_, *actions_)), layout_(new LayoutPageView(app, events_)),
-      preview_(new PreviewView(app, events_)), status_(new StatusPanels(app)),
+      preview_(new PreviewView(app, events_, *actions_)), status_(new StatusPanels(app)),
       notice_(new NoticeBar(app, events_)), unsaved_(new UnsavedTimer(app, this)),
       summary_(new SummaryDock(app, events_, this)) {
     setObjectName(QStringLiteral("MainFrm"));

@@ -39,7 +39,8 @@ QToolBar* makeBar(const QString& name, const QString& told) {
 LayoutPageView::LayoutPageView(app::App& app, EventBoundary& events, QWidget* parent)
     : QWidget(parent), app_(app), events_(events), bars_(new QStackedWidget), marginLbl_(new QLabel),
       clearRulesBtn_(new QPushButton(tr("Clear &Guides"))), sheet_(new SheetView(app, events)),
-      layoutHScroll_(makeScrollBar(Qt::Horizontal)), layoutVScroll_(makeScrollBar(Qt::Vertical)) {
+      hint_(new EmptyHint(app, events, sheet_)), layoutHScroll_(makeScrollBar(Qt::Horizontal)),
+      layoutVScroll_(makeScrollBar(Qt::Vertical)) {
     setObjectName(QStringLiteral("layoutPage"));
     bars_->addWidget(makeNavBar());
     bars_->addWidget(makeToolbar());
@@ -222,12 +223,14 @@ void LayoutPageView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
     const layout::LayoutPage& page = layout::layoutPage(app_);
+    sheet_->followZoom();
     // The keys are for the sheet as soon as it is designed.
     if (std::exchange(designing_, page.layoutToolbarInFront) != designing_) sheet_->takeFocus();
     refreshBars();
     refreshScrollBar(*layoutHScroll_, page.layoutHScroll, static_cast<int>(page.viewportWidth));
     refreshScrollBar(*layoutVScroll_, page.layoutVScroll, static_cast<int>(page.viewportHeight));
     sheet_->refresh();
+    hint_->show(shell::emptyLayoutPage(app_));
     // What was typed before a step cannot be taken back after it, or the box would show what is stored
     // nowhere.
     if (std::exchange(steps_, shell::stepsTaken(app_)) != steps_)

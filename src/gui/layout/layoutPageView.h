@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/layout/sheetView.h"
+#include "gui/widgets/emptyHint.h"
 #include "layout/layoutPage.h"
 
 #include <QLabel>
@@ -48,6 +49,7 @@ private:
     QLabel* marginLbl_;
     QPushButton* clearRulesBtn_;
     SheetView* sheet_;
+    EmptyHint* hint_;
     QScrollBar* layoutHScroll_;
     QScrollBar* layoutVScroll_;
     QMenu* fieldMenu_ = nullptr;

@@ -43,14 +43,20 @@ const core::ControlArray<Guide>& RulerView::guides() const {
     return isHorizontal() ? layout::layoutPage(app_).rulePic2 : layout::layoutPage(app_).rulePic;
 }
 
-void RulerView::show(qreal pixelsPerTwip) {
+void RulerView::show(qreal pixelsPerTwip, qreal pixelsPerTwipPlain) {
     pixelsPerTwip_ = pixelsPerTwip;
+    plain_ = pixelsPerTwipPlain;
     update();
 }
 
 QRectF RulerView::markerRect(const Guide& guide) const {
     const QSizeF size = isHorizontal() ? verticalMarker : horizontalMarker;
-    return {QPointF(guide.Left, guide.Top) * pixelsPerTwip_, size * pixelsPerTwip_};
+    // Across the ruler a marker stands where it does without the zoom, which it may be older than.
+    const qreal across = plain_ / pixelsPerTwip_;
+    const LayoutPage& page = layout::layoutPage(app_);
+    const QPointF place = isHorizontal() ? QPointF(guide.Left, page.ruler1.Height / 2)
+                                         : QPointF(page.ruler2.Width / 2 - 15 * across, guide.Top);
+    return {place * pixelsPerTwip_, size * plain_};
 }
 
 int RulerView::guideAt(QPointF place) const {
@@ -95,7 +101,7 @@ void RulerView::paintEvent(QPaintEvent*) {
     const std::optional<float> tick = isHorizontal() ? page.ruler1.line : page.ruler2.line;
     if (!tick) return;
     painter.setPen(QPen(QColor(0xd9, 0x30, 0x25), 0));
-    line(std::round(*tick * pixelsPerTwip_) + 0.5, 0, layout::rulerTick * pixelsPerTwip_);
+    line(std::round(*tick * pixelsPerTwip_) + 0.5, 0, layout::rulerTick * plain_);
 }
 
 void RulerView::mousePressEvent(QMouseEvent* event) {

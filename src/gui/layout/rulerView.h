@@ -17,7 +17,7 @@ class RulerView : public QWidget {
 public:
     RulerView(app::App& app, EventBoundary& events, Qt::Orientation orientation, QWidget* parent);
 
-    void show(qreal pixelsPerTwip);
+    void show(qreal pixelsPerTwip, qreal pixelsPerTwipPlain);
     // Turns a place on the screen into twips on the sheet, for a marker that is dragged.
     std::function<QPoint(QPoint global)> sheetTwips;
 
@@ -37,7 +37,7 @@ private:
     app::App& app_;
     EventBoundary& events_;
     Qt::Orientation orientation_;
-    qreal pixelsPerTwip_ = 1;
+    qreal pixelsPerTwip_ = 1, plain_ = 1; // along the sheet; without its zoom
     bool pressed_ = false;
     QPointF ruleClick_;    // where the bare ruler was pressed
     int pressedGuide_ = 0; // the marker that was pressed; 0 for none

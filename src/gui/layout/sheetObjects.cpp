@@ -7,6 +7,7 @@
 #include "gui/widgets/textBox.h"
 #include "layout/labels.h"
 #include "layout/sheet.h"
+#include "search/suggestions.h"
 
 #include <QTimer>
 
@@ -19,7 +20,8 @@ using core::Family;
 using core::ObjectRef;
 
 SheetObjects::SheetObjects(app::App& app, EventBoundary& events, SheetPaper& paper)
-    : QObject(&paper), app_(app), events_(events), paper_(paper) {}
+    : QObject(&paper), app_(app), events_(events), paper_(paper),
+      suggestions_(new SuggestionList(paper.parentWidget())) {}
 
 ObjectRef SheetObjects::objectOf(const QObject* widget) const {
     const auto found = refs_.find(widget);
@@ -51,7 +53,8 @@ std::vector<ObjectRef> SheetObjects::inReadingOrder() const {
     return order;
 }
 
-void SheetObjects::refresh(qreal pixelsPerTwip) {
+void SheetObjects::refresh(qreal pixelsPerTwip, int zoom) {
+    zoom_ = zoom;
     pixelsPerTwip_ = pixelsPerTwip;
     const core::LayoutObjects& layout = app_.document.layout;
     std::vector<Placed> placed;
@@ -118,10 +121,33 @@ TextBox* SheetObjects::makeField(ObjectRef ref) {
         int caret = -1;
         events_.run([&] { caret = entry::layoutField_Change(app_, index, fromQt(text)); });
         if (caret >= 0) box->setCaret(caret);
+        suggestions_->typed(suggestedBox(*box, index));
+    };
+    box->takesKey = [this, box, index](const QKeyEvent& key) {
+        return suggestions_->keyPress(suggestedBox(*box, index), key);
     };
     box->gotFocus = [this, index] { events_.run([&] { entry::layoutField_GotFocus(app_, index); }); };
     box->lostFocus = [this, index] { events_.run([&] { entry::layoutField_LostFocus(app_, index); }); };
     return box;
+}
+
+SuggestedBox SheetObjects::suggestedBox(TextBox& box, int index) {
+    const auto values = [this, &box, index](bool asked) {
+        const core::LayoutField* field = app_.document.layout.layoutField.find(index);
+        if (field == nullptr || box.isReadOnly() || layout::isDesignMode(app_)) return QStringList();
+        QStringList all = toQt(search::suggestions(app_, field->Tag, field->Text,
+                                                   asked ? search::Asked::ForList : search::Asked::Typing));
+        // What could not be typed cannot be chosen.
+        all.removeIf([&](const QString& value) {
+            const std::u32string characters = value.toStdU32String();
+            return std::ranges::any_of(characters, [&](char32_t character) {
+                return character == entry::enterKey || !entry::layoutField_KeyPress(app_, index, character);
+            });
+        });
+        return all;
+    };
+    return {&box, [&box] { return box.toPlainText(); }, values,
+            [&box](const QString& value) { box.typeInstead(value); }};
 }
 
 TextBox* SheetObjects::makeLabel(ObjectRef ref) {
@@ -140,10 +166,16 @@ TextBox* SheetObjects::makeLabel(ObjectRef ref) {
     return box;
 }
 
+core::ObjectFont SheetObjects::zoomed(core::ObjectFont font) const {
+    font.FontSize *= static_cast<float>(zoom_) / 100;
+    return font;
+}
+
 void SheetObjects::showObject(QWidget& widget, const core::LayoutField& field) {
     const bool designing = layout::isDesignMode(app_);
     auto& box = static_cast<TextBox&>(widget);
-    box.show({toQt(field.Text), field, field.ForeColor, field.BackColor, field.align, true, field.Locked});
+    box.show(
+        {toQt(field.Text), zoomed(field), field.ForeColor, field.BackColor, field.align, true, field.Locked});
     box.setFocusPolicy(designing ? Qt::NoFocus : Qt::StrongFocus);
     box.viewport()->setCursor(designing ? Qt::ArrowCursor : Qt::IBeamCursor);
     box.setTextInteractionFlags(designing ? Qt::NoTextInteraction : Qt::TextEditorInteraction);
@@ -152,7 +184,8 @@ void SheetObjects::showObject(QWidget& widget, const core::LayoutField& field) {
 
 void SheetObjects::showObject(QWidget& widget, const core::Label& label) {
     auto& box = static_cast<TextBox&>(widget);
-    box.show({toQt(label.Text), label, label.ForeColor, label.BackColor, label.align, false, label.Locked});
+    box.show({toQt(label.Text), zoomed(label), label.ForeColor, label.BackColor, label.align, false,
+              label.Locked});
     box.setFocusPolicy(label.Locked ? Qt::NoFocus : Qt::ClickFocus);
     box.setTextInteractionFlags(label.Locked ? Qt::NoTextInteraction : Qt::TextEditorInteraction);
     const bool isLink = !layout::isDesignMode(app_) && !label.Tag.empty();
@@ -167,6 +200,7 @@ void SheetObjects::showObject(QWidget& widget, const core::LineObject& line) {
     look.foreColor = line.ForeColor;
     look.backColor = line.BackColor;
     look.drawWidth = line.DrawWidth;
+    look.zoom = zoom_;
     look.width = line.Width;
     look.height = line.Height;
     static_cast<SheetShape&>(widget).show(look, pixelsPerTwip_);
@@ -177,6 +211,7 @@ void SheetObjects::showObject(QWidget& widget, const core::BoxObject& box) {
     SheetShape::Look look;
     look.foreColor = box.ForeColor;
     look.drawWidth = box.DrawWidth;
+    look.zoom = zoom_;
     look.width = box.Width;
     look.height = box.Height;
     look.outline = page.drag != layout::LayoutPage::Drag::Resize || !(page.dragged == objectOf(&widget));

@@ -4,6 +4,7 @@
 #include "core/objectRef.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/layout/sheetPaper.h"
+#include "gui/widgets/suggestionList.h"
 
 #include <QWidget>
 
@@ -22,7 +23,7 @@ class SheetObjects : public QObject {
 public:
     SheetObjects(app::App& app, EventBoundary& events, SheetPaper& paper);
 
-    void refresh(qreal pixelsPerTwip);
+    void refresh(qreal pixelsPerTwip, int zoom);
 
     // The object that a widget belongs to, and the other way round.
     core::ObjectRef objectOf(const QObject* widget) const;
@@ -48,6 +49,7 @@ private:
                     std::vector<Placed>& placed);
     QWidget* make(core::ObjectRef ref);
     TextBox* makeField(core::ObjectRef ref);
+    SuggestedBox suggestedBox(TextBox& box, int index);
     TextBox* makeLabel(core::ObjectRef ref);
     void place(QWidget& widget, const core::LayoutObject& object) const;
     void showObject(QWidget& widget, const core::LayoutField& field);
@@ -56,6 +58,7 @@ private:
     void showObject(QWidget& widget, const core::BoxObject& box);
     void showObject(QWidget& widget, const core::ImgHolder& holder);
     void showObject(QWidget& widget, const core::ClipPic& clip);
+    core::ObjectFont zoomed(core::ObjectFont font) const;
     void putBehindFields(QWidget& picture);
     void removeGone(const std::vector<Placed>& placed);
     void stack(std::vector<Placed> placed);
@@ -63,6 +66,8 @@ private:
     app::App& app_;
     EventBoundary& events_;
     SheetPaper& paper_;
+    SuggestionList* suggestions_;
+    int zoom_ = 100; // per cent; it is in pixelsPerTwip_ already
     qreal pixelsPerTwip_ = 1;
     std::map<core::ObjectRef, QWidget*, Order> widgets_;
     std::map<const QObject*, core::ObjectRef> refs_;

@@ -12,7 +12,7 @@ using core::Family;
 
 bool SheetShape::Look::operator==(const Look& other) const {
     return foreColor == other.foreColor && backColor == other.backColor && drawWidth == other.drawWidth &&
-           width == other.width && height == other.height && frame == other.frame &&
+           zoom == other.zoom && width == other.width && height == other.height && frame == other.frame &&
            outline == other.outline && hint == other.hint && image.path == other.image.path &&
            image.Left == other.image.Left && image.Top == other.image.Top &&
            image.Width == other.image.Width && image.Height == other.image.Height;
@@ -43,7 +43,7 @@ void SheetShape::paintEvent(QPaintEvent*) {
 }
 
 void SheetShape::paintLine(QPainter& painter) const {
-    painter.setPen(QPen(toQtColor(look_.foreColor), look_.drawWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(toQtColor(look_.foreColor), look_.penWidth(), Qt::SolidLine, Qt::FlatCap));
     const qreal across = family_ == Family::pbLine ? look_.height : look_.width;
     const qreal place = (across / 2 - look_.drawWidth) * pixelsPerTwip_;
     if (family_ == Family::pbLine)
@@ -59,7 +59,7 @@ void SheetShape::paintBox(QPainter& painter) const {
         return;
     }
     painter.setPen(
-        QPen(toQtColor(look_.foreColor), look_.drawWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        QPen(toQtColor(look_.foreColor), look_.penWidth(), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     const QRectF outline(QPointF(1, 1),
                          QPointF(look_.width * pixelsPerTwip_ - 2, look_.height * pixelsPerTwip_ - 2));
     if (outline.isValid()) painter.drawRect(outline);

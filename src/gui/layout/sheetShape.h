@@ -16,11 +16,13 @@ public:
 
     struct Look {
         std::int32_t foreColor = 0, backColor = 0xFFFFFF;
-        int drawWidth = 1;           // pixels
+        int drawWidth = 1;           // pixels, ahead of the zoom
+        int zoom = 100;              // per cent
         float width = 0, height = 0; // twips
         bool frame = false;
         bool outline = true; // the drawn rectangle of a box; off while it is being sized
         core::FittedImage image;
+        qreal penWidth() const { return drawWidth * zoom / 100.0; }
         QString hint; // what an empty picture shows while it is designed
         bool operator==(const Look& other) const;
     };

@@ -1,9 +1,11 @@
 #include "gui/layout/sheetView.h"
+#include "app/looks.h"
 #include "layout/layoutPage.h"
 
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "gui/widgets/textBox.h"
+#include "gui/widgets/zoomWheel.h"
 #include "layout/dragging.h"
 #include "layout/images.h"
 #include "layout/selection.h"
@@ -64,7 +66,37 @@ SheetView::SheetView(app::App& app, EventBoundary& events, QWidget* parent)
 }
 
 qreal SheetView::pixelsPerTwip() const {
+    return pixelsPerTwipPlain() * zoom_ / 100;
+}
+
+qreal SheetView::pixelsPerTwipPlain() const {
     return logicalDpiX() / static_cast<qreal>(twipsPerInch);
+}
+
+// What stands at the anchor stays there.
+void SheetView::followZoom() {
+    const QPointF anchor = std::exchange(zoomAnchor_, {}).value_or(QRectF(rect()).center());
+    const int zoom = app::looks(app_).layoutZoom;
+    if (zoom == zoom_) return;
+    LayoutPage& page = layout::layoutPage(app_);
+    const QPointF place = anchor / pixelsPerTwip() - QPointF(page.layoutPic2.Left, page.layoutPic2.Top);
+    zoom_ = zoom;
+    // The rulers are as thick as ever.
+    page.ruler1.Height = page.ruler2.Width = layout::rulerThickness * 100 / static_cast<float>(zoom);
+    page.ruler1.Left = page.ruler2.Width;
+    page.ruler2.Top = page.ruler1.Height;
+    tellSize();
+    const QPointF value = place - anchor / pixelsPerTwip();
+    if (page.layoutHScroll.Max > 0 && value.x() > 0)
+        layout::layoutHScroll_Change(app_, static_cast<int>(std::lround(value.x())));
+    if (page.layoutVScroll.Max > 0 && value.y() > 0)
+        layout::layoutVScroll_Change(app_, static_cast<int>(std::lround(value.y())));
+}
+
+void SheetView::tellSize() {
+    const auto scale = static_cast<float>(pixelsPerTwip());
+    layout::layoutPic1_Resize(app_, static_cast<float>(width()) / scale,
+                              static_cast<float>(height()) / scale);
 }
 
 void SheetView::refresh() {
@@ -72,9 +104,10 @@ void SheetView::refresh() {
     const QScopedValueRollback guard(refreshing_, true);
     LayoutPage& page = layout::layoutPage(app_);
     const qreal scale = pixelsPerTwip();
-    page.TwipsPerPixelX = page.TwipsPerPixelY = static_cast<float>(1 / scale);
+    // Prints and steps are counted with it, so it knows nothing of the zoom.
+    page.TwipsPerPixelX = page.TwipsPerPixelY = static_cast<float>(1 / pixelsPerTwipPlain());
     const auto pixels = [scale](float twips) { return static_cast<int>(std::lround(twips * scale)); };
-    objects_->refresh(scale);
+    objects_->refresh(scale, zoom_);
     const LayoutPage::Sheet& sheet = page.layoutPic2;
     paper_->setGeometry(pixels(sheet.Left), pixels(sheet.Top), pixels(sheet.Width), pixels(sheet.Height));
     paper_->show(scale);
@@ -87,18 +120,18 @@ void SheetView::refresh() {
             this, [this] { bringIntoView(layout::layoutPage(app_).selectedObject); }, Qt::QueuedConnection);
     ruler1_->setGeometry(pixels(page.ruler1.Left), 0, pixels(page.ruler1.Width), pixels(page.ruler1.Height));
     ruler2_->setGeometry(0, pixels(page.ruler2.Top), pixels(page.ruler2.Width), pixels(page.ruler2.Height));
-    corner_->setGeometry(0, 0, pixels(layout::rulerThickness), pixels(layout::rulerThickness));
+    corner_->setGeometry(0, 0, pixels(page.ruler2.Width), pixels(page.ruler1.Height));
     for (QWidget* part : {static_cast<QWidget*>(ruler1_), static_cast<QWidget*>(ruler2_), corner_})
         part->setVisible(page.bRulersVisible);
     if (!page.bRulersVisible) return;
-    ruler1_->show(scale);
-    ruler2_->show(scale);
+    ruler1_->show(scale, pixelsPerTwipPlain());
+    ruler2_->show(scale, pixelsPerTwipPlain());
 }
 
 void SheetView::placeGrip() {
     const LayoutPage::Grip& grip = layout::layoutPage(app_).Handle;
     const qreal scale = pixelsPerTwip();
-    const int side = static_cast<int>(std::lround(layout::gripSize * scale));
+    const int side = static_cast<int>(std::lround(layout::gripSize * pixelsPerTwipPlain()));
     grip_->setGeometry(static_cast<int>(std::lround(grip.Left * scale)),
                        static_cast<int>(std::lround(grip.Top * scale)), side, side);
     QPalette colours = grip_->palette();
@@ -148,11 +181,7 @@ void SheetView::bringIntoView(ObjectRef object) {
 }
 
 void SheetView::resizeEvent(QResizeEvent*) {
-    const auto scale = static_cast<float>(pixelsPerTwip());
-    events_.run([&] {
-        layout::layoutPic1_Resize(app_, static_cast<float>(width()) / scale,
-                                  static_cast<float>(height()) / scale);
-    });
+    events_.run([this] { tellSize(); });
 }
 
 // What is typed in ends by a press beside the sheet, as it does by one on it.
@@ -163,6 +192,11 @@ void SheetView::mousePressEvent(QMouseEvent*) {
 void SheetView::wheelEvent(QWheelEvent* event) {
     constexpr int twipsPerStep = 720;
     constexpr int deltaPerStep = 120;
+    if (event->modifiers() & Qt::ControlModifier) {
+        zoomAnchor_ = mapFromGlobal(event->globalPosition());
+        zoomByWheel(app_, events_, *event);
+        return;
+    }
     QPoint delta = event->angleDelta();
     if (event->modifiers() & Qt::ShiftModifier) delta = {delta.y(), delta.x()};
     emit scrolled(-delta.x() * twipsPerStep / deltaPerStep, -delta.y() * twipsPerStep / deltaPerStep);

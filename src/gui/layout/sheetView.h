@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <QWidget>
 
+#include <optional>
+
 namespace gui {
 
 // The viewport of the layout page, layoutPic1: the sheet with its objects and the grip, the rulers over its
@@ -22,6 +24,8 @@ public:
 
     void refresh();
     qreal pixelsPerTwip() const;
+    // Ahead of the scroll bars, whose lengths it changes.
+    void followZoom();
     // The sheet sees the keys of that widget first.
     void takeKeysOf(QWidget& other) { other.installEventFilter(this); }
     void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
@@ -53,6 +57,8 @@ private:
     bool isLabelOpen(core::ObjectRef object) const;
     // A place on the screen, in twips on the sheet.
     QPoint sheetTwips(QPointF global) const;
+    qreal pixelsPerTwipPlain() const; // without the zoom
+    void tellSize();
     void placeGrip();
     void placeMark();
     // Scrolls as far as it takes to show the object, or the part of a high box that is typed in.
@@ -66,8 +72,10 @@ private:
     QWidget* grip_;
     RulerView* ruler1_;
     RulerView* ruler2_;
-    QWidget* corner_;         // Shape1
-    core::ObjectRef grabbed_; // has the mouse until the button goes up
+    QWidget* corner_;                   // Shape1
+    core::ObjectRef grabbed_;           // has the mouse until the button goes up
+    int zoom_ = 100;                    // per cent, that is shown
+    std::optional<QPointF> zoomAnchor_; // on the viewport; its centre without one
     bool pressed_ = false;
     bool refreshing_ = false;
 };

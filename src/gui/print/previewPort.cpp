@@ -29,7 +29,7 @@ void PreviewPort::refresh() {
 }
 
 qreal PreviewPort::pixelsPerTwip() const {
-    return logicalDpiX() / static_cast<qreal>(twipsPerInch);
+    return logicalDpiX() / static_cast<qreal>(twipsPerInch) * zoom_;
 }
 
 QRectF PreviewPort::pageRect() const {
@@ -63,6 +63,7 @@ void PreviewPort::resizeEvent(QResizeEvent*) {
 void PreviewPort::wheelEvent(QWheelEvent* event) {
     constexpr int perNotch = 120;
     constexpr int linesPerNotch = 3;
+    if (event->modifiers() & Qt::ControlModifier) return emit zoomTurned(event);
     const QPoint turned = event->angleDelta();
     emit scrolled(-turned.x() * lineStep * linesPerNotch / perNotch,
                   -turned.y() * lineStep * linesPerNotch / perNotch);

@@ -16,8 +16,11 @@ public:
 
     void refresh();
     qreal pixelsPerTwip() const;
+    qreal zoom() const { return zoom_; }
+    void setZoom(qreal zoom) { zoom_ = zoom; } // 1 is as large as it is printed
 
 signals:
+    void zoomTurned(QWheelEvent* event);
     void resized();
     void scrolled(int horizontal, int vertical); // twips
 
@@ -32,6 +35,7 @@ private:
 
     app::App& app_;
     qtprint::PagePainter painter_;
+    qreal zoom_ = 1;
 };
 
 } // namespace gui

@@ -1,25 +1,32 @@
 #include "gui/print/previewView.h"
+#include "app/looks.h"
 #include "print/previewPage.h"
 
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/zoomWheel.h"
 #include "print/previewNavigation.h"
 
 #include <QGridLayout>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace gui {
 
-namespace {} // namespace
-
-PreviewView::PreviewView(app::App& app, EventBoundary& events, QWidget* parent)
-    : QWidget(parent), app_(app), events_(events), reportToolbar_(makeToolbar()), port_(new PreviewPort(app)),
+PreviewView::PreviewView(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
+    : QWidget(parent), app_(app), events_(events), reportToolbar_(makeToolbar(actions)),
+      port_(new PreviewPort(app)), hint_(new EmptyHint(app, events, port_)),
       rptHScroll1_(makeScrollBar(Qt::Horizontal)), rptVScroll1_(makeScrollBar(Qt::Vertical)) {
     setObjectName(QStringLiteral("previewPage"));
     connect(port_, &PreviewPort::resized, this, &PreviewView::portResized);
+    connect(port_, &PreviewPort::zoomTurned, this, [this](QWheelEvent* event) {
+        zoomAnchor_ = event->position();
+        zoomByWheel(app_, events_, *event);
+    });
     connect(port_, &PreviewPort::scrolled, this, [this](int horizontal, int vertical) {
         rptHScroll1_->setValue(rptHScroll1_->value() + horizontal);
         rptVScroll1_->setValue(rptVScroll1_->value() + vertical);
@@ -35,7 +42,7 @@ PreviewView::PreviewView(app::App& app, EventBoundary& events, QWidget* parent)
     grid->setColumnStretch(0, 1);
 }
 
-QToolBar* PreviewView::makeToolbar() {
+QToolBar* PreviewView::makeToolbar(CommandActions& actions) {
     auto* bar = new QToolBar;
     bar->setObjectName(QStringLiteral("reportToolbar"));
     bar->setAccessibleName(tr("Preview"));
@@ -47,6 +54,13 @@ QToolBar* PreviewView::makeToolbar() {
             events_.run([&] { print::reportToolbar_ButtonClick(app_, key); });
         });
     }
+    bar->addSeparator();
+    for (const char* key : {"mnuZoomOut", "mnuZoomIn", "mnuFitPage", "mnuFitWidth"})
+        bar->addAction(actions.action(key));
+    percent_ = new QLabel;
+    percent_->setObjectName(QStringLiteral("previewZoom"));
+    percent_->setContentsMargins(8, 0, 8, 0);
+    bar->addWidget(percent_);
     return bar;
 }
 
@@ -64,14 +78,53 @@ QScrollBar* PreviewView::makeScrollBar(Qt::Orientation orientation) {
     return bar;
 }
 
+// How large the page is shown. As wide as the port is found out from the room that port and bar share, so
+// that a bar that comes and goes changes nothing.
+qreal PreviewView::wantedZoom() const {
+    const app::Looks& looks = app::looks(app_);
+    const drawing::RecordedPage& page = print::previewPage(app_).rptPreview1;
+    if (looks.previewFit == app::Fit::None || page.Width <= 0 || page.Height <= 0)
+        return looks.previewZoom / 100.0;
+    constexpr qreal least = 0.1, most = 5;
+    constexpr qreal edge = 2; // pixels of the frame around the page
+    const auto shown = [](const QScrollBar& bar, int thickness) { return bar.isHidden() ? 0 : thickness; };
+    const qreal width = port_->width() + shown(*rptVScroll1_, rptVScroll1_->width()) - edge;
+    const qreal height = port_->height() + shown(*rptHScroll1_, rptHScroll1_->height()) - edge;
+    const qreal plain = logicalDpiX() / static_cast<qreal>(twipsPerInch);
+    qreal zoom = width / (page.Width * plain);
+    if (looks.previewFit == app::Fit::Page)
+        zoom = std::min(zoom, height / (page.Height * plain));
+    else if (page.Height * plain * zoom > height)
+        zoom = (width - rptVScroll1_->sizeHint().width()) / (page.Width * plain);
+    return std::clamp(zoom, least, most);
+}
+
+// What stands at the anchor stays there.
+void PreviewView::followZoom() {
+    const QPointF anchor = std::exchange(zoomAnchor_, {}).value_or(QRectF(port_->rect()).center());
+    const qreal zoom = wantedZoom();
+    app::looks(app_).previewZoom = static_cast<int>(std::lround(zoom * 100));
+    percent_->setText(tr("%1 %").arg(app::looks(app_).previewZoom));
+    if (zoom == port_->zoom()) return;
+    print::PreviewPage& page = print::previewPage(app_);
+    const QPointF place = anchor / port_->pixelsPerTwip() - QPointF(page.Left, page.Top);
+    port_->setZoom(zoom);
+    tellPortSize();
+    const QPointF value = place - anchor / port_->pixelsPerTwip();
+    if (page.rptHScroll1.Max > 0) print::rptHScroll1_Change(app_, static_cast<int>(std::lround(value.x())));
+    if (page.rptVScroll1.Max > 0) print::rptVScroll1_Change(app_, static_cast<int>(std::lround(value.y())));
+}
+
 void PreviewView::portResized() {
+    events_.run([this] { tellPortSize(); });
+}
+
+void PreviewView::tellPortSize() {
     const auto twips = [this](int pixels) {
         return static_cast<float>(std::lround(pixels / port_->pixelsPerTwip()));
     };
-    events_.run([&] {
-        print::rptPreview2_Resize(app_, twips(port_->width()), twips(port_->height()),
-                                  twips(rptVScroll1_->sizeHint().width()));
-    });
+    print::rptPreview2_Resize(app_, twips(port_->width()), twips(port_->height()),
+                              twips(rptVScroll1_->sizeHint().width()));
 }
 
 void PreviewView::show(QScrollBar& bar, const print::PreviewPage::ScrollBar& state, float visible) {
@@ -84,10 +137,12 @@ void PreviewView::show(QScrollBar& bar, const print::PreviewPage::ScrollBar& sta
 void PreviewView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
+    followZoom();
     const print::PreviewPage& page = print::previewPage(app_);
     show(*rptHScroll1_, page.rptHScroll1, page.rptPreview2.Width);
     show(*rptVScroll1_, page.rptVScroll1, page.rptPreview2.Height);
     port_->refresh();
+    hint_->show(shell::emptyPreview(app_));
 }
 
 } // namespace gui

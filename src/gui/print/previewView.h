@@ -1,12 +1,17 @@
 #pragma once
 
 #include "app/app.h"
+#include "gui/frame/commandActions.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/print/previewPort.h"
+#include "gui/widgets/emptyHint.h"
 #include "print/previewPage.h"
 
+#include <QLabel>
 #include <QScrollBar>
 #include <QToolBar>
+
+#include <optional>
 
 namespace gui {
 
@@ -15,24 +20,30 @@ class PreviewView : public QWidget {
     Q_OBJECT
 
 public:
-    PreviewView(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
+    PreviewView(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent = nullptr);
 
     void refresh();
     // Takes the keys when somebody goes to the page with them.
     QWidget* keyHolder() const { return port_; }
 
 private:
-    QToolBar* makeToolbar();
+    QToolBar* makeToolbar(CommandActions& actions);
     QScrollBar* makeScrollBar(Qt::Orientation orientation);
     static void show(QScrollBar& bar, const print::PreviewPage::ScrollBar& state, float visible);
     void portResized();
+    void tellPortSize();
+    qreal wantedZoom() const;
+    void followZoom();
 
     app::App& app_;
     EventBoundary& events_;
+    QLabel* percent_ = nullptr; // made with the toolbar, so ahead of it
     QToolBar* reportToolbar_;
     PreviewPort* port_;
+    EmptyHint* hint_;
     QScrollBar* rptHScroll1_;
     QScrollBar* rptVScroll1_;
+    std::optional<QPointF> zoomAnchor_; // on the port; its centre without one
     bool refreshing_ = false;
 };
 

@@ -3,6 +3,8 @@
 #include "gui/widgets/programStyle.h"
 
 #include <QHeaderView>
+#include <QIcon>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 namespace gui {
@@ -15,6 +17,24 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return {QStyledItemDelegate::sizeHint(option, index).width(),
                 option.fontMetrics.height() + option.fontMetrics.height() / 3};
+    }
+    // A mark stands where the text does not begin and takes no room from it.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        const QIcon mark = index.data(markRole).value<QIcon>();
+        if (mark.isNull()) return;
+        constexpr int edge = 2;
+        const bool isLeft = index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
+        const int text = option.fontMetrics.horizontalAdvance(index.data().toString());
+        const bool isFull = text + option.fontMetrics.height() > option.rect.width();
+        const int side = option.fontMetrics.height() * (isFull ? 2 : 3) / 5;
+        QRect place(0, 0, side, side);
+        place.moveCenter(option.rect.center());
+        if (isFull) place.moveTop(option.rect.top());
+        isLeft ? place.moveLeft(option.rect.left() + edge) : place.moveRight(option.rect.right() - edge);
+        mark.paint(painter, place, Qt::AlignCenter,
+                   option.state & QStyle::State_Selected ? QIcon::Selected : QIcon::Normal);
     }
 };
 

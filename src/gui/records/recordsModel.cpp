@@ -1,5 +1,7 @@
 #include "gui/records/recordsModel.h"
 
+#include "gui/records/colourLook.h"
+#include "gui/records/listLook.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/qtText.h"
@@ -29,8 +31,9 @@ QColor totalsColour() {
     return {core::blue & 0xFF, core::blue >> 8 & 0xFF, core::blue >> 16 & 0xFF};
 }
 
+// The rest of it is that of the list.
 QFont totalsFont() {
-    QFont font = QApplication::font("QAbstractItemView");
+    QFont font;
     font.setBold(true);
     return font;
 }
@@ -84,7 +87,13 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
         return qtAlignment(columns_[section].align);
     case Qt::ToolTipRole:
-        return toQt(columns_[section].text);
+    case Qt::BackgroundRole:
+    case markRole:
+    case Qt::AccessibleTextRole: {
+        const core::Item* row = item(index.row());
+        const QVariant marked = row == nullptr ? QVariant() : markData(*row, index.column(), role);
+        return role == Qt::ToolTipRole && marked.isNull() ? QVariant(toQt(columns_[section].text)) : marked;
+    }
     case Qt::ForegroundRole:
     case Qt::FontRole: {
         const core::Item* row = item(index.row());
@@ -94,6 +103,23 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const {
     default:
         return {};
     }
+}
+
+// Of a cell that a rule marks: the look, and the words for whoever does not see it.
+QVariant RecordsModel::markData(const core::Item& row, int section, int role) const {
+    const auto place = static_cast<std::size_t>(section);
+    if (!markOf || row.isTotals() || place >= row.cells.size() ||
+        columnIndex(section) > list_.columns.count())
+        return {};
+    const core::Column& column = list_.columns.at(columnIndex(section));
+    const search::ColourRule* rule = markOf(column, row.cells[place].view());
+    if (rule == nullptr) return {};
+    if (role == Qt::BackgroundRole) return colourGround(rule->colour);
+    if (role == markRole) return colourMark(rule->colour);
+    const QString reason = toQt(search::ruleText(*rule, column.type()));
+    const bool isTip = role == Qt::ToolTipRole;
+    return QStringLiteral("%1: %2").arg(
+        toQt(isTip ? std::string_view(columns_[place].text) : row.cells[place].view()), reason);
 }
 
 QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "core/recordsList.h"
+#include "search/colourRules.h"
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <vector>
 
 namespace gui {
@@ -20,6 +22,9 @@ public:
 
     static int columnIndex(int section) { return section + 2; }
     static int section(const core::Column& column) { return column.Index - 2; }
+
+    // The rule that marks a cell, if there is one. Asked whenever a cell is drawn.
+    std::function<const search::ColourRule*(const core::Column& column, std::string_view cell)> markOf;
 
     // The rows or columns are other ones than those that Qt knows.
     bool isStale() const;
@@ -39,6 +44,7 @@ private:
     };
     std::vector<Shown> columnsNow() const;
     const core::Item* item(int row) const;
+    QVariant markData(const core::Item& row, int section, int role) const;
 
     const core::RecordsList& list_;
     std::vector<Shown> columns_;

@@ -1,10 +1,13 @@
 #include "gui/records/recordsView.h"
 
+#include "app/looks.h"
 #include "gui/records/listLook.h"
 #include "gui/records/recordsHeader.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/zoomWheel.h"
+#include "search/coloursFrm.h"
 #include "search/filterMode.h"
 #include "shell/commands.h"
 #include "shell/listEvents.h"
@@ -20,6 +23,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace gui {
 
@@ -30,6 +34,9 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setHorizontalScrollMode(ScrollPerPixel);
+    model_->markOf = [this](const core::Column& column, std::string_view cell) {
+        return search::markOf(app_, column, cell);
+    };
     setModel(model_);
 
     auto* columns = new RecordsHeader(this);
@@ -41,7 +48,11 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
     useListLook(*this);
     connect(columns, &QHeaderView::sectionClicked, this, &RecordsView::columnClicked);
     columns->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(columns, &QWidget::customContextMenuRequested, this, &RecordsView::showHeaderMenu);
+    frozen_ = new FrozenColumn(*this);
+    connect(frozen_->header(), &QHeaderView::sectionClicked, this, &RecordsView::columnClicked);
+    for (const QHeaderView* heads : {static_cast<QHeaderView*>(columns), frozen_->header()})
+        connect(heads, &QWidget::customContextMenuRequested, this,
+                [this, heads](QPoint place) { showHeaderMenu(*heads, place); });
     connect(columns, &QHeaderView::sectionMoved, this,
             [this](int section, int, int newVisual) { columnMoved(section, newVisual); });
     constexpr int sizedFor = 300; // milliseconds without another width: it is a step to undo
@@ -57,6 +68,7 @@ void RecordsView::refresh(app::ListScroll scroll) {
     const int offset = horizontalScrollBar()->value();
     const int top = verticalScrollBar()->value();
     setSelectionMode(list_.MultiSelect ? ExtendedSelection : SingleSelection);
+    followZoom();
     if (model_->isStale()) {
         model_->reload();
         showColumns();
@@ -73,76 +85,8 @@ void RecordsView::refresh(app::ListScroll scroll) {
     if (scroll == app::ListScroll::Stay) verticalScrollBar()->setValue(top);
     if (scroll == app::ListScroll::ToTop) scrollToTop();
     showSortArrow();
-}
-
-// --- columns ---
-
-int RecordsView::pixels(float twips) const {
-    return std::max(header()->minimumSectionSize(),
-                    static_cast<int>(std::lround(twips * static_cast<float>(logicalDpiX()) / twipsPerInch)));
-}
-
-std::vector<int> RecordsView::sectionOrder() const {
-    std::vector<int> order;
-    for (const int index : list_.columns.displayOrder())
-        if (index > 1) order.push_back(index - 2);
-    return order;
-}
-
-void RecordsView::showColumns() {
-    QHeaderView* columns = header();
-    int visual = 0;
-    for (const int section : sectionOrder()) {
-        const int place = columns->visualIndex(section);
-        if (place != visual) columns->moveSection(place, visual);
-        ++visual;
-        const int width = pixels(list_.columns.at(RecordsModel::columnIndex(section)).Width);
-        if (columns->sectionSize(section) != width) columns->resizeSection(section, width);
-    }
-}
-
-// Dragging and sizing columns goes into the column table and so into the next save, but it does not
-// make the document a modified one.
-void RecordsView::columnMoved(int section, int newVisual) {
-    if (showing_) return;
-    events_.run([&] {
-        const std::vector<int> before = sectionOrder();
-        const int displaced = RecordsModel::columnIndex(before.at(static_cast<std::size_t>(newVisual)));
-        list_.columns.setPosition(RecordsModel::columnIndex(section), list_.columns.at(displaced).Position);
-    });
-}
-
-void RecordsView::columnResized(int section, int pixels) {
-    if (showing_) return;
-    // No refresh: this comes with every pixel of the drag, and the column is already as wide.
-    list_.columns.at(RecordsModel::columnIndex(section)).Width =
-        static_cast<float>(pixels) * twipsPerInch / static_cast<float>(logicalDpiX());
-    resized_.start();
-}
-
-void RecordsView::columnClicked(int section) {
-    events_.run([&] {
-        const std::uint64_t before = list_.arrangement();
-        shell::list_ColumnClick(app_, list_, RecordsModel::columnIndex(section));
-        noteSort(section, before);
-    });
-}
-
-void RecordsView::sortBy(int section, shell::Order order) {
-    events_.run([&] {
-        const std::uint64_t before = list_.arrangement();
-        shell::sortList(app_, list_, RecordsModel::columnIndex(section), order);
-        noteSort(section, before);
-    });
-}
-
-void RecordsView::noteSort(int section, std::uint64_t before) {
-    if (list_.arrangement() != before) sort_ = {section, list_.arrangement()};
-}
-
-void RecordsView::showSortArrow() {
-    header()->setSortIndicator(isSorted() ? sort_->section : -1,
-                               list_.SortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    const std::vector<int> order = sectionOrder();
+    frozen_->setSection(app::looks(app_).bFreezeColumn && !order.empty() ? order.front() : -1);
 }
 
 // --- selection ---
@@ -225,8 +169,8 @@ void RecordsView::currentChanged(const QModelIndex& current, const QModelIndex& 
 
 // --- menus and typing ---
 
-void RecordsView::showHeaderMenu(QPoint place) {
-    const int section = header()->logicalIndexAt(place);
+void RecordsView::showHeaderMenu(const QHeaderView& heads, QPoint place) {
+    const int section = heads.logicalIndexAt(place);
     if (section < 0) return;
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("headerMenu"));
@@ -241,7 +185,19 @@ void RecordsView::showHeaderMenu(QPoint place) {
                 const std::string name = list_.columns.at(RecordsModel::columnIndex(section)).Text;
                 events_.run([&] { summary::showStatisticsOf(app_, name); });
             });
-    menu.exec(header()->viewport()->mapToGlobal(place));
+    connect(menu.addAction(tr("Size To &Content")), &QAction::triggered, this,
+            [this, section] { resizeColumnToContents(section); });
+    QAction* freeze = menu.addAction(tr("&Freeze First Column"));
+    freeze->setCheckable(true);
+    freeze->setChecked(app::looks(app_).bFreezeColumn);
+    connect(freeze, &QAction::triggered, this,
+            [this] { events_.run([&] { shell::runCommand(app_, "mnuFreezeColumn"); }); });
+    connect(menu.addAction(familyIcon(QStringLiteral("colours")), tr("C&olours...")), &QAction::triggered,
+            this, [this, section] {
+                const std::string column = list_.columns.at(RecordsModel::columnIndex(section)).Text;
+                events_.run([&] { search::showColours(app_, column); });
+            });
+    menu.exec(heads.viewport()->mapToGlobal(place));
 }
 
 void RecordsView::addSortMenu(QMenu& menu) {
@@ -344,6 +300,13 @@ void RecordsView::followCtrl(bool isDown) {
         shell::list_KeyDown(app_, shell::ctrlKey);
     else
         shell::list_KeyUp(app_);
+}
+
+void RecordsView::wheelEvent(QWheelEvent* event) {
+    if (event->modifiers() & Qt::ControlModifier)
+        zoomByWheel(app_, events_, *event);
+    else
+        QTreeView::wheelEvent(event);
 }
 
 void RecordsView::keyPressEvent(QKeyEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 #include "gui/frame/eventBoundary.h"
+#include "gui/records/frozenColumn.h"
 #include "gui/records/recordsModel.h"
 #include "shell/listCommands.h"
 
@@ -28,6 +29,8 @@ public:
     // A submenu with the columns, for whoever has no mouse to click their headers.
     void addSortMenu(QMenu& menu);
     void keyboardSearch(const QString& search) override;
+    QModelIndex indexAt(const QPoint& place) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
 signals:
     // What can be done to the selected rows is asked for, at that place on the screen.
@@ -36,6 +39,8 @@ signals:
     void filterWanted();
 
 protected:
+    void updateGeometries() override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -53,6 +58,7 @@ private:
     };
 
     void followCtrl(bool isDown);
+    void followZoom();
     void showColumns();
     void showSortArrow();
     void showSelection();
@@ -63,7 +69,7 @@ private:
     void columnClicked(int section);
     void sortBy(int section, shell::Order order);
     void noteSort(int section, std::uint64_t before);
-    void showHeaderMenu(QPoint place);
+    void showHeaderMenu(const QHeaderView& heads, QPoint place);
     void wantMenu(QPoint place);
     void wantMenuAtRow();
     void clickWithoutCtrl();
@@ -78,10 +84,12 @@ private:
     core::RecordsList& list_;
     EventBoundary& events_;
     RecordsModel* model_;
-    bool showing_ = false;   // the view follows the state, not the user
-    bool pressed_ = false;   // the left button went down here
-    int currentSection_ = 0; // the column that was clicked last
-    QString typed_;          // the beginning of a row, letter by letter
+    FrozenColumn* frozen_ = nullptr; // made when the list has its look
+    int zoom_ = 100;                 // per cent, that is shown
+    bool showing_ = false;           // the view follows the state, not the user
+    bool pressed_ = false;           // the left button went down here
+    int currentSection_ = 0;         // the column that was clicked last
+    QString typed_;                  // the beginning of a row, letter by letter
     QElapsedTimer lastTyped_;
     QTimer resized_; // runs while a column is being sized
 

@@ -27,6 +27,7 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
         connect(lists_[i], &RecordsView::menuWanted, this, [this, i](QPoint place) { showMenu(i, place); });
         connect(lists_[i], &RecordsView::filterWanted, this,
                 [&actions] { actions.action("mnuFilter")->trigger(); });
+        hints_[i] = new EmptyHint(app, events, lists_[i]);
         shownList_->addWidget(lists_[i]);
     }
     connect(filter_, &FilterBar::listWanted, this, [this] { keyHolder()->setFocus(Qt::TabFocusReason); });
@@ -96,6 +97,7 @@ void ReportPage::refresh() {
         shownList_->setCurrentWidget(lists_[i]);
         setCurrentWidget(records_);
         lists_[i]->refresh(std::exchange(app_.mainFrm.listScroll, app::ListScroll::ToCurrent));
+        hints_[i]->show(shell::emptyList(app_, *listStates_[i]));
         // The keys go to the records as soon as they are there, but not away from what is typed.
         const bool opened = std::exchange(app_.mainFrm.bListFocus, false);
         if (opened || (another && !filter_->hasKeys())) lists_[i]->setFocus();

@@ -6,6 +6,7 @@
 #include "gui/records/filterBar.h"
 #include "gui/records/recordsView.h"
 #include "gui/records/selectedTotalsView.h"
+#include "gui/widgets/emptyHint.h"
 
 #include <QFrame>
 #include <QRadioButton>
@@ -41,6 +42,7 @@ private:
     QStackedWidget* shownList_;
     std::array<RecordsView*, 3> lists_{};
     std::array<core::RecordsList*, 3> listStates_{};
+    std::array<EmptyHint*, 3> hints_{};
     SelectedTotalsView* sums_;
 };
 

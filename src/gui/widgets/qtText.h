@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace gui {
 
@@ -13,6 +14,12 @@ inline QString toQt(std::string_view text) {
 }
 inline std::string fromQt(const QString& text) {
     return text.toStdString();
+}
+
+inline QStringList toQt(const std::vector<std::string>& texts) {
+    QStringList all;
+    for (const std::string& text : texts) all << toQt(std::string_view(text));
+    return all;
 }
 
 // For a text that a menu or a button would take mnemonics from.

@@ -137,6 +137,12 @@ QString TextBox::allowed(const QString& typed) const {
     return kept;
 }
 
+void TextBox::typeInstead(const QString& text) {
+    if (isReadOnly()) return;
+    selectAll();
+    insertPlainText(text);
+}
+
 // Where there is nothing to take back in the box, the keys mean the last step.
 bool TextBox::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
@@ -151,6 +157,10 @@ bool TextBox::event(QEvent* event) {
 void TextBox::keyPressEvent(QKeyEvent* event) {
     if (isReadOnly()) {
         event->ignore();
+        return;
+    }
+    if (takesKey && takesKey(*event)) {
+        event->accept();
         return;
     }
     const bool isBackspace = event->key() == Qt::Key_Backspace;

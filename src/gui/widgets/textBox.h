@@ -15,6 +15,8 @@ class TextBox : public QTextEdit {
 public:
     explicit TextBox(QWidget* parent);
 
+    // Ahead of all else; true when the key has done its work.
+    std::function<bool(const QKeyEvent& key)> takesKey;
     // What the keys go through ahead of the text. A typed character that is answered with false is dropped.
     std::function<void(int keyCode)> keyDown;
     std::function<bool(char32_t character)> keyPress;
@@ -30,6 +32,8 @@ public:
         bool locked = true;
     };
     void show(const Look& look);
+    // In place of what stands there, as if it were typed.
+    void typeInstead(const QString& text);
     void setCaret(int position);                              // in characters
     void forgetTyped() { document()->clearUndoRedoStacks(); } // it is stored, or given up
 

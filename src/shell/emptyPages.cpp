@@ -1,0 +1,100 @@
+#include "shell/emptyPages.h"
+
+#include "app/windowState.h"
+#include "layout/layoutPage.h"
+#include "shell/commands.h"
+
+namespace shell {
+
+using app::App;
+
+namespace {
+
+// A list holds its Totals row at least, and its table the hidden column.
+bool hasRecords(const core::RecordsList& list) {
+    return list.count() > 1;
+}
+bool hasColumns(const App& app) {
+    return app.document.LV.columns.count() > 1;
+}
+
+Hint::Button commandButton(const char* key, const char* caption) {
+    return {key, caption, [key](App& app) { runCommand(app, key); }};
+}
+
+Hint::Button newRecordButton() {
+    return {"mnuNewRecord", "&New Record", [](App& app) {
+                if (app.mainFrm.SSTab1 == app::previewTab) app::showReportTab(app);
+                runCommand(app, "mnuNewRecord");
+            }};
+}
+
+Hint noColumns(bool canImport) {
+    Hint hint{"There are no columns yet",
+              "Columns are what a record is made of, as a name, a date or a price.",
+              {commandButton("mnuDatabaseProperties", "&Define Columns...")}};
+    if (canImport) {
+        hint.text += " You can also begin with a table of another program.";
+        hint.buttons.push_back(commandButton("mnuImportTable", "I&mport..."));
+    }
+    return hint;
+}
+
+Hint emptySheet() {
+    return {
+        "The layout page is empty",
+        "Design it once: it then shows each record, takes what you type, and prints as you have placed it.",
+        {commandButton("Design", "Design The &Page")}};
+}
+
+bool isDesigning(const App& app) {
+    return layout::layoutPage(app).layoutToolbarInFront;
+}
+
+} // namespace
+
+std::optional<Hint> emptyList(const App& app, const core::RecordsList& list) {
+    if (hasRecords(list)) return {};
+    if (&list == &app.document.searchLV)
+        return Hint{"No record was found",
+                    "Nothing in the database is what was searched for.",
+                    {commandButton("Search", "&Show All Records")}};
+    if (!hasColumns(app)) return noColumns(true);
+    Hint hint{"There are no records yet",
+              "Type the first one, or take over those of a table of another program.",
+              {newRecordButton()}};
+    if (app.document.bInvoiceStyle)
+        hint.text = "Type the first one: it is filled in on the layout page.";
+    else
+        hint.buttons.push_back(commandButton("mnuImportTable", "I&mport..."));
+    return hint;
+}
+
+std::optional<Hint> emptyLayoutPage(const App& app) {
+    if (!hasColumns(app)) return noColumns(false);
+    if (app.document.layout.count() > 0) {
+        // The sheet of invoices is put away as long as there is none.
+        if (layout::layoutPage(app).layoutPic2.Visible || !app.document.bInvoiceStyle) return {};
+        return Hint{"There are no records yet", "The page is filled in for each one.", {newRecordButton()}};
+    }
+    if (!isDesigning(app)) return emptySheet();
+    return Hint{"Nothing is placed on the page yet",
+                "Field, in the bar above, places a box for a column; Label places a text beside it.",
+                {}};
+}
+
+std::optional<Hint> emptyPreview(const App& app) {
+    if (!hasColumns(app)) return noColumns(false);
+    if (app.mainFrm.iPrintMode == app::printReport) {
+        if (app.document.printedCols.empty())
+            return Hint{"No column is chosen for the report",
+                        "Choose in the page setup what is printed.",
+                        {commandButton("PageSetup", "Page &Setup...")}};
+    } else if (app.document.layout.count() == 0) {
+        return emptySheet();
+    }
+    if (hasRecords(app.document.LV)) return {};
+    return Hint{"There are no records to print yet", "The pages are filled with them.", {newRecordButton()}};
+}
+
+} // namespace shell
