@@ -15,7 +15,7 @@ using core::ColumnType;
 
 namespace {
 
-int numberOf(std::string_view key) {
+int recordNumber(std::string_view key) {
     int number = 0;
     if (!key.empty()) std::from_chars(key.data() + 1, key.data() + key.size(), number);
     return number;
@@ -33,7 +33,7 @@ ColumnValues::ColumnValues(const core::RecordsList& list, const core::Column& co
     list.forEach([&](const core::Item& item) {
         if (item.isTotals()) return;
         const std::string_view cell = core::RecordsList::cell(item, column).view();
-        const int record = numberOf(item.Key.view());
+        const int record = recordNumber(item.Key.view());
         if (!hasItemRows)
             add(cell, record);
         else
