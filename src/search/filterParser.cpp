@@ -284,14 +284,19 @@ private:
         return Days{*number, *number};
     }
 
+    // Part of a text, or the days that a text stands for.
+    void makeWord(FilterTerm& term, const Value& value, bool isDate) const {
+        const std::optional<Days> days = isDate ? filterDays(core::trim(value.text), today_) : std::nullopt;
+        if (days) setBounds(term, Test::Days, Comparison::Colon, *days);
+        term.needle = days ? std::string() : folded(value.text);
+    }
+
     // False when there is nothing to compare.
     bool makeComparison(FilterTerm& term, Comparison comparison, const Value& value) {
         const std::string_view text = core::trim(value.text);
         const bool isDate = typeOf(term) == core::ColumnType::Date;
         if (comparison == Comparison::Colon) {
-            const std::optional<Days> days = isDate ? filterDays(text, today_) : std::nullopt;
-            if (days) setBounds(term, Test::Days, comparison, *days);
-            term.needle = days ? std::string() : folded(value.text);
+            makeWord(term, value, isDate);
             return true;
         }
         const bool isEquality = comparison == Comparison::Equal || comparison == Comparison::NotEqual;
