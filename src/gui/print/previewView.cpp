@@ -78,31 +78,35 @@ QScrollBar* PreviewView::makeScrollBar(Qt::Orientation orientation) {
     return bar;
 }
 
-// How large the page is shown. As wide as the port is found out from the room that port and bar share, so
-// that a bar that comes and goes changes nothing.
-qreal PreviewView::wantedZoom() const {
+// How large the page is shown, and in what port. While it fits, both are found out from the room that port
+// and bars share, so that a bar that is still there, or comes, changes nothing.
+PreviewView::Fitted PreviewView::fitted() const {
     const app::Looks& looks = app::looks(app_);
     const drawing::RecordedPage& page = print::previewPage(app_).rptPreview1;
     if (looks.previewFit == app::Fit::None || page.Width <= 0 || page.Height <= 0)
-        return looks.previewZoom / 100.0;
+        return {looks.previewZoom / 100.0, port_->size()};
     constexpr qreal least = 0.1, most = 5;
-    constexpr qreal edge = 2; // pixels of the frame around the page
+    constexpr int edge = 2; // pixels of the frame around the page
     const auto shown = [](const QScrollBar& bar, int thickness) { return bar.isHidden() ? 0 : thickness; };
-    const qreal width = port_->width() + shown(*rptVScroll1_, rptVScroll1_->width()) - edge;
-    const qreal height = port_->height() + shown(*rptHScroll1_, rptHScroll1_->height()) - edge;
+    QSize room(port_->width() + shown(*rptVScroll1_, rptVScroll1_->width()),
+               port_->height() + shown(*rptHScroll1_, rptHScroll1_->height()));
     const qreal plain = logicalDpiX() / static_cast<qreal>(twipsPerInch);
-    qreal zoom = width / (page.Width * plain);
-    if (looks.previewFit == app::Fit::Page)
-        zoom = std::min(zoom, height / (page.Height * plain));
-    else if (page.Height * plain * zoom > height)
-        zoom = (width - rptVScroll1_->sizeHint().width()) / (page.Width * plain);
-    return std::clamp(zoom, least, most);
+    const auto zoomFor = [&](int pixels, float twips) { return (pixels - edge) / (twips * plain); };
+    qreal zoom = zoomFor(room.width(), page.Width);
+    const qreal high = zoomFor(room.height(), page.Height);
+    if (looks.previewFit == app::Fit::Page) {
+        zoom = std::min(zoom, high);
+    } else if (zoom > high) {
+        room.rwidth() -= rptVScroll1_->sizeHint().width();
+        zoom = zoomFor(room.width(), page.Width);
+    }
+    return {std::clamp(zoom, least, most), room};
 }
 
 // What stands at the anchor stays there.
 void PreviewView::followZoom() {
     const QPointF anchor = std::exchange(zoomAnchor_, {}).value_or(QRectF(port_->rect()).center());
-    const qreal zoom = wantedZoom();
+    const qreal zoom = fitted().zoom;
     app::looks(app_).previewZoom = static_cast<int>(std::lround(zoom * 100));
     percent_->setText(tr("%1 %").arg(app::looks(app_).previewZoom));
     if (zoom == port_->zoom()) return;
@@ -123,7 +127,8 @@ void PreviewView::tellPortSize() {
     const auto twips = [this](int pixels) {
         return static_cast<float>(std::lround(pixels / port_->pixelsPerTwip()));
     };
-    print::rptPreview2_Resize(app_, twips(port_->width()), twips(port_->height()),
+    const QSize port = fitted().port;
+    print::rptPreview2_Resize(app_, twips(port.width()), twips(port.height()),
                               twips(rptVScroll1_->sizeHint().width()));
 }
 

@@ -32,7 +32,11 @@ private:
     static void show(QScrollBar& bar, const print::PreviewPage::ScrollBar& state, float visible);
     void portResized();
     void tellPortSize();
-    qreal wantedZoom() const;
+    struct Fitted {
+        qreal zoom;
+        QSize port;
+    };
+    Fitted fitted() const;
     void followZoom();
 
     app::App& app_;

@@ -123,7 +123,8 @@ bool SuggestionList::keyPress(const SuggestedBox& box, const QKeyEvent& key) {
     if (!isShown) {
         if (!isOpening && !isTaking) return false;
         if (bring(box, true)) {
-            const auto same = findItems(box.text(), Qt::MatchExactly);
+            auto same = findItems(box.text(), Qt::MatchFixedString);
+            if (same.isEmpty()) same = findItems(box.text(), Qt::MatchStartsWith);
             moveTo(same.isEmpty() ? 0 : row(same.first()));
         }
         return true;
