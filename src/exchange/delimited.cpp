@@ -24,6 +24,7 @@ public:
     DelimitedReader(std::string_view text, Delimiters delimiters) : text_(text), delimiters_(delimiters) {}
 
     bool isAtEnd() const { return at_ >= text_.size(); }
+    std::size_t at() const { return at_; }
 
     SheetRow nextRow() {
         SheetRow row;
@@ -176,12 +177,14 @@ Delimiters recognizedDelimiters(std::string_view text) {
     return best;
 }
 
-std::vector<SheetRow> readDelimited(std::string_view text, Delimiters delimiters) {
+std::vector<SheetRow> readDelimited(std::string_view text, Delimiters delimiters, const Progress& progress) {
+    constexpr std::size_t rowsBetween = 500;
     std::vector<SheetRow> rows;
     DelimitedReader reader(text, delimiters);
     while (!reader.isAtEnd()) {
         if (rows.size() == mostLines)
             throw TableError("it has more than " + std::to_string(mostLines) + " lines");
+        if (rows.size() % rowsBetween == 0) tellProgress(progress, reader.at(), text.size());
         rows.push_back(reader.nextRow());
     }
     return rows;

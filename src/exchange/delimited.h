@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exchange/sheet.h"
+#include "exchange/sheetCollector.h"
 
 #include <cstdint>
 #include <string>
@@ -28,7 +28,8 @@ std::string decodedText(std::string_view bytes, Encoding encoding);
 Delimiters recognizedDelimiters(std::string_view text);
 // The cells as texts, blank lines as rows without a cell. Line ends within quotes are line feeds; a quote
 // within a cell is a character like any other, and so is what stands behind a closing one. Raises TableError
-// for a quote that is not closed and for what would take unreasonable memory.
-std::vector<SheetRow> readDelimited(std::string_view text, Delimiters delimiters);
+// for a quote that is not closed and for what would take unreasonable memory, and cancelled.
+std::vector<SheetRow> readDelimited(std::string_view text, Delimiters delimiters,
+                                    const Progress& progress = {});
 
 } // namespace exchange

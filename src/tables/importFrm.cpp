@@ -10,6 +10,7 @@
 #include "storage/saveFile.h"
 #include "storage/saveSteps.h"
 #include "tables/counted.h"
+#include "tables/importSteps.h"
 #include "tables/placeIn.h"
 
 #include <algorithm>
@@ -41,6 +42,18 @@ std::optional<exchange::Format> tableFormat(std::string_view fileName) {
     return exchange::formatOf(fileName);
 }
 
+// The reason alone: the sentences that it ends tell already that the table cannot be read.
+std::string reasonOf(const std::exception& error) {
+    constexpr std::string_view known = "Invalid file format: ";
+    const std::string_view text = error.what();
+    return std::string(text.starts_with(known) ? text.substr(known.size()) : text);
+}
+
+bool isCancelled(const std::exception& error) {
+    const auto* failed = dynamic_cast<const core::RunTimeError*>(&error);
+    return failed != nullptr && failed->number == core::errors::cancelled;
+}
+
 } // namespace
 
 bool isTableFile(std::string_view fileName) {
@@ -69,18 +82,23 @@ importFrm::importFrm(app::App& app)
     encodingCbo.entries = {"UTF-8", "UTF-16", "UTF-16 (big endian)", "Windows-1252"};
     separatorCbo.entries = {"Comma", "Semicolon", "Tab", "Bar"};
     quoteCbo.entries = {"\"", "'", "None"};
+    styleCbo.entries = {"Standard", "Invoice"};
     const core::Document& document = app.document;
     Opt1Enabled = document.LV.columns.count() > 1 && !document.searchLV.Visible &&
                   !(document.bInvoiceStyle && document.bInvoiceView);
     const app::Hourglass hourglass(app);
     try {
+        ImportSteps steps(app);
         readFile();
-        readTable();
-        if (Opt1Enabled && isKnownTable()) Opt1_Click(1);
+        readTable(steps);
+        if (!table_ && !canBeReadOtherwise()) throw exchange::TableError(problem_);
+        if (table_ && Opt1Enabled && isKnownTable()) {
+            Opt1 = 1;
+            findTargets(steps);
+        }
     } catch (const std::exception& error) {
-        const auto* failed = dynamic_cast<const core::RunTimeError*>(&error);
-        if (failed == nullptr || failed->number != core::errors::cancelled)
-            app::warn(app, std::string("The table cannot be imported: ").append(error.what()));
+        if (!isCancelled(error))
+            app::warn(app, std::string("The table cannot be imported: ").append(reasonOf(error)));
         unloaded = true;
     }
     if (!unloaded) showAll();
@@ -89,67 +107,86 @@ importFrm::importFrm(app::App& app)
 // What does not depend on what is chosen.
 void importFrm::readFile() {
     const auto format = tableFormat(file_);
-    if (!format) core::raise(core::errors::badFileFormat, "the program knows no table of this kind");
+    if (!format) throw exchange::TableError("the program knows no table of this kind");
     format_ = *format;
     isText_ = isDelimited(format_);
     encodingCbo.Visible = separatorCbo.Visible = quoteCbo.Visible = isText_;
     if (isText_) {
         auto bytes = file::readSmallFile(file_, mostTableBytes);
-        if (!bytes) core::raise(core::errors::badFileFormat, "it is larger than 256 MB");
+        if (!bytes) throw exchange::TableError("it is larger than 256 MB");
         bytes_ = *std::move(bytes);
         const exchange::Encoding encoding = exchange::recognizedEncoding(bytes_);
         encodingCbo.ListIndex = static_cast<int>(encoding);
-        delimiters_ = exchange::recognizedDelimiters(exchange::decodedText(bytes_, encoding));
+        try {
+            constexpr std::size_t head = std::size_t{256} << 10U; // more than recognition looks at
+            delimiters_ = exchange::recognizedDelimiters(
+                exchange::decodedText(std::string_view(bytes_).substr(0, head), encoding));
+        } catch (const exchange::TableError&) {
+            // No text in this encoding: told when the table is read.
+        }
     } else {
         sheetCbo.entries = exchange::sheetNames(file_, format_);
     }
     sheetCbo.Visible = sheetCbo.entries.size() > 1;
 }
 
-void importFrm::readTable() {
-    separatorCbo.ListIndex = placeIn(separators, delimiters_.separator);
-    quoteCbo.ListIndex = placeIn(quotes, delimiters_.quote);
+exchange::Sheet importFrm::readSheet(ImportSteps& steps) {
+    const exchange::Progress progress = steps.next(40);
+    if (!isText_)
+        return exchange::readSheet(file_, format_, static_cast<std::size_t>(sheetCbo.ListIndex), progress);
     exchange::Sheet sheet;
-    Hints hints;
-    if (isText_) {
-        const auto encoding = static_cast<exchange::Encoding>(encodingCbo.ListIndex);
-        sheet.rows = exchange::readDelimited(exchange::decodedText(bytes_, encoding), delimiters_);
-        // Semicolons divide tables where commas divide numbers.
-        if (delimiters_.separator == ';') hints = {DateOrder::DayMonthYear, ',', false, false};
-    } else {
-        constexpr int percents = 100;
-        sheet = exchange::readSheet(file_, format_, static_cast<std::size_t>(sheetCbo.ListIndex),
-                                    [&](int percent) {
-                                        return app_.platform.tellProgress(
-                                            "Reading the table", std::min(percent, percents - 1), percents);
-                                    });
-        app_.platform.tellProgress("Reading the table", percents, percents);
-    }
-    // Made first: the table that is shown stays when this one cannot be had.
-    ImportTable read(std::move(sheet), hints, true, app_.platform.today());
-    table_ = std::move(read);
-    List2Index = 0;
-    Check2 = false;
-    findTargets();
+    const auto encoding = static_cast<exchange::Encoding>(encodingCbo.ListIndex);
+    const std::string text = exchange::decodedText(bytes_, encoding);
+    sheet.rows = exchange::readDelimited(text, delimiters_, progress);
+    return sheet;
 }
 
-// After another choice of how the file is read; what cannot be read so is told, and the form stays as it was.
-void importFrm::readAgain(int& choice, int entry) {
-    const app::Hourglass hourglass(app_);
-    const auto delimiters = delimiters_;
-    const int before = std::exchange(choice, entry);
-    delimiters_ = {separators.at(static_cast<std::size_t>(separatorCbo.ListIndex)),
-                   quotes.at(static_cast<std::size_t>(quoteCbo.ListIndex))};
+void importFrm::readTable(ImportSteps& steps) {
+    separatorCbo.ListIndex = placeIn(separators, delimiters_.separator);
+    quoteCbo.ListIndex = placeIn(quotes, delimiters_.quote);
+    List2Index = 0;
+    Check2 = false;
+    problem_.clear();
+    Hints hints;
+    // Semicolons divide tables where commas divide numbers.
+    if (isText_ && delimiters_.separator == ';') hints = {DateOrder::DayMonthYear, ',', false, false};
     try {
-        readTable();
+        table_.emplace(readSheet(steps), hints, true, app_.platform.today(), steps.next(20));
+        findTargets(steps);
     } catch (const std::exception& error) {
-        choice = before;
-        delimiters_ = delimiters;
-        const auto* failed = dynamic_cast<const core::RunTimeError*>(&error);
-        if (failed == nullptr || failed->number != core::errors::cancelled)
-            app::warn(app_, std::string("The table cannot be read so: ").append(error.what()));
+        if (isCancelled(error)) throw;
+        problem_ = reasonOf(error);
+        table_.reset();
+        records_.reset();
+    }
+}
+
+// The form is of use as long as another choice may help.
+bool importFrm::canBeReadOtherwise() const {
+    return isText_ ? !core::trim(bytes_).empty() : sheetCbo.Visible;
+}
+
+void importFrm::work(const std::function<void(ImportSteps&)>& steps) {
+    const app::Hourglass hourglass(app_);
+    const auto before = std::apply([](const auto&... each) { return std::tuple(each...); }, choices());
+    try {
+        ImportSteps taken(app_);
+        steps(taken);
+    } catch (const core::RunTimeError& error) {
+        if (!isCancelled(error)) throw;
+        choices() = before;
     }
     showAll();
+}
+
+// After another choice of how the file is read.
+void importFrm::readAgain(int& choice, int entry) {
+    work([&](ImportSteps& steps) {
+        choice = entry;
+        delimiters_ = {separators.at(static_cast<std::size_t>(separatorCbo.ListIndex)),
+                       quotes.at(static_cast<std::size_t>(quoteCbo.ListIndex))};
+        readTable(steps);
+    });
 }
 
 // Every column of the table is one of the open database.
@@ -159,16 +196,16 @@ bool importFrm::isKnownTable() const {
     return std::ranges::all_of(named.sources(), [](const auto& source) { return source.target != nullptr; });
 }
 
-void importFrm::findTargets() {
+void importFrm::findTargets(ImportSteps& steps) {
     targets_ = {{}, std::vector<std::string>(table_->columns().size())};
-    if (isAppending()) targets_ = tables::findTargets(app_, *table_);
-    makeRecords();
+    if (isAppending()) targets_ = tables::findTargets(app_, *table_, steps.next(20));
+    makeRecords(steps);
 }
 
 // What is refused in the open database has to be asked of it.
-void importFrm::makeRecords() {
+void importFrm::makeRecords(ImportSteps& steps) {
     records_.reset();
-    if (isAppending()) records_.emplace(newRecordsOf(app_, *table_));
+    if (isAppending()) records_ = std::make_shared<NewRecords>(newRecordsOf(app_, *table_, steps.next(20)));
 }
 
 // --- events
@@ -190,44 +227,49 @@ void importFrm::quoteCbo_Click(int entry) {
 }
 
 void importFrm::Check1_Click(bool checked) {
-    const app::Hourglass hourglass(app_);
-    table_->setHeadings(checked);
-    findTargets();
-    showAll();
+    work([&](ImportSteps& steps) {
+        table_->setHeadings(checked, steps.next(40));
+        findTargets(steps);
+    });
 }
 
 void importFrm::Opt1_Click(int choice) {
     if (choice == Opt1 || (choice == 1 && !Opt1Enabled)) return;
-    const app::Hourglass hourglass(app_);
-    Opt1 = choice;
-    if (!isAppending()) table_->setHeadings(Check1); // every column again, with a type of its own
-    findTargets();
-    showAll();
+    work([&](ImportSteps& steps) {
+        Opt1 = choice;
+        if (!table_) return;
+        // Every column again, with a type of its own.
+        if (!isAppending()) table_->setHeadings(Check1, steps.next(40));
+        findTargets(steps);
+    });
 }
 
 void importFrm::List2_Click(int column) {
+    if (List2.empty()) return;
     List2Index = std::clamp(column, 0, static_cast<int>(List2.size()) - 1);
     showColumn();
 }
 
 void importFrm::List2_ItemCheck(int column, bool checked) {
-    const auto place = static_cast<std::size_t>(column);
-    List2Index = column;
-    if (!isAppending()) {
-        table_->setImport(place, checked);
-    } else if (!checked) {
-        table_->setTarget(place, nullptr);
-    } else {
-        // The first column that no other one goes into.
-        const auto& columns = table_->columns();
-        const auto free = std::ranges::find_if(targets_.choices, [&](const core::Column* target) {
-            return std::ranges::none_of(columns, [&](const auto& taken) { return taken.target == target; });
-        });
-        if (free != targets_.choices.end()) table_->setTarget(place, *free);
-    }
-    targets_.whyLeftOut[place].clear();
-    makeRecords();
-    showAll();
+    work([&](ImportSteps& steps) {
+        const auto place = static_cast<std::size_t>(column);
+        List2Index = column;
+        if (!isAppending()) {
+            table_->setImport(place, checked);
+        } else if (!checked) {
+            table_->setTarget(place, nullptr);
+        } else {
+            // The first column that no other one goes into.
+            const auto& columns = table_->columns();
+            const auto free = std::ranges::find_if(targets_.choices, [&](const core::Column* target) {
+                return std::ranges::none_of(columns,
+                                            [&](const auto& taken) { return taken.target == target; });
+            });
+            if (free != targets_.choices.end()) table_->setTarget(place, *free);
+        }
+        targets_.whyLeftOut[place].clear();
+        makeRecords(steps);
+    });
 }
 
 void importFrm::Text1_Change(const std::string& text) {
@@ -238,40 +280,54 @@ void importFrm::Text1_Change(const std::string& text) {
 }
 
 void importFrm::targetCbo_Click(int entry) {
-    const app::Hourglass hourglass(app_);
-    const core::Column* target =
-        entry < 1 ? nullptr : targets_.choices.at(static_cast<std::size_t>(entry) - 1);
-    for (std::size_t i = 0; i < table_->columns().size(); ++i)
-        if (target != nullptr && table_->columns()[i].target == target) table_->setTarget(i, nullptr);
-    table_->setTarget(column(), target);
-    targets_.whyLeftOut[column()].clear();
-    makeRecords();
-    showAll();
+    work([&](ImportSteps& steps) {
+        const core::Column* target =
+            entry < 1 ? nullptr : targets_.choices.at(static_cast<std::size_t>(entry) - 1);
+        for (std::size_t i = 0; i < table_->columns().size(); ++i)
+            if (target != nullptr && table_->columns()[i].target == target) table_->setTarget(i, nullptr);
+        table_->setTarget(column(), target);
+        targets_.whyLeftOut[column()].clear();
+        makeRecords(steps);
+    });
 }
 
 void importFrm::typeCbo_Click(int entry) {
-    const app::Hourglass hourglass(app_);
-    const ColumnType type = types.at(static_cast<std::size_t>(entry));
-    if (type != table_->columns()[column()].how.as.type) table_->setType(column(), type);
-    showAll();
+    work([&](ImportSteps&) {
+        const ColumnType type = types.at(static_cast<std::size_t>(entry));
+        if (type != table_->columns()[column()].how.as.type) table_->setType(column(), type);
+    });
 }
 
 void importFrm::readAsCbo_Click(int entry) {
-    const app::Hourglass hourglass(app_);
-    ReadAs as = table_->columns()[column()].how.as;
-    if (as.type == ColumnType::Date)
-        as.dates = static_cast<DateOrder>(entry);
-    else
-        as.decimal = entry == 1 ? ',' : '.';
-    table_->setReadAs(column(), as);
-    makeRecords();
-    showAll();
+    work([&](ImportSteps& steps) {
+        ReadAs as = table_->columns()[column()].how.as;
+        if (as.type == ColumnType::Date)
+            as.dates = static_cast<DateOrder>(entry);
+        else
+            as.decimal = entry == 1 ? ',' : '.';
+        table_->setReadAs(column(), as);
+        makeRecords(steps);
+    });
+}
+
+// "Recognised", "None", and the signs.
+void importFrm::signCbo_Click(int entry) {
+    work([&](ImportSteps& steps) {
+        CurrencySign sign;
+        if (entry == 1) sign.emplace();
+        if (entry > 1) sign = currencySigns()[static_cast<std::size_t>(entry) - 2];
+        table_->setSign(column(), sign);
+        makeRecords(steps);
+    });
+}
+
+void importFrm::styleCbo_Click(int entry) {
+    styleCbo.ListIndex = entry;
+    if (table_) showRefusals();
 }
 
 void importFrm::Command1_Click() {
-    const app::Hourglass hourglass(app_);
-    table_->keepAsText();
-    showAll();
+    work([&](ImportSteps&) { table_->keepAsText(); });
 }
 
 void importFrm::Check2_Click(bool checked) {
@@ -326,7 +382,7 @@ bool importFrm::makeNew() {
     }
     {
         const app::Hourglass hourglass(app_);
-        if (!writeImported(app_, *target, *table_)) return false;
+        if (!writeImported(app_, *target, *table_, styleCbo.ListIndex == 1)) return false;
     }
     open = *target;
     storage::OpenFile(app_, true);

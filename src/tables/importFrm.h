@@ -4,8 +4,11 @@
 #include "tables/importTable.h"
 
 #include <array>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace tables {
@@ -17,12 +20,14 @@ void chooseTableToImport(app::App& app, const std::string& file);
 // Whether a file is one that the form reads, by its name.
 bool isTableFile(std::string_view fileName);
 
+class ImportSteps;
+
 // "Import": the first rows of a table as they would be stored, how each column is read, and the cells that
 // cannot be stored. Nothing is written before OK.
 class importFrm {
 public:
     explicit importFrm(
-        app::App& app); // Load; without a table that can be read it unloads itself after a message
+        app::App& app); // Load; without a table that can be read in any way it unloads itself after a message
 
     // As typeCbo offers them; the last two come from this program alone.
     static constexpr std::array types = {core::ColumnType::Text,        core::ColumnType::Number,
@@ -46,18 +51,20 @@ public:
         std::vector<bool> Refused;
     };
 
-    std::string Label1; // the file and how many records it makes
+    std::string Label1; // the file and how many records it makes, or why none
     List sheetCbo, encodingCbo, separatorCbo, quoteCbo;
     std::vector<Column> List2;
-    std::string Text1;       // the name of the chosen column in a new database
-    List targetCbo;          // its column of the open one
-    List typeCbo, readAsCbo; // of it, too
-    std::vector<Row> Grid1;  // the first rows, as they would be stored
-    std::string Label2;      // what is open, refused or too much; empty when nothing is
+    std::string Text1;                // the name of the chosen column in a new database
+    List targetCbo;                   // its column of the open one
+    List typeCbo, readAsCbo, signCbo; // of it, too
+    List styleCbo;                    // of a new database
+    std::vector<Row> Grid1;           // the first rows, as they would be stored
+    std::string Label2;               // what is refused or keeps the table out; empty when nothing is
     std::vector<Refused> List1;
-    int Opt1 = 0;             // 0: a new database, 1: the open one
-    int List2Index = 0;       // the chosen column
-    bool Check1 = false;      // the first row has the names of the columns
+    int Opt1 = 0;        // 0: a new database, 1: the open one
+    int List2Index = 0;  // the chosen column
+    bool Check1 = false; // the first row has the names of the columns
+    bool Check1Enabled = true;
     bool Opt1Enabled = false; // there is an open one that takes records
     bool Text1Visible = true;
     bool Command1Visible = false; // keep the columns with refused cells as texts
@@ -77,6 +84,8 @@ public:
     void targetCbo_Click(int entry);
     void typeCbo_Click(int entry);
     void readAsCbo_Click(int entry);
+    void signCbo_Click(int entry);
+    void styleCbo_Click(int entry);
     void Command1_Click();
     void Check2_Click(bool checked);
     void OKButton_Click();
@@ -84,11 +93,20 @@ public:
 
 private:
     void readFile();
-    void readTable();
+    exchange::Sheet readSheet(ImportSteps& steps);
+    void readTable(ImportSteps& steps);
     void readAgain(int& choice, int entry);
+    bool canBeReadOtherwise() const;
     bool isKnownTable() const;
-    void findTargets();
-    void makeRecords();
+    void findTargets(ImportSteps& steps);
+    void makeRecords(ImportSteps& steps);
+    // What takes long. What the user gives up half-way leaves everything as it was.
+    void work(const std::function<void(ImportSteps&)>& steps);
+    auto choices() {
+        return std::tie(table_, targets_, records_, problem_, delimiters_, sheetCbo, encodingCbo,
+                        separatorCbo, quoteCbo, Opt1, List2Index, Check2);
+    }
+    void showNoTable();
     void showAll();
     void showColumns();
     void showColumn();
@@ -104,10 +122,11 @@ private:
     exchange::Format format_ = exchange::Format::Csv;
     app::App& app_;
     std::string file_;
-    std::string bytes_; // of a text file, which may be decoded anew
-    std::optional<ImportTable> table_;
-    Targets targets_;                   // of the open database
-    std::optional<NewRecords> records_; // for it
+    std::string bytes_;                   // of a text file, which may be decoded anew
+    std::optional<ImportTable> table_;    // nothing when it cannot be read as chosen
+    std::string problem_;                 // why not
+    Targets targets_;                     // of the open database
+    std::shared_ptr<NewRecords> records_; // for it
 };
 
 } // namespace tables

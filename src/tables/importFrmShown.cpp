@@ -30,6 +30,12 @@ int wayToRead(const ReadAs& as) {
     return isNumber && as.decimal == ',' ? 1 : 0;
 }
 
+// In "Recognised", "None", and the signs.
+int placeOfSign(const CurrencySign& sign) {
+    if (!sign) return 0;
+    return sign->empty() ? 1 : placeIn(currencySigns(), std::string_view(*sign)) + 2;
+}
+
 std::string noteOf(const Recognized& how) {
     std::string note;
     if (how.bDatesOpen || how.bDecimalOpen) {
@@ -44,7 +50,28 @@ std::string noteOf(const Recognized& how) {
 
 } // namespace
 
+// Nothing can be changed but how the file is read.
+void importFrm::showNoTable() {
+    Label1 = std::filesystem::path(file_).filename().string();
+    Label1.append(isText_ ? " cannot be read with these settings: " : ": this sheet cannot be imported: ");
+    Label1.append(problem_).append(".");
+    Label2.clear();
+    List2.clear();
+    Grid1.clear();
+    List1.clear();
+    Text1.clear();
+    for (List* list : {&targetCbo, &typeCbo, &readAsCbo, &signCbo}) {
+        list->entries.clear();
+        list->Enabled = false;
+    }
+    Command1Visible = Check2Visible = okEnabled = false;
+}
+
 void importFrm::showAll() {
+    Check1Enabled = table_.has_value();
+    Text1Visible = styleCbo.Visible = !isAppending();
+    targetCbo.Visible = isAppending();
+    if (!table_) return showNoTable();
     Check1 = table_->hasHeadings();
     Label1 = std::filesystem::path(file_).filename().string();
     Label1.append(": ").append(counted(table_->count(), "record", "records")).append(".");
@@ -65,6 +92,7 @@ void importFrm::showColumns() {
         if (column.bImport) {
             shown.Type = core::typeName(column.how.as.type);
             shown.ReadAs = waysToRead(column.how.as).at(static_cast<std::size_t>(wayToRead(column.how.as)));
+            if (!column.how.sign.empty()) shown.ReadAs.append(" ").append(column.how.sign);
             shown.Note = noteOf(column.how);
         } else {
             shown.Note = targets_.whyLeftOut[i];
@@ -77,8 +105,7 @@ void importFrm::showColumn() {
     const ImportTable::Column& column = table_->columns()[this->column()];
     const ReadAs& as = column.how.as;
     Text1 = column.name;
-    Text1Visible = !isAppending();
-    targetCbo.Visible = isAppending();
+    targetCbo.Enabled = true;
     targetCbo.entries = {"(leave out)"};
     for (const core::Column* target : targets_.choices) targetCbo.entries.push_back(target->Text);
     targetCbo.ListIndex = placeIn(targets_.choices, column.target) + 1;
@@ -91,6 +118,10 @@ void importFrm::showColumn() {
     readAsCbo.entries = waysToRead(as);
     readAsCbo.ListIndex = wayToRead(as);
     readAsCbo.Enabled = column.bImport && readAsCbo.entries.size() > 1;
+    signCbo.entries = {"Recognised", "None"};
+    for (const std::string_view sign : currencySigns()) signCbo.entries.emplace_back(sign);
+    signCbo.ListIndex = placeOfSign(as.sign);
+    signCbo.Enabled = readAsCbo.Enabled && as.type != ColumnType::Date;
 }
 
 void importFrm::showRows() {
@@ -125,15 +156,13 @@ void importFrm::showRefusals() {
     };
     std::string why;
     if (!isAppending())
-        why = table_->whyNoDatabase();
+        why = table_->whyNoDatabase(styleCbo.ListIndex == 1);
     else if (std::ranges::none_of(List2, &Column::Checked))
         why = "No column is chosen.";
     else if (table_->count() > records_->room())
         why = "The database has room for " + counted(records_->room(), "more record.", "more records.");
     else if (table_->count() == 0)
         why = "The table has no records.";
-    for (const Column& column : List2)
-        if (!column.Note.empty()) add(column.Name + ": " + column.Note);
     if (refused > 0) add(counted(refused, "cell cannot be stored:", "cells cannot be stored:"));
     if (!why.empty()) add(why);
     const bool canBeText =

@@ -30,29 +30,31 @@ bool isBlankRow(const SheetRow& row) {
 } // namespace
 
 ImportTable::ImportTable(exchange::Sheet sheet, const Hints& hints, bool bLenient,
-                         std::chrono::year_month_day today)
+                         std::chrono::year_month_day today, const exchange::Progress& progress)
     : bTyped_(sheet.bTyped), bLenient_(bLenient), hints_(hints), today_(today) {
+    std::vector<Row> rows;
     std::size_t width = 0, number = 0;
     for (SheetRow& cells : sheet.rows) {
         ++number;
         if (isBlankRow(cells)) continue;
         while (core::trim(cells.back().text).empty()) cells.pop_back();
         width = std::max(width, cells.size());
-        rows_.push_back({number, std::move(cells)});
+        rows.push_back({number, std::move(cells)});
     }
-    if (rows_.empty()) throw exchange::TableError("it has no rows");
-    if (rows_.size() > mostRecords + 1)
+    if (rows.empty()) throw exchange::TableError("it has no rows");
+    if (rows.size() > mostRecords + 1)
         throw exchange::TableError("it has more than " + std::to_string(mostRecords) + " rows");
     if (width > mostTableColumns)
         throw exchange::TableError("it has more than " + std::to_string(mostTableColumns) + " columns");
+    rows_ = std::make_shared<const std::vector<Row>>(std::move(rows));
     columns_.resize(width);
-    setHeadings(firstRowIsHeadings());
+    setHeadings(firstRowIsHeadings(), progress);
 }
 
 // Texts, each another one and none of them a value.
 bool ImportTable::firstRowIsHeadings() const {
     std::set<std::string> names;
-    for (const SheetCell& cell : rows_.front().cells) {
+    for (const SheetCell& cell : rows_->front().cells) {
         const std::string_view name = core::trim(cell.text);
         if (cell.kind != SheetCell::Kind::Text || name.empty()) return false;
         if (writtenNumber(name, '.') || writtenNumber(name, ',') ||
@@ -60,22 +62,25 @@ bool ImportTable::firstRowIsHeadings() const {
             return false;
         if (!names.insert(core::upper(name)).second) return false;
     }
-    return rows_.size() > 1 || !names.empty();
+    return rows_->size() > 1 || !names.empty();
 }
 
-void ImportTable::setHeadings(bool hasHeadings) {
+void ImportTable::setHeadings(bool hasHeadings, const exchange::Progress& progress) {
     hasHeadings_ = hasHeadings;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         Column& column = columns_[i];
         column = {};
-        if (hasHeadings_ && i < rows_.front().cells.size())
-            column.heading = core::trim(rows_.front().cells[i].text);
+        if (hasHeadings_ && i < rows_->front().cells.size())
+            column.heading = core::trim(rows_->front().cells[i].text);
         column.name = exchange::columnName(column.heading);
         if (column.name.empty()) column.name.append("Column_").append(std::to_string(i + 1));
     }
     refused_.assign(columns_.size(), {});
-    if (!takeToldTypes()) recognizeAll();
-    for (std::size_t i = 0; i < columns_.size(); ++i) check(i);
+    if (!takeToldTypes()) recognizeAll(progress);
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        exchange::tellProgress(progress, columns_.size() + i, columns_.size() * 2);
+        check(i);
+    }
 }
 
 // A table that goes out of the program with its types comes back with them.
@@ -94,10 +99,11 @@ bool ImportTable::takeToldTypes() {
 }
 
 // What is open in one column may be settled by the others.
-void ImportTable::recognizeAll() {
+void ImportTable::recognizeAll(const exchange::Progress& progress) {
     Hints hints = hints_;
     bool isDateSettled = hints.bDatesTold, isDecimalSettled = hints.bDecimalTold;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
+        exchange::tellProgress(progress, i, columns_.size() * 2);
         Recognized& how = columns_[i].how = recognized(i, hints_);
         if (how.as.type == ColumnType::Date && !how.bDatesOpen && !isDateSettled &&
             how.as.dates != DateOrder::YearMonthDay) {
@@ -158,6 +164,15 @@ void ImportTable::setType(std::size_t column, ColumnType type) {
     check(column);
 }
 
+void ImportTable::setSign(std::size_t column, const CurrencySign& sign) {
+    Recognized& how = columns_.at(column).how;
+    Hints hints = hints_;
+    hints.decimal = how.as.decimal;
+    hints.sign = sign;
+    how = recognized(column, hints, how.as.type);
+    check(column);
+}
+
 void ImportTable::setTarget(std::size_t column, const core::Column* target) {
     Column& changed = columns_.at(column);
     changed.target = target;
@@ -190,12 +205,14 @@ std::vector<ImportTable::Refusal> ImportTable::refusals(std::size_t most) const 
     return first;
 }
 
-std::string ImportTable::whyNoDatabase() const {
+std::string ImportTable::whyNoDatabase(bool bInvoiceStyle) const {
     std::set<std::string> names;
     std::size_t columns = 0;
     for (const Column& column : columns_) {
         if (!column.bImport) continue;
         ++columns;
+        if (bInvoiceStyle && column.how.as.type == ColumnType::Picture)
+            return "An invoice database has no Picture columns.";
         const std::string name = exchange::columnName(column.name);
         std::string why;
         if (name.empty()) return "A column has no name.";
@@ -222,10 +239,12 @@ exchange::TextRow ImportTable::headingRow() const {
     return row;
 }
 
-exchange::TextRows ImportTable::rowsForTargets() const {
+exchange::TextRows ImportTable::rowsForTargets(const exchange::Progress& progress) const {
+    constexpr std::size_t rowsBetween = 500;
     exchange::TextRows rows;
     rows.reserve(count());
     for (std::size_t record = 0; record < count(); ++record) {
+        if (record % rowsBetween == 0) exchange::tellProgress(progress, record, count());
         exchange::TextRow row{rowNumber(record), std::vector<std::string>(columns_.size())};
         for (std::size_t i = 0; i < columns_.size(); ++i)
             if (columns_[i].target != nullptr) row.cells[i] = cell(record, i).text;
@@ -234,24 +253,25 @@ exchange::TextRows ImportTable::rowsForTargets() const {
     return rows;
 }
 
-Targets findTargets(app::App& app, ImportTable& table) {
+Targets findTargets(app::App& app, ImportTable& table, const exchange::Progress& progress) {
     const NewRecords named(app, {table.headingRow(), table.headingRow()},
                            table.hasHeadings() ? Headings::Yes : Headings::No);
     Targets targets{named.targets(), {}};
     for (std::size_t i = 0; i < named.sources().size(); ++i) {
+        exchange::tellProgress(progress, i, named.sources().size());
         table.setTarget(i, named.sources()[i].target);
         targets.whyLeftOut.push_back(named.sources()[i].whyLeftOut);
     }
     return targets;
 }
 
-NewRecords newRecordsOf(app::App& app, const ImportTable& table) {
-    NewRecords records(app, table.rowsForTargets(), Headings::No);
-    // Each target takes one column, so those that its place has given it go first.
-    for (std::size_t i = 0; i < records.sources().size(); ++i) records.setTarget(i, nullptr);
-    for (std::size_t i = 0; i < records.sources().size(); ++i)
-        if (table.columns()[i].target != nullptr) records.setTarget(i, table.columns()[i].target);
-    return records;
+NewRecords newRecordsOf(app::App& app, const ImportTable& table, const exchange::Progress& progress) {
+    std::vector<const core::Column*> targets;
+    for (const ImportTable::Column& column : table.columns()) targets.push_back(column.target);
+    constexpr int half = 2;
+    const auto first = [&](int percent) { return !progress || progress(percent / half); };
+    const auto second = [&](int percent) { return !progress || progress((100 + percent) / half); };
+    return {app, table.rowsForTargets(first), targets, second};
 }
 
 void addImportedColumns(core::Document& document, const ImportTable& table) {
@@ -276,8 +296,9 @@ void addImportedRecords(app::App& app, core::Document& document, const ImportTab
     core::moveTotals(document.LV);
 }
 
-bool writeImported(app::App& app, const std::string& target, const ImportTable& table) {
+bool writeImported(app::App& app, const std::string& target, const ImportTable& table, bool bInvoiceStyle) {
     core::Document document;
+    document.bInvoiceStyle = bInvoiceStyle;
     addImportedColumns(document, table);
     core::addTotalsRow(document.LV);
     addImportedRecords(app, document, table);

@@ -57,6 +57,19 @@ NewRecords::NewRecords(app::App& app, exchange::TextRows rows, Headings headings
     setHeadings(headings == Headings::Guess ? firstRowNamesColumns() : headings == Headings::Yes);
 }
 
+NewRecords::NewRecords(app::App& app, exchange::TextRows rows, std::span<const Column* const> targets,
+                       const exchange::Progress& progress)
+    : app_(app), today_(app.platform.today()), itemColumns_(app.document), rows_(std::move(rows)) {
+    findTargets();
+    sources_.resize(targets.size());
+    refused_.resize(targets.size());
+    for (std::size_t i = 0; i < targets.size(); ++i) {
+        exchange::tellProgress(progress, i, targets.size());
+        sources_[i].target = targets[i];
+        check(i);
+    }
+}
+
 bool NewRecords::isTypedInto(const Column& column) const {
     if (!isTypedColumn(column)) return false;
     if (!app_.document.bInvoiceStyle) return true;

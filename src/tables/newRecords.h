@@ -3,10 +3,12 @@
 #include "app/app.h"
 #include "calc/formulas.h"
 #include "calc/itemColumns.h"
+#include "exchange/sheetCollector.h"
 #include "exchange/textRows.h"
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +36,9 @@ public:
     };
 
     NewRecords(app::App& app, exchange::TextRows rows, Headings headings);
+    // Rows without headings, into one target a column, nullptr for none. Raises cancelled.
+    NewRecords(app::App& app, exchange::TextRows rows, std::span<const core::Column* const> targets,
+               const exchange::Progress& progress);
 
     // Sets the targets anew: by the headings, or by the places of the columns on screen.
     void setHeadings(bool hasHeadings);

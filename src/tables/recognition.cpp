@@ -17,7 +17,7 @@ using exchange::SheetCell;
 // What the cells of a column fit.
 class ColumnLook {
 public:
-    explicit ColumnLook(bool isTyped) : isTyped_(isTyped) {}
+    ColumnLook(bool isTyped, const CurrencySign& sign) : isTyped_(isTyped), told_(sign) {}
 
     void look(const SheetCell& cell) {
         switch (cell.kind) {
@@ -57,6 +57,7 @@ public:
         if (isNumber) result.as.type = isMoney(result.as.decimal) ? ColumnType::Currency : ColumnType::Number;
         if (wanted) result.as.type = *wanted;
         if (isNumber && sign_ != "$") result.sign = sign_;
+        if (isNumber) result.as.sign = told_;
         if (result.bDatesOpen) result.example = openDate_;
         if (result.bDecimalOpen) result.example = openNumber_;
         return result;
@@ -83,7 +84,7 @@ private:
     }
 
     std::optional<WrittenNumber> lookAtMarks(std::string_view text, char decimal, Marks& marks) {
-        auto number = writtenNumber(text, decimal);
+        auto number = writtenNumber(text, decimal, told_);
         if (!number) return number;
         ++marks.fits;
         marks.grouped += number->bGrouped;
@@ -149,6 +150,7 @@ private:
     }
 
     bool isTyped_;
+    const CurrencySign& told_;
     std::size_t count_ = 0, numberCells_ = 0, moneyCells_ = 0, dotted_ = 0;
     std::array<std::size_t, 3> dates_{};
     std::array<Marks, 2> marks_{}; // with a decimal point, with a decimal comma
@@ -160,7 +162,7 @@ private:
 
 Recognized recognize(std::span<const SheetCell* const> cells, bool bTyped, const Hints& hints, bool bLenient,
                      std::optional<ColumnType> type) {
-    ColumnLook column(bTyped);
+    ColumnLook column(bTyped, hints.sign);
     for (const SheetCell* cell : cells) column.look(*cell);
     return column.result(hints, bLenient, type);
 }

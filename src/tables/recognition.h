@@ -13,6 +13,7 @@ struct Hints {
     DateOrder dates = DateOrder::MonthDayYear; // where a column leaves it open
     char decimal = '.';
     bool bDatesTold = false, bDecimalTold = false; // by the user: no column is read otherwise
+    CurrencySign sign = std::nullopt;
 };
 
 // How a column can be read.

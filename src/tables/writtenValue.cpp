@@ -20,9 +20,12 @@ using std::chrono::year_month_day;
 
 constexpr std::size_t longestValue = 48;     // in bytes; a longer text is neither number nor date
 constexpr std::size_t mostSummedDigits = 15; // that a sum keeps
-constexpr std::array<std::string_view, 18> currencySigns = {"US$", "R$",  "$",   "€",   "£",   "¥",
-                                                            "₹",   "EUR", "USD", "GBP", "CHF", "JPY",
-                                                            "SEK", "NOK", "DKK", "PLN", "kr",  "zł"};
+// Behind the widely known ones stand those that only the user's word makes a sign: a text may end with them.
+constexpr std::array<std::string_view, 34> signs = {
+    "US$", "R$",  "$",   "€",   "£",   "¥",  "₹",  "EUR", "USD", "GBP", "CHF", "JPY",
+    "SEK", "NOK", "DKK", "PLN", "kr",  "zł", "A$", "C$",  "Kč",  "CZK", "Ft",  "HUF",
+    "lei", "RON", "лв",  "₺",   "₽", "₴",  "₩",  "CAD", "AUD", "R"};
+constexpr std::size_t knownSigns = 18;
 
 bool isAllDigits(std::string_view text) {
     return !text.empty() && std::ranges::all_of(text, core::isDigit);
@@ -38,8 +41,11 @@ std::string plainMarks(std::string_view text) {
     return core::replaceAll(plain, "\u2019", "'");
 }
 
-std::string_view takeSign(std::string_view& text) {
-    for (const std::string_view sign : currencySigns) {
+std::string_view takeSign(std::string_view& text, const CurrencySign& told) {
+    const std::array<std::string_view, 1> one = {told ? std::string_view(*told) : std::string_view()};
+    std::span<const std::string_view> possible = std::span(signs).first(knownSigns);
+    if (told) possible = std::span(one).first(told->empty() ? 0 : 1);
+    for (const std::string_view sign : possible) {
         if (text.starts_with(sign))
             text = core::trim(text.substr(sign.size()));
         else if (text.ends_with(sign))
@@ -122,7 +128,7 @@ CheckedCell dateCell(const SheetCell& cell, const ReadAs& as) {
 
 CheckedCell numberCell(const SheetCell& cell, const ReadAs& as, year_month_day today) {
     if (cell.kind == SheetCell::Kind::Number) return checkedCell(as.type, cell.text, today);
-    const auto number = writtenNumber(cell.text, as.decimal);
+    const auto number = writtenNumber(cell.text, as.decimal, as.sign);
     if (!number) return unreadable("is no number in this form");
     if (as.type == ColumnType::Currency && number->places > 2)
         return unreadable("has more places than an amount of money");
@@ -135,7 +141,11 @@ bool isCode(std::string_view text) {
     return text.size() > 1 && text.front() == '0' && isAllDigits(text);
 }
 
-std::optional<WrittenNumber> writtenNumber(std::string_view text, char decimal) {
+std::span<const std::string_view> currencySigns() {
+    return signs;
+}
+
+std::optional<WrittenNumber> writtenNumber(std::string_view text, char decimal, const CurrencySign& sign) {
     if (text.size() > longestValue) return std::nullopt;
     const std::string plain = plainMarks(text);
     std::string_view rest = core::trim(plain);
@@ -152,7 +162,7 @@ std::optional<WrittenNumber> writtenNumber(std::string_view text, char decimal) 
         rest = core::trim(rest);
     };
     takeMinus();
-    number.sign = takeSign(rest);
+    number.sign = takeSign(rest, sign);
     takeMinus();
     const std::size_t point = std::min(rest.find(decimal), rest.size());
     const std::string_view fraction = point < rest.size() ? rest.substr(point + 1) : std::string_view();

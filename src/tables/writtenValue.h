@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -14,12 +15,19 @@ namespace tables {
 
 enum class DateOrder : std::uint8_t { DayMonthYear, MonthDayYear, YearMonthDay };
 
+// What may stand ahead of a number or behind it: nothing for any sign that is widely known, an empty text for
+// no sign at all.
+using CurrencySign = std::optional<std::string>;
+// Those that can be told, the widely known ones first.
+std::span<const std::string_view> currencySigns();
+
 // How the cells of a column are read.
 struct ReadAs {
     core::ColumnType type = core::ColumnType::Text;
     DateOrder dates = DateOrder::MonthDayYear;
     char decimal = '.';        // or ','; the other one, blanks and apostrophes divide thousands
     bool bToTheLetter = false; // cells whose type the table tells, in this program's own form
+    CurrencySign sign = std::nullopt;
     bool operator==(const ReadAs&) const = default;
 };
 
@@ -31,7 +39,8 @@ struct WrittenNumber {
     bool bGrouped = false;
 };
 // Nothing for other texts, and for codes: a needless zero in front, more digits than a sum keeps.
-std::optional<WrittenNumber> writtenNumber(std::string_view text, char decimal);
+std::optional<WrittenNumber> writtenNumber(std::string_view text, char decimal,
+                                           const CurrencySign& sign = std::nullopt);
 // Whether a text is digits alone with a needless zero in front.
 bool isCode(std::string_view text);
 

@@ -3,6 +3,7 @@
 #include "table.h"
 #include "tables/exportFrm.h"
 #include "tables/importFrm.h"
+#include "tables/placeIn.h"
 
 namespace {
 
@@ -154,10 +155,33 @@ EXPECT_FALSE(app.document.bModified);
     form.CancelButton_Click();
     } // namespace
 );
+    import("open.csv", "a,b\n\"1,2 Ft\n", [&](importFrm& form) {
+        EXPECT_EQ(shown(form), "open.csv cannot be read with these settings: line 2: a quote is opened and never closed. "
+                               "new ");
+        form.quoteCbo_Click(2); // None
+        form.List2_Click(1);
+        form.typeCbo_Click(2); // Currency
+        EXPECT_EQ(form.List1.size(), 1);
+        form.signCbo_Click(tables::placeIn(form.signCbo.entries, "Ft"));
+        EXPECT_EQ(form.Grid1[0].Cells[1], "$2.00");
+        platform.givesUpAt = 0;
+        form.Check1_Click(false);
+        form.quoteCbo_Click(0);
+        EXPECT_EQ(shown(form), "open.csv: 1 record. new +a:Text +b:Currency  OK");
+        form.signCbo_Click(1); // given up, too
+        platform.givesUpAt = std::numeric_limits<int>::max();
+        form.signCbo_Click(1); // None
+        EXPECT_FALSE(form.okEnabled);
+        form.Check2_Click(true);
+        form.styleCbo_Click(1);
+        platform.files = {platform.folder / "invoices.fwk"};
+        form.OKButton_Click();
+    });
+    EXPECT_TRUE(app.document.bInvoiceStyle);
     import("no.bin", "x", [](importFrm&) { ADD_FAILURE();
     });
     EXPECT_EQ(platform.messages.back(),
-              "! The table cannot be imported: Invalid file format: the program knows no table of this kind");
+              "! The table cannot be imported: the program knows no table of this kind");
     }
 
     TEST_F(Importing, RowsGoIntoTheOpenDatabaseByName) {

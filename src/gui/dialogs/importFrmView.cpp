@@ -5,6 +5,7 @@
 
 #include <QButtonGroup>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,6 +21,28 @@ QString inOneLine(const std::string& text) {
     return toQt(text).replace(QLatin1Char('\n'), QChar(0x21B5));
 }
 
+constexpr int noteColumn = 3;
+
+// Rows like those of other lists, but with as many lines as their note needs.
+class NoteDelegate final : public QStyledItemDelegate {
+public:
+    explicit NoteDelegate(QTreeWidget& list) : QStyledItemDelegate(&list), list_(list) {}
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        int height = option.fontMetrics.height();
+        const int air = height / 3;
+        const QString text = index.data().toString();
+        if (index.column() == noteColumn && !text.isEmpty()) {
+            const int margin = list_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list_) + 1;
+            const QRect room(0, 0, std::max(1, list_.columnWidth(noteColumn) - margin * 2), 0);
+            height = std::max(height, option.fontMetrics.boundingRect(room, Qt::TextWordWrap, text).height());
+        }
+        return {QStyledItemDelegate::sizeHint(option, index).width(), height + air};
+    }
+
+private:
+    QTreeWidget& list_;
+};
+
 } // namespace
 
 importFrmView::importFrmView(app::App& app, EventBoundary& events, QWidget* parent)
@@ -28,15 +51,18 @@ importFrmView::importFrmView(app::App& app, EventBoundary& events, QWidget* pare
       List2_(named("List2", new QTreeWidget)), nameCaption_(new QLabel(tr("&Name:"))),
       Text1_(named("Text1", new QLineEdit)), Grid1_(named("Grid1", new QTableWidget)),
       Label2_(named("Label2", new QLabel)), List1_(named("List1", new QTreeWidget)),
-      Check2_(named("Check2", new QCheckBox(tr("&Leave these cells empty")))) {
+      Check2_(named("Check2", new QCheckBox(tr("&Leave these cells empty")))), refused_(new QWidget) {
     auto* column = new QVBoxLayout(this);
     Label1_->setTextFormat(Qt::PlainText);
+    Label1_->setWordWrap(true);
     column->addWidget(Label1_);
     column->addLayout(makeFile());
     column->addLayout(makeTarget());
     column->addLayout(makeColumns(), 3);
     column->addLayout(makeRows(), 3);
-    column->addLayout(makeRefused(), 3);
+    refused_->setLayout(makeRefused());
+    refused_->layout()->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(refused_, 3);
     OKButton_ = makeButton("OKButton", tr("&Import"), [this] { form_.OKButton_Click(); });
     OKButton_->setDefault(true);
     column->addLayout(makeBottomRow(
@@ -45,7 +71,7 @@ importFrmView::importFrmView(app::App& app, EventBoundary& events, QWidget* pare
     for (QWidget* list :
          {static_cast<QWidget*>(List2_), static_cast<QWidget*>(Grid1_), static_cast<QWidget*>(List1_)})
         list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    resize(em() * 46, em() * 43);
+    resize(em() * 54, em() * 43);
 }
 
 void importFrmView::addChoice(QHBoxLayout& row, const char* name, const QString& caption,
@@ -91,6 +117,8 @@ QLayout* importFrmView::makeTarget() {
         row->addWidget(button);
         Opt1_.at(i) = button;
     }
+    row->addSpacing(em());
+    addChoice(*row, "styleCbo", tr("Database st&yle:"), &importFrm::styleCbo, &importFrm::styleCbo_Click);
     row->addStretch();
     return row;
 }
@@ -102,6 +130,12 @@ QLayout* importFrmView::makeColumns() {
     List2_->setRootIsDecorated(false);
     List2_->setMinimumHeight(em() * 6);
     useListLook(*List2_);
+    List2_->setUniformRowHeights(false);
+    List2_->setWordWrap(true);
+    List2_->setItemDelegate(new NoteDelegate(*List2_));
+    connect(List2_->header(), &QHeaderView::sectionResized, List2_, [this](int section) {
+        if (section == noteColumn) List2_->doItemsLayout();
+    });
     connect(List2_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item != nullptr) on([&] { form_.List2_Click(List2_->indexOfTopLevelItem(item)); });
     });
@@ -119,6 +153,7 @@ QLayout* importFrmView::makeColumns() {
     addChoice(*row, "targetCbo", tr("&Goes into:"), &importFrm::targetCbo, &importFrm::targetCbo_Click);
     addChoice(*row, "typeCbo", tr("&Type:"), &importFrm::typeCbo, &importFrm::typeCbo_Click);
     addChoice(*row, "readAsCbo", tr("Written &as:"), &importFrm::readAsCbo, &importFrm::readAsCbo_Click);
+    addChoice(*row, "signCbo", tr("Currency &sign:"), &importFrm::signCbo, &importFrm::signCbo_Click);
     row->addStretch();
     auto* column = new QVBoxLayout;
     column->addWidget(caption);
@@ -181,8 +216,7 @@ void importFrmView::showColumns() {
         item->setText(0, inOneLine(column.Name));
         item->setText(1, toQt(column.Type));
         item->setText(2, toQt(column.ReadAs));
-        item->setText(3, toQt(column.Note));
-        item->setToolTip(3, toQt(column.Note));
+        item->setText(noteColumn, toQt(column.Note));
     }
     List2_->setCurrentItem(List2_->topLevelItem(form_.List2Index));
 }
@@ -224,6 +258,9 @@ void importFrmView::showRefused() {
     List1_->setVisible(!items.isEmpty());
     Label2_->setText(toQt(form_.Label2));
     Label2_->setVisible(!form_.Label2.empty());
+    // What it leaves free goes to the columns and the rows above.
+    static_cast<QVBoxLayout*>(layout())->setStretchFactor(refused_, items.isEmpty() ? 0 : 3);
+    refused_->setVisible(!form_.Label2.empty());
 }
 
 void importFrmView::showMembers() {
@@ -238,8 +275,10 @@ void importFrmView::showMembers() {
         choice.caption->setVisible(list.Visible);
     }
     Check1_->setChecked(form_.Check1);
+    Check1_->setEnabled(form_.Check1Enabled);
     Opt1_.at(static_cast<std::size_t>(form_.Opt1))->setChecked(true);
     Opt1_[1]->setEnabled(form_.Opt1Enabled);
+    Text1_->setEnabled(form_.Check1Enabled);
     if (Text1_->text() != toQt(form_.Text1)) Text1_->setText(toQt(form_.Text1));
     Text1_->setVisible(form_.Text1Visible);
     nameCaption_->setVisible(form_.Text1Visible);
@@ -250,12 +289,19 @@ void importFrmView::showMembers() {
     Check2_->setVisible(form_.Check2Visible);
     Check2_->setChecked(form_.Check2);
     OKButton_->setEnabled(form_.okEnabled);
-    if (isSized_) return;
+    sizeColumns();
+}
+
+void importFrmView::sizeColumns() {
+    if (isSized_ || form_.List2.empty()) return;
     isSized_ = true;
     Grid1_->resizeColumnsToContents();
     for (int column = 0; column < Grid1_->columnCount(); ++column)
         Grid1_->setColumnWidth(column, std::clamp(Grid1_->columnWidth(column), em() * 4, em() * 16));
-    for (int column = 0; column < 3; ++column) List2_->setColumnWidth(column, em() * 10);
+    // Most notes are in one line then.
+    const std::array widths = {10, 6, 10};
+    for (int column = 0; column < noteColumn; ++column)
+        List2_->setColumnWidth(column, em() * widths.at(static_cast<std::size_t>(column)));
     for (int column = 0; column < 3; ++column) List1_->setColumnWidth(column, em() * (column == 0 ? 4 : 10));
 }
 

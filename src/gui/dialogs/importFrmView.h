@@ -47,6 +47,7 @@ private:
     QLayout* makeRows();
     QLayout* makeRefused();
     void showColumns();
+    void sizeColumns();
     void showRows();
     void showRefused();
 
@@ -63,6 +64,7 @@ private:
     QTreeWidget* List1_;
     QPushButton* Command1_ = nullptr;
     QCheckBox* Check2_;
+    QWidget* refused_; // what stands below the rows
     QPushButton* OKButton_ = nullptr;
     bool isSized_ = false; // widths that were chosen stay
 };
