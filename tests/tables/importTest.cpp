@@ -156,7 +156,7 @@ EXPECT_FALSE(app.document.bModified);
     } // namespace
 );
     import("open.csv", "a,b\n\"1,2 Ft\n", [&](importFrm& form) {
-        EXPECT_EQ(shown(form), "open.csv cannot be read with these settings: line 2: a quote is opened and never closed. "
+        EXPECT_EQ(shown(form), "open.csv cannot be read like this: line 2: a quote is opened and never closed. "
                                "new ");
         form.quoteCbo_Click(2); // None
         form.List2_Click(1);
