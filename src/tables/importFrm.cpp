@@ -162,7 +162,7 @@ void importFrm::readTable(ImportSteps& steps) {
 
 // The form is of use as long as another choice may help.
 bool importFrm::canBeReadOtherwise() const {
-    return isText_ ? !core::trim(bytes_).empty() : sheetCbo.Visible;
+    return isText_ ? bytes_.find_first_not_of(" \t\r\n") != std::string::npos : sheetCbo.Visible;
 }
 
 void importFrm::work(const std::function<void(ImportSteps&)>& steps) {
