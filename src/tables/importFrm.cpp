@@ -131,7 +131,7 @@ void importFrm::readFile() {
 }
 
 exchange::Sheet importFrm::readSheet(ImportSteps& steps) {
-    const exchange::Progress progress = steps.next(40);
+    const exchange::Progress progress = steps.next(15);
     if (!isText_)
         return exchange::readSheet(file_, format_, static_cast<std::size_t>(sheetCbo.ListIndex), progress);
     exchange::Sheet sheet;
@@ -145,13 +145,12 @@ void importFrm::readTable(ImportSteps& steps) {
     separatorCbo.ListIndex = placeIn(separators, delimiters_.separator);
     quoteCbo.ListIndex = placeIn(quotes, delimiters_.quote);
     List2Index = 0;
-    Check2 = false;
     problem_.clear();
     Hints hints;
     // Semicolons divide tables where commas divide numbers.
     if (isText_ && delimiters_.separator == ';') hints = {DateOrder::DayMonthYear, ',', false, false};
     try {
-        table_.emplace(readSheet(steps), hints, true, app_.platform.today(), steps.next(20));
+        table_.emplace(readSheet(steps), hints, true, app_.platform.today(), steps.next(55));
         findTargets(steps);
     } catch (const std::exception& error) {
         if (isCancelled(error)) throw;
@@ -163,7 +162,7 @@ void importFrm::readTable(ImportSteps& steps) {
 
 // The form is of use as long as another choice may help.
 bool importFrm::canBeReadOtherwise() const {
-    return isText_ ? !core::trim(bytes_).empty() : sheetCbo.Visible;
+    return isText_ ? bytes_.find_first_not_of(" \t\r\n") != std::string::npos : sheetCbo.Visible;
 }
 
 void importFrm::work(const std::function<void(ImportSteps&)>& steps) {
@@ -172,6 +171,7 @@ void importFrm::work(const std::function<void(ImportSteps&)>& steps) {
     try {
         ImportSteps taken(app_);
         steps(taken);
+        Check2 = false; // said of other cells
     } catch (const core::RunTimeError& error) {
         if (!isCancelled(error)) throw;
         choices() = before;
@@ -198,14 +198,14 @@ bool importFrm::isKnownTable() const {
 
 void importFrm::findTargets(ImportSteps& steps) {
     targets_ = {{}, std::vector<std::string>(table_->columns().size())};
-    if (isAppending()) targets_ = tables::findTargets(app_, *table_, steps.next(20));
+    if (isAppending()) targets_ = tables::findTargets(app_, *table_, steps.next(15));
     makeRecords(steps);
 }
 
 // What is refused in the open database has to be asked of it.
 void importFrm::makeRecords(ImportSteps& steps) {
     records_.reset();
-    if (isAppending()) records_ = std::make_shared<NewRecords>(newRecordsOf(app_, *table_, steps.next(20)));
+    if (isAppending()) records_ = std::make_shared<NewRecords>(newRecordsOf(app_, *table_, steps.next(15)));
 }
 
 // --- events
@@ -228,7 +228,7 @@ void importFrm::quoteCbo_Click(int entry) {
 
 void importFrm::Check1_Click(bool checked) {
     work([&](ImportSteps& steps) {
-        table_->setHeadings(checked, steps.next(40));
+        table_->setHeadings(checked, steps.next(70));
         findTargets(steps);
     });
 }
@@ -239,7 +239,7 @@ void importFrm::Opt1_Click(int choice) {
         Opt1 = choice;
         if (!table_) return;
         // Every column again, with a type of its own.
-        if (!isAppending()) table_->setHeadings(Check1, steps.next(40));
+        if (!isAppending()) table_->setHeadings(Check1, steps.next(70));
         findTargets(steps);
     });
 }

@@ -1,4 +1,5 @@
 #include "core/text.h"
+#include "exchange/columnTypes.h"
 #include "tables/counted.h"
 #include "tables/importFrm.h"
 #include "tables/placeIn.h"
@@ -48,12 +49,18 @@ std::string noteOf(const Recognized& how) {
     return note;
 }
 
+// Whether the heading says already where the column goes.
+bool namesTarget(const ImportTable::Column& column) {
+    return core::equalsNoCase(exchange::columnName(column.heading),
+                              exchange::columnName(column.target->Text));
+}
+
 } // namespace
 
 // Nothing can be changed but how the file is read.
 void importFrm::showNoTable() {
     Label1 = std::filesystem::path(file_).filename().string();
-    Label1.append(isText_ ? " cannot be read with these settings: " : ": this sheet cannot be imported: ");
+    Label1.append(isText_ ? " cannot be read like this: " : ": this sheet cannot be imported: ");
     Label1.append(problem_).append(".");
     Label2.clear();
     List2.clear();
@@ -93,7 +100,10 @@ void importFrm::showColumns() {
             shown.Type = core::typeName(column.how.as.type);
             shown.ReadAs = waysToRead(column.how.as).at(static_cast<std::size_t>(wayToRead(column.how.as)));
             if (!column.how.sign.empty()) shown.ReadAs.append(" ").append(column.how.sign);
-            shown.Note = noteOf(column.how);
+            if (isAppending() && !column.heading.empty() && !namesTarget(column))
+                shown.Note.append("In the table: \"").append(column.heading).append("\".");
+            const std::string note = noteOf(column.how);
+            shown.Note.append(shown.Note.empty() || note.empty() ? "" : " ").append(note);
         } else {
             shown.Note = targets_.whyLeftOut[i];
         }

@@ -43,7 +43,9 @@ ImportTable::ImportTable(exchange::Sheet sheet, const Hints& hints, bool bLenien
     }
     if (rows.empty()) throw exchange::TableError("it has no rows");
     if (rows.size() > mostRecords + 1)
-        throw exchange::TableError("it has more than " + std::to_string(mostRecords) + " rows");
+        throw exchange::TableError(std::string("it has more rows than the ")
+                                       .append(std::to_string(mostRecords))
+                                       .append(" records that a database holds"));
     if (width > mostTableColumns)
         throw exchange::TableError("it has more than " + std::to_string(mostTableColumns) + " columns");
     rows_ = std::make_shared<const std::vector<Row>>(std::move(rows));

@@ -135,11 +135,11 @@ press Alt+L; press Return -> -pasteFrm LV.2=>0|-|$.00 LV.3=-|-|- LV=* SB1_1=3 re
             << "Name;Day;Pay\nAnn;31.12.2024;1.234,50\nBob;1.2.2024;x\n";
         run.play(R"(
 file people.csv; click mnuImportTable -> importFrm=Import separatorCbo=1* Check1=x Opt1_0=x List2.0=>x Name|Text|As it
-    is| List2.1=x Day|Date|Day, month, year| List2.2=x Pay|Text|As it is| Text1=Name readAsCbo=-
+    is| List2.1=x Day|Date|Day, month, year| List2.2=x Pay|Text|As it is| Text1=Name readAsCbo=- signCbo=-
     Grid1.0=Ann|12/31/2024|1.234,50 Grid1.1=Bob|02/01/2024|x
 press Alt+O; press Alt+W -> Opt1_0=x*
 press Alt+C; press Down 2; press Alt+T; press Down 2 -> List2.0=x Name|Text|As it is| List2.2=>x
-    Pay|Currency|1.234,50| Text1=Pay typeCbo=2* readAsCbo=1 Grid1.0=Ann|12/31/2024|$1,234.50 List1.0=3|Pay|x|is no
+    Pay|Currency|1.234,50| Text1=Pay typeCbo=2* readAsCbo=1 signCbo Grid1.0=Ann|12/31/2024|$1,234.50 List1.0=3|Pay|x|is no
     number in this form OKButton=-
 press Alt+L; press Alt+N; type 2 -> List2.2=>x 2|Currency|1.234,50| Text1=2| List1.0=3|2|x|is no number in this form
     Check2=x OKButton

@@ -156,26 +156,29 @@ EXPECT_FALSE(app.document.bModified);
     } // namespace
 );
     import("open.csv", "a,b\n\"1,2 Ft\n", [&](importFrm& form) {
-        EXPECT_EQ(shown(form), "open.csv cannot be read with these settings: line 2: a quote is opened and never closed. "
-                               "new ");
-        form.quoteCbo_Click(2); // None
-        form.List2_Click(1);
-        form.typeCbo_Click(2); // Currency
-        EXPECT_EQ(form.List1.size(), 1);
-        form.signCbo_Click(tables::placeIn(form.signCbo.entries, "Ft"));
-        EXPECT_EQ(form.Grid1[0].Cells[1], "$2.00");
-        platform.givesUpAt = 0;
-        form.Check1_Click(false);
-        form.quoteCbo_Click(0);
-        EXPECT_EQ(shown(form), "open.csv: 1 record. new +a:Text +b:Currency  OK");
-        form.signCbo_Click(1); // given up, too
-        platform.givesUpAt = std::numeric_limits<int>::max();
-        form.signCbo_Click(1); // None
-        EXPECT_FALSE(form.okEnabled);
-        form.Check2_Click(true);
-        form.styleCbo_Click(1);
-        platform.files = {platform.folder / "invoices.fwk"};
-        form.OKButton_Click();
+        EXPECT_EQ(shown(form),
+                  "open.csv cannot be read like this: line 2: a quote is opened and never closed. new ");
+    form.quoteCbo_Click(2); // None
+    form.List2_Click(1);
+    form.typeCbo_Click(2); // Currency
+    EXPECT_EQ(form.List1.size(), 1);
+    form.signCbo_Click(tables::placeIn(form.signCbo.entries, "Ft"));
+    EXPECT_EQ(form.Grid1[0].Cells[1], "$2.00");
+    platform.givesUpAt = 0;
+    form.Check1_Click(false);
+    form.quoteCbo_Click(0);
+    EXPECT_EQ(shown(form), "open.csv: 1 record. new +a:Text +b:Currency  OK");
+    form.signCbo_Click(1); // given up, too
+    platform.givesUpAt = std::numeric_limits<int>::max();
+    form.signCbo_Click(1); // None
+    EXPECT_FALSE(form.okEnabled);
+    form.Check2_Click(true);
+    form.typeCbo_Click(1); // Number: the mark was said of other cells
+    EXPECT_FALSE(form.okEnabled);
+    form.Check2_Click(true);
+    form.styleCbo_Click(1);
+    platform.files = {platform.folder / "invoices.fwk"};
+    form.OKButton_Click();
     });
     EXPECT_TRUE(app.document.bInvoiceStyle);
     import("no.bin", "x", [](importFrm&) { ADD_FAILURE();
@@ -192,7 +195,13 @@ EXPECT_FALSE(app.document.bModified);
     form.readAsCbo_Click(1);
     form.List2_ItemCheck(1, false);
     form.List2_Click(1);
+    form.targetCbo_Click(1);
+    EXPECT_EQ(form.List2[1].Note, "In the table: \"DAY\".");
     form.targetCbo_Click(3);
+    platform.givesUpAt = 0;
+    form.Opt1_Click(0);
+    EXPECT_EQ(shown(form), "t.txt: 2 records. open +Price:Currency +Day:Date  OK");
+    platform.givesUpAt = std::numeric_limits<int>::max();
     form.OKButton_Click();
     });
     EXPECT_EQ(cells(app.document.LV.at(2)), "|$7.00|04/13/2024|");

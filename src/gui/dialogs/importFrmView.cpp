@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <set>
 
 namespace gui {
 
@@ -229,12 +230,15 @@ void importFrmView::showRows() {
     QStringList headings, numbers;
     for (const importFrm::Column& column : form_.List2) headings.append(inOneLine(column.Name));
     Grid1_->setHorizontalHeaderLabels(headings);
+    std::set<int> changed; // the others keep the widths that were chosen for them
     for (int row = 0; row < rows; ++row) {
         const importFrm::Row& shown = form_.Grid1[static_cast<std::size_t>(row)];
         numbers.append(QString::number(shown.Number));
         for (int column = 0; column < columns; ++column) {
             const auto place = static_cast<std::size_t>(column);
+            const QTableWidgetItem* before = Grid1_->item(row, column);
             auto* item = new QTableWidgetItem(inOneLine(shown.Cells[place]));
+            if (before == nullptr || before->text() != item->text()) changed.insert(column);
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             if (shown.Refused[place]) {
                 QFont struck = Grid1_->font();
@@ -246,6 +250,10 @@ void importFrmView::showRows() {
         }
     }
     Grid1_->setVerticalHeaderLabels(numbers);
+    for (const int column : changed) {
+        Grid1_->resizeColumnToContents(column);
+        Grid1_->setColumnWidth(column, std::clamp(Grid1_->columnWidth(column), em() * 4, em() * 16));
+    }
 }
 
 void importFrmView::showRefused() {
@@ -295,9 +303,6 @@ void importFrmView::showMembers() {
 void importFrmView::sizeColumns() {
     if (isSized_ || form_.List2.empty()) return;
     isSized_ = true;
-    Grid1_->resizeColumnsToContents();
-    for (int column = 0; column < Grid1_->columnCount(); ++column)
-        Grid1_->setColumnWidth(column, std::clamp(Grid1_->columnWidth(column), em() * 4, em() * 16));
     // Most notes are in one line then.
     const std::array widths = {10, 6, 10};
     for (int column = 0; column < noteColumn; ++column)
