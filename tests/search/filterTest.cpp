@@ -190,9 +190,10 @@ Part filter(Chance& chance) {
     for (int sides = 1 + chance.below(5) / 3; sides > 0; --sides) {
         Part side{"", [](const Plain&) { return true; }};
         for (int parts = 1 + chance.below(3); parts > 0; --parts) {
-            const auto [text, holds] = part(chance);
-            side = {side.first + text + " ",
-                    [=, before = side.second](const Plain& r) { return before(r) && holds(r); }};
+            const Part one = part(chance);
+            side = {side.first + one.first + " ", [holds = one.second, before = side.second](const Plain& r) {
+                        return before(r) && holds(r);
+                    }};
         }
         whole = {whole.first + (whole.first.empty() ? "" : "| ") + side.first,
                  [before = whole.second, now = side.second](const Plain& r) { return before(r) || now(r); }};
@@ -222,11 +223,12 @@ TEST(Filter, FindsWhatALoopFindsWhileItIsTypedAndRecordsChange) {
         FilterProgram program(DataFile("Name Bed Price:2 Qty:4 Planted:1", rows));
         program.total({"Qty"});
         for (int round = 0; round < 50; ++round) {
-            const auto [text, holds] = filter(chance);
+            const Part one = filter(chance);
+            const std::string& text = one.first;
             std::string wanted;
             int sum = 0;
             for (std::size_t i = 0; i < plain.size(); ++i)
-                if (holds(plain[i])) {
+                if (one.second(plain[i])) {
                     wanted += (wanted.empty() ? "i" : " i") + std::to_string(i + 1);
                     sum += plain[i].qty;
                 }

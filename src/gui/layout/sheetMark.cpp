@@ -7,7 +7,7 @@ namespace gui {
 
 namespace {
 
-constexpr int thickness = 2;
+constexpr int frameThickness = 2;
 
 } // namespace
 
@@ -22,11 +22,12 @@ void SheetMark::surround(const QWidget* object, bool outside) {
     if (isHidden()) return;
     // Half on the edge of a box for text, so that boxes without a gap between them stay whole; a thin line
     // would vanish under it.
-    const int gap = outside ? thickness : thickness / 2;
+    const int gap = outside ? frameThickness : frameThickness / 2;
     const QRect place = object->geometry().adjusted(-gap, -gap, gap, gap);
     if (place != geometry()) {
         setGeometry(place);
-        const QRect inside = rect().adjusted(thickness, thickness, -thickness, -thickness);
+        const QRect inside =
+            rect().adjusted(frameThickness, frameThickness, -frameThickness, -frameThickness);
         setMask(QRegion(rect()) - inside);
     }
     raise();

@@ -18,7 +18,7 @@ namespace {
 struct Look {
     QRgb lightGround, darkGround, lightMark, darkMark;
 };
-constexpr std::array<Look, 6> looks = {{
+constexpr std::array<Look, 6> cellLooks = {{
     {0xfffddcd8, 0xff5a2a26, 0xffc5221f, 0xfff28b82}, // red
     {0xffffe6c7, 0xff5a4020, 0xffa84a00, 0xfffbb069}, // orange
     {0xfffff5b8, 0xff4f4715, 0xff7a5d00, 0xfffdd663}, // yellow
@@ -28,7 +28,7 @@ constexpr std::array<Look, 6> looks = {{
 }};
 
 const Look& lookOf(int colour) {
-    return looks.at(static_cast<std::size_t>(std::clamp<int>(colour, 0, looks.size() - 1)));
+    return cellLooks.at(static_cast<std::size_t>(std::clamp<int>(colour, 0, cellLooks.size() - 1)));
 }
 
 // A polygon around the middle of the box, with its first corner at that angle in quarters of a turn.
