@@ -244,7 +244,8 @@ Run setUpStatistics(CLI::App& command) {
     addFileArgument(command, options->file);
     command.add_option("COLUMN", options->column, "The column")->required();
     command.add_option("--top", options->top, "So many of the most frequent values, 10 when not told")
-        ->type_name("N");
+        ->type_name("N")
+        ->check(CLI::NonNegativeNumber);
     addWhereOption(command, options->where);
     command.add_flag("--json", options->json, "As JSON");
     command.parse_complete_callback([options] { options->where.read(); });

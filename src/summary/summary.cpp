@@ -40,7 +40,6 @@ private:
     void addSingle(const Item& record);
     void addItems(const Item& record);
     void count(std::uint32_t group, std::size_t column, std::string_view value);
-    void countAll(std::size_t column, std::string_view cell, const std::vector<std::uint32_t>& groups);
     Group shown(std::size_t row) const;
     Counter& counterOf(std::size_t group, std::size_t column) {
         return counters_[group * counted_.size() + column];

@@ -18,6 +18,7 @@ constexpr float columnGap = 250; // twips
 constexpr float ruleGap = 40;
 constexpr float leastBars = 1440; // narrower ones tell nothing
 constexpr float titleFont = 12, usualFont = 10, smallestFont = 6;
+constexpr std::size_t mostLetters = 1000; // more than a line of the widest paper has
 constexpr std::int32_t barGrey = 0x909090;
 
 class SummaryPage {
@@ -27,7 +28,10 @@ public:
           scale_(summary, barFigure), byCount_(summary.request.by.size()),
           barName_(barFigure == recordsBar
                        ? std::string(recordsHeading)
-                       : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {}
+                       : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {
+        for (auto& row : table_.rows)
+            for (std::string& cell : row) cell.resize(core::left(cell, mostLetters).size());
+    }
 
     void draw(std::string_view title) {
         print::usePage(app_, target_, print::reportPage(app_));
@@ -42,7 +46,7 @@ public:
         target_.FontBold = true;
         target_.CurrentX = left_;
         target_.CurrentY = top_;
-        target_.Print(title, true);
+        target_.Print(fitted(title, right_ - left_), true);
         y_ = target_.CurrentY + columnGap / 2;
         measure();
         drawHeadings();
@@ -73,13 +77,19 @@ private:
 
     float mostForKeys() const { return (right_ - left_) / 2; }
 
-    // A text that is too long ends in dots.
+    // A text that is too long ends in dots. How much of it fits is found by halves, since each look measures
+    // it.
     std::string fitted(std::string_view text, float width) {
+        const auto fits = [&](const std::string& part) { return target_.TextWidth(part) <= width + 1; };
         std::string all(text);
-        for (std::size_t length = core::length(text); length > 0 && target_.TextWidth(all) > width + 1;
-             --length)
-            all.assign(core::left(text, length - 1)).append("...");
-        return all;
+        if (fits(all)) return all;
+        std::size_t most = 0;
+        for (std::size_t tooMany = core::length(text); most + 1 < tooMany;) {
+            const std::size_t middle = most + (tooMany - most) / 2;
+            all.assign(core::left(text, middle)).append("...");
+            (fits(all) ? most : tooMany) = middle;
+        }
+        return all.assign(core::left(text, most)).append("...");
     }
 
     template <typename TextOf>

@@ -2,6 +2,7 @@
 
 #include "gui/summary/barDrawing.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/toolTip.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -20,6 +21,11 @@ namespace {
 
 constexpr int gap = 6; // pixels between name, bar and value
 constexpr int mostMeasured = 2000;
+constexpr qsizetype mostLetters = 200; // of a name, which no bar leaves room for
+
+QString nameOf(const summary::Group& group) {
+    return toQt(group.name()).left(mostLetters);
+}
 
 } // namespace
 
@@ -47,7 +53,7 @@ QString BarChart::told(int group) const {
     const summary::Group& shown = summary_->groups.at(static_cast<std::size_t>(group));
     const std::string value = summary::barText(shown, figure_);
     return tr("%1\n%2: %3", "group, figure and its value")
-        .arg(toQt(shown.name()), figureName_, value.empty() ? tr("none") : toQt(value));
+        .arg(nameOf(shown), figureName_, value.empty() ? tr("none") : toQt(value));
 }
 
 void BarChart::showSummary(const summary::Summary& summary, int figure, const QString& figureName) {
@@ -67,7 +73,7 @@ void BarChart::measure() {
     const int measured = std::min(count(), mostMeasured);
     for (int i = 0; i < measured; ++i) {
         const summary::Group& group = summary_->groups[static_cast<std::size_t>(i)];
-        nameWidth_ = std::max(nameWidth_, fontMetrics().horizontalAdvance(toQt(group.name())) + 2);
+        nameWidth_ = std::max(nameWidth_, fontMetrics().horizontalAdvance(nameOf(group)) + 2);
         valueWidth_ =
             std::max(valueWidth_, fontMetrics().horizontalAdvance(toQt(summary::barText(group, figure_))));
     }
@@ -111,7 +117,7 @@ void BarChart::paintRow(QPainter& painter, int group, const QRect& row) const {
     painter.setPen(palette().color(QPalette::Text));
     const QRect name(row.left() + gap, row.top(), nameWidth_, row.height());
     painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter,
-                     fontMetrics().elidedText(toQt(shown.name()), Qt::ElideRight, nameWidth_));
+                     fontMetrics().elidedText(nameOf(shown), Qt::ElideRight, nameWidth_));
     const int left = name.right() + gap;
     const int room = std::max(0, row.right() - left - valueWidth_ - 3 * gap);
     const summary::Bar bar = scale_->barOf(shown);
@@ -198,8 +204,7 @@ bool BarChart::viewportEvent(QEvent* event) {
     if (group < 0)
         QToolTip::hideText();
     else
-        QToolTip::showText(help->globalPos(),
-                           told(group).toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")), viewport());
+        QToolTip::showText(help->globalPos(), toolTipOf(told(group)), viewport());
     return true;
 }
 

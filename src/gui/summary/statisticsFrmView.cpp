@@ -3,6 +3,7 @@
 #include "gui/records/listLook.h"
 #include "gui/summary/barDrawing.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/toolTip.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -92,7 +93,7 @@ void statisticsFrmView::showMembers() {
     const auto add = [](QTreeWidget& list, const std::string& name, const std::string& value) {
         auto* item = new QTreeWidgetItem(&list, {toQt(name), toQt(value)});
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-        for (int column = 0; column < 2; ++column) item->setToolTip(column, item->text(column));
+        for (int column = 0; column < 2; ++column) item->setToolTip(column, toolTipOf(item->text(column)));
         return item;
     };
     List1_->clear();

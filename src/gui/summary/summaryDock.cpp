@@ -259,8 +259,7 @@ void SummaryDock::showSummary() {
         const int current = table_->currentIndex().row(), columns = model_->columnCount();
         model_->show(panel_.summary);
         if (current >= 0) table_->setCurrentIndex(model_->index(std::min(current, model_->groups()), 0));
-        if (columns != model_->columnCount() || current < 0)
-            for (int i = 0; i < model_->columnCount(); ++i) table_->resizeColumnToContents(i);
+        if (columns != model_->columnCount() || current < 0) fitColumns();
         fillBox(*bars_, panel_.barNames);
         bars_->setCurrentIndex(panel_.bars);
         note_->setText(toQt(panel_.note));
@@ -269,6 +268,15 @@ void SummaryDock::showSummary() {
     const auto bar = static_cast<std::size_t>(panel_.bars);
     chart_->showSummary(panel_.summary, panel_.barFigure(),
                         bar < panel_.barNames.size() ? toQt(panel_.barNames[bar]) : QString());
+}
+
+// A long text leaves the figures in sight.
+void SummaryDock::fitColumns() {
+    constexpr int mostOfColumn = 16; // heights of a line
+    for (int i = 0; i < model_->columnCount(); ++i) {
+        table_->resizeColumnToContents(i);
+        table_->setColumnWidth(i, std::min(table_->columnWidth(i), mostOfColumn * fontMetrics().height()));
+    }
 }
 
 // A group, or all records for the grand total.

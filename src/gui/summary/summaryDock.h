@@ -48,6 +48,7 @@ private:
     void showChoosers();
     void fillFigures();
     void showSummary();
+    void fitColumns();
     void choose(int row);
 
     app::App& app_;

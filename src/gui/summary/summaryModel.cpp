@@ -1,6 +1,7 @@
 #include "gui/summary/summaryModel.h"
 
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/toolTip.h"
 
 #include <QApplication>
 #include <QFont>
@@ -27,8 +28,9 @@ QVariant SummaryModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row()), column = static_cast<std::size_t>(index.column());
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return toQt(table_.rows[row][column]);
+    case Qt::ToolTipRole:
+        return toolTipOf(toQt(table_.rows[row][column]));
     case Qt::TextAlignmentRole:
         return QVariant((column < groupColumns_ ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     case Qt::FontRole: {
