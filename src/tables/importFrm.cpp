@@ -150,7 +150,8 @@ void importFrm::readTable(ImportSteps& steps) {
     // Semicolons divide tables where commas divide numbers.
     if (isText_ && delimiters_.separator == ';') hints = {DateOrder::DayMonthYear, ',', false, false};
     try {
-        table_.emplace(readSheet(steps), hints, true, app_.platform.today(), steps.next(55));
+        exchange::Sheet sheet = readSheet(steps);
+        table_.emplace(std::move(sheet), hints, true, app_.platform.today(), steps.next(55));
         findTargets(steps);
     } catch (const std::exception& error) {
         if (isCancelled(error)) throw;
@@ -177,6 +178,10 @@ void importFrm::work(const std::function<void(ImportSteps&)>& steps) {
         choices() = before;
     }
     showAll();
+}
+
+void importFrm::workOnTable(const std::function<void(ImportSteps&)>& steps) {
+    if (table_) work(steps); // where none can be read there is nothing to choose
 }
 
 // After another choice of how the file is read.
@@ -227,7 +232,7 @@ void importFrm::quoteCbo_Click(int entry) {
 }
 
 void importFrm::Check1_Click(bool checked) {
-    work([&](ImportSteps& steps) {
+    workOnTable([&](ImportSteps& steps) {
         table_->setHeadings(checked, steps.next(70));
         findTargets(steps);
     });
@@ -251,7 +256,7 @@ void importFrm::List2_Click(int column) {
 }
 
 void importFrm::List2_ItemCheck(int column, bool checked) {
-    work([&](ImportSteps& steps) {
+    workOnTable([&](ImportSteps& steps) {
         const auto place = static_cast<std::size_t>(column);
         List2Index = column;
         if (!isAppending()) {
@@ -273,6 +278,7 @@ void importFrm::List2_ItemCheck(int column, bool checked) {
 }
 
 void importFrm::Text1_Change(const std::string& text) {
+    if (!table_) return;
     Text1 = text;
     table_->setName(column(), text);
     showColumns();
@@ -280,7 +286,7 @@ void importFrm::Text1_Change(const std::string& text) {
 }
 
 void importFrm::targetCbo_Click(int entry) {
-    work([&](ImportSteps& steps) {
+    workOnTable([&](ImportSteps& steps) {
         const core::Column* target =
             entry < 1 ? nullptr : targets_.choices.at(static_cast<std::size_t>(entry) - 1);
         for (std::size_t i = 0; i < table_->columns().size(); ++i)
@@ -292,14 +298,14 @@ void importFrm::targetCbo_Click(int entry) {
 }
 
 void importFrm::typeCbo_Click(int entry) {
-    work([&](ImportSteps&) {
+    workOnTable([&](ImportSteps&) {
         const ColumnType type = types.at(static_cast<std::size_t>(entry));
         if (type != table_->columns()[column()].how.as.type) table_->setType(column(), type);
     });
 }
 
 void importFrm::readAsCbo_Click(int entry) {
-    work([&](ImportSteps& steps) {
+    workOnTable([&](ImportSteps& steps) {
         ReadAs as = table_->columns()[column()].how.as;
         if (as.type == ColumnType::Date)
             as.dates = static_cast<DateOrder>(entry);
@@ -312,7 +318,7 @@ void importFrm::readAsCbo_Click(int entry) {
 
 // "Recognised", "None", and the signs.
 void importFrm::signCbo_Click(int entry) {
-    work([&](ImportSteps& steps) {
+    workOnTable([&](ImportSteps& steps) {
         CurrencySign sign;
         if (entry == 1) sign.emplace();
         if (entry > 1) sign = currencySigns()[static_cast<std::size_t>(entry) - 2];
@@ -327,7 +333,7 @@ void importFrm::styleCbo_Click(int entry) {
 }
 
 void importFrm::Command1_Click() {
-    work([&](ImportSteps&) { table_->keepAsText(); });
+    workOnTable([&](ImportSteps&) { table_->keepAsText(); });
 }
 
 void importFrm::Check2_Click(bool checked) {

@@ -102,6 +102,7 @@ private:
     void makeRecords(ImportSteps& steps);
     // What takes long. What the user gives up half-way leaves everything as it was.
     void work(const std::function<void(ImportSteps&)>& steps);
+    void workOnTable(const std::function<void(ImportSteps&)>& steps);
     auto choices() {
         return std::tie(table_, targets_, records_, problem_, delimiters_, sheetCbo, encodingCbo,
                         separatorCbo, quoteCbo, Opt1, List2Index, Check2);

@@ -3,7 +3,7 @@
 #include "exchange/sheet.h"
 #include "folderFixture.h"
 
-#include <chrono>
+#include <ctime>
 #include <dlfcn.h>
 #include <malloc.h>
 #include <random>
@@ -337,9 +337,9 @@ TEST_F(SheetFile, HostileFilesAreRefusedInTime) {
         const std::string name = each.path().filename().string();
         malloc_trim(0);
         writeBytes("/proc/self/clear_refs", "5"); // the most memory, anew
-        const auto start = std::chrono::steady_clock::now();
+        const std::clock_t start = std::clock(); // of the processor: others may work beside this
         EXPECT_EQ(raisedBy([&] { read(name); }), core::errors::badFileFormat) << name;
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2)) << name;
+        EXPECT_TRUE(isSanitized() || std::clock() - start < 2 * CLOCKS_PER_SEC) << name;
         const std::string status = readBytes("/proc/self/status");
         const long kilobytes = std::stol(status.substr(status.find("VmHWM:") + 6));
         EXPECT_TRUE(isSanitized() || kilobytes < 256 * 1024) << name << " " << kilobytes;

@@ -166,7 +166,7 @@ EXPECT_FALSE(app.document.bModified);
     EXPECT_EQ(form.Grid1[0].Cells[1], "$2.00");
     platform.givesUpAt = 0;
     form.Check1_Click(false);
-    form.quoteCbo_Click(0);
+    form.quoteCbo_Click(1);
     EXPECT_EQ(shown(form), "open.csv: 1 record. new +a:Text +b:Currency  OK");
     form.signCbo_Click(1); // given up, too
     platform.givesUpAt = std::numeric_limits<int>::max();
