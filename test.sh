@@ -84,11 +84,13 @@ check_style() {
 fuzz() {
     local at=build/sanitized
     cmake --build --preset sanitized --target fuzz_corpus -- "${quiet[@]}" || return 1
-    local target failed=0 running=()
-    for target in reader archive; do
+    local target dictionary failed=0 running=()
+    for target in reader archive tables; do
         mkdir -p "$at/grown-$target"
+        dictionary=reader
+        [[ $target != tables ]] || dictionary=tables
         "$at/fuzz/fuzz_$target" -max_total_time="$fuzz_seconds" -timeout=10 -rss_limit_mb=2048 \
-            -print_final_stats=1 -verbosity=0 -dict=fuzz/reader.dict -artifact_prefix="$at/found-$target-" \
+            -print_final_stats=1 -verbosity=0 -dict="fuzz/$dictionary.dict" -artifact_prefix="$at/found-$target-" \
             "$at/grown-$target" "$at/corpus-$target" >"$logs/fuzz-$target.log" 2>&1 &
         running+=($!)
     done

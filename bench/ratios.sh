@@ -92,6 +92,28 @@ measure_total() {
     row "$name: total / info (least of $runs)" "$total" "$info" 2 ms
 }
 
+# The records out into a table and in from it, each against the spreadsheet program that writes the same table from
+# comma-separated values, or reads it into such.
+measure_tables() {
+    local name=$1 file=$2 kind out in
+    if ! command -v ssconvert >/dev/null; then
+        echo "$name: tables / ssconvert: skipped, there is no ssconvert (package gnumeric)"
+        return
+    fi
+    local runs=$((runs < 5 ? runs : 5)) # a run of ssconvert takes seconds
+    "$fwk" export "$file" -o table.csv
+    out=$(median "$fwk export $file -o again.csv")
+    in=$(median "$fwk import new.fwk again.csv" --prepare "rm -f new.fwk")
+    row "$name: out and in as csv / ssconvert" "$(awk -v a="$out" -v b="$in" 'BEGIN { print a + b }')" \
+        "$(median "ssconvert table.csv other.csv")" 0.5 ms
+    for kind in xlsx ods; do
+        row "$name: out as $kind / ssconvert" "$(median "$fwk export $file -o table.$kind")" \
+            "$(median "ssconvert table.csv other.$kind")" 0.5 ms
+        row "$name: in from $kind / ssconvert" "$(median "$fwk import new.fwk table.$kind" --prepare "rm -f new.fwk")" \
+            "$(median "ssconvert table.$kind other.csv")" 0.5 ms
+    done
+}
+
 cp "$project/tests/data/packages-32000.fwk" packages.fwk
 chmod u+w packages.fwk
 "$build/bench/make_big_database" largest.fwk
@@ -99,5 +121,6 @@ chmod u+w packages.fwk
 printf '%-46s %11s %11s %6s  %-7s\n' "" Ferrowick other ratio limit
 measure_total "32000 x 10" packages.fwk Bytes
 measure "32000 x 10" packages.fwk Bytes
+measure_tables "32000 x 10" packages.fwk
 measure "32767 x 50" largest.fwk Col2
 exit $failed

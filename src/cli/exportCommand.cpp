@@ -7,10 +7,12 @@
 #include "cli/session.h"
 #include "exchange/columnTypes.h"
 #include "exchange/csvWriter.h"
+#include "exchange/pictures.h"
 #include "file/atomicFile.h"
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
+#include <iostream>
 
 namespace cli {
 
@@ -27,7 +29,8 @@ constexpr const char* aboutExport =
     "reads it back with all cells to the letter. OUT.json is\n"
     "  {\"style\": \"standard\", \"columns\": [{\"name\": \"Price\", \"type\": \"Currency\"}],\n"
     "   \"records\": [[\"$1.50\"]]}\n"
-    "The Totals row, expressions, the layout and images stay behind; save-as copies all of it.\n"
+    "The Totals row, expressions, the layout and, without --pictures, images stay behind; save-as copies all "
+    "of it.\n"
     "OUT.tsv is the same with tabs. In OUT.xlsx and OUT.ods dates, numbers and money are typed cells under "
     "a\n"
     "heading row that stays in sight, and calculated columns are formulas where a spreadsheet counts alike\n"
@@ -36,7 +39,7 @@ constexpr const char* aboutExport =
 
 struct ExportOptions {
     std::string file, output, format, columns;
-    bool totals = false, values = false;
+    bool totals = false, values = false, pictures = false;
 };
 
 constexpr const char* standardOutput = "-";
@@ -122,23 +125,44 @@ exchange::OutTable tableOf(const ExportOptions& options, core::Document& documen
     return table;
 }
 
+// In the workbook, or in a folder beside any other kind of table.
+void takePictures(Session& session, const ExportOptions& options, Format format, exchange::OutTable& table) {
+    const bool bInside = format == Format::Xlsx;
+    const std::filesystem::path folder =
+        bInside ? session.platform.workFolder() / "pictures" : exchange::picturesBeside(options.output);
+    try {
+        for (const std::string& name : exchange::unpackPictures(options.file, table, folder))
+            std::cerr << "fwk: " << printable(options.file) << ": it has no picture \"" << printable(name)
+                      << "\"\n";
+    } catch (const core::RunTimeError& error) {
+        throw Failure(folder.string(), std::string("could not be written: ") + error.what());
+    }
+    session.refuseIfChanged();
+    if (bInside) table.pictures = folder;
+}
+
 int run(const ExportOptions& options) {
     const Format format = formatOf(options);
     const bool toStandardOutput = options.output == standardOutput;
     if (toStandardOutput && !exchange::isTextFormat(format))
         throw Failure(options.output, "this kind of table is no text; it needs a file");
+    if (toStandardOutput && options.pictures)
+        throw Failure(options.output, "pictures need a file beside them");
     Session session(options.file);
     session.open();
     if (!toStandardOutput) session.refuseAsOutput(options.output);
     core::Document& document = session.app.document;
     const Columns columns = session.columns(namesIn(options.columns));
     std::string text;
+    exchange::OutTable table;
+    const bool isPlain = !options.totals && (format == Format::Json || format == Format::Csv);
+    if (!isPlain || options.pictures) table = tableOf(options, document, columns);
+    if (options.pictures) takePictures(session, options, format, table);
     if (format == Format::Json && !options.totals) {
         text = tableAsJson(document, columns);
     } else if (format == Format::Csv && !options.totals) {
         text = tableAsCsv(document.LV, columns);
     } else {
-        const exchange::OutTable table = tableOf(options, document, columns);
         try {
             if (exchange::isTextFormat(format))
                 text = exchange::sheetText(format, table);
@@ -169,6 +193,8 @@ Run setUpExport(CLI::App& command) {
     command.add_option("--columns", options->columns, "These columns alone, in this order")->type_name("A,B");
     command.add_flag("--totals", options->totals, "With the Totals row");
     command.add_flag("--values", options->values, "Calculated columns as values, not as formulas");
+    command.add_flag("--pictures", options->pictures,
+                     "With the pictures: in OUT.xlsx, or in a folder OUT_pictures beside it");
     command.footer(aboutExport);
     return [options] { return run(*options); };
 }

@@ -91,7 +91,7 @@ void appendTo(Session& session, const SheetImport& import, ImportTable& table) {
 } // namespace
 
 bool WrittenTable::isTold() const {
-    return noHeadings || !(dates + decimal + encoding + separator).empty();
+    return noHeadings || !(dates + decimal + encoding + separator + quotes).empty();
 }
 
 tables::Hints WrittenTable::hints() const {
@@ -118,6 +118,9 @@ void addWrittenTableOptions(CLI::App& command, WrittenTable& written) {
     command.add_option("--separator", written.separator, "What divides the cells: , ; | or tab")
         ->check(CLI::IsMember({",", ";", "|", "tab"}))
         ->type_name("MARK");
+    command.add_option("--quotes", written.quotes, "What stands around cells: \", ' or none")
+        ->check(CLI::IsMember({"\"", "'", "none"}))
+        ->type_name("MARK");
     command.add_flag("--no-headings", written.noHeadings, "The first row is a record");
 }
 
@@ -134,6 +137,8 @@ exchange::Sheet readTextSheet(const std::string& table, const WrittenTable& writ
         exchange::Delimiters delimiters = exchange::recognizedDelimiters(text);
         if (!written.separator.empty())
             delimiters.separator = written.separator == "tab" ? '\t' : written.separator.front();
+        if (!written.quotes.empty())
+            delimiters.quote = written.quotes == "none" ? '\0' : written.quotes.front();
         exchange::Sheet sheet;
         sheet.rows = exchange::readDelimited(text, delimiters);
         return sheet;

@@ -15,7 +15,7 @@ namespace cli {
 
 // How a table is written, as far as the user tells it; the rest is recognised.
 struct WrittenTable {
-    std::string dates, decimal, encoding, separator;
+    std::string dates, decimal, encoding, separator, quotes;
     bool noHeadings = false;
 
     // Without any of it a table of comma-separated values is read as it always was.

@@ -1,9 +1,13 @@
 #include "exchange/formats.h"
 #include "exchange/sheetNumbers.h"
+#include "exchange/toldTypes.h"
 #include "exchange/xmlPieces.h"
 #include "file/zip.h"
 
 #include <algorithm>
+#include <array>
+#include <functional>
+#include <set>
 
 namespace exchange::ods {
 
@@ -17,6 +21,23 @@ std::string contentOf(const std::filesystem::path& file) {
     auto text = zip.readEntry("content.xml", SheetBounds::fileBytes);
     if (!text) refuseSheet("it has no content.xml");
     return *std::move(text);
+}
+
+std::vector<std::string> toldTypes(const std::filesystem::path& file) {
+    file::Zip zip;
+    zip.OpenArchive(file);
+    std::vector<std::string> headings;
+    std::string text = zip.readEntry("meta.xml", SheetBounds::fileBytes).value_or("");
+    XmlPieces pieces(text);
+    pugi::xml_document tree;
+    for (auto each = pieces.next(" user-defined "); !each.name.empty();
+         each = pieces.next(" user-defined ")) {
+        pieces.read(each, tree);
+        const pugi::xml_node node = tree.document_element();
+        if (std::string_view(attributeOf(node, "name").value()).starts_with(typeProperty))
+            headings.emplace_back(node.text().get());
+    }
+    return headings;
 }
 
 std::size_t repeats(const pugi::xml_node& node, std::string_view name) {
@@ -72,12 +93,20 @@ private:
     bool bLastBlank_ = false;
 };
 
+// Not every program tells an amount by the type of its cell.
+bool hasCurrencySign(std::string_view shown) {
+    return std::ranges::any_of(std::array<std::string_view, 4>{"$", "\u20AC", "\u00A3", "\u00A5"},
+                               [&](std::string_view sign) { return shown.find(sign) != shown.npos; });
+}
+
 SheetCell cellOf(const pugi::xml_node& node) {
     const std::string_view type = attributeOf(node, "value-type").value();
     if (type == "float" || type == "percentage" || type == "currency") {
         const auto number = doubleIn(attributeOf(node, "value").value());
-        if (!number) return {Kind::Text, CellText::of(node)};
-        return {Kind::Number, digitsAsShown(numberDigits(*number), CellText::of(node)), type == "currency"};
+        const std::string shown = CellText::of(node);
+        if (!number) return {Kind::Text, shown};
+        return {Kind::Number, digitsAsShown(numberDigits(*number), shown),
+                type == "currency" || hasCurrencySign(shown)};
     }
     if (type == "date") return isoCell(attributeOf(node, "date-value").value());
     if (type == "time") return durationCell(attributeOf(node, "time-value").value());
@@ -148,14 +177,28 @@ private:
     SheetCollector collector_;
 };
 
-// Goes through the tables; `atTable` is told each name, and answers false when it has what it wants.
+// Goes through the tables that are shown; `atTable` is told each name, and answers false when it has what it
+// wants.
 void eachTable(XmlPieces& pieces, const std::function<bool(const std::string& name)>& atTable) {
+    constexpr std::string_view parts = " style table ";
     int depth = 0;
     pugi::xml_document tree;
-    for (auto each = pieces.next(" table ", true); !each.name.empty(); each = pieces.next(" table ", true)) {
+    std::set<std::string, std::less<>> hidden; // styles of sheets
+    for (auto each = pieces.next(parts, true); !each.name.empty(); each = pieces.next(parts, true)) {
+        if (each.name == "style") {
+            if (each.isEnd) continue;
+            pieces.read(each, tree);
+            const pugi::xml_node style = tree.document_element();
+            const std::string_view display =
+                attributeOf(childOf(style, "table-properties"), "display").value();
+            if (display == "false") hidden.insert(attributeOf(style, "name").value());
+            continue;
+        }
         if (!each.isEnd && depth == 0) {
             pieces.readTag(each, tree);
-            if (!atTable(attributeOf(tree.document_element(), "name").value())) return;
+            const pugi::xml_node table = tree.document_element();
+            const bool bShown = !hidden.contains(std::string_view(attributeOf(table, "style-name").value()));
+            if (bShown && !atTable(attributeOf(table, "name").value())) return;
         }
         if (!each.isEmpty) depth += each.isEnd ? -1 : 1;
     }
@@ -188,6 +231,7 @@ Sheet read(const std::filesystem::path& file, std::size_t sheet, const Progress&
     Sheet table = SheetReader(pieces).read(progress);
     table.name = std::move(name);
     table.bTyped = true;
+    restoreTypes(table, toldTypes(file));
     return table;
 }
 

@@ -1,5 +1,7 @@
 #include "core/text.h"
 #include "exchange/formats.h"
+#include "exchange/toldTypes.h"
+#include "file/packedPart.h"
 #include "file/zip.h"
 
 #include <algorithm>
@@ -90,14 +92,26 @@ public:
     explicit ContentWriter(const OutTable& table)
         : table_(table), formulas_(table, OutFormulas::Style::Ods) {}
 
-    std::string write(const Progress& progress) {
+    // The text has some forty times the bytes of the cells, so that it is never in memory as a whole.
+    file::PackedPart write(const Progress& progress) {
         constexpr std::size_t rowsBetween = 500;
+        file::PackedPart content;
+        content.append(heading());
         for (std::size_t row = 0; row < table_.rows.size(); ++row) {
             appendRow(row);
+            content.append(rows_);
+            rows_.clear();
             if (row % rowsBetween == 0) tellProgress(progress, row, table_.rows.size());
         }
+        content.append("</table:table></office:spreadsheet></office:body></office:document-content>\n");
+        return content;
+    }
+
+private:
+    std::string heading() {
         std::string out(xmlHead);
         out.append("<office:document-content").append(namespaces).append("><office:automatic-styles>");
+        findStyles();
         appendStyles(out);
         out.append("</office:automatic-styles><office:body><office:spreadsheet><table:table table:name=\"");
         appendXml(out, table_.title.empty() ? "Records" : table_.title);
@@ -110,13 +124,28 @@ public:
             appendParagraphs(out, column.name);
             out.append("</table:table-cell>");
         }
-        out.append("</table:table-row></table:table-header-rows>").append(rows_);
-        return out.append("</table:table></office:spreadsheet></office:body></office:document-content>\n");
+        return out.append("</table:table-row></table:table-header-rows>");
     }
 
-private:
+    // They stand in front of the cells.
+    void findStyles() {
+        std::string last;
+        for (std::size_t row = 0; row < table_.rows.size(); ++row)
+            for (std::size_t i = 0; i < table_.columns.size(); ++i) {
+                const std::string& text = cellIn(table_, row, i);
+                if (text.empty() || table_.columns[i].type == core::ColumnType::Text) continue;
+                std::string style = styleOf(outCell(table_.columns[i].type, text), isBold(row));
+                if (style == last) continue;
+                if (!style.empty()) styles_.insert(style);
+                last = std::move(style);
+            }
+        if (table_.bLastIsTotals) styles_.insert("b");
+    }
+
+    bool isBold(std::size_t row) const { return table_.bLastIsTotals && row + 1 == table_.rows.size(); }
+
     void appendRow(std::size_t row) {
-        const bool bBold = table_.bLastIsTotals && row + 1 == table_.rows.size();
+        const bool bBold = isBold(row);
         rows_.append("<table:table-row>");
         for (std::size_t i = 0; i < table_.columns.size(); ++i) {
             const std::string& text = cellIn(table_, row, i);
@@ -133,10 +162,7 @@ private:
         const OutCell cell = outCell(table_.columns[column].type, text);
         const std::string style = styleOf(cell, bBold);
         rows_.append("<table:table-cell");
-        if (!style.empty()) {
-            styles_.insert(style);
-            rows_.append(" table:style-name=\"").append(style).append("\"");
-        }
+        if (!style.empty()) rows_.append(" table:style-name=\"").append(style).append("\"");
         if (const auto formula = formulas_.at(row, column, cell)) {
             rows_.append(" table:formula=\"");
             appendXml(rows_, *formula);
@@ -221,6 +247,21 @@ std::string settings(const OutTable& table) {
     return out.append("</office:document-settings>\n");
 }
 
+// The types of the columns.
+std::string properties(const OutTable& table) {
+    std::string out(xmlHead);
+    out.append("<office:document-meta xmlns:meta=\"urn:oasis:names:tc:opendocument:xmlns:meta:1.0\"");
+    out.append(namespaces).append("><office:meta>");
+    std::size_t number = 0;
+    for (const std::string& heading : typedHeadings(table)) {
+        out.append("<meta:user-defined meta:name=\"").append(typeProperty).append(std::to_string(++number));
+        out.append("\">");
+        appendXml(out, heading);
+        out.append("</meta:user-defined>");
+    }
+    return out.append("</office:meta></office:document-meta>\n");
+}
+
 std::string manifest() {
     std::string out(xmlHead);
     out.append("<manifest:manifest xmlns:manifest=\"urn:oasis:names:tc:opendocument:xmlns:manifest:1.0\""
@@ -231,6 +272,7 @@ std::string manifest() {
     };
     entry("/", mediaType);
     entry("content.xml", "text/xml");
+    entry("meta.xml", "text/xml");
     entry("settings.xml", "text/xml");
     return out.append("</manifest:manifest>\n");
 }
@@ -244,6 +286,7 @@ void write(const Target& target, const OutTable& table, const Progress& progress
     // In front and as it is, so that the type can be told from the first bytes of the file.
     zip.addPart("mimetype", mediaType, true);
     zip.addPart("content.xml", ContentWriter(table).write(progress));
+    zip.addPart("meta.xml", properties(table));
     zip.addPart("settings.xml", settings(table));
     zip.addPart("META-INF/manifest.xml", manifest());
     zip.CloseArchive();

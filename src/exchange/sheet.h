@@ -37,10 +37,10 @@ std::optional<Format> formatOf(std::string_view fileName); // by its ending
 // Names of what can be picked; one entry for formats that have one table.
 std::vector<std::string> sheetNames(const std::filesystem::path& file, Format format);
 
-// Rows and columns that are hidden in a spreadsheet, and hidden sheets of an .xlsx, are left out; of merged
-// cells the first one has the value. A formula is its last value. SQLite is read as the file stands.
-// Raises core::RunTimeError (badFileFormat with the reason, fileNotFound, pathAccess ...). `progress`
-// answers false to give up (raises cancelled).
+// Rows, columns and sheets that are hidden in a spreadsheet are left out; of merged cells the first one has
+// the value. A formula is its last value. SQLite is read as the file stands. Raises core::RunTimeError
+// (badFileFormat with the reason, fileNotFound, pathAccess ...). `progress` answers false to give up (raises
+// cancelled).
 Sheet readSheet(const std::filesystem::path& file, Format format, std::size_t sheet,
                 const std::function<bool(int percent)>& progress = {});
 
@@ -62,6 +62,8 @@ struct OutTable {
     std::vector<OutColumn> columns;
     std::vector<std::vector<std::string>> rows;
     bool bLastIsTotals = false;
+    // With the files that cells of Picture columns name, which .xlsx shows in their rows; empty for none.
+    std::filesystem::path pictures = {};
 };
 
 // The formats that are texts, and such a text.

@@ -108,6 +108,7 @@ private:
             return lookForSign(code_.substr(from, at_ - from));
         }
         if (c == '\\' || c == '_' || c == '*') {
+            if (c == '\\') lookForSign(code_.substr(std::min(at_, code_.size()), 3));
             ++at_;
             return;
         }

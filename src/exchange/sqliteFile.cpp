@@ -3,6 +3,7 @@
 #include "exchange/formats.h"
 #include "exchange/sheetNumbers.h"
 #include "exchange/sqliteHandles.h"
+#include "exchange/toldTypes.h"
 #include "file/fileHandle.h"
 
 #include <chrono>
@@ -106,6 +107,31 @@ private:
     Clock::time_point waitingSince_ = Clock::now();
 };
 
+// What tables of ours declare; nothing for other words.
+const char* typeOf(std::string_view declared) {
+    if (declared.starts_with("CALCULATION")) return ":Calculation";
+    if (declared.starts_with("PICTURE")) return ":Picture";
+    if (declared == "DECIMAL(18,2)") return ":Currency";
+    if (declared == "NUMERIC") return ":Number";
+    if (declared == "DATE") return ":Date";
+    return declared == "TEXT" ? ":Text" : nullptr;
+}
+
+// Only of a file of ours, whose columns all have a type.
+std::vector<std::string> toldTypes(OpenFile& open, const Statement& rows) {
+    const Statement mark = open.ask("PRAGMA application_id");
+    if (!open.step(mark) || sqlite3_column_int(mark.get(), 0) != applicationId) return {};
+    std::vector<std::string> headings;
+    for (int i = 0; i < sqlite3_column_count(rows.get()); ++i) {
+        const char* declared = sqlite3_column_decltype(rows.get(), i);
+        const char* type = typeOf(declared == nullptr ? "" : declared);
+        if (type == nullptr) return {};
+        headings.emplace_back(sqlite3_column_name(rows.get(), i));
+        headings.back().append(type);
+    }
+    return headings;
+}
+
 // What a column is declared as; the values themselves are numbers and texts.
 enum class Declared : std::uint8_t { Plain, Day, Truth, Money };
 
@@ -173,6 +199,7 @@ Sheet read(const path& file, std::size_t sheet, const Progress& progress) {
     Sheet table = collector.take();
     table.name = name;
     table.bTyped = true;
+    restoreTypes(table, toldTypes(open, rows));
     return table;
 }
 

@@ -15,6 +15,9 @@ struct EndStatement {
 using Database = std::unique_ptr<sqlite3, CloseDatabase>;
 using Statement = std::unique_ptr<sqlite3_stmt, EndStatement>;
 
+// In the head of a file that is a table of ours.
+constexpr int applicationId = 0x46776B54;
+
 // Raise badFileFormat with what SQLite says.
 Database openDatabase(const char* address, int flags);
 Statement prepare(sqlite3& database, const std::string& question);

@@ -16,15 +16,30 @@ std::string inQuotes(std::string_view name) {
     return text;
 }
 
-const char* declaredAs(core::ColumnType type) {
-    switch (type) {
+// A calculated column can have amounts and numbers by turns, which only texts tell apart.
+const char* calculationIn(const OutTable& table, std::size_t column) {
+    bool bMoney = false, bNumbers = false;
+    for (std::size_t row = 0; row < table.rows.size(); ++row) {
+        const OutCell cell = outCell(core::ColumnType::Calculation, cellIn(table, row, column));
+        bMoney = bMoney || cell.what == OutCell::What::Money;
+        bNumbers = bNumbers || cell.what == OutCell::What::Number;
+    }
+    if (bMoney && bNumbers) return " CALCULATION TEXT";
+    return bMoney ? " CALCULATION DECIMAL(18,2)" : " CALCULATION NUMERIC";
+}
+
+const char* declaredAs(const OutTable& table, std::size_t column) {
+    switch (table.columns[column].type) {
     case core::ColumnType::Date:
         return " DATE";
     case core::ColumnType::Currency:
         return " DECIMAL(18,2)";
     case core::ColumnType::Number:
-    case core::ColumnType::Calculation:
         return " NUMERIC";
+    case core::ColumnType::Calculation:
+        return calculationIn(table, column);
+    case core::ColumnType::Picture:
+        return " PICTURE TEXT";
     default:
         return " TEXT";
     }
@@ -51,11 +66,15 @@ void insertRows(sqlite3& database, const OutTable& table, const std::string& nam
     command.append(name).append(" VALUES (?");
     for (std::size_t i = 1; i < table.columns.size(); ++i) command.append(", ?");
     const Statement insert = prepare(database, command.append(")"));
+    std::vector<core::ColumnType> types; // that the cells are written in
+    for (std::size_t i = 0; i < table.columns.size(); ++i)
+        types.push_back(std::string_view(declaredAs(table, i)).ends_with("TEXT") ? core::ColumnType::Text
+                                                                                 : table.columns[i].type);
     // The sums are no record, and who has the records can add them up.
     const std::size_t count = table.rows.size() - (table.bLastIsTotals && !table.rows.empty() ? 1 : 0);
     for (std::size_t row = 0; row < count; ++row) {
         for (std::size_t i = 0; i < table.columns.size(); ++i) {
-            const OutCell cell = outCell(table.columns[i].type, cellIn(table, row, i));
+            const OutCell cell = outCell(types[i], cellIn(table, row, i));
             const std::string text = cell.what == OutCell::What::Date ? cell.iso : cellIn(table, row, i);
             bindCell(insert.get(), static_cast<int>(i) + 1, cell, text);
         }
@@ -96,11 +115,13 @@ void write(const Target& target, const OutTable& table, const Progress& progress
     std::string command = "CREATE TABLE ";
     command.append(name);
     const char* before = " (";
-    for (const OutColumn& column : table.columns) {
-        command.append(before).append(inQuotes(column.name)).append(declaredAs(column.type));
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        command.append(before).append(inQuotes(table.columns[i].name)).append(declaredAs(table, i));
         before = ", ";
     }
     run(*database, command.append(")"));
+    std::string mark = "PRAGMA application_id = ";
+    run(*database, mark.append(std::to_string(applicationId)));
     run(*database, "BEGIN");
     insertRows(*database, table, name, progress);
     run(*database, "COMMIT");

@@ -1,6 +1,8 @@
 #include "core/text.h"
 #include "exchange/formats.h"
+#include "exchange/mergedCells.h"
 #include "exchange/sheetNumbers.h"
+#include "exchange/toldTypes.h"
 #include "exchange/xmlPieces.h"
 #include "file/zip.h"
 
@@ -84,8 +86,10 @@ public:
     explicit Workbook(const path& file) {
         zip_.OpenArchive(file);
         std::string main;
-        for (const auto& [id, part] : relationsOf(zip_, ""))
+        for (const auto& [id, part] : relationsOf(zip_, "")) {
             if (part.type == "officeDocument") main = part.target;
+            if (part.type == "custom-properties") properties_ = part.target;
+        }
         if (main.empty()) refuseSheet("it has no workbook");
         const auto relations = relationsOf(zip_, main);
         for (const auto& [id, part] : relations) {
@@ -125,6 +129,17 @@ public:
         return strings;
     }
 
+    std::vector<std::string> typedHeadings() const {
+        std::vector<std::string> headings;
+        if (properties_.empty() || !zip_.contains(properties_)) return headings;
+        pugi::xml_document tree;
+        readXml(partOf(zip_, properties_), tree);
+        for (const pugi::xml_node& node : tree.document_element())
+            if (std::string_view(attributeOf(node, "name").value()).starts_with(typeProperty))
+                headings.emplace_back(childOf(node, "lpwstr").text().get());
+        return headings;
+    }
+
     // The shape of the numbers of each style.
     std::vector<NumberShape> shapes() const {
         std::vector<NumberShape> shapes;
@@ -136,6 +151,7 @@ public:
         for (const pugi::xml_node& node : childOf(root, "numFmts"))
             own[countIn(attributeOf(node, "numFmtId"))] = shapeOf(attributeOf(node, "formatCode").value());
         for (const pugi::xml_node& node : childOf(root, "cellXfs")) {
+            if (node.type() != pugi::node_element) continue; // blanks between them do not count
             const std::size_t id = countIn(attributeOf(node, "numFmtId"));
             const auto found = own.find(id);
             shapes.push_back(found == own.end() ? builtInShape(id) : found->second);
@@ -151,7 +167,7 @@ private:
 
     file::Zip zip_;
     std::vector<std::string> targets_;
-    std::string strings_, styles_;
+    std::string strings_, styles_, properties_;
 };
 
 // "BC12" is in column 54, from 0; what has no letters is in the next one.
@@ -177,6 +193,7 @@ public:
         XmlPieces pieces(text_);
         pugi::xml_document tree;
         std::size_t rows = 0;
+        findMerged();
         for (auto each = pieces.next(" row col "); !each.name.empty(); each = pieces.next(" row col ")) {
             const bool bRow = each.name == "row";
             pieces.read(each, tree);
@@ -192,6 +209,19 @@ public:
     }
 
 private:
+    // They stand behind the rows, and have to be known before them.
+    void findMerged() {
+        const std::size_t behindRows = text_.rfind("sheetData");
+        if (behindRows == std::string::npos || text_.find("mergeCell", behindRows) == std::string::npos)
+            return;
+        XmlPieces pieces(text_, behindRows);
+        pugi::xml_document tree;
+        for (auto each = pieces.next(" mergeCell "); !each.name.empty(); each = pieces.next(" mergeCell ")) {
+            pieces.readTag(each, tree);
+            merged_.add(attributeOf(tree.document_element(), "ref").value());
+        }
+    }
+
     void readColumn(const pugi::xml_node& node) {
         if (!isTrue(attributeOf(node, "hidden"))) return;
         const std::size_t last = std::min(countIn(attributeOf(node, "max")), SheetBounds::columns);
@@ -214,7 +244,10 @@ private:
             // Only as far as it can matter, since a hidden one is left out.
             for (; next < column && next < SheetBounds::columns; ++next) skip(next);
             if (column > next) collector_.blanks(column - next);
-            if (!isHidden(column)) readCell(cell);
+            if (merged_.covers({nextRow_ - 2, column}))
+                skip(column);
+            else if (!isHidden(column))
+                readCell(cell);
             next = column + 1;
         }
         collector_.endRow();
@@ -259,6 +292,7 @@ private:
     std::string text_;
     bool b1904_;
     std::vector<bool> hidden_;
+    MergedCells merged_;
     std::size_t nextRow_ = 1;
     SheetCollector collector_;
 };
@@ -274,6 +308,7 @@ Sheet read(const path& file, std::size_t sheet, const Progress& progress) {
     const std::string& name = sheetAt(book.names, sheet);
     Sheet table = SheetReader(book, sheet).read(progress);
     table.name = name;
+    restoreTypes(table, book.typedHeadings());
     return table;
 }
 

@@ -1,6 +1,8 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
 #include "exchange/formats.h"
+#include "exchange/imageSize.h"
+#include "exchange/toldTypes.h"
 #include "file/atomicFile.h"
 
 #include <algorithm>
@@ -49,7 +51,7 @@ std::string sheetTitle(std::string_view title) {
 class SheetWriter {
 public:
     SheetWriter(const std::string& file, const OutTable& table)
-        : table_(table), book_(workbook_new(file.c_str())), formulas_(table, OutFormulas::Style::Xlsx) {
+        : table_(table), book_(newBook(file, table)), formulas_(table, OutFormulas::Style::Xlsx) {
         if (!book_) throw std::bad_alloc();
         const std::string title = sheetTitle(table.title);
         // A name that the library still refuses is no reason to refuse the table.
@@ -62,6 +64,7 @@ public:
     }
 
     void writeRow(std::size_t row) {
+        placePictures(row);
         const bool bBold = table_.bLastIsTotals && row + 1 == table_.rows.size();
         for (std::size_t i = 0; i < table_.columns.size(); ++i) {
             const std::string& text = cellIn(table_, row, i);
@@ -86,6 +89,31 @@ public:
     void close() { check(workbook_close(book_.release())); }
 
 private:
+    // Above the name of its file, which stays the value of the cell. What is no picture for a spreadsheet is
+    // its name alone.
+    void placePictures(std::size_t row) {
+        constexpr double twipsOfPixel = 15;
+        constexpr double height = 60, rowPoints = 60; // 60 points are 80 pixels; the name takes the rest
+        for (std::size_t i = 0; !table_.pictures.empty() && i < table_.columns.size(); ++i) {
+            const std::string& name = cellIn(table_, row, i);
+            if (table_.columns[i].type != core::ColumnType::Picture || name.empty()) continue;
+            const std::filesystem::path file = table_.pictures / name;
+            std::error_code error;
+            const auto size = std::filesystem::exists(file, error) ? imageSize(file) : std::nullopt;
+            if (!size) continue;
+            const double width = std::max(table_.columns[i].widthTwips / twipsOfPixel, 1.0);
+            lxw_image_options options{};
+            options.x_scale = std::min(
+                {height / static_cast<double>(size->height), width / static_cast<double>(size->width), 1.0});
+            options.y_scale = options.x_scale;
+            options.object_position = LXW_OBJECT_MOVE_AND_SIZE;
+            const auto line = static_cast<lxw_row_t>(row + 1);
+            check(worksheet_set_row(sheet_, line, rowPoints, nullptr));
+            check(
+                worksheet_insert_image_opt(sheet_, line, static_cast<lxw_col_t>(i), file.c_str(), &options));
+        }
+    }
+
     void writeHeading() {
         for (std::size_t i = 0; i < table_.columns.size(); ++i) {
             const auto column = static_cast<lxw_col_t>(i);
@@ -94,8 +122,28 @@ private:
             const std::string name = codesKept(table_.columns[i].name);
             check(worksheet_write_string(sheet_, 0, column, name.c_str(), formatFor({}, true)));
         }
+        tellTypes();
         worksheet_freeze_panes(sheet_, 1, 0);
         worksheet_repeat_rows(sheet_, 0, 0);
+    }
+
+    // As properties of the workbook, which take texts of so many characters.
+    void tellTypes() {
+        constexpr std::size_t longestProperty = 255;
+        std::size_t number = 0;
+        for (const std::string& heading : typedHeadings(table_)) {
+            std::string name(typeProperty);
+            name.append(std::to_string(++number));
+            if (core::length(heading) <= longestProperty)
+                check(workbook_set_custom_property_string(book_.get(), name.c_str(), heading.c_str()));
+        }
+    }
+
+    // Row by row, so that memory has the rows once; but the places of pictures need the heights of all rows.
+    static lxw_workbook* newBook(const std::string& file, const OutTable& table) {
+        lxw_workbook_options options{};
+        options.constant_memory = table.pictures.empty() ? LXW_TRUE : LXW_FALSE;
+        return workbook_new_opt(file.c_str(), &options);
     }
 
     [[noreturn]] static void refuseLong(std::size_t row) {

@@ -11,7 +11,7 @@ namespace exchange {
 // memory. Names are compared without their prefix, which differs between programs.
 class XmlPieces {
 public:
-    explicit XmlPieces(std::string& text) : text_(text) {}
+    explicit XmlPieces(std::string& text, std::size_t from = 0) : text_(text), at_(from) {}
 
     // The next element of one of the names, from its "<"; an empty name where there is none. It is not
     // skipped: who asks again is told what is inside it. Raises badFileFormat for a document type, which no
@@ -38,7 +38,7 @@ private:
     bool skipMarkup();
 
     std::string& text_;
-    std::size_t at_ = 0;
+    std::size_t at_;
 };
 
 // The whole of a short text.

@@ -8,6 +8,7 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <utility>
 
 namespace file {
 
@@ -28,8 +29,8 @@ std::string pack(std::string_view bytes, int level) {
 
 class DeflatedSource {
 public:
-    DeflatedSource(std::string_view bytes, int level)
-        : packed_(pack(bytes, level)), size_(bytes.size()), checksum_(checksum(bytes)) {
+    DeflatedSource(std::string packed, std::uint64_t size, std::uint32_t checksum)
+        : packed_(std::move(packed)), size_(size), checksum_(checksum) {
         zip_error_init(&error_);
     }
     ~DeflatedSource() { zip_error_fini(&error_); }
@@ -109,11 +110,25 @@ std::uint32_t checksum(std::string_view bytes) {
     return libdeflate_crc32(0, bytes.data(), bytes.size());
 }
 
-zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level) {
-    auto source = std::make_unique<DeflatedSource>(bytes, level);
+namespace {
+
+zip_source_t* sourceOf(zip_t* archive, std::unique_ptr<DeflatedSource> source) {
     zip_source_t* made = zip_source_function(archive, &DeflatedSource::respond, source.get());
     if (made != nullptr) static_cast<void>(source.release());
     return made;
+}
+
+} // namespace
+
+zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level) {
+    return sourceOf(archive,
+                    std::make_unique<DeflatedSource>(pack(bytes, level), bytes.size(), checksum(bytes)));
+}
+
+zip_source_t* makeDeflatedSource(zip_t* archive, PackedPart part) {
+    std::string packed = part.take();
+    return sourceOf(archive,
+                    std::make_unique<DeflatedSource>(std::move(packed), part.size(), part.checksum()));
 }
 
 } // namespace file

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "file/checksum.h"
+#include "file/packedPart.h"
 
 #include <cstdint>
 #include <string_view>
@@ -12,5 +13,6 @@ namespace file {
 // The bytes are packed at once and need not stay. Level from 1 to 12. The source is the caller's until libzip
 // takes it. Raises deviceIO; throws std::bad_alloc.
 [[nodiscard]] zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level);
+[[nodiscard]] zip_source_t* makeDeflatedSource(zip_t* archive, PackedPart part);
 
 } // namespace file

@@ -296,6 +296,10 @@ void Zip::addPart(const std::string& name, std::string_view bytes, bool bUnpacke
         target.failPut(name);
 }
 
+void Zip::addPart(const std::string& name, PackedPart part) {
+    open().put(name, makeDeflatedSource(open().zip, std::move(part)), {});
+}
+
 void Zip::DeleteFile(const std::string& name) {
     Archive& target = open();
     const zip_int64_t place = zip_name_locate(target.zip, name.c_str(), 0);

@@ -15,6 +15,8 @@
 
 namespace file {
 
+class PackedPart;
+
 // A zip archive. It is opened, used and closed within one routine; changes reach the disk with
 // CloseArchive() alone, all of them or none, and whoever does not get there leaves the archive as it
 // was. Entries that are not touched keep their bytes, order, comments and dates.
@@ -62,6 +64,7 @@ public:
     // Adds a part of another program's kind of file, whose name may have folders; unpacked, where it is to be
     // read without unpacking.
     void addPart(const std::string& name, std::string_view bytes, bool bUnpacked = false);
+    void addPart(const std::string& name, PackedPart part);
     // An absent entry passes silently.
     void DeleteFile(const std::string& name);
     // Unpacks an entry into the base folder, over a file of that name. An absent entry passes

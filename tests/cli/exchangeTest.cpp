@@ -16,6 +16,13 @@ TEST_F(Exchange, RoundTripLosesNothing) {
         "for n in odd books 'invoices --invoice'; do set $n; both $1 t; fwk import n.fwk t.csv $2;"
         "both n u; for t in csv json; do cmp t.$t u.$t; done; rm n.fwk [tu].*; done";
     EXPECT_EQ(run(again).out, "3\n42\n4\n");
+    EXPECT_EQ(run("for s in " SAMPLES_DIR "/*.fwk; do o=; case $s in */invoices.fwk) o=--invoice;; esac;"
+                  "fwk export $s -o t.csv; for k in tsv xlsx ods json sqlite; do fwk export $s -o t.$k;"
+                  "fwk import n.fwk t.$k $o; fwk export n.fwk -o u.csv; cmp t.csv u.csv || echo $s $k;"
+                  "rm n.fwk; done; done | sort | uniq -c | tr -s ' '; rm [tu].*")
+                  .out,
+              " 5 12\n 5 30\n 5 32\n 5 40\n 5 42\n")
+        << "records of each sample, of five kinds of tables";
     expect(R"sh(
 $ fwk export odd.fwk -o t.csv -> @ t.csv // +A:b:Text,Qty:Number,Sum:Calculation,"Pay,ed:Currency" // +"  two
 +lines ""q"" ",0012,Undefined,abc // +,,, // +"; Æ",1e5,x,5 && $ fwk export odd.fwk -o t.JSON -> @ t.JSON
@@ -25,6 +32,21 @@ $ fwk export odd.fwk -o t.csv -> @ t.csv // +A:b:Text,Qty:Number,Sum:Calculation
 +  ["  two\u000alines \"q\" ", "0012", "Undefined", "abc"], // +  ["", "", "", ""],
 +  ["; Æ", "1e5", "x", "5"]]}
 )sh");
+}
+
+TEST_F(Exchange, PicturesGoAlong) {
+    make("p.fwk", DataFile("Name Photo:7", "a|in.jpg;b|no.jpg;c|in.jpg"), {"in.jpg"});
+    const auto ran =
+        run("fwk export p.fwk -o t.csv --pictures; ls t_pictures; unzip -p p.fwk in.jpg | cmp - "
+            "t_pictures/in.jpg; fwk export p.fwk -o - --format csv --pictures; fwk export " SAMPLES_DIR
+            "/garden.fwk -o g.xlsx --pictures; unzip -l g.xlsx | grep -c media");
+    EXPECT_EQ(ran.out, "in.jpg\n15\n");
+    EXPECT_EQ(ran.err,
+              "fwk: p.fwk: it has no picture \"no.jpg\"\nfwk: -: pictures need a file beside them\n");
+    EXPECT_EQ(run("printf \"a';b'\\n1';2\\n\" | fwk import q.fwk - --quotes none; fwk export q.fwk -o - "
+                  "--format csv")
+                  .out,
+              "1\na':Text,b':Number\n1',2\n");
 }
 
 TEST_F(Exchange, ATableMakesADatabaseOrIsAppended) {

@@ -4,6 +4,8 @@
 #include "folderFixture.h"
 
 #include <chrono>
+#include <dlfcn.h>
+#include <malloc.h>
 #include <random>
 #include <sqlite3.h>
 #include <sys/resource.h>
@@ -65,6 +67,11 @@ struct SheetFile : FolderTest {
         sqlite3_close(database);
     }
 };
+
+// With a sanitizer in it, a program keeps what it has freed.
+bool isSanitized() {
+    return dlsym(RTLD_DEFAULT, "__asan_init") != nullptr;
+}
 
 // A row a line; what is no text has its kind in front.
 std::string told(const Sheet& sheet) {
@@ -214,6 +221,12 @@ TEST_F(SheetFile, OfOtherPrograms) {
               "A&B: / s\n|-:|aA b|/D:1900-02-28|X:2024-12-31 13:05:00|D:1900-01-01|N:-1.50|h:36:00:00|"
               "B:true|#DIV/0!|N:100000000000000000000|N:0.1|/");
     EXPECT_EQ(told(read("b.xlsx")), "A&B: D:1904-01-01|$:2.00|/");
+    xlsx("m.xlsx",
+         "<cols><col min='2' max='2' hidden='1'/></cols><sheetData><row><c><v>1</v></c><c><v>2</v></c><c>"
+         "<v>3</v></c><c><v>4</v></c></row><row><c><v>5</v></c><c r='D2'><v>6</v></c></row><row><c r='C3'>"
+         "<v>7</v></c><c><v>8</v></c></row></sheetData><mergeCells><mergeCell ref='C3:D3'/><mergeCell "
+         "ref='A1:C2'/><mergeCell ref='D1'/></mergeCells>");
+    EXPECT_EQ(told(read("m.xlsx")), "A&B: N:1|-:|N:4|/-:|-:|N:6|/-:|N:7|/");
     const std::string odd = "<table:table-row><table:table-cell office:value-type='float' office:value='";
     ods("a.ods",
         "<table:table table:name='One'/><table:table "
@@ -318,11 +331,18 @@ TEST_F(SheetFile, HostileFilesAreRefusedInTime) {
     writeBytes(path("wide.json"), "[[" + many("0,", 16 << 20) + "0]]");
     writeBytes(path("pieces.vcf"), "BEGIN:VCARD\nA" + std::string(60 << 20, ';'));
     writeBytes(path("large.csv"), std::string(65 << 20, 'x'));
+    xlsx("merged.xlsx",
+         "<sheetData><row>" + cell + "</row></sheetData>" + many("<mergeCell ref='A1:EZZ60000'/>", 70'000));
     for (const auto& each : fs::directory_iterator(folder)) {
         const std::string name = each.path().filename().string();
+        malloc_trim(0);
+        writeBytes("/proc/self/clear_refs", "5"); // the most memory, anew
         const auto start = std::chrono::steady_clock::now();
         EXPECT_EQ(raisedBy([&] { read(name); }), core::errors::badFileFormat) << name;
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2)) << name;
+        const std::string status = readBytes("/proc/self/status");
+        const long kilobytes = std::stol(status.substr(status.find("VmHWM:") + 6));
+        EXPECT_TRUE(isSanitized() || kilobytes < 256 * 1024) << name << " " << kilobytes;
     }
 }
 
