@@ -146,7 +146,7 @@ press Alt+L; press Alt+N; type 2 -> List2.2=>x 2|Currency|1.234,50| Text1=2| Lis
 file table2.fwk; press Alt+I -> -importFrm MainFrm=table2.fwk LV.0=>Ann|12/31/2024|$1,234.50 LV.1=Bob|02/01/2024| LV.2=-|-|-
     LV=* SB1_1=2 records.
 click mnuExportTable; press Alt+N -> exportFrm=Export Opt1_0=* Opt1_1=- Opt1_2=x List1.0=>Name List1.1=Day List1.2=2
-    Check2=- OKButton=-
+    Check2=- Check3=- OKButton=-
 press Escape -> -exportFrm LV=*
 )");
         QMimeData dragged;
