@@ -2,9 +2,10 @@
 #include "cli/output.h"
 #include "cli/session.h"
 #include "cli/tableFile.h"
-#include "tables/newRecords.h"
+#include "tables/toldCells.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 
 namespace cli {
 
@@ -46,12 +47,7 @@ std::vector<std::string> openQuestions(const NewRecords& records) {
     std::vector<std::string> questions;
     for (const NewRecords::Source& source : records.sources())
         if (!source.whyLeftOut.empty()) questions.push_back(source.whyLeftOut);
-    for (const NewRecords::Refusal& refusal : records.refusals(records.refusedCount())) {
-        std::string line = "row ";
-        line.append(std::to_string(refusal.row)).append(", \"");
-        line.append(records.sources()[refusal.column].target->Text).append("\": \"");
-        questions.push_back(line.append(refusal.value).append("\" ").append(refusal.reason));
-    }
+    std::ranges::move(tables::refusedInWords(records), std::back_inserter(questions));
     return questions;
 }
 

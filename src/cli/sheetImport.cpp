@@ -5,7 +5,7 @@
 #include "cli/tableFile.h"
 #include "exchange/delimited.h"
 #include "storage/newDatabase.h"
-#include "tables/importTable.h"
+#include "tables/toldCells.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -20,21 +20,6 @@ namespace {
 using tables::ImportTable;
 using tables::NewRecords;
 
-std::string atCellOfRow(std::size_t row, const std::string& column, std::string_view value,
-                        const std::string& reason) {
-    std::string line = "row ";
-    line.append(std::to_string(row)).append(", \"").append(column).append("\": \"");
-    return line.append(value).append("\" ").append(reason);
-}
-
-std::vector<std::string> refusedCells(const ImportTable& table) {
-    std::vector<std::string> lines;
-    for (const ImportTable::Refusal& refusal : table.refusals(table.refusedCount()))
-        lines.push_back(
-            atCellOfRow(refusal.row, table.columns()[refusal.column].name, refusal.value, refusal.reason));
-    return lines;
-}
-
 // Without the user's consent nothing is stored, so that nothing is lost unasked.
 void settle(const SheetImport& import, const std::vector<std::string>& questions) {
     tellRows(import.table, questions);
@@ -48,7 +33,7 @@ void makeOf(Session& session, const SheetImport& import, const ImportTable& tabl
             return column.how.as.type == core::ColumnType::Picture;
         }))
         throw Failure(import.file, "an invoice database has no Picture columns");
-    settle(import, refusedCells(table));
+    settle(import, tables::refusedInWords(table));
     app::App& app = session.app;
     app.document.bInvoiceStyle = import.invoice;
     session.change([&] {
@@ -72,10 +57,8 @@ void appendTo(Session& session, const SheetImport& import, ImportTable& table) {
     if (records.count() > records.room())
         throw Failure(import.file, "it has room for " + std::to_string(records.room()) +
                                        " more records, not " + std::to_string(records.count()));
-    for (std::string& line : refusedCells(table)) questions.push_back(std::move(line));
-    for (const NewRecords::Refusal& refusal : records.refusals(records.refusedCount()))
-        questions.push_back(atCellOfRow(refusal.row, records.sources()[refusal.column].target->Text,
-                                        refusal.value, refusal.reason));
+    std::ranges::move(tables::refusedInWords(table), std::back_inserter(questions));
+    std::ranges::move(tables::refusedInWords(records), std::back_inserter(questions));
     settle(import, questions);
     std::vector<calc::Uncalculated> failed;
     session.change([&] { failed = records.store(); });

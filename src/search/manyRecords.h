@@ -10,6 +10,12 @@ namespace search {
 // Which records a command over many works on; the numbers are the indexes of the option buttons.
 enum Scope { selectedRecords = 0, foundRecords, allRecords };
 
+// The option button of a scope.
+struct ScopeButton {
+    bool Enabled = true;
+    std::size_t Records = 0;
+};
+
 // The list that stands on the first page: the results, the invoices or the records.
 core::RecordsList& listOnShow(core::Document& document);
 

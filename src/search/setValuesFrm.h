@@ -20,10 +20,6 @@ class setValuesFrm {
 public:
     static constexpr std::size_t shownRecords = 5;
 
-    struct ScopeButton {
-        bool Enabled = true;
-        std::size_t Records = 0;
-    };
     struct Row {
         std::string Record, Before, After;
     };

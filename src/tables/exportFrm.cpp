@@ -3,10 +3,8 @@
 #include "app/hourglass.h"
 #include "calc/formulas.h"
 #include "core/runTimeError.h"
-#include "exchange/pictures.h"
 #include "search/manyRecords.h"
 #include "storage/saveSteps.h"
-#include "tables/counted.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -33,6 +31,7 @@ constexpr std::array<Kind, 8> kinds = {{{Format::Xlsx, "Excel workbook", ".xlsx"
 // What the form was left with, for the next time.
 struct LastExport {
     int format = 0;
+    bool bTotals = false, bFormulas = false, bPictures = false;
 };
 
 } // namespace
@@ -72,7 +71,11 @@ exportFrm::exportFrm(app::App& app) : app_(app) {
     for (const int index : columns.displayOrder()) add(&columns.at(index), app.document.bInvoiceStyle);
     for (const Kind& kind : kinds)
         formatCbo.push_back(std::string(kind.name).append(" (").append(kind.ending).append(")"));
-    ListIndex = app.rooms.of<LastExport>().format;
+    const LastExport& last = app.rooms.of<LastExport>();
+    ListIndex = last.format;
+    Check1 = last.bTotals;
+    Check2 = last.bFormulas;
+    Check3 = last.bPictures;
     show();
 }
 
@@ -81,23 +84,31 @@ core::Item* exportFrm::totals() const {
     return scope == search::foundRecords ? app_.document.searchLV.totals() : app_.document.LV.totals();
 }
 
-void exportFrm::show() {
-    const Format format = this->format();
-    Check1Enabled = totals() != nullptr && format != Format::Vcard;
-    // The items of an invoice share a cell, which no formula of a spreadsheet works on.
-    Check2Enabled = (format == Format::Xlsx || format == Format::Ods) && !app_.document.bInvoiceStyle &&
-                    std::ranges::any_of(
-                        columns_, [&](const core::Column* column) { return !expressionOf(*column).empty(); });
-    Check3Enabled = false;
-    for (std::size_t i = 0; i < List1.size(); ++i)
-        Check3Enabled =
-            Check3Enabled || (List1[i].Checked && columns_[i]->type() == core::ColumnType::Picture);
-    Check3Enabled = Check3Enabled && format != Format::Vcard && !app_.document.currentFile.empty();
-    OKButtonEnabled = std::ranges::any_of(List1, &Column::Checked);
-}
-
 Format exportFrm::format() const {
     return kinds.at(static_cast<std::size_t>(ListIndex)).format;
+}
+
+// What cannot come of the columns that are chosen is not offered.
+bool exportFrm::isPictureChosen() const {
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (List1[i].Checked && columns_[i]->type() == core::ColumnType::Picture) return true;
+    return false;
+}
+
+bool exportFrm::isFormulaChosen() const {
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (List1[i].Checked && !expressionOf(*columns_[i]).empty()) return true;
+    return false;
+}
+
+void exportFrm::show() {
+    Check1Enabled = totals() != nullptr && format() != Format::Vcard;
+    // The items of an invoice share a cell, which no formula of a spreadsheet works on.
+    Check2Enabled = (format() == Format::Xlsx || format() == Format::Ods) && !app_.document.bInvoiceStyle &&
+                    isFormulaChosen();
+    Check3Enabled = takesPictures(format()) && !app_.document.currentFile.empty() && isPictureChosen();
+    bPicturesInside = hasPicturesInside(format());
+    OKButtonEnabled = std::ranges::any_of(List1, &Column::Checked);
 }
 
 void exportFrm::Opt1_Click(int chosen) {
@@ -154,6 +165,13 @@ exchange::OutTable exportFrm::table() {
     return out;
 }
 
+// By whatever name. It would be gone behind a table that took its place.
+bool exportFrm::isOpenFile(const std::string& target) const {
+    std::error_code error;
+    return !app_.document.currentFile.empty() &&
+           std::filesystem::equivalent(target, app_.document.currentFile, error);
+}
+
 // The ending says what is in the file, so it is set where it says something else.
 std::optional<std::string> exportFrm::askForFile() const {
     const Kind& kind = kinds.at(static_cast<std::size_t>(ListIndex));
@@ -163,53 +181,48 @@ std::optional<std::string> exportFrm::askForFile() const {
     filter.append(" (*").append(kind.ending).append(")|*").append(kind.ending).append("|All Files (*.*)|*.*");
     auto target = app_.platform.showSave({"Export", name.append(kind.ending), filter});
     if (target && exchange::formatOf(*target) != kind.format) target->append(kind.ending);
+    if (target && isOpenFile(*target)) {
+        app::warn(app_, "This is the file of the open database. Please choose another name for the table.");
+        return std::nullopt;
+    }
     if (target && !storage::mayWriteTo(app_, *target)) target.reset();
     return target;
 }
 
-// Raises cancelled, and what unpacking and writing raise.
-void exportFrm::write(const std::string& file) {
+void exportFrm::write(const std::string& target, ExportPictures& pictures) {
     constexpr int percents = 100;
     const auto telling = [&](const char* what) {
         return [this, what](int percent) {
             return app_.platform.tellProgress(what, std::min(percent, percents - 1), percents);
         };
     };
+    constexpr const char* writing = "Writing the table";
+    struct Told {
+        ~Told() { app.platform.tellProgress(writing, percents, percents); }
+        app::App& app;
+    } const told{app_};
     exchange::OutTable out = table();
-    std::vector<std::string> missing;
-    if (Check3 && Check3Enabled) {
-        const bool isInside = format() == Format::Xlsx;
-        const auto folder =
-            isInside ? app_.platform.workFolder() / "pictures" : exchange::picturesBeside(file);
-        missing = exchange::unpackPictures(app_.document.currentFile, out, folder,
-                                           telling("Taking the pictures out"));
-        if (isInside) out.pictures = folder;
-    }
-    exchange::writeSheet(file, format(), out, telling("Writing the table"));
-    if (!out.pictures.empty()) {
-        std::error_code none; // what stays there goes with the work folder
-        std::filesystem::remove_all(out.pictures, none);
-    }
-    if (missing.empty()) return;
-    std::string text = counted(missing.size(), "picture is", "pictures are");
-    app::warn(app_, text.append(" not in the database. The first one: ").append(missing.front()));
+    if (Check3 && Check3Enabled) pictures.unpack(target, format(), out, telling("Unpacking the pictures"));
+    exchange::writeSheet(target, format(), out, telling(writing), app_.document.currentFile);
 }
 
 void exportFrm::OKButton_Click() {
     if (!OKButtonEnabled) return;
     const std::optional<std::string> target = askForFile();
     if (!target) return;
-    app_.rooms.of<LastExport>().format = ListIndex;
-    const app::Hourglass hourglass(app_);
+    ExportPictures pictures(app_);
+    if (Check3 && Check3Enabled && !bPicturesInside && !pictures.mayWriteBeside(*target)) return;
+    app_.rooms.of<LastExport>() = {ListIndex, Check1, Check2, Check3};
     try {
-        write(*target);
-        unloaded = true;
+        const app::Hourglass hourglass(app_);
+        write(*target, pictures);
     } catch (const core::RunTimeError& error) {
         if (error.number != core::errors::cancelled)
             app::warn(app_, std::string("The table could not be written: ").append(error.what()));
+        return;
     }
-    constexpr int whole = 1;
-    app_.platform.tellProgress("Writing the table", whole, whole);
+    pictures.finish();
+    unloaded = true;
 }
 
 } // namespace tables

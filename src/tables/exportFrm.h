@@ -1,7 +1,8 @@
 #pragma once
 
 #include "app/app.h"
-#include "exchange/sheet.h"
+#include "search/manyRecords.h"
+#include "tables/exportPictures.h"
 
 #include <array>
 #include <string>
@@ -17,24 +18,21 @@ class exportFrm {
 public:
     explicit exportFrm(app::App& app); // Load
 
-    struct ScopeButton {
-        bool Enabled = true;
-        std::size_t Records = 0;
-    };
     struct Column {
         std::string Name;
         bool Checked = true;
     };
 
-    std::array<ScopeButton, 3> Opt1; // by search::Scope
+    std::array<search::ScopeButton, 3> Opt1; // by search::Scope
     int scope = 0;
     std::vector<Column> List1; // as they stand on screen, then those that do not
     bool Check1 = false;       // with the Totals row
     bool Check1Enabled = true;
     bool Check2 = false; // calculated columns as formulas
     bool Check2Enabled = true;
-    bool Check3 = false; // with the pictures: in an .xlsx, else in a folder beside the file
-    bool Check3Enabled = false;
+    bool Check3 = false; // with the pictures
+    bool Check3Enabled = true;
+    bool bPicturesInside = false; // in the file itself, not in a folder beside it
     std::vector<std::string> formatCbo;
     int ListIndex = 0;
     bool OKButtonEnabled = true;
@@ -54,12 +52,15 @@ public:
 private:
     void checkAll(bool checked);
     void show();
-    exchange::OutTable table();
-    void write(const std::string& file);
     exchange::Format format() const;
+    bool isPictureChosen() const;
+    bool isFormulaChosen() const;
+    exchange::OutTable table();
     core::Item* totals() const;
     std::string expressionOf(const core::Column& column) const;
     std::optional<std::string> askForFile() const;
+    bool isOpenFile(const std::string& target) const;
+    void write(const std::string& target, ExportPictures& pictures);
 
     app::App& app_;
     std::array<std::vector<core::Item*>, 3> records_;

@@ -2,6 +2,7 @@
 
 #include "exchange/delimited.h"
 #include "tables/importTable.h"
+#include "tables/toldCells.h"
 
 #include <array>
 #include <functional>
@@ -42,9 +43,7 @@ public:
         std::string Name, Type, ReadAs, Note; // the name of the column that it goes into
         bool Checked = true;
     };
-    struct Refused {
-        std::string Row, Column, Value, Reason;
-    };
+    using Refused = ToldCell;
     struct Row {
         std::size_t Number = 0;         // in the table, from 1
         std::vector<std::string> Cells; // refused ones as they are in the table

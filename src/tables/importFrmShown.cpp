@@ -149,15 +149,10 @@ void importFrm::showRows() {
 }
 
 void importFrm::showRefusals() {
-    List1.clear();
-    for (const ImportTable::Refusal& refusal : table_->refusals(shownRefused))
-        List1.push_back({std::to_string(refusal.row), List2[refusal.column].Name, std::string(refusal.value),
-                         refusal.reason});
+    List1 = toldCells(*table_, shownRefused, isAppending());
     std::size_t refused = table_->refusedCount();
     if (records_) {
-        for (const NewRecords::Refusal& refusal : records_->refusals(shownRefused))
-            List1.push_back({std::to_string(refusal.row), List2[refusal.column].Name,
-                             std::string(refusal.value), refusal.reason});
+        std::ranges::move(toldCells(*records_, shownRefused), std::back_inserter(List1));
         refused += records_->refusedCount();
     }
     Label2.clear();

@@ -89,10 +89,7 @@ void pasteFrm::showAll() {
 }
 
 void pasteFrm::showRefusals() {
-    List1.clear();
-    for (const NewRecords::Refusal& refusal : records_->refusals(shownRefusals))
-        List1.push_back({std::to_string(refusal.row), records_->sources()[refusal.column].target->Text,
-                         std::string(refusal.value), refusal.reason});
+    List1 = toldCells(*records_, shownRefusals);
     Label2.clear();
     appendLeftOut(Label2, records_->sources());
     const std::size_t refused = records_->refusedCount();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tables/newRecords.h"
+#include "tables/toldCells.h"
 
 #include <optional>
 #include <string>
@@ -21,9 +22,7 @@ public:
         std::string Heading; // of the table; empty without one
         int ListIndex = 0;   // in columnCbo
     };
-    struct Refused {
-        std::string Row, Column, Value, Reason;
-    };
+    using Refused = ToldCell;
 
     std::string Label1;                 // how many records it makes
     bool Check1 = false;                // the first row has the names of the columns

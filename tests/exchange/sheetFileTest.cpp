@@ -337,7 +337,7 @@ TEST_F(SheetFile, HostileFilesAreRefusedInTime) {
         const std::string name = each.path().filename().string();
         malloc_trim(0);
         writeBytes("/proc/self/clear_refs", "5"); // the most memory, anew
-        const std::clock_t start = std::clock(); // of the processor: others may work beside this
+        const std::clock_t start = std::clock();  // of the processor: others may work beside this
         EXPECT_EQ(raisedBy([&] { read(name); }), core::errors::badFileFormat) << name;
         EXPECT_TRUE(isSanitized() || std::clock() - start < 2 * CLOCKS_PER_SEC) << name;
         const std::string status = readBytes("/proc/self/status");

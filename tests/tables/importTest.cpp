@@ -230,4 +230,34 @@ EXPECT_FALSE(app.document.bModified);
         EXPECT_EQ(std::ranges::count(bytes, '\n'), 4) << bytes;
     }
 
+    TEST_F(Importing, PicturesGoAlongAndNothingStaysOfWhatFails) {
+        open(make("p.fwk", DataFile("Name Photo:7", "a|in.jpg;b|no.jpg").text(), {"in.jpg"}));
+        fs::create_symlink("p.fwk", path("p.csv"));
+        fs::create_directory(path("taken.csv"));
+        fs::permissions(path("p.fwk"), fs::perms::owner_read | fs::perms::owner_write);
+        const std::string before = platform.read(path("p.fwk"));
+        const auto exported = [&](const char* name, int kind) {
+            exportFrm form(app);
+            form.formatCbo_Click(kind);
+            form.Check3_Click(true);
+            platform.files = {path(name)};
+            form.OKButton_Click();
+            return (form.unloaded ? "done " : "open ") + core::replaceAll(told(), path(""), "");
+        };
+        EXPECT_EQ(exported("p.csv", 2).substr(0, 7), "open ! ");
+        EXPECT_EQ(platform.read(path("p.fwk")), before);
+        EXPECT_NE(exported("taken.csv", 2).find("could not be written"), std::string::npos);
+        platform.givesUpAt = 50;
+        exported("t.csv", 2);
+        platform.givesUpAt = 1000;
+        EXPECT_FALSE(fs::exists(path("taken_pictures")) || fs::exists(path("t_pictures")) ||
+                     fs::exists(path("t.csv")));
+        EXPECT_NE(exported("t.csv", 2).find("names:\nno.jpg."), std::string::npos);
+        EXPECT_EQ(platform.read(path("t_pictures/in.jpg")), "bytes of in.jpg");
+        EXPECT_EQ(fs::status(path("t.csv")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+        EXPECT_EQ(exported("t.tsv", 3).substr(0, 30), "open ? The folder \"t_pictures\"");
+        exported("t.xlsx", 0);
+        EXPECT_FALSE(fs::exists(platform.workFolder() / "exported-pictures"));
+    }
+
     } // namespace

@@ -1,6 +1,7 @@
 #include "gui/dialogs/duplicatesFrmView.h"
 
 #include "gui/records/listLook.h"
+#include "gui/widgets/columnLists.h"
 #include "gui/widgets/qtText.h"
 
 #include <QDialogButtonBox>
@@ -34,19 +35,10 @@ QLayout* duplicatesFrmView::makeColumns() {
     caption->setBuddy(List1_);
     List1_->setHeaderHidden(true);
     useListLook(*List1_);
-    for (const search::duplicatesFrm::Entry& entry : form_.List1) {
-        auto* item = new QTreeWidgetItem(List1_, {toQt(entry.Text)});
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
-                       Qt::ItemNeverHasChildren);
-        item->setCheckState(0, entry.Checked ? Qt::Checked : Qt::Unchecked);
-    }
-    List1_->setCurrentItem(List1_->topLevelItem(0));
-    connect(List1_, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
-        on([&] {
-            form_.List1_Check(static_cast<std::size_t>(List1_->indexOfTopLevelItem(item)),
-                              item->checkState(0) == Qt::Checked);
-        });
-    });
+    std::vector<std::string> names;
+    for (const search::duplicatesFrm::Entry& entry : form_.List1) names.push_back(entry.Text);
+    fillCheckList(*List1_, names,
+                  [this](std::size_t row, bool checked) { on([&] { form_.List1_Check(row, checked); }); });
     auto* column = new QVBoxLayout;
     column->addWidget(caption);
     column->addWidget(List1_, 1);
@@ -125,6 +117,7 @@ void duplicatesFrmView::showMembers() {
         }
         List2_->addTopLevelItems(items);
     }
+    for (std::size_t i = 0; i < form_.List1.size(); ++i) showCheck(*List1_, i, form_.List1[i].Checked);
     showSelection();
     Check1_->setChecked(form_.Check1);
     Label1_->setText(toQt(form_.Label1));

@@ -1,6 +1,7 @@
 #include "gui/dialogs/exportFrmView.h"
 
 #include "gui/records/listLook.h"
+#include "gui/widgets/columnLists.h"
 #include "gui/widgets/qtText.h"
 
 #include <QGroupBox>
@@ -15,8 +16,7 @@ exportFrmView::exportFrmView(app::App& app, EventBoundary& events, QWidget* pare
       List1_(named("List1", new QTreeWidget)),
       Check1_(named("Check1", new QCheckBox(tr("With the &Totals row")))),
       Check2_(named("Check2", new QCheckBox(tr("Calculated columns as &formulas")))),
-      Check3_(named("Check3", new QCheckBox(tr("With the &pictures")))),
-      formatCbo_(named("formatCbo", new QComboBox)) {
+      Check3_(named("Check3", new QCheckBox)), formatCbo_(named("formatCbo", new QComboBox)) {
     auto* kind = new QLabel(tr("&Kind of file:"));
     kind->setBuddy(formatCbo_);
     for (const std::string& name : form_.formatCbo) formatCbo_->addItem(toQt(name));
@@ -28,13 +28,13 @@ exportFrmView::exportFrmView(app::App& app, EventBoundary& events, QWidget* pare
             [this](bool checked) { on([&] { form_.Check2_Click(checked); }); });
     connect(Check3_, &QCheckBox::clicked, this,
             [this](bool checked) { on([&] { form_.Check3_Click(checked); }); });
-    Check3_->setToolTip(
-        tr("In an Excel workbook they stand in their rows, else in a folder beside the file"));
     auto* row = new QHBoxLayout;
     row->addWidget(kind);
     row->addWidget(formatCbo_, 1);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(makeScopes());
+    Opt1_ = named("Frame1", new ScopeButtons(tr("The &selected records"), form_.Opt1,
+                                             [this](int scope) { on([&] { form_.Opt1_Click(scope); }); }));
+    column->addWidget(Opt1_);
     column->addWidget(makeColumns(), 1);
     column->addWidget(Check1_);
     column->addLayout(row);
@@ -45,29 +45,7 @@ exportFrmView::exportFrmView(app::App& app, EventBoundary& events, QWidget* pare
     OKButton_->setDefault(true);
     column->addLayout(makeBottomRow(
         OKButton_, makeButton("CancelButton", tr("Cancel"), [this] { form_.CancelButton_Click(); })));
-    resize(em() * 24, em() * 32);
-}
-
-QWidget* exportFrmView::makeScopes() {
-    const std::array<QString, 3> captions = {tr("The &selected records"), tr("The search &results"),
-                                             tr("&All records")};
-    auto* frame = named("Frame1", new QGroupBox(tr("Records")));
-    auto* column = new QVBoxLayout(frame);
-    for (std::size_t scope = 0; scope < captions.size(); ++scope) {
-        const tables::exportFrm::ScopeButton& state = form_.Opt1.at(scope);
-        const QString caption =
-            state.Records == 0
-                ? captions.at(scope)
-                : tr("%1 (%2)").arg(captions.at(scope)).arg(static_cast<qulonglong>(state.Records));
-        auto* button = new QRadioButton(caption);
-        button->setObjectName(QStringLiteral("Opt1_%1").arg(scope));
-        button->setEnabled(state.Enabled);
-        connect(button, &QRadioButton::clicked, this,
-                [this, scope] { on([&] { form_.Opt1_Click(static_cast<int>(scope)); }); });
-        column->addWidget(button);
-        Opt1_.at(scope) = button;
-    }
-    return frame;
+    resize(em() * 26, em() * 37);
 }
 
 QWidget* exportFrmView::makeColumns() {
@@ -76,18 +54,10 @@ QWidget* exportFrmView::makeColumns() {
     List1_->setAccessibleName(tr("Columns to export"));
     List1_->setMinimumHeight(em() * 8);
     useListLook(*List1_);
-    for (const tables::exportFrm::Column& column : form_.List1) {
-        auto* item = new QTreeWidgetItem(List1_, {toQt(column.Name)});
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
-                       Qt::ItemNeverHasChildren);
-        item->setCheckState(0, Qt::Checked);
-    }
-    List1_->setCurrentItem(List1_->topLevelItem(0));
-    connect(List1_, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
-        on([&] {
-            form_.List1_ItemCheck(static_cast<std::size_t>(List1_->indexOfTopLevelItem(item)),
-                                  item->checkState(0) == Qt::Checked);
-        });
+    std::vector<std::string> names;
+    for (const tables::exportFrm::Column& column : form_.List1) names.push_back(column.Name);
+    fillCheckList(*List1_, names, [this](std::size_t row, bool checked) {
+        on([&] { form_.List1_ItemCheck(row, checked); });
     });
     auto* all = makeButton("Command1", tr("A&ll"), [this] { form_.Command1_Click(); });
     auto* none = makeButton("Command2", tr("&None"), [this] { form_.Command2_Click(); });
@@ -103,14 +73,14 @@ QWidget* exportFrmView::makeColumns() {
 }
 
 void exportFrmView::showMembers() {
-    Opt1_.at(static_cast<std::size_t>(form_.scope))->setChecked(true);
-    for (std::size_t i = 0; i < form_.List1.size(); ++i)
-        List1_->topLevelItem(static_cast<int>(i))
-            ->setCheckState(0, form_.List1[i].Checked ? Qt::Checked : Qt::Unchecked);
+    Opt1_->choose(form_.scope);
+    for (std::size_t i = 0; i < form_.List1.size(); ++i) showCheck(*List1_, i, form_.List1[i].Checked);
     Check1_->setChecked(form_.Check1 && form_.Check1Enabled);
     Check1_->setEnabled(form_.Check1Enabled);
     Check2_->setChecked(form_.Check2 && form_.Check2Enabled);
     Check2_->setEnabled(form_.Check2Enabled);
+    Check3_->setText(form_.bPicturesInside ? tr("With the &pictures, in the file")
+                                           : tr("With the &pictures, in a folder beside the file"));
     Check3_->setChecked(form_.Check3 && form_.Check3Enabled);
     Check3_->setEnabled(form_.Check3Enabled);
     formatCbo_->setCurrentIndex(form_.ListIndex);

@@ -1,14 +1,12 @@
 #pragma once
 
 #include "gui/dialogs/formView.h"
+#include "gui/widgets/scopeButtons.h"
 #include "tables/exportFrm.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QRadioButton>
 #include <QTreeWidget>
-
-#include <array>
 
 namespace gui {
 
@@ -25,11 +23,10 @@ protected:
     bool isUnloaded() const override { return form_.unloaded; }
 
 private:
-    QWidget* makeScopes();
     QWidget* makeColumns();
 
     tables::exportFrm form_;
-    std::array<QRadioButton*, 3> Opt1_{};
+    ScopeButtons* Opt1_ = nullptr;
     QTreeWidget* List1_;
     QCheckBox* Check1_;
     QCheckBox* Check2_;

@@ -1,6 +1,7 @@
 #include "gui/dialogs/serialCheckFrmView.h"
 
 #include "gui/records/listLook.h"
+#include "gui/widgets/columnLists.h"
 #include "gui/widgets/qtText.h"
 
 #include <QVBoxLayout>
@@ -11,15 +12,6 @@ serialCheckFrmView::serialCheckFrmView(app::App& app, EventBoundary& events, QWi
     : FormView(events, "serialCheckFrm", tr("Check Serial Numbers"), parent), form_(app),
       List1_(named("List1", new QComboBox)), List2_(named("List2", new QTreeWidget)),
       Label1_(named("Label1", new QLabel)) {
-    auto* caption = new QLabel(tr("&Column:"));
-    caption->setBuddy(List1_);
-    for (const std::string& name : form_.List1) List1_->addItem(toQt(name));
-    connect(List1_, &QComboBox::currentIndexChanged, this, [this](int entry) {
-        if (entry >= 0) on([&] { form_.List1_Click(entry); });
-    });
-    auto* what = new QHBoxLayout;
-    what->addWidget(caption);
-    what->addWidget(List1_, 1);
     auto* findings = new QLabel(tr("&Findings:"));
     findings->setBuddy(List2_);
     List2_->setHeaderHidden(true);
@@ -27,7 +19,8 @@ serialCheckFrmView::serialCheckFrmView(app::App& app, EventBoundary& events, QWi
     Label1_->setTextFormat(Qt::PlainText);
 
     auto* column = new QVBoxLayout(this);
-    column->addLayout(what);
+    column->addLayout(
+        makeColumnChoice(*List1_, form_.List1, [this](int entry) { on([&] { form_.List1_Click(entry); }); }));
     column->addWidget(findings);
     column->addWidget(List2_, 1);
     column->addWidget(Label1_);

@@ -1,6 +1,7 @@
 #include "gui/dialogs/setValuesFrmView.h"
 
 #include "gui/records/listLook.h"
+#include "gui/widgets/columnLists.h"
 #include "gui/widgets/qtText.h"
 
 #include <QButtonGroup>
@@ -15,20 +16,14 @@ setValuesFrmView::setValuesFrmView(app::App& app, EventBoundary& events, QWidget
       List1_(named("List1", new QComboBox)), Text1_(named("Text1", new QLineEdit)),
       Label1_(named("Label1", new QLabel)), Label2_(named("Label2", new QLabel)),
       preview_(named("preview", new QTreeWidget)) {
-    auto* caption = new QLabel(tr("&Column:"));
-    caption->setBuddy(List1_);
-    for (const std::string& name : form_.List1) List1_->addItem(toQt(name));
-    connect(List1_, &QComboBox::currentIndexChanged, this, [this](int entry) {
-        if (entry >= 0) on([&] { form_.List1_Click(entry); });
-    });
-    auto* what = new QHBoxLayout;
-    what->addWidget(caption);
-    what->addWidget(List1_, 1);
 
     auto* column = new QVBoxLayout(this);
-    column->addLayout(what);
+    column->addLayout(
+        makeColumnChoice(*List1_, form_.List1, [this](int entry) { on([&] { form_.List1_Click(entry); }); }));
     column->addWidget(makeValue());
-    column->addWidget(makeScopes());
+    Opt1_ = named("Frame2", new ScopeButtons(tr("The se&lected records"), form_.Opt1,
+                                             [this](int scope) { on([&] { form_.Opt1_Click(scope); }); }));
+    column->addWidget(Opt1_);
     column->addWidget(makePreview(), 1);
     OKButton_ = makeButton("OKButton", tr("&Set"), [this] { form_.OKButton_Click(); });
     OKButton_->setDefault(true);
@@ -68,28 +63,6 @@ QWidget* setValuesFrmView::makeValue() {
     return frame;
 }
 
-QWidget* setValuesFrmView::makeScopes() {
-    const std::array<QString, 3> captions = {tr("The se&lected records"), tr("The search &results"),
-                                             tr("&All records")};
-    auto* frame = named("Frame2", new QGroupBox(tr("Records")));
-    auto* column = new QVBoxLayout(frame);
-    for (std::size_t scope = 0; scope < captions.size(); ++scope) {
-        const search::setValuesFrm::ScopeButton& state = form_.Opt1.at(scope);
-        const QString caption =
-            state.Records == 0
-                ? captions.at(scope)
-                : tr("%1 (%2)").arg(captions.at(scope)).arg(static_cast<qulonglong>(state.Records));
-        auto* button = new QRadioButton(caption);
-        button->setObjectName(QStringLiteral("Opt1_%1").arg(scope));
-        button->setEnabled(state.Enabled);
-        connect(button, &QRadioButton::clicked, this,
-                [this, scope] { on([&] { form_.Opt1_Click(static_cast<int>(scope)); }); });
-        column->addWidget(button);
-        Opt1_.at(scope) = button;
-    }
-    return frame;
-}
-
 QWidget* setValuesFrmView::makePreview() {
     auto* part = new QWidget;
     auto* column = new QVBoxLayout(part);
@@ -123,7 +96,7 @@ void setValuesFrmView::showMembers() {
     (form_.bExpression ? expressionOpt_ : valueOpt_)->setChecked(true);
     Text1_->setPlaceholderText(form_.bExpression ? tr("Price * 1.1, with a blank beside each name")
                                                  : QString());
-    Opt1_.at(static_cast<std::size_t>(form_.scope))->setChecked(true);
+    Opt1_->choose(form_.scope);
     Label1_->setText(toQt(form_.Label1));
     Label2_->setText(toQt(form_.Label2));
     const QString text = toQt(form_.Text1.Text);

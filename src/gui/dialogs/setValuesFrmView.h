@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gui/dialogs/formView.h"
+#include "gui/widgets/scopeButtons.h"
 #include "search/setValuesFrm.h"
 
 #include <QComboBox>
@@ -8,8 +9,6 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTreeWidget>
-
-#include <array>
 
 namespace gui {
 
@@ -27,7 +26,6 @@ protected:
 
 private:
     QWidget* makeValue();
-    QWidget* makeScopes();
     QWidget* makePreview();
     void showPreview();
 
@@ -35,7 +33,7 @@ private:
     QComboBox* List1_;
     QRadioButton *valueOpt_ = nullptr, *expressionOpt_ = nullptr;
     QLineEdit* Text1_;
-    std::array<QRadioButton*, 3> Opt1_{};
+    ScopeButtons* Opt1_ = nullptr;
     QLabel *Label1_, *Label2_;
     QTreeWidget* preview_;
     QPushButton* OKButton_ = nullptr;

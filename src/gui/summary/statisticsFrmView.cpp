@@ -2,6 +2,7 @@
 
 #include "gui/records/listLook.h"
 #include "gui/summary/barDrawing.h"
+#include "gui/widgets/columnLists.h"
 #include "gui/widgets/qtText.h"
 #include "gui/widgets/toolTip.h"
 
@@ -44,12 +45,8 @@ statisticsFrmView::statisticsFrmView(app::App& app, EventBoundary& events, QWidg
       Check1_(named("Check1", new QCheckBox(tr("&Search results only")))),
       List1_(makeList("List1", {tr("Figure"), tr("Value")})),
       List2_(makeList("List2", {tr("Most frequent"), tr("Count"), QString()})) {
-    auto* label = new QLabel(tr("&Column:"));
-    label->setBuddy(columnCbo_);
-    for (const std::string& name : form_.columnCbo) columnCbo_->addItem(toQt(name));
-    auto* top = new QHBoxLayout;
-    top->addWidget(label);
-    top->addWidget(columnCbo_, 1);
+    auto* top = makeColumnChoice(*columnCbo_, form_.columnCbo,
+                                 [this](int entry) { on([&] { form_.columnCbo_Click(entry); }); });
     top->addWidget(Check1_);
     List1_->setAccessibleName(tr("Figures"));
     List2_->setAccessibleName(tr("Most frequent values"));
@@ -69,8 +66,6 @@ statisticsFrmView::statisticsFrmView(app::App& app, EventBoundary& events, QWidg
     rows->addLayout(top);
     rows->addLayout(lists, 1);
     rows->addLayout(buttons);
-    connect(columnCbo_, &QComboBox::activated, this,
-            [this](int entry) { on([&] { form_.columnCbo_Click(entry); }); });
     connect(Check1_, &QCheckBox::clicked, this,
             [this](bool bChecked) { on([&] { form_.Check1_Click(bChecked); }); });
     resize(em() * 42, em() * 22);
