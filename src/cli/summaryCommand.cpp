@@ -28,6 +28,8 @@ struct SummaryOptions {
     bool json = false, csv = false;
 };
 
+constexpr int mostTop = 1'000'000;
+
 constexpr std::array<const char*, 4> counted = {"sum", "mean", "least value", "greatest value"};
 
 struct StatisticsOptions {
@@ -245,7 +247,7 @@ Run setUpStatistics(CLI::App& command) {
     command.add_option("COLUMN", options->column, "The column")->required();
     command.add_option("--top", options->top, "So many of the most frequent values, 10 when not told")
         ->type_name("N")
-        ->check(CLI::NonNegativeNumber);
+        ->check(CLI::Range(0, mostTop));
     addWhereOption(command, options->where);
     command.add_flag("--json", options->json, "As JSON");
     command.parse_complete_callback([options] { options->where.read(); });

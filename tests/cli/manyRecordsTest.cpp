@@ -61,6 +61,7 @@ $1 fwk summary a.fwk --by Bed:year -> ! "year" is no step of the column "Bed" &&
 $1 fwk summary a.fwk --by Bed --sum Day -> ! the column "Day" has no sum
 $1 fwk statistics a.fwk Index -> ! no column "Index" && $2 fwk summary a.fwk -> ! --by is required
 $2 fwk summary a.fwk --by Bed --by Day --by Cost -> ! --by: At Most 2 required but received 3
+$2 fwk statistics a.fwk Cost --top -1 -> ! --top: Value -1 not in range 0 to 1000000
 )sh");
 }
 

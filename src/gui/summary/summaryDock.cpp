@@ -140,6 +140,7 @@ QWidget* SummaryDock::makeResult() {
     chart_->setObjectName(QStringLiteral("summaryBars"));
     connect(table_, &QTreeView::clicked, this, [this](const QModelIndex& index) { choose(index.row()); });
     table_->installEventFilter(this);
+    chart_->installEventFilter(this);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& now) { chart_->setCurrent(now.row()); });
     connect(chart_, &BarChart::currentChanged, this,
@@ -178,8 +179,8 @@ QLayout* SummaryDock::makeButtons() {
     all_ = makeButton("allBtn", tr("&All Records"), &summary::SummaryPanel::showAll);
     all_->setToolTip(tr("Puts all records back in place of those of a group"));
     row->addWidget(all_);
-    outputs_ = {makeButton("copySummary", tr("&Copy"), &summary::SummaryPanel::copy),
-                makeButton("exportSummary", tr("E&xport..."), &summary::SummaryPanel::exportTable),
+    copy_ = makeButton("copySummary", tr("&Copy"), &summary::SummaryPanel::copy);
+    outputs_ = {copy_, makeButton("exportSummary", tr("E&xport..."), &summary::SummaryPanel::exportTable),
                 makeButton("printSummary", tr("&Print..."), &summary::SummaryPanel::print)};
     for (QPushButton* button : outputs_) row->addWidget(button);
     return row;
@@ -258,7 +259,7 @@ void SummaryDock::showSummary() {
         shown_ = panel_.countings;
         const int current = table_->currentIndex().row(), columns = model_->columnCount();
         model_->show(panel_.summary);
-        if (current >= 0) table_->setCurrentIndex(model_->index(std::min(current, model_->groups()), 0));
+        table_->setCurrentIndex(model_->index(std::clamp(current, 0, std::max(0, model_->groups())), 0));
         if (columns != model_->columnCount() || current < 0) fitColumns();
         fillBox(*bars_, panel_.barNames);
         bars_->setCurrentIndex(panel_.bars);
@@ -293,6 +294,13 @@ void SummaryDock::choose(int row) {
 }
 
 bool SummaryDock::eventFilter(QObject* watched, QEvent* event) {
+    // Here the table of the summary is what a user means to copy, not the records above it.
+    const bool bKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (bKey && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+        event->accept();
+        if (event->type() == QEvent::KeyPress) copy_->click();
+        return true;
+    }
     if (watched == table_ && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {

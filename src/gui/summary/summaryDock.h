@@ -60,7 +60,7 @@ private:
     QMenu* figureMenu_ = nullptr;
     QComboBox* bars_ = nullptr;
     QCheckBox* onlyFound_ = nullptr;
-    QPushButton* all_ = nullptr;
+    QPushButton *all_ = nullptr, *copy_ = nullptr;
     std::vector<QPushButton*> outputs_; // need a summary
     QTreeView* table_ = nullptr;
     SummaryModel* model_;

@@ -1,5 +1,6 @@
 #include "gui/summary/summaryModel.h"
 
+#include "core/text.h"
 #include "gui/widgets/qtText.h"
 #include "gui/widgets/toolTip.h"
 
@@ -7,6 +8,12 @@
 #include <QFont>
 
 namespace gui {
+
+namespace {
+
+constexpr std::size_t mostLetters = 300; // shown of a text: a view measures all of them each time it paints
+
+} // namespace
 
 void SummaryModel::show(const summary::Summary& summary) {
     beginResetModel();
@@ -28,7 +35,7 @@ QVariant SummaryModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row()), column = static_cast<std::size_t>(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return toQt(table_.rows[row][column]);
+        return toQt(core::left(table_.rows[row][column], mostLetters));
     case Qt::ToolTipRole:
         return toolTipOf(toQt(table_.rows[row][column]));
     case Qt::TextAlignmentRole:
