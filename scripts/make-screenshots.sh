@@ -25,6 +25,7 @@ readonly toolbarY=38
 
 # A home of its own: the user's settings stay as they are, and the pictures do not depend on them.
 export HOME=$scratch/me XDG_CONFIG_HOME=$scratch/me/.config XDG_DATA_HOME=$scratch/me/.local/share
+export XDG_STATE_HOME=$HOME/.local/state
 export XDG_RUNTIME_DIR=$scratch/run DISPLAY=${SCREENSHOT_DISPLAY:-:97} QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 LANGUAGE=
 mkdir -p "$XDG_CONFIG_HOME/ferrowick" "$XDG_DATA_HOME" "$HOME/Documents" help/images docs/images
 mkdir -m 700 "$XDG_RUNTIME_DIR"
@@ -60,6 +61,8 @@ window() {
 
 open() { # open [FILE]
     [[ -z $opened ]] || { kill "$opened"; wait "$opened" 2>/dev/null || true; }
+    # What was changed for a picture is kept as unsaved work, and would be offered.
+    rm -rf "$XDG_DATA_HOME" "$XDG_STATE_HOME"
     "$program" "$@" 2>/dev/null &
     opened=$!
     window '^Ferrowick'
@@ -198,7 +201,7 @@ click 60 75
 shot expression expression-editor
 keys Escape
 back
-keys alt+t Up Up Return
+keys alt+t Up Up Up Return
 window '^Choose Columns To Total$'
 shot totals
 
@@ -222,6 +225,14 @@ write "$PWD/customers.csv"
 keys Return
 window '^Import$'
 shot import
+keys Escape
+back
+
+open library.fwk
+keys alt+f t
+window '^Export$'
+keys alt+p
+shot export
 keys Escape
 back
 

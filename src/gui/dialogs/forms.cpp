@@ -6,12 +6,9 @@
 #include "gui/dialogs/disclaimFrmView.h"
 #include "gui/dialogs/duplicatesFrmView.h"
 #include "gui/dialogs/entryFrmView.h"
-#include "gui/dialogs/exportFrmView.h"
 #include "gui/dialogs/formulateFrmView.h"
-#include "gui/dialogs/importFrmView.h"
 #include "gui/dialogs/layoutPageSetupFrmView.h"
 #include "gui/dialogs/mailFrmView.h"
-#include "gui/dialogs/pasteFrmView.h"
 #include "gui/dialogs/repeatFrmView.h"
 #include "gui/dialogs/replaceFrmView.h"
 #include "gui/dialogs/reportPageSetupView.h"
@@ -22,6 +19,9 @@
 #include "gui/dialogs/totalsFrmView.h"
 #include "gui/dialogs/versionsFrmView.h"
 #include "gui/summary/statisticsFrmView.h"
+#include "gui/tables/exportFrmView.h"
+#include "gui/tables/importFrmView.h"
+#include "gui/tables/pasteFrmView.h"
 
 namespace gui {
 

@@ -1,4 +1,4 @@
-#include "gui/dialogs/pasteFrmView.h"
+#include "gui/tables/pasteFrmView.h"
 
 #include "gui/dialogs/dialogFit.h"
 #include "gui/records/listLook.h"

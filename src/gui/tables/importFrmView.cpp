@@ -1,4 +1,4 @@
-#include "gui/dialogs/importFrmView.h"
+#include "gui/tables/importFrmView.h"
 
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"

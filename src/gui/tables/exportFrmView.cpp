@@ -1,4 +1,4 @@
-#include "gui/dialogs/exportFrmView.h"
+#include "gui/tables/exportFrmView.h"
 
 #include "gui/records/listLook.h"
 #include "gui/widgets/columnLists.h"
