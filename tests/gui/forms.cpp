@@ -60,8 +60,8 @@ click againBtn; click First; press Ctrl+Return -> LV.1=Bolt|2|TODAY|$12.34|$276.
     FieldBox1 FieldBox2 FieldBox3
 press Ctrl+D; press Escape -> "Are you sure?" -LV -entryFrm LV.1=>Bolt|2|TODAY|$12.34|$276.80 LV.2=-|-|-|-|$356.80
     LV=* SB1_1=2 records.
-click mnuSerialAdjust; click List1 No; press Tab; type 100x; press Return -> "You entered a" serialFrm=Adjust Serial
-    Number Values List1.0=>No Text1=100x|
+click mnuSerialAdjust; click List1 No -> serialFrm=Adjust Serial Number Values List1.0=>No List1=* Text1=3
+press Tab; type 100x; press Return -> "You entered a" Text1=100x|
 press Ctrl+A; type 0100; press Return; press Escape; click mnuDatabaseLock; click Properties; click Design -> "No's
     value has" "This feature will" "Database Locked." "The database structure" -serialFrm LV=*
 click mnuDatabaseLock; click Save; press Return; press Ctrl+N -> SB1_5=Document Saved entryFrm=Entry Form FieldBox0=|

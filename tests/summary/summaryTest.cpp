@@ -257,7 +257,8 @@ TEST(SummaryPanel, Prints) {
     PrintProgram program;
     program.openRecords(80);
     program.record({"r1"});
-    program.record({std::string(300'000, 'x')}); // would take minutes, measured letter by letter
+    const std::string longest(300'000, 'x'); // would take minutes, measured letter by letter
+    program.record({longest.c_str()});
     SummaryPanel panel(program.app);
     panel.follow();
     panel.recount();
