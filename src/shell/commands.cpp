@@ -116,6 +116,18 @@ std::vector<Command> toolbarCommands() {
     };
 }
 
+std::vector<Command> viewCommands() {
+    return {
+        {"mnuZoomIn", "Zoom &In", "", "zoomIn", false, zoomIn, canZoomIn},
+        {"mnuZoomOut", "Zoom &Out", "", "zoomOut", false, zoomOut, canZoomOut},
+        {"mnuZoomNormal", "&Normal Size", "", "zoomNormal", false, zoomNormal, canZoomNormal},
+        {"mnuFitPage", "Fit &Page", "Show the whole page", "fitPage", false, fitPage, canFit},
+        {"mnuFitWidth", "Fit &Width", "As wide as the window", "fitWidth", false, fitWidth, canFit},
+        {"mnuFreezeColumn", "&Freeze First Column", "", "", true, toggleFreezeColumn, canFreezeColumn},
+        {"mnuColours", "&Colours...", "", "colours", false, search::mnuColours_Click, canFreezeColumn},
+    };
+}
+
 std::vector<Command> menuCommands() {
     using app::MainFrm;
     return {
@@ -151,13 +163,6 @@ std::vector<Command> menuCommands() {
         {"mnuSetValues", "Set &Values...", "", "setValues", false, search::mnuSetValues_Click},
         {"mnuFilter", "F&ilter...", "", "filter", false, search::mnuFilter_Click, search::canFilter},
         {"mnuDuplicates", "Find Duplicat&es...", "", "duplicates", false, search::mnuDuplicates_Click},
-        {"mnuZoomIn", "Zoom &In", "", "zoomIn", false, zoomIn, canZoomIn},
-        {"mnuZoomOut", "Zoom &Out", "", "zoomOut", false, zoomOut, canZoomOut},
-        {"mnuZoomNormal", "&Normal Size", "", "zoomNormal", false, zoomNormal, canZoomNormal},
-        {"mnuFitPage", "Fit &Page", "Show the whole page", "fitPage", false, fitPage, canFit},
-        {"mnuFitWidth", "Fit &Width", "As wide as the window", "fitWidth", false, fitWidth, canFit},
-        {"mnuFreezeColumn", "&Freeze First Column", "", "", true, toggleFreezeColumn, canFreezeColumn},
-        {"mnuColours", "&Colours...", "", "colours", false, search::mnuColours_Click, canFreezeColumn},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
         {"mnuSelectedTotals", "Selected &Totals", "", "totals", false, toggleSelectedTotals},
         {"mnuSummary", "Su&mmary", "", "summary", true, summary::mnuSummary_Click},
@@ -189,7 +194,7 @@ std::vector<Command> menuCommands() {
 const std::map<std::string_view, Command>& allCommands() {
     static const std::map<std::string_view, Command> commands = [] {
         std::map<std::string_view, Command> all;
-        for (const auto& table : {toolbarCommands(), menuCommands()})
+        for (const auto& table : {toolbarCommands(), menuCommands(), viewCommands()})
             for (const Command& entry : table) all.emplace(entry.key, entry);
         return all;
     }();

@@ -117,6 +117,10 @@ void GroupRun::addSingle(const Item& record) {
     }
 }
 
+std::string_view valueAt(const std::vector<std::string_view>& values, std::size_t place) {
+    return place < values.size() ? values[place] : std::string_view();
+}
+
 // The groups of the item rows one by one, and then the values of each row into the group of the row.
 void GroupRun::addItems(const Item& record) {
     std::array<std::vector<std::string_view>, 2> values;
@@ -129,9 +133,7 @@ void GroupRun::addItems(const Item& record) {
         if (!items_.isUsed(row)) continue;
         std::array<std::uint32_t, 2> keys{};
         for (std::size_t i = 0; i < by_.size(); ++i) {
-            const auto& all = values.at(i);
-            const std::size_t place = by_[i].bItems ? row : 0;
-            keys.at(i) = by_[i].reader.groupOf(place < all.size() ? all[place] : std::string_view());
+            keys.at(i) = by_[i].reader.groupOf(valueAt(values.at(i), by_[i].bItems ? row : 0));
         }
         const std::uint32_t group = placeOf(keys[0], keys[1]);
         groupOfRow[row] = group;
