@@ -128,8 +128,7 @@ std::vector<Command> viewCommands() {
     };
 }
 
-std::vector<Command> menuCommands() {
-    using app::MainFrm;
+std::vector<Command> fileCommands() {
     return {
         {"mnuNew", "&New", "", "new", false, newDatabase},
         {"mnuOpen", "&Open", "", "open", false, open},
@@ -148,6 +147,12 @@ std::vector<Command> menuCommands() {
         {"mnuFile2", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile2"); }},
         {"mnuFile3", "", "", "recent", false, [](App& app) { openRecentFile(app, "mnuFile3"); }},
         {"mnuExit", "&Exit", "", "exit", false, Form_QueryUnload},
+    };
+}
+
+std::vector<Command> menuCommands() {
+    using app::MainFrm;
+    return {
         {"mnuUndo", "&Undo", "", "undo", false, undo},
         {"mnuRedo", "&Redo", "", "redo", false, redo},
         {"mnuCut", "Cu&t", "", "cut", false, cut, canCut},
@@ -194,7 +199,7 @@ std::vector<Command> menuCommands() {
 const std::map<std::string_view, Command>& allCommands() {
     static const std::map<std::string_view, Command> commands = [] {
         std::map<std::string_view, Command> all;
-        for (const auto& table : {toolbarCommands(), menuCommands(), viewCommands()})
+        for (const auto& table : {toolbarCommands(), fileCommands(), menuCommands(), viewCommands()})
             for (const Command& entry : table) all.emplace(entry.key, entry);
         return all;
     }();
