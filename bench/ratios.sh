@@ -13,7 +13,7 @@ runs=${2:-20}
 fwk=$build/src/fwk
 for program in "$fwk" "$build/bench/make_big_database" "$build/bench/document_memory"; do
     if [[ ! -x $program ]]; then
-        echo "ratios.sh: $program is not built; run: cmake --preset release && cmake --build --preset release" >&2
+        echo "ratios.sh: $program is not built; run: cmake --preset release && cmake --build --preset release --target all benchmarks" >&2
         exit 2
     fi
 done

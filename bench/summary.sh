@@ -12,7 +12,7 @@ runs=${2:-11}
 "$project/scripts/install-packages.sh" bench
 for program in "$build/src/fwk" "$build/bench/ferrowick_bench"; do
     if [[ ! -x $program ]]; then
-        echo "summary.sh: $program is not built; run: cmake --preset release && cmake --build --preset release" >&2
+        echo "summary.sh: $program is not built; run: cmake --preset release && cmake --build --preset release --target all benchmarks" >&2
         exit 2
     fi
 done
