@@ -92,6 +92,23 @@ measure_total() {
     row "$name: total / info (least of $runs)" "$total" "$info" 2 ms
 }
 
+# The megabytes that a command takes at most.
+peak() { /usr/bin/time -f %M -o peak.txt "$@" >/dev/null && awk '{ printf "%.1f", $1 * 1024 / 1e6 }' peak.txt; }
+
+# What a table costs over the open database, beside the bytes of the table.
+measure_table_memory() {
+    local name=$1 file=$2 kind open table
+    "$fwk" export "$file" -o table.csv
+    open=$(peak "$fwk" info "$file")
+    table=$(stat -c %s table.csv | awk '{ printf "%.1f", $1 / 1e6 }')
+    over() { awk -v a="$1" -v b="$open" 'BEGIN { printf "%.1f", a - b }'; }
+    for kind in csv xlsx ods json sqlite; do
+        row "$name: memory, out as $kind / table" "$(over "$(peak "$fwk" export "$file" -o "table.$kind")")" "$table" 4 MB
+        rm -f new.fwk
+        row "$name: memory, in from $kind / table" "$(over "$(peak "$fwk" import new.fwk "table.$kind")")" "$table" 4 MB
+    done
+}
+
 # The records out into a table and in from it, each against the spreadsheet program that writes the same table from
 # comma-separated values, or reads it into such.
 measure_tables() {
@@ -122,5 +139,6 @@ printf '%-46s %11s %11s %6s  %-7s\n' "" Ferrowick other ratio limit
 measure_total "32000 x 10" packages.fwk Bytes
 measure "32000 x 10" packages.fwk Bytes
 measure_tables "32000 x 10" packages.fwk
+measure_table_memory "32000 x 10" packages.fwk
 measure "32767 x 50" largest.fwk Col2
 exit $failed

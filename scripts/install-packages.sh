@@ -9,7 +9,7 @@ build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl1-mesa-dev
 run=(libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6svg6 qt6-wayland fonts-liberation fonts-dejavu-core)
 test=(libgtest-dev libgmock-dev libbenchmark-dev zip unzip clang-format-14 poppler-utils)
 tidy=(clang-tidy-14)
-bench=(libbenchmark-dev hyperfine zip unzip sqlite3)
+bench=(libbenchmark-dev hyperfine time zip unzip sqlite3)
 package=(dpkg-dev file gzip)
 # Work without these is slower or leaves a step out, but is done.
 optional=(ccache mold clang-14 libclang-rt-14-dev)

@@ -114,7 +114,7 @@ exchange::OutTable tableOf(const ExportOptions& options, core::Document& documen
         table.columns.push_back({column->Text, column->type(), column->Width,
                                  options.values ? std::string() : expressionOf(document, *column)});
     const auto add = [&](const Item& item) {
-        std::vector<std::string>& row = table.rows.emplace_back();
+        exchange::OutRow& row = table.rows.emplace_back();
         row.reserve(columns.size());
         for (const Column* column : columns) row.emplace_back(RecordsList::cell(item, *column).view());
     };

@@ -27,7 +27,7 @@ void settle(const SheetImport& import, const std::vector<std::string>& questions
         throw Failure(import.table, "nothing is stored; --yes leaves out what cannot be stored");
 }
 
-void makeOf(Session& session, const SheetImport& import, const ImportTable& table) {
+void makeOf(Session& session, const SheetImport& import, ImportTable& table) {
     if (const std::string why = table.whyNoDatabase(); !why.empty()) throw Failure(import.table, why);
     if (import.invoice && std::ranges::any_of(table.columns(), [](const ImportTable::Column& column) {
             return column.how.as.type == core::ColumnType::Picture;
@@ -40,7 +40,7 @@ void makeOf(Session& session, const SheetImport& import, const ImportTable& tabl
         storage::createEmptyArchive(app, session.platform.workFolder() / "new.fwk");
         tables::addImportedColumns(app.document, table);
         storage::finishNewDatabase(app);
-        tables::addImportedRecords(app, app.document, table);
+        tables::takeImportedRecords(app, app.document, table);
         app::setDocumentModified(app, true);
     });
     session.saveAs(import.file);

@@ -131,7 +131,7 @@ std::string asCsv(const Summary& summary) {
     for (const exchange::OutColumn& column : rows.columns) table.cell(column.name);
     table.endLine();
     for (std::size_t row = 0; row + 1 < rows.rows.size(); ++row) { // all but the grand total
-        for (const std::string& cell : rows.rows[row]) table.cell(cell);
+        for (const core::CellText& cell : rows.rows[row]) table.cell(cell);
         table.endLine();
     }
     return out;

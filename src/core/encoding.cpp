@@ -60,15 +60,25 @@ std::string fromWindows1252(std::string_view bytes) {
 }
 
 std::optional<std::string> toWindows1252(std::string_view text) {
-    std::string bytes;
-    bytes.reserve(text.size());
-    std::size_t offset = 0;
-    for (takeAscii(bytes, text, offset); offset < text.size(); takeAscii(bytes, text, offset)) {
-        const std::optional<unsigned char> byte = windowsByte(nextCodePoint(text, offset));
-        if (!byte) return std::nullopt;
-        bytes.push_back(static_cast<char>(*byte));
-    }
+    std::optional<std::string> bytes(text);
+    if (!intoWindows1252(*bytes)) bytes.reset();
     return bytes;
+}
+
+bool intoWindows1252(std::string& text) {
+    const std::string_view all = text;
+    for (std::size_t at = asciiLength(all); at < all.size(); at += asciiLength(all.substr(at)))
+        if (!windowsByte(nextCodePoint(all, at))) return false;
+    std::size_t to = 0;
+    for (std::size_t from = 0; from < all.size();) {
+        const std::string_view run = all.substr(from, asciiLength(all.substr(from)));
+        std::ranges::copy(run, text.data() + to); // never to the right
+        from += run.size();
+        to += run.size();
+        if (from < all.size()) text[to++] = static_cast<char>(*windowsByte(nextCodePoint(all, from)));
+    }
+    text.resize(to);
+    return true;
 }
 
 std::string sanitizeUtf8(std::string_view bytes) {

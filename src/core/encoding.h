@@ -16,6 +16,8 @@ bool hasUtf8Mark(std::string_view bytes);
 std::string fromWindows1252(std::string_view bytes);
 // Nothing when a character does not fit.
 std::optional<std::string> toWindows1252(std::string_view text);
+// The same in the place of the text. False when a character does not fit; the text is as it was then.
+bool intoWindows1252(std::string& text);
 
 // Bytes that are no UTF-8 become U+FFFD, so that all text in memory is well formed.
 std::string sanitizeUtf8(std::string_view bytes);

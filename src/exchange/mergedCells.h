@@ -20,6 +20,7 @@ class MergedCells {
 public:
     // "B2:C4"; what is no range is left out. Raises badFileFormat for more than a sheet has rows.
     void add(std::string_view range);
+    bool empty() const { return ranges_.empty(); }
     // When all are added. Rows are asked for from the top down.
     bool covers(CellPlace place);
 

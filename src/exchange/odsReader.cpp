@@ -15,30 +15,35 @@ namespace {
 
 using Kind = SheetCell::Kind;
 
-std::string contentOf(const std::filesystem::path& file) {
-    file::Zip zip;
-    zip.OpenArchive(file);
-    auto text = zip.readEntry("content.xml", SheetBounds::fileBytes);
-    if (!text) refuseSheet("it has no content.xml");
-    return *std::move(text);
-}
+class Document {
+public:
+    explicit Document(const std::filesystem::path& file) { zip_.OpenArchive(file); }
 
-std::vector<std::string> toldTypes(const std::filesystem::path& file) {
-    file::Zip zip;
-    zip.OpenArchive(file);
-    std::vector<std::string> headings;
-    std::string text = zip.readEntry("meta.xml", SheetBounds::fileBytes).value_or("");
-    XmlPieces pieces(text);
-    pugi::xml_document tree;
-    for (auto each = pieces.next(" user-defined "); !each.name.empty();
-         each = pieces.next(" user-defined ")) {
-        pieces.read(each, tree);
-        const pugi::xml_node node = tree.document_element();
-        if (std::string_view(attributeOf(node, "name").value()).starts_with(typeProperty))
-            headings.emplace_back(node.text().get());
+    XmlPieces content() const {
+        auto part = zip_.openEntry("content.xml", SheetBounds::fileBytes);
+        if (!part) refuseSheet("it has no content.xml");
+        return XmlPieces(*std::move(part));
     }
-    return headings;
-}
+
+    std::vector<std::string> toldTypes() const {
+        std::vector<std::string> headings;
+        auto part = zip_.openEntry("meta.xml", SheetBounds::fileBytes);
+        if (!part) return headings;
+        XmlPieces pieces(*std::move(part));
+        pugi::xml_document tree;
+        for (auto each = pieces.next(" user-defined "); !each.name.empty();
+             each = pieces.next(" user-defined ")) {
+            pieces.read(each, tree);
+            const pugi::xml_node node = tree.document_element();
+            if (std::string_view(attributeOf(node, "name").value()).starts_with(typeProperty))
+                headings.emplace_back(node.text().get());
+        }
+        return headings;
+    }
+
+private:
+    file::Zip zip_;
+};
 
 std::size_t repeats(const pugi::xml_node& node, std::string_view name) {
     return std::max<std::size_t>(countIn(attributeOf(node, name)), 1);
@@ -207,8 +212,8 @@ void eachTable(XmlPieces& pieces, const std::function<bool(const std::string& na
 } // namespace
 
 std::vector<std::string> names(const std::filesystem::path& file) {
-    std::string text = contentOf(file);
-    XmlPieces pieces(text);
+    const Document document(file);
+    XmlPieces pieces = document.content();
     std::vector<std::string> names;
     eachTable(pieces, [&](const std::string& name) {
         if (names.size() >= SheetBounds::columns) refuseSheet("it has too many sheets");
@@ -220,8 +225,8 @@ std::vector<std::string> names(const std::filesystem::path& file) {
 }
 
 Sheet read(const std::filesystem::path& file, std::size_t sheet, const Progress& progress) {
-    std::string text = contentOf(file);
-    XmlPieces pieces(text);
+    const Document document(file);
+    XmlPieces pieces = document.content();
     std::vector<std::string> names;
     eachTable(pieces, [&](const std::string& name) {
         names.push_back(name);
@@ -231,7 +236,7 @@ Sheet read(const std::filesystem::path& file, std::size_t sheet, const Progress&
     Sheet table = SheetReader(pieces).read(progress);
     table.name = std::move(name);
     table.bTyped = true;
-    restoreTypes(table, toldTypes(file));
+    restoreTypes(table, document.toldTypes());
     return table;
 }
 

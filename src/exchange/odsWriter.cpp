@@ -132,7 +132,7 @@ private:
         std::string last;
         for (std::size_t row = 0; row < table_.rows.size(); ++row)
             for (std::size_t i = 0; i < table_.columns.size(); ++i) {
-                const std::string& text = cellIn(table_, row, i);
+                const std::string_view text = cellIn(table_, row, i);
                 if (text.empty() || table_.columns[i].type == core::ColumnType::Text) continue;
                 std::string style = styleOf(outCell(table_.columns[i].type, text), isBold(row));
                 if (style == last) continue;
@@ -148,7 +148,7 @@ private:
         const bool bBold = isBold(row);
         rows_.append("<table:table-row>");
         for (std::size_t i = 0; i < table_.columns.size(); ++i) {
-            const std::string& text = cellIn(table_, row, i);
+            const std::string_view text = cellIn(table_, row, i);
             if (text.empty()) {
                 rows_.append("<table:table-cell/>");
                 continue;
@@ -158,7 +158,7 @@ private:
         rows_.append("</table:table-row>");
     }
 
-    void appendCell(std::size_t row, std::size_t column, const std::string& text, bool bBold) {
+    void appendCell(std::size_t row, std::size_t column, std::string_view text, bool bBold) {
         const OutCell cell = outCell(table_.columns[column].type, text);
         const std::string style = styleOf(cell, bBold);
         rows_.append("<table:table-cell");

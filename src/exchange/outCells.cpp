@@ -117,10 +117,9 @@ OutCell outCell(ColumnType type, std::string_view cell) {
     }
 }
 
-const std::string& cellIn(const OutTable& table, std::size_t row, std::size_t column) {
-    static const std::string empty;
-    const auto& cells = table.rows[row];
-    return column < cells.size() ? cells[column] : empty;
+std::string_view cellIn(const OutTable& table, std::size_t row, std::size_t column) {
+    const OutRow& cells = table.rows[row];
+    return column < cells.size() ? cells[column].view() : std::string_view();
 }
 
 OutFormulas::OutFormulas(const OutTable& table, Style style) : table_(table), style_(style) {
@@ -158,7 +157,7 @@ std::optional<std::string> OutFormulas::at(std::size_t row, std::size_t column, 
     for (const Word& word : *formulas_[column]) {
         formula.append(word.text);
         if (!word.column) continue;
-        const std::string& cell = cellIn(table_, row, *word.column);
+        const std::string_view cell = cellIn(table_, row, *word.column);
         const OutCell operand = outCell(table_.columns[*word.column].type, cell);
         const bool bNumber = operand.what == OutCell::What::Number || operand.what == OutCell::What::Money;
         // An empty cell is worth 0 on both sides, a text is not; and ours counts four places.

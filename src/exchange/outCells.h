@@ -23,7 +23,7 @@ struct OutCell {
 OutCell outCell(core::ColumnType type, std::string_view cell);
 
 // A cell that a row has left out is empty.
-const std::string& cellIn(const OutTable& table, std::size_t row, std::size_t column);
+std::string_view cellIn(const OutTable& table, std::size_t row, std::size_t column);
 
 // The calculated columns as formulas of a spreadsheet, where its arithmetic says the same as ours.
 class OutFormulas {

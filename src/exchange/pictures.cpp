@@ -17,7 +17,7 @@ std::set<std::string> namesIn(const OutTable& table) {
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         if (table.columns[i].type != core::ColumnType::Picture) continue;
         for (std::size_t row = 0; row < table.rows.size(); ++row)
-            if (const std::string& name = cellIn(table, row, i); !name.empty()) names.insert(name);
+            if (const std::string_view name = cellIn(table, row, i); !name.empty()) names.emplace(name);
     }
     return names;
 }

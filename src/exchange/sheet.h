@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/cellText.h"
 #include "core/column.h"
 
 #include <cstddef>
@@ -16,11 +17,14 @@ namespace exchange {
 // A cell as its file has it.
 struct SheetCell {
     enum class Kind : std::uint8_t { Empty, Text, Number, Date, Time, DateTime, Boolean };
+    SheetCell() = default;
+    SheetCell(Kind what, std::string_view as, bool isMoney = false) : kind(what), bMoney(isMoney), text(as) {}
+
     Kind kind = Kind::Empty;
+    bool bMoney = false; // a number that is shown with the sign of a currency
     // Number: digits with ".", as "-1234.5"; Date "2024-12-31"; Time "13:05:00"; DateTime
     // "2024-12-31 13:05:00"; Boolean "true" or "false".
-    std::string text;
-    bool bMoney = false; // a number that is shown with the sign of a currency
+    core::CellText text;
 };
 using SheetRow = std::vector<SheetCell>;
 
@@ -57,10 +61,12 @@ struct OutColumn {
     std::string formula; // an expression of ours over the columns, empty for none
 };
 
+using OutRow = std::vector<core::CellText>;
+
 struct OutTable {
     std::string title;
     std::vector<OutColumn> columns;
-    std::vector<std::vector<std::string>> rows;
+    std::vector<OutRow> rows;
     bool bLastIsTotals = false;
     // With the files that cells of Picture columns name, which .xlsx shows in their rows; empty for none.
     std::filesystem::path pictures = {};

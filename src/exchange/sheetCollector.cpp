@@ -31,8 +31,7 @@ void tellProgress(const Progress& progress, std::size_t done, std::size_t total)
 }
 
 void SheetCollector::cell(SheetCell cell) {
-    std::string& text = cell.text;
-    if (cell.kind == SheetCell::Kind::Empty || (cell.kind == SheetCell::Kind::Text && text.empty())) {
+    if (cell.kind == SheetCell::Kind::Empty || (cell.kind == SheetCell::Kind::Text && cell.text.empty())) {
         ++pendingCells_;
         return;
     }
@@ -40,9 +39,13 @@ void SheetCollector::cell(SheetCell cell) {
     row_.resize(column());
     pendingCells_ = 0;
     if (cells_ + row_.size() >= SheetBounds::cells) refuseMoreThan(SheetBounds::cells, " cells");
-    if (!core::isAscii(text)) text = core::sanitizeUtf8(text);
-    std::erase(text, '\0');
-    if (text.size() > textWithin) textBytes_ += text.size() + blockBytes;
+    if (!core::isAscii(cell.text)) cell.text = core::sanitizeUtf8(cell.text);
+    if (cell.text.view().find('\0') != std::string_view::npos) {
+        std::string text = cell.text.str();
+        std::erase(text, '\0');
+        cell.text = text;
+    }
+    if (cell.text.size() > textWithin) textBytes_ += cell.text.size() + blockBytes;
     if (textBytes_ > SheetBounds::textBytes) refuseSheet("its texts are too long");
     row_.push_back(std::move(cell));
 }

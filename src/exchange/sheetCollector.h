@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace exchange {
@@ -33,8 +34,8 @@ public:
     // A row far below the last one, or a cell far to the right, is refused only where something stands in
     // it: spreadsheets fill up to their edges with blanks.
     void cell(SheetCell cell);
-    void cell(SheetCell::Kind kind, std::string text) { cell({kind, std::move(text)}); }
-    void text(std::string text) { cell(SheetCell::Kind::Text, std::move(text)); }
+    void cell(SheetCell::Kind kind, std::string_view text) { cell({kind, text}); }
+    void text(std::string_view text) { cell(SheetCell::Kind::Text, text); }
     void blanks(std::size_t count) { pendingCells_ += count; }
     // The place of the next cell, from 0.
     std::size_t column() const { return row_.size() + pendingCells_; }

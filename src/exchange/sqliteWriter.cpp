@@ -60,6 +60,24 @@ void bindCell(sqlite3_stmt* row, int place, const OutCell& cell, std::string_vie
         sqlite3_bind_null(row, place);
 }
 
+// One block for the whole file, so that no copy of it is made, neither when it grows nor at its end. What of
+// it is not written to takes no memory.
+void makeRoom(sqlite3& database, const OutTable& table) {
+    constexpr sqlite3_int64 least = 65'536, ofRow = 64, ofCell = 16, ofByte = 2;
+    sqlite3_int64 room = least;
+    for (std::size_t row = 0; row < table.rows.size(); ++row) {
+        room += ofRow;
+        for (std::size_t i = 0; i < table.columns.size(); ++i)
+            room += ofCell + ofByte * static_cast<sqlite3_int64>(cellIn(table, row, i).size());
+    }
+    auto* block = static_cast<unsigned char*>(sqlite3_malloc64(static_cast<sqlite3_uint64>(room)));
+    if (block == nullptr) throw std::bad_alloc();
+    if (sqlite3_deserialize(&database, "main", block, 0, room,
+                            SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_RESIZEABLE) != SQLITE_OK)
+        refuseDatabase(database);               // the block is freed by then
+    run(database, "PRAGMA journal_mode = OFF"); // a table that is given up is not looked at again
+}
+
 void insertRows(sqlite3& database, const OutTable& table, const std::string& name, const Progress& progress) {
     constexpr std::size_t rowsBetween = 500;
     std::string command = "INSERT INTO ";
@@ -75,7 +93,8 @@ void insertRows(sqlite3& database, const OutTable& table, const std::string& nam
     for (std::size_t row = 0; row < count; ++row) {
         for (std::size_t i = 0; i < table.columns.size(); ++i) {
             const OutCell cell = outCell(types[i], cellIn(table, row, i));
-            const std::string text = cell.what == OutCell::What::Date ? cell.iso : cellIn(table, row, i);
+            const std::string_view text =
+                cell.what == OutCell::What::Date ? std::string_view(cell.iso) : cellIn(table, row, i);
             bindCell(insert.get(), static_cast<int>(i) + 1, cell, text);
         }
         if (sqlite3_step(insert.get()) != SQLITE_DONE) refuseDatabase(database);
@@ -111,6 +130,7 @@ void write(const Target& target, const OutTable& table, const Progress& progress
     if (table.columns.empty()) refuseSheet("it has no columns");
     sqlite3_hard_heap_limit64(0);
     const Database database = openDatabase(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    makeRoom(*database, table);
     const std::string name = inQuotes(table.title.empty() ? "records" : table.title);
     std::string command = "CREATE TABLE ";
     command.append(name);
@@ -126,10 +146,9 @@ void write(const Target& target, const OutTable& table, const Progress& progress
     insertRows(*database, table, name, progress);
     run(*database, "COMMIT");
     sqlite3_int64 size = 0;
-    const std::unique_ptr<unsigned char, void (*)(void*)> bytes(
-        sqlite3_serialize(database.get(), "main", &size, 0), &sqlite3_free);
-    if (!bytes) throw std::bad_alloc();
-    writeBytes(target, {reinterpret_cast<const char*>(bytes.get()), static_cast<std::size_t>(size)});
+    const unsigned char* bytes = sqlite3_serialize(database.get(), "main", &size, SQLITE_SERIALIZE_NOCOPY);
+    if (bytes == nullptr) throw std::bad_alloc();
+    writeBytes(target, {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)});
 }
 
 } // namespace exchange::sqlite

@@ -14,9 +14,9 @@ using Kind = SheetCell::Kind;
 // "2024-12-31" and 1234.5 as a database has them.
 void restoreCell(SheetCell& cell) {
     if (cell.kind == Kind::Date) {
-        const std::string iso = std::move(cell.text);
-        cell.text = iso.substr(5, 2);
-        cell.text.append("/").append(iso, 8).append("/").append(iso, 0, 4);
+        const std::string iso = cell.text.str();
+        std::string day = iso.substr(5, 2);
+        cell.text = day.append("/").append(iso, 8).append("/").append(iso, 0, 4);
     } else if (cell.kind == Kind::Number && cell.bMoney) {
         cell.text = core::format(cell.text, core::Mask::Money);
     }
@@ -43,7 +43,7 @@ void restoreTypes(Sheet& sheet, const std::vector<std::string>& told) {
     if (sheet.rows.empty() || headings.empty()) return;
     SheetRow first = sheet.rows.front();
     for (SheetCell& cell : first) {
-        const auto found = headings.find(cell.text);
+        const auto found = headings.find(cell.text.view());
         if (found == headings.end()) return;
         cell = {Kind::Text, *found->second};
     }

@@ -228,7 +228,7 @@ private:
         for (auto& card : cards_) {
             for (const std::size_t i : used) {
                 SheetCell cell{SheetCell::Kind::Text, std::move(card[i])};
-                if (vcardFields[i].property == "BDAY" && !cell.text.empty()) cell = birthday(cell.text);
+                if (vcardFields[i].property == "BDAY" && !cell.text.empty()) cell = birthday(cell.text.str());
                 collector.cell(std::move(cell));
             }
             collector.endRow();

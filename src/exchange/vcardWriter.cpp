@@ -52,7 +52,7 @@ public:
         appendParts(out, row, "N", 5, true);
         for (std::size_t i = 0; i < vcardFields.size(); ++i) {
             const VcardField& field = vcardFields[i];
-            const std::string& value = valueOf(row, i);
+            const std::string_view value = valueOf(row, i);
             if (field.part >= 0 || field.property == "FN" || value.empty()) continue;
             line(out, field.property, field.type,
                  escapedValue(field.property == "BDAY" ? isoDate(value) : value));
@@ -69,22 +69,20 @@ private:
                 if (core::equalsNoCase(core::replaceAll(table_.columns[i].name, " ", "_"), name)) return i;
         return std::nullopt;
     }
-    const std::string& valueOf(std::size_t row, std::size_t field) const {
-        static const std::string empty;
-        return columns_[field] ? cellIn(table_, row, *columns_[field]) : empty;
+    std::string_view valueOf(std::size_t row, std::size_t field) const {
+        return columns_[field] ? cellIn(table_, row, *columns_[field]) : std::string_view();
     }
-    const std::string& partOf(std::size_t row, std::string_view property, int part) const {
+    std::string_view partOf(std::size_t row, std::string_view property, int part) const {
         const auto field = std::ranges::find_if(vcardFields, [&](const VcardField& each) {
             return each.property == property && each.part == part;
         });
-        static const std::string empty;
-        if (field == vcardFields.end()) return empty;
+        if (field == vcardFields.end()) return {};
         return valueOf(row, static_cast<std::size_t>(field - vcardFields.begin()));
     }
 
     // A card must have a name to show.
     std::string nameOf(std::size_t row) const {
-        std::string name = valueOf(row, 0);
+        std::string name(valueOf(row, 0));
         for (const int part : {1, 0}) { // first name, last name
             if (!valueOf(row, 0).empty()) break;
             if (!name.empty() && !partOf(row, "N", part).empty()) name.push_back(' ');

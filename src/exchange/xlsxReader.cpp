@@ -21,13 +21,21 @@ struct Part {
     std::string type, target; // "worksheet", "xl/worksheets/sheet1.xml"
 };
 
+[[noreturn]] void refuseWithout(const std::string& name) {
+    std::string reason = "it has no ";
+    refuseSheet(reason.append(name));
+}
+
 std::string partOf(const file::Zip& zip, const std::string& name) {
     auto text = zip.readEntry(name, SheetBounds::fileBytes);
-    if (!text) {
-        std::string reason = "it has no ";
-        refuseSheet(reason.append(name));
-    }
+    if (!text) refuseWithout(name);
     return *std::move(text);
+}
+
+XmlPieces piecesOf(const file::Zip& zip, const std::string& name) {
+    auto part = zip.openEntry(name, SheetBounds::fileBytes);
+    if (!part) refuseWithout(name);
+    return XmlPieces(*std::move(part));
 }
 
 // What a part of the file relies on, by the names that it uses.
@@ -110,13 +118,12 @@ public:
         if (names.empty()) refuseSheet("it has no sheets");
     }
 
-    std::string textOfSheet(std::size_t sheet) const { return partOf(zip_, targets_[sheet]); }
+    XmlPieces sheet(std::size_t sheet) const { return piecesOf(zip_, targets_[sheet]); }
 
     std::vector<std::string> sharedStrings() const {
         std::vector<std::string> strings;
         if (strings_.empty() || !zip_.contains(strings_)) return strings;
-        std::string text = partOf(zip_, strings_);
-        XmlPieces pieces(text);
+        XmlPieces pieces = piecesOf(zip_, strings_);
         std::size_t bytes = 0;
         pugi::xml_document tree;
         for (auto each = pieces.next(" si "); !each.name.empty(); each = pieces.next(" si ")) {
@@ -185,23 +192,16 @@ std::size_t columnOf(std::string_view place, std::size_t next) {
 class SheetReader {
 public:
     SheetReader(const Workbook& book, std::size_t sheet)
-        : shapes_(book.shapes()), strings_(book.sharedStrings()), text_(book.textOfSheet(sheet)),
-          b1904_(book.b1904) {}
+        : book_(book), sheet_(sheet), shapes_(book.shapes()), strings_(book.sharedStrings()) {}
 
     Sheet read(const Progress& progress) {
-        constexpr std::size_t rowsBetween = 500;
-        XmlPieces pieces(text_);
-        pugi::xml_document tree;
-        std::size_t rows = 0;
-        findMerged();
-        for (auto each = pieces.next(" row col "); !each.name.empty(); each = pieces.next(" row col ")) {
-            const bool bRow = each.name == "row";
-            pieces.read(each, tree);
-            if (bRow)
-                readRow(tree.document_element());
-            else
-                readColumn(tree.document_element());
-            if (bRow && rows++ % rowsBetween == 0) tellProgress(progress, pieces.at(), pieces.size());
+        readParts(" row col mergeCell ", progress);
+        if (!merged_.empty()) {
+            // What is merged stands behind the rows, and has to be known before them.
+            collector_ = {};
+            hidden_.clear();
+            nextRow_ = 1;
+            readParts(" row col ", progress);
         }
         Sheet sheet = collector_.take();
         sheet.bTyped = true;
@@ -209,16 +209,22 @@ public:
     }
 
 private:
-    // They stand behind the rows, and have to be known before them.
-    void findMerged() {
-        const std::size_t behindRows = text_.rfind("sheetData");
-        if (behindRows == std::string::npos || text_.find("mergeCell", behindRows) == std::string::npos)
-            return;
-        XmlPieces pieces(text_, behindRows);
+    void readParts(std::string_view names, const Progress& progress) {
+        constexpr std::size_t rowsBetween = 500;
+        XmlPieces pieces = book_.sheet(sheet_);
         pugi::xml_document tree;
-        for (auto each = pieces.next(" mergeCell "); !each.name.empty(); each = pieces.next(" mergeCell ")) {
-            pieces.readTag(each, tree);
-            merged_.add(attributeOf(tree.document_element(), "ref").value());
+        std::size_t rows = 0;
+        for (auto each = pieces.next(names); !each.name.empty(); each = pieces.next(names)) {
+            const bool bRow = each.name == "row", bColumn = each.name == "col";
+            pieces.read(each, tree);
+            const pugi::xml_node node = tree.document_element();
+            if (bRow)
+                readRow(node);
+            else if (bColumn)
+                readColumn(node);
+            else
+                merged_.add(attributeOf(node, "ref").value());
+            if (bRow && rows++ % rowsBetween == 0) tellProgress(progress, pieces.at(), pieces.size());
         }
     }
 
@@ -276,7 +282,8 @@ private:
         const auto number = doubleIn(value);
         if (!number) return collector_.text(std::string(value));
         const std::size_t style = countIn(attributeOf(cell, "s"));
-        collector_.cell(shapedCell(*number, style < shapes_.size() ? shapes_[style] : NumberShape(), b1904_));
+        collector_.cell(
+            shapedCell(*number, style < shapes_.size() ? shapes_[style] : NumberShape(), book_.b1904));
     }
 
     const std::string& shared(std::string_view index) const {
@@ -287,10 +294,10 @@ private:
         return strings_[place];
     }
 
+    const Workbook& book_;
+    std::size_t sheet_;
     std::vector<NumberShape> shapes_;
     std::vector<std::string> strings_;
-    std::string text_;
-    bool b1904_;
     std::vector<bool> hidden_;
     MergedCells merged_;
     std::size_t nextRow_ = 1;

@@ -67,7 +67,7 @@ public:
         placePictures(row);
         const bool bBold = table_.bLastIsTotals && row + 1 == table_.rows.size();
         for (std::size_t i = 0; i < table_.columns.size(); ++i) {
-            const std::string& text = cellIn(table_, row, i);
+            const std::string_view text = cellIn(table_, row, i);
             if (text.empty()) continue;
             const auto line = static_cast<lxw_row_t>(row + 1);
             const auto column = static_cast<lxw_col_t>(i);
@@ -95,7 +95,7 @@ private:
         constexpr double twipsOfPixel = 15;
         constexpr double height = 60, rowPoints = 60; // 60 points are 80 pixels; the name takes the rest
         for (std::size_t i = 0; !table_.pictures.empty() && i < table_.columns.size(); ++i) {
-            const std::string& name = cellIn(table_, row, i);
+            const std::string_view name = cellIn(table_, row, i);
             if (table_.columns[i].type != core::ColumnType::Picture || name.empty()) continue;
             const std::filesystem::path file = table_.pictures / name;
             std::error_code error;

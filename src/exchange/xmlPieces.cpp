@@ -33,9 +33,31 @@ bool isIn(std::string_view names, std::string_view name) {
 
 } // namespace
 
-std::size_t XmlPieces::behindTag(std::size_t from) const {
+// False at the end.
+bool XmlPieces::more() {
+    constexpr std::size_t pieceBytes = std::size_t{64} * 1024;
+    const std::size_t before = text_.size();
+    text_.resize(before + pieceBytes);
+    text_.resize(before + part_.read(text_.data() + before, pieceBytes));
+    return text_.size() > before;
+}
+
+std::size_t XmlPieces::find(std::string_view what, std::size_t from) {
+    for (;;) {
+        const std::size_t found = text_.find(what, from);
+        if (found != std::string::npos) return found;
+        if (text_.size() >= what.size()) from = std::max(from, text_.size() - what.size() + 1);
+        if (!more()) return std::string::npos;
+    }
+}
+
+bool XmlPieces::begins(std::string_view what) {
+    return reaches(at_ + what.size() - 1) && text_.compare(at_, what.size(), what) == 0;
+}
+
+std::size_t XmlPieces::behindTag(std::size_t from) {
     char quote = 0;
-    for (std::size_t at = from; at < text_.size(); ++at) {
+    for (std::size_t at = from; reaches(at); ++at) {
         const char c = text_[at];
         if (quote != 0)
             quote = c == quote ? '\0' : quote;
@@ -50,21 +72,30 @@ std::size_t XmlPieces::behindTag(std::size_t from) const {
 // At a "<": skips a comment and the like.
 bool XmlPieces::skipMarkup() {
     const auto skipTo = [&](std::string_view end) {
-        const std::size_t found = text_.find(end, at_);
+        const std::size_t found = find(end, at_);
         if (found == std::string::npos) refuseXml();
         at_ = found + end.size();
         return true;
     };
-    if (text_.compare(at_, 4, "<!--") == 0) return skipTo("-->");
-    if (text_.compare(at_, 9, "<![CDATA[") == 0) return skipTo("]]>");
-    if (text_.compare(at_, 2, "<?") == 0) return skipTo("?>");
-    if (text_.compare(at_, 2, "<!") == 0) refuseSheet("it has a document type, which no spreadsheet has");
+    if (begins("<!--")) return skipTo("-->");
+    if (begins("<![CDATA[")) return skipTo("]]>");
+    if (begins("<?")) return skipTo("?>");
+    if (begins("<!")) refuseSheet("it has a document type, which no spreadsheet has");
     return false;
 }
 
 XmlPieces::Element XmlPieces::next(std::string_view names, bool bEndsToo) {
+    constexpr std::size_t keptBytes = std::size_t{64} * 1024; // so that what is left is not moved each time
+    if (at_ > keptBytes) {
+        text_.erase(0, at_);
+        gone_ += std::exchange(at_, 0);
+    }
+    return find(names, bEndsToo);
+}
+
+XmlPieces::Element XmlPieces::find(std::string_view names, bool bEndsToo) {
     for (;;) {
-        at_ = text_.find('<', at_);
+        at_ = find("<", at_);
         if (at_ == std::string::npos) {
             at_ = text_.size();
             return {};
@@ -72,17 +103,18 @@ XmlPieces::Element XmlPieces::next(std::string_view names, bool bEndsToo) {
         if (skipMarkup()) continue;
         Element element;
         element.begin = at_;
-        element.isEnd = text_.compare(at_, 2, "</") == 0;
+        element.isEnd = begins("</");
         const std::size_t from = at_ + (element.isEnd ? 2 : 1);
         std::size_t end = from;
-        while (end < text_.size() && std::string_view(" \t\r\n/>").find(text_[end]) == std::string_view::npos)
+        while (reaches(end) && std::string_view(" \t\r\n/>").find(text_[end]) == std::string_view::npos)
             ++end;
         at_ = end;
         if (element.isEnd && !bEndsToo) continue;
-        element.name = withoutPrefix(std::string_view(text_).substr(from, end - from));
-        if (element.name.empty() || !isIn(names, element.name)) continue;
+        const auto name = [&] { return withoutPrefix(std::string_view(text_).substr(from, end - from)); };
+        if (name().empty() || !isIn(names, name())) continue;
         element.behindTag = at_ = behindTag(end);
         element.isEmpty = text_[at_ - 2] == '/';
+        element.name = name(); // the text may have been moved until now
         return element;
     }
 }
@@ -92,15 +124,15 @@ void XmlPieces::read(const Element& element, pugi::xml_document& tree) {
     std::string name = " ";
     name.append(element.name).push_back(' ');
     for (int depth = element.isEmpty ? 0 : 1; depth > 0;) {
-        const Element inner = next(name, true);
+        const Element inner = find(name, true);
         if (inner.name.empty()) refuseXml();
+        if (at_ - element.begin > mostElementBytes) refuseSheet("one of its rows is too long");
         if (inner.isEnd)
             --depth;
         else if (!inner.isEmpty)
             ++depth;
     }
     const std::size_t size = at_ - element.begin;
-    if (size > mostElementBytes) refuseSheet("one of its rows is too long");
     if (!tree.load_buffer_inplace(text_.data() + element.begin, size, treeOptions, pugi::encoding_utf8))
         refuseXml();
 }

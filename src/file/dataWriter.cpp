@@ -167,9 +167,8 @@ void RowWriter::append(std::string& out, const core::Item& item) const {
 }
 
 std::string encodeDataFile(std::string text) {
-    if (core::isAscii(text)) return text;
-    if (std::optional<std::string> bytes = core::toWindows1252(text)) return *std::move(bytes);
-    return std::string(utf8Mark) + text;
+    if (!core::intoWindows1252(text)) text.insert(0, utf8Mark);
+    return text;
 }
 
 } // namespace file

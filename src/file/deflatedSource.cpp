@@ -8,7 +8,9 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace file {
 
@@ -29,8 +31,11 @@ std::string pack(std::string_view bytes, int level) {
 
 class DeflatedSource {
 public:
-    DeflatedSource(std::string packed, std::uint64_t size, std::uint32_t checksum)
-        : packed_(std::move(packed)), size_(size), checksum_(checksum) {
+    // Each piece but the last has so many bytes.
+    DeflatedSource(std::vector<std::string> pieces, std::size_t pieceBytes, std::uint64_t size,
+                   std::uint32_t checksum)
+        : pieces_(std::move(pieces)), pieceBytes_(pieceBytes), size_(size), checksum_(checksum) {
+        for (const std::string& piece : pieces_) packedBytes_ += piece.size();
         zip_error_init(&error_);
     }
     ~DeflatedSource() { zip_error_fini(&error_); }
@@ -57,14 +62,17 @@ private:
             place_ = 0;
             return 0;
         case ZIP_SOURCE_READ: {
-            const std::uint64_t count = std::min<std::uint64_t>(length, packed_.size() - place_);
-            std::memcpy(data, packed_.data() + place_, count);
+            if (place_ >= packedBytes_) return 0;
+            const std::string_view piece =
+                std::string_view(pieces_[place_ / pieceBytes_]).substr(place_ % pieceBytes_);
+            const std::uint64_t count = std::min<std::uint64_t>(length, piece.size());
+            std::memcpy(data, piece.data(), count);
             place_ += count;
             return static_cast<zip_int64_t>(count);
         }
         case ZIP_SOURCE_SEEK: {
             const zip_int64_t target =
-                zip_source_seek_compute_offset(place_, packed_.size(), data, length, &error_);
+                zip_source_seek_compute_offset(place_, packedBytes_, data, length, &error_);
             if (target >= 0) place_ = static_cast<std::uint64_t>(target);
             return target < 0 ? -1 : 0;
         }
@@ -90,14 +98,16 @@ private:
         auto* status = static_cast<zip_stat_t*>(data);
         zip_stat_init(status);
         status->size = size_;
-        status->comp_size = packed_.size();
+        status->comp_size = packedBytes_;
         status->crc = checksum_;
         status->comp_method = ZIP_CM_DEFLATE;
         status->valid |= ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC | ZIP_STAT_COMP_METHOD;
         return sizeof(zip_stat_t);
     }
 
-    std::string packed_;
+    std::vector<std::string> pieces_;
+    std::size_t pieceBytes_;
+    std::uint64_t packedBytes_ = 0;
     std::uint64_t size_;
     zip_uint32_t checksum_;
     std::uint64_t place_ = 0;
@@ -121,14 +131,16 @@ zip_source_t* sourceOf(zip_t* archive, std::unique_ptr<DeflatedSource> source) {
 } // namespace
 
 zip_source_t* makeDeflatedSource(zip_t* archive, std::string_view bytes, int level) {
+    std::vector<std::string> packed{pack(bytes, level)};
+    const std::size_t size = packed.front().size();
     return sourceOf(archive,
-                    std::make_unique<DeflatedSource>(pack(bytes, level), bytes.size(), checksum(bytes)));
+                    std::make_unique<DeflatedSource>(std::move(packed), size, bytes.size(), checksum(bytes)));
 }
 
 zip_source_t* makeDeflatedSource(zip_t* archive, PackedPart part) {
-    std::string packed = part.take();
-    return sourceOf(archive,
-                    std::make_unique<DeflatedSource>(std::move(packed), part.size(), part.checksum()));
+    std::vector<std::string> packed = part.take();
+    return sourceOf(archive, std::make_unique<DeflatedSource>(std::move(packed), PackedPart::pieceBytes,
+                                                              part.size(), part.checksum()));
 }
 
 } // namespace file

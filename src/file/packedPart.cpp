@@ -1,7 +1,6 @@
 #include "file/packedPart.h"
 
 #include <algorithm>
-#include <array>
 #include <new>
 #include <utility>
 #define ZLIB_CONST // its input is const then
@@ -37,14 +36,14 @@ void PackedPart::append(std::string_view bytes) {
         pack(bytes.substr(0, most), false);
 }
 
-std::string PackedPart::take() {
+std::vector<std::string> PackedPart::take() {
     pack({}, true);
+    room_.resize(filled_);
+    packed_.push_back(std::move(room_));
     return std::move(packed_);
 }
 
 void PackedPart::pack(std::string_view bytes, bool bLast) {
-    constexpr std::size_t roomBytes = std::size_t{64} * 1024;
-    std::array<Bytef, roomBytes> room; // NOLINT(cppcoreguidelines-pro-type-member-init): it is filled
     z_stream& state = stream_->state;
     state.next_in = reinterpret_cast<const Bytef*>(bytes.data());
     state.avail_in = static_cast<uInt>(bytes.size());
@@ -52,10 +51,15 @@ void PackedPart::pack(std::string_view bytes, bool bLast) {
     if (!bytes.empty())
         checksum_ = static_cast<std::uint32_t>(crc32(checksum_, state.next_in, state.avail_in));
     do {
-        state.next_out = room.data();
-        state.avail_out = roomBytes;
+        if (filled_ == room_.size()) {
+            if (!room_.empty()) packed_.push_back(std::move(room_));
+            room_.assign(pieceBytes, '\0');
+            filled_ = 0;
+        }
+        state.next_out = reinterpret_cast<Bytef*>(room_.data()) + filled_;
+        state.avail_out = static_cast<uInt>(room_.size() - filled_);
         deflate(&state, bLast ? Z_FINISH : Z_NO_FLUSH);
-        packed_.append(reinterpret_cast<const char*>(room.data()), roomBytes - state.avail_out);
+        filled_ = room_.size() - state.avail_out;
     } while (state.avail_out == 0);
 }
 

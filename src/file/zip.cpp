@@ -58,33 +58,8 @@ struct Zip::Archive {
     [[nodiscard]] bool hasUnchanged(const std::string& name, std::string_view bytes,
                                     std::string_view comment) const {
         const zip_int64_t place = zip_name_locate(zip, name.c_str(), 0);
-        if (place < 0 || static_cast<zip_uint64_t>(place) >= originalCount) return false;
-        const auto index = static_cast<zip_uint64_t>(place);
-        zip_stat_t now;
-        zip_stat_t then;
-        zip_stat_init(&now);
-        zip_stat_init(&then);
-        // A replaced entry tells another size, or none.
-        if (zip_stat_index(zip, index, 0, &now) != 0 ||
-            zip_stat_index(zip, index, ZIP_FL_UNCHANGED, &then) != 0)
-            return false;
-        zip_uint32_t length = 0;
-        const char* told = zip_file_get_comment(zip, index, &length, ZIP_FL_ENC_RAW);
-        const std::string_view toldComment(told == nullptr ? "" : told, told == nullptr ? 0 : length);
-        if (now.size != bytes.size() || then.size != bytes.size() || toldComment != comment) return false;
-        return now.crc == then.crc && then.crc == checksum(bytes) && unpacked(index) == bytes;
-    }
-
-    [[nodiscard]] std::string unpacked(zip_uint64_t index) const {
-        zip_stat_t status;
-        zip_stat_init(&status);
-        if (zip_stat_index(zip, index, 0, &status) != 0) return {};
-        const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> entry(zip_fopen_index(zip, index, 0),
-                                                                      &zip_fclose);
-        if (!entry) return {};
-        std::string bytes(status.size, '\0');
-        const zip_int64_t count = zip_fread(entry.get(), bytes.data(), bytes.size());
-        return count == static_cast<zip_int64_t>(bytes.size()) ? bytes : std::string();
+        return place >= 0 && static_cast<zip_uint64_t>(place) < originalCount &&
+               isUnchangedEntry(zip, static_cast<zip_uint64_t>(place), bytes, comment);
     }
 
     // Puts a source in as an entry. The source is libzip's from here on, also on failure.
@@ -363,20 +338,29 @@ bool Zip::contains(const std::string& name) const {
     return zip_name_locate(open().zip, name.c_str(), 0) >= 0;
 }
 
-std::optional<std::string> Zip::readEntry(const std::string& name, std::uint64_t maxBytes) const {
+std::optional<Zip::Unpacking> Zip::openEntry(const std::string& name, std::uint64_t maxBytes) const {
     Archive& from = open();
     const zip_int64_t place = zip_name_locate(from.zip, name.c_str(), 0);
     if (place < 0) return std::nullopt;
     return from.reading([&] {
-        EntryReader entry(from.zip, static_cast<zip_uint64_t>(place), from.source.size(), maxBytes);
-        std::string bytes(entry.size(), '\0');
-        std::size_t filled = 0;
-        while (filled < bytes.size())
-            filled += entry.read(bytes.data() + filled, std::min(chunkBytes, bytes.size() - filled));
-        char beyond = 0;
-        entry.read(&beyond, 1); // asks for the end, where the checksum is compared
-        return std::optional(std::move(bytes));
+        const auto entry = std::make_shared<EntryReader>(from.zip, static_cast<zip_uint64_t>(place),
+                                                         from.source.size(), maxBytes);
+        return std::optional(Unpacking{entry->size(), [&from, entry](char* bytes, std::size_t most) {
+                                           return from.reading([&] { return entry->read(bytes, most); });
+                                       }});
     });
+}
+
+std::optional<std::string> Zip::readEntry(const std::string& name, std::uint64_t maxBytes) const {
+    const std::optional<Unpacking> entry = openEntry(name, maxBytes);
+    if (!entry) return std::nullopt;
+    std::string bytes(entry->size, '\0');
+    std::size_t filled = 0;
+    while (filled < bytes.size())
+        filled += entry->read(bytes.data() + filled, std::min(chunkBytes, bytes.size() - filled));
+    char beyond = 0;
+    entry->read(&beyond, 1); // asks for the end, where the checksum is compared
+    return bytes;
 }
 
 Zip::Archive& Zip::open() const {

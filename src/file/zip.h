@@ -83,6 +83,13 @@ public:
     // Unpacks an entry into memory; nothing when it is absent. Of two entries of one name the first
     // counts, here as everywhere. More than maxBytes, told or found, is badFileFormat.
     [[nodiscard]] std::optional<std::string> readEntry(const std::string& name, std::uint64_t maxBytes) const;
+    // The same piece by piece, as long as the archive is open.
+    struct Unpacking {
+        std::uint64_t size = 0; // of all of it
+        // Answers how many bytes there were, 0 at the end. Raises what readEntry raises.
+        std::function<std::size_t(char* bytes, std::size_t most)> read;
+    };
+    [[nodiscard]] std::optional<Unpacking> openEntry(const std::string& name, std::uint64_t maxBytes) const;
 
 private:
     struct Archive;

@@ -1,9 +1,11 @@
 #include "file/zipEntry.h"
 
 #include "core/runTimeError.h"
+#include "file/checksum.h"
 #include "file/fileHandle.h"
 
 #include <cerrno>
+#include <memory>
 #include <new>
 #include <unistd.h>
 #include <vector>
@@ -50,6 +52,34 @@ std::size_t EntryReader::read(char* bytes, std::size_t count) {
     produced += static_cast<std::uint64_t>(got);
     if (produced > declared || (got == 0 && produced < declared)) raiseDamaged(name + " has a wrong size");
     return static_cast<std::size_t>(got);
+}
+
+namespace {
+
+std::string unpacked(zip_t* zip, zip_uint64_t index, zip_uint64_t size) {
+    const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> entry(zip_fopen_index(zip, index, 0),
+                                                                  &zip_fclose);
+    if (!entry) return {};
+    std::string bytes(size, '\0');
+    const zip_int64_t count = zip_fread(entry.get(), bytes.data(), bytes.size());
+    return count == static_cast<zip_int64_t>(bytes.size()) ? bytes : std::string();
+}
+
+} // namespace
+
+bool isUnchangedEntry(zip_t* zip, zip_uint64_t index, std::string_view bytes, std::string_view comment) {
+    zip_stat_t now;
+    zip_stat_t then;
+    zip_stat_init(&now);
+    zip_stat_init(&then);
+    // A replaced entry tells another size, or none.
+    if (zip_stat_index(zip, index, 0, &now) != 0 || zip_stat_index(zip, index, ZIP_FL_UNCHANGED, &then) != 0)
+        return false;
+    zip_uint32_t length = 0;
+    const char* told = zip_file_get_comment(zip, index, &length, ZIP_FL_ENC_RAW);
+    const std::string_view toldComment(told == nullptr ? "" : told, told == nullptr ? 0 : length);
+    if (now.size != bytes.size() || then.size != bytes.size() || toldComment != comment) return false;
+    return now.crc == then.crc && then.crc == checksum(bytes) && unpacked(zip, index, now.size) == bytes;
 }
 
 void unpackInto(int fd, EntryReader& entry, const std::filesystem::path& file) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <zip.h>
 
 namespace file {
@@ -35,6 +36,10 @@ private:
     std::string name;
     std::uint64_t declared = 0, produced = 0;
 };
+
+// Whether an entry that the archive was read with is still what it was, and has these bytes and this comment.
+[[nodiscard]] bool isUnchangedEntry(zip_t* zip, zip_uint64_t index, std::string_view bytes,
+                                    std::string_view comment);
 
 // Writes all of an entry into an open file.
 void unpackInto(int fd, EntryReader& entry, const std::filesystem::path& file);

@@ -303,7 +303,7 @@ void SummaryPanel::copy() {
     for (const exchange::OutColumn& column : table.columns) tabbed.cell(column.name);
     tabbed.endLine();
     for (const auto& row : table.rows) {
-        for (const std::string& cell : row) tabbed.cell(cell);
+        for (const core::CellText& cell : row) tabbed.cell(cell);
         tabbed.endLine();
     }
     app_.platform.setClipboard({text, exchange::sheetText(exchange::Format::Html, table), {}});

@@ -30,7 +30,7 @@ public:
                        ? std::string(recordsHeading)
                        : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {
         for (auto& row : table_.rows)
-            for (std::string& cell : row) cell.resize(core::left(cell, mostLetters).size());
+            for (core::CellText& cell : row) cell = core::left(cell, mostLetters);
     }
 
     void draw(std::string_view title) {

@@ -15,18 +15,18 @@ exchange::OutTable tableOf(const Summary& summary, std::string title) {
     for (std::size_t i = 0; i < summary.request.figures.size(); ++i)
         table.columns.push_back(
             {headingOf(summary.request.figures[i]), summary.figureTypes[i], core::newColumnWidth, {}});
-    const auto addCounted = [](std::vector<std::string>& row, const Group& group) {
+    const auto addCounted = [](exchange::OutRow& row, const Group& group) {
         row.push_back(std::to_string(group.records));
         for (const Value& figure : group.figures) row.push_back(figure.text);
     };
     table.rows.reserve(summary.groups.size() + 1);
     for (const Group& group : summary.groups) {
-        std::vector<std::string> row;
+        exchange::OutRow row;
         for (const GroupKey& key : group.keys) row.push_back(key.label);
         addCounted(row, group);
         table.rows.push_back(std::move(row));
     }
-    std::vector<std::string> total(summary.request.by.size());
+    exchange::OutRow total(summary.request.by.size());
     if (total.empty()) return table;
     total.front() = totalLabel;
     addCounted(total, summary.total);

@@ -152,7 +152,7 @@ exchange::OutTable exportFrm::table() {
                                Check2 && Check2Enabled ? expressionOf(column) : std::string()});
     }
     const auto add = [&](const core::Item& item) {
-        std::vector<std::string> row;
+        exchange::OutRow row;
         row.reserve(columns.size());
         for (const core::Column* column : columns) row.emplace_back(core::RecordsList::cell(item, *column));
         out.rows.push_back(std::move(row));

@@ -48,7 +48,7 @@ ImportTable::ImportTable(exchange::Sheet sheet, const Hints& hints, bool bLenien
                                        .append(" records that a database holds"));
     if (width > mostTableColumns)
         throw exchange::TableError("it has more than " + std::to_string(mostTableColumns) + " columns");
-    rows_ = std::make_shared<const std::vector<Row>>(std::move(rows));
+    rows_ = std::make_shared<std::vector<Row>>(std::move(rows));
     columns_.resize(width);
     setHeadings(firstRowIsHeadings(), progress);
 }
@@ -241,6 +241,10 @@ exchange::TextRow ImportTable::headingRow() const {
     return row;
 }
 
+void ImportTable::forget(std::size_t record) {
+    if (rows_.use_count() == 1) (*rows_)[record + (hasHeadings_ ? 1 : 0)].cells = {};
+}
+
 exchange::TextRows ImportTable::rowsForTargets(const exchange::Progress& progress) const {
     constexpr std::size_t rowsBetween = 500;
     exchange::TextRows rows;
@@ -283,7 +287,10 @@ void addImportedColumns(core::Document& document, const ImportTable& table) {
                             std::to_string(static_cast<int>(column.how.as.type)));
 }
 
-void addImportedRecords(app::App& app, core::Document& document, const ImportTable& table) {
+namespace {
+
+template <typename Forget>
+void addRecords(app::App& app, core::Document& document, const ImportTable& table, const Forget& forget) {
     std::vector<std::size_t> imported;
     for (std::size_t i = 0; i < table.columns().size(); ++i)
         if (table.columns()[i].bImport) imported.push_back(i);
@@ -294,8 +301,19 @@ void addImportedRecords(app::App& app, core::Document& document, const ImportTab
         core::Item& item = document.LV.add(document.nextKey());
         for (std::size_t i = 0; i < imported.size(); ++i)
             item.cells[i] = table.cell(record, imported[i]).text;
+        forget(record);
     }
     core::moveTotals(document.LV);
+}
+
+} // namespace
+
+void addImportedRecords(app::App& app, core::Document& document, const ImportTable& table) {
+    addRecords(app, document, table, [](std::size_t) {});
+}
+
+void takeImportedRecords(app::App& app, core::Document& document, ImportTable& table) {
+    addRecords(app, document, table, [&](std::size_t record) { table.forget(record); });
 }
 
 bool writeImported(app::App& app, const std::string& target, const ImportTable& table, bool bInvoiceStyle) {

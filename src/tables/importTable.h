@@ -69,6 +69,8 @@ public:
     // refused is empty. In the order of columns(), the others without a cell.
     exchange::TextRows rowsForTargets(const exchange::Progress& progress = {}) const;
     exchange::TextRow headingRow() const;
+    // Gives up the cells of a record that nobody asks for again; not where a copy shares them.
+    void forget(std::size_t record);
 
 private:
     struct Row {
@@ -88,7 +90,7 @@ private:
                           std::optional<core::ColumnType> type = std::nullopt) const;
     void check(std::size_t column);
 
-    std::shared_ptr<const std::vector<Row>> rows_;
+    std::shared_ptr<std::vector<Row>> rows_; // changed by forget() alone
     bool bTyped_, bLenient_, hasHeadings_ = false;
     Hints hints_;
     std::chrono::year_month_day today_;
@@ -110,6 +112,8 @@ NewRecords newRecordsOf(app::App& app, const ImportTable& table, const exchange:
 // cells empty. Raises cancelled.
 void addImportedColumns(core::Document& document, const ImportTable& table);
 void addImportedRecords(app::App& app, core::Document& document, const ImportTable& table);
+// The same of a table that is of no more use then: no cell is kept twice, but where a copy shares it.
+void takeImportedRecords(app::App& app, core::Document& document, ImportTable& table);
 // Both in a file of its own. False when the user keeps it from being written. Raises what writing it raises,
 // and cancelled; there is no half database then.
 [[nodiscard]] bool writeImported(app::App& app, const std::string& target, const ImportTable& table,

@@ -214,7 +214,7 @@ CheckedCell readCell(const SheetCell& cell, const ReadAs& as, year_month_day tod
         return checkedCell(ColumnType::Text, cell.text, today);
     if (core::trim(cell.text).empty()) return {};
     const bool isDate = as.type == ColumnType::Date;
-    if (cell.text.find(core::itemSeparator) == std::string::npos)
+    if (cell.text.view().find(core::itemSeparator) == std::string_view::npos)
         return isDate ? dateCell(cell, as) : numberCell(cell, as, today);
     // The values of an invoice's item rows, each with the separator behind it.
     CheckedCell all;

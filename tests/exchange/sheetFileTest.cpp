@@ -90,11 +90,11 @@ std::string told(const Sheet& sheet) {
 
 // The cell of ours that a cell of a file stands for.
 std::string ours(ColumnType type, const exchange::SheetCell& cell) {
-    if (cell.kind == Kind::Date)
-        return cell.text.substr(5, 2) + "/" + cell.text.substr(8) + "/" + cell.text.substr(0, 4);
+    const std::string text = cell.text.str();
+    if (cell.kind == Kind::Date) return text.substr(5, 2) + "/" + text.substr(8) + "/" + text.substr(0, 4);
     const bool bMoney = type == ColumnType::Currency ||
-                        (type == ColumnType::Calculation && cell.text.find('.') != std::string::npos);
-    return cell.kind == Kind::Number && bMoney ? core::format(cell.text, core::Mask::Money) : cell.text;
+                        (type == ColumnType::Calculation && text.find('.') != std::string::npos);
+    return cell.kind == Kind::Number && bMoney ? core::format(text, core::Mask::Money) : text;
 }
 
 OutTable randomTable(std::mt19937& random, bool bCards) {
@@ -163,13 +163,12 @@ TEST_F(SheetFile, WhatIsWrittenIsReadAgain) {
             std::vector<std::size_t> place(table.columns.size(), 99); // cards have an order of their own
             for (std::size_t i = 0; i < place.size(); ++i)
                 for (std::size_t k = 0; k < sheet.rows[0].size(); ++k)
-                    if (sheet.rows[0][k].text.substr(0, sheet.rows[0][k].text.find(':')) ==
-                        table.columns[i].name)
+                    if (core::split(sheet.rows[0][k].text, ':').front() == table.columns[i].name)
                         place[i] = k;
             for (std::size_t row = 0; row < rows; ++row)
                 for (std::size_t i = 0; i < place.size(); ++i) {
                     const auto& cells = sheet.rows[row + 1];
-                    const std::string& wanted = table.rows[row][i];
+                    const std::string wanted = table.rows[row][i].str();
                     const std::string got =
                         place[i] < cells.size() ? ours(table.columns[i].type, cells[place[i]]) : "";
                     // A database has the value of a number and not how it is shown.

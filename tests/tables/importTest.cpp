@@ -79,7 +79,7 @@ TEST(TextFile, IsRecognised) {
             std::to_string(static_cast<int>(encoding)) + delimiters.separator + delimiters.quote;
         for (const auto& row : exchange::readDelimited(text, delimiters)) {
             all += "/";
-            for (const SheetCell& cell : row) all += "[" + cell.text + "]";
+            for (const SheetCell& cell : row) all += "[" + cell.text.str() + "]";
         }
         return all;
     };
