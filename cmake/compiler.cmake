@@ -1,3 +1,6 @@
+# The highest level compiles a quarter longer, and nothing that is measured is quicker by it.
+string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
+
 # Everything that every target of the project is compiled with.
 add_library(ferrowick_options INTERFACE)
 target_compile_options(ferrowick_options INTERFACE

@@ -1,20 +1,17 @@
 #include "print/printCommands.h"
 #include "cli/command.h"
 #include "cli/output.h"
+#include "cli/printer.h"
 #include "cli/session.h"
 #include "core/text.h"
 #include "print/layoutPrinting.h"
 #include "print/previewPage.h"
 #include "print/reportPrinting.h"
 #include "storage/openFile.h"
-#ifdef FERROWICK_PRINTS
-#include "qtprint/pdfFile.h"
-#endif
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
 #include <memory>
-#include <unistd.h>
 
 namespace cli {
 
@@ -32,26 +29,10 @@ struct PrintOptions {
     std::string records; // "i1,i2"; empty: all
 };
 
-#ifdef FERROWICK_PRINTS
-std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions& options) {
-    return qtprint::makePdfPrinter(options.output, options.file);
-}
-#else
-// Goes on as the program that can print: beside this one where it is built, in its own folder where it is
-// installed.
-std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions&) {
-    std::error_code error;
-    const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-    for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
-        ::execv((here / place).c_str(), commandLine());
-    throw Failure("this fwk cannot print: fwk-print is not installed");
-}
-#endif
-
 // Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
 void printInto(Session& session, const PrintOptions& options,
                const std::function<void(app::App&, DrawTarget&)>& print) {
-    const std::unique_ptr<drawing::Printer> printer = makePrinter(options);
+    const std::unique_ptr<drawing::Printer> printer = makePrinter(options.output, options.file);
     session.open();
     session.refuseAsOutput(options.output);
     session.platform.setPrinter(printer.get());
