@@ -13,8 +13,8 @@ struct ReportChoices {
     bool pageNumbers = false; // "3 of 8"
     bool date = false;
     bool sheetTotals = false; // carried forward at the end of a sheet, brought forward at the next one's top
-    std::string groupColumn;  // empty for none
-    std::string groupStep;    // "month" or "100"; empty for each value by itself
+    std::string groupColumn = {}; // empty for none
+    std::string groupStep = {};   // "month" or "100"; empty for each value by itself
 
     // Whether the report is laid out sheet by sheet.
     bool any() const { return heads || pageNumbers || date || sheetTotals || !groupColumn.empty(); }

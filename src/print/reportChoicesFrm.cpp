@@ -2,8 +2,6 @@
 
 #include "core/text.h"
 #include "core/totalsRow.h"
-#include "print/previewNavigation.h"
-#include "print/previewPage.h"
 #include "print/reportFigures.h"
 #include "print/reportPrinting.h"
 
@@ -85,10 +83,7 @@ void reportChoicesFrm::OKButton_Click() {
     }
     unloaded = true;
     setReportChoices(app_, choices);
-    PreviewPage& page = previewPage(app_);
-    page.iReportStartRow = 1;
-    if (app_.mainFrm.SSTab1 == app::previewTab && page.Visible)
-        PrintReport(app_, rptPreview1(app_), reportList(app_));
+    showReportAnew(app_);
 }
 
 } // namespace print

@@ -2,7 +2,6 @@
 
 #include "core/number.h"
 #include "print/margins.h"
-#include "print/previewNavigation.h"
 #include "print/previewPage.h"
 #include "print/reportColumns.h"
 
@@ -29,8 +28,12 @@ public:
         }
     }
 
+    // That a column has no sum says the cut sign as well.
     void look(const core::Item& item) {
-        for (Looked& looked : columns_) looked.look(RecordsList::cell(item, *looked.entry->column).view());
+        for (Looked& looked : columns_) {
+            const std::string_view text = RecordsList::cell(item, *looked.entry->column).view();
+            if (!item.isTotals() || (text != core::noSum && text != core::multiValueSum)) looked.look(text);
+        }
     }
 
     struct Looked {
@@ -125,10 +128,8 @@ void widenColumns(app::App& app, RecordsList& theList, const ReportFit& fit) {
 }
 
 void Widen_Click(app::App& app) {
-    RecordsList& list = reportList(app);
-    widenColumns(app, list, previewFit(app));
-    previewPage(app).iReportStartRow = 1;
-    PrintReport(app, rptPreview1(app), list);
+    widenColumns(app, reportList(app), previewFit(app));
+    showReportAnew(app);
 }
 
 } // namespace print

@@ -245,6 +245,14 @@ void PrintReport(App& app, DrawTarget& target, RecordsList& theList) {
     underPrinterTrap(app, [&] { drawReport(app, target, theList); });
 }
 
+void showReportAnew(App& app) {
+    PreviewPage& page = previewPage(app);
+    page.iReportStartRow = 1;
+    const bool isOnView = app.mainFrm.SSTab1 == app::previewTab && page.Visible;
+    if (isOnView && app.mainFrm.iPrintMode == app::printReport)
+        PrintReport(app, rptPreview1(app), reportList(app));
+}
+
 void drawReport(App& app, DrawTarget& target, RecordsList& theList) {
     const ReportChoices choices = reportChoices(app, theList);
     if (!target.isPrinter()) {

@@ -38,8 +38,7 @@ private:
     void drawFoot(std::size_t number);
     void drawEntry(std::size_t sheet, Entry entry, bool isFirst);
     void drawHeading(const std::string& heading, bool isContinued, bool isFirst);
-    void drawSums(const ReportPlan::Sums& sums);
-    void drawSums(std::string_view label, const std::vector<std::string>& texts);
+    void drawSums(const ReportPlan::Sums& sums, bool isRuled);
     void drawTotals();
     void drawRow(const core::Item& item) {
         printReportLine(document_, target_, columns_,
@@ -50,8 +49,10 @@ private:
         target_.CurrentX = left_;
         target_.CurrentY = y;
     }
-    bool fitsAhead(std::string_view label) const {
-        return static_cast<float>(core::length(label)) * measures_.character <= measures_.labelRoom;
+    // The totals of all sheets up to this one.
+    ReportPlan::Sums soFar(std::string_view label, std::size_t sheet) const {
+        const float width = static_cast<float>(label.size()) * measures_.character;
+        return {std::string(label), width > measures_.labelRoom, plan_.sheets[sheet].carried};
     }
     const core::ReportData& settings() const { return document_.reportData; }
 
@@ -153,22 +154,31 @@ void SheetsOfReport::drawHeading(const std::string& heading, bool isContinued, b
     goTo(target_.CurrentY);
 }
 
-void SheetsOfReport::drawSums(const ReportPlan::Sums& sums) {
-    target_.CurrentX = left_ + columnGap;
-    target_.Print(sums.label, sums.ownLine);
+// A line over each sum says what it is the sum of.
+void SheetsOfReport::drawSums(const ReportPlan::Sums& sums, bool isRuled) {
+    if (sums.ownLine) {
+        goTo(target_.CurrentY);
+        target_.CurrentX += columnGap;
+        target_.Print(sums.label, true);
+    }
+    const float rule = target_.CurrentY + ruleGap;
+    target_.CurrentY = rule + ruleGap;
+    if (!sums.ownLine) {
+        target_.CurrentX = left_ + columnGap;
+        target_.Print(sums.label, false);
+    }
     for (std::size_t place = 0; place < sums.texts.size(); ++place) {
         const std::string& text = sums.texts[place];
         if (text.empty()) continue;
-        const float inset = static_cast<float>(columns_[place].width) - target_.TextWidth(text);
-        target_.CurrentX = starts_[place] + std::max(inset, 0.0F);
+        const float width = std::max(static_cast<float>(columns_[place].width), target_.TextWidth(text));
+        const float y = target_.CurrentY;
+        if (isRuled) target_.Line(starts_[place], rule, starts_[place] + width, rule);
+        target_.CurrentX = starts_[place] + width - target_.TextWidth(text);
+        target_.CurrentY = y;
         target_.Print(text, false);
     }
     target_.Print({}, true);
     goTo(target_.CurrentY);
-}
-
-void SheetsOfReport::drawSums(std::string_view label, const std::vector<std::string>& texts) {
-    drawSums({std::string(label), !fitsAhead(label), texts});
 }
 
 void SheetsOfReport::drawTotals() {
@@ -189,14 +199,11 @@ void SheetsOfReport::drawEntry(std::size_t sheet, Entry entry, bool isFirst) {
     case Kind::Continued:
         return drawHeading(plan_.groups[number].heading, entry.kind == Kind::Continued, isFirst);
     case Kind::Subtotal:
-        drawRule();
-        return drawSums(plan_.groups[number].subtotal);
+        return drawSums(plan_.groups[number].subtotal, true);
     case Kind::Brought:
-        drawSums(broughtLabel, plan_.sheets[sheet - 1].carried);
-        return drawRule();
+        return drawSums(soFar(broughtLabel, sheet - 1), false);
     case Kind::Carried:
-        drawRule();
-        return drawSums(carriedLabel, plan_.sheets[sheet].carried);
+        return drawSums(soFar(carriedLabel, sheet), true);
     case Kind::Totals:
         return drawTotals();
     }
