@@ -70,11 +70,7 @@ private:
         for (std::size_t i = 0; i < rows.size(); ++i) {
             const bool isFirst = i == 0, isLast = i + 1 == rows.size();
             const bool isEnd = isLast && number + 1 == groups_.size();
-            float needed = measures_.line;
-            if (isGrouped_ && isFirst) needed += height({Kind::Heading, group});
-            if (isGrouped_ && isLast) needed += height({Kind::Subtotal, group});
-            if (isEnd) needed += height({Kind::Totals});
-            if (!fits(needed, isEnd)) {
+            if (!fits(heightWith(group, isFirst, isLast) + (isEnd ? height({Kind::Totals}) : 0), isEnd)) {
                 nextSheet();
                 if (isGrouped_ && !isFirst) place({Kind::Continued, group});
             }
@@ -87,6 +83,14 @@ private:
         if (!isGrouped_) return;
         if (sums) plan_.groups[number].subtotal.texts = textsOf(*sums);
         place({Kind::Subtotal, group});
+    }
+
+    // Of a record with what must not be torn from it.
+    float heightWith(int group, bool isFirst, bool isLast) const {
+        float needed = measures_.line;
+        if (isGrouped_ && isFirst) needed += height({Kind::Heading, group});
+        if (isGrouped_ && isLast) needed += height({Kind::Subtotal, group});
+        return needed;
     }
 
     // A record that finds no room on a sheet of its own stands there all the same.

@@ -76,12 +76,11 @@ void Report::measurePage() {
     target_.FontName = "Courier New";
 }
 
-// The sheets that a printer takes by itself are filled to where it can print. What has no such places, as a
-// file has none, keeps the margins of the report there.
+// The sheets that a printer takes by itself are filled to where it can print, not to the report's margins. It
+// is wanted so. A file has no such places by itself.
 drawing::SheetEnds Report::overflowEnds() {
     drawing::SheetEnds ends = target_.unprintable();
-    if (ends.top <= 0 && ends.bottom <= 0)
-        ends = {std::max(static_cast<float>(iTop_), 0.0F), std::max(static_cast<float>(iBottom_), 0.0F)};
+    if (ends.top <= 0 && ends.bottom <= 0) ends = {customaryEdge, customaryEdge};
     const bool isRoom = ends.top + ends.bottom + target_.TextHeight("NULL") <= target_.Height;
     return isRoom ? ends : drawing::SheetEnds{};
 }

@@ -20,8 +20,6 @@ using drawing::DrawTarget;
 using Entry = ReportPlan::Entry;
 using Kind = ReportPlan::Kind;
 
-constexpr float edge = 360; // twips; nearly every printer leaves as much free at the foot of a sheet
-
 class SheetsOfReport {
 public:
     SheetsOfReport(app::App& app, DrawTarget& target, RecordsList& theList, const ReportChoices& choices)
@@ -80,8 +78,8 @@ void SheetsOfReport::measure() {
     if (!settings().reportTitle.empty()) top_ = std::max(top_, top_ / 2 + line);
     bottom_ = target_.Height - twips(settings().reportBottomMargin);
     if (choices_.pageNumbers || choices_.date) {
-        foot_ =
-            std::min(bottom_ + line, target_.Height - std::max(target_.unprintable().bottom, edge) - line);
+        foot_ = std::min(bottom_ + line,
+                         target_.Height - std::max(target_.unprintable().bottom, customaryEdge) - line);
         bottom_ = std::min(bottom_, foot_ - line / 2);
     }
     measures_.line = line;

@@ -81,18 +81,18 @@ TEST_F(Report, ThePagesOfAPreviewHoldAllRecords) {
 }
 
 // Title and headings belong to the first break; from there the printer takes a sheet after the other. Each of
-// these begins and ends where it can print, or at the report's margins where it does not tell.
+// these begins and ends where it can print, or a quarter of an inch from the edges where it does not tell.
 TEST_F(Report, PaperBreaksOnceByItselfAndThenRunsOn) {
     openRecords(300);
     run("All_As_Report");
     std::string rows;
     for (const Page& each : platform.printed.sheets) rows += rowsOf(each) + "; ";
     EXPECT_EQ(rows + platform.printed.ends,
-              "r1..r63; r64..r135; r136..r199; r200..r263; r264..------; ////|.");
+              "r1..r63; r64..r135; r136..r210; r211..r285; r286..------; ////|.");
     EXPECT_TRUE(drawnOn(sheet(1)).starts_with("r64       @1690,1440 Courier New 10  0; "));
     EXPECT_TRUE(drawnOn(sheet(1)).ends_with("; r135      @1690,15640"));
-    EXPECT_TRUE(drawnOn(sheet(2)).starts_with("r136      @1690,1440 "));
-    EXPECT_TRUE(drawnOn(sheet(2)).ends_with("; r199      @1690,14040"));
+    EXPECT_TRUE(drawnOn(sheet(2)).starts_with("r136      @1690,360 "));
+    EXPECT_TRUE(drawnOn(sheet(2)).ends_with("; r210      @1690,15160"));
     EXPECT_TRUE(app.document.LV.MultiSelect);
     printed();
     platform.printed.unprintable = {300, 400};
