@@ -52,7 +52,7 @@ _fwk() {
     for ((i = 1; i < COMP_CWORD; ++i)); do
         word=${COMP_WORDS[i]}
         case $word in
-        -o | --output | --columns | --by | --expression | --column | --title | --records | --where | --filter | --wait | --dates | --decimal | --encoding | --separator | --quotes | --format | --sheet | --sum | --mean | --min | --max | --top) option=$word taken=0 ;;
+        -o | --output | --columns | --by | --group-by | --expression | --column | --title | --records | --where | --filter | --wait | --dates | --decimal | --encoding | --separator | --quotes | --format | --sheet | --sum | --mean | --min | --max | --top) option=$word taken=0 ;;
         -*) option="" ;;
         *)
             if [[ -n $option ]]; then
@@ -89,7 +89,7 @@ _fwk() {
         esac
         return
         ;;
-    --columns:* | --by:*)
+    --columns:* | --by:* | --group-by:*)
         local before=""
         [[ $cur == *,* ]] && before=${cur%,*},
         compopt -o nospace

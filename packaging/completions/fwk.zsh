@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--by|--expression|--column|--title|--records|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--group-by|--expression|--column|--title|--records|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -62,7 +62,7 @@ _fwk() {
         (*) _files -g '*.pdf' ;;
         esac
         return ;;
-    (--columns:*|--by:*) compset -P '*,'; _fwk_columns -S ''; return ;;
+    (--columns:*|--by:*|--group-by:*) compset -P '*,'; _fwk_columns -S ''; return ;;
     (--column:*|--where:0|--sum:*|--mean:*|--min:*|--max:*) _fwk_columns; return ;;
     (--where:1) compadd ge le is within range; return ;;
     (--dates:*) compadd dmy mdy ymd; return ;;

@@ -2,6 +2,7 @@
 #include "cli/command.h"
 #include "cli/output.h"
 #include "cli/printer.h"
+#include "cli/reportOptions.h"
 #include "cli/session.h"
 #include "core/text.h"
 #include "print/layoutPrinting.h"
@@ -27,6 +28,7 @@ struct PrintOptions {
     bool hasTitle = false;
     bool many = false;
     std::string records; // "i1,i2"; empty: all
+    ReportOptions report;
 };
 
 // Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
@@ -78,6 +80,7 @@ int printReport(const PrintOptions& options) {
         chooseColumns(session, options);
         if (options.hasTitle) app.document.reportData.reportTitle = options.title;
         print::previewPage(app).bReportSelectedOnly = false;
+        applyReportOptions(session, options.report);
         print::drawReport(app, target, print::reportList(app));
     });
     return done;
@@ -139,6 +142,7 @@ Run setUpReport(CLI::App& command) {
     CLI::Option* title =
         command.add_option("--title", options->title, "The title in place of the database's")
             ->type_name("TEXT");
+    addReportOptions(command, options->report);
     return [options, title] {
         options->hasTitle = title->count() > 0;
         return printReport(*options);

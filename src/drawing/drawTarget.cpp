@@ -8,6 +8,9 @@ void DrawTarget::setPage(const PageSetup& setup) {
     static_cast<TextFont&>(*this) = {};
     static_cast<Pen&>(*this) = {};
     CurrentX = CurrentY = 0;
+    overflowEnds = {};
+    sheetTop_ = 0;
+    isOverflow_ = false;
     Width = static_cast<float>(setup.Width);
     Height = static_cast<float>(setup.Height);
     pageSet(setup);
@@ -20,10 +23,8 @@ float DrawTarget::TextHeight(std::string_view) {
 
 void DrawTarget::Print(std::string_view text, bool lineEnd) {
     const float lineHeight = TextHeight(text);
-    if (isPrinter() && !bOneSheet && CurrentY > 0 && CurrentY + lineHeight > Height) {
-        startSheet();
-        CurrentY = 0;
-    }
+    if (isPrinter() && !bOneSheet && CurrentY > sheetTop_ && CurrentY + lineHeight > sheetEnd())
+        beginOverflowSheet();
     if (!text.empty()) drawText(CurrentX, CurrentY, text);
     if (lineEnd) {
         CurrentX = 0;
@@ -31,6 +32,16 @@ void DrawTarget::Print(std::string_view text, bool lineEnd) {
     } else {
         CurrentX += TextWidth(text);
     }
+}
+
+float DrawTarget::sheetEnd() const {
+    return Height - (isOverflow_ ? overflowEnds : unprintable()).bottom;
+}
+
+void DrawTarget::beginOverflowSheet() {
+    startSheet();
+    isOverflow_ = true;
+    CurrentY = sheetTop_ = overflowEnds.top;
 }
 
 void DrawTarget::Line(float x1, float y1, float x2, float y2) {
@@ -41,11 +52,15 @@ void DrawTarget::Line(float x1, float y1, float x2, float y2) {
 
 void DrawTarget::NewPage() {
     startSheet();
+    sheetTop_ = 0;
+    isOverflow_ = false;
     CurrentX = CurrentY = 0;
 }
 
 void DrawTarget::EndDoc() {
     endDocument();
+    sheetTop_ = 0;
+    isOverflow_ = false;
     CurrentX = CurrentY = 0;
 }
 

@@ -48,6 +48,11 @@ struct PageSetup {
     long Width = 12240, Height = 15840;
 };
 
+// What stays free at the top and the bottom of a sheet, in twips.
+struct SheetEnds {
+    float top = 0, bottom = 0;
+};
+
 // A page that one draws on: of the printer, or of the preview. Lengths in twips from its top left corner.
 class DrawTarget : public TextFont, public Pen {
 public:
@@ -59,6 +64,7 @@ public:
     float Width = 0, Height = 0;
     float CurrentX = 0, CurrentY = 0;
     bool bOneSheet = false; // a printer does as a preview does: what passes the bottom is cut off
+    SheetEnds overflowEnds; // of the sheets that a printer takes by itself
 
     // A printer goes on to the next sheet by itself; a preview is one page.
     virtual bool isPrinter() const = 0;
@@ -67,6 +73,9 @@ public:
 
     float TextWidth(std::string_view text) { return metrics().textWidth(*this, text); }
     float TextHeight(std::string_view text);
+
+    // What the printer cannot print of a sheet; nothing where it reaches the edges, as a file does.
+    virtual SheetEnds unprintable() const { return {}; }
 
     // Prints at the current place, one line. Without a line end the place moves behind the text, with it
     // to the start of the next line. A printer takes a new sheet when the line would pass the bottom,
@@ -99,6 +108,13 @@ protected:
                              float height) = 0;
     virtual void startSheet() {}
     virtual void endDocument() {}
+
+private:
+    float sheetEnd() const;
+    void beginOverflowSheet();
+
+    float sheetTop_ = 0; // where the sheet's first line stands, if the printer has taken it by itself
+    bool isOverflow_ = false;
 };
 
 } // namespace drawing

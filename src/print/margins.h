@@ -5,6 +5,8 @@
 namespace print {
 
 constexpr double twipsPerInch = 1440;
+// What nearly every printer leaves free at the edges of a sheet: where a file is printed later is not known.
+constexpr float customaryEdge = 360;
 
 // Where the dotted lines of a preview stand.
 struct Margins {

@@ -2,11 +2,13 @@
 #include "print/previewPage.h"
 
 #include "core/number.h"
-#include "core/text.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
 #include "print/printerCheck.h"
 #include "print/progress.h"
+#include "print/reportColumns.h"
+#include "print/reportFit.h"
+#include "print/reportSheets.h"
 
 #include <algorithm>
 
@@ -20,43 +22,6 @@ using drawing::DrawTarget;
 
 namespace {
 
-constexpr float columnGap = 250;          // ahead of each printed column
-constexpr double twipsPerCharacter = 160; // of the width of a text column
-constexpr float ruleGap = 10;
-
-// A column as the lines need it, in the order that the user sees.
-struct ReportColumn {
-    const Column* column = nullptr;
-    bool isPrinted = false;
-    bool isNumeric = false;
-    int width = 0;
-    std::size_t characters = 0;
-};
-
-std::vector<ReportColumn> reportColumns(const core::Document& document, const RecordsList& theList) {
-    std::vector<ReportColumn> columns;
-    for (const int index : theList.columns.displayOrder()) {
-        const Column& column = theList.columns.at(index);
-        ReportColumn entry{&column};
-        entry.isPrinted = column.Index != 1 && isPrintedColumn(document, column.Text);
-        if (entry.isPrinted) {
-            entry.isNumeric = document.isNumericColumn(column.Text);
-            entry.width = core::toInt16(column.Width);
-            entry.characters =
-                static_cast<std::size_t>(std::max(core::toInt32(column.Width / twipsPerCharacter), 0));
-        }
-        columns.push_back(entry);
-    }
-    return columns;
-}
-
-std::string padded(std::string_view text, std::size_t characters) {
-    std::string result(text);
-    const std::size_t length = core::length(text);
-    if (length < characters) result.append(characters - length, ' ');
-    return result;
-}
-
 // One run of PrintReport.
 class Report {
 public:
@@ -69,11 +34,14 @@ public:
 private:
     void readMargins();
     void measurePage();
+    drawing::SheetEnds overflowEnds();
     void printTitle();
     void goToTopLeft();
     void printRows();
     template <typename TextOf>
-    void printLine(TextOf&& textOf);
+    void printLine(TextOf&& textOf) {
+        printReportLine(document_, target_, columns_, textOf);
+    }
     void printHeadings();
     void closeList();
     void fullWidthLine() { target_.Line(0, target_.CurrentY, target_.Width, target_.CurrentY); }
@@ -108,6 +76,15 @@ void Report::measurePage() {
     target_.FontName = "Courier New";
 }
 
+// The sheets that a printer takes by itself are filled to where it can print, not to the report's margins. It
+// is wanted so. A file has no such places by itself.
+drawing::SheetEnds Report::overflowEnds() {
+    drawing::SheetEnds ends = target_.unprintable();
+    if (ends.top <= 0 && ends.bottom <= 0) ends = {customaryEdge, customaryEdge};
+    const bool isRoom = ends.top + ends.bottom + target_.TextHeight("NULL") <= target_.Height;
+    return isRoom ? ends : drawing::SheetEnds{};
+}
+
 void Report::printTitle() {
     const int titleWidth = core::toInt16(static_cast<double>(target_.Width) - (iLeft_ + iRight_));
     target_.CurrentY = static_cast<float>(iTop_) / 2;
@@ -118,25 +95,6 @@ void Report::printTitle() {
 void Report::goToTopLeft() {
     goToLeftMargin();
     target_.CurrentY = static_cast<float>(settings().reportTopMargin * twipsPerInch);
-}
-
-template <typename TextOf>
-void Report::printLine(TextOf&& textOf) {
-    for (std::size_t place = 0; place < columns_.size(); ++place) {
-        const ReportColumn& entry = columns_[place];
-        const bool last = place + 1 == columns_.size();
-        if (!entry.isPrinted) {
-            if (last) printRightAligned(app_.document, target_, target_.CurrentX, 0, {}, true);
-            continue;
-        }
-        target_.CurrentX += columnGap;
-        const std::string_view text = textOf(*entry.column);
-        if (entry.isNumeric)
-            printRightAligned(app_.document, target_, target_.CurrentX, entry.width, text, last);
-        else
-            printLeftAligned(app_.document, target_, target_.CurrentX,
-                             padded(core::left(text, entry.characters), entry.characters), last);
-    }
 }
 
 void Report::printHeadings() {
@@ -193,6 +151,7 @@ void Report::print() {
     readMargins();
     usePage(app_, target_, reportPage(app_));
     measurePage();
+    target_.overflowEnds = overflowEnds();
     printTitle();
     goToTopLeft();
     page_.iReportPageStart = page_.iReportStartRow;
@@ -285,8 +244,24 @@ void PrintReport(App& app, DrawTarget& target, RecordsList& theList) {
     underPrinterTrap(app, [&] { drawReport(app, target, theList); });
 }
 
+void showReportAnew(App& app) {
+    PreviewPage& page = previewPage(app);
+    page.iReportStartRow = 1;
+    const bool isOnView = app.mainFrm.SSTab1 == app::previewTab && page.Visible;
+    if (isOnView && app.mainFrm.iPrintMode == app::printReport)
+        PrintReport(app, rptPreview1(app), reportList(app));
+}
+
 void drawReport(App& app, DrawTarget& target, RecordsList& theList) {
-    Report(app, target, theList).print();
+    const ReportChoices choices = reportChoices(app, theList);
+    if (!target.isPrinter()) {
+        reportSheetCount(app) = 0;
+        previewFit(app) = fitOf(app, theList);
+    }
+    if (choices.any())
+        drawReportSheets(app, target, theList, choices);
+    else
+        Report(app, target, theList).print();
 }
 
 } // namespace print

@@ -16,6 +16,9 @@ void PrintReport(app::App& app, drawing::DrawTarget& target, core::RecordsList& 
 // The same, but a failure is raised.
 void drawReport(app::App& app, drawing::DrawTarget& target, core::RecordsList& theList);
 
+// Draws the report that the preview shows from its start, where one is on view.
+void showReportAnew(app::App& app);
+
 // The sums of the selected records under a rule.
 void printSelectedTotals(core::Document& document, drawing::DrawTarget& target,
                          const core::RecordsList& theList);

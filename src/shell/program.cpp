@@ -17,6 +17,7 @@
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/versions.h"
+#include "summary/reportFigures.h"
 #include "summary/summaryPanel.h"
 
 namespace shell {
@@ -42,6 +43,7 @@ void followUnsaved(app::App& app) {
 Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     using app::Change;
     rooms.of<layout::ReplacedPictures>().keeping = storage::keepingVersion;
+    summary::countForReports(*this);
     changes.follow({Change::Modified}, app::showModified);
     changes.follow({Change::Modified}, storage::followModified);
     changes.follow({Change::Unsaved}, followUnsaved);

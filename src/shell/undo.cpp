@@ -12,6 +12,7 @@
 #include "layout/layoutPage.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
+#include "print/reportPrinting.h"
 #include "search/filterMode.h"
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
@@ -248,6 +249,7 @@ void go(App& app, bool bBack) {
     showChanged(app, typed, bColumns, bColumns || stack.objectsPart() != objects);
     historyOf(app).bUnmarked = stack.isSaved();
     app::setDocumentModified(app, !stack.isSaved());
+    if (bColumns) print::showReportAnew(app);
     // After a save that failed it is not known what the file holds, or whether there still is one.
     if (stack.isSaved() && !storage::unsavedWork(app).hasSaveFailed) storage::removeUnsavedWork(app);
 }

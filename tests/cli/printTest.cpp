@@ -16,14 +16,30 @@ TEST_F(Printing, ReportsAndLayouts) {
                       .section("Report Data", "1|1|1|1|1|1|Stock|True|"));
     make("wide.fwk", DataFile("Name", "a").objects("F|Name|1440|1440|12000|1000"));
     make("none.fwk", DataFile("Name"));
+    std::string rows;
+    for (int i = 1; i <= 66; ++i)
+        rows += "n" + std::to_string(i) + "|.5|" + (i % 2 == 0 ? "02/03/2024;" : "01/31/2024;");
+    make("long.fwk", DataFile("Name Qty:4 Day:1", rows)
+                         .section("Totaled Cols", "Qty|")
+                         .section("Report Data", "1|1|1|1|1|1|Long|True|"));
     EXPECT_EQ(run("ln -s a.fwk link.fwk").code, 0);
     expect(R"sh(
 $ fwk report a.fwk -o a.pdf; pdftotext -layout a.pdf - | xargs
-Stock Name Qty Price Bolt and 12 $1.50 Nut 7 $.25 ------ ------ ------ // @ a.pdf
-$ fwk report a.fwk -o a.pdf --columns PRICE,Name --title ''; pdftotext -layout a.pdf - | xargs
-Name Price Bolt and $1.50 Nut $.25 ------ ------ // @ a.pdf
+Stock Name Qty Price Bolt and 12 $1.50 Nut 7 $.25 ------ ------ ------
+! Too narrow for the longest text: Name (9 of 15 characters). Use --widen to print them whole. // @ a.pdf
+$ fwk report a.fwk -o a.pdf --columns PRICE,Name --title '' --widen; pdftotext -layout a.pdf - | xargs
+Name Price Bolt and washer $1.50 Nut $.25 ------ ------ // @ a.pdf
+$ fwk report long.fwk -o a.pdf --heads --page-numbers --sheet-totals --group-by day:MONTH --columns Name,Qty
+@ a.pdf && $ pdftotext -layout -f 2 a.pdf - | xargs | sed 's/n34.* n66/n34 ... n66/'
+Long Name Qty Brought forward 24.5 Day: 2024-02 (continued) n34 ... n66 .5 33 records 16.5 ------ ------ 2 of 2
+$ fwk report long.fwk -o a.pdf --date --widen; pdftotext -layout -f 2 a.pdf - | xargs | sed 's/n57.* n66/n57 ... n66/'
+n57 ... n66 .5 02/03/2024 ------ ------ ------ TODAY // @ a.pdf
+$1 fwk report long.fwk -o a.pdf --group-by Qty:month -> ! "month" is no step of the column "Qty": a number above 0
+$1 fwk report inv.fwk -o a.pdf --group-by Item -> ! the report does not show the column "Item"
 $ fwk report inv.fwk -o a.pdf; pdftotext -layout a.pdf - | head -5 | xargs
-Invoices Invoice_No Customer Day Subtotal Tax Total 1 Ærø Maskiner 01/15/20 $9.50 $.76 $10.26 // @ a.pdf
+Invoices Invoice_No Customer Day Subtotal Tax Total 1 Ærø Maskiner 01/15/20 $9.50 $.76 $10.26
+! Too narrow for the longest text: Invoice_No (8 of 10 characters), Day (8 of 10 characters). Use --widen to print them whole.
+@ a.pdf
 $ fwk layouts a.fwk -o a.pdf --records i2,i1; pdftotext -layout a.pdf - | xargs; pdfinfo a.pdf | grep Pages
 Nut Label Bolt and washer Label // Pages:           2 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many; pdftotext -layout a.pdf - | xargs; pdfinfo a.pdf | grep Pages
@@ -31,7 +47,8 @@ Bolt and washer Nut Label Label // Pages:           1 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many --records i2; pdftotext -layout a.pdf - | xargs -> Nut Label // @ a.pdf
 $ fwk layouts wide.fwk -o a.pdf; pdftotext a.pdf - | xargs -> a // @ a.pdf
 $ fwk layouts books.fwk -o a.pdf --records i1; pdfimages -list a.pdf | grep -c ' image ' -> 2 // @ a.pdf
-$ fwk report a.fwk -o a.pdf; grep -aoE '<00(09|20)>' a.pdf | sort -u -> <0020> // @ a.pdf
+$ fwk report a.fwk -o a.pdf; grep -aoE '<00(09|20)>' a.pdf | sort -u -> <0020>
+! Too narrow for the longest text: Name (9 of 15 characters). Use --widen to print them whole. // @ a.pdf
 $ fwk layouts inv.fwk -o a.pdf; pdftotext -layout -l 1 a.pdf - | xargs | cut -c 1-99
 INVOICE 1 01/15/2004 Ærø Maskiner Item Qty Price Line Bolt M8 2 $1.50 $3.00 Nut M8 3 $2.00 $6.00  // @ a.pdf
 $1 fwk report absent.fwk -o a.pdf -> ! File not found && $1 fwk report a.fwk -o a.pdf --columns Prise
@@ -47,7 +64,7 @@ Avery,L7163,Address labels,A4,rounded,2,7,99.1,38.1,4.65,15.15,101.6,38.1
 $ fwk labels 1 x 2 5/8 in --json | grep -A7 '"5160"' | tail -4 | xargs -> columns: 3, rows: 10, width: 66.675, height: 25.4,
 $ fwk labels 5160 | sed -n 3p | xargs -> Avery 5160 Address labels Letter rounded 3 10 66.675 25.4 4.762 12.7 69.85 25.4
 $ fwk labels no such && $2 fwk labels --csv --json -> ! --json excludes --csv
-$2 fwk report a.fwk -> ! --output is required && $1 ulimit -f 4; fwk report books.fwk -o a.pdf
+$2 fwk report a.fwk -> ! --output is required && $1 ulimit -f 4; fwk report books.fwk -o a.pdf --widen
 ! a.pdf: could not be written: Device I/O error: a.pdf (File too large)
 )sh");
 }

@@ -36,7 +36,8 @@ private slots:
         Session run(sample("packages-500.fwk"));
         run.window.resize(700, 500);
         run.play(R"(
-tab 2; look rptPreview2 -> "0" Totals=- Properties=- Delete=- page=2 rptPreview2=*
+tab 2; look rptPreview2 -> "0" Totals=- Properties=- Delete=- page=2 fitText=Too narrow for the longest text: Package
+    (15 of 34 characters), Section (8 of 13 characters), Installed_KB (10 of 12 characters). rptPreview2=*
 click reportToolbar.Next; look rptPreview2 -> "1"
 click reportToolbar.First; look rptPreview2 -> "0"
 press PgDown; press Down; press PgUp; press Right; look rptPreview2 -> "3" rptVScroll1=240 rptHScroll1=240
@@ -54,7 +55,8 @@ press Ctrl+Shift+F -> filterText=|
 type section:games data -> -LV Search=x Formulas=- Delete=- filterText=section:games data| searchLV.rows=11 top 0
     at 0 0ad-data|games selected 0 SB1_1=10 records.
 press Down; file out.pdf; click mnuPrint -> searchLV=*
-tab 2 -> Totals=- Properties=- page=2 rptPreview2=*
+tab 2 -> Totals=- Properties=- page=2 fitText=Too narrow for the longest text: Package (15 of 17 characters),
+    Installed_KB (10 of 12 characters). rptPreview2=*
 tab 0; press / -> Totals Properties page filterText=[section:games data] searchLV.rows=11 top 0 at 0
     0ad-data|games selected 0
 press Ctrl+A; type bytes>x -> filterText=bytes>x|
@@ -76,7 +78,8 @@ click Search -> -searchLV Search Formulas Delete filterText=| LV.rows=501 top 0 
         Session run(sample("books.fwk"));
         run.play(R"(
 tab 2; click PageSetup; click LV3 Author; press Space; fill titleTxt Landscape books; click LandscapeOpt; click
-    ApplyBtn -> Totals=- Properties=- Delete=- page=2 SB1_5=Document Modified reportPageSetup=Report Page Setup
+    ApplyBtn -> Totals=- Properties=- Delete=- page=2 fitText=Too narrow for the longest text: Title (20 of 24
+    characters). SB1_5=Document Modified reportPageSetup=Report Page Setup
     LV3.0=x No LV3.1=x Title LV3.2=>Author LV3.3=x Price LV3.4=Bought LV3.5=Copies LV3.6=x Value LV3.7=Cover
     LV3.8=Notes titleTxt=Landscape books boldYesOpt=x letterOpt=x LandscapeOpt=x leftTxt=1 rightTxt=1 TopTxt=1
     bottomTxt=1 ApplyBtn=*
@@ -103,6 +106,20 @@ click paperList A4; fill leftTxt 0.5; click OKButton -> -layoutPageSetupFrm layo
         run.act(u"click Selected_As_Layouts"_s);
         QCOMPARE(proposed, path("books.pdf")); // beside the database
         QCOMPARE(printed(u"The Odyssey"_s), u"1 of 595 x 842, 1"_s);
+    }
+
+    // The bar above the page goes when its button has widened the columns, and comes back by Undo.
+    void narrowColumnsAreWidened() {
+        Session run(sample("packages-500.fwk"));
+        run.act(u"tab 2"_s);
+        run.play(R"(
+click fitWiden -> -fitText -fitWiden SB1_5=Document Modified
+press Ctrl+Z -> fitText=Too narrow for the longest text: Package (15 of 34 characters), Section (8 of 13 characters),
+    Installed_KB (10 of 12 characters). SB1_5=Document Saved
+click PageSetup; click moreBtn -> reportChoicesFrm=Report Choices headsChk=* stepList=-
+focus groupList; type Since; focus stepList; type quarter; click pagesChk; press Return -> x
+press Escape -> x
+)");
     }
 
     // The open database, by another name too, is no file to print into; others are asked about.

@@ -80,18 +80,26 @@ TEST_F(Report, ThePagesOfAPreviewHoldAllRecords) {
               "r1..r63>64; r1..r63>64; r89..------>1; r26..r88>89; r1..r63>64; r64..r126>127; r1..r63>64; ");
 }
 
-// Title, headings and margins belong to the first break; from there sheets are filled to the edges.
+// Title and headings belong to the first break; from there the printer takes a sheet after the other. Each of
+// these begins and ends where it can print, or a quarter of an inch from the edges where it does not tell.
 TEST_F(Report, PaperBreaksOnceByItselfAndThenRunsOn) {
     openRecords(300);
     run("All_As_Report");
     std::string rows;
     for (const Page& each : platform.printed.sheets) rows += rowsOf(each) + "; ";
     EXPECT_EQ(rows + platform.printed.ends,
-              "r1..r63; r64..r135; r136..r214; r215..r293; r294..------; ////|.");
+              "r1..r63; r64..r135; r136..r210; r211..r285; r286..------; ////|.");
     EXPECT_TRUE(drawnOn(sheet(1)).starts_with("r64       @1690,1440 Courier New 10  0; "));
     EXPECT_TRUE(drawnOn(sheet(1)).ends_with("; r135      @1690,15640"));
-    EXPECT_TRUE(drawnOn(sheet(2)).starts_with("r136      @1690,0 "));
+    EXPECT_TRUE(drawnOn(sheet(2)).starts_with("r136      @1690,360 "));
+    EXPECT_TRUE(drawnOn(sheet(2)).ends_with("; r210      @1690,15160"));
     EXPECT_TRUE(app.document.LV.MultiSelect);
+    printed();
+    platform.printed.unprintable = {300, 400};
+    run("All_As_Report");
+    EXPECT_TRUE(drawnOn(sheet(1)).ends_with("; r133      @1690,15240")) << "none is lost at the first foot";
+    EXPECT_TRUE(drawnOn(sheet(2)).starts_with("r134      @1690,300 "));
+    EXPECT_TRUE(drawnOn(sheet(2)).ends_with("; r208      @1690,15100"));
     settings.reportOrientation = settings.reportPaperSize = 0;
     showPreview();
     EXPECT_EQ(settings.reportPaperSize, 1) << "unset paper is Letter across";

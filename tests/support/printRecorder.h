@@ -66,6 +66,7 @@ struct Printed {
     std::vector<Page> sheets;
     std::string ends;  // "/" for a sheet that another follows, "|" for the last of a job, "." when closed
     std::string paper; // the last size
+    drawing::SheetEnds unprintable;
 };
 
 struct RecordingPrinter : drawing::RecordedPage {
@@ -74,6 +75,7 @@ struct RecordingPrinter : drawing::RecordedPage {
 
     explicit RecordingPrinter(Printed& into) : printed(into) {}
     bool isPrinter() const override { return true; }
+    drawing::SheetEnds unprintable() const override { return printed.unprintable; }
     bool close() override { return !(printed.ends += '.').empty(); }
     void pageSet(const drawing::PageSetup& setup) override {
         RecordedPage::pageSet(setup);

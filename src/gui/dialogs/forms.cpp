@@ -11,6 +11,7 @@
 #include "gui/dialogs/mailFrmView.h"
 #include "gui/dialogs/repeatFrmView.h"
 #include "gui/dialogs/replaceFrmView.h"
+#include "gui/dialogs/reportChoicesFrmView.h"
 #include "gui/dialogs/reportPageSetupView.h"
 #include "gui/dialogs/searchFrmView.h"
 #include "gui/dialogs/serialCheckFrmView.h"
@@ -43,6 +44,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("formulateFrm", shown<formulateFrmView>(app, events));
     platform.registerForm("TotalsFrm", shown<TotalsFrmView>(app, events));
     platform.registerForm("reportPageSetup", shown<reportPageSetupView>(app, events));
+    platform.registerForm("reportChoicesFrm", shown<reportChoicesFrmView>(app, events));
     platform.registerForm("layoutPageSetupFrm", shown<layoutPageSetupFrmView>(app, events));
     platform.registerForm("mailFrm", shown<mailFrmView>(app, events));
     platform.registerForm("pasteFrm", shown<pasteFrmView>(app, events));

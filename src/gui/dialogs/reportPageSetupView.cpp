@@ -25,11 +25,13 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     auto* ok = makeButton("Command1", tr("&Ok"), [this] { form_.Command1_Click(); });
     auto* apply = makeButton("ApplyBtn", tr("&Apply"), [this] { form_.ApplyBtn_Click(); });
     auto* cancel = makeButton("Command2", tr("&Cancel"), [this] { form_.Command2_Click(); });
+    auto* more = makeButton("moreBtn", tr("&More..."), [&app] { app.platform.showForm("reportChoicesFrm"); });
     ok->setDefault(true);
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(ok, QDialogButtonBox::AcceptRole);
     buttons->addButton(apply, QDialogButtonBox::ApplyRole);
     buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+    buttons->addButton(more, QDialogButtonBox::ResetRole);
 
     auto* right = new QVBoxLayout;
     right->addWidget(title);

@@ -25,6 +25,16 @@ public:
         : PaperTarget(printer, metrics, Jobs::EachByItself), printer_(printer) {}
     ~PrinterTarget() override { close(); }
 
+    // As its driver tells for the paper that it has been given.
+    drawing::SheetEnds unprintable() const override {
+        constexpr float twipsPerPoint = 20;
+        QPageLayout layout = printer_.pageLayout();
+        layout.setUnits(QPageLayout::Point);
+        const QMarginsF points = layout.minimumMargins();
+        return {static_cast<float>(points.top()) * twipsPerPoint,
+                static_cast<float>(points.bottom()) * twipsPerPoint};
+    }
+
 protected:
     void choosePaper(const drawing::PageSetup& setup) override {
         const QPageSize::PageSizeId id = QPageSize::id(setup.PaperSize);

@@ -19,7 +19,7 @@ namespace gui {
 
 PreviewView::PreviewView(app::App& app, EventBoundary& events, CommandActions& actions, QWidget* parent)
     : QWidget(parent), app_(app), events_(events), reportToolbar_(makeToolbar(actions)),
-      port_(new PreviewPort(app)), hint_(new EmptyHint(app, events, port_)),
+      fitBar_(new FitBar(app, events)), port_(new PreviewPort(app)), hint_(new EmptyHint(app, events, port_)),
       rptHScroll1_(makeScrollBar(Qt::Horizontal)), rptVScroll1_(makeScrollBar(Qt::Vertical)) {
     setObjectName(QStringLiteral("previewPage"));
     connect(port_, &PreviewPort::resized, this, &PreviewView::portResized);
@@ -35,10 +35,11 @@ PreviewView::PreviewView(app::App& app, EventBoundary& events, CommandActions& a
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
     grid->addWidget(reportToolbar_, 0, 0, 1, 2);
-    grid->addWidget(port_, 1, 0);
-    grid->addWidget(rptVScroll1_, 1, 1);
-    grid->addWidget(rptHScroll1_, 2, 0);
-    grid->setRowStretch(1, 1);
+    grid->addWidget(fitBar_, 1, 0, 1, 2);
+    grid->addWidget(port_, 2, 0);
+    grid->addWidget(rptVScroll1_, 2, 1);
+    grid->addWidget(rptHScroll1_, 3, 0);
+    grid->setRowStretch(2, 1);
     grid->setColumnStretch(0, 1);
 }
 
@@ -142,6 +143,7 @@ void PreviewView::show(QScrollBar& bar, const print::PreviewPage::ScrollBar& sta
 void PreviewView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
+    fitBar_->refresh();
     followZoom();
     const print::PreviewPage& page = print::previewPage(app_);
     show(*rptHScroll1_, page.rptHScroll1, page.rptPreview2.Width);

@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "gui/frame/commandActions.h"
 #include "gui/frame/eventBoundary.h"
+#include "gui/print/fitBar.h"
 #include "gui/print/previewPort.h"
 #include "gui/widgets/emptyHint.h"
 #include "print/previewPage.h"
@@ -43,6 +44,7 @@ private:
     EventBoundary& events_;
     QLabel* percent_ = nullptr; // made with the toolbar, so ahead of it
     QToolBar* reportToolbar_;
+    FitBar* fitBar_;
     PreviewPort* port_;
     EmptyHint* hint_;
     QScrollBar* rptHScroll1_;

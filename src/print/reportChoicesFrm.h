@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/app.h"
+#include "print/reportChoices.h"
+
+#include <string>
+#include <vector>
+
+namespace print {
+
+// "Report Choices": what each sheet of the open file's report has beside its records. Kept for the file in
+// the user's settings; the document is not changed.
+class reportChoicesFrm {
+public:
+    explicit reportChoicesFrm(app::App& app); // Load
+
+    bool headsChk = false, pagesChk = false, dateChk = false, totalsChk = false;
+    std::vector<std::string> groupList; // "(none)", then the columns of the report's list
+    int groupIndex = 0;
+    std::vector<std::string> stepList; // of the chosen column; empty where its values stand by themselves
+    int stepIndex = 0;
+    std::string noteLbl; // what the choice lacks; empty while nothing is
+    bool unloaded = false;
+
+    void groupList_Click(int entry);
+    void stepList_Click(int entry) { stepIndex = entry; }
+    void totalsChk_Click(bool checked);
+    void OKButton_Click();
+    void CancelButton_Click() { unloaded = true; }
+
+private:
+    void takeSteps(const std::string& chosen);
+    void takeNote();
+
+    app::App& app_;
+};
+
+} // namespace print
