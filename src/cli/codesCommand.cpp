@@ -58,6 +58,7 @@ int store(Session& session, const std::string& column, const search::MadeCodes& 
     int changed = 0;
     session.change([&] { changed = search::writeCodes(session.app, column, made, true); });
     if (changed == 0) return changed;
+    session.noteOwnWrite();
     try {
         session.save();
     } catch (const Failure&) {
