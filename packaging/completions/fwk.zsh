@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--by|--group-by|--expression|--column|--title|--records|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--group-by|--expression|--column|--title|--records|--from|--kind|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -65,6 +65,7 @@ _fwk() {
     (--columns:*|--by:*|--group-by:*) compset -P '*,'; _fwk_columns -S ''; return ;;
     (--column:*|--where:0|--sum:*|--mean:*|--min:*|--max:*) _fwk_columns; return ;;
     (--where:1) compadd ge le is within range; return ;;
+    (--kind:*) compadd qr ean13 ean8 upca code128 datamatrix; return ;;
     (--dates:*) compadd dmy mdy ymd; return ;;
     (--format:*) compadd csv tsv xlsx ods json sqlite html vcf; return ;;
     (--encoding:*) compadd utf-8 utf-16le utf-16be windows-1252; return ;;

@@ -46,6 +46,7 @@ Run setUpDuplicate(CLI::App& command);
 Run setUpSearch(CLI::App& command);
 Run setUpReplace(CLI::App& command);
 Run setUpSet(CLI::App& command);
+Run setUpCodes(CLI::App& command);
 Run setUpDuplicates(CLI::App& command);
 Run setUpSummary(CLI::App& command);
 Run setUpStatistics(CLI::App& command);

@@ -33,6 +33,7 @@ constexpr Command commands[] = {
     {"serial", "Sets a serial counter, or checks the numbers", setUpSerial},
     {"replace", "Replaces words, and prints how many cells have changed", setUpReplace},
     {"set", "Sets a column of many records, and prints how many have changed", setUpSet},
+    {"codes", "Makes QR or bar codes in a column of pictures, and prints how many have changed", setUpCodes},
     {"duplicates", "Lists the records that are equal, or deletes all but the first of them", setUpDuplicates},
     {"lock", "Locks the design with a password, read from standard input", setUpLock},
     {"unlock", "Opens a locked design with its password, read from standard input", setUpUnlock},

@@ -56,6 +56,8 @@ public:
     // Raises Failure when the file is no longer what was read. Whoever writes it by other means than save()
     // asks first: not every program that writes a file takes the lock.
     void refuseIfChanged() const;
+    // The file was written by this command itself, though not by save().
+    void noteOwnWrite() { read_ = file::FileState::of(file); }
     void saveAs(const std::string& target);
     void clone(const std::string& target);
     // Saves the search results as a database of their own.

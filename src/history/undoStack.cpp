@@ -86,11 +86,10 @@ Step UndoStack::lookAgain(const Document& document, bool bRecords) {
 }
 
 void UndoStack::go(Document& document, std::vector<Step>& from, std::vector<Step>& to,
-                   const SwapPicture& swap, bool bBack) {
+                   const SwapPictures& swap, bool bBack) {
     std::vector<file::KeptEntry> pictures; // first: the file may not take them
     const std::vector<file::KeptEntry>& others = from.back().pictures;
-    for (auto picture = others.rbegin(); picture != others.rend(); ++picture)
-        pictures.push_back(swap(*picture));
+    if (!others.empty()) pictures = swap({others.rbegin(), others.rend()});
     Step step = std::move(from.back());
     from.pop_back();
     if (step.design) step.design->putInto(document);
@@ -119,7 +118,7 @@ const Step* UndoStack::next(const std::vector<Step>& steps) {
     return nullptr;
 }
 
-void UndoStack::undo(Document& document, const SwapPicture& swap) {
+void UndoStack::undo(Document& document, const SwapPictures& swap) {
     if (undone() == nullptr) return;
     for (bool bSilent = true; bSilent;) {
         bSilent = undo_.back().isSilent;
@@ -128,7 +127,7 @@ void UndoStack::undo(Document& document, const SwapPicture& swap) {
     while (undone() == nullptr && !undo_.empty()) go(document, undo_, redo_, swap, true);
 }
 
-void UndoStack::redo(Document& document, const SwapPicture& swap) {
+void UndoStack::redo(Document& document, const SwapPictures& swap) {
     if (redone() == nullptr) return;
     for (bool bSilent = true; bSilent;) {
         bSilent = redo_.back().isSilent;

@@ -50,11 +50,11 @@ public:
 
     const Step* undone() const { return next(undo_); } // what undo would undo; nullptr when there is nothing
     const Step* redone() const { return next(redo_); }
-    // Makes the document what it was before the step, or after it. `swap` puts a picture into the file and
-    // answers the one that it replaces.
-    using SwapPicture = std::function<file::KeptEntry(const file::KeptEntry&)>;
-    void undo(core::Document& document, const SwapPicture& swap);
-    void redo(core::Document& document, const SwapPicture& swap);
+    // Makes the document what it was before the step, or after it. `swap` puts pictures into the file, one
+    // after the other, and answers those that they replace, in the same order.
+    using SwapPictures = std::function<std::vector<file::KeptEntry>(const std::vector<file::KeptEntry>&)>;
+    void undo(core::Document& document, const SwapPictures& swap);
+    void redo(core::Document& document, const SwapPictures& swap);
 
     void markSaved() { savedAt_ = loudSteps(undo_); }
     // The document is as it was when it was saved.
@@ -73,7 +73,7 @@ private:
     static const Step* next(const std::vector<Step>& steps);
     static std::size_t loudSteps(const std::vector<Step>& steps);
     Step lookAgain(const core::Document& document, bool bRecords);
-    void go(core::Document& document, std::vector<Step>& from, std::vector<Step>& to, const SwapPicture& swap,
+    void go(core::Document& document, std::vector<Step>& from, std::vector<Step>& to, const SwapPictures& swap,
             bool bBack);
     void forgetOldest();
 

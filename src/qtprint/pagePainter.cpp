@@ -10,6 +10,17 @@ using drawing::Drawn;
 
 namespace {
 
+// As bar codes are: nothing that is between.
+bool isBlackAndWhite(const QImage& picture) {
+    const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < pixels.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
+        for (int x = 0; x < pixels.width(); ++x)
+            if (line[x] != 0xFF000000U && line[x] != 0xFFFFFFFFU) return false;
+    }
+    return true;
+}
+
 // What a damaged file says beyond it is nowhere on a paper.
 qreal onPaper(float twips) {
     constexpr float furthest = 1'000'000;
@@ -90,10 +101,15 @@ void PagePainter::drawPicture(QPainter& painter, const std::filesystem::path& pi
     if (image == nullptr) {
         read = readPicture(path, dots);
         if (read.isNull()) return;
+        if (isBlackAndWhite(read)) read = read.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither);
         image = &read;
         pictures_.insert(key, new QImage(read), std::max<qsizetype>(read.sizeInBytes() / 1000, 1));
     }
+    // The edges of a bar code stay sharp.
+    const bool isSmooth = painter.renderHints().testFlag(QPainter::SmoothPixmapTransform);
+    if (image->depth() == 1) painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.drawImage(place, *image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, isSmooth);
 }
 
 void PagePainter::draw(QPainter& painter, const std::vector<Drawn>& drawn) {

@@ -9,6 +9,7 @@
 #include "search/coloursFrm.h"
 #include "search/duplicatesFrm.h"
 #include "search/filterMode.h"
+#include "search/makeCodeFrm.h"
 #include "search/replaceFrm.h"
 #include "search/searchMode.h"
 #include "search/serialCheckFrm.h"
@@ -166,6 +167,8 @@ std::vector<Command> menuCommands() {
         {"mnuDuplicate", "&Duplicate Record", "", "duplicate", false, entry::mnuDuplicate_Click},
         {"mnuReplace", "&Find And Replace", "", "replace", false, search::mnuReplace_Click},
         {"mnuSetValues", "Set &Values...", "", "setValues", false, search::mnuSetValues_Click},
+        {"mnuMakeCode", "&Make Code...", "", "makeCode", false, search::mnuMakeCode_Click,
+         search::canMakeCode},
         {"mnuFilter", "F&ilter...", "", "filter", false, search::mnuFilter_Click, search::canFilter},
         {"mnuDuplicates", "Find Duplicat&es...", "", "duplicates", false, search::mnuDuplicates_Click},
         {"mnuSearch", "&Search", "", "search", false, search::mnuSearch_Click},
@@ -301,7 +304,7 @@ std::span<const Menu> menuBar() {
         {"mnuEdit",
          "&Edit",
          {"mnuUndo", "mnuRedo", "-", "mnuCut", "mnuCopy", "mnuCopyHeadings", "mnuPaste", "-", "mnuNewRecord",
-          "mnuDuplicate", "-", "mnuFilter", "mnuReplace", "mnuSetValues", "mnuDuplicates"}},
+          "mnuDuplicate", "-", "mnuFilter", "mnuReplace", "mnuSetValues", "mnuMakeCode", "mnuDuplicates"}},
         {"mnuView",
          "&View",
          {"mnuZoomIn", "mnuZoomOut", "mnuZoomNormal", "-", "mnuFitPage", "mnuFitWidth", "-",

@@ -4,6 +4,7 @@
 #include "entry/entryFrm.h"
 #include "entry/navBar.h"
 #include "search/folding.h"
+#include "search/makeCodeFrm.h"
 #include "shell/commands.h"
 #include "shell/listEvents.h"
 #include "shell/mainWindow.h"
@@ -56,7 +57,9 @@ std::vector<std::string_view> contextMenuKeys(const RecordsList& list, const cor
     if (!document.bInvoiceStyle) add({"mnuDuplicate"});
     if (&list != &document.searchLV && !(document.bInvoiceStyle && document.bInvoiceView)) add({"Delete"});
     add({separator, "mnuUndo", "mnuRedo", separator, "mnuCopy", "mnuCopyHeadings", "mnuPaste", separator,
-         "mnuSetValues", "mnuReplace", "mnuSearch", separator, "mnuSelectedTotals", "Selected_As_Report"});
+         "mnuSetValues"});
+    if (search::hasPictureColumn(document)) add({"mnuMakeCode"});
+    add({"mnuReplace", "mnuSearch", separator, "mnuSelectedTotals", "Selected_As_Report"});
     std::vector<std::string_view> keys;
     for (const std::string_view key : wanted) {
         const bool isDouble = key == separator && keys.back() == separator;

@@ -1,11 +1,16 @@
 #include "shell/menuCommands.h"
 
+#include "app/windowState.h"
+#include "layout/layoutPage.h"
 #include "layout/sheet.h"
 #include "lock/designLock.h"
 #include "platform/programFiles.h"
 #include "print/printerCheck.h"
+#include "search/makeCodeFrm.h"
 #include "search/searchMode.h"
+#include "shell/commands.h"
 #include "shell/mainWindow.h"
+#include "shell/undo.h"
 #include "storage/openFile.h"
 
 // Whoever distributes the program may have set an address; without one its own page is shown.
@@ -76,6 +81,18 @@ void openHelpPage(App& app, std::string_view page) {
         app::inform(app, "The help pages are not installed.");
 }
 } // namespace
+
+void makeCodeOfBox(App& app) {
+    const core::ObjectRef selected = layout::layoutPage(app).selectedObject;
+    const core::ImgHolder* holder = selected.family == core::Family::imgHolder
+                                        ? app.document.layout.imgHolder.find(selected.Index)
+                                        : nullptr;
+    if (holder == nullptr || !isCommandEnabled(app, "mnuMakeCode")) return;
+    RunningCommand running(app, "mnuMakeCode");
+    search::makeCodeFor(app, std::string(holder->Tag));
+    running.end();
+    app::allowManySelected(app);
+}
 
 void openHelp(App& app) {
     openHelpPage(app, "help/index.html");

@@ -28,6 +28,9 @@ void showDatabaseProperties(app::App& app);
 void pressDesign(app::App& app);
 void toggleCalcHighlight(app::App& app);
 
+// "Make Code" of a picture box's own menu, for its column.
+void makeCodeOfBox(app::App& app);
+
 // Opens the help pages that come with the program; the user is told when they are not there.
 void openHelp(app::App& app);
 void showAbout(app::App& app);

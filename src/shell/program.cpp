@@ -8,6 +8,7 @@
 #include "layout/images.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
+#include "search/codeRules.h"
 #include "search/colourRules.h"
 #include "search/filterMode.h"
 #include "search/suggestions.h"
@@ -71,6 +72,8 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
                    search::forgetSuggestions);
     changes.follow({Change::Opened}, search::readColours);
     changes.follow({Change::Stored}, search::followStoredColours);
+    changes.follow({Change::Opened}, search::readCodeRules);
+    changes.follow({Change::Stored}, search::followStoredCodeRules);
     changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Opened}, [](App& app) {
         if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);
@@ -79,6 +82,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
                     Change::Begun, Change::Opened},
                    summary::followChanges);
     followForUndo(changes);
+    changes.follow({Change::Modified}, search::followRecordsForCodes); // last: it changes records itself
     changes.follow({Change::Preview}, [](App& app) { SSTab1_Click(app, app::previewTab); });
 }
 

@@ -13,6 +13,7 @@
 #include "layout/selection.h"
 #include "layout/sheet.h"
 #include "print/reportPrinting.h"
+#include "search/codeRules.h"
 #include "search/filterMode.h"
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
@@ -41,13 +42,14 @@ History& historyOf(const App& app) {
 
 // What changes records is better named after the command than after what came of it.
 std::string_view nameOfCommand(std::string_view key) {
-    static constexpr std::array<std::array<std::string_view, 2>, 10> names = {{
+    static constexpr std::array<std::array<std::string_view, 2>, 11> names = {{
         {"mnuDuplicate", "Duplicate Record"},
         {"mnuReplace", "Find And Replace"},
         {"mnuPaste", "Paste"},
         {"mnuImportTable", "Import"},
         {"mnuCut", "Cut"},
         {"mnuSetValues", "Set Values"},
+        {"mnuMakeCode", "Make Code"},
         {"mnuDuplicates", "Delete Duplicates"},
         {"mnuVersions", "Restore Version"},
         {"mnuSerialAdjust", "Adjust Serial Number"},
@@ -107,19 +109,26 @@ bool isDocument(const App& app) {
     return !app.document.currentFile.empty() || app.document.LV.columns.count() > 1;
 }
 
-// Puts an entry into the open file and answers the one that was there.
-file::KeptEntry swapPicture(App& app, const file::KeptEntry& entry) {
+// Puts entries into the open file, in one write, and answers those that were there.
+std::vector<file::KeptEntry> swapPictures(App& app, const std::vector<file::KeptEntry>& entries) {
     app.changes.announce(app, app::Change::Writing);
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
-    file::KeptEntry other = file::keepEntry(Zip, entry.name);
-    file::putBack(Zip, entry);
+    std::vector<file::KeptEntry> others;
+    others.reserve(entries.size());
+    for (const file::KeptEntry& entry : entries) {
+        if (Zip.contains(entry.name))
+            others.push_back(file::keepEntry(Zip, entry.name));
+        else
+            others.push_back({entry.name, {}, std::nullopt});
+        file::putBack(Zip, entry);
+    }
     Zip.CloseArchive();
     app.changes.announce(app, app::Change::Written);
     std::error_code none;
-    const std::filesystem::path shown = app.platform.tempFolder() / entry.name;
-    std::filesystem::remove(shown, none); // it is unpacked anew
-    return other;
+    for (const file::KeptEntry& entry : entries) // they are unpacked anew
+        std::filesystem::remove(app.platform.tempFolder() / entry.name, none);
+    return others;
 }
 
 // The page shows other objects, scrolled as it was.
@@ -233,9 +242,10 @@ void go(App& app, bool bBack) {
     const history::Step* step = bBack ? stack.undone() : stack.redone();
     if (step == nullptr || isHalfWay(app)) return;
     const TypedWords typed(app);
+    const search::CodesAsTheyAre codes(app); // the step has those that belong to the texts
     const auto design = stack.designPart();
     const auto objects = stack.objectsPart();
-    const auto swap = [&](const file::KeptEntry& entry) { return swapPicture(app, entry); };
+    const auto swap = [&](const auto& entries) { return swapPictures(app, entries); };
     try {
         if (bBack)
             stack.undo(app.document, swap);

@@ -69,4 +69,26 @@ $2 fwk report a.fwk -> ! --output is required && $1 ulimit -f 4; fwk report book
 )sh");
 }
 
+// A hundred codes of three kinds on paper say what the records say to who reads them there.
+TEST_F(Printing, CodesAreReadBackFromPaper) {
+    if (run("zbarimg --version && pdftoppm -v && which fwk-print").code != 0)
+        GTEST_SKIP() << "no reader of codes";
+    std::string rows, wanted;
+    for (int i = 100; i < 200; ++i) {
+        rows += "B\u00f8lt " + std::to_string(i) + "|400638133" + std::to_string(i) + "|||;";
+        wanted += "B\u00f8lt " + std::to_string(i) + "\n";
+    }
+    make("a.fwk", DataFile("Name No Q:7 E:7 C:7", rows)
+                      .objects("P|Q|1440|1440|1815|1575|;P|E|1440|4000|2900|2000|;P|C|1440|7000|4400|1575|"));
+    const Outcome outcome =
+        run("for code in 'Q {Name} qr' 'E {No} ean13' 'C {No} code128'; do set -- $code; "
+            "fwk codes a.fwk --column $1 --from $2 --kind $3 || exit 1; done; "
+            "fwk layouts a.fwk -o a.pdf && pdftoppm -r 150 -gray a.pdf a && zbarimg -q *.pgm");
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(run("zbarimg -q --raw -Sdisable -Sqrcode.enable *.pgm").out, wanted);
+    EXPECT_EQ(run("zbarimg -q --raw -Sdisable -Sean13.enable *.pgm | cut -c 1-12 | uniq | wc -l").out,
+              "100\n");
+    EXPECT_EQ(run("zbarimg -q --raw -Sdisable -Scode128.enable *.pgm | sort -u | wc -l").out, "100\n");
+}
+
 } // namespace

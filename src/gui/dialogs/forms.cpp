@@ -9,6 +9,7 @@
 #include "gui/dialogs/formulateFrmView.h"
 #include "gui/dialogs/layoutPageSetupFrmView.h"
 #include "gui/dialogs/mailFrmView.h"
+#include "gui/dialogs/makeCodeFrmView.h"
 #include "gui/dialogs/repeatFrmView.h"
 #include "gui/dialogs/replaceFrmView.h"
 #include "gui/dialogs/reportChoicesFrmView.h"
@@ -56,6 +57,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("versionsFrm", shown<versionsFrmView>(app, events));
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
     platform.registerForm("setValuesFrm", shown<setValuesFrmView>(app, events));
+    platform.registerForm("makeCodeFrm", shown<makeCodeFrmView>(app, events));
     platform.registerForm("coloursFrm", shown<coloursFrmView>(app, events));
     platform.registerForm("duplicatesFrm", shown<duplicatesFrmView>(app, events));
     platform.registerForm("statisticsFrm", shown<statisticsFrmView>(app, events));

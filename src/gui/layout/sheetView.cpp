@@ -10,6 +10,8 @@
 #include "layout/images.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
+#include "shell/commands.h"
+#include "shell/menuCommands.h"
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -358,7 +360,15 @@ void SheetView::showImportMenu(QPoint place) {
     menu.setObjectName(QStringLiteral("mnuImport"));
     QAction* import = menu.addAction(tr("&Import From Clipbard"));
     import->setObjectName(QStringLiteral("mnuImportImage"));
-    if (menu.exec(place) == import) events_.run([&] { layout::mnuImportImage_Click(app_); });
+    QAction* makeCode = nullptr;
+    if (layout::layoutPage(app_).selectedObject.family == Family::imgHolder) {
+        makeCode = menu.addAction(tr("&Make Code..."));
+        makeCode->setObjectName(QStringLiteral("mnuMakeCode"));
+        makeCode->setEnabled(shell::isCommandEnabled(app_, "mnuMakeCode"));
+    }
+    const QAction* chosen = menu.exec(place);
+    if (chosen == import) events_.run([&] { layout::mnuImportImage_Click(app_); });
+    if (makeCode != nullptr && chosen == makeCode) events_.run([&] { shell::makeCodeOfBox(app_); });
 }
 
 } // namespace gui

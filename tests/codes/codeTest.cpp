@@ -1,0 +1,30 @@
+#include "codes/code.h"
+#include "table.h"
+
+#include <gtest/gtest.h>
+
+// What the bars say, or why there are none. Check digits are worked examples of the numbering's own tables.
+TEST(Codes, WhatTheBarsSayOrWhyThereAreNone) {
+    for (const auto& row :
+         table("ean13 400638133393 -> 4006381333931; ean13 978-3-16-148410-0 -> 9783161484100; "
+               "ean8 9638507 -> 96385074; upca 03600029145 -> 036000291452; "
+               "ean13 4006381333932 -> EAN-13 of 4006381333932: the last digit should be 1; "
+               "ean13 40063x -> EAN-13 of 40063x: \"x\" at place 6 is no digit; "
+               "ean8 12 -> EAN-8 of 12: it has 2 digits, and should have 8, or 7 without the check "
+               "digit; qr   -> QR: there is no text; qr \u00fc\u20ac -> \u00fc\u20ac; "
+               "code128 M\u00fc -> Code 128 of M\u00fc: \"\u00fc\" at place 2 has no bars; a QR code "
+               "takes it; datamatrix A b -> A b")) {
+        const std::size_t blank = row[0].find(' ');
+        const codes::Kind kind = codes::kindOf(row[0].substr(0, blank)).value();
+        std::string told;
+        try {
+            told = codes::encodedText(kind, row[0].substr(blank + 1));
+            EXPECT_EQ(codes::makeCode(kind, row[0].substr(blank + 1)).substr(0, 6), "GIF87a");
+        } catch (const std::exception& error) {
+            told = error.what();
+        }
+        EXPECT_EQ(told, row[1]);
+    }
+    EXPECT_ANY_THROW(codes::makeCode(codes::Kind::QR, std::string(3000, 'x')));
+    EXPECT_ANY_THROW(codes::makeCode(codes::Kind::Code128, std::string(81, 'x')));
+}
