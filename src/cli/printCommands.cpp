@@ -1,6 +1,8 @@
 #include "print/printCommands.h"
+#include "app/fileSettings.h"
 #include "cli/command.h"
 #include "cli/output.h"
+#include "cli/printing.h"
 #include "cli/session.h"
 #include "core/text.h"
 #include "print/layoutPrinting.h"
@@ -33,13 +35,13 @@ struct PrintOptions {
 };
 
 #ifdef FERROWICK_PRINTS
-std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions& options) {
-    return qtprint::makePdfPrinter(options.output, options.file);
+std::unique_ptr<drawing::Printer> makePrinter(const std::string& output, const std::string& file) {
+    return qtprint::makePdfPrinter(output, file);
 }
 #else
 // Goes on as the program that can print: beside this one where it is built, in its own folder where it is
 // installed.
-std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions&) {
+std::unique_ptr<drawing::Printer> makePrinter(const std::string&, const std::string&) {
     std::error_code error;
     const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
     for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
@@ -48,28 +50,31 @@ std::unique_ptr<drawing::Printer> makePrinter(const PrintOptions&) {
 }
 #endif
 
-// Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
-void printInto(Session& session, const PrintOptions& options,
+} // namespace
+
+void printInto(Session& session, const std::string& output,
                const std::function<void(app::App&, DrawTarget&)>& print) {
-    const std::unique_ptr<drawing::Printer> printer = makePrinter(options);
+    const std::unique_ptr<drawing::Printer> printer = makePrinter(output, session.file);
     session.open();
-    session.refuseAsOutput(options.output);
+    session.refuseAsOutput(output);
     session.platform.setPrinter(printer.get());
     app::App& app = session.app;
     try {
         storage::extractClipArt(app);
-        const std::string name = std::filesystem::path(options.file).stem().string();
+        const std::string name = std::filesystem::path(session.file).stem().string();
         const std::unique_ptr<DrawTarget> target = session.platform.openPrinter(name);
         print(app, *target);
         if (!target->close()) {
             const std::string why = target->failure();
-            throw Failure(options.output, "could not be written" + (why.empty() ? "" : ": " + why));
+            throw Failure(output, "could not be written" + (why.empty() ? "" : ": " + why));
         }
     } catch (const core::RunTimeError& error) {
-        throw Failure(options.output, error.what());
+        throw Failure(output, error.what());
     }
     session.platform.setPrinter(nullptr);
 }
+
+namespace {
 
 // In an invoice database the report shows the invoices or their items, whichever the file was left with.
 void chooseColumns(Session& session, const PrintOptions& options) {
@@ -93,7 +98,7 @@ void chooseColumns(Session& session, const PrintOptions& options) {
 
 int printReport(const PrintOptions& options) {
     Session session(options.file);
-    printInto(session, options, [&](app::App& app, DrawTarget& target) {
+    printInto(session, options.output, [&](app::App& app, DrawTarget& target) {
         chooseColumns(session, options);
         if (options.hasTitle) app.document.reportData.reportTitle = options.title;
         print::previewPage(app).bReportSelectedOnly = false;
@@ -125,8 +130,9 @@ void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) 
 
 int printLayouts(const PrintOptions& options) {
     Session session(options.file);
-    printInto(session, options, [&](app::App& app, DrawTarget& target) {
+    printInto(session, options.output, [&](app::App& app, DrawTarget& target) {
         core::Document& document = app.document;
+        app::keepFileSettings(app, platform::FileSettings::defaultFile()); // which labels were chosen
         // The layout shows an invoice as it stands in LV, whichever view the lists have.
         core::RecordsList& list = document.LV;
         std::vector<int> rows;

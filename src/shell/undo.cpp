@@ -40,7 +40,7 @@ History& historyOf(const App& app) {
 
 // What changes records is better named after the command than after what came of it.
 std::string_view nameOfCommand(std::string_view key) {
-    static constexpr std::array<std::array<std::string_view, 2>, 10> names = {{
+    static constexpr std::array<std::array<std::string_view, 2>, 11> names = {{
         {"mnuDuplicate", "Duplicate Record"},
         {"mnuReplace", "Find And Replace"},
         {"mnuPaste", "Paste"},
@@ -51,6 +51,7 @@ std::string_view nameOfCommand(std::string_view key) {
         {"mnuVersions", "Restore Version"},
         {"mnuSerialAdjust", "Adjust Serial Number"},
         {"mnuCleanDatabase", "Clean Database"},
+        {"mnuLabels", "Label Wizard"},
     }};
     const auto* found = std::ranges::find(names, key, [](const auto& name) { return name[0]; });
     return found == names.end() ? std::string_view() : (*found)[1];
