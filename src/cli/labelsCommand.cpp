@@ -220,7 +220,8 @@ int printOnStock(const LabelsOptions& options) {
         chooseRecords(session, options);
         const print::LabelCopies copies =
             print::countLabels(app, choice, print::previewPage(app).bLayoutSelectedOnly);
-        std::cerr << "fwk: " << file << ": " << print::aboutLabels(choice, copies) << '\n';
+        if (copies.without > 0 || copies.cut > 0)
+            std::cerr << "fwk: " << file << ": " << print::aboutLabels(choice, copies) << '\n';
         print::useLabelChoice(app, choice);
         if (!print::printLabels(app, target, choice)) throw Failure(file, "no labels were printed");
     });

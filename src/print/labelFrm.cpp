@@ -280,11 +280,10 @@ void labelFrm::showPrint() {
     design_ = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
     constexpr double exact = 0.1; // millimetres
     const auto off = deviation(*stock, design_.objects);
-    exactLbl =
-        off && *off <= exact
-            ? "The database keeps this sheet, so that it is printed alike on any computer."
-            : "The database has no place for all figures of this sheet: they are kept on this computer, "
-              "by the place of the file.";
+    exactLbl = off && *off <= exact
+                   ? "The database itself keeps where these labels stand."
+                   : "The database cannot keep where these labels stand to a tenth of a millimetre: this "
+                     "computer does, for this file.";
 }
 
 void labelFrm::backBtn_Click() {

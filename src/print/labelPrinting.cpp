@@ -104,7 +104,8 @@ void LabelRun::printPlace(long label, int place) {
 void LabelRun::printSheet(app::LongWork* work) {
     int& iLayoutIndex = previewPage(app_).iLayoutIndex;
     const int perSheet = choice_.stock.perSheet(), used = choice_.start - 1;
-    const int first = std::max(iLayoutIndex, 0) / perSheet * perSheet;
+    const int all = labelSheets(choice_, copies_) * perSheet;
+    const int first = iLayoutIndex >= all ? 0 : std::max(iLayoutIndex, 0) / perSheet * perSheet;
     iLayoutIndex = first + perSheet;
     if (choice_.bOutlines)
         for (int place = 1; place <= perSheet; ++place) {
