@@ -242,6 +242,14 @@ keys Up Up Return
 window '^Ferrowick'
 shot labels labels
 
+open addresses.fwk
+keys alt+f b
+window '^Label Wizard$'
+xdotool type 'avery l716'
+shot label-wizard
+keys Escape
+back
+
 open library.fwk
 keys ctrl+Tab
 shot library-layout library

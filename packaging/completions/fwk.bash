@@ -81,7 +81,7 @@ _fwk() {
         return
     fi
     case $option:$taken in
-    -o:* | --output:*)
+    -o:* | --output:* | --pdf:*)
         case $command in
         search | restore) _fwk_files '*.fwk' ;;
         export) _fwk_files '*.@(csv|tsv|xlsx|ods|json|sqlite|html|vcf)' ;;
@@ -96,7 +96,7 @@ _fwk() {
         _fwk_offer "$before" < <(_fwk_columns "$file")
         return
         ;;
-    --column:* | --where:0 | --sum:* | --mean:* | --min:* | --max:*) _fwk_offer < <(_fwk_columns "$file"); return ;;
+    --column:* | --copies:* | --picture:* | --where:0 | --sum:* | --mean:* | --min:* | --max:*) _fwk_offer < <(_fwk_columns "$file"); return ;;
     --where:1) _fwk_offer < <(printf '%s\n' ge le is within range); return ;;
     --kind:*) _fwk_offer < <(printf '%s\n' qr ean13 ean8 upca code128 datamatrix); return ;;
     --dates:*) _fwk_offer < <(printf '%s\n' dmy mdy ymd); return ;;
@@ -114,7 +114,7 @@ _fwk() {
     [[ $cur == = || $prev == = ]] && return
     case $command${sub:+-$sub}:$count in
     column:0) _fwk_offer < <(_fwk_commands column) ;;
-    labels:*) ;;
+    labels:[1-9]*) ;;
     *:0 | clone:1 | save-as:1) _fwk_files '*.fwk' ;;
     import:1) _fwk_files '*.@(csv|tsv|txt|xlsx|xlsm|ods|json|sqlite|sqlite3|db|html|htm|vcf)' ;;
     sort:1 | expression:1 | serial:1 | set:1 | statistics:1 | total:* | column-rename:1 | column-remove:1)

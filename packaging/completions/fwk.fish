@@ -35,7 +35,7 @@ complete -c fwk -f
 complete -c fwk -n 'test (count (__fwk_words)) -eq 1' -a '(__fwk_commands)'
 complete -c fwk -n '__fwk_at column 2; and test (count (__fwk_words)) -eq 2' -a '(__fwk_commands column)'
 complete -c fwk -n 'string match -q -- "-*" (commandline -ct)' -a '(__fwk_options)'
-complete -c fwk -n 'test (count (__fwk_words)) -ge 2; and not __fwk_at labels 2' -k -a '(__fish_complete_suffix .fwk)'
+complete -c fwk -n 'test (count (__fwk_words)) -ge 2; and not __fwk_at labels 3' -k -a '(__fish_complete_suffix .fwk)'
 complete -c fwk -n '__fwk_at sort,expression,serial,set,statistics,summary,duplicates,total,search,replace,records,report 3; or __fwk_at column 4' \
     -a '(__fwk_columns)'
 complete -c fwk -n '__fwk_at add,update 3' -a '(__fwk_columns =)'

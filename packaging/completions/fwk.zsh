@@ -55,7 +55,7 @@ _fwk() {
         return
     fi
     case $option:$taken in
-    (-o:*|--output:*)
+    (-o:*|--output:*|--pdf:*)
         case $command in
         (search|restore) _files -g '*.fwk' ;;
         (export) _files -g '*.(csv|tsv|xlsx|ods|json|sqlite|html|vcf)' ;;
@@ -63,7 +63,7 @@ _fwk() {
         esac
         return ;;
     (--columns:*|--by:*|--group-by:*) compset -P '*,'; _fwk_columns -S ''; return ;;
-    (--column:*|--where:0|--sum:*|--mean:*|--min:*|--max:*) _fwk_columns; return ;;
+    (--column:*|--copies:*|--picture:*|--where:0|--sum:*|--mean:*|--min:*|--max:*) _fwk_columns; return ;;
     (--where:1) compadd ge le is within range; return ;;
     (--kind:*) compadd qr ean13 ean8 upca code128 datamatrix; return ;;
     (--dates:*) compadd dmy mdy ymd; return ;;
@@ -74,7 +74,7 @@ _fwk() {
     case $command${sub:+-$sub}:$count in
     (:*) _fwk_commands ;;
     (column:0) _fwk_commands column ;;
-    (labels:*) ;;
+    (labels:<1->) ;;
     (*:0|clone:1|save-as:1) _files -g '*.fwk' ;;
     (import:1) _files -g '*.(csv|tsv|txt|xlsx|xlsm|ods|json|sqlite|sqlite3|db|html|htm|vcf)' ;;
     (new:*|column-add:*) compset -P '*:' && compadd Text Number Currency Date Picture Calculation ;;

@@ -1,7 +1,9 @@
 #include "print/printCommands.h"
+#include "app/fileSettings.h"
 #include "cli/command.h"
 #include "cli/output.h"
 #include "cli/printer.h"
+#include "cli/printing.h"
 #include "cli/reportOptions.h"
 #include "cli/session.h"
 #include "core/text.h"
@@ -31,28 +33,31 @@ struct PrintOptions {
     ReportOptions report;
 };
 
-// Opens the database and the PDF file, prints, and closes the file. A failure leaves an older file as it was.
-void printInto(Session& session, const PrintOptions& options,
+} // namespace
+
+void printInto(Session& session, const std::string& output,
                const std::function<void(app::App&, DrawTarget&)>& print) {
-    const std::unique_ptr<drawing::Printer> printer = makePrinter(options.output, options.file);
+    const std::unique_ptr<drawing::Printer> printer = makePrinter(output, session.file);
     session.open();
-    session.refuseAsOutput(options.output);
+    session.refuseAsOutput(output);
     session.platform.setPrinter(printer.get());
     app::App& app = session.app;
     try {
         storage::extractClipArt(app);
-        const std::string name = std::filesystem::path(options.file).stem().string();
+        const std::string name = std::filesystem::path(session.file).stem().string();
         const std::unique_ptr<DrawTarget> target = session.platform.openPrinter(name);
         print(app, *target);
         if (!target->close()) {
             const std::string why = target->failure();
-            throw Failure(options.output, "could not be written" + (why.empty() ? "" : ": " + why));
+            throw Failure(output, "could not be written" + (why.empty() ? "" : ": " + why));
         }
     } catch (const core::RunTimeError& error) {
-        throw Failure(options.output, error.what());
+        throw Failure(output, error.what());
     }
     session.platform.setPrinter(nullptr);
 }
+
+namespace {
 
 // In an invoice database the report shows the invoices or their items, whichever the file was left with.
 void chooseColumns(Session& session, const PrintOptions& options) {
@@ -76,7 +81,7 @@ void chooseColumns(Session& session, const PrintOptions& options) {
 
 int printReport(const PrintOptions& options) {
     Session session(options.file);
-    printInto(session, options, [&](app::App& app, DrawTarget& target) {
+    printInto(session, options.output, [&](app::App& app, DrawTarget& target) {
         chooseColumns(session, options);
         if (options.hasTitle) app.document.reportData.reportTitle = options.title;
         print::previewPage(app).bReportSelectedOnly = false;
@@ -109,8 +114,9 @@ void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) 
 
 int printLayouts(const PrintOptions& options) {
     Session session(options.file);
-    printInto(session, options, [&](app::App& app, DrawTarget& target) {
+    printInto(session, options.output, [&](app::App& app, DrawTarget& target) {
         core::Document& document = app.document;
+        app::keepFileSettings(app, platform::FileSettings::defaultFile()); // which labels were chosen
         // The layout shows an invoice as it stands in LV, whichever view the lists have.
         core::RecordsList& list = document.LV;
         std::vector<int> rows;

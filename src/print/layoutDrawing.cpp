@@ -92,22 +92,24 @@ void printWrapped(DrawTarget& target, float x, float maxHeight, float width, std
     } while (!rest.empty());
 }
 
-void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
-    target.bOneSheet = true; // a record stands on one sheet, as its preview does on one page
-    const core::LayoutObjects& objects = app.document.layout;
+void drawTexts(const core::Document& document, const core::LayoutObjects& objects, DrawTarget& target,
+               float dx, float dy) {
     const auto goTo = [&](const core::LayoutObject& object) {
         target.CurrentX = object.Left + dx;
         target.CurrentY = object.Top + dy;
     };
     objects.layoutField.forEach([&](const core::LayoutField& field) {
         goTo(field);
-        drawText(app.document, target, field);
+        drawText(document, target, field);
     });
     objects.tLabel.forEach([&](const core::Label& label) {
         goTo(label);
         copyObjectFont(label, label.ForeColor, target);
         printWrapped(target, target.CurrentX, label.Height, label.Width, label.Text);
     });
+}
+
+void drawShapes(const App& app, const core::LayoutObjects& objects, DrawTarget& target, float dx, float dy) {
     // The width of a line counts pixels, and is taken off as if it were twips. It is wanted so.
     objects.pbLine.forEach([&](const core::LineObject& line) {
         useLine(line, target);
@@ -132,6 +134,12 @@ void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
         [&](const core::ImgHolder& holder) { drawImage(target, holder, holder.viewImage, dx, dy); });
     objects.clipPic.forEach(
         [&](const core::ClipPic& clip) { drawImage(target, clip, clip.clipImage, dx, dy); });
+}
+
+void drawObjects(App& app, DrawTarget& target, float dx, float dy) {
+    target.bOneSheet = true; // a record stands on one sheet, as its preview does on one page
+    drawTexts(app.document, app.document.layout, target, dx, dy);
+    drawShapes(app, app.document.layout, target, dx, dy);
 }
 
 } // namespace print

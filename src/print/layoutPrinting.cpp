@@ -6,6 +6,7 @@
 #include "core/runTimeError.h"
 #include "entry/retrieveData.h"
 #include "layout/sheet.h"
+#include "print/labelPrinting.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
 #include "print/progress.h"
@@ -37,32 +38,6 @@ Margins layoutMargins(const core::Document& document, const DrawTarget& target) 
     const auto twips = [](float inches) { return static_cast<float>(marginTwips(inches)); };
     return {twips(options.layoutLeftMargin), target.Width - twips(options.layoutRightMargin),
             twips(options.layoutTopMargin), target.Height - twips(options.layoutBottomMargin)};
-}
-
-// The room that one layout takes, from the margins' corner.
-struct LayoutExtent {
-    float maxWidth = 0, maxHeight = 0;
-};
-
-// Fields and all other objects are measured by two tests, so that a later object can make the layout
-// narrower again. It is wanted so.
-LayoutExtent layoutExtent(const core::LayoutObjects& objects, float iLeft, float iTop) {
-    LayoutExtent extent;
-    const auto measure = [&](const core::LayoutObject& object, float takenOff) {
-        if (object.Left - takenOff + object.Width >= extent.maxWidth)
-            extent.maxWidth = object.Left - iLeft + object.Width;
-        if (object.Top - iTop + object.Height >= extent.maxHeight)
-            extent.maxHeight = object.Top - iTop + object.Height;
-    };
-    const auto measureOther = [&](const core::LayoutObject& object) { measure(object, 0); };
-    objects.layoutField.forEach([&](const core::LayoutObject& field) { measure(field, iLeft); });
-    objects.tLabel.forEach(measureOther);
-    objects.pbLine.forEach(measureOther);
-    objects.vLine.forEach(measureOther);
-    objects.pBox.forEach(measureOther);
-    objects.imgHolder.forEach(measureOther);
-    objects.clipPic.forEach(measureOther);
-    return extent;
 }
 
 std::int16_t howMany(float room, float each) {
@@ -198,6 +173,27 @@ bool LayoutGrid::print() {
 
 } // namespace
 
+// Fields and all other objects are measured by two tests, so that a later object can make the layout
+// narrower again. It is wanted so.
+LayoutExtent layoutExtent(const core::LayoutObjects& objects, float iLeft, float iTop) {
+    LayoutExtent extent;
+    const auto measure = [&](const core::LayoutObject& object, float takenOff) {
+        if (object.Left - takenOff + object.Width >= extent.maxWidth)
+            extent.maxWidth = object.Left - iLeft + object.Width;
+        if (object.Top - iTop + object.Height >= extent.maxHeight)
+            extent.maxHeight = object.Top - iTop + object.Height;
+    };
+    const auto measureOther = [&](const core::LayoutObject& object) { measure(object, 0); };
+    objects.layoutField.forEach([&](const core::LayoutObject& field) { measure(field, iLeft); });
+    objects.tLabel.forEach(measureOther);
+    objects.pbLine.forEach(measureOther);
+    objects.vLine.forEach(measureOther);
+    objects.pBox.forEach(measureOther);
+    objects.imgHolder.forEach(measureOther);
+    objects.clipPic.forEach(measureOther);
+    return extent;
+}
+
 void showRecordOf(App& app, RecordsList& list, int row) {
     if (row >= 1 && row <= list.count()) {
         core::Item& item = list.at(row);
@@ -223,6 +219,7 @@ void PrintLayout(App& app, DrawTarget& target) {
 }
 
 bool PrintMultipleLayouts(App& app, DrawTarget& target) {
+    if (const auto choice = labelChoice(app)) return printLabels(app, target, *choice);
     return LayoutGrid(app, target).print();
 }
 

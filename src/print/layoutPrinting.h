@@ -17,8 +17,19 @@ bool PrintMultipleLayouts(app::App& app, drawing::DrawTarget& target);
 // all rows at each of many records would take long, so callers do that once.
 void showRecordOf(app::App& app, core::RecordsList& list, int row);
 
+// The room that one of many layouts takes, from the margins' corner.
+struct LayoutExtent {
+    float maxWidth = 0, maxHeight = 0;
+};
+LayoutExtent layoutExtent(const core::LayoutObjects& objects, float iLeft, float iTop);
+
 // The layout's objects at their places, moved by so much.
 void drawObjects(app::App& app, drawing::DrawTarget& target, float dx, float dy);
+// The same of any objects: the texts, and all but the texts.
+void drawTexts(const core::Document& document, const core::LayoutObjects& objects,
+               drawing::DrawTarget& target, float dx, float dy);
+void drawShapes(const app::App& app, const core::LayoutObjects& objects, drawing::DrawTarget& target,
+                float dx, float dy);
 
 void copyObjectFont(const core::ObjectFont& object, std::int32_t ForeColor, drawing::DrawTarget& target);
 void printInBoxRight(std::string_view text, float width, drawing::DrawTarget& target, float x);

@@ -2,6 +2,7 @@
 #include "print/previewPage.h"
 
 #include "calc/selectedTotals.h"
+#include "print/labelPrinting.h"
 #include "print/layoutPrinting.h"
 #include "print/printerCheck.h"
 #include "print/reportPrinting.h"
@@ -47,6 +48,7 @@ void placeRecord(App& app, std::string_view key) {
 }
 
 void placeLayouts(App& app, std::string_view key) {
+    if (placeLabels(app, key)) return;
     PreviewPage& page = previewPage(app);
     const int records = app.document.LV.count() - 1;
     int& iLayoutIndex = page.iLayoutIndex;

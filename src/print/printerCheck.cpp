@@ -12,7 +12,8 @@ bool underPrinterTrap(app::App& app, const std::function<void()>& part) {
     try {
         part();
         return true;
-    } catch (const core::RunTimeError&) {
+    } catch (const core::RunTimeError& error) {
+        if (error.number == core::errors::cancelled) return false; // by the user, who needs no word of it
         app.platform.msgBox("You need to first install a printer on this system.",
                             platform::Icon::Information, "Printer Not Installed");
         return false;

@@ -15,6 +15,7 @@
 #include "search/serialCheckFrm.h"
 #include "search/setValuesFrm.h"
 #include "shell/clipboardCommands.h"
+#include "shell/labelTable.h"
 #include "shell/listCommands.h"
 #include "shell/looks.h"
 #include "shell/mainWindow.h"
@@ -139,6 +140,7 @@ std::vector<Command> fileCommands() {
         {"mnuSaveSearch", "Save Search &Results As...", "", "saveSearch", false, saveSearch},
         {"mnuPrint", "&Print", "", "print", false, pressing("Print")},
         {"mnuPageSetup", "Page Setup", "", "pageSetup", false, pressing("PageSetup")},
+        {"mnuLabels", "La&bel Wizard...", "", "labels", false, labelWizard, canExportTable},
         {"mnuCleanDatabase", "&Clean Database", "", "clean", false, storage::mnuCleanDatabase_Click},
         {"mnuImportTable", "&Import...", "", "import", false, importTable},
         {"mnuExportTable", "Expor&t...", "", "export", false, exportTable, canExportTable},
@@ -286,6 +288,7 @@ std::span<const Menu> menuBar() {
           "-",
           "mnuPrint",
           "mnuPageSetup",
+          "mnuLabels",
           "-",
           "mnuCleanDatabase",
           "-",

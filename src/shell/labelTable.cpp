@@ -2,7 +2,12 @@
 
 #include "core/runTimeError.h"
 #include "file/fileHandle.h"
+#include "lock/designLock.h"
 #include "platform/programFiles.h"
+#include "print/labelFrm.h"
+#include "print/printCommands.h"
+#include "print/printerCheck.h"
+#include "shell/mainWindow.h"
 
 namespace shell {
 
@@ -13,6 +18,29 @@ std::vector<print::LabelStock> installedLabelStocks() {
     const auto text = file::readSmallFile(*table, maxBytes);
     if (!text) core::raise(core::errors::badFileFormat, table->string());
     return print::readLabelStocks(*text);
+}
+
+// What is typed on the page is left as a click on another tab leaves it, since the label may take its place.
+void labelWizard(app::App& app) {
+    if (lock::isDesignLocked(app) || !print::hasPrinter(app)) return;
+    if (app.document.bInvoiceStyle) {
+        app::inform(app,
+                    "Labels are made of the records of a list.  Invoices print one to a page: use Print on "
+                    "the Layout tab.");
+        return;
+    }
+    if (app.mainFrm.SSTab1 != app::reportTab) SSTab1_Click(app, app::reportTab);
+    if (app.mainFrm.SSTab1 != app::reportTab) return;
+    auto& opening = app.rooms.of<print::LabelOpening>();
+    if (opening.stocks.empty()) {
+        try {
+            opening.stocks = installedLabelStocks();
+        } catch (const core::RunTimeError& error) {
+            app::warn(app, std::string("The table of label sheets cannot be read: ") + error.what());
+        }
+    }
+    app.platform.showForm("labelFrm");
+    if (opening.bFinished) print::Toolbar_ButtonMenuClick(app, "Multiple_Layout_Preview_All");
 }
 
 } // namespace shell

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/app.h"
 #include "print/labelStocks.h"
 
 namespace shell {
@@ -7,5 +8,8 @@ namespace shell {
 // The stocks of the table that the program comes with. None when it is not there, as when only the program
 // itself was copied. Raises when it cannot be read.
 std::vector<print::LabelStock> installedLabelStocks();
+
+// "Label Wizard", and the preview of what it has made.
+void labelWizard(app::App& app);
 
 } // namespace shell

@@ -54,6 +54,7 @@ std::string_view nameOfCommand(std::string_view key) {
         {"mnuVersions", "Restore Version"},
         {"mnuSerialAdjust", "Adjust Serial Number"},
         {"mnuCleanDatabase", "Clean Database"},
+        {"mnuLabels", "Label Wizard"},
     }};
     const auto* found = std::ranges::find(names, key, [](const auto& name) { return name[0]; });
     return found == names.end() ? std::string_view() : (*found)[1];

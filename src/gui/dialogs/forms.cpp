@@ -20,6 +20,7 @@
 #include "gui/dialogs/setValuesFrmView.h"
 #include "gui/dialogs/totalsFrmView.h"
 #include "gui/dialogs/versionsFrmView.h"
+#include "gui/labels/labelFrmView.h"
 #include "gui/summary/statisticsFrmView.h"
 #include "gui/tables/exportFrmView.h"
 #include "gui/tables/importFrmView.h"
@@ -55,6 +56,7 @@ void registerForms(QtPlatform& platform, app::App& app, EventBoundary& events) {
     platform.registerForm("replaceFrm", [&](QWidget* owner) { replaceFrmView(app, events, owner).exec(); });
     platform.registerForm("searchFrm", [&](QWidget* owner) { searchFrmView(app, events, owner).exec(); });
     platform.registerForm("versionsFrm", shown<versionsFrmView>(app, events));
+    platform.registerForm("labelFrm", shown<labelFrmView>(app, events));
     platform.registerForm("serialFrm", shown<serialFrmView>(app, events));
     platform.registerForm("setValuesFrm", shown<setValuesFrmView>(app, events));
     platform.registerForm("makeCodeFrm", shown<makeCodeFrmView>(app, events));

@@ -1,0 +1,256 @@
+#include "print/labelPrinting.h"
+
+#include "app/longWork.h"
+#include "core/number.h"
+#include "core/text.h"
+#include "layout/sheet.h"
+#include "print/layoutPrinting.h"
+#include "print/margins.h"
+#include "print/previewNavigation.h"
+#include "print/previewPage.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace print {
+
+using app::App;
+using drawing::DrawTarget;
+
+namespace {
+
+// Nothing for what asks for no label.
+int copiesIn(const core::Item& record, const core::Column* column, const LabelChoice& choice, int& cut) {
+    if (choice.copiesColumn.empty()) return choice.copies;
+    if (column == nullptr) return 0;
+    const double wanted = core::val(core::trim(core::RecordsList::cell(record, *column).view()));
+    if (!(wanted >= 1)) return 0; // written so that what is no number is none
+    if (wanted <= LabelChoice::mostCopies) return static_cast<int>(wanted);
+    ++cut;
+    return LabelChoice::mostCopies;
+}
+
+void appendCount(std::string& text, long count, std::string_view one, std::string_view many) {
+    text.append(std::to_string(count)).append(" ").append(count == 1 ? one : many);
+}
+
+// One run of printLabels.
+class LabelRun {
+public:
+    LabelRun(App& app, DrawTarget& target, const LabelChoice& choice)
+        : app_(app), target_(target), choice_(choice), list_(*app.mainFrm.theListView),
+          copies_(countLabels(app, choice, previewPage(app).bLayoutSelectedOnly)) {}
+
+    bool print();
+
+private:
+    void usePaper();
+    bool tellWhetherPossible();
+    void printSheet(app::LongWork* work);
+    void printPlace(long label, int place);
+    void drawGuides();
+
+    App& app_;
+    DrawTarget& target_;
+    const LabelChoice& choice_;
+    core::RecordsList& list_;
+    LabelCopies copies_;
+    float left_ = 0, top_ = 0; // the margins' corner, where the designed label has its own
+    int shown_ = 0;            // the row whose record the layout holds
+};
+
+void LabelRun::usePaper() {
+    const core::LayoutOptions& options = app_.document.layoutOptions;
+    const drawing::Extent extent = layout::pageExtent(app_);
+    usePage(app_, target_, {options.layoutPaperSize, options.layoutOrientation, extent.Width, extent.Height});
+    left_ = static_cast<float>(core::toInt32(options.layoutLeftMargin * twipsPerInch));
+    top_ = static_cast<float>(core::toInt32(options.layoutTopMargin * twipsPerInch));
+    PreviewPage& page = previewPage(app_);
+    page.iLayoutCols = core::toInt16(choice_.stock.columns);
+    page.iLayoutRows = core::toInt16(choice_.stock.rows);
+    page.iLayoutsPerPage = core::toInt16(choice_.stock.perSheet());
+}
+
+bool LabelRun::tellWhetherPossible() {
+    if (copies_.labels() == 0) {
+        app::inform(app_, choice_.copiesColumn.empty()
+                              ? "There are no records to print on labels."
+                              : "There is nothing to print: no record has a number of copies above 0 in the "
+                                "column that says how many.");
+        return false;
+    }
+    if (copies_.labels() <= LabelChoice::mostLabels) return true;
+    std::string text = "That would be ";
+    text.append(std::to_string(copies_.labels())).append(" labels.  At most ");
+    text.append(std::to_string(LabelChoice::mostLabels))
+        .append(" are printed at a time.  Select fewer records.");
+    app::inform(app_, text);
+    return false;
+}
+
+void LabelRun::printPlace(long label, int place) {
+    const auto at = std::ranges::upper_bound(copies_.ends, label) - copies_.ends.begin();
+    const int row = copies_.rows[static_cast<std::size_t>(at)];
+    if (row != shown_) showRecordOf(app_, list_, row);
+    shown_ = row;
+    const LabelStock::Position corner = choice_.stock.position(place);
+    const float left = static_cast<float>(corner.left), top = static_cast<float>(corner.top);
+    drawLabel(app_, app_.document.layout, target_, left - left_, top - top_, choice_.bClosedUp,
+              left + static_cast<float>(choice_.stock.width));
+}
+
+// The page that iLayoutIndex stands on, and moves it on to the next.
+void LabelRun::printSheet(app::LongWork* work) {
+    int& iLayoutIndex = previewPage(app_).iLayoutIndex;
+    const int perSheet = choice_.stock.perSheet(), used = choice_.start - 1;
+    const int all = labelSheets(choice_, copies_) * perSheet;
+    const int first = iLayoutIndex >= all ? 0 : std::max(iLayoutIndex, 0) / perSheet * perSheet;
+    iLayoutIndex = first + perSheet;
+    if (choice_.bOutlines)
+        for (int place = 1; place <= perSheet; ++place) {
+            const LabelStock::Position corner = choice_.stock.position(place);
+            drawOutline(choice_.stock, target_, static_cast<float>(corner.left),
+                        static_cast<float>(corner.top));
+        }
+    for (int place = 1; place <= perSheet; ++place) {
+        const long label = static_cast<long>(first) + place - 1 - used; // from 0
+        if (label < 0) continue;
+        if (label >= copies_.labels()) break;
+        printPlace(label, place);
+        if (work != nullptr) work->reached(static_cast<int>(label));
+    }
+}
+
+// Where the labels are, on the screen alone.
+void LabelRun::drawGuides() {
+    const LabelStock& stock = choice_.stock;
+    const LabelStock::Position last = stock.position(stock.perSheet());
+    drawMarginGuides(target_, {static_cast<float>(stock.left), static_cast<float>(last.left + stock.width),
+                               static_cast<float>(stock.top), static_cast<float>(last.top + stock.height)});
+}
+
+bool LabelRun::print() {
+    usePaper();
+    if (!list_.MultiSelect) list_.clearSelection();
+    if (!tellWhetherPossible()) {
+        if (!target_.isPrinter()) drawGuides();
+        return false;
+    }
+    target_.bOneSheet = true;
+    if (target_.isPrinter()) {
+        app::LongWork work(app_, "Printing labels", static_cast<int>(copies_.labels()));
+        const int sheets = labelSheets(choice_, copies_);
+        for (int sheet = 1; sheet <= sheets; ++sheet) {
+            if (sheet > 1) target_.NewPage();
+            printSheet(&work);
+        }
+        target_.EndDoc();
+    } else {
+        printSheet(nullptr);
+        drawGuides();
+    }
+    if (previewPage(app_).bLayoutSelectedOnly) {
+        list_.MultiSelect = true;
+        for (const int row : app_.mainFrm.selectedRows)
+            if (row <= list_.count()) list_.setSelectedItem(&list_.at(row));
+    }
+    return true;
+}
+
+} // namespace
+
+LabelCopies countLabels(const App& app, const LabelChoice& choice, bool bSelectedOnly) {
+    LabelCopies copies;
+    const core::RecordsList& list = *app.mainFrm.theListView;
+    const core::Column* column = app.document.LV.columns.find(choice.copiesColumn);
+    const auto add = [&](int row, const core::Item& record) {
+        if (record.isTotals()) return;
+        const int labels = copiesIn(record, column, choice, copies.cut);
+        if (labels == 0) {
+            ++copies.without;
+            return;
+        }
+        copies.rows.push_back(row);
+        copies.ends.push_back(copies.labels() + labels);
+    };
+    if (bSelectedOnly) {
+        for (const int row : app.mainFrm.selectedRows)
+            if (row >= 1 && row <= list.count()) add(row, list.at(row));
+    } else {
+        int row = 0;
+        list.forEach([&](const core::Item& record) { add(++row, record); });
+    }
+    return copies;
+}
+
+int labelSheets(const LabelChoice& choice, const LabelCopies& copies) {
+    const long perSheet = std::max(choice.stock.perSheet(), 1);
+    return static_cast<int>((choice.start - 1 + copies.labels() + perSheet - 1) / perSheet);
+}
+
+std::string aboutLabels(const LabelChoice& choice, const LabelCopies& copies) {
+    std::string text;
+    appendCount(text, copies.labels(), "label", "labels");
+    if (copies.labels() > LabelChoice::mostLabels)
+        return text.append(": too many to print at a time, which are ")
+            .append(std::to_string(LabelChoice::mostLabels))
+            .append(" at most.");
+    text.append(" on ");
+    appendCount(text, labelSheets(choice, copies), "sheet.", "sheets.");
+    if (copies.without > 0) {
+        text.append("  ");
+        appendCount(text, copies.without, "record has", "records have");
+        text.append(" no number above 0 there: no label.");
+    }
+    if (copies.cut > 0) {
+        text.append("  ");
+        appendCount(text, copies.cut, "record asks", "records ask");
+        text.append(" for more than ")
+            .append(std::to_string(LabelChoice::mostCopies))
+            .append(", which is the most.");
+    }
+    return text;
+}
+
+bool printLabels(App& app, DrawTarget& target, const LabelChoice& choice) {
+    return LabelRun(app, target, choice).print();
+}
+
+bool placeLabels(App& app, std::string_view key) {
+    const auto choice = labelChoice(app);
+    if (!choice) return false;
+    PreviewPage& page = previewPage(app);
+    const LabelCopies copies = countLabels(app, *choice, page.bLayoutSelectedOnly);
+    const int perSheet = choice->stock.perSheet(), all = labelSheets(*choice, copies) * perSheet;
+    int& iLayoutIndex = page.iLayoutIndex;
+    if (key == "First" || (key == "Next" && iLayoutIndex >= all)) iLayoutIndex = 0;
+    if (key == "Back") iLayoutIndex = std::max(iLayoutIndex - 2 * perSheet, 0);
+    if (key == "Last") iLayoutIndex = std::max(all - perSheet, 0);
+    app.mainFrm.theListView->MultiSelect = false;
+    return true;
+}
+
+void drawOutline(const LabelStock& stock, DrawTarget& target, float left, float top) {
+    constexpr std::int32_t grey = 0x808080;
+    target.ForeColor = grey;
+    target.DrawWidth = 1;
+    target.DrawStyle = drawing::LineStyle::Solid;
+    const float width = static_cast<float>(stock.width), height = static_cast<float>(stock.height);
+    if (stock.shape == LabelShape::Rectangle || stock.shape == LabelShape::Rounded) {
+        target.Rectangle(left, top, width, height);
+        return;
+    }
+    constexpr int corners = 72; // looks round on paper
+    for (int i = 0; i < corners; ++i) {
+        const auto at = [&](int corner) {
+            const float angle = 2 * std::numbers::pi_v<float> * static_cast<float>(corner) / corners;
+            return std::pair(left + width / 2 * (1 + std::cos(angle)),
+                             top + height / 2 * (1 + std::sin(angle)));
+        };
+        const auto from = at(i), to = at(i + 1);
+        target.Line(from.first, from.second, to.first, to.second);
+    }
+}
+
+} // namespace print
