@@ -31,6 +31,8 @@ private:
     QScrollBar* makeScrollBar(Qt::Orientation orientation);
     static void show(QScrollBar& bar, const print::PreviewPage::ScrollBar& state, float visible);
     void portResized();
+    void turnPage(bool forward);
+    void goToEnd(bool last);
     void tellPortSize();
     struct Fitted {
         qreal zoom;
@@ -42,6 +44,7 @@ private:
     app::App& app_;
     EventBoundary& events_;
     QLabel* percent_ = nullptr; // made with the toolbar, so ahead of it
+    QLabel* place_ = nullptr;
     QToolBar* reportToolbar_;
     PreviewPort* port_;
     EmptyHint* hint_;
