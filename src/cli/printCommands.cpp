@@ -166,10 +166,19 @@ void addOutputOption(CLI::App& command, std::string& output) {
 }
 
 void addPaperOption(CLI::App& command, std::string& paper) {
-    std::vector<std::string> names;
-    for (const drawing::PaperSize& each : drawing::papers()) names.emplace_back(each.name);
+    const auto whyNot = [](const std::string& name) {
+        std::string reason;
+        if (drawing::findPaper(std::string_view(name)) != nullptr) return reason;
+        reason.append("\"").append(name).append("\" is none of the papers");
+        char separator = ':';
+        for (const drawing::PaperSize& each : drawing::papers()) {
+            reason.append(1, separator).append(1, ' ').append(each.name);
+            separator = ',';
+        }
+        return reason;
+    };
     command.add_option("--paper", paper, "The paper in place of the database's: A4, A5, Letter, Legal ...")
-        ->check(CLI::IsMember(names, CLI::ignore_case))
+        ->check(whyNot)
         ->type_name("NAME");
 }
 

@@ -7,11 +7,11 @@
 
 namespace print {
 
-// Which page or record the preview shows, among how many; number 0 where it has nothing to count.
+// Which page or record the preview shows, among how many; number 0 where nobody has counted.
 struct PreviewPlace {
     bool isRecord = false; // a layout's; otherwise a page
     int number = 0, of = 0;
-    bool isFirst = true, isLast = true;
+    bool isFirst = false, isLast = false;
 };
 
 // The preview tab: the page in its port, and how far reports and layouts have come. Lengths in twips.

@@ -60,6 +60,10 @@ void noteLayoutsPage(App& app, int before, int available) {
     page.place = pageAt(before, available, page.iLayoutsPerPage, page.iLayoutIndex >= available);
 }
 
+void notePage(App& app, int number, int of) {
+    previewPage(app).place = {false, number, of, number <= 1, number >= of};
+}
+
 std::string previewPlaceText(const App& app) {
     const PreviewPage& page = previewPage(app);
     if (!page.Visible || page.place.number < 1) return {};

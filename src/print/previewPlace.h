@@ -9,6 +9,7 @@ namespace print {
 // Note which page or record has been drawn on the preview, when it is there.
 void noteReportPage(app::App& app, const core::RecordsList& list);
 void noteRecord(app::App& app);
+void notePage(app::App& app, int number, int of);
 // With the layouts drawn before this page, and those there are to draw.
 void noteLayoutsPage(app::App& app, int before, int available);
 
