@@ -52,7 +52,7 @@ _fwk() {
     for ((i = 1; i < COMP_CWORD; ++i)); do
         word=${COMP_WORDS[i]}
         case $word in
-        -o | --output | --columns | --by | --group-by | --expression | --column | --title | --records | --from | --kind | --where | --filter | --wait | --dates | --decimal | --encoding | --separator | --quotes | --format | --sheet | --sum | --mean | --min | --max | --top) option=$word taken=0 ;;
+        -o | --output | --columns | --by | --group-by | --expression | --column | --title | --records | --from | --kind | --where | --filter | --wait | --dates | --decimal | --encoding | --separator | --quotes | --format | --sheet | --sum | --mean | --min | --max | --top | --paper) option=$word taken=0 ;;
         -*) option="" ;;
         *)
             if [[ -n $option ]]; then
@@ -101,6 +101,7 @@ _fwk() {
     --kind:*) _fwk_offer < <(printf '%s\n' qr ean13 ean8 upca code128 datamatrix); return ;;
     --dates:*) _fwk_offer < <(printf '%s\n' dmy mdy ymd); return ;;
     --format:*) _fwk_offer < <(printf '%s\n' csv tsv xlsx ods json sqlite html vcf); return ;;
+    --paper:*) _fwk_offer < <(printf '%s\n' A3 A4 A5 A6 Letter Legal Executive Tabloid); return ;;
     --encoding:*) _fwk_offer < <(printf '%s\n' utf-8 utf-16le utf-16be windows-1252); return ;;
     -*) return ;;
     esac

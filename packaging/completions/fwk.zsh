@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--by|--group-by|--expression|--column|--title|--records|--from|--kind|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--group-by|--expression|--column|--title|--records|--from|--kind|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top|--paper) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -68,6 +68,7 @@ _fwk() {
     (--kind:*) compadd qr ean13 ean8 upca code128 datamatrix; return ;;
     (--dates:*) compadd dmy mdy ymd; return ;;
     (--format:*) compadd csv tsv xlsx ods json sqlite html vcf; return ;;
+    (--paper:*) compadd A3 A4 A5 A6 Letter Legal Executive Tabloid; return ;;
     (--encoding:*) compadd utf-8 utf-16le utf-16be windows-1252; return ;;
     (-*) return ;;
     esac

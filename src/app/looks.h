@@ -10,6 +10,7 @@ enum class Fit { None, Page, Width };
 struct Looks {
     int listZoom = 100, layoutZoom = 100, previewZoom = 100; // per cent
     Fit previewFit = Fit::None; // while it fits, the preview keeps previewZoom up to date
+    bool bOpenPdf = false;      // a PDF is opened when it has been made
     bool bFreezeColumn = false; // the first column stays where it is when the list scrolls sideways
 };
 

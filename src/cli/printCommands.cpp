@@ -7,6 +7,7 @@
 #include "cli/reportOptions.h"
 #include "cli/session.h"
 #include "core/text.h"
+#include "drawing/papers.h"
 #include "print/layoutPrinting.h"
 #include "print/previewPage.h"
 #include "print/reportPrinting.h"
@@ -14,6 +15,7 @@
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
+#include <iostream>
 #include <memory>
 
 namespace cli {
@@ -31,6 +33,7 @@ struct PrintOptions {
     bool many = false;
     std::string records; // "i1,i2"; empty: all
     ReportOptions report;
+    std::string paper;   // a name; empty: that of the database
 };
 
 } // namespace
@@ -79,10 +82,21 @@ void chooseColumns(Session& session, const PrintOptions& options) {
         if (column.Index != 1) printed.add(column.Text);
 }
 
+// Prints on the named paper, as if the database had it.
+void choosePaper(Session& session, const PrintOptions& options, std::int16_t& paperSize) {
+    if (const drawing::PaperSize* paper = drawing::findPaper(std::string_view(options.paper)))
+        paperSize = static_cast<std::int16_t>(paper->code);
+    const bool isKnown = paperSize == 0 || session.platform.paperExtent(paperSize);
+    if (!isKnown)
+        std::cerr << "fwk: " << options.file << ": the paper with the code " << paperSize
+                  << " is not known: it is printed on Letter\n";
+}
+
 int printReport(const PrintOptions& options) {
     Session session(options.file);
     printInto(session, options.output, [&](app::App& app, DrawTarget& target) {
         chooseColumns(session, options);
+        choosePaper(session, options, app.document.reportData.reportPaperSize);
         if (options.hasTitle) app.document.reportData.reportTitle = options.title;
         print::previewPage(app).bReportSelectedOnly = false;
         applyReportOptions(session, options.report);
@@ -124,6 +138,9 @@ int printLayouts(const PrintOptions& options) {
         if (options.many && document.bInvoiceStyle)
             throw Failure(options.file, "invoices print one to a page only");
         if (list.count() < 2) throw Failure(options.file, "there are no records");
+        std::int16_t& paperSize = document.layoutOptions.layoutPaperSize;
+        if (!options.paper.empty() || paperSize != core::customPaper)
+            choosePaper(session, options, paperSize);
         if (options.many)
             printMany(app, target, rows);
         else
@@ -138,6 +155,23 @@ void addOutputOption(CLI::App& command, std::string& output) {
         ->type_name("OUT.pdf");
 }
 
+void addPaperOption(CLI::App& command, std::string& paper) {
+    const auto whyNot = [](const std::string& name) {
+        std::string reason;
+        if (drawing::findPaper(std::string_view(name)) != nullptr) return reason;
+        reason.append("\"").append(name).append("\" is none of the papers");
+        char separator = ':';
+        for (const drawing::PaperSize& each : drawing::papers()) {
+            reason.append(1, separator).append(1, ' ').append(each.name);
+            separator = ',';
+        }
+        return reason;
+    };
+    command.add_option("--paper", paper, "The paper in place of the database's: A4, A5, Letter, Legal ...")
+        ->check(whyNot)
+        ->type_name("NAME");
+}
+
 } // namespace
 
 Run setUpReport(CLI::App& command) {
@@ -149,6 +183,7 @@ Run setUpReport(CLI::App& command) {
         command.add_option("--title", options->title, "The title in place of the database's")
             ->type_name("TEXT");
     addReportOptions(command, options->report);
+    addPaperOption(command, options->paper);
     return [options, title] {
         options->hasTitle = title->count() > 0;
         return printReport(*options);
@@ -162,6 +197,7 @@ Run setUpLayouts(CLI::App& command) {
     command.add_flag("--many", options->many, "As many to a page as fit");
     command.add_option("--records", options->records, "Only the records with these keys")
         ->type_name("KEY,KEY");
+    addPaperOption(command, options->paper);
     return [options] { return printLayouts(*options); };
 }
 

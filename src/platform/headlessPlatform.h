@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/printer.h"
+#include "platform/localePaper.h"
 #include "platform/platform.h"
 #include "platform/settingsFile.h"
 #include "platform/workFolder.h"
@@ -49,6 +50,7 @@ public:
     void openLink(const std::string&) override {}
     void setClipboard(const ClipboardData&) override {}
     ClipboardData clipboard() override { return {}; }
+    int localePaper() override { return platform::localePaper(); }
     std::string printerDeviceName() override { return printer().DeviceName(); }
     drawing::TextMetrics& textMetrics() override { return printer().textMetrics(); }
     std::unique_ptr<drawing::DrawTarget> openPrinter(const std::string& documentName) override {

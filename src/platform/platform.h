@@ -36,6 +36,8 @@ constexpr std::string_view databaseFilter = "Database (*.fwk)|*.fwk|All Files (*
 struct PaperName {
     std::string name;
     int code = 0;
+    // Upright, of a paper that is known by no code but that of custom sizes; empty for all others.
+    drawing::Extent size = {};
 };
 
 // What the print dialog was left with.
@@ -121,6 +123,8 @@ public:
     virtual std::optional<drawing::Extent> paperExtent(int code);
     // In the printer's own order; these are those of the built-in printer.
     virtual std::vector<PaperName> printerPapers();
+    // The code of the paper that is usual where the user lives, for a new database. Letter where nobody asks.
+    virtual int localePaper() { return 1; }
     // Chooses printer, copies and paper for what is printed next. Nothing when the user cancelled.
     virtual std::optional<PrintChoice> showPrinterDialog(const PrintChoice&) { return std::nullopt; }
     // The printer, for the jobs of one command. nullptr when the user was asked for a file and cancelled.

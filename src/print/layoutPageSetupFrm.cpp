@@ -5,18 +5,33 @@
 #include "core/runTimeError.h"
 #include "layout/sheet.h"
 #include "print/layoutPrinting.h"
+#include "print/margins.h"
+#include "print/paperChoice.h"
 #include "print/previewNavigation.h"
 #include "print/printerCheck.h"
 
+#include <cmath>
 #include <set>
 
 namespace print {
 
+namespace {
+
+bool areLengthsOf(const core::LayoutOptions& options, const drawing::Extent& size) {
+    constexpr double near = 0.02; // inches; printers tell sizes in points
+    const auto same = [](float inches, long twips) {
+        return std::abs(static_cast<double>(inches) - static_cast<double>(twips) / twipsPerInch) < near;
+    };
+    return same(options.customPaperLength, size.Width) && same(options.customPaperHeight, size.Height);
+}
+
+} // namespace
+
 layoutPageSetupFrm::layoutPageSetupFrm(app::App& app) : app_(app) {
     loadPaperList();
     const core::LayoutOptions& options = app.document.layoutOptions;
-    for (std::size_t row = 0; row < paperList.ListItems.size() && !paperList.SelectedItem; ++row)
-        if (core::val(paperList.ListItems[row].Tag) == options.layoutPaperSize) paperList.SelectedItem = row;
+    chooseRowOf(options);
+    if (!paperList.SelectedItem) paperNotice = print::paperNotice(app.platform, options.layoutPaperSize);
     showCustomFrame();
     PortraitOpt = options.layoutOrientation == core::portrait;
     leftTxt = core::numberText(options.layoutLeftMargin);
@@ -30,15 +45,29 @@ layoutPageSetupFrm::layoutPageSetupFrm(app::App& app) : app_(app) {
 
 void layoutPageSetupFrm::loadPaperList() {
     std::set<std::string> names;
-    for (const platform::PaperName& paper : app_.platform.printerPapers()) {
+    for (const platform::PaperName& paper : allPapers(app_.platform)) {
         if (!names.insert(paper.name).second) core::raise(core::errors::keyNotUnique, paper.name);
-        paperList.ListItems.push_back({paper.name, std::to_string(paper.code)});
+        paperList.ListItems.push_back({paper.name, std::to_string(paper.code), paper.size});
+    }
+}
+
+// Custom lengths may be those of a size of the printer.
+void layoutPageSetupFrm::chooseRowOf(const core::LayoutOptions& options) {
+    for (std::size_t at = 0; at < paperList.ListItems.size(); ++at) {
+        const PaperList::Row& row = paperList.ListItems[at];
+        if (core::val(row.Tag) != options.layoutPaperSize) continue;
+        const bool isSized = row.size.Width != 0;
+        if (isSized && !areLengthsOf(options, row.size)) continue;
+        if (isSized || !paperList.SelectedItem) paperList.SelectedItem = at;
+        if (isSized) return;
     }
 }
 
 void layoutPageSetupFrm::showCustomFrame() {
-    customFrm.Visible = paperList.SelectedItem &&
-                        core::val(paperList.ListItems[*paperList.SelectedItem].Tag) == core::customPaper;
+    customFrm.Visible = false;
+    if (!paperList.SelectedItem) return;
+    const PaperList::Row& row = paperList.ListItems[*paperList.SelectedItem];
+    customFrm.Visible = row.size.Width == 0 && core::val(row.Tag) == core::customPaper;
 }
 
 void layoutPageSetupFrm::paperList_ItemClick(std::size_t row) {
@@ -69,9 +98,12 @@ void layoutPageSetupFrm::saveSettings() {
     options.layoutSpacing = static_cast<float>(*spacing);
     options.layoutOrientation = PortraitOpt ? core::portrait : core::landscape;
     // A list with nothing chosen stands on its first row.
-    if (!paperList.ListItems.empty())
-        options.layoutPaperSize =
-            core::toInt16(core::val(paperList.ListItems[paperList.SelectedItem.value_or(0)].Tag));
+    if (paperList.ListItems.empty()) return;
+    const PaperList::Row& row = paperList.ListItems[paperList.SelectedItem.value_or(0)];
+    options.layoutPaperSize = core::toInt16(core::val(row.Tag));
+    if (row.size.Width == 0 || areLengthsOf(options, row.size)) return;
+    options.customPaperLength = static_cast<float>(static_cast<double>(row.size.Width) / twipsPerInch);
+    options.customPaperHeight = static_cast<float>(static_cast<double>(row.size.Height) / twipsPerInch);
 }
 
 // The sheet and the preview follow the new page.

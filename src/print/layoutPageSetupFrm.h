@@ -17,7 +17,8 @@ public:
     struct PaperList {
         struct Row {
             std::string Text;
-            std::string Tag; // the code
+            std::string Tag;           // the code
+            drawing::Extent size = {}; // of a printer's own size, which the database keeps as a custom one
         };
         std::vector<Row> ListItems;
         std::optional<std::size_t> SelectedItem;
@@ -29,6 +30,7 @@ public:
         bool Visible = false;
     } customFrm;
     std::string lengthTxt, heightTxt;
+    std::string paperNotice; // about the paper of the database; empty where there is nothing to say
     bool unloaded = false;
 
     void paperList_ItemClick(std::size_t row);
@@ -39,6 +41,7 @@ public:
 
 private:
     void loadPaperList();
+    void chooseRowOf(const core::LayoutOptions& options);
     void showCustomFrame();
     void saveSettings();
     void showPage();

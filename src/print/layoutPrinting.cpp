@@ -9,8 +9,10 @@
 #include "print/labelPrinting.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
+#include "print/previewPlace.h"
 #include "print/progress.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -72,6 +74,8 @@ private:
     int available() const {
         return page_.bLayoutSelectedOnly ? static_cast<int>(chosen_.size()) : app_.document.LV.count();
     }
+
+    int layouts() const;
 
     App& app_;
     PreviewPage& page_;
@@ -149,11 +153,20 @@ void LayoutGrid::restoreSelection() {
         if (row <= list_.count()) list_.setSelectedItem(&list_.at(row));
 }
 
+// Those that there are to see: the Totals row is none, and search results may be fewer than LV.
+int LayoutGrid::layouts() const {
+    if (!page_.bLayoutSelectedOnly) return std::min(available(), list_.count()) - 1;
+    int count = 0;
+    for (const int row : chosen_) count += row <= list_.count() && !list_.at(row).isTotals() ? 1 : 0;
+    return count;
+}
+
 bool LayoutGrid::print() {
     usePage(app_, target_, layoutPage(app_));
     measure();
     if (!list_.MultiSelect) list_.clearSelection();
     const bool fits = tellWhetherItFits();
+    const int before = page_.iLayoutIndex;
     {
         Progress progress(app_, available());
         for (;;) {
@@ -164,10 +177,12 @@ bool LayoutGrid::print() {
         }
     }
     if (page_.bLayoutSelectedOnly) restoreSelection();
-    if (target_.isPrinter())
+    if (target_.isPrinter()) {
         target_.EndDoc();
-    else
-        drawMarginGuides(target_, margins_);
+        return fits;
+    }
+    noteLayoutsPage(app_, before, layouts());
+    drawMarginGuides(target_, margins_);
     return fits;
 }
 
@@ -212,10 +227,12 @@ void PrintLayout(App& app, DrawTarget& target) {
     usePage(app, target, layoutPage(app));
     const Margins margins = layoutMargins(app.document, target);
     drawObjects(app, target, 0, 0);
-    if (target.isPrinter())
+    if (target.isPrinter()) {
         target.EndDoc();
-    else
-        drawMarginGuides(target, margins);
+        return;
+    }
+    noteRecord(app);
+    drawMarginGuides(target, margins);
 }
 
 bool PrintMultipleLayouts(App& app, DrawTarget& target) {

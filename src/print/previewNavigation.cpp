@@ -71,6 +71,7 @@ void usePage(App& app, drawing::DrawTarget& target, const drawing::PageSetup& se
     target.setPage(setup);
     if (target.isPrinter()) return;
     previewPage(app).Visible = true;
+    previewPage(app).place = {};
     InitReportPreview(app);
 }
 

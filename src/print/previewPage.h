@@ -7,11 +7,19 @@
 
 namespace print {
 
+// Which page or record the preview shows, among how many; number 0 where nobody has counted.
+struct PreviewPlace {
+    bool isRecord = false; // a layout's; otherwise a page
+    int number = 0, of = 0;
+    bool isFirst = false, isLast = false;
+};
+
 // The preview tab: the page in its port, and how far reports and layouts have come. Lengths in twips.
 struct PreviewPage {
     drawing::RecordedPage rptPreview1; // the page
     float Left = 0, Top = 0;           // of the page, in the port
     bool Visible = false;
+    PreviewPlace place; // of what is drawn on it
 
     struct Port {
         float Width = 0, Height = 0;

@@ -19,7 +19,8 @@ float inches(const std::string& text) {
 
 } // namespace
 
-reportPageSetup::reportPageSetup(app::App& app) : app_(app) {
+reportPageSetup::reportPageSetup(app::App& app)
+    : otherPapers(papersBesideTheOptions(app.platform, app.document.reportData.reportPaperSize)), app_(app) {
     const core::Document& document = app.document;
     const core::RecordsList& list = document.bInvoiceStyle ? document.iLV : document.LV;
     for (const int index : list.columns.displayOrder()) {
@@ -58,6 +59,8 @@ void reportPageSetup::saveReportSettings() {
     core::ReportData& settings = document.reportData;
     settings.reportOrientation = PortraitOpt ? core::portrait : core::landscape;
     settings.reportPaperSize = letterOpt ? core::letterPaper : core::legalPaper;
+    if (const std::optional<int> code = otherPapers.code())
+        settings.reportPaperSize = static_cast<std::int16_t>(*code);
     settings.reportLeftMargin = inches(leftTxt);
     settings.reportRightMargin = inches(rightTxt);
     settings.reportTopMargin = inches(TopTxt);

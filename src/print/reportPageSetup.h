@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "print/paperChoice.h"
 
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ public:
     std::string titleTxt;
     bool boldYesOpt = false;  // otherwise boldNoOpt
     bool letterOpt = false;   // otherwise legalOpt
+    PaperChoice otherPapers;  // what is chosen here stands above both
     bool PortraitOpt = false; // otherwise LandscapeOpt
     std::string leftTxt, rightTxt, TopTxt, bottomTxt;
     bool unloaded = false;

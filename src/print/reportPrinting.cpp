@@ -4,6 +4,7 @@
 #include "core/number.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
+#include "print/previewPlace.h"
 #include "print/printerCheck.h"
 #include "print/progress.h"
 #include "print/reportColumns.h"
@@ -162,6 +163,7 @@ void Report::print() {
         target_.EndDoc();
         return;
     }
+    noteReportPage(app_, theList_);
     drawMarginGuides(target_, {static_cast<float>(iLeft_), target_.Width - static_cast<float>(iRight_),
                                static_cast<float>(iTop_), target_.Height - static_cast<float>(iBottom_)});
 }

@@ -78,8 +78,9 @@ struct PdfDevice {
 class PdfTarget : private PdfDevice, public PaperTarget {
 public:
     PdfTarget(const std::filesystem::path& path, const QString& title, drawing::TextMetrics& textMetrics,
-              const std::filesystem::path& database)
-        : PdfDevice(path, database), PaperTarget(writer, textMetrics, Jobs::InOneFile) {
+              const std::filesystem::path& database, std::function<void()> made)
+        : PdfDevice(path, database), PaperTarget(writer, textMetrics, Jobs::InOneFile),
+          made_(std::move(made)) {
         constexpr int dotsPerInch = 1440; // a dot is a twip
         writer.setResolution(dotsPerInch);
         writer.setTitle(title);
@@ -91,15 +92,19 @@ public:
     bool close() override {
         if (!PaperTarget::close()) return false;
         try {
-            if (hasSheets()) file.commit();
+            if (!hasSheets()) return true;
+            file.commit();
         } catch (const core::RunTimeError& error) {
             failure_ = error.what();
+            return false;
         }
-        return failure_.empty();
+        if (made_) made_();
+        return true;
     }
     std::string failure() const override { return failure_; }
 
 private:
+    std::function<void()> made_;
     std::string failure_;
 };
 
@@ -146,11 +151,10 @@ private:
 
 } // namespace
 
-std::unique_ptr<drawing::DrawTarget> openPdfFile(const std::filesystem::path& file,
-                                                 const std::string& documentName,
-                                                 drawing::TextMetrics& metrics,
-                                                 const std::filesystem::path& database) {
-    return std::make_unique<PdfTarget>(file, toQString(documentName), metrics, database);
+std::unique_ptr<drawing::DrawTarget>
+openPdfFile(const std::filesystem::path& file, const std::string& documentName, drawing::TextMetrics& metrics,
+            const std::filesystem::path& database, const std::function<void()>& made) {
+    return std::make_unique<PdfTarget>(file, toQString(documentName), metrics, database, made);
 }
 
 std::unique_ptr<drawing::Printer> makePdfPrinter(const std::filesystem::path& file,

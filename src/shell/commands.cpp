@@ -194,6 +194,7 @@ std::vector<Command> menuCommands() {
          toggling("mnuLayoutDoubleClick", &MainFrm::bLayoutDblClick)},
         {"mnuAutoLoad", "&Auto-Load Previously Opened File", "", "", true,
          toggling("mnuAutoLoad", &MainFrm::bAutoLoad)},
+        {"mnuOpenPdf", "&Open PDFs After Printing", "", "", true, toggleOpenPdf},
         {"mnuContents", "&Contents", "", "help", false, openHelp},
         {"mnuDisclaimer", "&Disclaimer", "", "disclaimer", false, showing("disclaimFrm")},
         {"mnuWebpage", "&Visit FWK Homepage", "", "home", false, visitHomepage},
@@ -320,7 +321,7 @@ std::span<const Menu> menuBar() {
         {"mnuOptions",
          "&Options",
          {"mnuConfirmDelete", "mnuSavePrompt", "-", "mnuCalcHighlight", "mnuDatabaseLock", "-",
-          "mnuLayoutDoubleClick", "mnuAutoLoad"}},
+          "mnuLayoutDoubleClick", "mnuAutoLoad", "-", "mnuOpenPdf"}},
         {"mnuHelp", "&Help", {"mnuContents", "-", "mnuDisclaimer", "mnuWebpage", "mnuAbout"}}};
     return menus;
 }

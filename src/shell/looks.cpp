@@ -98,6 +98,14 @@ void toggleFreezeColumn(App& app) {
     app.mainFrm.control("mnuFreezeColumn").Value = bFreeze;
 }
 
+// Kept at once: the machine asks for it at each print.
+void toggleOpenPdf(App& app) {
+    bool& bOpenPdf = app::looks(app).bOpenPdf;
+    bOpenPdf = !bOpenPdf;
+    app.mainFrm.control("mnuOpenPdf").Value = bOpenPdf;
+    app.platform.saveSetting("OpenPdf", bOpenPdf ? "True" : "False");
+}
+
 bool canFreezeColumn(const App& app) {
     return app.mainFrm.SSTab1Enabled && app.mainFrm.SSTab1 == app::reportTab;
 }
@@ -113,6 +121,8 @@ void readLooks(App& app) {
     looks.previewFit = fitted == "Page" ? Fit::Page : fitted == "Width" ? Fit::Width : Fit::None;
     looks.bFreezeColumn = app.platform.getSetting("FreezeColumn", "False") == "True";
     app.mainFrm.control("mnuFreezeColumn").Value = looks.bFreezeColumn;
+    looks.bOpenPdf = app.platform.getSetting("OpenPdf", "False") == "True";
+    app.mainFrm.control("mnuOpenPdf").Value = looks.bOpenPdf;
 }
 
 void writeLooks(App& app) {
@@ -122,6 +132,7 @@ void writeLooks(App& app) {
                                            : looks.previewFit == Fit::Width ? "Width"
                                                                             : "");
     app.platform.saveSetting("FreezeColumn", looks.bFreezeColumn ? "True" : "False");
+    app.platform.saveSetting("OpenPdf", looks.bOpenPdf ? "True" : "False");
 }
 
 } // namespace shell

@@ -24,6 +24,8 @@ bool canFit(const app::App& app);
 void toggleFreezeColumn(app::App& app);
 bool canFreezeColumn(const app::App& app);
 
+void toggleOpenPdf(app::App& app);
+
 // A zoom that is none, or beyond the bounds, is the normal size.
 void readLooks(app::App& app);
 void writeLooks(app::App& app);

@@ -93,10 +93,13 @@ void finishNewDatabase(App& app) {
     Document& document = app.document;
     core::addTotalsRow(document.LV);
     calc::RefreshSelectedTotals(app.document);
+    const auto paper = static_cast<std::int16_t>(app.platform.localePaper());
     document.layoutOptions = {};
+    document.layoutOptions.layoutPaperSize = paper;
     layout::unloadObjects(app);
     layout::clearGuides(app);
     document.reportData = {};
+    document.reportData.reportPaperSize = paper;
     document.iLastKey = 0;
     app.mainFrm.panels[app::stylePanel] =
         document.bInvoiceStyle ? "Database Style: Invoice" : "Database Style: Standard";

@@ -4,6 +4,20 @@
 
 using platform::Answer;
 
+// Stands for the program that shows PDFs.
+class Opener : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Opener(QStringList& opened) : opened_(opened) {}
+
+public slots:
+    void open(const QUrl& url) { opened_ << url.toLocalFile(); }
+
+private:
+    QStringList& opened_;
+};
+
 // What a user prints, and what he sees of it ahead.
 class Print : public GuiTest {
     Q_OBJECT
@@ -46,6 +60,32 @@ slide rptVScroll1 1000; slide rptHScroll1 100; look rptPreview2 -> "5" rptVScrol
 file out.pdf; click mnuPrint ->
 )");
         QCOMPARE(printed(u"games"_s), u"8 of 612 x 792, 25"_s);
+        // The keys go to the end of the page ahead of the next one, and come back to the end of the one
+        // before.
+        const auto* place = run.find<QLabel>(u"previewPlace"_s);
+        const auto* bar = run.find<QScrollBar>(u"rptVScroll1"_s);
+        const auto at = [&](const char* keys) {
+            run.act(QString::fromLatin1(keys));
+            const bool isEnd = bar->value() == bar->maximum();
+            return place->text() + (bar->value() == 0 ? u" top"_s : isEnd ? u" end"_s : QString());
+        };
+        QCOMPARE(at("focus rptPreview2; press Home"), u"Page 1 of 9 top"_s);
+        QCOMPARE(at("press PgDown 9"), u"Page 3 of 9"_s);
+        QCOMPARE(at("press PgUp 9"), u"Page 1 of 9 top"_s);
+        QCOMPARE(at("press End; press PgDown"), u"Page 9 of 9 end"_s);
+        QCOMPARE(at("click mnuFitPage; press PgUp 2"), u"Page 7 of 9 top"_s);
+    }
+
+    void aPdfIsOpenedWhenThatIsWanted() {
+        Session run(sample("books.fwk"));
+        QStringList opened;
+        Opener opener(opened);
+        QDesktopServices::setUrlHandler(u"file"_s, &opener, "open");
+        run.act(u"file out.pdf; click mnuPrint; click mnuOpenPdf"_s);
+        QFile::remove(pdf_);
+        run.act(u"click mnuPrint; click mnuOpenPdf"_s);
+        QTRY_COMPARE(opened, QStringList(pdf_));
+        QDesktopServices::unsetUrlHandler(u"file"_s);
     }
 
     void whatTheFilterFindsIsPrinted() {

@@ -1,4 +1,5 @@
 #include "print/layoutPrinting.h"
+#include "print/previewPlace.h"
 #include "printRecorder.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"
@@ -78,12 +79,12 @@ TEST_F(Layout, ThePreviewGoesThroughTheRecordsWhichCommandsPrint) {
     openRecords(0, oneField); // Totals alone
     showLayoutPreview();
     turn("First Last Next Back");
-    EXPECT_EQ(told(), "");
+    EXPECT_EQ(told() + print::previewPlaceText(app), "");
     openRecords(4, oneField);
     showLayoutPreview();
     EXPECT_EQ(turn("Next Back Back Last Next Back Next First Next"),
               "r2>0; r1>0; r1>0; r4>0; r4>0; r3>0; r4>0; r1>0; r2>0; ");
-    EXPECT_EQ(selection(), "01000");
+    EXPECT_EQ(selection() + print::previewPlaceText(app), "01000Record 2 of 4");
     for (const auto& c : table("All_As_Layouts -> r1|r2|r3|r4|.00010; Selected_As_Layouts -> r2|r4|.00010; "
                                "Print_All_As_Multiple_Layouts -> r1 r2 r3 r4|.00001; "
                                "Print_Selected_Multiple_Layouts -> r2 r4|.01011")) {
@@ -102,6 +103,7 @@ TEST_F(Layout, ThePreviewGoesThroughTheRecordsWhichCommandsPrint) {
     select({2, 3});
     run("Multiple_Layout_Preview_Selected");
     EXPECT_EQ(wordsOf(preview()) + selection(), "r2 r301100");
+    EXPECT_EQ(print::previewPlaceText(app), "Page 1 of 1");
     run("Print"); // as on show, without a dialog
     EXPECT_EQ(printed(), "r2 r3|.");
 }
@@ -133,8 +135,10 @@ TEST_F(Layout, ManyLayoutsStandInAGrid) {
                   placeOf(1440 + 356 + 2216 * (i % 4), 1440 + 508 + 1216 * (i / 4));
     EXPECT_EQ(drawnOn(preview()), wanted + "; .1440,0-1440,15840; .10800,0-10800,15840; .0,1440-12240,1440; "
                                            ".0,14400-12240,14400");
+    EXPECT_EQ(print::previewPlaceText(app), "Page 1 of 2");
     EXPECT_EQ(turn("Next Next Last Back First Next"),
               "r41..r45>46; r1..r40>40; r6..r45>45; r1..r40>40; r1..r40>40; r41..r45>46; ");
+    EXPECT_TRUE(print::previewPlaceText(app) == "Page 2 of 2" && !print::turnPreview(app, true));
     run("Print");
     EXPECT_EQ(drawnOn(sheet(0)), wanted);
     EXPECT_TRUE(printed().ends_with("r40/r41 r42 r43 r44 r45|."));

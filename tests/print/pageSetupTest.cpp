@@ -6,6 +6,7 @@
 #include "printRecorder.h"
 #include "raised.h"
 #include "shell/mainWindow.h"
+#include "table.h"
 
 namespace {
 
@@ -45,6 +46,21 @@ TEST_F(PageSetup, ReportSettingsGoIntoTheFormAndBack) {
     EXPECT_EQ(wordsOf(preview()), "New Price Name $1.50 Bolt $.25 Nut ------ ------");
     EXPECT_NE(drawnOn(preview()).find("; Price@3350,360"), std::string::npos) << drawnOn(preview());
     EXPECT_FALSE(form.unloaded);
+    // A paper that is neither of the two is shown among the others, and stays until another one is chosen.
+    platform.paperNames = {{"Letter", 1}, {"A3", 8}, {"A4 of the printer", 9}, {"Roll", 256, {1440, 2880}}};
+    for (const auto& c :
+         table("9 -> A4*,A5,A6,A3 -> 9; 0 -> A4,A5,A6,A3 -> 5; 10 -> A4,A5,A6,A3,A4 small* -> 10; "
+               "300 -> A4,A5,A6,A3,Code 300 (prints on Letter)* -> 300",
+               3)) {
+        app.document.reportData.reportPaperSize = static_cast<std::int16_t>(std::stoi(c[0]));
+        print::reportPageSetup other(app);
+        std::string names;
+        for (const platform::PaperName& paper : other.otherPapers.papers)
+            names += "," + paper.name + (other.otherPapers.code() == paper.code ? "*" : "");
+        other.ApplyBtn_Click();
+        EXPECT_EQ(names.substr(1), c[1]);
+        EXPECT_EQ(std::to_string(app.document.reportData.reportPaperSize), c[2]) << c[0];
+    }
     form.Command2_Click(); // takes nothing back
     EXPECT_TRUE(form.unloaded && app.document.reportData.reportTitle == "New");
 
@@ -105,12 +121,21 @@ TEST_F(PageSetup, LayoutSettingsGoIntoTheFormAndBack) {
     run("Multiple_Layout_Preview_All"); // the form is that of the layouts that are on show
     run("PageSetup");
     EXPECT_EQ(platform.forms, (std::vector<std::string>{"layoutPageSetupFrm", "layoutPageSetupFrm"}));
-    app.document.layoutOptions.layoutPaperSize = 5; // the printer has no such paper
+    app.document.layoutOptions.layoutPaperSize = 300; // the printer has no such paper
     print::layoutPageSetupFrm many(app);
-    EXPECT_FALSE(many.paperList.SelectedItem.has_value());
+    EXPECT_FALSE(many.paperList.SelectedItem.has_value() || many.paperNotice.empty());
     many.OKButton_Click();
     EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 9) << "the first of the list";
     EXPECT_EQ(wordsOf(preview()), "r1 r2");
+    // A size that only the printer knows is kept as a custom one, and found again; the common papers follow.
+    platform.paperNames = {{"A5", 11}, {"Custom", 256}, {"Roll", 256, {14400, 12960}}};
+    print::layoutPageSetupFrm roll(app);
+    EXPECT_EQ(std::ssize(roll.paperList.ListItems), 7);
+    roll.paperList_ItemClick(2);
+    EXPECT_FALSE(roll.customFrm.Visible);
+    roll.OKButton_Click();
+    EXPECT_EQ(section("[Layout Options").substr(0, 5) + wordsOf(preview()), "10|9|r1 r2");
+    EXPECT_EQ(print::layoutPageSetupFrm(app).paperList.SelectedItem, 2U);
     platform.paperNames = {{"A4", 9}, {"A4", 70}};
     EXPECT_NE(raisedBy([&] { print::layoutPageSetupFrm twice(app); }), 0);
 }

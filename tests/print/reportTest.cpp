@@ -1,4 +1,5 @@
 #include "calc/selectedTotals.h"
+#include "print/previewPlace.h"
 #include "print/printCommands.h"
 #include "print/reportPrinting.h"
 #include "printRecorder.h"
@@ -75,7 +76,19 @@ TEST_F(Report, ThePagesOfAPreviewHoldAllRecords) {
             EXPECT_TRUE(drawnOn(preview()).starts_with("Name      @1690,1440 ")) << "headings";
         }
         EXPECT_EQ(all, wanted) << count;
+        // The keys stop at both ends, which the buttons do not, and the pages are counted ahead.
+        turn("First");
+        const int pages = page.place.of;
+        int number = 1;
+        do {
+            EXPECT_EQ(print::previewPlaceText(app),
+                      "Page " + std::to_string(number) + " of " + std::to_string(pages));
+        } while (print::turnPreview(app, true) && ++number < 9);
+        EXPECT_EQ(number, pages) << count;
+        while (print::turnPreview(app, false)) --number;
+        EXPECT_EQ(std::pair(number, page.iReportPageStart), std::pair(1, 1)) << count;
     }
+    turn("Last");
     EXPECT_EQ(turn("Next Back Last Back Back Next First"),
               "r1..r63>64; r1..r63>64; r89..------>1; r26..r88>89; r1..r63>64; r64..r126>127; r1..r63>64; ");
 }

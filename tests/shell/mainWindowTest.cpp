@@ -102,7 +102,7 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
     EXPECT_EQ(those([](std::string_view key) { return shell::command(key).checkable; }),
               "Search Totals Design mnuFreezeColumn mnuSummary Design mnuConfirmDelete mnuSavePrompt "
               "mnuCalcHighlight "
-              "mnuLayoutDoubleClick mnuAutoLoad ");
+              "mnuLayoutDoubleClick mnuAutoLoad mnuOpenPdf ");
     const auto disabled = [&](std::string_view key) { return !shell::isCommandEnabled(app, key); };
     const std::string prints = "All_As_Layouts Selected_As_Layouts ";
     const std::string many = "Print_All_As_Multiple_Layouts Print_Selected_Multiple_Layouts "

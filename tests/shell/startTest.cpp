@@ -49,10 +49,11 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
     EXPECT_FALSE(app.mainFrm.SSTab1Enabled);
     shell::Form_QueryUnload(app);
     for (const auto& [key, value] : platform.settings) settings += key + "=" + value + " ";
-    EXPECT_EQ(settings,
-              "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= FreezeColumn=False "
-              "HighlightCalc=False LayoutDBLClick=False LayoutZoom=100 ListZoom=100 PreviewFit= "
-              "PreviewZoom=100 SavePrompt=True SnapToGrid=True defaultFile= ");
+    EXPECT_EQ(
+        settings,
+        "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= FreezeColumn=False "
+        "HighlightCalc=False LayoutDBLClick=False LayoutZoom=100 ListZoom=100 OpenPdf=False PreviewFit= "
+        "PreviewZoom=100 SavePrompt=True SnapToGrid=True defaultFile= ");
     for (const std::string toggle : {"True", "False"}) {
         for (auto& [key, value] : platform.settings)
             value = key.ends_with("Zoom") ? "250"

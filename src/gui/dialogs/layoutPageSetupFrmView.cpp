@@ -15,7 +15,13 @@ layoutPageSetupFrmView::layoutPageSetupFrmView(app::App& app, EventBoundary& eve
     : FormView(events, "layoutPageSetupFrm", tr("Layout Page Setup"), parent), form_(app),
       paperList_(makePaperList()), customFrm_(makeCustomFrame()) {
     auto* papers = new QGroupBox(tr(" Paper Sizes "));
-    (new QVBoxLayout(papers))->addWidget(paperList_);
+    auto* choice = new QVBoxLayout(papers);
+    choice->addWidget(paperList_);
+    if (!form_.paperNotice.empty()) {
+        auto* notice = named("paperNotice", new QLabel(toQt(form_.paperNotice)));
+        notice->setWordWrap(true);
+        choice->addWidget(notice);
+    }
 
     auto* ok = makeButton("OKButton", tr("&OK"), [this] { form_.OKButton_Click(); });
     auto* cancel = makeButton("CancelButton", tr("&Cancel"), [this] { form_.CancelButton_Click(); });

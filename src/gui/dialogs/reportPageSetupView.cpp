@@ -1,6 +1,7 @@
 #include "gui/dialogs/reportPageSetupView.h"
 
 #include "gui/dialogs/pageSetupFrames.h"
+#include "gui/dialogs/paperFrame.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
@@ -37,8 +38,7 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     right->addWidget(title);
     right->addWidget(makeOptionsFrame(tr(" Bold Headers "), "boldYesOpt", tr("Yes"), "boldNoOpt", tr("No"),
                                       form_.boldYesOpt));
-    right->addWidget(makeOptionsFrame(tr(" Paper Size "), "letterOpt", tr("Letter"), "legalOpt", tr("Legal"),
-                                      form_.letterOpt));
+    right->addWidget(makePaperFrame(form_));
     right->addWidget(makeOptionsFrame(tr(" Orientation "), "PortraitOpt", tr("Portrait"), "LandscapeOpt",
                                       tr("Landscape"), form_.PortraitOpt));
     right->addWidget(makeMarginsFrame(form_.leftTxt, form_.rightTxt, form_.TopTxt, form_.bottomTxt), 1);

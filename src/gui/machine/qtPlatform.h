@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gui/machine/systemPrinter.h"
+#include "platform/localePaper.h"
 #include "platform/platform.h"
 #include "platform/settingsFile.h"
 #include "platform/userFolders.h"
@@ -66,6 +67,7 @@ public:
 
     std::string printerDeviceName() override { return printer_.deviceName(); }
     std::vector<platform::PaperName> printerPapers() override;
+    int localePaper() override { return platform::localePaper(); }
     std::optional<platform::PrintChoice> showPrinterDialog(const platform::PrintChoice& present) override;
     std::unique_ptr<drawing::DrawTarget> openPrinter(const std::string& documentName) override;
     drawing::TextMetrics& textMetrics() override { return textMetrics_; }
@@ -95,6 +97,7 @@ private:
     QWidget* dialogParent() const;
     QString startFolder() const;
     std::optional<std::string> askForPdfFile(const std::string& documentName);
+    void openPdfIfWanted(const std::string& file);
     std::optional<std::string> askForNewName(const platform::FileDialog& dialog, const QString& acceptLabel);
 
     platform::WorkFolder workFolder_;

@@ -4,8 +4,11 @@
 #include "gui/widgets/qtText.h"
 #include "qtprint/pdfFile.h"
 
+#include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <filesystem>
 
@@ -47,13 +50,29 @@ std::optional<std::string> QtPlatform::askForPdfFile(const std::string& document
     return file;
 }
 
+// After the print has ended, whose hourglass would stay over the message.
+void QtPlatform::openPdfIfWanted(const std::string& file) {
+    if (getSetting("OpenPdf", "False") != "True") return;
+    QObject* const owner = window_.widget != nullptr ? static_cast<QObject*>(window_.widget) : qApp;
+    QMetaObject::invokeMethod(
+        owner,
+        [this, file] {
+            const QString path = QFileInfo(toQt(file)).absoluteFilePath();
+            if (QDesktopServices::openUrl(QUrl::fromLocalFile(path))) return;
+            msgBox(file + " was made, but there is no program that opens it.", platform::Icon::Exclamation,
+                   "Print to PDF");
+        },
+        Qt::QueuedConnection);
+}
+
 std::unique_ptr<drawing::DrawTarget> QtPlatform::openPrinter(const std::string& documentName) {
     if (!printer_.isPdf()) return printer_.open(documentName, textMetrics_);
     const std::optional<std::string> file = askForPdfFile(documentName);
     if (!file) return nullptr;
     try {
         const std::string database = window_.currentFile ? window_.currentFile() : std::string();
-        return qtprint::openPdfFile(*file, documentName, textMetrics_, database);
+        return qtprint::openPdfFile(*file, documentName, textMetrics_, database,
+                                    [this, name = *file] { openPdfIfWanted(name); });
     } catch (const core::RunTimeError& error) {
         msgBox(*file + " could not be written.\n" + error.what(), platform::Icon::Exclamation,
                "Print to PDF");

@@ -11,6 +11,7 @@
 #include <QPrinterInfo>
 #include <QTabWidget>
 
+#include <cmath>
 #include <set>
 #include <utility>
 
@@ -94,11 +95,20 @@ std::vector<platform::PaperName> SystemPrinter::papers() {
     std::set<QString> names;
     for (const QPageSize& size : info.supportedPageSizes()) {
         const int code = size.windowsId();
-        // Those without a code could not be kept in the database.
-        if (code > 0 && drawing::findPaper(code) != nullptr && names.insert(size.name()).second)
+        const bool isKnown = code > 0 && drawing::findPaper(code) != nullptr;
+        if (!size.isValid() || !names.insert(size.name()).second) continue;
+        if (isKnown) {
             papers.push_back({fromQt(size.name()), code});
+        } else { // without a code, the database keeps its lengths
+            constexpr qreal twipsPerPoint = 20;
+            const QSizeF points = size.size(QPageSize::Point) * twipsPerPoint;
+            papers.push_back({fromQt(size.name()),
+                              drawing::customPaperCode,
+                              {std::lround(points.width()), std::lround(points.height())}});
+        }
     }
-    if (info.supportsCustomPageSizes()) papers.push_back({"Custom", drawing::customPaperCode});
+    if (info.supportsCustomPageSizes() && names.insert(QStringLiteral("Custom")).second)
+        papers.push_back({"Custom", drawing::customPaperCode});
     return papers;
 }
 
@@ -124,7 +134,9 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     platform::PrintChoice choice = present;
     // A custom size comes back as no paper of a name; then the database keeps what it has.
     const int code = chosen.pageLayout().pageSize().windowsId();
-    if (present.PaperSize != drawing::customPaperCode && code > 0) choice.PaperSize = code;
+    // Of two codes for one size, the database keeps its own.
+    const bool isSame = code == QPageSize(QPageSize::id(present.PaperSize)).windowsId();
+    if (present.PaperSize != drawing::customPaperCode && code > 0 && !isSame) choice.PaperSize = code;
     choice.Orientation = chosen.pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
     return choice;
 }

@@ -71,7 +71,6 @@ void PreviewPort::wheelEvent(QWheelEvent* event) {
 }
 
 void PreviewPort::keyPressEvent(QKeyEvent* event) {
-    const int pageStep = static_cast<int>(height() / pixelsPerTwip()) - lineStep;
     switch (event->key()) {
     case Qt::Key_Left:
         return emit scrolled(-lineStep, 0);
@@ -82,9 +81,13 @@ void PreviewPort::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Down:
         return emit scrolled(0, lineStep);
     case Qt::Key_PageUp:
-        return emit scrolled(0, -pageStep);
+        return emit paged(false);
     case Qt::Key_PageDown:
-        return emit scrolled(0, pageStep);
+        return emit paged(true);
+    case Qt::Key_Home:
+        return emit wentToEnd(false);
+    case Qt::Key_End:
+        return emit wentToEnd(true);
     default:
         QWidget::keyPressEvent(event);
     }

@@ -23,6 +23,8 @@ signals:
     void zoomTurned(QWheelEvent* event);
     void resized();
     void scrolled(int horizontal, int vertical); // twips
+    void paged(bool forward);                    // within the page, or on to another one
+    void wentToEnd(bool last);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -7,6 +7,7 @@
 #include "gui/widgets/qtText.h"
 #include "gui/widgets/zoomWheel.h"
 #include "print/previewNavigation.h"
+#include "print/previewPlace.h"
 
 #include <QGridLayout>
 #include <QScopedValueRollback>
@@ -31,6 +32,8 @@ PreviewView::PreviewView(app::App& app, EventBoundary& events, CommandActions& a
         rptHScroll1_->setValue(rptHScroll1_->value() + horizontal);
         rptVScroll1_->setValue(rptVScroll1_->value() + vertical);
     });
+    connect(port_, &PreviewPort::paged, this, &PreviewView::turnPage);
+    connect(port_, &PreviewPort::wentToEnd, this, &PreviewView::goToEnd);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
@@ -55,6 +58,12 @@ QToolBar* PreviewView::makeToolbar(CommandActions& actions) {
             events_.run([&] { print::reportToolbar_ButtonClick(app_, key); });
         });
     }
+    place_ = new QLabel;
+    place_->setObjectName(QStringLiteral("previewPlace"));
+    place_->setContentsMargins(8, 0, 8, 0);
+    // With room, so that the buttons behind it stay where they are when pages are turned.
+    place_->setMinimumWidth(place_->fontMetrics().horizontalAdvance(tr("Record 88888 of 88888")) + 16);
+    bar->addWidget(place_);
     bar->addSeparator();
     for (const char* key : {"mnuZoomOut", "mnuZoomIn", "mnuFitPage", "mnuFitWidth"})
         bar->addAction(actions.action(key));
@@ -120,6 +129,27 @@ void PreviewView::followZoom() {
     if (page.rptVScroll1.Max > 0) print::rptVScroll1_Change(app_, static_cast<int>(std::lround(value.y())));
 }
 
+// To the end of the page first, then on to the beginning of the next one, and backwards likewise.
+void PreviewView::turnPage(bool forward) {
+    const int step = rptVScroll1_->pageStep() - scrollStep;
+    const int before = rptVScroll1_->value();
+    if (rptVScroll1_->maximum() > 0) rptVScroll1_->setValue(before + (forward ? step : -step));
+    if (rptVScroll1_->value() != before) return;
+    events_.run([&] {
+        if (print::turnPreview(app_, forward))
+            print::rptVScroll1_Change(app_, forward ? 0 : print::previewPage(app_).rptVScroll1.Max);
+    });
+}
+
+void PreviewView::goToEnd(bool last) {
+    events_.run([&] {
+        const print::PreviewPage& page = print::previewPage(app_);
+        if (!page.Visible) return;
+        print::reportToolbar_ButtonClick(app_, last ? "Last" : "First");
+        print::rptVScroll1_Change(app_, last ? page.rptVScroll1.Max : 0);
+    });
+}
+
 void PreviewView::portResized() {
     events_.run([this] { tellPortSize(); });
 }
@@ -148,6 +178,8 @@ void PreviewView::refresh() {
     const print::PreviewPage& page = print::previewPage(app_);
     show(*rptHScroll1_, page.rptHScroll1, page.rptPreview2.Width);
     show(*rptVScroll1_, page.rptVScroll1, page.rptPreview2.Height);
+    place_->setText(toQt(print::previewPlaceText(app_)));
+    port_->setAccessibleName(place_->text().isEmpty() ? tr("Page") : place_->text());
     port_->refresh();
     hint_->show(shell::emptyPreview(app_));
 }

@@ -32,6 +32,8 @@ private:
     QScrollBar* makeScrollBar(Qt::Orientation orientation);
     static void show(QScrollBar& bar, const print::PreviewPage::ScrollBar& state, float visible);
     void portResized();
+    void turnPage(bool forward);
+    void goToEnd(bool last);
     void tellPortSize();
     struct Fitted {
         qreal zoom;
@@ -43,6 +45,7 @@ private:
     app::App& app_;
     EventBoundary& events_;
     QLabel* percent_ = nullptr; // made with the toolbar, so ahead of it
+    QLabel* place_ = nullptr;
     QToolBar* reportToolbar_;
     FitBar* fitBar_;
     PreviewPort* port_;
