@@ -9,6 +9,7 @@
 #include "layout/selection.h"
 #include "layout/sheet.h"
 #include "search/colourRules.h"
+#include "search/columnNames.h"
 #include "search/filterMode.h"
 #include "search/suggestions.h"
 #include "shell/mainWindow.h"
@@ -68,6 +69,9 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
                     Change::Opened},
                    search::forgetSuggestions);
     changes.follow({Change::Opened}, search::readColours);
+    changes.follow({Change::Opened, Change::Begun}, search::readColumnNames);
+    changes.follow({Change::Columns}, search::followColumnNames);
+    changes.follow({Change::Stored}, search::followStoredColumnNames);
     changes.follow({Change::Stored}, search::followStoredColours);
     changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Opened}, [](App& app) {

@@ -24,14 +24,11 @@ constexpr std::int32_t barGrey = 0x909090;
 class SummaryPage {
 public:
     SummaryPage(app::App& app, DrawTarget& target, const Summary& summary, int barFigure)
-        : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {})),
+        : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {}, mostLetters)),
           scale_(summary, barFigure), byCount_(summary.request.by.size()),
           barName_(barFigure == recordsBar
                        ? std::string(recordsHeading)
-                       : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {
-        for (auto& row : table_.rows)
-            for (std::string& cell : row) cell.resize(core::left(cell, mostLetters).size());
-    }
+                       : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {}
 
     void draw(std::string_view title) {
         print::usePage(app_, target_, print::reportPage(app_));
