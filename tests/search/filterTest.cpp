@@ -109,6 +109,7 @@ TEST(Filter, IsKeptByFileAndEndsWhereASearchDoes) {
 TEST(Filter, AddsUpWhatIsLeftOfItsResults) {
     FilterProgram program(DataFile("Bed Qty:4", "North|1;South|2;North|4").section("Totaled Cols", "Qty|"));
     program.filter("north");
+    program.platform.answers = {platform::Answer::Yes};
     shell::SSTab1_Click(program.app, app::layoutTab);
     entry::layoutNavBar_ButtonClick(program.app, "Delete");
     EXPECT_EQ(program.app.document.searchLV.totals()->subItem(2), "4");

@@ -337,7 +337,7 @@ bool SummaryDock::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Escape && panel_.canShowAll) {
-            all_->click();
+            choose(model_->groups()); // as on the total
             return true;
         }
         if (watched == table_ && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
