@@ -19,6 +19,12 @@ std::vector<std::string> fileSettingNames(const App& app, std::string_view begin
     return names;
 }
 
+void copyFileSettings(App& app, std::string_view file, std::string_view beginning) {
+    const FileSettings& settings = app.rooms.of<FileSettings>();
+    for (const std::string& name : settings.names(file))
+        if (name.starts_with(beginning)) setFileSetting(app, name, settings.get(file, name));
+}
+
 void keepFileSettings(App& app, std::filesystem::path file) {
     app.rooms.of<FileSettings>() = FileSettings(std::move(file));
 }

@@ -14,6 +14,9 @@ bool setFileSetting(App& app, std::string_view name, std::string_view text);
 // The names that begin so, without that beginning, in the order in which they were set first.
 std::vector<std::string> fileSettingNames(const App& app, std::string_view beginning);
 
+// The open one gets those of another file whose names begin so.
+void copyFileSettings(App& app, std::string_view file, std::string_view beginning);
+
 void keepFileSettings(App& app, std::filesystem::path file);
 
 } // namespace app

@@ -16,7 +16,6 @@ using std::chrono::year_month_day;
 
 namespace {
 
-constexpr std::string_view setting = "colours.";
 constexpr char fieldEnd = '\t', ruleEnd = '\n';
 constexpr std::array<std::string_view, colourTests> keptNames = {"empty",   "equal",  "above", "below",
                                                                  "between", "passed", "near"};
@@ -200,7 +199,7 @@ bool setColours(app::App& app, const std::string& column, const ColumnColours& r
         columns.erase(column);
     else
         columns[column] = rules;
-    return app::setFileSetting(app, std::string(setting) + column, colourText(rules)) ||
+    return app::setFileSetting(app, std::string(coloursSetting) + column, colourText(rules)) ||
            app.document.currentFile.empty();
 }
 
@@ -208,8 +207,8 @@ void readColours(app::App& app) {
     ColourBook& book = app.rooms.of<ColourBook>();
     book.columns.clear();
     book.file = app.document.currentFile;
-    for (const std::string& column : app::fileSettingNames(app, setting))
-        if (ColumnColours rules = coloursFrom(app::fileSetting(app, std::string(setting) + column));
+    for (const std::string& column : app::fileSettingNames(app, coloursSetting))
+        if (ColumnColours rules = coloursFrom(app::fileSetting(app, std::string(coloursSetting) + column));
             !rules.empty())
             book.columns[column] = std::move(rules);
 }
@@ -219,7 +218,7 @@ void followStoredColours(app::App& app) {
     if (book.file == app.document.currentFile) return;
     book.file = app.document.currentFile;
     for (const auto& [column, rules] : book.columns)
-        app::setFileSetting(app, std::string(setting) + column, colourText(rules));
+        app::setFileSetting(app, std::string(coloursSetting) + column, colourText(rules));
 }
 
 } // namespace search

@@ -48,6 +48,8 @@ std::string ruleError(const ColourRule& rule, core::ColumnType type, std::chrono
 bool holds(const ColourRule& rule, std::string_view cell, core::ColumnType type,
            std::chrono::year_month_day today);
 
+constexpr std::string_view coloursSetting = "colours."; // and the name of the column
+
 // As they are kept. What cannot be read is left out.
 std::string colourText(const ColumnColours& rules);
 ColumnColours coloursFrom(std::string_view text);

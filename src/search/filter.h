@@ -77,8 +77,13 @@ struct FilterTerm {
 };
 
 struct Filter {
+    struct Name { // as it is written, with its quotes or brackets
+        std::size_t offset = 0, size = 0;
+        int column = anyColumn;
+    };
     std::vector<std::vector<FilterTerm>> alternatives; // one of which must hold, with all of its terms
     std::optional<FilterError> error;                  // and then there are no alternatives
+    std::vector<Name> names;                           // in their order
     std::string doubt; // why nothing may be found: "There is no column "Prise"", where that is read as a word
 
     bool empty() const { return alternatives.empty(); } // every record passes

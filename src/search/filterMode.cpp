@@ -3,11 +3,13 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
+#include "search/duplicates.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"
 
 #include <algorithm>
 #include <memory>
+#include <unordered_set>
 #include <utility>
 
 namespace search {
@@ -30,6 +32,7 @@ struct FilterState {
     Passed passed;
     std::vector<std::uint32_t> shown;   // the rows of the results, in their order
     std::uint64_t shownArrangement = 0; // of the results, when they were made
+    bool isShowing = false;             // what is announced meanwhile is our own doing
     const Item* chosen = nullptr;       // the current result, as the filter left it
     std::string choice;                 // the Tag of the result that the user has moved to since
 };
@@ -68,6 +71,14 @@ std::unique_ptr<Item> copyOf(const Document& document, const Item& record) {
     return copy;
 }
 
+void addUp(Document& document) {
+    RecordsList& results = document.searchLV;
+    const core::TotalsRowUpdater totals(document, results);
+    results.forEach([&](const Item& item) {
+        if (!item.isTotals()) totals.update(core::TotalsMode::Add, item);
+    });
+}
+
 // Puts the rows into the results. Copies that are there already are used again, so that a key costs what it
 // changes.
 void fillResults(App& app, FilterState& state, bool isSame) {
@@ -93,10 +104,7 @@ void fillResults(App& app, FilterState& state, bool isSame) {
     core::addTotalsRow(results).Text = core::totalsKey;
     results.Sorted = false;
     results.MultiSelect = true;
-    const core::TotalsRowUpdater totals(document, results);
-    results.forEach([&](const Item& item) {
-        if (!item.isTotals()) totals.update(core::TotalsMode::Add, item);
-    });
+    addUp(document);
     state.shown = std::move(rows);
     state.shownArrangement = results.arrangement();
 }
@@ -144,6 +152,7 @@ void beginResults(App& app) {
 }
 
 void showPassing(App& app, FilterState& state, Filter filter, bool isSame) {
+    const std::unique_ptr<bool, void (*)(bool*)> shown(&state.isShowing, [](bool* flag) { *flag = false; });
     noteChoice(app, state);
     const bool isOn = state.bar.isOn;
     const bool isWithin =
@@ -153,8 +162,10 @@ void showPassing(App& app, FilterState& state, Filter filter, bool isSame) {
     if (!isOn) beginResults(app);
     fillResults(app, state, isOn && isSame);
     state.bar.isOn = true;
+    state.bar.words.clear();
     state.bar.doubt = state.shown.empty() ? state.filter.doubt : std::string();
     chooseCurrent(app, state);
+    state.isShowing = true;
     app.changes.announce(app, app::Change::CurrentRecord);
     state.isStale = false; // nobody has changed a record, but another one is the current one
 }
@@ -163,7 +174,7 @@ void showPassing(App& app, FilterState& state, Filter filter, bool isSame) {
 
 const FilterBarState& filterBar(const App& app) {
     FilterBarState& bar = stateOf(app).bar;
-    if (bar.isOn) { // some may have been deleted since, and others added
+    if (bar.narrows()) { // some may have been deleted since, and others added
         bar.found = records(app.document.searchLV);
         bar.all = records(app.document.bInvoiceStyle ? app.document.iLV : app.document.LV);
     }
@@ -193,6 +204,31 @@ void setFilter(App& app, const std::string& text, const std::string& scope) {
     showPassing(app, state, std::move(filter), isSame);
 }
 
+// What the filter has found, as far as the list can tell it apart: in a database of invoices, their rows.
+bool hasFound(const App& app, const FilterState& state, const std::vector<const Item*>& records) {
+    if (!state.bar.isOn || state.bar.error) return false;
+    std::unordered_set<std::string_view> keys;
+    for (const Item* record : records) keys.insert(record->Key);
+    for (std::size_t row = 0; row < state.passed.size(); ++row) {
+        const Item& item = state.texts.item(row);
+        const std::string_view key = app.document.bInvoiceStyle ? item.Text : item.Key;
+        const bool isWanted = keys.contains(key);
+        if (isWanted != (state.passed[row] != 0)) return false;
+    }
+    return true;
+}
+
+void showRecordsBy(App& app, const std::vector<const Item*>& records, const std::string& text,
+                   const std::string& scope, const std::string& words) {
+    FilterState& state = stateOf(app);
+    if (!text.empty()) setFilter(app, text, scope);
+    if (text.empty() || !hasFound(app, state, records)) {
+        showRecords(app, {records});
+        state.bar.words = words;
+    }
+    state.bar.isOpen = true;
+}
+
 void filterAnew(App& app) {
     const FilterBarState bar = filterBar(app);
     if (bar.isOn) setFilter(app, bar.text, bar.scope);
@@ -200,7 +236,7 @@ void filterAnew(App& app) {
 
 void leaveFilter(App& app) {
     FilterState& state = stateOf(app);
-    const bool wasOn = state.bar.isOn;
+    const bool wasOn = state.bar.narrows();
     noteChoice(app, state);
     Item* record = state.choice.empty() ? nullptr : app.document.LV.find(state.choice);
     forgetFilter(app);
@@ -236,6 +272,7 @@ void forgetFilter(App& app) {
     FilterState& state = stateOf(app);
     state.bar.isOn = false;
     state.bar.text.clear();
+    state.bar.words.clear();
     state.bar.error.reset();
     state.bar.doubt.clear();
     state.passed.clear();
@@ -245,12 +282,18 @@ void forgetFilter(App& app) {
 }
 
 void followResultsForFilter(App& app) {
-    if (stateOf(app).bar.isOn && !app.document.searchLV.Visible) forgetFilter(app);
+    if (stateOf(app).bar.narrows() && !app.document.searchLV.Visible) forgetFilter(app);
 }
 
 void followRecordsForFilter(App& app) {
-    stateOf(app).isStale = true;
+    FilterState& state = stateOf(app);
+    state.isStale = true;
     followResultsForFilter(app);
+    // One of them may have been changed or deleted on the layout page.
+    RecordsList& results = app.document.searchLV;
+    if (!state.bar.isOn || state.isShowing || results.totals() == nullptr) return;
+    core::resetTotalsRow(results);
+    addUp(app.document);
 }
 
 void prepareFilter(App& app) {

@@ -17,9 +17,12 @@ struct FilterBarState {
     std::string scope; // the column that plain words apply to; empty for all
     std::optional<FilterError> error;
     std::string doubt; // why nothing was found, perhaps
+    std::string words; // what is on show in place of a filter's results, where no text says it
     int found = 0, all = 0;
     bool isOpen = false;    // the bar is there
     bool wantsKeys = false; // and takes them when it is shown next; the view takes it back
+
+    bool narrows() const { return isOn || !words.empty(); }
 };
 const FilterBarState& filterBar(const app::App& app);
 
@@ -27,6 +30,10 @@ const FilterBarState& filterBar(const app::App& app);
 // With an error the results stay as they are. The current record stays the current one, if it is among those
 // found. A record that is edited stays, whatever it says now, until the filter is set again.
 void setFilter(app::App& app, const std::string& text, const std::string& scope = {});
+// Shows these records of LV alone and opens the bar, which says why: by the text, when a filter of it finds
+// them and no others, or else in words, with the records on show as showRecords() puts them there.
+void showRecordsBy(app::App& app, const std::vector<const core::Item*>& records, const std::string& text,
+                   const std::string& scope, const std::string& words);
 // The same filter for what the records are now.
 void filterAnew(app::App& app);
 
@@ -54,6 +61,7 @@ void followRecordsForFilter(app::App& app);
 // Makes the next key as quick as those after it.
 void prepareFilter(app::App& app);
 
+constexpr std::string_view filterSetting = "filter."; // and its name
 // Filters that the user keeps for the open database, by name, in the order in which they were kept first.
 std::vector<std::string> keptFilters(const app::App& app);
 // Asks for the name; says so when it cannot be kept, as for a document that has no file yet.

@@ -197,6 +197,7 @@ private:
             fail(from, behindName - from, noColumn(name));
             return true;
         }
+        if (!name.empty()) filter_.names.push_back({from, behindName - from, column});
         std::optional<Comparison> second; // "Price:>10" is "Price>10"
         if (*comparison == Comparison::Colon)
             second = readOperator();

@@ -1,5 +1,6 @@
 #include "app/fileSettings.h"
 #include "core/text.h"
+#include "search/columnNames.h"
 #include "search/filterMode.h"
 
 #include <algorithm>
@@ -10,12 +11,11 @@ using app::App;
 
 namespace {
 
-constexpr std::string_view settingsName = "filter.";
 constexpr char scopeSign = '\n'; // between the text and the scope
 constexpr std::size_t longestName = 60;
 
 std::string settingOf(std::string_view name) {
-    std::string key(settingsName);
+    std::string key(filterSetting);
     key.append(name);
     return key;
 }
@@ -23,7 +23,7 @@ std::string settingOf(std::string_view name) {
 } // namespace
 
 std::vector<std::string> keptFilters(const App& app) {
-    return app::fileSettingNames(app, settingsName);
+    return app::fileSettingNames(app, filterSetting);
 }
 
 void keepFilter(App& app) {
@@ -39,7 +39,7 @@ void keepFilter(App& app) {
     std::string text = bar.text;
     text.push_back(scopeSign);
     text.append(bar.scope);
-    const std::string before = app::fileSetting(app, key);
+    const std::string before = withNewNames(app, app::fileSetting(app, key));
     std::string question = "There is a filter \"";
     question.append(name).append("\" already. Do you want to replace it?");
     if (!before.empty() && before != text && !app::askYesNo(app, question, platform::Icon::Question)) return;
@@ -47,7 +47,7 @@ void keepFilter(App& app) {
 }
 
 void useKeptFilter(App& app, std::string_view name) {
-    const std::string kept = app::fileSetting(app, settingOf(name));
+    const std::string kept = withNewNames(app, app::fileSetting(app, settingOf(name)));
     const std::size_t end = std::min(kept.find(scopeSign), kept.size());
     setFilter(app, kept.substr(0, end), end < kept.size() ? kept.substr(end + 1) : std::string());
 }

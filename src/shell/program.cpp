@@ -10,6 +10,7 @@
 #include "layout/sheet.h"
 #include "search/codeRules.h"
 #include "search/colourRules.h"
+#include "search/columnNames.h"
 #include "search/filterMode.h"
 #include "search/suggestions.h"
 #include "shell/mainWindow.h"
@@ -71,6 +72,9 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
                     Change::Opened},
                    search::forgetSuggestions);
     changes.follow({Change::Opened}, search::readColours);
+    changes.follow({Change::Opened, Change::Begun}, search::readColumnNames);
+    changes.follow({Change::Columns}, search::followColumnNames);
+    changes.follow({Change::Stored}, search::followStoredColumnNames);
     changes.follow({Change::Stored}, search::followStoredColours);
     changes.follow({Change::Opened}, search::readCodeRules);
     changes.follow({Change::Stored}, search::followStoredCodeRules);

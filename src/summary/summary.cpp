@@ -1,5 +1,6 @@
 #include "summary/summary.h"
 
+#include "core/text.h"
 #include "summary/counter.h"
 #include "summary/itemRows.h"
 
@@ -209,11 +210,11 @@ bool isCounted(FigureKind kind, ColumnType type) {
     return type == ColumnType::Number || type == ColumnType::Currency || type == ColumnType::Calculation;
 }
 
-std::string Group::name() const {
+std::string Group::name(std::size_t mostLetters) const {
     std::string name;
     for (const GroupKey& key : keys) {
         if (!name.empty()) name.append(", ");
-        name.append(key.label);
+        name.append(core::left(key.label, mostLetters));
     }
     return name;
 }

@@ -42,7 +42,8 @@ struct Group {
     std::size_t records = 0;
     std::vector<Value> figures;
 
-    std::string name() const; // "Hedge, 2015"
+    // "Hedge, 2015", each part cut to so many letters.
+    std::string name(std::size_t mostLetters = std::string::npos) const;
 };
 
 struct Summary {

@@ -6,10 +6,13 @@
 #include "core/totalsRow.h"
 #include "exchange/csvWriter.h"
 #include "print/printCommands.h"
-#include "search/duplicates.h"
+#include "search/filterMode.h"
 #include "search/manyRecords.h"
+#include "search/searchEngine.h"
 #include "search/searchMode.h"
 #include "storage/saveSteps.h"
+#include "summary/groupFilter.h"
+#include "summary/groupOrder.h"
 #include "summary/summaryPrinting.h"
 
 #include <algorithm>
@@ -219,6 +222,7 @@ void SummaryPanel::recount() {
     } else {
         summary = summarise(app_.document, *wanted, app_.platform.today());
     }
+    sort();
     barNames.assign(1, std::string(recordsHeading));
     for (const Figure& figure : summary.request.figures) barNames.push_back(headingOf(figure));
     const auto known = std::ranges::find(barNames, barBefore);
@@ -229,6 +233,30 @@ void SummaryPanel::recount() {
     } else if (note.empty()) {
         note = "Open a database, or add columns, to see its records in groups.";
     }
+}
+
+// By the same column as before, if it is still there.
+void SummaryPanel::sort() {
+    const std::vector<std::string> all = headings(summary);
+    const auto found = std::ranges::find(all, sortHeading_);
+    if (found == all.end()) {
+        sortHeading_.clear();
+        sortColumn = 0;
+        bDescending = false;
+    } else {
+        sortColumn = static_cast<std::size_t>(found - all.begin());
+    }
+    if (sortColumn > 0 || bDescending) sortGroups(summary, sortColumn, bDescending, app_.platform.today());
+}
+
+void SummaryPanel::heading_Click(std::size_t column) {
+    const std::vector<std::string> all = headings(summary);
+    if (column >= all.size()) return;
+    bDescending = column == sortColumn && !bDescending;
+    sortHeading_ = all[column];
+    sortColumn = column;
+    sortGroups(summary, sortColumn, bDescending, app_.platform.today());
+    ++countings;
 }
 
 void SummaryPanel::column_Click(std::size_t chooser, int entry) {
@@ -258,6 +286,22 @@ void SummaryPanel::onlyFound_Click(bool bChecked) {
     isStale_ = true;
 }
 
+// The filter that a group is to be found within: of its text no more than words and conditions can be
+// followed by others.
+void SummaryPanel::noteBaseFilter() {
+    if (onlyFound && bNarrowed_) return;
+    baseFilter_.clear();
+    baseScope_.clear();
+    const search::FilterBarState& bar = search::filterBar(app_);
+    if (!onlyFound || !bar.isOn) return;
+    const search::Filter filter =
+        search::parseFilter(app_, search::sourceList(app_.document), bar.text, bar.scope);
+    const auto quotes = std::ranges::count(bar.text, '"');
+    if (filter.alternatives.size() != 1 || quotes % 2 != 0) return;
+    baseFilter_ = bar.text;
+    baseScope_ = bar.scope;
+}
+
 void SummaryPanel::showGroup(std::size_t group) {
     if (group >= summary.groups.size()) return;
     // The records that it was counted from may be gone, so it is looked for among those of now.
@@ -272,7 +316,10 @@ void SummaryPanel::showGroup(std::size_t group) {
     std::vector<std::string> keys;
     if (onlyFound)
         for (const Item* record : base()) keys.push_back(record->Key.str());
-    search::showRecords(app_, {records});
+    noteBaseFilter();
+    std::string text = filterTextOf(app_.document, summary.request, *found);
+    if (!baseFilter_.empty()) text.insert(0, baseFilter_ + " ");
+    search::showRecordsBy(app_, records, text, baseScope_, wordsOf(summary.request, *found));
     app::showReportTab(app_);
     if (!onlyFound) return;
     bNarrowed_ = true;

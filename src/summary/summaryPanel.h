@@ -42,6 +42,8 @@ public:
     bool onlyFound = false, onlyFoundEnabled = false;
     bool canShowAll = false; // something stands in place of all records
     Summary summary;
+    std::size_t sortColumn = 0; // of the table, see sortGroups
+    bool bDescending = false;
     int countings = 0; // goes up whenever there is another summary
     std::string note;  // "12 groups, 32 records", or what is wrong
 
@@ -54,6 +56,8 @@ public:
     void figure_Click(std::size_t column, FigureKind kind, bool bChecked);
     void bars_Click(int entry);
     void onlyFound_Click(bool bChecked);
+    // Sorts by it, and the other way where it is sorted by it already.
+    void heading_Click(std::size_t column);
     void showGroup(std::size_t group); // its records take the place of the list
     void showAll();
     void copy();
@@ -71,13 +75,17 @@ private:
     std::optional<Request> request();
     std::string title() const;
     std::vector<const core::Item*> base();
+    void sort();
+    void noteBaseFilter();
 
     app::App& app_;
     std::uint64_t counted_ = 0; // the change that was last counted
     bool isStale_ = true;
-    std::string columnsShown_;          // names and types, as the choosers have them
-    std::vector<std::string> baseKeys_; // the records found, while a group of them stands in their place
-    std::uint64_t narrowed_ = 0;        // that group, as searchLV's arrangement
+    std::string columnsShown_;           // names and types, as the choosers have them
+    std::vector<std::string> baseKeys_;  // the records found, while a group of them stands in their place
+    std::string baseFilter_, baseScope_; // what they were found by, if it was a filter
+    std::string sortHeading_;            // of the column that is sorted by; empty for the first one
+    std::uint64_t narrowed_ = 0;         // that group, as searchLV's arrangement
     bool bNarrowed_ = false;
 };
 

@@ -24,14 +24,11 @@ constexpr std::int32_t barGrey = 0x909090;
 class SummaryPage {
 public:
     SummaryPage(app::App& app, DrawTarget& target, const Summary& summary, int barFigure)
-        : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {})),
+        : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {}, mostLetters)),
           scale_(summary, barFigure), byCount_(summary.request.by.size()),
           barName_(barFigure == recordsBar
                        ? std::string(recordsHeading)
-                       : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {
-        for (auto& row : table_.rows)
-            for (core::CellText& cell : row) cell = core::left(cell, mostLetters);
-    }
+                       : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {}
 
     void draw(std::string_view title) {
         print::usePage(app_, target_, print::reportPage(app_));
@@ -141,10 +138,12 @@ private:
     // A thick line, since a page has no filled shapes.
     void drawBar(const Group& group) {
         const Bar bar = scale_.barOf(group);
-        if (bar.to <= bar.from) return;
         const float x = right_ - bars_ + columnGap, room = bars_ - columnGap;
         const float y = y_ + lineHeight_ * 0.4F;
         const auto at = [&](double part) { return x + room * static_cast<float>(part); };
+        // Where bars go to the left too, it is seen from where.
+        if (scale_.zero() > 0) target_.Line(at(scale_.zero()), y_, at(scale_.zero()), y_ + lineHeight_);
+        if (bar.to <= bar.from) return;
         const drawing::Pen before = target_;
         target_.ForeColor = barGrey;
         target_.DrawWidth = std::max(1, static_cast<int>(lineHeight_ * 0.5F / drawing::twipsPerLinePixel));

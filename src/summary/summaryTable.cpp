@@ -1,20 +1,32 @@
 #include "summary/summaryTable.h"
 
+#include "core/text.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace summary {
 
-exchange::OutTable tableOf(const Summary& summary, std::string title) {
+std::vector<std::string> headings(const Summary& summary) {
+    std::vector<std::string> all;
+    for (const GroupBy& by : summary.request.by) all.push_back(headingOf(by));
+    all.emplace_back(recordsHeading);
+    for (const Figure& figure : summary.request.figures) all.push_back(headingOf(figure));
+    return all;
+}
+
+exchange::OutTable tableOf(const Summary& summary, std::string title, std::size_t mostLetters) {
     using core::ColumnType;
     exchange::OutTable table;
     table.title = std::move(title);
-    for (const GroupBy& by : summary.request.by)
-        table.columns.push_back({headingOf(by), ColumnType::Text, core::newColumnWidth, {}});
-    table.columns.push_back({std::string(recordsHeading), ColumnType::Number, core::newColumnWidth, {}});
-    for (std::size_t i = 0; i < summary.request.figures.size(); ++i)
-        table.columns.push_back(
-            {headingOf(summary.request.figures[i]), summary.figureTypes[i], core::newColumnWidth, {}});
+    const std::size_t keys = summary.request.by.size();
+    for (std::string& heading : headings(summary)) {
+        const std::size_t place = table.columns.size();
+        const ColumnType type = place < keys    ? ColumnType::Text
+                                : place == keys ? ColumnType::Number
+                                                : summary.figureTypes[place - keys - 1];
+        table.columns.push_back({std::move(heading), type, core::newColumnWidth, {}});
+    }
     const auto addCounted = [](exchange::OutRow& row, const Group& group) {
         row.push_back(std::to_string(group.records));
         for (const Value& figure : group.figures) row.push_back(figure.text);
@@ -22,7 +34,7 @@ exchange::OutTable tableOf(const Summary& summary, std::string title) {
     table.rows.reserve(summary.groups.size() + 1);
     for (const Group& group : summary.groups) {
         exchange::OutRow row;
-        for (const GroupKey& key : group.keys) row.push_back(key.label);
+        for (const GroupKey& key : group.keys) row.emplace_back(core::left(key.label, mostLetters));
         addCounted(row, group);
         table.rows.push_back(std::move(row));
     }

@@ -8,8 +8,12 @@ namespace summary {
 constexpr std::string_view recordsHeading = "Records";
 constexpr std::string_view totalLabel = "Total";
 
-// The summary as a table for other programs: the groups, the records, the figures; last the grand total.
-exchange::OutTable tableOf(const Summary& summary, std::string title);
+// What stands over the columns of that table.
+std::vector<std::string> headings(const Summary& summary);
+// The summary as a table for other programs: the groups, the records, the figures; last the grand total. What
+// a group is called is cut where only its beginning is wanted.
+exchange::OutTable tableOf(const Summary& summary, std::string title,
+                           std::size_t mostLetters = std::string::npos);
 
 // What a bar of a group is as long as: the records for -1, else a figure by its place; nothing where there is
 // none.

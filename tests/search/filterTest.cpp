@@ -1,6 +1,8 @@
+#include "entry/navBar.h"
 #include "search/filterMode.h"
 #include "search/folding.h"
 #include "searchProgram.h"
+#include "shell/mainWindow.h"
 
 #include <array>
 #include <cstdio>
@@ -101,6 +103,16 @@ TEST(Filter, IsKeptByFileAndEndsWhereASearchDoes) {
     EXPECT_FALSE((program.inDialog([](search::searchFrm&) {}), program.app.document.searchLV.Visible));
     program.filter("north");
     EXPECT_EQ(program.find("Name = fern") + search::filterBar(program.app).text, "i2");
+}
+
+// Its sums are those of what is on show.
+TEST(Filter, AddsUpWhatIsLeftOfItsResults) {
+    FilterProgram program(DataFile("Bed Qty:4", "North|1;South|2;North|4").section("Totaled Cols", "Qty|"));
+    program.filter("north");
+    program.platform.answers = {platform::Answer::Yes};
+    shell::SSTab1_Click(program.app, app::layoutTab);
+    entry::layoutNavBar_ButtonClick(program.app, "Delete");
+    EXPECT_EQ(program.app.document.searchLV.totals()->subItem(2), "4");
 }
 
 // Records and filters of small parts, so that a good deal is found; each part of a filter comes with a test

@@ -1,5 +1,7 @@
 #include "app/fileSettings.h"
+#include "calc/designFrm.h"
 #include "search/coloursFrm.h"
+#include "search/columnNames.h"
 #include "search/folding.h"
 #include "search/suggestions.h"
 #include "searchProgram.h"
@@ -108,6 +110,42 @@ TEST(ColourRules, AreKeptBesideTheDatabase) {
     EXPECT_EQ(marks(), "Red - Blue ");
     program.openCopyOf("books.fwk");
     EXPECT_EQ(marks(), "- - - ");
+}
+
+// A name is new in the settings when it is in the file, and the other file keeps the old one.
+TEST(ColumnNames, AreFollowedByColoursAndFilters) {
+    Program program(DataFile("Name Qty:4 Bed", "Bolt|12|x;Nut|7|Qty:7"));
+    auto& app = program.app;
+    for (const char* column : {"Qty", "Bed"}) search::setColours(app, column, {rule("above|1||Red")});
+    app::setFileSetting(app, "filter.a", "qty>7 | [Qty]:7 \"Qty:7\"\nQty");
+    const auto sit = [&](const char* column, const char* name) {
+        program.platform.answers = {platform::Answer::Yes};
+        calc::designFrm form(app);
+        form.selectedRow = column[0] == 'B' ? 2 : 1;
+        form.fieldTxt = name;
+        *name == '\0' ? form.deleteBtn_Click() : form.changeBtn_Click();
+        form.doneBtn_Click();
+    };
+    const auto kept = [&] {
+        std::string all = search::withNewNames(app, app::fileSetting(app, "filter.a")) + "|";
+        for (const std::string& name : app::fileSettingNames(app, "colours.")) all += name + " ";
+        return all + (search::coloursOf(app, "Qty").empty() ? "" : "Qty") +
+               (search::coloursOf(app, "In-Stock").empty() ? "" : "In-Stock");
+    };
+    sit("Qty", "In-Stock");
+    sit("Bed", "");
+    const std::string renamed = "\"In-Stock\">7 | \"In-Stock\":7 \"Qty:7\"\nIn-Stock|";
+    EXPECT_EQ(kept(), renamed + "Qty Bed In-Stock");
+    const std::string other = program.path("other.fwk");
+    program.platform.files = {other};
+    program.run("mnuSaveAs");
+    EXPECT_EQ(kept(), renamed + "In-Stock In-Stock");
+    program.open(program.path("test.fwk"));
+    EXPECT_EQ(kept(), "qty>7 | [Qty]:7 \"Qty:7\"\nQty|Qty Bed Qty");
+    sit("Qty", "In-Stock");
+    program.run("Save");
+    program.open(program.path("test.fwk"));
+    EXPECT_EQ(kept(), renamed + "Bed In-Stock In-Stock");
 }
 
 struct Suggesting : Program {

@@ -3,6 +3,7 @@
 #include "core/dates.h"
 #include "core/format.h"
 #include "invoiceFixture.h"
+#include "search/filterMode.h"
 #include "shell/mainWindow.h"
 #include "summary/statisticsFrm.h"
 #include "summary/summaryPanel.h"
@@ -220,16 +221,26 @@ TEST(SummaryPanel, FollowsNarrowsAndHandsOn) {
     };
     EXPECT_EQ(seen(), "Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | -");
     EXPECT_EQ(seen(), "same Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | -");
+    const auto bar = [&] {
+        const search::FilterBarState& shown = search::filterBar(program.app);
+        return shown.text + "/" + shown.words + (shown.isOpen ? "" : " closed");
+    };
     panel.showGroup(0);
-    EXPECT_EQ(seen(), "Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | i1 i3");
+    EXPECT_EQ(seen() + bar(), "Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | i1 i3Bed=Hedge/");
     EXPECT_EQ(program.app.mainFrm.theListView, &program.app.document.searchLV);
     panel.showAll();
     EXPECT_FALSE(program.app.document.searchLV.Visible);
+    EXPECT_EQ(bar(), "/");
     program.find("Cost >= 2");
     panel.onlyFound_Click(panel.follow());
     EXPECT_EQ(seen(), "Hedge: 1 $2.00; Pond: 1 $3.00; all: 2 $5.00 | i1 i2");
     panel.showGroup(1);
-    EXPECT_EQ(seen(), "Hedge: 1 $2.00; Pond: 1 $3.00; all: 2 $5.00 | i2");
+    EXPECT_EQ(seen() + bar(), "Hedge: 1 $2.00; Pond: 1 $3.00; all: 2 $5.00 | i2Bed=Pond/");
+    search::setFilter(program.app, "-ir");
+    panel.onlyFound_Click(panel.follow());
+    EXPECT_EQ(seen(), "Hedge: 2 $3.00; all: 2 $3.00 | i1 i3");
+    panel.showGroup(0);
+    EXPECT_EQ(seen() + bar(), "Hedge: 2 $3.00; all: 2 $3.00 | i1 i3-ir Bed=Hedge/");
     program.find("Bed = pond");
     EXPECT_EQ(seen(), "Pond: 1 $3.00; all: 1 $3.00 | i2");
     panel.showAll();
@@ -250,6 +261,51 @@ TEST(SummaryPanel, FollowsNarrowsAndHandsOn) {
     program.platform.files = {program.path("sums")};
     panel.exportTable();
     EXPECT_TRUE(readBytes(program.path("sums.xlsx")).starts_with("PK"));
+}
+
+// What the language of the filters cannot tell apart, or does not know, is said in words.
+TEST(SummaryPanel, SaysWhyTheListIsShort) {
+    SearchProgram program(DataFile("Bed Day:1 Cost:2",
+                                   "North \"A\"|04/12/2015|$2.00;north \"a\"|05/01/2015|$3.00;|soon|-1;"
+                                   "a:b|06/30/2015|$12.50;|07/01/2016|$.00;a:bc||$100"));
+    for (const auto& each :
+         table("0 - a:b -> Bed=\"a:b\"/; 0 - (empty) -> Bed=\"\"/; 0 - North \"A\" -> /Bed: North \"A\"; "
+               "1 Year 2015 -> Day=2015/; 1 Quarter 2015-Q2 -> Day:2015-04..2015-06/; 1 Month 2015-06 -> "
+               "Day=2015-06/; 1 Day 06/30/2015 -> Day=06/30/2015/; 1 Day soon -> Day:soon/; "
+               "2 10 $10.00 to below $20.00 -> Cost>=10 Cost<20/; 2 10 -$10.00 to below $.00 -> Cost>=-10 "
+               "Cost<0/; 2 - $12.50 -> Cost=12.5/; 2 - $.00 -> Cost=0/")) {
+        SummaryPanel panel(program.app);
+        panel.follow();
+        panel.column_Click(0, each[0][0] - '0');
+        const std::size_t blank = each[0].find(' ', 2);
+        if (each[0][2] != '-') panel.step_Change(0, each[0].substr(2, blank - 2));
+        panel.recount();
+        const auto group = std::ranges::find(panel.summary.groups, each[0].substr(blank + 1),
+                                             [](const Group& one) { return one.name(); });
+        const std::size_t records = group == panel.summary.groups.end() ? 0 : group->records;
+        panel.showGroup(static_cast<std::size_t>(group - panel.summary.groups.begin()));
+        const search::FilterBarState& bar = search::filterBar(program.app);
+        EXPECT_EQ(bar.text + "/" + bar.words, each[1]) << each[0];
+        EXPECT_EQ(static_cast<std::size_t>(bar.found), records) << each[0];
+    }
+}
+
+TEST(SummaryPanel, SortsByItsHeadings) {
+    SearchProgram program(
+        DataFile("Bed Day:1 Cost:2", "b|01/02/2016|$9;a|02/01/2015|$10;c||-2;b|03/01/2014|;d|x|$10")
+            .section("Totaled Cols", "Cost|"));
+    SummaryPanel panel(program.app);
+    panel.follow();
+    panel.figure_Click(0, FigureKind::Greatest, true);
+    panel.recount();
+    std::string seen;
+    for (const std::size_t column : {0U, 1U, 1U, 3U, 3U, 2U, 2U, 0U, 9U}) {
+        panel.heading_Click(column);
+        for (std::size_t i = 0; i < panel.summary.groups.size(); ++i)
+            for (const core::Item* record : panel.summary.membersOf(i)) seen += record->subItem(1).view();
+        seen += ' ';
+    }
+    EXPECT_EQ(seen, "dcbba acdbb bbacd cbbad adbbc abbcd bbacd abbcd abbcd ");
 }
 
 // Each sheet has the headings, and a bar is as long as its group has records.

@@ -198,10 +198,10 @@ void FilterBar::showState() {
     const search::FilterBarState& bar = search::filterBar(app_);
     const QString text = toQt(bar.text);
     if (!typed_.isActive() && text_->text() != text) text_->setText(text);
-    const QString count = bar.isOn ? tr("%L1 of %L2").arg(bar.found).arg(bar.all) : QString();
+    const QString count = bar.narrows() ? tr("%L1 of %L2").arg(bar.found).arg(bar.all) : QString();
     // What is being typed is nothing to warn of.
     const bool isWrong = bar.error && !bar.error->isUnfinished;
-    const QString reason = bar.error ? toQt(bar.error->reason) : toQt(bar.doubt);
+    const QString reason = toQt(bar.error ? bar.error->reason : bar.words.empty() ? bar.doubt : bar.words);
     const bool isNews = count != count_->text() || reason != reason_->text();
     count_->setText(count);
     count_->setVisible(!count.isEmpty());

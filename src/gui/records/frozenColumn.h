@@ -23,6 +23,8 @@ public:
     // What a place on the list's viewport is in: the frozen column, or -1 where it is not.
     int column(QPoint place) const;
     bool isOver(int section) const { return section == section_ && !rows_->isHidden(); }
+    // How many pixels of such a place it hides.
+    int hidden(const QRect& cell) const { return rows_->isHidden() ? 0 : rows_->width() - cell.left(); }
     QHeaderView* header() const { return header_; }
 
 private:

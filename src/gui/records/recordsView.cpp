@@ -328,7 +328,7 @@ void RecordsView::keyPressEvent(QKeyEvent* event) {
         emit filterWanted();
         return;
     }
-    if (event->key() == Qt::Key_Escape && search::filterBar(app_).isOn) {
+    if (event->key() == Qt::Key_Escape && search::filterBar(app_).narrows()) {
         events_.run([&] { search::leaveFilter(app_); });
         return;
     }

@@ -65,12 +65,14 @@ QModelIndex RecordsView::indexAt(const QPoint& place) const {
     return section < 0 ? index : index.siblingAtColumn(section);
 }
 
-// The frozen column is in sight wherever the list stands.
+// The frozen column is in sight wherever the list stands, and hides what is beneath it.
 void RecordsView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     const int offset = horizontalScrollBar()->value();
     const bool isOver = frozen_ != nullptr && frozen_->isOver(index.column());
     QTreeView::scrollTo(index, hint);
-    if (isOver) horizontalScrollBar()->setValue(offset);
+    if (isOver) return horizontalScrollBar()->setValue(offset);
+    const int hidden = frozen_ == nullptr ? 0 : frozen_->hidden(visualRect(index));
+    if (hidden > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - hidden);
 }
 
 // Dragging and sizing columns goes into the column table and so into the next save, but it does not

@@ -2,6 +2,7 @@
 
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/tickMenu.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -135,7 +136,13 @@ QWidget* SummaryDock::makeResult() {
     table_->setModel(model_);
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->header()->setStretchLastSection(false);
+    table_->header()->setSectionsClickable(true);
+    table_->header()->setSortIndicatorShown(true);
+    table_->header()->setToolTip(tr("A click sorts the groups, and another one the other way"));
     useListLook(*table_);
+    connect(table_->header(), &QHeaderView::sectionClicked, this, &SummaryDock::sortBy);
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(table_, &QWidget::customContextMenuRequested, this, &SummaryDock::showSortMenu);
     chart_ = new BarChart;
     chart_->setObjectName(QStringLiteral("summaryBars"));
     connect(table_, &QTreeView::clicked, this, [this](const QModelIndex& index) { choose(index.row()); });
@@ -177,7 +184,7 @@ QLayout* SummaryDock::makeButtons() {
     note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(note_, 1);
     all_ = makeButton("allBtn", tr("&All Records"), &summary::SummaryPanel::showAll);
-    all_->setToolTip(tr("Puts all records back in place of those of a group"));
+    all_->setToolTip(tr("Puts all records back in place of those of a group (Esc)"));
     row->addWidget(all_);
     copy_ = makeButton("copySummary", tr("&Copy"), &summary::SummaryPanel::copy);
     outputs_ = {copy_, makeButton("exportSummary", tr("E&xport..."), &summary::SummaryPanel::exportTable),
@@ -234,7 +241,8 @@ void SummaryDock::fillFigures() {
         figureMenu_->clear();
         for (std::size_t i = 0; i < panel_.figureColumns.size(); ++i) {
             const auto& column = panel_.figureColumns[i];
-            QMenu* menu = figureMenu_->addMenu(withoutMnemonics(toQt(column.name)));
+            auto* menu = new TickMenu(withoutMnemonics(toQt(column.name)), figureMenu_);
+            figureMenu_->addMenu(menu);
             menu->menuAction()->setData(wanted[static_cast<qsizetype>(i)]);
             for (const summary::FigureKind kind : summary::figureKinds) {
                 if (!summary::isCounted(kind, column.type)) continue;
@@ -261,6 +269,8 @@ void SummaryDock::showSummary() {
         model_->show(panel_.summary);
         table_->setCurrentIndex(model_->index(std::clamp(current, 0, std::max(0, model_->groups())), 0));
         if (columns != model_->columnCount() || current < 0) fitColumns();
+        table_->header()->setSortIndicator(static_cast<int>(panel_.sortColumn),
+                                           panel_.bDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
         fillBox(*bars_, panel_.barNames);
         bars_->setCurrentIndex(panel_.bars);
         note_->setText(toQt(panel_.note));
@@ -278,6 +288,29 @@ void SummaryDock::fitColumns() {
         table_->resizeColumnToContents(i);
         table_->setColumnWidth(i, std::min(table_->columnWidth(i), mostOfColumn * fontMetrics().height()));
     }
+}
+
+void SummaryDock::sortBy(int column) {
+    on([&] { panel_.heading_Click(static_cast<std::size_t>(column)); });
+}
+
+// What the headings do for the mouse.
+void SummaryDock::showSortMenu(const QPoint& place) {
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("summaryMenu"));
+    menu.setAccessibleName(tr("Sort By"));
+    const auto sorted = static_cast<int>(panel_.sortColumn);
+    for (int i = 0; i < model_->columnCount(); ++i) {
+        const QString heading = model_->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
+        const bool bTurns = i == sorted;
+        QAction* action = menu.addAction((!bTurns              ? tr("Sort by %1")
+                                          : panel_.bDescending ? tr("Sort by %1, Ascending")
+                                                               : tr("Sort by %1, Descending"))
+                                             .arg(withoutMnemonics(heading)));
+        connect(action, &QAction::triggered, this, [this, i] { sortBy(i); });
+        if (bTurns) menu.setDefaultAction(action);
+    }
+    menu.exec(table_->viewport()->mapToGlobal(place));
 }
 
 // A group, or all records for the grand total.
@@ -301,9 +334,13 @@ bool SummaryDock::eventFilter(QObject* watched, QEvent* event) {
         if (event->type() == QEvent::KeyPress) copy_->click();
         return true;
     }
-    if (watched == table_ && event->type() == QEvent::KeyPress) {
+    if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        if (key == Qt::Key_Escape && panel_.canShowAll) {
+            choose(model_->groups()); // as on the total
+            return true;
+        }
+        if (watched == table_ && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
             choose(table_->currentIndex().row());
             return true;
         }

@@ -49,6 +49,8 @@ private:
     void fillFigures();
     void showSummary();
     void fitColumns();
+    void sortBy(int column);
+    void showSortMenu(const QPoint& place);
     void choose(int row);
 
     app::App& app_;

@@ -12,13 +12,14 @@ namespace gui {
 namespace {
 
 constexpr std::size_t mostLetters = 300; // shown of a text: a view measures all of them each time it paints
+constexpr std::size_t mostTold = 2000;   // of it, when the pointer stays
 
 } // namespace
 
 void SummaryModel::show(const summary::Summary& summary) {
     beginResetModel();
     groupColumns_ = summary.request.by.size();
-    table_ = summary::tableOf(summary, {});
+    table_ = summary::tableOf(summary, {}, mostTold);
     endResetModel();
 }
 
