@@ -248,6 +248,10 @@ void leaveFilter(App& app) {
     leaveResults(app);
 }
 
+bool isShowingFound(const App& app) {
+    return stateOf(app).isShowing;
+}
+
 void mnuFilter_Click(App& app) {
     if (!canFilter(app)) return;
     app::showReportTab(app);

@@ -45,6 +45,8 @@ Passed recordsPassing(app::App& app, const Filter& filter);
 Filter parseFilter(const app::App& app, const core::RecordsList& list, std::string_view text,
                    std::string_view scope = {});
 
+// Whether the change that is being told is that other records are on show, and nothing else.
+bool isShowingFound(const app::App& app);
 // Opens the bar over the records.
 void mnuFilter_Click(app::App& app);
 bool canFilter(const app::App& app);

@@ -2,6 +2,8 @@
 
 #include "app/hourglass.h"
 #include "app/longWork.h"
+#include "core/runTimeError.h"
+#include "core/text.h"
 #include "search/codeSource.h"
 #include "search/searchMode.h"
 
@@ -17,35 +19,23 @@ using core::RecordsList;
 
 namespace {
 
-// The codes that a cell of any column names.
-std::set<std::string, std::less<>> usedCodes(const RecordsList& records) {
+// The codes that the records name when these cells are written.
+std::set<std::string, std::less<>> usedCodes(const RecordsList& records, const Column& column,
+                                             const MadeCodes& made) {
     std::set<std::string, std::less<>> names;
+    std::unordered_set<const Item*> written;
+    for (const auto& [record, name] : made.cells) {
+        written.insert(record);
+        names.insert(name);
+    }
     records.forEach([&](const Item& record) {
-        for (const std::string_view cell : record.cells)
+        for (const Column& each : records.columns) {
+            if (each.Index == 1 || (each.Index == column.Index && written.contains(&record))) continue;
+            const std::string_view cell = RecordsList::cell(record, each);
             if (codes::isCodeEntryName(cell)) names.emplace(cell);
+        }
     });
     return names;
-}
-
-void storeAll(App& app, const std::string& columnName, const MadeCodes& made, bool bDropUnused) {
-    if (!bDropUnused) return layout::storePictures(app, made.pictures);
-    const Column& column = app.document.LV.columns[columnName];
-    std::unordered_set<const Item*> written;
-    for (const auto& [record, name] : made.cells) written.insert(record);
-    std::set<std::string, std::less<>> used = usedCodes(app.document.LV);
-    for (const auto& [record, name] : made.cells) used.erase(RecordsList::cell(*record, column).str());
-    // One that goes from a cell may stand in another.
-    app.document.LV.forEach([&](const Item& record) {
-        for (const Column& each : app.document.LV.columns)
-            if (each.Index != 1 && (each.Index != column.Index || !written.contains(&record)))
-                if (const std::string_view cell = RecordsList::cell(record, each);
-                    codes::isCodeEntryName(cell))
-                    used.emplace(cell);
-    });
-    for (const auto& [record, name] : made.cells) used.insert(name);
-    layout::storePictures(app, made.pictures, [&](std::string_view name) {
-        return codes::isCodeEntryName(name) && !used.contains(name);
-    });
 }
 
 } // namespace
@@ -97,8 +87,12 @@ MadeCodes makeCodes(App& app, const CodeOrder& order, const std::vector<Item*>& 
 
 int writeCodes(App& app, const std::string& columnName, const MadeCodes& made, bool bDropUnused) {
     const app::Hourglass hourglass(app);
-    storeAll(app, columnName, made, bDropUnused);
     const Column& column = app.document.LV.columns[columnName];
+    const auto used =
+        bDropUnused ? usedCodes(app.document.LV, column, made) : std::set<std::string, std::less<>>();
+    layout::storePictures(app, made.pictures, [&](std::string_view name) {
+        return bDropUnused && codes::isCodeEntryName(name) && !used.contains(name);
+    });
     int changed = 0;
     for (const auto& [record, name] : made.cells) {
         core::CellText& cell = RecordsList::cell(*record, column);

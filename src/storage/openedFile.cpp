@@ -144,8 +144,10 @@ std::optional<std::string> guardOpening(App& app, const std::string& path) {
 void followOpened(App& app) {
     openedFile(app).path = app.platform.guardsFiles() ? openedFile(app).path : app.document.currentFile;
     if (!app.platform.guardsFiles()) return;
+    // A new database was not there yet when its place was guarded.
+    const auto& next = openedFile(app).next;
     const FileState state =
-        openedFile(app).next ? openedFile(app).next->state : FileState::of(app.document.currentFile);
+        next && next->state.isThere() ? next->state : FileState::of(app.document.currentFile);
     takeNext(app);
     remember(app, state);
 }

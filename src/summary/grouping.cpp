@@ -154,6 +154,11 @@ std::uint32_t GroupReader::groupOf(std::string_view cell) {
     const auto [place, isNew] = byCell_.try_emplace(cell, 0);
     if (!isNew) return place->second;
     GroupKey key = keyOf(cell);
+    if (key.rank == GroupKey::Rank::Text) { // as it stands in the cell
+        place->second = static_cast<std::uint32_t>(keys_.size());
+        keys_.push_back(std::move(key));
+        return place->second;
+    }
     // Numbers that are written in several ways are one group, and a text "(empty)" is not the empty one.
     std::string identity(1, static_cast<char>(key.rank));
     constexpr double mostDigits = 1e15; // of a text of an amount

@@ -53,7 +53,8 @@ int firstGroupColumn(const core::Document& document, const std::vector<std::stri
 } // namespace
 
 void followChanges(app::App& app) {
-    ++app.rooms.of<ChangeCount>().changes;
+    // With each key in the filter bar, that would be; see followResults.
+    if (!search::isShowingFound(app)) ++app.rooms.of<ChangeCount>().changes;
 }
 
 std::uint64_t changesSoFar(const app::App& app) {
@@ -158,6 +159,8 @@ void SummaryPanel::followResults() {
     canShowAll = bResults;
     onlyFoundEnabled = bResults;
     if (bNarrowed_ && bResults && results.arrangement() == narrowed_) return;
+    if (bResults && onlyFound && found_ != results.arrangement()) isStale_ = true;
+    found_ = bResults ? results.arrangement() : 0;
     if (bNarrowed_) isStale_ = true;
     bNarrowed_ = false;
     baseKeys_.clear();

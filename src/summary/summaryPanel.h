@@ -87,6 +87,7 @@ private:
     std::string sortHeading_;            // of the column that is sorted by; empty for the first one
     std::uint64_t narrowed_ = 0;         // that group, as searchLV's arrangement
     bool bNarrowed_ = false;
+    std::uint64_t found_ = 0; // the results that were counted, likewise
 };
 
 } // namespace summary

@@ -1,5 +1,6 @@
 #include "databases.h"
 #include "search/makeCodeFrm.h"
+#include "shell/undo.h"
 
 #include <gtest/gtest.h>
 

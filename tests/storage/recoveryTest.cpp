@@ -4,6 +4,7 @@
 #include "entry/navBar.h"
 #include "shell/mainWindow.h"
 #include "storage/cleanDatabase.h"
+#include "storage/newDatabase.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
@@ -363,6 +364,12 @@ TEST_F(Recovery, KnowsItsOwnWritesFromThoseOfOthers) {
         storage::SaveFile(window.app, false, false);
         EXPECT_NE(window.dataFileOf(file).find(saved), std::string::npos);
     }
+    window.platform.files = {window.path("new.fwk")};
+    window.platform.answers = {platform::Answer::No};
+    window.platform.onForm = [&](std::string_view) { window.app.mainFrm.bDatabaseTypeChosen = true; };
+    storage::newDatabase(window.app, false);
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
+    window.open(file);
     fs::remove(file);
     EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::Gone);
     storage::writeOpenedAgain(window.app);

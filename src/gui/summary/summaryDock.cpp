@@ -5,6 +5,7 @@
 #include "gui/widgets/tickMenu.h"
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -334,8 +335,18 @@ bool SummaryDock::eventFilter(QObject* watched, QEvent* event) {
         if (event->type() == QEvent::KeyPress) copy_->click();
         return true;
     }
+    const bool bMenu = watched == table_ && event->type() == QEvent::ContextMenu;
+    // The key itself comes too, on every platform.
+    if (bMenu && static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) return true;
     if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
+        const auto* pressed = static_cast<QKeyEvent*>(event);
+        const int key = pressed->key();
+        const bool bMenuKey =
+            key == Qt::Key_Menu || (key == Qt::Key_F10 && pressed->modifiers() == Qt::ShiftModifier);
+        if (watched == table_ && bMenuKey) {
+            showSortMenu(table_->visualRect(table_->currentIndex()).bottomLeft());
+            return true;
+        }
         if (key == Qt::Key_Escape && panel_.canShowAll) {
             choose(model_->groups()); // as on the total
             return true;
