@@ -42,7 +42,7 @@ History& historyOf(const App& app) {
 
 // What changes records is better named after the command than after what came of it.
 std::string_view nameOfCommand(std::string_view key) {
-    static constexpr std::array<std::array<std::string_view, 2>, 11> names = {{
+    static constexpr std::array<std::array<std::string_view, 2>, 12> names = {{
         {"mnuDuplicate", "Duplicate Record"},
         {"mnuReplace", "Find And Replace"},
         {"mnuPaste", "Paste"},

@@ -2,6 +2,7 @@
 
 #include "app/hourglass.h"
 #include "app/windowState.h"
+#include "core/text.h"
 #include "exchange/csvWriter.h"
 #include "exchange/textRows.h"
 

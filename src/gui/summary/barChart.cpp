@@ -21,10 +21,10 @@ namespace {
 
 constexpr int gap = 6; // pixels between name, bar and value
 constexpr int mostMeasured = 2000;
-constexpr std::size_t mostLetters = 200; // of a name, which no bar leaves room for
+constexpr std::size_t mostLettersOfName = 200; // of a name, which no bar leaves room for
 
 QString nameOf(const summary::Group& group) {
-    return toQt(group.name(mostLetters));
+    return toQt(group.name(mostLettersOfName));
 }
 
 } // namespace
