@@ -15,6 +15,7 @@ TEST_F(Printing, ReportsAndLayouts) {
                       .objects("F|Name|1440|1440|4000|400;L|Label|1440|1900|2000|400")
                       .section("Report Data", "1|1|1|1|1|1|Stock|True|"));
     make("wide.fwk", DataFile("Name", "a").objects("F|Name|1440|1440|12000|1000"));
+    make("odd.fwk", DataFile("Name", "a").section("Report Data", "1|1|1|1|300|1|Odd|True|"));
     make("none.fwk", DataFile("Name"));
     EXPECT_EQ(run("ln -s a.fwk link.fwk").code, 0);
     expect(R"sh(
@@ -32,6 +33,8 @@ $ fwk layouts a.fwk -o a.pdf --many --records i2; pdftotext -layout a.pdf - | xa
 $ fwk report a.fwk -o a.pdf --paper a4; pdfinfo a.pdf | grep size -> Page size:       595 x 842 pts (A4) // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --paper A5; pdfinfo a.pdf | grep size; fwk info a.fwk --json | grep -c PaperSize.*1,
 Page size:       420 x 595 pts (A5) // 2 // @ a.pdf
+$ fwk report odd.fwk -o a.pdf; pdfinfo a.pdf | grep size -> Page size:       612 x 792 pts (letter)
+! odd.fwk: the paper with the code 300 is not known: it is printed on Letter // @ a.pdf
 $2 fwk report a.fwk -o a.pdf --paper Pizza -> ! --paper: "Pizza" is none of the papers: Letter, Letter small,...
 $ LC_ALL=de_DE fwk new de.fwk A:Text && fwk info de.fwk --json | grep -c PaperSize.*9, -> 2 // @ de.fwk
 $ fwk layouts wide.fwk -o a.pdf; pdftotext a.pdf - | xargs -> a // @ a.pdf
