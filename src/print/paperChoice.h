@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/platform.h"
+#include "app/app.h"
 
 #include <optional>
 #include <string>

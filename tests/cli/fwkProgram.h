@@ -42,7 +42,7 @@ protected:
         ::setenv("HOME", (world / "home").c_str(), 1);
         ::setenv("TMPDIR", temporary.c_str(), 1);
         ::unsetenv("XDG_CONFIG_HOME");
-        ::setenv("LC_ALL", "C.UTF-8", 1); // the paper of a new database
+        ::setenv("LC_ALL", "C.UTF-8", 1);                       // the paper of a new database
         ::setenv("XDG_DATA_HOME", (world / "data").c_str(), 1); // with the versions
         const std::string out = program.path("out");
         const bool ready = ::chdir(files.c_str()) == 0 && std::freopen("/dev/null", "r", stdin) &&

@@ -15,6 +15,7 @@ TEST_F(Printing, ReportsAndLayouts) {
                       .objects("F|Name|1440|1440|4000|400;L|Label|1440|1900|2000|400")
                       .section("Report Data", "1|1|1|1|1|1|Stock|True|"));
     make("wide.fwk", DataFile("Name", "a").objects("F|Name|1440|1440|12000|1000"));
+    make("odd.fwk", DataFile("Name", "a").section("Report Data", "1|1|1|1|300|1|Odd|True|"));
     make("none.fwk", DataFile("Name"));
     std::string rows;
     for (int i = 1; i <= 66; ++i)
@@ -45,11 +46,14 @@ Nut Label Bolt and washer Label // Pages:           2 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many; pdftotext -layout a.pdf - | xargs; pdfinfo a.pdf | grep Pages
 Bolt and washer Nut Label Label // Pages:           1 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many --records i2; pdftotext -layout a.pdf - | xargs -> Nut Label // @ a.pdf
-$ fwk report a.fwk -o a.pdf --paper a4; pdfinfo a.pdf | grep size -> Page size:       595 x 842 pts (A4) // @ a.pdf
-$ fwk layouts a.fwk -o a.pdf --paper A5; pdfinfo a.pdf | grep size; fwk info a.fwk --json | grep -c PaperSize.*1,
+$ fwk report a.fwk -o a.pdf --paper a4; pdfinfo a.pdf | grep Page.size -> Page size:       595 x 842 pts (A4) // @ a.pdf
+$ fwk layouts a.fwk -o a.pdf --paper A5; pdfinfo a.pdf | grep Page.size; fwk info a.fwk --json | grep -c PaperSize.*1,
 Page size:       420 x 595 pts (A5) // 2 // @ a.pdf
-$2 fwk report a.fwk -o a.pdf --paper Pizza -> ! --paper: "Pizza" is none of the papers: Letter, Letter small,...
-$ LC_ALL=de_DE fwk new de.fwk A:Text && fwk info de.fwk --json | grep -c PaperSize.*9, -> 2 // @ de.fwk
+$ fwk report odd.fwk -o a.pdf; pdfinfo a.pdf | grep Page.size -> Page size:       612 x 792 pts (letter)
+! the paper with the code 300 is not known: it is printed on Letter // @ a.pdf
+$ fwk report a.fwk -o a.pdf --paper Pizza 2>&1 | head -1 | cut -c 1-62
+fwk: --paper: "Pizza" is none of the papers: Letter, Letter sm
+$ LC_ALL=de_DE fwk new de.fwk A:Text; fwk info de.fwk --json | grep -c PaperSize.*9,; rm de.fwk -> 2
 $ fwk layouts wide.fwk -o a.pdf; pdftotext a.pdf - | xargs -> a // @ a.pdf
 $ fwk layouts books.fwk -o a.pdf --records i1; pdfimages -list a.pdf | grep -c ' image ' -> 2 // @ a.pdf
 $ fwk report a.fwk -o a.pdf; grep -aoE '<00(09|20)>' a.pdf | sort -u -> <0020>

@@ -67,7 +67,7 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
         load(app);
         EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
         const auto isPressed = [](const auto& control) { return control.second.Value; };
-        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 7 : 0);
+        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 8 : 0);
         shell::Form_QueryUnload(app);
         EXPECT_EQ(platform.settings, before);
     }

@@ -62,7 +62,7 @@ QToolBar* PreviewView::makeToolbar(CommandActions& actions) {
     place_->setObjectName(QStringLiteral("previewPlace"));
     place_->setContentsMargins(8, 0, 8, 0);
     // With room, so that the buttons behind it stay where they are when pages are turned.
-    place_->setMinimumWidth(place_->fontMetrics().horizontalAdvance(tr("Record 88888 of 88888")) + 16);
+    place_->setMinimumWidth(place_->fontMetrics().horizontalAdvance(tr("Record 888 of 888")) + 16);
     bar->addWidget(place_);
     bar->addSeparator();
     for (const char* key : {"mnuZoomOut", "mnuZoomIn", "mnuFitPage", "mnuFitWidth"})
