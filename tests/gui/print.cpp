@@ -157,9 +157,12 @@ click fitWiden -> -fitText -fitWiden SB1_5=Document Modified
 press Ctrl+Z -> fitText=Too narrow for the longest text: Package (15 of 34 characters), Section (8 of 13 characters),
     Installed_KB (10 of 12 characters). SB1_5=Document Saved
 click PageSetup; click moreBtn -> reportChoicesFrm=Report Choices headsChk=* stepList=-
-focus groupList; type Since; focus stepList; type quarter; click pagesChk; press Return -> x
-press Escape -> x
+focus groupList; type Since; focus stepList; type quarter; click pagesChk; press Return -> -reportChoicesFrm
+    reportPageSetup=Report Page Setup titleTxt=Packages boldYesOpt=x letterOpt=x PortraitOpt=x leftTxt=1 rightTxt=1
+    TopTxt=1 bottomTxt=1 moreBtn=*
+press Escape; file out.pdf; click mnuPrint -> -reportPageSetup rptPreview2=*
 )");
+        QCOMPARE(printed(u"Since: .*-Q\\d"_s), u"16 of 612 x 792, 145"_s);
     }
 
     // The open database, by another name too, is no file to print into; others are asked about.

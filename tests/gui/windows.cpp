@@ -128,9 +128,9 @@ private slots:
             run.onDialog = look;
             for (const char* form :
                  {"disclaimFrm", "databaseTypeFrm", "designFrm", "entryFrm", "formulateFrm", "TotalsFrm",
-                  "mailFrm", "reportPageSetup", "layoutPageSetupFrm", "replaceFrm", "searchFrm", "serialFrm",
-                  "repeatFrm", "setValuesFrm", "duplicatesFrm", "serialCheckFrm", "statisticsFrm",
-                  "coloursFrm", "makeCodeFrm"})
+                  "mailFrm", "reportPageSetup", "reportChoicesFrm", "layoutPageSetupFrm", "replaceFrm",
+                  "searchFrm", "serialFrm", "repeatFrm", "setValuesFrm", "duplicatesFrm", "serialCheckFrm",
+                  "statisticsFrm", "coloursFrm", "makeCodeFrm"})
                 run.platform.showForm(form);
         }
         Session run(sample("books.fwk"), 26);

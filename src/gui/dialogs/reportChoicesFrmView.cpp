@@ -38,7 +38,8 @@ reportChoicesFrmView::reportChoicesFrmView(app::App& app, EventBoundary& events,
 QCheckBox* reportChoicesFrmView::makeCheck(const char* name, const QString& caption, bool& member) {
     auto* check = named(name, new QCheckBox(caption));
     check->setChecked(member);
-    connect(check, &QCheckBox::clicked, this, [this, &member](bool on_) { on([&] { member = on_; }); });
+    connect(check, &QCheckBox::clicked, this,
+            [this, &member](bool checked) { on([&] { member = checked; }); });
     return check;
 }
 

@@ -32,7 +32,9 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     buttons->addButton(ok, QDialogButtonBox::AcceptRole);
     buttons->addButton(apply, QDialogButtonBox::ApplyRole);
     buttons->addButton(cancel, QDialogButtonBox::RejectRole);
-    buttons->addButton(more, QDialogButtonBox::ResetRole);
+    auto* bottom = new QHBoxLayout; // the box would put a fourth button out of the way of the Tab key
+    bottom->addWidget(more);
+    bottom->addWidget(buttons, 1);
 
     auto* right = new QVBoxLayout;
     right->addWidget(title);
@@ -47,7 +49,7 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     sides->addLayout(right, 1);
     auto* column = new QVBoxLayout(this);
     column->addLayout(sides, 1);
-    column->addWidget(buttons);
+    column->addLayout(bottom);
     LV3_->setFocus();
     resize(em() * 32, sizeHint().height());
 }
