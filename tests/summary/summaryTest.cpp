@@ -226,7 +226,7 @@ TEST(SummaryPanel, FollowsNarrowsAndHandsOn) {
         return shown.text + "/" + shown.words + (shown.isOpen ? "" : " closed");
     };
     panel.showGroup(0);
-    EXPECT_EQ(seen() + bar(), "Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | i1 i3Bed=Hedge/");
+    EXPECT_EQ(seen() + bar(), "same Hedge: 2 $3.00; Pond: 1 $3.00; all: 3 $6.00 | i1 i3Bed=Hedge/");
     EXPECT_EQ(program.app.mainFrm.theListView, &program.app.document.searchLV);
     panel.showAll();
     EXPECT_FALSE(program.app.document.searchLV.Visible);
@@ -235,12 +235,12 @@ TEST(SummaryPanel, FollowsNarrowsAndHandsOn) {
     panel.onlyFound_Click(panel.follow());
     EXPECT_EQ(seen(), "Hedge: 1 $2.00; Pond: 1 $3.00; all: 2 $5.00 | i1 i2");
     panel.showGroup(1);
-    EXPECT_EQ(seen() + bar(), "Hedge: 1 $2.00; Pond: 1 $3.00; all: 2 $5.00 | i2Bed=Pond/");
+    EXPECT_EQ(seen() + bar(), "same Hedge: 1 $2.00; Pond: 1 $3.00; all: 2 $5.00 | i2Bed=Pond/");
     search::setFilter(program.app, "-ir");
     panel.onlyFound_Click(panel.follow());
     EXPECT_EQ(seen(), "Hedge: 2 $3.00; all: 2 $3.00 | i1 i3");
     panel.showGroup(0);
-    EXPECT_EQ(seen() + bar(), "Hedge: 2 $3.00; all: 2 $3.00 | i1 i3-ir Bed=Hedge/");
+    EXPECT_EQ(seen() + bar(), "same Hedge: 2 $3.00; all: 2 $3.00 | i1 i3-ir Bed=Hedge/");
     program.find("Bed = pond");
     EXPECT_EQ(seen(), "Pond: 1 $3.00; all: 1 $3.00 | i2");
     panel.showAll();
