@@ -174,6 +174,13 @@ window '^Find and Replace$'
 shot replace
 keys Escape
 back
+keys alt+e m
+window '^Make Code$'
+keys ctrl+a
+write '{Plant}, {Bed}'
+shot make-code
+keys Escape
+back
 click 180 71
 shot preview print-preview
 

@@ -81,7 +81,7 @@ std::string checkedNumber(Kind kind, std::string_view text, std::size_t wanted) 
 
 void checkBars(std::string_view text) {
     if (const std::size_t place = placeOfOther(text, [](char c) { return c >= ' ' && c <= '~'; }))
-        refuse(Kind::Code128, text, atPlace(text, place, " has no bars; a QR code takes it"));
+        refuse(Kind::Code128, text, atPlace(text, place, " has no bars, but a QR code takes it"));
     if (text.size() > mostInBars) {
         std::string reason = "it has ";
         reason.append(std::to_string(text.size())).append(" characters, and at most ");

@@ -73,8 +73,8 @@ private:
     static const Step* next(const std::vector<Step>& steps);
     static std::size_t loudSteps(const std::vector<Step>& steps);
     Step lookAgain(const core::Document& document, bool bRecords);
-    void go(core::Document& document, std::vector<Step>& from, std::vector<Step>& to, const SwapPictures& swap,
-            bool bBack);
+    void go(core::Document& document, std::vector<Step>& from, std::vector<Step>& to,
+            const SwapPictures& swap, bool bBack);
     void forgetOldest();
 
     bool isStarted_ = false;

@@ -78,7 +78,10 @@ void makeCodeFrm::takeRule() {
         KindIndex = static_cast<int>(rule->kind);
         Text1 = rule->source;
     } else if (Text1.empty() && !columns.empty()) {
-        Text1 = inBraces(columns.front());
+        const auto text = std::ranges::find_if(columns, [this](const std::string& name) {
+            return app_.document.LV.columns[name].isType(ColumnType::Text);
+        });
+        Text1 = inBraces(text == columns.end() ? columns.front() : *text);
     }
     SelStart = static_cast<int>(core::length(Text1));
 }
@@ -168,8 +171,8 @@ void makeCodeFrm::showRefused(const std::vector<FaultyText>& faulty) {
         List3.push_back({std::to_string(app_.document.LV.indexOf(*each.record)),
                          nameOf(app_.document, *each.record), each.reason});
     Label2 = "Nothing has been made.  ";
-    Label2.append(counted(faulty.size(), "record has a text", "records have texts"));
-    Label2.append(" that gives no code");
+    Label2.append(counted(faulty.size(), "record has a text that gives no code",
+                          "records have texts that give no code"));
     OKButtonEnabled = false;
 }
 

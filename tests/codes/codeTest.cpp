@@ -12,7 +12,7 @@ TEST(Codes, WhatTheBarsSayOrWhyThereAreNone) {
                "ean13 40063x -> EAN-13 of 40063x: \"x\" at place 6 is no digit; "
                "ean8 12 -> EAN-8 of 12: it has 2 digits, and should have 8, or 7 without the check "
                "digit; qr   -> QR: there is no text; qr \u00fc\u20ac -> \u00fc\u20ac; "
-               "code128 M\u00fc -> Code 128 of M\u00fc: \"\u00fc\" at place 2 has no bars; a QR code "
+               "code128 M\u00fc -> Code 128 of M\u00fc: \"\u00fc\" at place 2 has no bars, but a QR code "
                "takes it; datamatrix A b -> A b")) {
         const std::size_t blank = row[0].find(' ');
         const codes::Kind kind = codes::kindOf(row[0].substr(0, blank)).value();

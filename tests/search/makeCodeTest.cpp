@@ -65,6 +65,7 @@ TEST(MakeCode, AllOrNoneUndoneAndMadeAnew) {
     EXPECT_EQ(program.app.document.LV.at(2).subItem(3).str(), before);
     program.run("mnuUndo");
     EXPECT_EQ(pictures(program), "--? 0");
+    shell::afterEvent(program.app);
     program.run("mnuRedo");
     EXPECT_EQ(pictures(program), "+++ 3");
     EXPECT_EQ(program.told(), "");

@@ -7,6 +7,7 @@
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -56,6 +57,7 @@ makeCodeFrmView::makeCodeFrmView(app::App& app, EventBoundary& events, QWidget* 
     Label2_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     column->addWidget(Label2_);
     refused_ = makeRefused();
+    refused_->hide(); // until there are some
     column->addWidget(refused_, 1);
     OKButton_ = makeButton("OKButton", tr("&Make"), [this] { form_.OKButton_Click(); });
     OKButton_->setDefault(true);
@@ -64,7 +66,7 @@ makeCodeFrmView::makeCodeFrmView(app::App& app, EventBoundary& events, QWidget* 
     connect(Check1_, &QCheckBox::clicked, this,
             [this](bool checked) { on([&] { form_.Check1_Click(checked); }); });
     Text1_->setFocus();
-    resize(em() * 38, sizeHint().height());
+    resize(em() * 38, em() * 20);
 }
 
 QWidget* makeCodeFrmView::makeSource() {
@@ -121,7 +123,8 @@ QWidget* makeCodeFrmView::makePicture() {
     pictureText_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     column->addWidget(Label1_);
     column->addWidget(picture_);
-    column->addWidget(pictureText_, 1);
+    column->addWidget(pictureText_);
+    column->addStretch(1);
     return part;
 }
 
@@ -135,7 +138,7 @@ QWidget* makeCodeFrmView::makeRefused() {
     List3_->header()->setStretchLastSection(true);
     List3_->setColumnWidth(0, em() * 4);
     List3_->setColumnWidth(1, em() * 9);
-    List3_->setMinimumHeight(em() * 8);
+    List3_->setMinimumHeight(em() * 5);
     connect(Check2_, &QCheckBox::clicked, this,
             [this](bool checked) { on([&] { form_.Check2_Click(checked); }); });
     column->addWidget(List3_, 1);
@@ -157,11 +160,18 @@ void makeCodeFrmView::showPicture() {
     pictureText_->setText(text);
 }
 
+// Within the screen.
+void makeCodeFrmView::makeRoom() {
+    const QRect room = screen()->availableGeometry();
+    resize(width(), std::min(height() + refused_->sizeHint().height(), room.height()));
+    move(x(), std::max(room.top(), std::min(y(), room.bottom() - height())));
+}
+
 void makeCodeFrmView::showRefused() {
     const bool isShown = !form_.List3.empty();
     if (isShown != refused_->isVisibleTo(this)) {
         refused_->setVisible(isShown);
-        if (isShown) adjustSize();
+        if (isShown) makeRoom();
     }
     if (List3_->topLevelItemCount() == static_cast<int>(form_.List3.size())) return;
     List3_->clear();

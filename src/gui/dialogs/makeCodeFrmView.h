@@ -29,6 +29,7 @@ private:
     QWidget* makePicture();
     QWidget* makeRefused();
     void showPicture();
+    void makeRoom();
     void showRefused();
 
     search::makeCodeFrm form_;
