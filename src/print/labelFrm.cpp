@@ -213,8 +213,8 @@ void labelFrm::showLabel() {
     const core::RecordsList& list = *app_.mainFrm.theListView;
     const int records = std::max(list.count() - 1, 0); // without the Totals row
     row_ = std::clamp(row_, 1, std::max(records, 1));
-    recordLbl =
-        records == 0 ? "No records yet" : "Record " + std::to_string(row_) + " of " + std::to_string(records);
+    recordLbl = records == 0 ? "No records yet"
+                             : "Record " + std::to_string(row_) + " of " + std::to_string(records) + ".";
     drawing::PageSetup setup;
     setup.PaperSize = drawing::customPaperCode;
     setup.Width = std::lround(stock->width);
@@ -223,7 +223,7 @@ void labelFrm::showLabel() {
     sizeLbl.clear();
     if (!fault.empty()) return;
     design_ = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
-    sizeLbl = core::numberText(design_.FontSize) + " points";
+    sizeLbl = "Text of " + core::numberText(design_.FontSize) + " points";
     if (!design_.bFits) sizeLbl += ": the longest texts are printed smaller, or are cut at the edge";
     LabelDesign shown = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
     if (records > 0) {

@@ -6,10 +6,13 @@
 #include "shell/undo.h"
 #include "table.h"
 
+#include <fstream>
+
 namespace {
 
 std::vector<print::LabelStock> knownStocks() {
-    return print::readLabelStocks(PrintProgram::read(SAMPLES_DIR "/../stocks/labels.tsv"));
+    std::ifstream file(SAMPLES_DIR "/../stocks/labels.tsv");
+    return print::readLabelStocks(std::string(std::istreambuf_iterator<char>(file), {}));
 }
 
 // A sheet of two by three labels, a millimetre apart.
