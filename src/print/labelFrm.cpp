@@ -213,8 +213,9 @@ void labelFrm::showLabel() {
     const core::RecordsList& list = *app_.mainFrm.theListView;
     const int records = std::max(list.count() - 1, 0); // without the Totals row
     row_ = std::clamp(row_, 1, std::max(records, 1));
-    recordLbl = records == 0 ? "No records yet"
-                             : "Record " + std::to_string(row_) + " of " + std::to_string(records) + ".";
+    recordLbl = records == 0 ? "No records yet" : "Record ";
+    if (records > 0)
+        recordLbl.append(std::to_string(row_)).append(" of ").append(std::to_string(records)).append(".");
     drawing::PageSetup setup;
     setup.PaperSize = drawing::customPaperCode;
     setup.Width = std::lround(stock->width);
@@ -223,7 +224,8 @@ void labelFrm::showLabel() {
     sizeLbl.clear();
     if (!fault.empty()) return;
     design_ = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
-    sizeLbl = "Text of " + core::numberText(design_.FontSize) + " points";
+    sizeLbl = "Text of ";
+    sizeLbl.append(core::numberText(design_.FontSize)).append(" points");
     if (!design_.bFits) sizeLbl += ": the longest texts are printed smaller, or are cut at the edge";
     LabelDesign shown = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
     if (records > 0) {
@@ -303,11 +305,11 @@ void labelFrm::finish() {
     const int objects = app_.document.layout.count();
     int answer = 0;
     if (objects > 0) {
-        const std::string count = std::to_string(objects) + (objects == 1 ? " object." : " objects.");
-        answer = app_.platform.choose("The layout has " + count +
-                                          "  The new label can take its place, or you keep your design and "
-                                          "print it on these labels.",
-                                      "Label Wizard", {"Replace The Layout", "Keep The Layout"});
+        std::string question = "The layout has ";
+        question.append(std::to_string(objects)).append(objects == 1 ? " object" : " objects");
+        question.append(".  The new label can take its place, or you keep your design and print it on these "
+                        "labels.");
+        answer = app_.platform.choose(question, "Label Wizard", {"Replace The Layout", "Keep The Layout"});
     }
     if (answer < 0) return;
     if (answer == 0)
