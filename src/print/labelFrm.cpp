@@ -1,5 +1,6 @@
 #include "print/labelFrm.h"
 
+#include "app/fileSettings.h"
 #include "core/number.h"
 #include "core/objectRef.h"
 #include "core/text.h"
@@ -21,6 +22,8 @@ namespace {
 
 constexpr std::array<float, 12> sizes = {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 24, 36};
 constexpr std::string_view ownMaker = "Own size";
+constexpr std::string_view linesSetting = "labels.lines", centredSetting = "labels.centred",
+                           pictureSetting = "labels.picture", sizeSetting = "labels.size";
 
 bool isStock(const LabelStock& a, const LabelStock& b) {
     return labelStockLine(a) == labelStockLine(b);
@@ -53,8 +56,7 @@ labelFrm::labelFrm(App& app) : app_(app), opening_(app.rooms.of<LabelOpening>())
     }
     sizeCbo.emplace_back("As large as fits");
     for (const float size : sizes) sizeCbo.push_back(core::numberText(size) + " points");
-    for (const std::string& line : proposedLabel(app.document).lines)
-        linesTxt.append(linesTxt.empty() ? 0 : 1, '\n').append(line);
+    loadText();
     if (const core::Item* record = entry::currentRecord(app); record != nullptr && !record->isTotals())
         row_ = app.mainFrm.theListView->indexOf(*record);
     const std::optional<LabelChoice> kept = keptLabelChoice(app);
@@ -64,6 +66,33 @@ labelFrm::labelFrm(App& app) : app_(app), opening_(app.rooms.of<LabelOpening>())
     bOwnSize = kept ? kept->stock.maker == ownMaker : opening_.stocks.empty();
     find();
     show();
+}
+
+// What stood on the label last, as long as there are its columns.
+void labelFrm::loadText() {
+    linesTxt = app::fileSetting(app_, linesSetting);
+    bCentred = !app::fileSetting(app_, centredSetting).empty();
+    const auto entryOf = [&](const std::vector<std::string>& entries, std::string_view setting) {
+        const auto found = std::ranges::find(entries, app::fileSetting(app_, setting));
+        return found == entries.end() ? 0 : static_cast<int>(found - entries.begin());
+    };
+    pictureIndex = entryOf(pictureCbo, pictureSetting);
+    sizeIndex = entryOf(sizeCbo, sizeSetting);
+    if (faultOf(app_.document, text()).empty()) return;
+    linesTxt.clear();
+    for (const std::string& line : proposedLabel(app_.document).lines)
+        linesTxt.append(linesTxt.empty() ? 0 : 1, '\n').append(line);
+}
+
+// One that is too long to be kept is proposed anew.
+void labelFrm::keepText() {
+    app::setFileSetting(app_, linesSetting, linesTxt);
+    app::setFileSetting(app_, centredSetting, bCentred ? "1" : "");
+    const auto entry = [](const std::vector<std::string>& entries, int index) {
+        return index == 0 ? std::string() : entries.at(static_cast<std::size_t>(index));
+    };
+    app::setFileSetting(app_, pictureSetting, entry(pictureCbo, pictureIndex));
+    app::setFileSetting(app_, sizeSetting, entry(sizeCbo, sizeIndex));
 }
 
 // The sheet that was used last is the one that is proposed.
@@ -320,6 +349,7 @@ void labelFrm::finish() {
     LabelChoice whole = choice;
     whole.stock = *stock;
     keepLabelChoice(app_, whole);
+    if (answer == 0) keepText();
     app::setDocumentModified(app_, true);
     layout::InitLayout(app_, layout::isDesignMode(app_));
     opening_.bFinished = true;

@@ -213,6 +213,7 @@ TEST_F(Labels, TheWizardSetsAPageAndADesignInOneStep) {
     EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 1);
     EXPECT_EQ(app.document.layout.layoutField[1].Left, 1440);
     EXPECT_FALSE(print::labelChoice(app)); // the design that it was for is gone
+    EXPECT_EQ(print::labelFrm(app).linesTxt, "To {Name}"); // of the last time
     app.document.lockPassword = "x";
     platform.forms.clear();
     run("mnuLabels");

@@ -63,7 +63,7 @@ labelFrmView::labelFrmView(app::App& app, EventBoundary& events, QWidget* parent
     column->addWidget(pages_, 1);
     column->addWidget(faultLbl_);
     column->addLayout(makeButtons());
-    resize(em() * 50, em() * 34);
+    resize(em() * 56, em() * 36);
 }
 
 QLayout* labelFrmView::makeButtons() {
