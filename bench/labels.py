@@ -5,7 +5,7 @@ Fails when one is further off than 0.1 mm, or when the labels take longer than 2
 
 import csv, os, re, subprocess, sys, tempfile, time
 
-STOCKS = ["Avery L7163", "Avery 5160", "Avery L7651", "Avery 5163", "Avery L4731", "Avery 8371", "Herma 4226",
+STOCKS = ["Avery L7163", "Avery 5160", "Avery L7651", "Avery 5163", "Herma 10001", "Avery 8371", "Pearl VM-5040",
           "Avery 5267", "Zweckform 3474", "Avery L7160"]
 MOST_OFF, MOST_SECONDS = 0.1, 2.0
 PROJECT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")

@@ -8,6 +8,7 @@
 #include "cli/session.h"
 #include "core/text.h"
 #include "drawing/papers.h"
+#include "print/labelChoice.h"
 #include "print/layoutPrinting.h"
 #include "print/previewPage.h"
 #include "print/reportPrinting.h"
@@ -17,6 +18,7 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <utility>
 
 namespace cli {
 
@@ -117,11 +119,21 @@ std::vector<int> rowsOf(const PrintOptions& options, core::RecordsList& list) {
     return rows;
 }
 
+// The window knows the file by its whole path.
+void useChosenLabels(app::App& app) {
+    app::keepFileSettings(app, platform::FileSettings::defaultFile());
+    std::string& path = app.document.currentFile;
+    const std::string told = std::exchange(path, std::filesystem::absolute(path).string());
+    if (const auto choice = print::labelChoice(app)) print::useLabelChoice(app, *choice);
+    path = told;
+}
+
 void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) {
     app.mainFrm.selectedRows = rows;
     print::previewPage(app).bLayoutSelectedOnly = !rows.empty();
     print::previewPage(app).iLayoutIndex = 0;
     app.mainFrm.theListView->MultiSelect = false;
+    useChosenLabels(app);
     if (!print::PrintMultipleLayouts(app, target))
         throw Failure(app.document.currentFile, "no layout fits on a sheet");
 }
@@ -130,7 +142,6 @@ int printLayouts(const PrintOptions& options) {
     Session session(options.file);
     printInto(session, options.output, [&](app::App& app, DrawTarget& target) {
         core::Document& document = app.document;
-        app::keepFileSettings(app, platform::FileSettings::defaultFile()); // which labels were chosen
         // The layout shows an invoice as it stands in LV, whichever view the lists have.
         core::RecordsList& list = document.LV;
         std::vector<int> rows;

@@ -171,8 +171,8 @@ private:
     double needs(const MeasuredLine& line, std::size_t i) const {
         const double width = metrics_.textWidth(font_, line.longest[i]);
         if (line.pieces[i].column == nullptr) return width;
-        constexpr double slack = 1.05, roundingOfWraps = 20;
-        return std::max(width * slack + roundingOfWraps, least);
+        constexpr double slack = 1.05, frame = 100; // of a box on the sheet
+        return std::max(width * slack + frame, least);
     }
     core::LayoutField& field(const Column& column) {
         core::LayoutField& field = objects_.layoutField.load(objects_.layoutField.lowestFreeIndex());

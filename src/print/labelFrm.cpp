@@ -1,5 +1,6 @@
 #include "print/labelFrm.h"
 
+#include "app/fileSettings.h"
 #include "core/number.h"
 #include "core/objectRef.h"
 #include "core/text.h"
@@ -21,6 +22,8 @@ namespace {
 
 constexpr std::array<float, 12> sizes = {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 24, 36};
 constexpr std::string_view ownMaker = "Own size";
+constexpr std::string_view linesSetting = "labels.lines", centredSetting = "labels.centred",
+                           pictureSetting = "labels.picture", sizeSetting = "labels.size";
 
 bool isStock(const LabelStock& a, const LabelStock& b) {
     return labelStockLine(a) == labelStockLine(b);
@@ -53,8 +56,7 @@ labelFrm::labelFrm(App& app) : app_(app), opening_(app.rooms.of<LabelOpening>())
     }
     sizeCbo.emplace_back("As large as fits");
     for (const float size : sizes) sizeCbo.push_back(core::numberText(size) + " points");
-    for (const std::string& line : proposedLabel(app.document).lines)
-        linesTxt.append(linesTxt.empty() ? 0 : 1, '\n').append(line);
+    loadText();
     if (const core::Item* record = entry::currentRecord(app); record != nullptr && !record->isTotals())
         row_ = app.mainFrm.theListView->indexOf(*record);
     const std::optional<LabelChoice> kept = keptLabelChoice(app);
@@ -64,6 +66,33 @@ labelFrm::labelFrm(App& app) : app_(app), opening_(app.rooms.of<LabelOpening>())
     bOwnSize = kept ? kept->stock.maker == ownMaker : opening_.stocks.empty();
     find();
     show();
+}
+
+// What stood on the label last, as long as there are its columns.
+void labelFrm::loadText() {
+    linesTxt = app::fileSetting(app_, linesSetting);
+    bCentred = !app::fileSetting(app_, centredSetting).empty();
+    const auto entryOf = [&](const std::vector<std::string>& entries, std::string_view setting) {
+        const auto found = std::ranges::find(entries, app::fileSetting(app_, setting));
+        return found == entries.end() ? 0 : static_cast<int>(found - entries.begin());
+    };
+    pictureIndex = entryOf(pictureCbo, pictureSetting);
+    sizeIndex = entryOf(sizeCbo, sizeSetting);
+    if (faultOf(app_.document, text()).empty()) return;
+    linesTxt.clear();
+    for (const std::string& line : proposedLabel(app_.document).lines)
+        linesTxt.append(linesTxt.empty() ? 0 : 1, '\n').append(line);
+}
+
+// One that is too long to be kept is proposed anew.
+void labelFrm::keepText() {
+    app::setFileSetting(app_, linesSetting, linesTxt);
+    app::setFileSetting(app_, centredSetting, bCentred ? "1" : "");
+    const auto entry = [](const std::vector<std::string>& entries, int index) {
+        return index == 0 ? std::string() : entries.at(static_cast<std::size_t>(index));
+    };
+    app::setFileSetting(app_, pictureSetting, entry(pictureCbo, pictureIndex));
+    app::setFileSetting(app_, sizeSetting, entry(sizeCbo, sizeIndex));
 }
 
 // The sheet that was used last is the one that is proposed.
@@ -213,8 +242,9 @@ void labelFrm::showLabel() {
     const core::RecordsList& list = *app_.mainFrm.theListView;
     const int records = std::max(list.count() - 1, 0); // without the Totals row
     row_ = std::clamp(row_, 1, std::max(records, 1));
-    recordLbl =
-        records == 0 ? "No records yet" : "Record " + std::to_string(row_) + " of " + std::to_string(records);
+    recordLbl = records == 0 ? "No records yet" : "Record ";
+    if (records > 0)
+        recordLbl.append(std::to_string(row_)).append(" of ").append(std::to_string(records)).append(".");
     drawing::PageSetup setup;
     setup.PaperSize = drawing::customPaperCode;
     setup.Width = std::lround(stock->width);
@@ -223,7 +253,8 @@ void labelFrm::showLabel() {
     sizeLbl.clear();
     if (!fault.empty()) return;
     design_ = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
-    sizeLbl = core::numberText(design_.FontSize) + " points";
+    sizeLbl = "Text of ";
+    sizeLbl.append(core::numberText(design_.FontSize)).append(" points");
     if (!design_.bFits) sizeLbl += ": the longest texts are printed smaller, or are cut at the edge";
     LabelDesign shown = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
     if (records > 0) {
@@ -303,11 +334,11 @@ void labelFrm::finish() {
     const int objects = app_.document.layout.count();
     int answer = 0;
     if (objects > 0) {
-        const std::string count = std::to_string(objects) + (objects == 1 ? " object." : " objects.");
-        answer = app_.platform.choose("The layout has " + count +
-                                          "  The new label can take its place, or you keep your design and "
-                                          "print it on these labels.",
-                                      "Label Wizard", {"Replace The Layout", "Keep The Layout"});
+        std::string question = "The layout has ";
+        question.append(std::to_string(objects)).append(objects == 1 ? " object" : " objects");
+        question.append(".  The new label can take its place, or you keep your design and print it on these "
+                        "labels.");
+        answer = app_.platform.choose(question, "Label Wizard", {"Replace The Layout", "Keep The Layout"});
     }
     if (answer < 0) return;
     if (answer == 0)
@@ -318,6 +349,7 @@ void labelFrm::finish() {
     LabelChoice whole = choice;
     whole.stock = *stock;
     keepLabelChoice(app_, whole);
+    if (answer == 0) keepText();
     app::setDocumentModified(app_, true);
     layout::InitLayout(app_, layout::isDesignMode(app_));
     opening_.bFinished = true;

@@ -85,6 +85,8 @@ public:
 private:
     void find();
     void load(const LabelChoice& kept);
+    void loadText();
+    void keepText();
     std::optional<LabelStock> ownStock();
     LabelText text() const;
     void show();

@@ -55,8 +55,15 @@ std::vector<TextRow> linesOf(const core::LayoutObjects& objects) {
     return lines;
 }
 
-// Words between two columns go with the one behind them, or, behind the last, with the one in front: of
-// "{City}, {State}" no comma is left when there is no state. A line of words alone stays.
+// A blank in front of the second is a gap between the two.
+bool standApart(const core::LayoutObject& first, const core::LayoutObject& second) {
+    constexpr float gap = 20; // twips; narrower than a blank, wider than rounding
+    return second.Left - (first.Left + first.Width) > gap;
+}
+
+// Words between two columns go with the one behind them, or, behind the last, with the one in front, and so
+// do those that touch it: of "{City}, {State}" the comma is left when there are both. A line of words alone
+// stays.
 void hideLonelyWords(TextRow& line) {
     const auto fields = std::ranges::count_if(line.parts, &Part::isField);
     if (fields == 0) return;
@@ -67,6 +74,12 @@ void hideLonelyWords(TextRow& line) {
         if (part->isField) anchor = !part->text.empty();
         part->isShown = anchor && !part->text.empty();
     }
+    for (std::size_t i = 1; i < line.parts.size(); ++i) {
+        const Part& before = line.parts[i - 1];
+        if (before.isField && before.text.empty() && !line.parts[i].isField &&
+            !standApart(*before.object, *line.parts[i].object))
+            line.parts[i].isShown = false;
+    }
 }
 
 // As it is drawn: with the blanks that gaps stand for.
@@ -76,15 +89,15 @@ struct Run {
 };
 
 std::vector<Run> runsOf(const TextRow& line) {
-    constexpr float gap = 20; // twips; narrower than a blank, wider than rounding
     std::vector<Run> runs;
     const core::LayoutObject* before = nullptr;
     bool isApart = false;
     for (const Part& part : line.parts) {
-        if (before != nullptr) isApart = isApart || part.object->Left - (before->Left + before->Width) > gap;
+        if (before != nullptr) isApart = isApart || standApart(*before, *part.object);
         before = part.object;
         if (!part.isShown) continue;
-        runs.push_back({&part, (isApart && !runs.empty() ? " " : "") + part.text});
+        std::string text(isApart && !runs.empty() ? 1 : 0, ' ');
+        runs.push_back({&part, text.append(part.text)});
         isApart = false;
     }
     return runs;

@@ -49,7 +49,7 @@ private:
     bool tellWhetherPossible();
     void printSheet(app::LongWork* work);
     void printPlace(long label, int place);
-    void drawGuides();
+    void drawOutlines(drawing::LineStyle style);
 
     App& app_;
     DrawTarget& target_;
@@ -108,11 +108,9 @@ void LabelRun::printSheet(app::LongWork* work) {
     const int first = iLayoutIndex >= all ? 0 : std::max(iLayoutIndex, 0) / perSheet * perSheet;
     iLayoutIndex = first + perSheet;
     if (choice_.bOutlines)
-        for (int place = 1; place <= perSheet; ++place) {
-            const LabelStock::Position corner = choice_.stock.position(place);
-            drawOutline(choice_.stock, target_, static_cast<float>(corner.left),
-                        static_cast<float>(corner.top));
-        }
+        drawOutlines(drawing::LineStyle::Solid);
+    else if (!target_.isPrinter())
+        drawOutlines(drawing::LineStyle::Dotted); // as the guides of other previews
     for (int place = 1; place <= perSheet; ++place) {
         const long label = static_cast<long>(first) + place - 1 - used; // from 0
         if (label < 0) continue;
@@ -122,19 +120,20 @@ void LabelRun::printSheet(app::LongWork* work) {
     }
 }
 
-// Where the labels are, on the screen alone.
-void LabelRun::drawGuides() {
-    const LabelStock& stock = choice_.stock;
-    const LabelStock::Position last = stock.position(stock.perSheet());
-    drawMarginGuides(target_, {static_cast<float>(stock.left), static_cast<float>(last.left + stock.width),
-                               static_cast<float>(stock.top), static_cast<float>(last.top + stock.height)});
+void LabelRun::drawOutlines(drawing::LineStyle style) {
+    for (int place = 1; place <= choice_.stock.perSheet(); ++place) {
+        const LabelStock::Position corner = choice_.stock.position(place);
+        drawOutline(choice_.stock, target_, static_cast<float>(corner.left), static_cast<float>(corner.top),
+                    style);
+    }
+    target_.DrawStyle = drawing::LineStyle::Solid;
 }
 
 bool LabelRun::print() {
     usePaper();
     if (!list_.MultiSelect) list_.clearSelection();
     if (!tellWhetherPossible()) {
-        if (!target_.isPrinter()) drawGuides();
+        if (!target_.isPrinter()) drawOutlines(drawing::LineStyle::Dotted);
         return false;
     }
     target_.bOneSheet = true;
@@ -148,7 +147,6 @@ bool LabelRun::print() {
         target_.EndDoc();
     } else {
         printSheet(nullptr);
-        drawGuides();
     }
     if (previewPage(app_).bLayoutSelectedOnly) {
         list_.MultiSelect = true;
@@ -231,11 +229,12 @@ bool placeLabels(App& app, std::string_view key) {
     return true;
 }
 
-void drawOutline(const LabelStock& stock, DrawTarget& target, float left, float top) {
+void drawOutline(const LabelStock& stock, DrawTarget& target, float left, float top,
+                 drawing::LineStyle style) {
     constexpr std::int32_t grey = 0x808080;
     target.ForeColor = grey;
     target.DrawWidth = 1;
-    target.DrawStyle = drawing::LineStyle::Solid;
+    target.DrawStyle = style;
     const float width = static_cast<float>(stock.width), height = static_cast<float>(stock.height);
     if (stock.shape == LabelShape::Rectangle || stock.shape == LabelShape::Rounded) {
         target.Rectangle(left, top, width, height);

@@ -35,6 +35,7 @@ bool placeLabels(app::App& app, std::string_view key);
 // out, the texts of a line follow each other, and one that is too wide is drawn smaller, then cut.
 void drawLabel(const app::App& app, const core::LayoutObjects& objects, drawing::DrawTarget& target, float dx,
                float dy, bool bClosedUp, float right);
-void drawOutline(const LabelStock& stock, drawing::DrawTarget& target, float left, float top);
+void drawOutline(const LabelStock& stock, drawing::DrawTarget& target, float left, float top,
+                 drawing::LineStyle style);
 
 } // namespace print

@@ -256,10 +256,7 @@ void showReportAnew(App& app) {
 
 void drawReport(App& app, DrawTarget& target, RecordsList& theList) {
     const ReportChoices choices = reportChoices(app, theList);
-    if (!target.isPrinter()) {
-        reportSheetCount(app) = 0;
-        previewFit(app) = fitOf(app, theList);
-    }
+    if (!target.isPrinter()) previewFit(app) = fitOf(app, theList);
     if (choices.any())
         drawReportSheets(app, target, theList, choices);
     else

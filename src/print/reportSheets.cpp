@@ -6,6 +6,7 @@
 #include "print/margins.h"
 #include "print/previewNavigation.h"
 #include "print/previewPage.h"
+#include "print/previewPlace.h"
 #include "print/progress.h"
 #include "print/reportPlan.h"
 
@@ -228,7 +229,7 @@ void SheetsOfReport::draw() {
         page.iReportPageStart = std::clamp(page.iReportStartRow, 1, sheets);
         drawSheet(static_cast<std::size_t>(page.iReportPageStart) - 1);
         page.iReportStartRow = page.iReportPageStart == sheets ? 1 : page.iReportPageStart + 1;
-        reportSheetCount(app_) = sheets;
+        notePage(app_, page.iReportPageStart, sheets);
         drawMarginGuides(target_,
                          {left_, right_, static_cast<float>(settings().reportTopMargin * twipsPerInch),
                           target_.Height - static_cast<float>(settings().reportBottomMargin * twipsPerInch)});

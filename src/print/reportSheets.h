@@ -14,12 +14,4 @@ ReportChoices reportChoices(const app::App& app, const core::RecordsList& theLis
 void drawReportSheets(app::App& app, drawing::DrawTarget& target, core::RecordsList& theList,
                       const ReportChoices& choices);
 
-// How many sheets the preview's report has; 0 when it is not laid out so.
-struct ReportSheetCount {
-    int count = 0;
-};
-inline int& reportSheetCount(app::App& app) {
-    return app.rooms.of<ReportSheetCount>().count;
-}
-
 } // namespace print

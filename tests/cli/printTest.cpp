@@ -73,6 +73,16 @@ Avery,L7163,Address labels,A4,rounded,2,7,99.1,38.1,4.65,15.15,101.6,38.1
 $ fwk labels 1 x 2 5/8 in --json | grep -A7 '"5160"' | tail -4 | xargs -> columns: 3, rows: 10, width: 66.675, height: 25.4,
 $ fwk labels 5160 | sed -n 3p | xargs -> Avery 5160 Address labels Letter rounded 3 10 66.675 25.4 4.762 12.7 69.85 25.4
 $ fwk labels no such && $2 fwk labels --csv --json -> ! --json excludes --csv
+$ fwk labels a.fwk --stock 'Avery L7163' --pdf a.pdf --start 14 --copies Qty --columns 'No {Name}'; pdfinfo a.pdf | grep Pages
+Pages:           3 // @ a.pdf
+$ pdftotext -l 1 a.pdf - | xargs -> No Bolt and washer
+$1 fwk labels a.fwk --stock 'Nobody 1' --pdf a.pdf -> ! no such stock
+$1 fwk labels a.fwk --stock avery --pdf a.pdf -> ! stocks are called so
+$1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --start 15 -> ! the sheet has labels 1 to 14
+$1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --copies 1e9 -> ! --copies: from 1 to 1000
+$1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --columns Nme -> ! There is no column "Nme"
+$1 fwk labels inv.fwk --stock 'avery l7163' --pdf a.pdf -> ! invoices print one to a page only
+$2 fwk labels a.fwk --stock x -> ! --stock requires --pdf
 $2 fwk report a.fwk -> ! --output is required && $1 ulimit -f 4; fwk report books.fwk -o a.pdf --widen
 ! a.pdf: could not be written: Device I/O error: a.pdf (File too large)
 )sh");

@@ -98,7 +98,7 @@ TEST_F(Sheets, ThePreviewIsThePaperWithGuides) {
         print(choices);
         const auto sheets = platform.printed.sheets;
         shell::SSTab1_Click(app, app::previewTab);
-        EXPECT_EQ(print::reportSheetCount(app), std::ssize(sheets));
+        EXPECT_EQ(print::previewPage(app).place.of, std::ssize(sheets));
         for (const Page& sheet : sheets) {
             const std::string paper = drawnOn(sheet);
             EXPECT_EQ(drawnOn(preview()).substr(0, paper.size()), paper);

@@ -63,7 +63,7 @@ labelFrmView::labelFrmView(app::App& app, EventBoundary& events, QWidget* parent
     column->addWidget(pages_, 1);
     column->addWidget(faultLbl_);
     column->addLayout(makeButtons());
-    resize(em() * 50, em() * 34);
+    resize(em() * 56, em() * 36);
 }
 
 QLayout* labelFrmView::makeButtons() {
@@ -113,7 +113,7 @@ QWidget* labelFrmView::makeSheetPage() {
         if (item != nullptr) on([&] { form_.List1_Click(List1_->indexOfTopLevelItem(item)); });
     });
     connect(List1_, &QTreeWidget::itemActivated, this, [this] { nextBtn_->click(); });
-    ownChk_ = makeCheck("ownChk", tr("&Other size..."), &labelFrm::ownChk_Click);
+    ownChk_ = makeCheck("ownChk", tr("&Other size"), &labelFrm::ownChk_Click);
     auto* search = new QHBoxLayout;
     search->addWidget(captionOf(tr("&Find:"), searchTxt_));
     search->addWidget(searchTxt_, 1);
@@ -226,7 +226,7 @@ QWidget* labelFrmView::makeTextPage() {
     choices->addWidget(centredChk_);
     choices->addStretch();
     pictureCbo_->setEnabled(form_.pictureCbo.size() > 1);
-    auto* before = makeButton("previousBtn", tr("P&revious"), [this] { form_.recordBtn_Click(-1); });
+    auto* before = makeButton("previousBtn", tr("P&revious Record"), [this] { form_.recordBtn_Click(-1); });
     auto* after = makeButton("followingBtn", tr("Ne&xt Record"), [this] { form_.recordBtn_Click(1); });
     auto* records = new QHBoxLayout;
     records->addWidget(recordLbl_);
@@ -262,8 +262,8 @@ QWidget* labelFrmView::makePrintPage() {
     auto* hint = wrapped("startLbl");
     hint->setText(tr("Or click the first free label of a sheet that you have used before."));
     fields->addRow(QString(), hint);
-    fields->addRow(tr("&Copies:"), copiesTxt_);
     fields->addRow(tr("&How many:"), copiesCbo_);
+    fields->addRow(tr("&Copies:"), copiesTxt_);
     auto* left = new QVBoxLayout;
     left->addLayout(fields);
     left->addWidget(closedUpChk_);
@@ -313,11 +313,14 @@ void labelFrmView::showSheetPage() {
     sheetLbl_->clear();
     if (!form_.stock) return;
     const print::LabelStock& stock = *form_.stock;
-    sheetLbl_->setText(tr("%1 labels of %2 mm on %3\nGaps: %4 mm across, %5 mm down")
-                           .arg(stock.perSheet())
-                           .arg(sizeOf(stock), toQt(stock.paper),
-                                millimetres(std::max(stock.columnPitch - stock.width, 0.0)),
-                                millimetres(std::max(stock.rowPitch - stock.height, 0.0))));
+    QString told = (stock.perSheet() == 1 ? tr("One label of %1 mm on %2") : tr("%3 labels of %1 mm on %2"))
+                       .arg(sizeOf(stock), toQt(stock.paper));
+    if (stock.perSheet() > 1) told = told.arg(stock.perSheet());
+    if (stock.columns > 1)
+        told += tr("\nGap across: %1 mm").arg(millimetres(std::max(stock.columnPitch - stock.width, 0.0)));
+    if (stock.rows > 1)
+        told += tr("\nGap down: %1 mm").arg(millimetres(std::max(stock.rowPitch - stock.height, 0.0)));
+    sheetLbl_->setText(told);
 }
 
 void labelFrmView::showTextPage() {

@@ -12,7 +12,7 @@ namespace gui {
 LabelPreview::LabelPreview(const drawing::RecordedPage& page, QWidget* parent)
     : QWidget(parent), page_(page) {
     setAccessibleName(tr("The label"));
-    setMinimumHeight(fontMetrics().height() * 8);
+    setMinimumHeight(fontMetrics().height() * 5);
 }
 
 void LabelPreview::show(print::LabelShape shape) {
