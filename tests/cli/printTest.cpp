@@ -46,7 +46,8 @@ Nut Label Bolt and washer Label // Pages:           2 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many; pdftotext -layout a.pdf - | xargs; pdfinfo a.pdf | grep Pages
 Bolt and washer Nut Label Label // Pages:           1 // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --many --records i2; pdftotext -layout a.pdf - | xargs -> Nut Label // @ a.pdf
-$ fwk report a.fwk -o a.pdf --paper a4; pdfinfo a.pdf | grep Page.size -> Page size:       595 x 842 pts (A4) // @ a.pdf
+$ fwk report a.fwk -o a.pdf --paper a4; pdfinfo a.pdf | grep Page.size -> Page size:       595 x 842 pts (A4)
+! Too narrow for the longest text: Name (9 of 15 characters). Use --widen to print them whole. // @ a.pdf
 $ fwk layouts a.fwk -o a.pdf --paper A5; pdfinfo a.pdf | grep Page.size; fwk info a.fwk --json | grep -c PaperSize.*1,
 Page size:       420 x 595 pts (A5) // 2 // @ a.pdf
 $ fwk report odd.fwk -o a.pdf; pdfinfo a.pdf | grep Page.size -> Page size:       612 x 792 pts (letter)
@@ -76,11 +77,11 @@ $ fwk labels no such && $2 fwk labels --csv --json -> ! --json excludes --csv
 $ fwk labels a.fwk --stock 'Avery L7163' --pdf a.pdf --start 14 --copies Qty --columns 'No {Name}'; pdfinfo a.pdf | grep Pages
 Pages:           3 // @ a.pdf
 $ pdftotext -l 1 a.pdf - | xargs -> No Bolt and washer
-$1 fwk labels a.fwk --stock 'Nobody 1' --pdf a.pdf -> ! no such stock
-$1 fwk labels a.fwk --stock avery --pdf a.pdf -> ! stocks are called so
-$1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --start 15 -> ! the sheet has labels 1 to 14
+$1 fwk labels a.fwk --stock 'Nobody 1' --pdf a.pdf -> ! --stock Nobody 1: no such stock; fwk labels TEXT lists them
+$1 fwk labels a.fwk --stock avery --pdf a.pdf -> ! --stock avery: 373 stocks are called so; give maker and number
+$1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --start 15 -> ! --start: the sheet has labels 1 to 14
 $1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --copies 1e9 -> ! --copies: from 1 to 1000
-$1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --columns Nme -> ! There is no column "Nme"
+$1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --columns Nme -> ! There is no column "Nme" whose text could be printed.
 $1 fwk labels inv.fwk --stock 'avery l7163' --pdf a.pdf -> ! invoices print one to a page only
 $2 fwk labels a.fwk --stock x -> ! --stock requires --pdf
 $2 fwk report a.fwk -> ! --output is required && $1 ulimit -f 4; fwk report books.fwk -o a.pdf --widen

@@ -120,9 +120,9 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
     const std::string view = "mnuZoomNormal mnuFitPage mnuFitWidth "; // of a normal size, and no preview
     EXPECT_EQ(those(disabled) + mainFrm.Caption, onPage + view + "Ferrowick - " + document.currentFile);
     openCopyOf("invoices.fwk");
-    EXPECT_EQ(those(disabled), many + onPage + "mnuDuplicate " + view);
+    EXPECT_EQ(those(disabled), many + onPage + "mnuDuplicate mnuMakeCode " + view);
     shell::viewOpt_Click(app, 0);
-    EXPECT_EQ(those(disabled), "Delete " + prints + many + onPage + "mnuDuplicate " + view);
+    EXPECT_EQ(those(disabled), "Delete " + prints + many + onPage + "mnuDuplicate mnuMakeCode " + view);
     app::enableControls(app, false);
     EXPECT_EQ(mainFrm.Caption, "Ferrowick");
     // Sizes are cut, not rounded.
