@@ -4,6 +4,8 @@
 #include "core/text.h"
 #include "entry/retrieveData.h"
 
+#include <utility>
+
 namespace search {
 
 namespace {

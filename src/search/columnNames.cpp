@@ -6,7 +6,6 @@
 #include "search/filterMode.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -66,9 +65,10 @@ void rename(App& app, NamesState& state, const std::string& from, const std::str
 
 std::string withNewName(const App& app, std::string text, const Renaming& renaming) {
     const Filter filter = parseFilter(text, renaming.before, app.platform.today());
-    for (const Filter::Name& name : std::views::reverse(filter.names))
-        if (renaming.before[static_cast<std::size_t>(name.column)].name == renaming.from)
-            text.replace(name.offset, name.size, filterPiece(renaming.to, "", ""));
+    // From the end, so that the places in front stay.
+    for (auto name = filter.names.rbegin(); name != filter.names.rend(); ++name)
+        if (renaming.before[static_cast<std::size_t>(name->column)].name == renaming.from)
+            text.replace(name->offset, name->size, filterPiece(renaming.to, "", ""));
     return text;
 }
 

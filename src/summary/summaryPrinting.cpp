@@ -18,13 +18,13 @@ constexpr float columnGap = 250; // twips
 constexpr float ruleGap = 40;
 constexpr float leastBars = 1440; // narrower ones tell nothing
 constexpr float titleFont = 12, usualFont = 10, smallestFont = 6;
-constexpr std::size_t mostLetters = 1000; // more than a line of the widest paper has
+constexpr std::size_t mostPrinted = 1000; // more than a line of the widest paper has
 constexpr std::int32_t barGrey = 0x909090;
 
 class SummaryPage {
 public:
     SummaryPage(app::App& app, DrawTarget& target, const Summary& summary, int barFigure)
-        : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {}, mostLetters)),
+        : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {}, mostPrinted)),
           scale_(summary, barFigure), byCount_(summary.request.by.size()),
           barName_(barFigure == recordsBar
                        ? std::string(recordsHeading)

@@ -11,7 +11,7 @@ namespace gui {
 namespace {
 
 // Paper is white whatever the desktop's colours are.
-const QColor ink(0x5f, 0x63, 0x68), fill(0xe8, 0xf0, 0xfe), used(0xc4, 0xc7, 0xcc), first(0x1a, 0x73, 0xe8);
+const QColor lineInk(0x5f, 0x63, 0x68), labelFill(0xe8, 0xf0, 0xfe), usedFill(0xc4, 0xc7, 0xcc), firstInk(0x1a, 0x73, 0xe8);
 
 void drawShape(QPainter& painter, const QRectF& rect, print::LabelShape shape) {
     using print::LabelShape;
@@ -78,16 +78,16 @@ void LabelSheetPicture::paintEvent(QPaintEvent*) {
     if (!stock_) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ink, 1));
+    painter.setPen(QPen(lineInk, 1));
     painter.setBrush(Qt::white);
     painter.drawRect(paper());
     for (int place = 1; place <= stock_->perSheet(); ++place) {
         const bool isFirst = start_ > 0 && place == start_;
-        painter.setPen(QPen(isFirst ? first : ink, isFirst ? 2 : 1));
-        painter.setBrush(place < start_ ? used : fill);
+        painter.setPen(QPen(isFirst ? firstInk : lineInk, isFirst ? 2 : 1));
+        painter.setBrush(place < start_ ? usedFill : labelFill);
         drawShape(painter, label(place), stock_->shape);
         if (!isFirst) continue;
-        painter.setPen(first);
+        painter.setPen(firstInk);
         painter.drawText(label(place), Qt::AlignCenter, QString::number(place));
     }
     if (!hasFocus()) return;

@@ -19,7 +19,7 @@ namespace gui {
 
 namespace {
 
-constexpr int gap = 6; // pixels between name, bar and value
+constexpr int barGap = 6; // pixels between name, bar and value
 constexpr int mostMeasured = 2000;
 constexpr std::size_t mostLettersOfName = 200; // of a name, which no bar leaves room for
 
@@ -115,18 +115,18 @@ void BarChart::paintRow(QPainter& painter, int group, const QRect& row) const {
     const summary::Group& shown = summary_->groups[static_cast<std::size_t>(group)];
     const bool bCurrent = group == current_;
     painter.setPen(palette().color(QPalette::Text));
-    const QRect name(row.left() + gap, row.top(), nameWidth_, row.height());
+    const QRect name(row.left() + barGap, row.top(), nameWidth_, row.height());
     painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(nameOf(shown), Qt::ElideRight, nameWidth_));
-    const int left = name.right() + gap;
-    const int room = std::max(0, row.right() - left - valueWidth_ - 3 * gap);
+    const int left = name.right() + barGap;
+    const int room = std::max(0, row.right() - left - valueWidth_ - 3 * barGap);
     const summary::Bar bar = scale_->barOf(shown);
     const int inset = row.height() / 5;
     const QRectF place(left + bar.from * room, row.top() + inset, (bar.to - bar.from) * room,
                        row.height() - 2 * inset);
     drawBar(painter, place, palette(), bCurrent ? BarLook::Current : BarLook::Plain);
     painter.setPen(palette().color(QPalette::Text));
-    const int behind = static_cast<int>(place.right()) + gap;
+    const int behind = static_cast<int>(place.right()) + barGap;
     painter.drawText(QRect(behind, row.top(), row.right() - behind, row.height()),
                      Qt::AlignLeft | Qt::AlignVCenter, toQt(summary::barText(shown, figure_)));
     if (scale_->zero() > 0) {
