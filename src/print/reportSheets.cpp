@@ -11,6 +11,7 @@
 #include "print/reportPlan.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace print {
 
