@@ -3,6 +3,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -10,79 +11,84 @@ namespace drawing {
 
 namespace {
 
-constexpr double twipsPerInch = 1440;
+constexpr double inch = 1440, millimetre = inch / 25.4; // in twips
 
-PaperSize inches(int code, std::string_view name, double width, double height) {
-    return {code, name, std::lround(width * twipsPerInch), std::lround(height * twipsPerInch)};
-}
+struct Row {
+    int code;
+    std::string_view name;
+    double width, height, unit;
+};
 
-PaperSize millimetres(int code, std::string_view name, double width, double height) {
-    constexpr double perInch = 25.4;
-    return inches(code, name, width / perInch, height / perInch);
-}
+constexpr std::array rows = std::to_array<Row>({
+    {1, "Letter", 8.5, 11, inch},
+    {2, "Letter small", 8.5, 11, inch},
+    {3, "Tabloid", 11, 17, inch},
+    {4, "Ledger", 17, 11, inch},
+    {5, "Legal", 8.5, 14, inch},
+    {6, "Statement", 5.5, 8.5, inch},
+    {7, "Executive", 7.25, 10.5, inch},
+    {8, "A3", 297, 420, millimetre},
+    {9, "A4", 210, 297, millimetre},
+    {10, "A4 small", 210, 297, millimetre},
+    {11, "A5", 148, 210, millimetre},
+    {12, "B4 (JIS)", 257, 364, millimetre},
+    {13, "B5 (JIS)", 182, 257, millimetre},
+    {14, "Folio", 8.5, 13, inch},
+    {15, "Quarto", 215, 275, millimetre},
+    {16, "10 x 14 in", 10, 14, inch},
+    {17, "11 x 17 in", 11, 17, inch},
+    {18, "Note", 8.5, 11, inch},
+    {19, "Envelope #9", 3.875, 8.875, inch},
+    {20, "Envelope #10", 4.125, 9.5, inch},
+    {21, "Envelope #11", 4.5, 10.375, inch},
+    {22, "Envelope #12", 4.75, 11, inch},
+    {23, "Envelope #14", 5, 11.5, inch},
+    {24, "C", 17, 22, inch},
+    {25, "D", 22, 34, inch},
+    {26, "E", 34, 44, inch},
+    {27, "Envelope DL", 110, 220, millimetre},
+    {28, "Envelope C5", 162, 229, millimetre},
+    {29, "Envelope C3", 324, 458, millimetre},
+    {30, "Envelope C4", 229, 324, millimetre},
+    {31, "Envelope C6", 114, 162, millimetre},
+    {32, "Envelope C65", 114, 229, millimetre},
+    {33, "Envelope B4", 250, 353, millimetre},
+    {34, "Envelope B5", 176, 250, millimetre},
+    {35, "Envelope B6", 176, 125, millimetre},
+    {36, "Envelope Italian", 110, 230, millimetre},
+    {37, "Envelope Monarch", 3.875, 7.5, inch},
+    {38, "Envelope Personal", 3.625, 6.5, inch},
+    {39, "Fanfold US", 14.875, 11, inch},
+    {40, "Fanfold German", 8.5, 12, inch},
+    {41, "Fanfold German Legal", 8.5, 13, inch},
+    {42, "B4 (ISO)", 250, 353, millimetre},
+    {43, "Postcard (JIS)", 100, 148, millimetre},
+    {44, "9 x 11 in", 9, 11, inch},
+    {45, "10 x 11 in", 10, 11, inch},
+    {46, "15 x 11 in", 15, 11, inch},
+    {47, "Envelope Invite", 220, 220, millimetre},
+    {57, "Super A", 227, 356, millimetre},
+    {58, "Super B", 305, 487, millimetre},
+    {59, "Letter Plus", 8.5, 12.69, inch},
+    {60, "A4 Plus", 210, 330, millimetre},
+    {63, "A3 Extra", 322, 445, millimetre},
+    {64, "A5 Extra", 174, 235, millimetre},
+    {65, "B5 Extra", 201, 276, millimetre},
+    {66, "A2", 420, 594, millimetre},
+    {69, "Double Postcard (JIS)", 200, 148, millimetre},
+    {70, "A6", 105, 148, millimetre},
+});
 
 } // namespace
 
 std::span<const PaperSize> papers() {
-    static const std::vector<PaperSize> all = {
-        inches(1, "Letter", 8.5, 11),
-        inches(2, "Letter small", 8.5, 11),
-        inches(3, "Tabloid", 11, 17),
-        inches(4, "Ledger", 17, 11),
-        inches(5, "Legal", 8.5, 14),
-        inches(6, "Statement", 5.5, 8.5),
-        inches(7, "Executive", 7.25, 10.5),
-        millimetres(8, "A3", 297, 420),
-        millimetres(9, "A4", 210, 297),
-        millimetres(10, "A4 small", 210, 297),
-        millimetres(11, "A5", 148, 210),
-        millimetres(12, "B4 (JIS)", 257, 364),
-        millimetres(13, "B5 (JIS)", 182, 257),
-        inches(14, "Folio", 8.5, 13),
-        millimetres(15, "Quarto", 215, 275),
-        inches(16, "10 x 14 in", 10, 14),
-        inches(17, "11 x 17 in", 11, 17),
-        inches(18, "Note", 8.5, 11),
-        inches(19, "Envelope #9", 3.875, 8.875),
-        inches(20, "Envelope #10", 4.125, 9.5),
-        inches(21, "Envelope #11", 4.5, 10.375),
-        inches(22, "Envelope #12", 4.75, 11),
-        inches(23, "Envelope #14", 5, 11.5),
-        inches(24, "C", 17, 22),
-        inches(25, "D", 22, 34),
-        inches(26, "E", 34, 44),
-        millimetres(27, "Envelope DL", 110, 220),
-        millimetres(28, "Envelope C5", 162, 229),
-        millimetres(29, "Envelope C3", 324, 458),
-        millimetres(30, "Envelope C4", 229, 324),
-        millimetres(31, "Envelope C6", 114, 162),
-        millimetres(32, "Envelope C65", 114, 229),
-        millimetres(33, "Envelope B4", 250, 353),
-        millimetres(34, "Envelope B5", 176, 250),
-        millimetres(35, "Envelope B6", 176, 125),
-        millimetres(36, "Envelope Italian", 110, 230),
-        inches(37, "Envelope Monarch", 3.875, 7.5),
-        inches(38, "Envelope Personal", 3.625, 6.5),
-        inches(39, "Fanfold US", 14.875, 11),
-        inches(40, "Fanfold German", 8.5, 12),
-        inches(41, "Fanfold German Legal", 8.5, 13),
-        millimetres(42, "B4 (ISO)", 250, 353),
-        millimetres(43, "Postcard (JIS)", 100, 148),
-        inches(44, "9 x 11 in", 9, 11),
-        inches(45, "10 x 11 in", 10, 11),
-        inches(46, "15 x 11 in", 15, 11),
-        millimetres(47, "Envelope Invite", 220, 220),
-        millimetres(57, "Super A", 227, 356),
-        millimetres(58, "Super B", 305, 487),
-        inches(59, "Letter Plus", 8.5, 12.69),
-        millimetres(60, "A4 Plus", 210, 330),
-        millimetres(63, "A3 Extra", 322, 445),
-        millimetres(64, "A5 Extra", 174, 235),
-        millimetres(65, "B5 Extra", 201, 276),
-        millimetres(66, "A2", 420, 594),
-        millimetres(69, "Double Postcard (JIS)", 200, 148),
-        millimetres(70, "A6", 105, 148),
-    };
+    static const std::vector<PaperSize> all = [] {
+        std::vector<PaperSize> sizes;
+        for (const Row& row : rows)
+            sizes.push_back(
+                {row.code, row.name, std::lround(row.width * row.unit), std::lround(row.height * row.unit)});
+        return sizes;
+    }();
     return all;
 }
 

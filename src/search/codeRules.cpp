@@ -158,8 +158,12 @@ void followRecordsForCodes(App& app) {
 CodesAsTheyAre::CodesAsTheyAre(App& app) : app_(app), before_(std::exchange(bookOf(app).isBusy, true)) {}
 
 CodesAsTheyAre::~CodesAsTheyAre() {
-    bookOf(app_).isBusy = before_;
-    if (!before_) noteAll(app_);
+    try {
+        bookOf(app_).isBusy = before_;
+        if (!before_) noteAll(app_);
+    } catch (...) { // without memory for it; the codes are made anew once more then
+        return;
+    }
 }
 
 } // namespace search
