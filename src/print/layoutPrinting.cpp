@@ -169,6 +169,7 @@ bool LayoutGrid::print() {
     const int before = page_.iLayoutIndex;
     {
         Progress progress(app_, available());
+        const entry::ManyRecordsShown many(app_);
         for (;;) {
             if (printPage(progress) == Step::Finished) break;
             // A layout larger than the paper would call for sheets without end.
