@@ -2,7 +2,7 @@
 
 #include "app/fileSettings.h"
 #include "core/number.h"
-#include "print/labelDesign.h"
+#include "print/labelPage.h"
 
 #include <algorithm>
 #include <array>

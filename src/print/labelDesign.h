@@ -2,10 +2,8 @@
 
 #include "app/app.h"
 #include "core/layoutObjects.h"
-#include "core/pageSettings.h"
-#include "print/labelStocks.h"
+#include "print/labelPage.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,8 +23,6 @@ LabelText proposedLabel(const core::Document& document);
 // What is wrong with it, for the user; empty: nothing. A text of any length is answered at once.
 std::string faultOf(const core::Document& document, const LabelText& text);
 
-// The page that has the first label in its corner, as the file keeps it.
-core::LayoutOptions labelPage(const LabelStock& stock);
 struct LabelDesign {
     core::LayoutObjects objects; // on labelPage
     float FontSize = 0;
@@ -36,9 +32,5 @@ LabelDesign designLabel(const core::Document& document, const LabelStock& stock,
                         drawing::TextMetrics& metrics);
 // In place of all objects of the layout.
 void placeDesign(app::App& app, LabelDesign& design);
-
-// How far the labels would be from their places, in millimetres, for a program that knows the page and the
-// design, but not the stock: the most of all. Nothing when more or fewer of them would come out.
-std::optional<double> deviation(const LabelStock& stock, const core::LayoutObjects& objects);
 
 } // namespace print
