@@ -139,12 +139,8 @@ LabelStock stockNamed(const std::string& name) {
     const Stocks found = print::findLabelStocks(all, name);
     if (found.empty()) throw Failure(told, "no such stock; fwk labels TEXT lists them");
     Stocks exact;
-    for (const LabelStock* stock : found) {
-        std::string whole = stock->maker;
-        whole.append(" ").append(stock->number);
-        if (core::equalsNoCase(whole, name) || core::equalsNoCase(stock->number, name))
-            exact.push_back(stock);
-    }
+    for (const LabelStock* stock : found)
+        if (print::isCalled(*stock, name)) exact.push_back(stock);
     if (exact.size() == 1) return *exact.front();
     if (found.size() == 1) return *found.front();
     std::string several = std::to_string(exact.empty() ? found.size() : exact.size());

@@ -120,9 +120,12 @@ void labelFrm::find() {
     constexpr std::size_t longest = 200;
     List1 = findLabelStocks(opening_.stocks, core::left(searchTxt, longest));
     ++findings;
+    const auto called = std::ranges::find_if(
+        List1, [&](const LabelStock* each) { return isCalled(*each, core::trim(searchTxt)); });
     const auto same =
         std::ranges::find_if(List1, [&](const LabelStock* each) { return stock && isStock(*each, *stock); });
-    ListIndex = same != List1.end() ? static_cast<int>(same - List1.begin()) : List1.empty() ? -1 : 0;
+    const auto chosen = called != List1.end() ? called : same;
+    ListIndex = chosen != List1.end() ? static_cast<int>(chosen - List1.begin()) : List1.empty() ? -1 : 0;
 }
 
 std::optional<LabelStock> labelFrm::ownStock() {

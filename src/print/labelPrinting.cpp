@@ -3,11 +3,13 @@
 #include "app/longWork.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "entry/retrieveData.h"
 #include "layout/sheet.h"
 #include "print/layoutPrinting.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
 #include "print/previewPage.h"
+#include "print/previewPlace.h"
 
 #include <algorithm>
 #include <cmath>
@@ -137,6 +139,7 @@ bool LabelRun::print() {
         return false;
     }
     target_.bOneSheet = true;
+    const entry::ManyRecordsShown many(app_);
     if (target_.isPrinter()) {
         app::LongWork work(app_, "Printing labels", static_cast<int>(copies_.labels()));
         const int sheets = labelSheets(choice_, copies_);
@@ -147,6 +150,8 @@ bool LabelRun::print() {
         target_.EndDoc();
     } else {
         printSheet(nullptr);
+        notePage(app_, previewPage(app_).iLayoutIndex / choice_.stock.perSheet(),
+                 labelSheets(choice_, copies_));
     }
     if (previewPage(app_).bLayoutSelectedOnly) {
         list_.MultiSelect = true;

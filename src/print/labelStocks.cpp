@@ -209,4 +209,10 @@ std::vector<const LabelStock*> findLabelStocks(const std::vector<LabelStock>& st
     return found;
 }
 
+bool isCalled(const LabelStock& stock, std::string_view name) {
+    std::string whole = stock.maker;
+    whole.append(" ").append(stock.number);
+    return core::equalsNoCase(whole, name) || core::equalsNoCase(stock.number, name);
+}
+
 } // namespace print

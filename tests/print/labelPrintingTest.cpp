@@ -2,6 +2,7 @@
 #include "app/fileSettings.h"
 #include "print/labelFrm.h"
 #include "print/layoutPrinting.h"
+#include "print/previewPlace.h"
 #include "printRecorder.h"
 #include "shell/undo.h"
 #include "table.h"
@@ -98,6 +99,7 @@ TEST_F(Labels, StartCopiesAndOutlinesAreAsChosen) {
     run("Multiple_Layout_Preview_All");
     EXPECT_EQ(turn("First Next Next Next Back Last"),
               "r1..r1>6; r2..r4>12; r5..r5>18; r1..r1>6; r1..r1>6; r5..r5>18; ");
+    EXPECT_EQ(print::previewPlaceText(app) + (print::turnPreview(app, true) ? "!" : ""), "Page 3 of 3");
     choice.copiesColumn = "Many";
     EXPECT_EQ(print(), "r1 r1/r5|.");
     EXPECT_EQ(print::aboutLabels(choice, print::countLabels(app, choice, false)),
@@ -181,6 +183,7 @@ TEST_F(Labels, TheWizardSetsAPageAndADesignInOneStep) {
         print::labelFrm form(app);
         form.searchTxt_Change("no such sheet");
         EXPECT_FALSE(form.nextEnabled);
+        form.searchTxt_Change("a"); // any sheet is chosen, until one is called so
         form.searchTxt_Change("avery l7163");
         form.nextBtn_Click();
         for (const auto& c :
@@ -212,7 +215,7 @@ TEST_F(Labels, TheWizardSetsAPageAndADesignInOneStep) {
     run("mnuUndo");
     EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 1);
     EXPECT_EQ(app.document.layout.layoutField[1].Left, 1440);
-    EXPECT_FALSE(print::labelChoice(app)); // the design that it was for is gone
+    EXPECT_FALSE(print::labelChoice(app));                 // the design that it was for is gone
     EXPECT_EQ(print::labelFrm(app).linesTxt, "To {Name}"); // of the last time
     app.document.lockPassword = "x";
     platform.forms.clear();
