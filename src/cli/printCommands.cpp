@@ -8,7 +8,7 @@
 #include "cli/session.h"
 #include "core/text.h"
 #include "drawing/papers.h"
-#include "print/labelChoice.h"
+#include "labels/labelChoice.h"
 #include "print/layoutPrinting.h"
 #include "print/previewPage.h"
 #include "print/reportPrinting.h"
@@ -124,8 +124,8 @@ void useChosenLabels(app::App& app, const PrintOptions& options) {
     app::keepFileSettings(app, platform::FileSettings::defaultFile());
     std::string& path = app.document.currentFile;
     const std::string told = std::exchange(path, std::filesystem::absolute(path).string());
-    const auto choice = print::labelChoice(app);
-    if (choice) print::useLabelChoice(app, *choice);
+    const auto choice = labels::labelChoice(app);
+    if (choice) labels::useLabelChoice(app, *choice);
     path = told;
     if (!choice || options.paper.empty() || core::equalsNoCase(options.paper, choice->stock.paper)) return;
     std::string reason = "the labels that were chosen for it, ";

@@ -1,4 +1,4 @@
-#include "print/labelPage.h"
+#include "labels/labelPage.h"
 
 #include "core/number.h"
 #include "print/layoutPrinting.h"
@@ -7,7 +7,11 @@
 #include <algorithm>
 #include <cmath>
 
-namespace print {
+namespace labels {
+
+using print::LayoutExtent;
+using print::layoutExtent;
+using print::twipsPerInch;
 
 namespace {
 
@@ -75,4 +79,4 @@ std::optional<double> deviation(const LabelStock& stock, const core::LayoutObjec
     return millimetresOf(std::max(*x, *y));
 }
 
-} // namespace print
+} // namespace labels

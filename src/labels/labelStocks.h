@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace print {
+namespace labels {
 
 enum class LabelShape { Rectangle, Rounded, Round, Ellipse, Cd };
 
@@ -52,4 +52,4 @@ std::vector<const LabelStock*> findLabelStocks(const std::vector<LabelStock>& st
 // By its number, with or without the maker.
 bool isCalled(const LabelStock& stock, std::string_view name);
 
-} // namespace print
+} // namespace labels

@@ -1,4 +1,4 @@
-#include "print/labelFrm.h"
+#include "labels/labelFrm.h"
 
 #include "app/fileSettings.h"
 #include "core/number.h"
@@ -14,7 +14,9 @@
 #include <cmath>
 #include <type_traits>
 
-namespace print {
+namespace labels {
+
+using print::twipsPerInch;
 
 using app::App;
 
@@ -379,4 +381,4 @@ void labelFrm::keepDesign() {
         });
 }
 
-} // namespace print
+} // namespace labels

@@ -2,11 +2,11 @@
 
 #include "core/layoutObjects.h"
 #include "core/pageSettings.h"
-#include "print/labelStocks.h"
+#include "labels/labelStocks.h"
 
 #include <optional>
 
-namespace print {
+namespace labels {
 
 // How the told way of placing layouts is made to find the places of the stock. There is one spacing for both
 // directions, half of which it adds to the margin.
@@ -23,4 +23,4 @@ core::LayoutOptions labelPage(const LabelStock& stock);
 // design, but not the stock: the most of all. Nothing when more or fewer of them would come out.
 std::optional<double> deviation(const LabelStock& stock, const core::LayoutObjects& objects);
 
-} // namespace print
+} // namespace labels

@@ -2,12 +2,12 @@
 
 #include "app/app.h"
 #include "core/layoutObjects.h"
-#include "print/labelPage.h"
+#include "labels/labelPage.h"
 
 #include <string>
 #include <vector>
 
-namespace print {
+namespace labels {
 
 // What stands on a label. A line is text with columns in it: "{Zip} {City}".
 struct LabelText {
@@ -33,4 +33,4 @@ LabelDesign designLabel(const core::Document& document, const LabelStock& stock,
 // In place of all objects of the layout.
 void placeDesign(app::App& app, LabelDesign& design);
 
-} // namespace print
+} // namespace labels

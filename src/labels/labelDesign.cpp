@@ -1,4 +1,4 @@
-#include "print/labelDesign.h"
+#include "labels/labelDesign.h"
 
 #include "core/objectRef.h"
 #include "core/text.h"
@@ -8,7 +8,7 @@
 #include <cmath>
 #include <set>
 
-namespace print {
+namespace labels {
 
 using core::Column;
 using core::Document;
@@ -337,4 +337,4 @@ void placeDesign(app::App& app, LabelDesign& design) {
     take(own.imgHolder, design.objects.imgHolder);
 }
 
-} // namespace print
+} // namespace labels

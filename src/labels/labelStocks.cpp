@@ -1,4 +1,4 @@
-#include "print/labelStocks.h"
+#include "labels/labelStocks.h"
 
 #include "core/text.h"
 #include "drawing/papers.h"
@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-namespace print {
+namespace labels {
 
 namespace {
 
@@ -215,4 +215,4 @@ bool isCalled(const LabelStock& stock, std::string_view name) {
     return core::equalsNoCase(whole, name) || core::equalsNoCase(stock.number, name);
 }
 
-} // namespace print
+} // namespace labels
