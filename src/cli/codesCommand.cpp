@@ -65,6 +65,7 @@ int store(Session& session, const std::string& column, const search::MadeCodes& 
         session.change([&] { layout::takeBackPictures(session.app); });
         throw;
     }
+    session.change([&] { search::dropUnusedCodes(session.app); });
     return changed;
 }
 

@@ -6,8 +6,8 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "exchange/csvWriter.h"
-#include "print/labelDesign.h"
-#include "print/labelPrinting.h"
+#include "labels/labelDesign.h"
+#include "labels/labelPrinting.h"
 #include "print/previewPage.h"
 #include "shell/labelTable.h"
 
@@ -21,7 +21,7 @@ namespace cli {
 
 namespace {
 
-using print::LabelStock;
+using labels::LabelStock;
 using Stocks = std::vector<const LabelStock*>;
 
 struct LabelsOptions {
@@ -45,14 +45,14 @@ constexpr std::array numbers = {"columns", "rows", "width",       "height",
                                 "left",    "top",  "columnPitch", "rowPitch"};
 
 std::array<std::string_view, texts.size()> textsOf(const LabelStock& stock) {
-    return {stock.maker, stock.number, stock.kind, stock.paper, print::shapeName(stock.shape)};
+    return {stock.maker, stock.number, stock.kind, stock.paper, labels::shapeName(stock.shape)};
 }
 
 // To a thousandth of a millimetre, as the table has them.
 std::array<double, numbers.size()> numbersOf(const LabelStock& stock) {
     const auto millimetres = [](double twips) {
         constexpr double digits = 1000;
-        return std::round(print::millimetresOf(twips) * digits) / digits;
+        return std::round(labels::millimetresOf(twips) * digits) / digits;
     };
     return {static_cast<double>(stock.columns), static_cast<double>(stock.rows), millimetres(stock.width),
             millimetres(stock.height),          millimetres(stock.left),         millimetres(stock.top),
@@ -136,15 +136,11 @@ LabelStock stockNamed(const std::string& name) {
     std::string told = "--stock ";
     told.append(name);
     const std::vector<LabelStock> all = knownStocks();
-    const Stocks found = print::findLabelStocks(all, name);
+    const Stocks found = labels::findLabelStocks(all, name);
     if (found.empty()) throw Failure(told, "no such stock; fwk labels TEXT lists them");
     Stocks exact;
-    for (const LabelStock* stock : found) {
-        std::string whole = stock->maker;
-        whole.append(" ").append(stock->number);
-        if (core::equalsNoCase(whole, name) || core::equalsNoCase(stock->number, name))
-            exact.push_back(stock);
-    }
+    for (const LabelStock* stock : found)
+        if (labels::isCalled(*stock, name)) exact.push_back(stock);
     if (exact.size() == 1) return *exact.front();
     if (found.size() == 1) return *found.front();
     std::string several = std::to_string(exact.empty() ? found.size() : exact.size());
@@ -152,9 +148,9 @@ LabelStock stockNamed(const std::string& name) {
 }
 
 // "A,B" is a line for each column; with braces a text is a line as it stands.
-print::LabelText textOf(Session& session, const LabelsOptions& options) {
+labels::LabelText textOf(Session& session, const LabelsOptions& options) {
     const core::Document& document = session.app.document;
-    print::LabelText text = print::proposedLabel(document);
+    labels::LabelText text = labels::proposedLabel(document);
     if (!options.columns.empty()) {
         text.lines.clear();
         const bool hasBraces = options.columns.find('{') != std::string::npos;
@@ -166,13 +162,13 @@ print::LabelText textOf(Session& session, const LabelsOptions& options) {
     }
     text.pictureColumn = options.picture;
     text.FontSize = static_cast<float>(options.size);
-    const std::string fault = print::faultOf(document, text);
+    const std::string fault = labels::faultOf(document, text);
     if (!fault.empty()) throw Failure(options.words.front(), fault);
     return text;
 }
 
-print::LabelChoice choiceOf(Session& session, const LabelsOptions& options) {
-    print::LabelChoice choice;
+labels::LabelChoice choiceOf(Session& session, const LabelsOptions& options) {
+    labels::LabelChoice choice;
     choice.stock = stockNamed(options.stock);
     if (options.start < 1 || options.start > choice.stock.perSheet()) {
         std::string told = "--start: the sheet has labels 1 to ";
@@ -184,11 +180,11 @@ print::LabelChoice choiceOf(Session& session, const LabelsOptions& options) {
     const auto number = core::toDouble(options.copies);
     if (!number) {
         choice.copiesColumn = session.column(options.copies).Key;
-    } else if (*number >= 1 && *number <= print::LabelChoice::mostCopies) {
+    } else if (*number >= 1 && *number <= labels::LabelChoice::mostCopies) {
         choice.copies = static_cast<int>(*number);
     } else {
         std::string told = "--copies: from 1 to ";
-        throw Failure(told.append(std::to_string(print::LabelChoice::mostCopies)));
+        throw Failure(told.append(std::to_string(labels::LabelChoice::mostCopies)));
     }
     return choice;
 }
@@ -212,18 +208,18 @@ int printOnStock(const LabelsOptions& options) {
     Session session(file);
     printInto(session, options.pdf, [&](app::App& app, drawing::DrawTarget& target) {
         if (app.document.bInvoiceStyle) throw Failure(file, "invoices print one to a page only");
-        const print::LabelChoice choice = choiceOf(session, options);
-        print::LabelDesign design = print::designLabel(app.document, choice.stock, textOf(session, options),
-                                                       app.platform.textMetrics());
-        print::placeDesign(app, design);
-        app.document.layoutOptions = print::labelPage(choice.stock);
+        const labels::LabelChoice choice = choiceOf(session, options);
+        labels::LabelDesign design = labels::designLabel(app.document, choice.stock, textOf(session, options),
+                                                         app.platform.textMetrics());
+        labels::placeDesign(app, design);
+        app.document.layoutOptions = labels::labelPage(choice.stock);
         chooseRecords(session, options);
-        const print::LabelCopies copies =
-            print::countLabels(app, choice, print::previewPage(app).bLayoutSelectedOnly);
+        const labels::LabelCopies copies =
+            labels::countLabels(app, choice, print::previewPage(app).bLayoutSelectedOnly);
         if (copies.without > 0 || copies.cut > 0)
-            std::cerr << "fwk: " << file << ": " << print::aboutLabels(choice, copies) << '\n';
-        print::useLabelChoice(app, choice);
-        if (!print::printLabels(app, target, choice)) throw Failure(file, "no labels were printed");
+            std::cerr << "fwk: " << file << ": " << labels::aboutLabels(choice, copies) << '\n';
+        labels::useLabelChoice(app, choice);
+        if (!labels::printLabels(app, target, choice)) throw Failure(file, "no labels were printed");
     });
     return done;
 }
@@ -232,7 +228,7 @@ int list(const LabelsOptions& options) {
     const std::vector<LabelStock> all = knownStocks();
     std::string text;
     for (const std::string& word : options.words) text.append(text.empty() ? 0 : 1, ' ').append(word);
-    const Stocks found = print::findLabelStocks(all, text);
+    const Stocks found = labels::findLabelStocks(all, text);
     writeOut(options.json ? asJson(found) : options.csv ? asCsv(found) : asTable(found));
     return done;
 }

@@ -8,7 +8,7 @@
 #include "cli/session.h"
 #include "core/text.h"
 #include "drawing/papers.h"
-#include "print/labelChoice.h"
+#include "labels/labelChoice.h"
 #include "print/layoutPrinting.h"
 #include "print/previewPage.h"
 #include "print/reportPrinting.h"
@@ -35,7 +35,7 @@ struct PrintOptions {
     bool many = false;
     std::string records; // "i1,i2"; empty: all
     ReportOptions report;
-    std::string paper;   // a name; empty: that of the database
+    std::string paper; // a name; empty: that of the database
 };
 
 } // namespace
@@ -120,12 +120,18 @@ std::vector<int> rowsOf(const PrintOptions& options, core::RecordsList& list) {
 }
 
 // The window knows the file by its whole path.
-void useChosenLabels(app::App& app) {
+void useChosenLabels(app::App& app, const PrintOptions& options) {
     app::keepFileSettings(app, platform::FileSettings::defaultFile());
     std::string& path = app.document.currentFile;
     const std::string told = std::exchange(path, std::filesystem::absolute(path).string());
-    if (const auto choice = print::labelChoice(app)) print::useLabelChoice(app, *choice);
+    const auto choice = labels::labelChoice(app);
+    if (choice) labels::useLabelChoice(app, *choice);
     path = told;
+    if (!choice || options.paper.empty() || core::equalsNoCase(options.paper, choice->stock.paper)) return;
+    std::string reason = "the labels that were chosen for it, ";
+    reason.append(choice->stock.maker).append(" ").append(choice->stock.number);
+    reason.append(", are on paper of the size ").append(choice->stock.paper);
+    throw Failure(options.file, reason.append(": leave out --paper"));
 }
 
 void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) {
@@ -133,7 +139,6 @@ void printMany(app::App& app, DrawTarget& target, const std::vector<int>& rows) 
     print::previewPage(app).bLayoutSelectedOnly = !rows.empty();
     print::previewPage(app).iLayoutIndex = 0;
     app.mainFrm.theListView->MultiSelect = false;
-    useChosenLabels(app);
     if (!print::PrintMultipleLayouts(app, target))
         throw Failure(app.document.currentFile, "no layout fits on a sheet");
 }
@@ -149,6 +154,7 @@ int printLayouts(const PrintOptions& options) {
         if (options.many && document.bInvoiceStyle)
             throw Failure(options.file, "invoices print one to a page only");
         if (list.count() < 2) throw Failure(options.file, "there are no records");
+        if (options.many) useChosenLabels(app, options);
         std::int16_t& paperSize = document.layoutOptions.layoutPaperSize;
         if (!options.paper.empty() || paperSize != core::customPaper)
             choosePaper(session, options, paperSize);

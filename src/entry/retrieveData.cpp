@@ -4,7 +4,8 @@
 #include "core/text.h"
 #include "entry/shownRecord.h"
 #include "invoice/records.h"
-#include "layout/images.h"
+
+#include <utility>
 
 namespace entry {
 
@@ -12,6 +13,21 @@ using app::App;
 using core::Column;
 using core::Item;
 using core::RecordsList;
+
+namespace {
+
+struct SharedPictures {
+    layout::ImageArchive* archive = nullptr;
+};
+
+} // namespace
+
+ManyRecordsShown::ManyRecordsShown(App& app)
+    : app_(app), archive_(app), before_(std::exchange(app.rooms.of<SharedPictures>().archive, &archive_)) {}
+
+ManyRecordsShown::~ManyRecordsShown() {
+    app_.rooms.of<SharedPictures>().archive = before_;
+}
 
 const Item* currentRecord(const App& app) {
     const RecordsList& list = *app.mainFrm.theListView;
@@ -50,7 +66,9 @@ void retrieveFields(App& app) {
 void retrievePictures(App& app) {
     const Item* record = currentRecord(app);
     if (record == nullptr || app.document.layout.imgHolder.count() == 0) return;
-    layout::ImageArchive archive(app);
+    layout::ImageArchive own(app);
+    layout::ImageArchive* shared = app.rooms.of<SharedPictures>().archive;
+    layout::ImageArchive& archive = shared == nullptr ? own : *shared;
     app.document.layout.imgHolder.forEach([&](core::ImgHolder& holder) {
         const Column* column = app.document.LV.columns.find(holder.Tag);
         if (column == nullptr || column->Index == 1) return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "layout/images.h"
 
 namespace entry {
 
@@ -11,6 +12,21 @@ void retrievePictures(app::App& app);
 
 // Both, as the style of the database has them.
 void showRecord(app::App& app);
+
+// While one is there the database is opened once for the pictures of all records that are shown, not once for
+// each, which takes as long as it has pictures. Nothing may write into the file meanwhile.
+class ManyRecordsShown {
+public:
+    explicit ManyRecordsShown(app::App& app);
+    ~ManyRecordsShown();
+    ManyRecordsShown(const ManyRecordsShown&) = delete;
+    ManyRecordsShown& operator=(const ManyRecordsShown&) = delete;
+
+private:
+    app::App& app_;
+    layout::ImageArchive archive_;
+    layout::ImageArchive* before_;
+};
 
 // Shows the record of a page that was set up for browsing. The sheet is empty when a search has found none;
 // for the first record of an empty database it keeps what is typed there.

@@ -6,11 +6,11 @@
 #include "core/runTimeError.h"
 #include "entry/retrieveData.h"
 #include "layout/sheet.h"
-#include "print/labelPrinting.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
 #include "print/previewPlace.h"
 #include "print/progress.h"
+#include "print/stockLabels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -169,6 +169,7 @@ bool LayoutGrid::print() {
     const int before = page_.iLayoutIndex;
     {
         Progress progress(app_, available());
+        const entry::ManyRecordsShown many(app_);
         for (;;) {
             if (printPage(progress) == Step::Finished) break;
             // A layout larger than the paper would call for sheets without end.
@@ -236,7 +237,9 @@ void PrintLayout(App& app, DrawTarget& target) {
 }
 
 bool PrintMultipleLayouts(App& app, DrawTarget& target) {
-    if (const auto choice = labelChoice(app)) return printLabels(app, target, *choice);
+    const StockLabels& labels = stockLabels(app);
+    if (labels.print)
+        if (const auto printed = labels.print(app, target)) return *printed;
     return LayoutGrid(app, target).print();
 }
 

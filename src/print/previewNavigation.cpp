@@ -2,10 +2,10 @@
 #include "print/previewPage.h"
 
 #include "calc/selectedTotals.h"
-#include "print/labelPrinting.h"
 #include "print/layoutPrinting.h"
 #include "print/printerCheck.h"
 #include "print/reportPrinting.h"
+#include "print/stockLabels.h"
 
 #include <algorithm>
 #include <array>
@@ -48,7 +48,8 @@ void placeRecord(App& app, std::string_view key) {
 }
 
 void placeLayouts(App& app, std::string_view key) {
-    if (placeLabels(app, key)) return;
+    const StockLabels& labels = stockLabels(app);
+    if (labels.place && labels.place(app, key)) return;
     PreviewPage& page = previewPage(app);
     const int records = app.document.LV.count() - 1;
     int& iLayoutIndex = page.iLayoutIndex;

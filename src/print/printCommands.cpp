@@ -2,6 +2,7 @@
 #include "print/previewPage.h"
 
 #include "calc/selectedTotals.h"
+#include "entry/retrieveData.h"
 #include "print/layoutPrinting.h"
 #include "print/previewNavigation.h"
 #include "print/printerCheck.h"
@@ -134,6 +135,7 @@ void printEachLayout(App& app, DrawTarget& printer, RecordsList& list, const std
     list.clearSelection();
     list.MultiSelect = false;
     Progress progress(app, static_cast<int>(rows->size()));
+    const entry::ManyRecordsShown many(app);
     int printed = 0;
     for (const int row : *rows) {
         if (list.at(row).isTotals()) continue;

@@ -6,6 +6,7 @@
 #include "search/manyRecords.h"
 
 #include <functional>
+#include <utility>
 
 namespace search {
 
@@ -25,7 +26,7 @@ struct CodeBook {
     std::map<std::string, CodeRule, std::less<>> columns;
     std::map<std::string, SeenTexts, std::less<>> seen; // of those that are followed
     std::string file;                                   // that they are kept for
-    bool isBusy = false;
+    bool isBusy = false, isRenamed = false;             // the settings have other names
 };
 
 CodeBook& bookOf(const App& app) {
@@ -124,9 +125,25 @@ void readCodeRules(App& app) {
     noteAll(app);
 }
 
+void renameInCodeRules(App& app, const std::string& from, const std::string& to) {
+    CodeBook& book = bookOf(app);
+    const auto rename = [&](auto& byColumn) {
+        if (auto entry = byColumn.extract(from)) {
+            entry.key() = to;
+            byColumn.insert(std::move(entry));
+        }
+    };
+    rename(book.columns);
+    rename(book.seen);
+    for (auto& [column, rule] : book.columns) rule.source = withColumnRenamed(rule.source, from, to);
+    book.isRenamed = true;
+}
+
 void followStoredCodeRules(App& app) {
     CodeBook& book = bookOf(app);
-    if (book.file == app.document.currentFile) return;
+    if (!std::exchange(book.isRenamed, false) && book.file == app.document.currentFile) return;
+    for (const std::string& column : app::fileSettingNames(app, codeSetting))
+        if (!book.columns.contains(column)) app::setFileSetting(app, std::string(codeSetting) + column, "");
     book.file = app.document.currentFile;
     for (const auto& [column, rule] : book.columns)
         app::setFileSetting(app, std::string(codeSetting) + column, ruleText(rule));
@@ -137,21 +154,15 @@ void followRecordsForCodes(App& app) {
     if (book.seen.empty() || book.isBusy || !app.document.bModified || app.document.currentFile.empty())
         return;
     const CodesAsTheyAre busy(app);
-    for (auto entry = book.seen.begin(); entry != book.seen.end();) {
-        const std::string column = entry->first;
+    for (auto& [column, seen] : book.seen) {
         const CodeRule& rule = book.columns[column];
         try {
-            if (faultOf(app.document,
-                        orderOf(column, rule))) { // the column has gone, or one that it is made of
-                entry = book.seen.erase(entry);
-                continue;
-            }
-            makeAnew(app, column, rule, entry->second);
+            // A column that has gone, or one that it is made of, may come back with undo.
+            if (!faultOf(app.document, orderOf(column, rule))) makeAnew(app, column, rule, seen);
         } catch (const core::RunTimeError& error) {
             if (error.number != core::errors::cancelled)
                 app::warn(app, std::string("The codes could not be made anew: ") + error.what());
         }
-        ++entry;
     }
 }
 

@@ -29,6 +29,8 @@ bool setCodeRule(app::App& app, const std::string& column, const CodeRule& rule)
 // Another file is open: its own rules are read. The file is stored under another name: they are kept for that
 // too.
 void readCodeRules(app::App& app);
+// In the settings no sooner than in the file.
+void renameInCodeRules(app::App& app, const std::string& from, const std::string& to);
 void followStoredCodeRules(app::App& app);
 // Records may have changed: those with another text than before get another code, where they have none of the
 // user's own pictures. A text that gives no code takes the code away and is told.

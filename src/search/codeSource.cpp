@@ -63,4 +63,22 @@ std::string CodeSource::textOf(const core::Item& record) const {
     return hasColumns && !isFilled ? std::string() : text;
 }
 
+std::string withColumnRenamed(std::string_view text, std::string_view from, std::string_view to) {
+    std::string renamed;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        renamed.push_back(text[i]);
+        if (text[i] != '{' && text[i] != '}') continue;
+        if (i + 1 < text.size() && text[i + 1] == text[i]) {
+            renamed.push_back(text[i++]);
+            continue;
+        }
+        const std::size_t end = text[i] == '{' ? text.find('}', i) : std::string_view::npos;
+        if (end == std::string_view::npos) continue;
+        const std::string_view name = text.substr(i + 1, end - i - 1);
+        renamed.append(core::equalsNoCase(name, from) ? to : name).push_back('}');
+        i = end;
+    }
+    return renamed;
+}
+
 } // namespace search

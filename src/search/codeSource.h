@@ -27,4 +27,7 @@ private:
     std::vector<Piece> pieces_;
 };
 
+// The text with another name of a column in its braces.
+std::string withColumnRenamed(std::string_view text, std::string_view from, std::string_view to);
+
 } // namespace search

@@ -1,6 +1,7 @@
 #include "search/columnNames.h"
 
 #include "app/fileSettings.h"
+#include "search/codeRules.h"
 #include "search/colourRules.h"
 #include "search/filter.h"
 #include "search/filterMode.h"
@@ -57,6 +58,7 @@ void rename(App& app, NamesState& state, const std::string& from, const std::str
         rules.key() = to;
         colours.insert(std::move(rules));
     }
+    renameInCodeRules(app, from, to);
     FilterColumns before = filterColumns(app.document, app.document.LV);
     for (FilterColumn& column : before)
         if (column.name == to) column.name = from;

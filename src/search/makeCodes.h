@@ -41,4 +41,7 @@ MadeCodes makeCodes(app::App& app, const CodeOrder& order, const std::vector<cor
 // Raises when the file takes no pictures; nothing has changed then.
 int writeCodes(app::App& app, const std::string& column, const MadeCodes& made, bool bDropUnused);
 
+// Those that neither the records nor the saved text name, for good where nothing can be undone.
+void dropUnusedCodes(app::App& app);
+
 } // namespace search

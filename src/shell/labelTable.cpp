@@ -2,22 +2,22 @@
 
 #include "core/runTimeError.h"
 #include "file/fileHandle.h"
+#include "labels/labelFrm.h"
 #include "lock/designLock.h"
 #include "platform/programFiles.h"
-#include "print/labelFrm.h"
 #include "print/printCommands.h"
 #include "print/printerCheck.h"
 #include "shell/mainWindow.h"
 
 namespace shell {
 
-std::vector<print::LabelStock> installedLabelStocks() {
+std::vector<labels::LabelStock> installedLabelStocks() {
     constexpr std::size_t maxBytes = std::size_t{16} * 1024 * 1024;
     const auto table = platform::programFile("stocks/labels.tsv");
     if (!table) return {};
     const auto text = file::readSmallFile(*table, maxBytes);
     if (!text) core::raise(core::errors::badFileFormat, table->string());
-    return print::readLabelStocks(*text);
+    return labels::readLabelStocks(*text);
 }
 
 // What is typed on the page is left as a click on another tab leaves it, since the label may take its place.
@@ -31,7 +31,7 @@ void labelWizard(app::App& app) {
     }
     if (app.mainFrm.SSTab1 != app::reportTab) SSTab1_Click(app, app::reportTab);
     if (app.mainFrm.SSTab1 != app::reportTab) return;
-    auto& opening = app.rooms.of<print::LabelOpening>();
+    auto& opening = app.rooms.of<labels::LabelOpening>();
     if (opening.stocks.empty()) {
         try {
             opening.stocks = installedLabelStocks();

@@ -10,6 +10,7 @@
 #include "search/searchMode.h"
 #include "shell/commands.h"
 #include "shell/mainWindow.h"
+#include "shell/typedWords.h"
 #include "shell/undo.h"
 #include "storage/openFile.h"
 
@@ -82,6 +83,12 @@ void openHelpPage(App& app, std::string_view page) {
 }
 } // namespace
 
+void makeCode(App& app) {
+    const TypedWords typed(app);
+    search::mnuMakeCode_Click(app);
+    typed.putBack();
+}
+
 void makeCodeOfBox(App& app) {
     const core::ObjectRef selected = layout::layoutPage(app).selectedObject;
     const core::ImgHolder* holder = selected.family == core::Family::imgHolder
@@ -89,7 +96,9 @@ void makeCodeOfBox(App& app) {
                                         : nullptr;
     if (holder == nullptr || !isCommandEnabled(app, "mnuMakeCode")) return;
     RunningCommand running(app, "mnuMakeCode");
+    const TypedWords typed(app);
     search::makeCodeFor(app, std::string(holder->Tag));
+    typed.putBack();
     running.end();
     app::allowManySelected(app);
 }

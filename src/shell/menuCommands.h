@@ -29,6 +29,8 @@ void pressDesign(app::App& app);
 void toggleCalcHighlight(app::App& app);
 
 // "Make Code" of a picture box's own menu, for its column.
+// What is typed on the page stays there.
+void makeCode(app::App& app);
 void makeCodeOfBox(app::App& app);
 
 // Opens the help pages that come with the program; the user is told when they are not there.

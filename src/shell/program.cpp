@@ -5,6 +5,7 @@
 #include "entry/retrieveData.h"
 #include "entry/shownRecord.h"
 #include "invoice/views.h"
+#include "labels/labelPrinting.h"
 #include "layout/images.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
@@ -46,6 +47,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     using app::Change;
     rooms.of<layout::ReplacedPictures>().keeping = storage::keepingVersion;
     summary::countForReports(*this);
+    labels::printOnStocks(*this);
     changes.follow({Change::Modified}, app::showModified);
     changes.follow({Change::Modified}, storage::followModified);
     changes.follow({Change::Unsaved}, followUnsaved);

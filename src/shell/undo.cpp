@@ -17,6 +17,7 @@
 #include "search/filterMode.h"
 #include "search/searchMode.h"
 #include "shell/mainWindow.h"
+#include "shell/typedWords.h"
 #include "storage/recoveryCopies.h"
 
 #include <algorithm>
@@ -174,42 +175,6 @@ void showRecords(App& app) {
     app.mainFrm.selectedRows.clear();
     app.mainFrm.listScroll = app::ListScroll::ToCurrent;
 }
-
-// What was typed on the page and is stored nowhere yet outlives the undoing of what was stored before.
-class TypedWords {
-public:
-    explicit TypedWords(App& app) : app_(app) {
-        const core::Document& document = app.document;
-        if (document.bInvoiceStyle || layout::isDesignMode(app) || !storage::unsavedWork(app).isTyped) return;
-        const core::Item* record = entry::recordOnSheet(app);
-        if (record == nullptr) return;
-        key_ = record->Key.str();
-        document.layout.layoutField.forEach([&](const core::LayoutField& field) {
-            const core::Column* column = document.LV.columns.find(field.Tag);
-            if (column == nullptr || column->Index == 1) return;
-            const std::string stored = entry::shownText(*column, core::RecordsList::cell(*record, *column));
-            if (field.Text != stored) fields_.emplace_back(field.Index, field.Text);
-        });
-    }
-    // The page stays at its record, if that is still there.
-    void stay() const {
-        core::Item* record = fields_.empty() ? nullptr : app_.document.LV.find(key_);
-        if (record == nullptr) return;
-        app_.document.LV.MultiSelect = false;
-        app_.document.LV.setSelectedItem(record);
-    }
-    void putBack() const {
-        if (fields_.empty() || entry::sheet(app_).shownKey != key_) return;
-        for (const auto& [index, text] : fields_)
-            if (core::LayoutField* field = app_.document.layout.layoutField.find(index)) field->Text = text;
-        app_.changes.announce(app_, app::Change::Unsaved);
-    }
-
-private:
-    App& app_;
-    std::string key_;
-    std::vector<std::pair<int, std::string>> fields_;
-};
 
 void showChanged(App& app, const TypedWords& typed, bool bColumns, bool bObjects) {
     // A record that is new on the page stays there until it is added.

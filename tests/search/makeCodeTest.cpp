@@ -1,4 +1,6 @@
+#include "calc/designFrm.h"
 #include "databases.h"
+#include "search/codeRules.h"
 #include "search/makeCodeFrm.h"
 #include "shell/undo.h"
 
@@ -69,4 +71,15 @@ TEST(MakeCode, AllOrNoneUndoneAndMadeAnew) {
     program.run("mnuRedo");
     EXPECT_EQ(pictures(program), "+++ 3");
     EXPECT_EQ(program.told(), "");
+    // The rule follows a column that gets another name.
+    program.platform.answers = {platform::Answer::Yes};
+    calc::designFrm form(program.app);
+    form.selectedRow = 1;
+    form.fieldTxt = "Title";
+    form.changeBtn_Click();
+    form.doneBtn_Click();
+    program.app.document.LV.at(2).subItem(1) = core::CellText("Nuts");
+    app::setDocumentModified(program.app, true);
+    EXPECT_NE(program.app.document.LV.at(2).subItem(3).str(), before);
+    EXPECT_EQ(search::codeRuleOf(program.app, "Pic")->source, "{Name}, {Title}");
 }

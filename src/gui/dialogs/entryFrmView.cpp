@@ -1,6 +1,7 @@
 #include "gui/dialogs/entryFrmView.h"
 
 #include "gui/dialogs/dialogFit.h"
+#include "gui/dialogs/entryFrmButtons.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/palette.h"
@@ -30,31 +31,6 @@ using entry::entryFrm;
 constexpr auto checkCaption = QT_TR_NOOP("Check Previous Entries");
 constexpr float leastWidth = 5000, leastHeight = 3 * 615; // of the viewport
 constexpr int findBoxCharacters = 14;
-
-struct ButtonLook {
-    const char* key;
-    const char* tip;
-    const char* icon;
-    QKeySequence keys;
-};
-
-const std::vector<ButtonLook>& buttons() {
-    static const std::vector<ButtonLook> all = {
-        {"Save", QT_TR_NOOP("Quick Save"), "save", QKeySequence(Qt::CTRL | Qt::Key_S)},
-        {},
-        {"New", QT_TR_NOOP("New Record"), "recordNew", QKeySequence(Qt::CTRL | Qt::Key_N)},
-        {"Add", QT_TR_NOOP("Add Record"), "recordAdd", QKeySequence(Qt::CTRL | Qt::Key_Return)},
-        {"Delete", QT_TR_NOOP("Delete Selected Record."), "recordDelete", QKeySequence(Qt::CTRL | Qt::Key_D)},
-        {"Update", QT_TR_NOOP("Update Record"), "recordUpdate",
-         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Return)},
-        {},
-        {"First", QT_TR_NOOP("First Record"), "first", QKeySequence(Qt::CTRL | Qt::Key_PageUp)},
-        {"Back", QT_TR_NOOP("Previous Record"), "back", QKeySequence(Qt::Key_PageUp)},
-        {"Next", QT_TR_NOOP("Next Record"), "next", QKeySequence(Qt::Key_PageDown)},
-        {"Last", QT_TR_NOOP("Last Record"), "last", QKeySequence(Qt::CTRL | Qt::Key_PageDown)},
-    };
-    return all;
-}
 
 // The code that the form knows the key by; 0 for the others.
 int keyCode(const QKeyEvent& event) {
@@ -139,7 +115,7 @@ QToolBar* entryFrmView::makeToolbar() {
     bar->setObjectName(QStringLiteral("Toolbar1"));
     bar->setAccessibleName(tr("Records"));
     bar->setIconSize({toolbarIconSize, toolbarIconSize});
-    for (const ButtonLook& look : buttons()) {
+    for (const EntryFrmButton& look : entryFrmButtons()) {
         if (look.key == nullptr) {
             bar->addSeparator();
             continue;

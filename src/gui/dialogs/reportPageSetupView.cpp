@@ -27,7 +27,6 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     auto* apply = makeButton("ApplyBtn", tr("&Apply"), [this] { form_.ApplyBtn_Click(); });
     auto* cancel = makeButton("Command2", tr("&Cancel"), [this] { form_.Command2_Click(); });
     auto* more = makeButton("moreBtn", tr("&More..."), [&app] { app.platform.showForm("reportChoicesFrm"); });
-    ok->setDefault(true);
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(ok, QDialogButtonBox::AcceptRole);
     buttons->addButton(apply, QDialogButtonBox::ApplyRole);
@@ -50,6 +49,7 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     auto* column = new QVBoxLayout(this);
     column->addLayout(sides, 1);
     column->addLayout(bottom);
+    ok->setDefault(true); // once it is in the dialog, or it would be the first button, which opens another one
     LV3_->setFocus();
     resize(em() * 32, sizeHint().height());
 }

@@ -12,7 +12,7 @@
 
 namespace gui {
 
-using print::labelFrm;
+using labels::labelFrm;
 
 namespace {
 
@@ -31,11 +31,11 @@ QLabel* captionOf(const QString& caption, QWidget* buddy) {
 
 QString millimetres(double twips) {
     constexpr int digits = 1;
-    QString text = QString::number(print::millimetresOf(twips), 'f', digits);
+    QString text = QString::number(labels::millimetresOf(twips), 'f', digits);
     return text.endsWith(QLatin1String(".0")) ? text.chopped(2) : text;
 }
 
-QString sizeOf(const print::LabelStock& stock) {
+QString sizeOf(const labels::LabelStock& stock) {
     return millimetres(stock.width) + QStringLiteral(" \u00D7 ") + millimetres(stock.height);
 }
 
@@ -249,7 +249,7 @@ QWidget* labelFrmView::makePrintPage() {
             [this](int place) { on([&] { form_.startTxt_Change(place); }); });
     connect(used_, &LabelSheetPicture::startChosen, this,
             [this](int place) { on([&] { form_.startTxt_Change(place); }); });
-    copiesTxt_->setRange(1, print::LabelChoice::mostCopies);
+    copiesTxt_->setRange(1, labels::LabelChoice::mostCopies);
     connect(copiesTxt_, &QSpinBox::valueChanged, this,
             [this](int copies) { on([&] { form_.copiesTxt_Change(copies); }); });
     copiesCbo_ = makeChoice("copiesCbo", form_.copiesCbo, &labelFrm::copiesCbo_Click);
@@ -285,7 +285,7 @@ void labelFrmView::fillStocks() {
     findingsShown_ = form_.findings;
     List1_->clear();
     QList<QTreeWidgetItem*> rows;
-    for (const print::LabelStock* stock : form_.List1) {
+    for (const labels::LabelStock* stock : form_.List1) {
         const QString count =
             QString::number(stock->columns) + QStringLiteral(" \u00D7 ") + QString::number(stock->rows);
         rows << new QTreeWidgetItem({toQt(stock->maker + " " + stock->number), toQt(stock->kind),
@@ -312,7 +312,7 @@ void labelFrmView::showSheetPage() {
     sheet_->show(form_.stock);
     sheetLbl_->clear();
     if (!form_.stock) return;
-    const print::LabelStock& stock = *form_.stock;
+    const labels::LabelStock& stock = *form_.stock;
     QString told = (stock.perSheet() == 1 ? tr("One label of %1 mm on %2") : tr("%3 labels of %1 mm on %2"))
                        .arg(sizeOf(stock), toQt(stock.paper));
     if (stock.perSheet() > 1) told = told.arg(stock.perSheet());

@@ -3,7 +3,7 @@
 #include "gui/dialogs/formView.h"
 #include "gui/labels/labelPreview.h"
 #include "gui/labels/labelSheetPicture.h"
-#include "print/labelFrm.h"
+#include "labels/labelFrm.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -40,8 +40,8 @@ private:
     QWidget* makePrintPage();
     QLayout* makeButtons();
     QComboBox* makeChoice(const char* name, const std::vector<std::string>& entries,
-                          void (print::labelFrm::*chosen)(int));
-    QCheckBox* makeCheck(const char* name, const QString& caption, void (print::labelFrm::*checked)(bool));
+                          void (labels::labelFrm::*chosen)(int));
+    QCheckBox* makeCheck(const char* name, const QString& caption, void (labels::labelFrm::*checked)(bool));
     void insertColumn(bool bNewLine);
     void showSheetPage();
     void showTextPage();
@@ -49,7 +49,7 @@ private:
     void fillStocks();
     void focusPage();
 
-    print::labelFrm form_;
+    labels::labelFrm form_;
     int findingsShown_ = 0, pageShown_ = -1;
     QLabel* stepLbl_;
     QStackedWidget* pages_;
@@ -61,7 +61,7 @@ private:
     QTreeWidget* List1_;
     QCheckBox* ownChk_ = nullptr;
     QWidget* ownFrame_ = nullptr;
-    std::array<QLineEdit*, print::labelFrm::OwnBoxes> ownTxt_{};
+    std::array<QLineEdit*, labels::labelFrm::OwnBoxes> ownTxt_{};
     QComboBox* paperCbo_ = nullptr;
     LabelSheetPicture* sheet_;
     QLabel* sheetLbl_;

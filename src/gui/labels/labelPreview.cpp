@@ -15,7 +15,7 @@ LabelPreview::LabelPreview(const drawing::RecordedPage& page, QWidget* parent)
     setMinimumHeight(fontMetrics().height() * 5);
 }
 
-void LabelPreview::show(print::LabelShape shape) {
+void LabelPreview::show(labels::LabelShape shape) {
     shape_ = shape;
     update();
 }
@@ -32,9 +32,9 @@ void LabelPreview::paintEvent(QPaintEvent*) {
     label.moveCenter(room.center());
     QPainterPath shape;
     constexpr qreal corner = 6;
-    if (shape_ == print::LabelShape::Rectangle)
+    if (shape_ == labels::LabelShape::Rectangle)
         shape.addRect(label);
-    else if (shape_ == print::LabelShape::Rounded)
+    else if (shape_ == labels::LabelShape::Rounded)
         shape.addRoundedRect(label, corner, corner);
     else
         shape.addEllipse(label);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawing/recordedPage.h"
-#include "print/labelStocks.h"
+#include "labels/labelStocks.h"
 #include "qtprint/pagePainter.h"
 
 #include <QWidget>
@@ -14,14 +14,14 @@ class LabelPreview : public QWidget {
 
 public:
     explicit LabelPreview(const drawing::RecordedPage& page, QWidget* parent = nullptr);
-    void show(print::LabelShape shape);
+    void show(labels::LabelShape shape);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     const drawing::RecordedPage& page_;
-    print::LabelShape shape_ = print::LabelShape::Rectangle;
+    labels::LabelShape shape_ = labels::LabelShape::Rectangle;
     qtprint::PagePainter painter_;
 };
 

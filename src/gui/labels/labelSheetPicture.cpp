@@ -13,8 +13,8 @@ namespace {
 // Paper is white whatever the desktop's colours are.
 const QColor lineInk(0x5f, 0x63, 0x68), labelFill(0xe8, 0xf0, 0xfe), usedFill(0xc4, 0xc7, 0xcc), firstInk(0x1a, 0x73, 0xe8);
 
-void drawShape(QPainter& painter, const QRectF& rect, print::LabelShape shape) {
-    using print::LabelShape;
+void drawShape(QPainter& painter, const QRectF& rect, labels::LabelShape shape) {
+    using labels::LabelShape;
     switch (shape) {
     case LabelShape::Rectangle:
         painter.drawRect(rect);
@@ -44,7 +44,7 @@ LabelSheetPicture::LabelSheetPicture(QWidget* parent) : QWidget(parent) {
     setAccessibleName(tr("Sheet of labels"));
 }
 
-void LabelSheetPicture::show(const std::optional<print::LabelStock>& stock, int start) {
+void LabelSheetPicture::show(const std::optional<labels::LabelStock>& stock, int start) {
     stock_ = stock;
     start_ = start;
     setFocusPolicy(start > 0 ? Qt::StrongFocus : Qt::NoFocus);
@@ -69,7 +69,7 @@ QRectF LabelSheetPicture::paper() const {
 QRectF LabelSheetPicture::label(int place) const {
     const QRectF sheet = paper();
     const qreal scale = sheet.width() / stock_->paperWidth;
-    const print::LabelStock::Position corner = stock_->position(place);
+    const labels::LabelStock::Position corner = stock_->position(place);
     return {sheet.left() + corner.left * scale, sheet.top() + corner.top * scale, stock_->width * scale,
             stock_->height * scale};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "print/labelStocks.h"
+#include "labels/labelStocks.h"
 
 #include <QWidget>
 
@@ -15,7 +15,7 @@ class LabelSheetPicture : public QWidget {
 
 public:
     explicit LabelSheetPicture(QWidget* parent = nullptr);
-    void show(const std::optional<print::LabelStock>& stock, int start = 0);
+    void show(const std::optional<labels::LabelStock>& stock, int start = 0);
 
 signals:
     void startChosen(int place);
@@ -29,7 +29,7 @@ private:
     QRectF paper() const;
     QRectF label(int place) const;
 
-    std::optional<print::LabelStock> stock_;
+    std::optional<labels::LabelStock> stock_;
     int start_ = 0; // 0: the sheet is only shown
 };
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "app/app.h"
-#include "print/labelStocks.h"
+#include "labels/labelStocks.h"
 
 #include <optional>
 #include <string>
 
-namespace print {
+namespace labels {
 
 // What labels are printed on, and how. The database has no place for it: it is the user's, by file.
 struct LabelChoice {
@@ -36,4 +36,4 @@ bool keepLabelChoice(app::App& app, const std::optional<LabelChoice>& choice);
 // For this run alone, ahead of what is kept.
 void useLabelChoice(app::App& app, const LabelChoice& choice);
 
-} // namespace print
+} // namespace labels

@@ -1,11 +1,11 @@
 #include "core/text.h"
-#include "print/labelPrinting.h"
+#include "labels/labelPrinting.h"
 #include "print/layoutPrinting.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace print {
+namespace labels {
 
 using drawing::DrawTarget;
 
@@ -106,7 +106,7 @@ std::vector<Run> runsOf(const TextRow& line) {
 float widthOf(DrawTarget& target, const std::vector<Run>& runs, float scale) {
     float width = 0;
     for (const Run& run : runs) {
-        copyObjectFont(*run.part->font, run.part->ForeColor, target);
+        print::copyObjectFont(*run.part->font, run.part->ForeColor, target);
         target.FontSize *= scale;
         width += target.TextWidth(run.text);
     }
@@ -131,7 +131,7 @@ float drawLine(DrawTarget& target, const std::vector<Run>& runs, float x, float 
     const float scale = width > room && width > 0 ? std::max(room / width, smallest) : 1;
     float height = 0;
     for (const Run& run : runs) {
-        copyObjectFont(*run.part->font, run.part->ForeColor, target);
+        print::copyObjectFont(*run.part->font, run.part->ForeColor, target);
         height = std::max(height, target.TextHeight(run.text));
         target.FontSize *= scale;
         target.CurrentX = x;
@@ -148,7 +148,7 @@ float drawLine(DrawTarget& target, const std::vector<Run>& runs, float x, float 
 void drawLabel(const app::App& app, const core::LayoutObjects& objects, DrawTarget& target, float dx,
                float dy, bool bClosedUp, float right) {
     if (!bClosedUp) {
-        drawTexts(app.document, objects, target, dx, dy);
+        print::drawTexts(app.document, objects, target, dx, dy);
     } else {
         constexpr float inset = 30; // half a millimetre
         float lifted = 0;           // by the empty lines above
@@ -163,7 +163,7 @@ void drawLabel(const app::App& app, const core::LayoutObjects& objects, DrawTarg
                 lifted += lines[i + 1].top() - lines[i].top();
         }
     }
-    drawShapes(app, objects, target, dx, dy);
+    print::drawShapes(app, objects, target, dx, dy);
 }
 
-} // namespace print
+} // namespace labels

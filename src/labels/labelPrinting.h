@@ -1,13 +1,13 @@
 #pragma once
 
 #include "core/layoutObjects.h"
-#include "print/labelChoice.h"
+#include "labels/labelChoice.h"
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace print {
+namespace labels {
 
 // How many labels there are of each record that is printed: one row of theListView after the other.
 struct LabelCopies {
@@ -27,6 +27,8 @@ int labelSheets(const LabelChoice& choice, const LabelCopies& copies);
 // Draws the next sheet of labels on the preview, or all sheets on a printer. False after a message: too many
 // labels, or none. Raises cancelled when the user gives up a long print.
 bool printLabels(app::App& app, drawing::DrawTarget& target, const LabelChoice& choice);
+// Hands these to the room that prints.
+void printOnStocks(app::App& app);
 // The preview's buttons, where labels are shown: iLayoutIndex counts places of sheets, used ones too. False
 // where none are.
 bool placeLabels(app::App& app, std::string_view key);
@@ -38,4 +40,4 @@ void drawLabel(const app::App& app, const core::LayoutObjects& objects, drawing:
 void drawOutline(const LabelStock& stock, drawing::DrawTarget& target, float left, float top,
                  drawing::LineStyle style);
 
-} // namespace print
+} // namespace labels

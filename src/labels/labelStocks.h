@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace print {
+namespace labels {
 
 enum class LabelShape { Rectangle, Rounded, Round, Ellipse, Cd };
 
@@ -49,4 +49,7 @@ std::vector<LabelStock> readLabelStocks(std::string_view table);
 // within half a millimetre. An empty text finds all.
 std::vector<const LabelStock*> findLabelStocks(const std::vector<LabelStock>& stocks, std::string_view text);
 
-} // namespace print
+// By its number, with or without the maker.
+bool isCalled(const LabelStock& stock, std::string_view name);
+
+} // namespace labels

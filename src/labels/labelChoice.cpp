@@ -1,14 +1,14 @@
-#include "print/labelChoice.h"
+#include "labels/labelChoice.h"
 
 #include "app/fileSettings.h"
 #include "core/number.h"
-#include "print/labelDesign.h"
+#include "labels/labelPage.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 
-namespace print {
+namespace labels {
 
 using app::App;
 
@@ -106,4 +106,4 @@ void useLabelChoice(App& app, const LabelChoice& choice) {
     app.rooms.of<ChoiceOfThisRun>().choice = choice;
 }
 
-} // namespace print
+} // namespace labels

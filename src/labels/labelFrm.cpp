@@ -1,4 +1,4 @@
-#include "print/labelFrm.h"
+#include "labels/labelFrm.h"
 
 #include "app/fileSettings.h"
 #include "core/number.h"
@@ -14,7 +14,9 @@
 #include <cmath>
 #include <type_traits>
 
-namespace print {
+namespace labels {
+
+using print::twipsPerInch;
 
 using app::App;
 
@@ -120,9 +122,12 @@ void labelFrm::find() {
     constexpr std::size_t longest = 200;
     List1 = findLabelStocks(opening_.stocks, core::left(searchTxt, longest));
     ++findings;
+    const auto called = std::ranges::find_if(
+        List1, [&](const LabelStock* each) { return isCalled(*each, core::trim(searchTxt)); });
     const auto same =
         std::ranges::find_if(List1, [&](const LabelStock* each) { return stock && isStock(*each, *stock); });
-    ListIndex = same != List1.end() ? static_cast<int>(same - List1.begin()) : List1.empty() ? -1 : 0;
+    const auto chosen = called != List1.end() ? called : same;
+    ListIndex = chosen != List1.end() ? static_cast<int>(chosen - List1.begin()) : List1.empty() ? -1 : 0;
 }
 
 std::optional<LabelStock> labelFrm::ownStock() {
@@ -376,4 +381,4 @@ void labelFrm::keepDesign() {
         });
 }
 
-} // namespace print
+} // namespace labels

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "drawing/recordedPage.h"
-#include "print/labelDesign.h"
-#include "print/labelPrinting.h"
+#include "labels/labelDesign.h"
+#include "labels/labelPrinting.h"
 
 #include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace print {
+namespace labels {
 
 // What the one who shows the wizard gives it, and gets from it.
 struct LabelOpening {
@@ -102,4 +102,4 @@ private:
     int row_ = 1; // whose record the preview shows
 };
 
-} // namespace print
+} // namespace labels

@@ -2,14 +2,12 @@
 
 #include "app/app.h"
 #include "core/layoutObjects.h"
-#include "core/pageSettings.h"
-#include "print/labelStocks.h"
+#include "labels/labelPage.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
-namespace print {
+namespace labels {
 
 // What stands on a label. A line is text with columns in it: "{Zip} {City}".
 struct LabelText {
@@ -25,8 +23,6 @@ LabelText proposedLabel(const core::Document& document);
 // What is wrong with it, for the user; empty: nothing. A text of any length is answered at once.
 std::string faultOf(const core::Document& document, const LabelText& text);
 
-// The page that has the first label in its corner, as the file keeps it.
-core::LayoutOptions labelPage(const LabelStock& stock);
 struct LabelDesign {
     core::LayoutObjects objects; // on labelPage
     float FontSize = 0;
@@ -37,8 +33,4 @@ LabelDesign designLabel(const core::Document& document, const LabelStock& stock,
 // In place of all objects of the layout.
 void placeDesign(app::App& app, LabelDesign& design);
 
-// How far the labels would be from their places, in millimetres, for a program that knows the page and the
-// design, but not the stock: the most of all. Nothing when more or fewer of them would come out.
-std::optional<double> deviation(const LabelStock& stock, const core::LayoutObjects& objects);
-
-} // namespace print
+} // namespace labels

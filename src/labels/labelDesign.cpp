@@ -1,18 +1,14 @@
-#include "print/labelDesign.h"
+#include "labels/labelDesign.h"
 
-#include "core/number.h"
 #include "core/objectRef.h"
 #include "core/text.h"
 #include "layout/sheet.h"
-#include "print/layoutPrinting.h"
-#include "print/margins.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <set>
 
-namespace print {
+namespace labels {
 
 using core::Column;
 using core::Document;
@@ -187,7 +183,8 @@ private:
         const std::string_view bare = core::rtrim(behind);
         core::Label& label = objects_.tLabel.load(objects_.tLabel.lowestFreeIndex());
         label.Text = bare;
-        const double own = static_cast<double>(metrics_.textWidth(font_, bare)) + 10;
+        constexpr double slack = 1.05, rounding = 30; // of the screen, which would wrap the last letter
+        const double own = slack * static_cast<double>(metrics_.textWidth(font_, bare)) + rounding;
         place(label, x + gap, top, std::max(std::min(width - gap, own), 1.0), height);
     }
     template <typename Object>
@@ -205,48 +202,6 @@ private:
     const drawing::TextFont& font_;
     drawing::TextMetrics& metrics_;
 };
-
-// How the told way of placing layouts is made to find the places of the stock. There is one spacing for both
-// directions, half of which it adds to the margin.
-struct ToldPage {
-    double spacing = 0; // whole twips
-    double left = 0, top = 0, right = 0, bottom = 0;
-    double extentX = 0, extentY = 0; // of the layout, from the margins' corner
-};
-
-ToldPage toldPage(const LabelStock& stock) {
-    constexpr double slack = 2; // twips: the room is told rounded, and has to hold all of the labels
-    const double gapX = std::max(stock.columnPitch - stock.width, 0.0);
-    const double gapY = std::max(stock.rowPitch - stock.height, 0.0);
-    ToldPage page;
-    // A single label leaves the other direction to decide.
-    if (stock.columns > 1 && stock.rows > 1)
-        page.spacing = std::floor(std::min(gapX, gapY));
-    else if (stock.columns > 1)
-        page.spacing = std::floor(gapX);
-    else if (stock.rows > 1)
-        page.spacing = std::floor(gapY);
-    page.spacing = std::floor(std::min({page.spacing, 2 * stock.left, 2 * stock.top}));
-    const double pitchX = std::max(stock.columnPitch, stock.width),
-                 pitchY = std::max(stock.rowPitch, stock.height);
-    page.extentX = pitchX - page.spacing;
-    page.extentY = pitchY - page.spacing;
-    page.left = std::max(std::round(stock.left - page.spacing / 2 - slack / 2), 0.0);
-    page.top = std::max(std::round(stock.top - page.spacing / 2 - slack / 2), 0.0);
-    page.right = std::max(std::floor(stock.paperWidth - page.left - stock.columns * pitchX - slack), 0.0);
-    page.bottom = std::max(std::floor(stock.paperHeight - page.top - stock.rows * pitchY - slack), 0.0);
-    return page;
-}
-
-// Where the told way would put the first and the last of a row or column, by its own sums.
-std::optional<double> offBy(double paper, double before, double behind, double extent, double spacing,
-                            int count, double start, double pitch) {
-    const double room = paper - before - behind, each = extent + spacing;
-    if (!(each > 0) || std::trunc(room / each) != count) return std::nullopt;
-    const double pad = core::roundHalfEven(core::roundHalfEven(room - each * count + spacing) / 2);
-    const double first = before + pad, last = first + (count - 1) * each;
-    return std::max(std::abs(first - start), std::abs(last - (start + (count - 1) * pitch)));
-}
 
 } // namespace
 
@@ -327,34 +282,6 @@ std::string faultOf(const Document& document, const LabelText& text) {
     return {};
 }
 
-core::LayoutOptions labelPage(const LabelStock& stock) {
-    const ToldPage page = toldPage(stock);
-    const auto inches = [](double twips) { return static_cast<float>(twips / twipsPerInch); };
-    core::LayoutOptions options;
-    options.layoutPaperSize = static_cast<std::int16_t>(stock.paperCode);
-    options.layoutOrientation = core::portrait;
-    options.customPaperLength = inches(stock.paperWidth);
-    options.customPaperHeight = inches(stock.paperHeight);
-    options.layoutLeftMargin = inches(page.left);
-    options.layoutTopMargin = inches(page.top);
-    options.layoutRightMargin = inches(page.right);
-    options.layoutBottomMargin = inches(page.bottom);
-    options.layoutSpacing = inches(page.spacing);
-    return options;
-}
-
-std::optional<double> deviation(const LabelStock& stock, const core::LayoutObjects& objects) {
-    const ToldPage page = toldPage(stock);
-    const LayoutExtent extent =
-        layoutExtent(objects, static_cast<float>(page.left), static_cast<float>(page.top));
-    const auto x = offBy(stock.paperWidth, page.left, page.right, static_cast<double>(extent.maxWidth),
-                         page.spacing, stock.columns, stock.left, stock.columnPitch);
-    const auto y = offBy(stock.paperHeight, page.top, page.bottom, static_cast<double>(extent.maxHeight),
-                         page.spacing, stock.rows, stock.top, stock.rowPitch);
-    if (!x || !y) return std::nullopt;
-    return millimetresOf(std::max(*x, *y));
-}
-
 LabelDesign designLabel(const Document& document, const LabelStock& stock, const LabelText& text,
                         drawing::TextMetrics& metrics) {
     const Area area = textArea(stock);
@@ -410,4 +337,4 @@ void placeDesign(app::App& app, LabelDesign& design) {
     take(own.imgHolder, design.objects.imgHolder);
 }
 
-} // namespace print
+} // namespace labels

@@ -1,22 +1,28 @@
-#include "print/labelPrinting.h"
+#include "labels/labelPrinting.h"
 
 #include "app/longWork.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "entry/retrieveData.h"
 #include "layout/sheet.h"
 #include "print/layoutPrinting.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
 #include "print/previewPage.h"
+#include "print/previewPlace.h"
+#include "print/stockLabels.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-namespace print {
+namespace labels {
 
 using app::App;
 using drawing::DrawTarget;
+using print::PreviewPage;
+using print::previewPage;
+using print::twipsPerInch;
 
 namespace {
 
@@ -63,7 +69,8 @@ private:
 void LabelRun::usePaper() {
     const core::LayoutOptions& options = app_.document.layoutOptions;
     const drawing::Extent extent = layout::pageExtent(app_);
-    usePage(app_, target_, {options.layoutPaperSize, options.layoutOrientation, extent.Width, extent.Height});
+    print::usePage(app_, target_,
+                   {options.layoutPaperSize, options.layoutOrientation, extent.Width, extent.Height});
     left_ = static_cast<float>(core::toInt32(options.layoutLeftMargin * twipsPerInch));
     top_ = static_cast<float>(core::toInt32(options.layoutTopMargin * twipsPerInch));
     PreviewPage& page = previewPage(app_);
@@ -92,7 +99,7 @@ bool LabelRun::tellWhetherPossible() {
 void LabelRun::printPlace(long label, int place) {
     const auto at = std::ranges::upper_bound(copies_.ends, label) - copies_.ends.begin();
     const int row = copies_.rows[static_cast<std::size_t>(at)];
-    if (row != shown_) showRecordOf(app_, list_, row);
+    if (row != shown_) print::showRecordOf(app_, list_, row);
     shown_ = row;
     const LabelStock::Position corner = choice_.stock.position(place);
     const float left = static_cast<float>(corner.left), top = static_cast<float>(corner.top);
@@ -137,6 +144,7 @@ bool LabelRun::print() {
         return false;
     }
     target_.bOneSheet = true;
+    const entry::ManyRecordsShown many(app_);
     if (target_.isPrinter()) {
         app::LongWork work(app_, "Printing labels", static_cast<int>(copies_.labels()));
         const int sheets = labelSheets(choice_, copies_);
@@ -147,6 +155,8 @@ bool LabelRun::print() {
         target_.EndDoc();
     } else {
         printSheet(nullptr);
+        print::notePage(app_, previewPage(app_).iLayoutIndex / choice_.stock.perSheet(),
+                        labelSheets(choice_, copies_));
     }
     if (previewPage(app_).bLayoutSelectedOnly) {
         list_.MultiSelect = true;
@@ -215,6 +225,16 @@ bool printLabels(App& app, DrawTarget& target, const LabelChoice& choice) {
     return LabelRun(app, target, choice).print();
 }
 
+void printOnStocks(App& app) {
+    print::StockLabels& labels = print::stockLabels(app);
+    labels.print = [](App& each, DrawTarget& target) -> std::optional<bool> {
+        const auto choice = labelChoice(each);
+        if (!choice) return std::nullopt;
+        return printLabels(each, target, *choice);
+    };
+    labels.place = placeLabels;
+}
+
 bool placeLabels(App& app, std::string_view key) {
     const auto choice = labelChoice(app);
     if (!choice) return false;
@@ -252,4 +272,4 @@ void drawOutline(const LabelStock& stock, DrawTarget& target, float left, float 
     }
 }
 
-} // namespace print
+} // namespace labels

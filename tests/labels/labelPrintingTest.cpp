@@ -1,7 +1,8 @@
-#include "print/labelPrinting.h"
+#include "labels/labelPrinting.h"
 #include "app/fileSettings.h"
-#include "print/labelFrm.h"
+#include "labels/labelFrm.h"
 #include "print/layoutPrinting.h"
+#include "print/previewPlace.h"
 #include "printRecorder.h"
 #include "shell/undo.h"
 #include "table.h"
@@ -10,9 +11,9 @@
 
 namespace {
 
-std::vector<print::LabelStock> knownStocks() {
+std::vector<labels::LabelStock> knownStocks() {
     std::ifstream file(SAMPLES_DIR "/../stocks/labels.tsv");
-    return print::readLabelStocks(std::string(std::istreambuf_iterator<char>(file), {}));
+    return labels::readLabelStocks(std::string(std::istreambuf_iterator<char>(file), {}));
 }
 
 // A sheet of two by three labels, a millimetre apart.
@@ -21,18 +22,18 @@ constexpr const char* smallSheet = "Maker\tsmall\tLabels\tA4\t2\t3\t80\t40\t10\t
 struct Labels : testing::Test, PrintProgram {
     print::PreviewPage& page = print::previewPage(app);
 
-    print::LabelChoice prepare(const print::LabelStock& stock, std::vector<std::string> lines) {
-        print::LabelDesign design =
-            print::designLabel(app.document, stock, {std::move(lines), {}, 0, false}, platform.metrics);
-        print::placeDesign(app, design);
-        app.document.layoutOptions = print::labelPage(stock);
-        print::LabelChoice choice;
+    labels::LabelChoice prepare(const labels::LabelStock& stock, std::vector<std::string> lines) {
+        labels::LabelDesign design =
+            labels::designLabel(app.document, stock, {std::move(lines), {}, 0, false}, platform.metrics);
+        labels::placeDesign(app, design);
+        app.document.layoutOptions = labels::labelPage(stock);
+        labels::LabelChoice choice;
         choice.stock = stock;
         return choice;
     }
-    void keep(const print::LabelChoice& choice) { EXPECT_TRUE(print::keepLabelChoice(app, choice)); }
+    void keep(const labels::LabelChoice& choice) { EXPECT_TRUE(labels::keepLabelChoice(app, choice)); }
     // How far the labels of the first sheet are from the stock's places, in twips; -1: too few.
-    float furthest(const print::LabelStock& stock) {
+    float furthest(const labels::LabelStock& stock) {
         platform.printed = {};
         page.iLayoutIndex = 0;
         RecordingPrinter printer(platform.printed);
@@ -40,7 +41,7 @@ struct Labels : testing::Test, PrintProgram {
         app.mainFrm.theListView->MultiSelect = false;
         print::PrintMultipleLayouts(app, printer);
         const core::LayoutField& field = app.document.layout.layoutField[1];
-        const core::LayoutOptions options = print::labelPage(stock);
+        const core::LayoutOptions options = labels::labelPage(stock);
         float furthest = 0;
         if (std::ssize(sheet(0)) != stock.perSheet()) return -1;
         for (int n = 1; n <= stock.perSheet(); ++n) {
@@ -62,14 +63,14 @@ TEST_F(Labels, StandWhereTheStockHasThemAndWithoutItWhereTheFileSaysSo) {
     int all = 0, kept = 0;
     const auto stocks = knownStocks();
     for (std::size_t i = 0; i < stocks.size(); i += 7) {
-        const print::LabelStock& stock = stocks[i];
-        if (stock.perSheet() > 250 || stock.shape == print::LabelShape::Cd) continue;
-        const print::LabelChoice choice = prepare(stock, {"{Name}"});
-        const auto off = print::deviation(stock, app.document.layout);
+        const labels::LabelStock& stock = stocks[i];
+        if (stock.perSheet() > 250 || stock.shape == labels::LabelShape::Cd) continue;
+        const labels::LabelChoice choice = prepare(stock, {"{Name}"});
+        const auto off = labels::deviation(stock, app.document.layout);
         keep(choice);
         const float byStock = furthest(stock);
         EXPECT_TRUE(byStock >= 0 && byStock < 1) << stock.maker << " " << stock.number << " " << byStock;
-        print::keepLabelChoice(app, std::nullopt);
+        labels::keepLabelChoice(app, std::nullopt);
         const float byFile = furthest(stock);
         const bool isExact = byFile >= 0 && byFile <= tenthOfMillimetre;
         EXPECT_EQ(isExact, off && *off <= 0.1) << stock.maker << " " << stock.number << " " << byFile;
@@ -82,7 +83,7 @@ TEST_F(Labels, StandWhereTheStockHasThemAndWithoutItWhereTheFileSaysSo) {
 
 TEST_F(Labels, StartCopiesAndOutlinesAreAsChosen) {
     open(DataFile("Name Many:4", "r1|2;r2|;r3|x;r4|-1;r5|1"));
-    print::LabelChoice choice = prepare(*print::labelStockOf(smallSheet), {"{Name}"});
+    labels::LabelChoice choice = prepare(*labels::labelStockOf(smallSheet), {"{Name}"});
     const auto print = [&] {
         keep(choice);
         run("Print_All_As_Multiple_Layouts");
@@ -98,9 +99,10 @@ TEST_F(Labels, StartCopiesAndOutlinesAreAsChosen) {
     run("Multiple_Layout_Preview_All");
     EXPECT_EQ(turn("First Next Next Next Back Last"),
               "r1..r1>6; r2..r4>12; r5..r5>18; r1..r1>6; r1..r1>6; r5..r5>18; ");
+    EXPECT_EQ(print::previewPlaceText(app) + (print::turnPreview(app, true) ? "!" : ""), "Page 3 of 3");
     choice.copiesColumn = "Many";
     EXPECT_EQ(print(), "r1 r1/r5|.");
-    EXPECT_EQ(print::aboutLabels(choice, print::countLabels(app, choice, false)),
+    EXPECT_EQ(labels::aboutLabels(choice, labels::countLabels(app, choice, false)),
               "3 labels on 2 sheets.  3 records have no number above 0 there: no label.");
     choice.copiesColumn.clear();
     choice.bOutlines = true;
@@ -109,13 +111,13 @@ TEST_F(Labels, StartCopiesAndOutlinesAreAsChosen) {
     EXPECT_EQ(drawnOn(preview()).substr(0, 50), "567,1134 4535,2268 1,8421504; 5159,1134 4535,2268 ");
     // Other margins, and the layout prints as any other one.
     app.document.layoutOptions.layoutLeftMargin += 0.1F;
-    EXPECT_FALSE(print::labelChoice(app));
+    EXPECT_FALSE(labels::labelChoice(app));
 }
 
 TEST_F(Labels, TooManyAreRefusedAndALongPrintCanBeGivenUp) {
     open(DataFile("Name Many:4", "r1|1e9;r2|1000"));
     for (int i = 0; i < 200; ++i) record({"more", "1000"});
-    print::LabelChoice choice = prepare(*print::labelStockOf(smallSheet), {"{Name}"});
+    labels::LabelChoice choice = prepare(*labels::labelStockOf(smallSheet), {"{Name}"});
     choice.copiesColumn = "Many";
     keep(choice);
     run("Print_All_As_Multiple_Layouts");
@@ -135,7 +137,7 @@ TEST_F(Labels, TooManyAreRefusedAndALongPrintCanBeGivenUp) {
         const auto n = core::split(c[0], '\t');
         std::string line = "M\t1\tL\tA4\t";
         line.append(n[2]).append("\t").append(n[3]).append("\t").append(n[0]).append("\t").append(n[1]);
-        EXPECT_EQ(print::labelStockOf(line + "\t0\t0\t1\t1\trectangle").has_value(), c[1] == "x") << size;
+        EXPECT_EQ(labels::labelStockOf(line + "\t0\t0\t1\t1\trectangle").has_value(), c[1] == "x") << size;
     }
 }
 
@@ -152,9 +154,9 @@ TEST_F(Labels, EmptyLinesAndLonelyWordsAreLeftOut) {
         open(DataFile("A B C D E", c[0]));
         std::vector<std::string> lines;
         for (const std::string_view line : core::split(c[1], ',')) lines.emplace_back(line);
-        const print::LabelStock stock = *print::labelStockOf(smallSheet);
-        print::LabelDesign design =
-            print::designLabel(app.document, stock, {lines, {}, 10, false}, platform.metrics);
+        const labels::LabelStock stock = *labels::labelStockOf(smallSheet);
+        labels::LabelDesign design =
+            labels::designLabel(app.document, stock, {lines, {}, 10, false}, platform.metrics);
         float left = 9000, top = 9000;
         design.objects.tLabel.forEach([&](const core::Label& label) {
             left = std::min(left, label.Left);
@@ -168,19 +170,20 @@ TEST_F(Labels, EmptyLinesAndLonelyWordsAreLeftOut) {
         drawing::RecordedPage target;
         target.measureWith(platform.metrics);
         target.setPage({});
-        print::drawLabel(app, design.objects, target, -left, -top, true, 9000);
+        labels::drawLabel(app, design.objects, target, -left, -top, true, 9000);
         EXPECT_EQ(core::replaceAll(drawnOn(target.drawn()), "; ", ", "), c[2]) << c[0] << " in " << c[1];
     }
 }
 
 TEST_F(Labels, TheWizardSetsAPageAndADesignInOneStep) {
     openRecords(3, "F|Name|1440|1440|2000|1000");
-    app.rooms.of<print::LabelOpening>().stocks = knownStocks();
+    app.rooms.of<labels::LabelOpening>().stocks = knownStocks();
     shell::beforeEvent(app);
     platform.onForm = [&](std::string_view) {
-        print::labelFrm form(app);
+        labels::labelFrm form(app);
         form.searchTxt_Change("no such sheet");
         EXPECT_FALSE(form.nextEnabled);
+        form.searchTxt_Change("a"); // any sheet is chosen, until one is called so
         form.searchTxt_Change("avery l7163");
         form.nextBtn_Click();
         for (const auto& c :
@@ -212,8 +215,8 @@ TEST_F(Labels, TheWizardSetsAPageAndADesignInOneStep) {
     run("mnuUndo");
     EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 1);
     EXPECT_EQ(app.document.layout.layoutField[1].Left, 1440);
-    EXPECT_FALSE(print::labelChoice(app)); // the design that it was for is gone
-    EXPECT_EQ(print::labelFrm(app).linesTxt, "To {Name}"); // of the last time
+    EXPECT_FALSE(labels::labelChoice(app));                 // the design that it was for is gone
+    EXPECT_EQ(labels::labelFrm(app).linesTxt, "To {Name}"); // of the last time
     app.document.lockPassword = "x";
     platform.forms.clear();
     run("mnuLabels");

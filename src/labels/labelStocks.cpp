@@ -1,4 +1,4 @@
-#include "print/labelStocks.h"
+#include "labels/labelStocks.h"
 
 #include "core/text.h"
 #include "drawing/papers.h"
@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-namespace print {
+namespace labels {
 
 namespace {
 
@@ -209,4 +209,10 @@ std::vector<const LabelStock*> findLabelStocks(const std::vector<LabelStock>& st
     return found;
 }
 
-} // namespace print
+bool isCalled(const LabelStock& stock, std::string_view name) {
+    std::string whole = stock.maker;
+    whole.append(" ").append(stock.number);
+    return core::equalsNoCase(whole, name) || core::equalsNoCase(stock.number, name);
+}
+
+} // namespace labels
