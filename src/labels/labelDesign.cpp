@@ -253,26 +253,34 @@ LabelText proposedLabel(const Document& document) {
     return text;
 }
 
+namespace {
+
+// Notes the columns of a line, each of which stands once on a label; empty where nothing is wrong.
+std::string faultOfLine(const Document& document, const std::string& line, std::set<const Column*>& used) {
+    if (line.size() > mostText) return "A line of the label is too long.";
+    std::size_t at = 0;
+    while ((at = line.find('{', at)) != std::string::npos) {
+        const std::size_t close = line.find('}', at);
+        if (close == std::string::npos) return "A column is written in braces: {Name}.";
+        const std::string name(core::trim(std::string_view(line).substr(at + 1, close - at - 1)));
+        const Column* column = columnOf(document, name);
+        std::string fault = column == nullptr ? "There is no column \"" : "The column \"";
+        fault.append(name).append(column == nullptr ? "\" whose text could be printed."
+                                                    : "\" stands on the label twice.");
+        if (column == nullptr || !used.insert(column).second) return fault;
+        at = close;
+        if (used.size() > mostPieces) return "The label has too many columns.";
+    }
+    return {};
+}
+
+} // namespace
+
 std::string faultOf(const Document& document, const LabelText& text) {
     if (text.lines.size() > mostLines) return "A label has 50 lines at most.";
     std::set<const Column*> used;
-    std::size_t pieces = 0;
-    for (const std::string& line : text.lines) {
-        if (line.size() > mostText) return "A line of the label is too long.";
-        std::size_t at = 0;
-        while ((at = line.find('{', at)) != std::string::npos) {
-            const std::size_t close = line.find('}', at);
-            if (close == std::string::npos) return "A column is written in braces: {Name}.";
-            const std::string name(core::trim(std::string_view(line).substr(at + 1, close - at - 1)));
-            const Column* column = columnOf(document, name);
-            std::string fault = column == nullptr ? "There is no column \"" : "The column \"";
-            fault.append(name).append(column == nullptr ? "\" whose text could be printed."
-                                                        : "\" stands on the label twice.");
-            if (column == nullptr || !used.insert(column).second) return fault;
-            at = close;
-            if (++pieces > mostPieces) return "The label has too many columns.";
-        }
-    }
+    for (const std::string& line : text.lines)
+        if (std::string fault = faultOfLine(document, line, used); !fault.empty()) return fault;
     if (!text.pictureColumn.empty()) {
         const Column* column = document.LV.columns.find(text.pictureColumn);
         if (column == nullptr || !column->isType(core::ColumnType::Picture))
