@@ -274,9 +274,12 @@ RunningCommand::~RunningCommand() {
 void followForUndo(app::Changes& changes) {
     using app::Change;
     changes.follow({Change::Begun}, begin);
-    changes.follow(
-        {Change::Modified, Change::Columns, Change::Values, Change::CurrentRecord, Change::Unsaved},
-        [](App& app) { historyOf(app).bRecords = true; });
+    changes.follow({Change::Modified, Change::Columns, Change::Values, Change::Unsaved},
+                   [](App& app) { historyOf(app).bRecords = true; });
+    // A key in the filter bar moves to another record and changes none.
+    changes.follow({Change::CurrentRecord}, [](App& app) {
+        if (!search::isShowingFound(app)) historyOf(app).bRecords = true;
+    });
     changes.follow({Change::Stored}, [](App& app) {
         settle(app);
         historyOf(app).stack.markSaved();

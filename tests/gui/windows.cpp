@@ -127,21 +127,25 @@ private slots:
             Session run(sample(file), *file == 'b' ? 13 : 9);
             run.onDialog = look;
             for (const char* form :
-                 {"disclaimFrm", "databaseTypeFrm", "designFrm", "entryFrm", "formulateFrm", "TotalsFrm",
-                  "mailFrm", "reportPageSetup", "reportChoicesFrm", "layoutPageSetupFrm", "replaceFrm",
-                  "searchFrm", "serialFrm", "repeatFrm", "setValuesFrm", "duplicatesFrm", "serialCheckFrm",
-                  "statisticsFrm", "coloursFrm", "makeCodeFrm"})
+                 {"disclaimFrm",      "databaseTypeFrm",    "designFrm",    "entryFrm",
+                  "formulateFrm",     "TotalsFrm",          "mailFrm",      "reportPageSetup",
+                  "reportChoicesFrm", "layoutPageSetupFrm", "replaceFrm",   "searchFrm",
+                  "serialFrm",        "repeatFrm",          "setValuesFrm", "duplicatesFrm",
+                  "serialCheckFrm",   "statisticsFrm",      "coloursFrm",   "makeCodeFrm",
+                  "exportFrm"})
                 run.platform.showForm(form);
         }
         Session run(sample("books.fwk"), 26);
         run.onDialog = look;
         for (const char* form : {"searchFrm", "reportPageSetup", "designFrm"}) run.platform.showForm(form);
+        run.platform.chosenFile = TEST_DATA_DIR "/tables/gn-us.csv";
+        run.act(u"click mnuImportTable"_s);
         gui::QtPlatform platform;
         platform.msgBox("Save?", platform::Icon::Question, "Title", platform::Buttons::YesNo);
         platform.inputBox("How many?", "A title that is longer than its box", "1");
         platform.showFont({"Arial", 8});
         QCOMPARE(complaints.all.join(u'\n'), QString());
-        QCOMPARE(shown, 46);
+        QCOMPARE(shown, 49);
     }
 
     void theMainWindow() {

@@ -106,18 +106,22 @@ QLayout* importFrmView::makeFile() {
 
 QLayout* importFrmView::makeTarget() {
     auto* row = new QHBoxLayout;
-    row->addWidget(new QLabel(tr("Into:")));
+    auto* into = new QLabel(tr("Into:"));
+    row->addWidget(into);
     auto* group = new QButtonGroup(this);
     const std::array<QString, 2> captions = {tr("a ne&w database"), tr("new records of the &open database")};
     for (std::size_t i = 0; i < captions.size(); ++i) {
         auto* button = new QRadioButton(captions.at(i));
         button->setObjectName(QStringLiteral("Opt1_%1").arg(i));
+        // Who hears it and does not see what stands in front would take it for half a sentence.
+        button->setAccessibleName(into->text() + u' ' + QString(captions.at(i)).remove(u'&'));
         group->addButton(button);
         connect(button, &QRadioButton::clicked, this,
                 [this, i] { on([&] { form_.Opt1_Click(static_cast<int>(i)); }); });
         row->addWidget(button);
         Opt1_.at(i) = button;
     }
+    into->setBuddy(Opt1_[0]);
     row->addSpacing(em());
     addChoice(*row, "styleCbo", tr("Database st&yle:"), &importFrm::styleCbo, &importFrm::styleCbo_Click);
     row->addStretch();

@@ -23,6 +23,7 @@ SuggestionList::SuggestionList(QWidget* window) : QListWidget(window) {
     setObjectName(QStringLiteral("suggestions"));
     setAccessibleName(tr("Earlier values"));
     setUniformItemSizes(true);
+    setFrameStyle(QFrame::Box | QFrame::Plain); // a style's own is not seen among dark boxes
     setMouseTracking(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
@@ -47,6 +48,9 @@ bool SuggestionList::bring(const SuggestedBox& box, bool asked) {
     }
     box_ = box;
     entered_ = asked;
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, colours.color(QPalette::PlaceholderText)); // of the frame
+    setPalette(colours);
     clear();
     addItems(values);
     for (int row = 0; row < count(); ++row) item(row)->setToolTip(values[row]);
