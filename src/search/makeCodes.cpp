@@ -109,9 +109,8 @@ int writeCodes(App& app, const std::string& columnName, const MadeCodes& made, b
 
 void dropUnusedCodes(App& app) {
     const auto used = usedCodes(app.document.LV, app.document.LV.columns.at(1), {});
-    layout::storePictures(app, {}, [&](std::string_view name) {
-        return codes::isCodeEntryName(name) && !used.contains(name);
-    });
+    layout::storePictures(
+        app, {}, [&](std::string_view name) { return codes::isCodeEntryName(name) && !used.contains(name); });
 }
 
 } // namespace search

@@ -160,7 +160,7 @@ click PageSetup; click moreBtn -> reportChoicesFrm=Report Choices headsChk=* ste
 focus groupList; type Since; focus stepList; type quarter; click pagesChk; press Return -> -reportChoicesFrm
     reportPageSetup=Report Page Setup titleTxt=Packages boldYesOpt=x letterOpt=x PortraitOpt=x leftTxt=1 rightTxt=1
     TopTxt=1 bottomTxt=1 moreBtn=*
-press Escape; file out.pdf; click mnuPrint -> -reportPageSetup rptPreview2=*
+focus titleTxt; press Return; file out.pdf; click mnuPrint -> -reportPageSetup rptPreview2=* SB1_5=Document Modified
 )");
         QCOMPARE(printed(u"Since: .*-Q\\d"_s), u"16 of 612 x 792, 145"_s);
     }

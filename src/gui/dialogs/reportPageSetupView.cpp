@@ -49,7 +49,8 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     auto* column = new QVBoxLayout(this);
     column->addLayout(sides, 1);
     column->addLayout(bottom);
-    ok->setDefault(true); // once it is in the dialog, or it would be the first button, which opens another one
+    ok->setDefault(
+        true); // once it is in the dialog, or it would be the first button, which opens another one
     LV3_->setFocus();
     resize(em() * 32, sizeHint().height());
 }
