@@ -84,6 +84,7 @@ constexpr std::array rows = std::to_array<Row>({
 std::span<const PaperSize> papers() {
     static const std::vector<PaperSize> all = [] {
         std::vector<PaperSize> sizes;
+        sizes.reserve(rows.size());
         for (const Row& row : rows)
             sizes.push_back(
                 {row.code, row.name, std::lround(row.width * row.unit), std::lround(row.height * row.unit)});

@@ -8,6 +8,8 @@
 #include "shell/program.h"
 #include "storage/openFile.h"
 
+#include <utility>
+
 // A program with a scripted machine, and databases to work on. The usual test:
 //
 //     Program program(DataFile("Name Qty:4", "Bolt|12;Nut|7"));   // opened from a file; see dataFile.h

@@ -4,6 +4,7 @@
 #include "file/values.h"
 
 #include <regex>
+#include <utility>
 
 // What acts do to the files of a folder. changes() tells, since the last look, a line for each changed line
 // of a database's design and records, and for each of its entries ("name:comment:bytes"), or of another file:
