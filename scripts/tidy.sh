@@ -24,10 +24,14 @@ if [[ ! -f $build/compile_commands.json ]]; then
     exit 2
 fi
 # What moc and rcc make is not ours to mend, the build's warning flags may be those of another compiler, and so may be its
-# precompiled headers.
+# precompiled headers. Where they are clang's own, those of the window save a third of its time; those of the rooms none.
 database=$build/tidy
 mkdir -p "$database"
-sed -E 's/ -Winvalid-pch//; s/ -include [^ ]*cmake_pch\.hxx//; s/( -Xclang -include(-pch)? -Xclang [^ ]*)+//; s/ -fsanitize=[^ ]*//g' \
-    "$build/compile_commands.json" >"$database/compile_commands.json"
+sed -E 's/ -Winvalid-pch//
+    /clang\+\+-14 .*ferrowick_gui\.dir/!{
+        s/ -include [^ ]*cmake_pch\.hxx//
+        s/( -Xclang -include(-pch)? -Xclang [^ ]*)+//
+        s/ -fsanitize=[^ ]*//g
+    }' "$build/compile_commands.json" >"$database/compile_commands.json"
 exec run-clang-tidy-14 -quiet -j "$(nproc)" -p "$database" "${checks[@]}" -extra-arg=-Wno-unknown-warning-option \
     -extra-arg=-Wno-error "^$PWD/src/" '/src/.*/Unity/unity_'
