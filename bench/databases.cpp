@@ -1,6 +1,6 @@
 #include "databases.h"
 
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "makeBigDatabase.h"
 #include "storage/openFile.h"
 

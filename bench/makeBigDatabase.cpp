@@ -1,6 +1,6 @@
 #include "makeBigDatabase.h"
 
-#include "file/zip.h"
+#include "file/archive/zip.h"
 
 #include <array>
 #include <cstdint>

@@ -5,7 +5,7 @@
 #include "core/runTimeError.h"
 #include "exchange/delimited.h"
 #include "exchange/sheetCollector.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "tables/importTable.h"
 
 #include <cstddef>

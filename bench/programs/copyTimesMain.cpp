@@ -1,4 +1,4 @@
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "gui/frame/mainFrmView.h"
 #include "gui/widgets/textBox.h"
 #include "shell/mainWindow.h"

@@ -1,6 +1,6 @@
 #include "gui/frame/mainFrmView.h"
-#include "search/filterMode.h"
-#include "search/filterSearch.h"
+#include "search/filter/filterMode.h"
+#include "search/filter/filterSearch.h"
 #include "shell/mainWindow.h"
 #include "shell/program.h"
 #include "times.h"

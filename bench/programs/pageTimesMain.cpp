@@ -1,4 +1,4 @@
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "gui/frame/mainFrmView.h"
 #include "shell/mainWindow.h"
 #include "shell/program.h"

@@ -5,10 +5,10 @@
 #include "core/encoding.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "file/archive/zip.h"
 #include "file/dataReader.h"
 #include "file/lineReader.h"
 #include "file/values.h"
-#include "file/zip.h"
 #include "invoice/views.h"
 
 #include <CLI/CLI.hpp>

@@ -4,7 +4,7 @@
 #include "cli/whereOption.h"
 #include "core/text.h"
 #include "layout/keptPictures.h"
-#include "search/makeCodes.h"
+#include "search/codes/makeCodes.h"
 #include "search/manyRecords.h"
 #include "search/searchMode.h"
 

@@ -2,7 +2,7 @@
 
 #include "core/text.h"
 #include "core/totalsRow.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"
 

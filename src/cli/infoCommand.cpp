@@ -3,7 +3,7 @@
 #include "cli/output.h"
 #include "cli/session.h"
 #include "core/number.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 
 #include <CLI/CLI.hpp>
 

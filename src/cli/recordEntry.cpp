@@ -2,7 +2,7 @@
 
 #include "calc/serialNumbers.h"
 #include "entry/editRecord.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "core/format.h"
 #include "core/number.h"
 #include "core/text.h"
-#include "exchange/sheetNumbers.h"
+#include "exchange/formats/sheetNumbers.h"
 #include "file/atomicFile.h"
 
 #include <algorithm>

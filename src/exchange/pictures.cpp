@@ -1,9 +1,9 @@
 #include "exchange/pictures.h"
 
 #include "exchange/outCells.h"
-#include "file/entryName.h"
+#include "file/archive/entryName.h"
+#include "file/archive/zip.h"
 #include "file/fileHandle.h"
-#include "file/zip.h"
 
 #include <set>
 #include <system_error>

@@ -2,7 +2,7 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
 #include "exchange/csvReader.h"
-#include "exchange/formats.h"
+#include "exchange/formats/formats.h"
 #include "exchange/outCells.h"
 #include "exchange/textRows.h"
 #include "file/fileHandle.h"

@@ -1,7 +1,7 @@
 #include "core/text.h"
 #include "exchange/columnTypes.h"
 #include "exchange/csvWriter.h"
-#include "exchange/formats.h"
+#include "exchange/formats/formats.h"
 #include "exchange/jsonText.h"
 #include "exchange/outCells.h"
 #include "exchange/textRows.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "file/zip.h"
+#include "file/archive/zip.h"
 
 #include <optional>
 #include <string>

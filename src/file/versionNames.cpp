@@ -1,6 +1,6 @@
 #include "file/versionNames.h"
 
-#include "file/zip.h"
+#include "file/archive/zip.h"
 
 #include <charconv>
 #include <cstdio>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "file/packedArchive.h"
+#include "file/archive/packedArchive.h"
 #include "file/versions.h"
 
 namespace file {

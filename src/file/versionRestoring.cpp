@@ -1,10 +1,10 @@
 #include "file/versions.h"
 
 #include "core/runTimeError.h"
+#include "file/archive/packedArchive.h"
+#include "file/archive/zip.h"
 #include "file/atomicFile.h"
-#include "file/packedArchive.h"
 #include "file/versionNames.h"
-#include "file/zip.h"
 
 #include <algorithm>
 

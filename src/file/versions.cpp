@@ -1,8 +1,8 @@
 #include "file/versions.h"
 
 #include "core/runTimeError.h"
-#include "file/checksum.h"
-#include "file/packedArchive.h"
+#include "file/archive/checksum.h"
+#include "file/archive/packedArchive.h"
 #include "file/versionNames.h"
 #include "file/workFiles.h"
 

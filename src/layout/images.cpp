@@ -4,7 +4,7 @@
 #include "app/hourglass.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "layout/keptPictures.h"
 #include "layout/sheet.h"
 

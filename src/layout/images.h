@@ -2,7 +2,7 @@
 
 #include "app/app.h"
 #include "core/layoutObjects.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 
 #include <filesystem>
 #include <functional>

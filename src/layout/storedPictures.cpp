@@ -1,7 +1,7 @@
 #include "layout/storedPictures.h"
 
 #include "core/runTimeError.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "layout/images.h"
 #include "layout/keptPictures.h"
 

@@ -23,6 +23,10 @@ std::vector<ReportColumn> reportColumns(const core::Document& document, const co
     return columns;
 }
 
+std::string_view fittingText(const ReportColumn& column, std::string_view text) {
+    return column.isNumeric ? text : core::left(text, column.characters);
+}
+
 std::string padded(std::string_view text, std::size_t characters) {
     std::string result(text);
     const std::size_t length = core::length(text);

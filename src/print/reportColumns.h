@@ -29,7 +29,10 @@ std::vector<ReportColumn> reportColumns(const core::Document& document, const co
 // With blanks behind it, up to so many characters.
 std::string padded(std::string_view text, std::size_t characters);
 
-// Prints a line from the current place; textOf gives the text of a column.
+// What of a text its column has room for; a number is never cut.
+std::string_view fittingText(const ReportColumn& column, std::string_view text);
+
+// Prints a line from the current place; textOf gives the text of a ReportColumn.
 template <typename TextOf>
 void printReportLine(const core::Document& document, drawing::DrawTarget& target,
                      const std::vector<ReportColumn>& columns, TextOf&& textOf) {
@@ -41,12 +44,11 @@ void printReportLine(const core::Document& document, drawing::DrawTarget& target
             continue;
         }
         target.CurrentX += columnGap;
-        const std::string_view text = textOf(*entry.column);
+        const std::string_view text = textOf(entry);
         if (entry.isNumeric)
             printRightAligned(document, target, target.CurrentX, entry.width, text, last);
         else
-            printLeftAligned(document, target, target.CurrentX,
-                             padded(core::left(text, entry.characters), entry.characters), last);
+            printLeftAligned(document, target, target.CurrentX, padded(text, entry.characters), last);
     }
 }
 

@@ -41,7 +41,9 @@ private:
     void printRows();
     template <typename TextOf>
     void printLine(TextOf&& textOf) {
-        printReportLine(document_, target_, columns_, textOf);
+        printReportLine(document_, target_, columns_, [&](const ReportColumn& column) {
+            return fittingText(column, textOf(*column.column));
+        });
     }
     void printHeadings();
     void closeList();
@@ -223,22 +225,10 @@ void printSelectedTotals(core::Document& document, DrawTarget& target, const Rec
     target.Line(0, target.CurrentY, target.Width, target.CurrentY);
     target.CurrentY += ruleGap;
     target.CurrentX = static_cast<float>(document.reportData.reportLeftMargin * twipsPerInch);
-    const std::vector<ReportColumn> columns = reportColumns(document, theList);
-    for (std::size_t place = 0; place < columns.size(); ++place) {
-        const ReportColumn& entry = columns[place];
-        const bool last = place + 1 == columns.size();
-        if (!entry.isPrinted) {
-            if (last) printRightAligned(document, target, target.CurrentX, 0, {}, true);
-            continue;
-        }
-        target.CurrentX += columnGap;
-        const Item* sum = document.LV3.findText(entry.column->Text);
-        const std::string_view text = sum == nullptr ? std::string_view() : sum->subItem(1).view();
-        if (entry.isNumeric)
-            printRightAligned(document, target, target.CurrentX, entry.width, text, last);
-        else
-            printLeftAligned(document, target, target.CurrentX, padded(text, entry.characters), last);
-    }
+    printReportLine(document, target, reportColumns(document, theList), [&](const ReportColumn& column) {
+        const Item* sum = document.LV3.findText(column.column->Text);
+        return sum == nullptr ? std::string_view() : sum->subItem(1).view();
+    });
     target.CurrentX = 0;
 }
 

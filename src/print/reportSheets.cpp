@@ -41,8 +41,9 @@ private:
     void drawSums(const ReportPlan::Sums& sums, bool isRuled);
     void drawTotals();
     void drawRow(const core::Item& item) {
-        printReportLine(document_, target_, columns_,
-                        [&](const core::Column& column) { return RecordsList::cell(item, column).view(); });
+        printReportLine(document_, target_, columns_, [&](const ReportColumn& column) {
+            return fittingText(column, RecordsList::cell(item, *column.column).view());
+        });
     }
     void drawRule();
     void goTo(float y) {
@@ -115,7 +116,7 @@ void SheetsOfReport::drawTop(std::size_t number) {
     goTo(top_);
     target_.FontBold = settings().bReportBoldHeaders;
     printReportLine(document_, target_, columns_,
-                    [](const core::Column& column) { return std::string_view(column.Text); });
+                    [](const ReportColumn& column) { return fittingText(column, column.column->Text); });
     target_.FontBold = false;
     drawRule();
 }

@@ -2,8 +2,8 @@
 
 #include "app/fileSettings.h"
 #include "core/text.h"
-#include "search/filter.h"
-#include "search/folding.h"
+#include "search/filter/filter.h"
+#include "search/filter/folding.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 #include "search/columnNames.h"
 
 #include "app/fileSettings.h"
-#include "search/codeRules.h"
+#include "search/codes/codeRules.h"
 #include "search/colourRules.h"
-#include "search/filter.h"
-#include "search/filterMode.h"
+#include "search/filter/filter.h"
+#include "search/filter/filterMode.h"
 
 #include <algorithm>
 #include <utility>

@@ -4,7 +4,7 @@
 #include "core/text.h"
 #include "core/totalsRow.h"
 #include "entry/editRecord.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"
 

@@ -4,7 +4,7 @@
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
 #include "entry/navBar.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "search/searchEngine.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "core/number.h"
 #include "core/sorting.h"
 #include "core/text.h"
-#include "search/folding.h"
+#include "search/filter/folding.h"
 
 #include <algorithm>
 #include <charconv>

@@ -6,7 +6,7 @@
 #include "lock/designLock.h"
 #include "platform/programFiles.h"
 #include "print/printerCheck.h"
-#include "search/makeCodeFrm.h"
+#include "search/codes/makeCodeFrm.h"
 #include "search/searchMode.h"
 #include "shell/commands.h"
 #include "shell/mainWindow.h"

@@ -3,7 +3,7 @@
 #include "app/hourglass.h"
 #include "app/windowState.h"
 #include "core/text.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "layout/keptPictures.h"
 #include "storage/versions.h"
 

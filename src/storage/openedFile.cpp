@@ -2,8 +2,8 @@
 
 #include "app/windowState.h"
 #include "core/runTimeError.h"
+#include "file/archive/zip.h"
 #include "file/dataWriter.h"
-#include "file/zip.h"
 #include "storage/openFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"

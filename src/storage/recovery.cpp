@@ -1,8 +1,8 @@
 #include "storage/recovery.h"
 
 #include "core/runTimeError.h"
+#include "file/archive/zip.h"
 #include "file/dataWriter.h"
-#include "file/zip.h"
 
 #include <filesystem>
 

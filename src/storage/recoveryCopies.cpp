@@ -1,9 +1,9 @@
 #include "storage/recoveryCopies.h"
 
 #include "core/runTimeError.h"
+#include "file/archive/zip.h"
 #include "file/dataWriter.h"
 #include "file/fileState.h"
-#include "file/zip.h"
 #include "storage/openedFile.h"
 
 #include <algorithm>

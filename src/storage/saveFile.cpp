@@ -1,9 +1,9 @@
 #include "storage/saveFile.h"
 
 #include "app/windowState.h"
-#include "file/checksum.h"
+#include "file/archive/checksum.h"
+#include "file/archive/zip.h"
 #include "file/dataWriter.h"
-#include "file/zip.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveSteps.h"

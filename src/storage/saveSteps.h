@@ -2,7 +2,7 @@
 
 #include "app/app.h"
 #include "core/runTimeError.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 
 #include <functional>
 #include <optional>

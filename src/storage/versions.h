@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/app.h"
+#include "file/archive/zip.h"
 #include "file/versions.h"
-#include "file/zip.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "summary/groupFilter.h"
 
 #include "core/text.h"
-#include "search/filter.h"
+#include "search/filter/filter.h"
 
 namespace summary {
 

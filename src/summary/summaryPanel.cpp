@@ -6,7 +6,7 @@
 #include "core/totalsRow.h"
 #include "exchange/csvWriter.h"
 #include "print/printCommands.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "search/manyRecords.h"
 #include "search/searchEngine.h"
 #include "search/searchMode.h"

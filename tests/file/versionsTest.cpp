@@ -1,5 +1,5 @@
 #include "file/versions.h"
-#include "file/checksum.h"
+#include "file/archive/checksum.h"
 #include "folderFixture.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "../support/dataFile.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "gui/frame/mainFrmView.h"
 #include "screen.h"
 #include "shell/mainWindow.h"

@@ -12,7 +12,7 @@ fi
 faults=0
 while read -r room uses; do
     allowed=$(tr ' ' '|' <<<"$room $uses")
-    if grep -nE '^#include "[a-z]+/' "src/$room"/* | grep -vE "#include \"($allowed)/"; then
+    if grep -rnE '^#include "[a-z]+/' "src/$room" | grep -vE "#include \"($allowed)/"; then
         echo "$room includes a room that it may not use" >&2
         faults=1
     fi

@@ -1,6 +1,6 @@
 #include "entry/navBar.h"
-#include "search/filterMode.h"
-#include "search/folding.h"
+#include "search/filter/filterMode.h"
+#include "search/filter/folding.h"
 #include "searchProgram.h"
 #include "shell/mainWindow.h"
 

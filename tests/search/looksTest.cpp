@@ -2,7 +2,7 @@
 #include "calc/designFrm.h"
 #include "search/coloursFrm.h"
 #include "search/columnNames.h"
-#include "search/folding.h"
+#include "search/filter/folding.h"
 #include "search/suggestions.h"
 #include "searchProgram.h"
 

@@ -1,7 +1,7 @@
 #include "calc/designFrm.h"
 #include "databases.h"
-#include "search/codeRules.h"
-#include "search/makeCodeFrm.h"
+#include "search/codes/codeRules.h"
+#include "search/codes/makeCodeFrm.h"
 #include "shell/undo.h"
 
 #include <gtest/gtest.h>

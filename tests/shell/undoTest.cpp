@@ -12,7 +12,7 @@
 #include "layout/sheetFixture.h"
 #include "print/layoutPageSetupFrm.h"
 #include "print/reportPageSetup.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "search/replaceFrm.h"
 #include "sheetWatch.h"
 #include "shell/listEvents.h"

@@ -3,7 +3,7 @@
 #include "core/dates.h"
 #include "core/format.h"
 #include "invoiceFixture.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "shell/mainWindow.h"
 #include "summary/statisticsFrm.h"
 #include "summary/summaryPanel.h"

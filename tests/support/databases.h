@@ -2,7 +2,7 @@
 
 #include "core/totalsRow.h"
 #include "dataFile.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "scriptedPlatform.h"
 #include "shell/commands.h"
 #include "shell/program.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/text.h"
-#include "file/zip.h"
+#include "file/archive/zip.h"
 #include "raised.h"
 #include "scriptedPlatform.h"
 #include "table.h"

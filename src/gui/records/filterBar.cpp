@@ -3,7 +3,7 @@
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "search/searchEngine.h"
 
 #include <QAccessible>

@@ -8,7 +8,7 @@
 #include "gui/widgets/qtText.h"
 #include "gui/widgets/zoomWheel.h"
 #include "search/coloursFrm.h"
-#include "search/filterMode.h"
+#include "search/filter/filterMode.h"
 #include "shell/commands.h"
 #include "shell/listEvents.h"
 #include "summary/statisticsFrm.h"

@@ -1,0 +1,20 @@
+#include "cli/command.h"
+#include "cli/printing/printer.h"
+#include "cli/session.h"
+
+#include <filesystem>
+#include <system_error>
+#include <unistd.h>
+
+namespace cli {
+
+// Beside this program where it is built, in its own folder where it is installed.
+std::unique_ptr<drawing::Printer> makePrinter(const std::string&, const std::string&) {
+    std::error_code error;
+    const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+    for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
+        ::execv((here / place).c_str(), commandLine());
+    throw Failure("this fwk cannot print: fwk-print is not installed");
+}
+
+} // namespace cli
