@@ -24,9 +24,9 @@ fi
 
 "$project/scripts/install-packages.sh" build run
 
-# Without the tests and the benchmarks the build is quick.
+# Without the tests and the benchmarks, and with several files compiled as one, the build is quick.
 if [[ ! -f $build/build.ninja ]]; then
-    cmake -S "$project" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DFERROWICK_TESTS=OFF --log-level=WARNING \
+    cmake -S "$project" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DFERROWICK_TESTS=OFF -DFERROWICK_UNITY=ON --log-level=WARNING \
         >/dev/null
 fi
 [[ -x $build/src/fwk ]] || echo "Building in $build"

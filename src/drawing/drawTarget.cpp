@@ -8,6 +8,7 @@ void DrawTarget::setPage(const PageSetup& setup) {
     static_cast<TextFont&>(*this) = {};
     static_cast<Pen&>(*this) = {};
     CurrentX = CurrentY = 0;
+    isFirst_ = true;
     overflowEnds = {};
     sheetTop_ = 0;
     isOverflow_ = false;
@@ -35,11 +36,14 @@ void DrawTarget::Print(std::string_view text, bool lineEnd) {
 }
 
 float DrawTarget::sheetEnd() const {
+    // Where the first sheet ends is said by the margins of who prints.
+    if (isFirst_) return Height;
     return Height - (isOverflow_ ? overflowEnds : unprintable()).bottom;
 }
 
 void DrawTarget::beginOverflowSheet() {
     startSheet();
+    isFirst_ = false;
     isOverflow_ = true;
     CurrentY = sheetTop_ = overflowEnds.top;
 }
@@ -52,6 +56,7 @@ void DrawTarget::Line(float x1, float y1, float x2, float y2) {
 
 void DrawTarget::NewPage() {
     startSheet();
+    isFirst_ = false;
     sheetTop_ = 0;
     isOverflow_ = false;
     CurrentX = CurrentY = 0;
@@ -59,6 +64,7 @@ void DrawTarget::NewPage() {
 
 void DrawTarget::EndDoc() {
     endDocument();
+    isFirst_ = true;
     sheetTop_ = 0;
     isOverflow_ = false;
     CurrentX = CurrentY = 0;

@@ -110,11 +110,12 @@ protected:
     virtual void endDocument() {}
 
 private:
-    float sheetEnd() const;
+    float sheetEnd() const; // what is below it goes onto the next sheet
     void beginOverflowSheet();
 
     float sheetTop_ = 0; // where the sheet's first line stands, if the printer has taken it by itself
     bool isOverflow_ = false;
+    bool isFirst_ = true;
 };
 
 } // namespace drawing

@@ -70,7 +70,7 @@ std::vector<PaperName> allPapers(Platform& platform) {
 }
 
 std::string paperNotice(Platform& platform, int code) {
-    if (platform.paperExtent(code)) return {};
+    if (code == core::customPaper || platform.paperExtent(code)) return {};
     std::string text = "The paper of the database, code ";
     text.append(std::to_string(code)).append(", is not known here: it prints on Letter.");
     return text;

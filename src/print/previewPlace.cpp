@@ -37,7 +37,8 @@ void noteReportPage(App& app, const RecordsList& list) {
     const auto rowsUpTo = [&](int end) {
         if (!page.bReportSelectedOnly) return std::max(end - 1, 0);
         int rows = 0;
-        for (int row = 1; row < end; ++row) rows += list.at(row).Selected ? 1 : 0;
+        // A page may begin behind the last record, when records have gone since it was turned to.
+        for (int row = 1; row < std::min(end, list.count() + 1); ++row) rows += list.at(row).Selected ? 1 : 0;
         return rows;
     };
     page.place = pageAt(rowsUpTo(page.iReportPageStart), rowsUpTo(list.count()), page.iReportLinesPerPage,

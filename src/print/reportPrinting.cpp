@@ -246,11 +246,11 @@ void showReportAnew(App& app) {
 
 void drawReport(App& app, DrawTarget& target, RecordsList& theList) {
     const ReportChoices choices = reportChoices(app, theList);
-    if (!target.isPrinter()) previewFit(app) = fitOf(app, theList);
     if (choices.any())
         drawReportSheets(app, target, theList, choices);
     else
         Report(app, target, theList).print();
+    if (!target.isPrinter()) previewFit(app) = fitOf(app, theList);
 }
 
 } // namespace print

@@ -1,6 +1,7 @@
 #include "file/dataWriter.h"
 #include "layout/layoutPage.h"
 #include "print/layoutPageSetupFrm.h"
+#include "print/paperChoice.h"
 #include "print/reportPageSetup.h"
 #include "print/reportPrinting.h"
 #include "printRecorder.h"
@@ -125,6 +126,7 @@ TEST_F(PageSetup, LayoutSettingsGoIntoTheFormAndBack) {
     print::layoutPageSetupFrm many(app);
     EXPECT_FALSE(many.paperList.SelectedItem.has_value() || many.paperNotice.empty());
     many.OKButton_Click();
+    EXPECT_EQ(print::paperNotice(platform, core::customPaper), "") << "its lengths are the database's";
     EXPECT_EQ(app.document.layoutOptions.layoutPaperSize, 9) << "the first of the list";
     EXPECT_EQ(wordsOf(preview()), "r1 r2");
     // A size that only the printer knows is kept as a custom one, and found again; the common papers follow.

@@ -116,7 +116,17 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
                                                                const QString& pdfFile, QWidget* parent) {
     QPrinter& chosen = printer();
     if (isPdf()) chosen.setOutputFileName(pdfFile);
-    chosen.setPageSize(QPageSize(QPageSize::id(present.PaperSize)));
+    // Not every paper of a database has a name in Qt; its size it has.
+    const QPageSize::PageSizeId id = QPageSize::id(present.PaperSize);
+    const drawing::PaperSize* paper = drawing::findPaper(present.PaperSize);
+    constexpr qreal twipsPerPoint = 20;
+    if (id != QPageSize::Custom)
+        chosen.setPageSize(QPageSize(id));
+    else if (paper != nullptr)
+        chosen.setPageSize(QPageSize(
+            QSizeF(static_cast<qreal>(paper->Width), static_cast<qreal>(paper->Height)) / twipsPerPoint,
+            QPageSize::Point, toQt(paper->name)));
+    const int offered = chosen.pageLayout().pageSize().windowsId();
     chosen.setPageOrientation(present.Orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
     QPrintDialog dialog(&chosen, parent);
     dialog.setObjectName(QStringLiteral("printDialog"));
@@ -134,9 +144,8 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     platform::PrintChoice choice = present;
     // A custom size comes back as no paper of a name; then the database keeps what it has.
     const int code = chosen.pageLayout().pageSize().windowsId();
-    // Of two codes for one size, the database keeps its own.
-    const bool isSame = code == QPageSize(QPageSize::id(present.PaperSize)).windowsId();
-    if (present.PaperSize != drawing::customPaperCode && code > 0 && !isSame) choice.PaperSize = code;
+    // Of two codes for one size, and where nothing else was chosen, the database keeps its own.
+    if (present.PaperSize != drawing::customPaperCode && code > 0 && code != offered) choice.PaperSize = code;
     choice.Orientation = chosen.pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
     return choice;
 }
