@@ -21,12 +21,12 @@ void LabelPreview::show(labels::LabelShape shape) {
 }
 
 void LabelPreview::paintEvent(QPaintEvent*) {
-    constexpr qreal air = 4, largest = 3; // times its size on paper
+    constexpr qreal air = 4, timesItsSize = 3;
     const qreal width = page_.Width, height = page_.Height;
     if (!(width > 0) || !(height > 0)) return;
     const QRectF room = QRectF(rect()).adjusted(air, air, -air, -air);
     const qreal scale = std::min({room.width() / width, room.height() / height,
-                                  logicalDpiX() / static_cast<qreal>(twipsPerInch) * largest});
+                                  logicalDpiX() / static_cast<qreal>(twipsPerInch) * timesItsSize});
     if (!(scale > 0)) return;
     QRectF label(0, 0, width * scale, height * scale);
     label.moveCenter(room.center());
