@@ -1,5 +1,7 @@
 #include "app/app.h"
 
+#include "core/translate.h"
+
 namespace app {
 
 void setDocumentModified(App& app, bool modified) {
@@ -8,7 +10,7 @@ void setDocumentModified(App& app, bool modified) {
 }
 
 void showRecordCount(App& app, const core::RecordsList& list) {
-    app.mainFrm.panels[recordsPanel] = std::to_string(list.count() - 1) + " records.";
+    app.mainFrm.panels[recordsPanel] = core::tr("%n records.", "%n records.", list.count() - 1);
 }
 
 void inform(App& app, const std::string& text) {

@@ -1,6 +1,7 @@
 #include "app/windowState.h"
 
 #include "core/objectRef.h"
+#include "core/translate.h"
 
 #include <filesystem>
 #include <system_error>
@@ -40,28 +41,31 @@ void enableControls(App& app, bool bEnable) {
 
 std::string fileSizeText(unsigned long long bytes) {
     const std::string digits = std::to_string(bytes);
-    if (bytes >= 10'000'000) return digits.substr(0, 2) + " MB";
-    if (bytes >= 1'000'000) return digits.substr(0, 1) + " MB";
-    if (bytes >= 100'000) return digits.substr(0, 3) + " KB";
-    if (bytes >= 10'000) return digits.substr(0, 2) + " KB";
-    if (bytes >= 1'000) return digits.substr(0, 1) + " KB";
-    return digits + " bytes.";
+    if (bytes >= 10'000'000) return core::fill(core::tr("%1 MB"), {digits.substr(0, 2)});
+    if (bytes >= 1'000'000) return core::fill(core::tr("%1 MB"), {digits.substr(0, 1)});
+    if (bytes >= 100'000) return core::fill(core::tr("%1 KB"), {digits.substr(0, 3)});
+    if (bytes >= 10'000) return core::fill(core::tr("%1 KB"), {digits.substr(0, 2)});
+    if (bytes >= 1'000) return core::fill(core::tr("%1 KB"), {digits.substr(0, 1)});
+    return core::fill(core::tr("%1 bytes."), {digits});
 }
 
 void showFileSize(App& app) {
     std::error_code error;
     const auto bytes = std::filesystem::file_size(app.document.currentFile, error);
-    if (!error) app.mainFrm.panels[fileSizePanel] = "Filesize: " + fileSizeText(bytes);
+    if (!error)
+        app.mainFrm.panels[fileSizePanel] = core::fill(core::tr("Filesize: %1"), {fileSizeText(bytes)});
 }
 
 void showModified(App& app) {
-    app.mainFrm.panels[documentPanel] = app.document.bModified ? "Document Modified" : "Document Saved";
+    app.mainFrm.panels[documentPanel] =
+        app.document.bModified ? core::tr("Document Modified") : core::tr("Document Saved");
 }
 
 void showCaption(App& app) {
     app.mainFrm.Caption = title;
     if (!app.document.currentFile.empty()) app.mainFrm.Caption += " - " + app.document.currentFile;
-    if (app.mainFrm.bReadOnly) app.mainFrm.Caption += " (read only)";
+    if (app.mainFrm.bReadOnly)
+        app.mainFrm.Caption = core::fill(core::tr("%1 (read only)"), {app.mainFrm.Caption});
 }
 
 namespace {

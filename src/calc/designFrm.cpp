@@ -5,6 +5,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <array>
@@ -16,12 +17,15 @@ namespace {
 using core::Column;
 using core::ColumnType;
 
+// Shown in the user's language.
+constexpr const char *on = core::marked("ON"), *off = core::marked("OFF"), *notThere = core::marked("NA");
+
 constexpr std::array<const char*, 6> typeTags = {"1", "2", "5", "4", "3", "7"};
 
 designFrm::Row rowOf(const Column& column) {
-    designFrm::Row row{column.Text, std::string(core::typeName(column.type())), "NA", "NA"};
-    if (column.isType(ColumnType::Date)) row.AutoDate = "OFF";
-    if (column.isType(ColumnType::Number)) row.AutoSerial = "OFF";
+    designFrm::Row row{column.Text, std::string(core::typeName(column.type())), notThere, notThere};
+    if (column.isType(ColumnType::Date)) row.AutoDate = off;
+    if (column.isType(ColumnType::Number)) row.AutoSerial = off;
     return row;
 }
 
@@ -37,8 +41,8 @@ designFrm::designFrm(app::App& app) : pictureVisible(!app.document.bInvoiceStyle
         if (column.Index == 1) continue;
         Row row = rowOf(column);
         if (document.optionedCols.contains(column.Text)) {
-            if (column.isType(ColumnType::Date)) row.AutoDate = "ON";
-            if (column.isType(ColumnType::Number)) row.AutoSerial = "ON";
+            if (column.isType(ColumnType::Date)) row.AutoDate = on;
+            if (column.isType(ColumnType::Number)) row.AutoSerial = on;
         }
         List1.push_back(std::move(row));
     }
@@ -57,7 +61,7 @@ void designFrm::fieldTxt_Change(std::string_view text) {
 
 bool designFrm::isNameTaken(std::string_view name) {
     if (std::ranges::find(List1, name, &Row::Name) == List1.end()) return false;
-    app::warn(app_, "Column with that name already exists!");
+    app::warn(app_, core::tr("Column with that name already exists!"));
     return true;
 }
 
@@ -67,11 +71,11 @@ void designFrm::rebuildAfterChange() {
 
 void designFrm::addBtn_Click() {
     if (List1.size() >= mostColumns) {
-        app::inform(app_, "You have added the maximum number of columns to the database.");
+        app::inform(app_, core::tr("You have added the maximum number of columns to the database."));
         return;
     }
     if (core::trim(fieldTxt).empty()) {
-        app::inform(app_, "You must enter a column name.");
+        app::inform(app_, core::tr("You must enter a column name."));
         return;
     }
     const std::string name = withoutBlanks(fieldTxt);
@@ -89,7 +93,7 @@ void designFrm::changeBtn_Click() {
     if (selectedRow < 0 || static_cast<std::size_t>(selectedRow) >= List1.size() || fieldTxt.empty()) return;
     Row& row = List1[static_cast<std::size_t>(selectedRow)];
     if (core::isNumeric(fieldTxt)) {
-        app::inform(app_, "Column name must not be a number.");
+        app::inform(app_, core::tr("Column name must not be a number."));
         return;
     }
     if (isNameTaken(fieldTxt)) return;
@@ -106,7 +110,9 @@ void designFrm::renameInLayout(const std::string& oldName, const std::string& ne
         if (field.Tag == oldName) field.Tag = newName;
     });
     const bool labels = app::askYesNo(
-        app_, "Would you like to rename all exact matching labels in your layout to the new name as well?",
+        app_,
+        core::tr(
+            "Would you like to rename all exact matching labels in your layout to the new name as well?"),
         platform::Icon::None);
     if (labels) {
         const std::string wanted = core::upper(core::trim(oldName));
@@ -127,15 +133,19 @@ bool designFrm::confirmRemoval(const std::string& name) {
     if (isUsed &&
         !app::askYesNo(
             app_,
-            "A column you intend to delete is either a member of a calculation column expression, or is "
-            "a calculation column itself.  You will need to redefine expressions for all affected "
-            "calculation columns that referenced this one. Are you sure you want to do this?",
+            core::tr(
+                "A column you intend to delete is either a member of a calculation column expression, or is "
+                "a calculation column itself.  You will need to redefine expressions for all affected "
+                "calculation columns that referenced this one. Are you sure you want to do this?"),
             platform::Icon::Exclamation))
         return false;
-    return app::askYesNo(app_,
-                         "Are you absolutely certain you want to do this?  ALL data in the column " + name +
-                             " will be lost!",
-                         platform::Icon::Critical);
+    return app::askYesNo(
+        app_,
+        core::fill(
+            core::tr(
+                "Are you absolutely certain you want to do this?  ALL data in the column %1 will be lost!"),
+            {name}),
+        platform::Icon::Critical);
 }
 
 void designFrm::deleteBtn_Click() {
@@ -153,20 +163,21 @@ void designFrm::deleteBtn_Click() {
 void designFrm::List1_DblClick(int index) {
     if (index < 0 || static_cast<std::size_t>(index) >= List1.size()) return;
     Row& row = List1[static_cast<std::size_t>(index)];
-    const auto ask = [&](const char* question) {
-        const platform::Answer answer =
-            app_.platform.msgBox(question, platform::Icon::None, "Entry Options", platform::Buttons::YesNo);
-        return answer == platform::Answer::Yes ? "ON" : "OFF";
+    const auto ask = [&](const std::string& question) {
+        const platform::Answer answer = app_.platform.msgBox(
+            question, platform::Icon::None, core::tr("Entry Options"), platform::Buttons::YesNo);
+        return answer == platform::Answer::Yes ? on : off;
     };
     const ColumnType type = app_.document.LV.columns[row.Name].type();
-    if (type == ColumnType::Date) row.AutoDate = ask("Auto enter today's date when entering data?");
-    if (type == ColumnType::Number) row.AutoSerial = ask("Auto increment value when entering data?");
+    if (type == ColumnType::Date) row.AutoDate = ask(core::tr("Auto enter today's date when entering data?"));
+    if (type == ColumnType::Number)
+        row.AutoSerial = ask(core::tr("Auto increment value when entering data?"));
 }
 
 void designFrm::doneBtn_Click() {
     std::vector<std::string> names;
     for (const Row& row : List1)
-        if (row.AutoDate == "ON" || row.AutoSerial == "ON") names.push_back(row.Name);
+        if (row.AutoDate == on || row.AutoSerial == on) names.push_back(row.Name);
     setOptionedColumns(app_.document, names);
     Form_QueryUnload();
 }

@@ -3,6 +3,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <array>
@@ -65,7 +66,7 @@ private:
 
     double checked(double value) const {
         if (bFormOnly_) return 0;
-        if (!std::isfinite(value)) raise(errors::overflow, "calculation");
+        if (!std::isfinite(value)) raise(errors::overflow, core::tr("calculation"));
         return value;
     }
 
@@ -109,7 +110,7 @@ private:
     }
 
     double group() {
-        if (++depth_ > deepestNesting) raise(errors::syntax, "too many parentheses");
+        if (++depth_ > deepestNesting) raise(errors::syntax, core::tr("too many parentheses"));
         ++at_;
         const double value = sum();
         if (current() != ')') raise(errors::syntax, std::string(text_));
@@ -126,7 +127,7 @@ private:
         if (result.ec == std::errc::result_out_of_range) {
             // Beyond a double, or so near to zero that it is none: only the first is an error.
             const std::optional<double> read = core::toDouble(text_.substr(at_, size));
-            if (!read && !bFormOnly_) raise(errors::overflow, "number");
+            if (!read && !bFormOnly_) raise(errors::overflow, core::tr("number"));
             value = read.value_or(0);
         } else if (result.ec != std::errc()) {
             raise(errors::syntax, std::string(text_));

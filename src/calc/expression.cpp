@@ -4,6 +4,7 @@
 #include "core/currency.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 
@@ -20,20 +21,15 @@ const Column* columnNamed(const RecordsList& list, std::string_view word) {
     return column == nullptr || column->Index == 1 ? nullptr : column;
 }
 
-std::string atCharacter(std::string_view expression, std::size_t offset) {
-    std::string text = " (character ";
-    text.append(std::to_string(core::length(expression.substr(0, offset)) + 1)).push_back(')');
-    return text;
+// Which character begins there, from 1.
+std::string characterAt(std::string_view expression, std::size_t offset) {
+    return std::to_string(core::length(expression.substr(0, offset)) + 1);
 }
 
-std::string inQuotes(std::string_view word) {
-    std::string text = "\"";
-    text.append(word).push_back('"');
-    return text;
-}
-
-// What is wrong with a word that stands for a name, or contains one.
-std::optional<std::string> faultOfName(std::string_view word, const RecordsList& list) {
+// What is wrong with a word, of which the expression has this one at the offset, that stands for a name, or
+// contains one.
+std::optional<std::string> faultOfName(std::string_view word, const RecordsList& list,
+                                       std::string_view expression, std::size_t offset) {
     constexpr std::string_view marks = "+-*/()";
     if (std::ranges::all_of(word, [&](char c) {
             return core::isDigit(c) || c == '.' || marks.find(c) != std::string_view::npos;
@@ -46,10 +42,12 @@ std::optional<std::string> faultOfName(std::string_view word, const RecordsList&
         const std::size_t end = std::min(word.find_first_of(marks, first), word.size());
         const std::string_view name = word.substr(first, end - first);
         if (name.size() < word.size() && columnNamed(list, name) != nullptr)
-            return inQuotes(name).append(" needs a blank on either side");
+            return core::fill(core::tr("\"%1\" needs a blank on either side (character %2)"),
+                              {name, characterAt(expression, offset)});
         from = end;
     }
-    return inQuotes(word).append(" is neither a column nor a number");
+    return core::fill(core::tr("\"%1\" is neither a column nor a number (character %2)"),
+                      {word, characterAt(expression, offset)});
 }
 
 } // namespace
@@ -96,18 +94,20 @@ std::optional<std::string> faultOf(std::string_view expression, const RecordsLis
         const std::size_t offset = form.size();
         if (columnNamed(list, word) != nullptr)
             form.append("1").append(word.size() - 1, ' ');
-        else if (const std::optional<std::string> fault = faultOfName(word, list))
-            return *fault + atCharacter(expression, offset);
+        else if (std::optional<std::string> fault = faultOfName(word, list, expression, offset))
+            return fault;
         else
             form.append(word);
         form.push_back(' ');
     }
     const std::optional<std::size_t> stop = syntaxErrorAt(form);
     if (!stop) return std::nullopt;
-    if (*stop >= expression.size()) return "The expression is not complete" + atCharacter(expression, *stop);
+    if (*stop >= expression.size())
+        return core::fill(core::tr("The expression is not complete (character %1)"),
+                          {characterAt(expression, *stop)});
     const std::string_view rest = expression.substr(*stop);
-    return inQuotes(rest.substr(0, rest.find(' '))).append(" is out of place") +
-           atCharacter(expression, *stop);
+    return core::fill(core::tr("\"%1\" is out of place (character %2)"),
+                      {rest.substr(0, rest.find(' ')), characterAt(expression, *stop)});
 }
 
 } // namespace calc

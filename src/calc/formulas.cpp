@@ -5,6 +5,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 namespace calc {
 
@@ -42,8 +43,10 @@ std::string resultText(double result, bool bDecimal) {
 
 void reportCalculationError(app::App& app) {
     app.mainFrm.bCalcError = true;
-    app::warn(app, "An error has occured during one of your calculations.  It appears that an expression is "
-                   "incorrectly defined.  Please check your syntax.");
+    app::warn(
+        app,
+        core::tr("An error has occured during one of your calculations.  It appears that an expression is "
+                 "incorrectly defined.  Please check your syntax."));
 }
 
 RowCalculator::RowCalculator(app::App& app, RecordsList& list) : app_(app) {

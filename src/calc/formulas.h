@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 #include "calc/expression.h"
+#include "core/translate.h"
 
 #include <optional>
 #include <string>
@@ -11,7 +12,7 @@
 namespace calc {
 
 // The word that stands for a missing expression, and in the cells that such a column has.
-constexpr std::string_view undefined = "Undefined";
+constexpr std::string_view undefined = core::marked("Undefined");
 
 // One entry of the document's formulas: "Name,Expression". What stands behind a second comma does
 // not count.

@@ -4,6 +4,7 @@
 #include "calc/recalculation.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <deque>
@@ -27,8 +28,8 @@ formulateFrm::formulateFrm(app::App& app) : app_(app) {
 
 void formulateFrm::Form_Activate() {
     if (!colList.empty() || unloaded) return;
-    app_.platform.msgBox("There are no calculation columns in the current database.", platform::Icon::None,
-                         app::title);
+    app_.platform.msgBox(core::tr("There are no calculation columns in the current database."),
+                         platform::Icon::None, app::title);
     donebtn_Click();
 }
 
@@ -48,8 +49,10 @@ void formulateFrm::fieldList_Click(std::size_t entry) {
     const auto row = std::ranges::find(colList, name, &Row::Name);
     if (row != colList.end() && row->Formula == undefined) {
         app::inform(
-            app_, "The column you selected is an undefined calculation column.  Please define an expression "
-                  "for it first.");
+            app_,
+            core::tr(
+                "The column you selected is an undefined calculation column.  Please define an expression "
+                "for it first."));
         return;
     }
     edit(expTxt + name);

@@ -4,6 +4,7 @@
 #include "calc/invoiceCalculation.h"
 #include "core/number.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 
 namespace calc {
 
@@ -24,7 +25,7 @@ public:
         if (percent == shown_) return;
         shown_ = percent;
         app_.mainFrm.panels[app::calculationPanel] =
-            "Recalculating... " + std::to_string(percent) + " percent.";
+            core::fill(core::tr("Recalculating... %1 percent."), {std::to_string(percent)});
         if (percent < painted_ + paintStep) return;
         painted_ = percent;
         app_.platform.paintStatus();
@@ -56,14 +57,16 @@ void RecalculateAll(App& app, RecordsList& list) {
             calculator.calculate(row);
         if (app.mainFrm.bCalcError) {
             app.mainFrm.bCalcError = false;
-            app::warn(app,
-                      "During a recalculate all rows event your columns were not able to be recalculated due "
-                      "to a syntax error with one of your defined expressions.");
+            app::warn(
+                app,
+                core::tr(
+                    "During a recalculate all rows event your columns were not able to be recalculated due "
+                    "to a syntax error with one of your defined expressions."));
             return;
         }
         totals.update(core::TotalsMode::Add, row);
     }
-    app.mainFrm.panels[app::calculationPanel] = "Done.";
+    app.mainFrm.panels[app::calculationPanel] = core::tr("Done.");
 }
 
 std::vector<Uncalculated> recalculateEveryRow(App& app) {

@@ -2,6 +2,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,15 +74,16 @@ SerialFindings checkSerials(const core::Document& document, const core::Column& 
 }
 
 std::string gapText(const SerialFindings::Gap& gap) {
-    std::string text = std::to_string(gap.first);
-    if (gap.last != gap.first) text.append(" to ").append(std::to_string(gap.last));
-    return text.append(" missing");
+    const std::string first = std::to_string(gap.first);
+    if (gap.last == gap.first) return core::fill(core::tr("%1 missing"), {first});
+    return core::fill(core::tr("%1 to %2 missing"), {first, std::to_string(gap.last)});
 }
 
 std::string repeatText(const SerialFindings::Repeat& repeat) {
-    std::string text = std::to_string(repeat.number);
-    if (repeat.records.size() == 2) return text.append(" twice");
-    return text.append(" occurs ").append(std::to_string(repeat.records.size())).append(" times");
+    const std::string number = std::to_string(repeat.number);
+    if (repeat.records.size() == 2) return core::fill(core::tr("%1 twice"), {number});
+    const int times = static_cast<int>(repeat.records.size());
+    return core::fill(core::tr("%1 occurs %n time", "%1 occurs %n times", times), {number});
 }
 
 } // namespace calc

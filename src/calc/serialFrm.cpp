@@ -2,6 +2,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 namespace calc {
 
@@ -23,7 +24,7 @@ void serialFrm::setBtn_Click() {
     Text1 = std::string(core::trim(Text1));
     const std::optional<double> number = core::toDouble(Text1);
     if (!core::isNumeric(Text1)) {
-        app::inform(app_, "You entered a non numeric value.");
+        app::inform(app_, core::tr("You entered a non numeric value."));
         return;
     }
     core::Item* serial = selectedSerial();
@@ -32,8 +33,8 @@ void serialFrm::setBtn_Click() {
     if (number && *number != core::val(Text1)) Text1 = core::numberText(*number);
     serial->subItem(1) = Text1;
     app::setDocumentModified(app_, true);
-    app_.platform.msgBox(serial->Text.str() + "'s value has been set to " + Text1, platform::Icon::None,
-                         app::title);
+    app_.platform.msgBox(core::fill(core::tr("%1's value has been set to %2"), {serial->Text.view(), Text1}),
+                         platform::Icon::None, app::title);
     text1HasFocus = true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <cctype>
 
@@ -28,7 +29,8 @@ const KindNames& namesOf(Kind kind) {
 
 std::string character(std::string_view text, std::size_t place) {
     const std::string_view one = core::mid(text, place, 1);
-    if (one.size() == 1 && static_cast<unsigned char>(one.front()) < ' ') return "a control character";
+    if (one.size() == 1 && static_cast<unsigned char>(one.front()) < ' ')
+        return core::tr("a control character");
     std::string quoted = "\"";
     quoted.append(one).push_back('"');
     return quoted;
@@ -44,10 +46,8 @@ std::size_t placeOfOther(std::string_view text, Test&& isGood) {
     return 0;
 }
 
-std::string atPlace(std::string_view text, std::size_t place, const char* reason) {
-    std::string told = character(text, place);
-    told.append(" at place ").append(std::to_string(place)).append(reason);
-    return told;
+std::string atPlace(std::string_view text, std::size_t place, std::string_view reason) {
+    return core::fill(reason, {character(text, place), std::to_string(place)});
 }
 
 // Each second digit counts three times, the last one before the check digit too.
@@ -62,43 +62,43 @@ std::string checkedNumber(Kind kind, std::string_view text, std::size_t wanted) 
     const auto isSeparator = [](char c) { return c == ' ' || c == '-'; };
     if (const std::size_t place =
             placeOfOther(text, [&](char c) { return core::isDigit(c) || isSeparator(c); }))
-        refuse(kind, text, atPlace(text, place, " is no digit"));
+        refuse(kind, text, atPlace(text, place, core::tr("%1 at place %2 is no digit")));
     std::string digits;
     for (const char c : text)
         if (core::isDigit(c)) digits.push_back(c);
     if (digits.size() == wanted - 1) return digits + checkDigit(digits);
     if (digits.size() != wanted) {
-        std::string reason = "it has ";
-        reason.append(std::to_string(digits.size())).append(digits.size() == 1 ? " digit" : " digits");
-        reason.append(", and should have ").append(std::to_string(wanted)).append(", or ");
-        reason.append(std::to_string(wanted - 1)).append(" without the check digit");
-        refuse(kind, text, reason);
+        const std::string reason =
+            core::tr("it has %n digit, and should have %1, or %2 without the check digit",
+                     "it has %n digits, and should have %1, or %2 without the check digit",
+                     static_cast<int>(digits.size()));
+        refuse(kind, text, core::fill(reason, {std::to_string(wanted), std::to_string(wanted - 1)}));
     }
     const char check = checkDigit(std::string_view(digits).substr(0, wanted - 1));
-    if (digits.back() != check) refuse(kind, text, std::string("the last digit should be ").append(1, check));
+    if (digits.back() != check)
+        refuse(kind, text,
+               core::fill(core::tr("the last digit should be %1"), {std::string_view(&check, 1)}));
     return digits;
 }
 
 void checkBars(std::string_view text) {
     if (const std::size_t place = placeOfOther(text, [](char c) { return c >= ' ' && c <= '~'; }))
-        refuse(Kind::Code128, text, atPlace(text, place, " has no bars, but a QR code takes it"));
-    if (text.size() > mostInBars) {
-        std::string reason = "it has ";
-        reason.append(std::to_string(text.size())).append(" characters, and at most ");
-        reason.append(std::to_string(mostInBars)).append(" fit");
-        refuse(Kind::Code128, text, reason);
-    }
+        refuse(Kind::Code128, text,
+               atPlace(text, place, core::tr("%1 at place %2 has no bars, but a QR code takes it")));
+    if (text.size() > mostInBars)
+        refuse(Kind::Code128, text,
+               core::fill(core::tr("it has %1 characters, and at most %2 fit"),
+                          {std::to_string(text.size()), std::to_string(mostInBars)}));
 }
 
 } // namespace
 
 void refuse(Kind kind, std::string_view text, std::string_view reason) {
     constexpr std::size_t shown = 40;
-    std::string told(kindName(kind));
-    told.append(" of ").append(core::left(text, shown));
+    std::string told(core::left(text, shown));
     if (core::length(text) > shown) told.append("...");
-    told.append(": ").append(reason);
-    throw core::RunTimeError(core::errors::typeMismatch, told);
+    throw core::RunTimeError(core::errors::typeMismatch,
+                             core::fill(core::tr("%1 of %2: %3"), {kindName(kind), told, reason}));
 }
 
 std::string_view kindName(Kind kind) {
@@ -119,8 +119,9 @@ std::string encodedText(Kind kind, std::string_view text) {
     text = core::trim(text);
     if (text.empty())
         throw core::RunTimeError(core::errors::typeMismatch,
-                                 std::string(kindName(kind)).append(": there is no text"));
-    if (text.find('\0') != std::string_view::npos) refuse(kind, text, "it holds a character that is none");
+                                 core::fill(core::tr("%1: there is no text"), {kindName(kind)}));
+    if (text.find('\0') != std::string_view::npos)
+        refuse(kind, text, core::tr("it holds a character that is none"));
     if (const std::size_t digits = namesOf(kind).digits; digits != 0)
         return checkedNumber(kind, text, digits);
     if (kind == Kind::Code128) checkBars(text);

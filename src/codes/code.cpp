@@ -4,6 +4,7 @@
 #include "codes/gif.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <zint.h>
 
@@ -35,7 +36,7 @@ bool isArticleNumber(Kind kind) {
 
 Symbol makeSymbol(Kind kind, std::string_view text) {
     Symbol symbol(ZBarcode_Create(), &ZBarcode_Delete);
-    if (!symbol) core::raise(core::errors::overflow, "memory for a code");
+    if (!symbol) core::raise(core::errors::overflow, core::tr("memory for a code"));
     const bool isMatrix = kind == Kind::QR || kind == Kind::DataMatrix;
     symbol->symbology = symbologyOf(kind);
     symbol->scale = isMatrix ? scaleOfMatrix : scaleOfBars;
@@ -66,14 +67,13 @@ std::string makeCode(Kind kind, std::string_view text) {
         fault =
             ZBarcode_Encode_and_Buffer(symbol.get(), reinterpret_cast<const unsigned char*>(encoded.data()),
                                        static_cast<int>(encoded.size()), 0);
-    if (fault == ZINT_ERROR_MEMORY) core::raise(core::errors::overflow, "memory for a code");
-    if (fault == ZINT_ERROR_TOO_LONG) {
-        std::string reason = "it has ";
-        reason.append(std::to_string(encoded.size())).append(" bytes, which is too long for such a code");
-        refuse(kind, encoded, reason);
-    }
+    if (fault == ZINT_ERROR_MEMORY) core::raise(core::errors::overflow, core::tr("memory for a code"));
+    if (fault == ZINT_ERROR_TOO_LONG)
+        refuse(kind, encoded,
+               core::fill(core::tr("it has %1 bytes, which is too long for such a code"),
+                          {std::to_string(encoded.size())}));
     if (fault >= ZINT_ERROR || symbol->bitmap == nullptr)
-        refuse(kind, encoded, "it holds characters that such a code cannot");
+        refuse(kind, encoded, core::tr("it holds characters that such a code cannot"));
     const int width = symbol->bitmap_width, height = symbol->bitmap_height;
     const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
     return blackAndWhiteGif({reinterpret_cast<const char*>(symbol->bitmap), pixels}, width, height);

@@ -1,6 +1,7 @@
 #include "core/cellText.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <limits>
 
@@ -8,7 +9,8 @@ namespace core {
 
 void CellText::storeBlock(std::string_view text) {
     raw_[tagAt] = 0;
-    if (text.size() > std::numeric_limits<std::uint32_t>::max()) raise(errors::overflow, "cell text");
+    if (text.size() > std::numeric_limits<std::uint32_t>::max())
+        raise(errors::overflow, core::tr("cell text"));
     char* data = new char[text.size()];
     std::memcpy(data, text.data(), text.size());
     const auto size = static_cast<std::uint32_t>(text.size());

@@ -2,6 +2,7 @@
 
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 
@@ -10,17 +11,17 @@ namespace core {
 std::string_view typeName(ColumnType type) {
     switch (type) {
     case ColumnType::Date:
-        return "Date";
+        return core::marked("Date");
     case ColumnType::Currency:
-        return "Currency";
+        return core::marked("Currency");
     case ColumnType::Text:
-        return "Text";
+        return core::marked("Text");
     case ColumnType::Number:
-        return "Number";
+        return core::marked("Number");
     case ColumnType::Calculation:
-        return "Calculation";
+        return core::marked("Calculation");
     case ColumnType::Picture:
-        return "Picture";
+        return core::marked("Picture");
     case ColumnType::None:
         break;
     }
@@ -94,7 +95,8 @@ void ColumnHeaders::clear() {
 }
 
 std::size_t ColumnHeaders::placeOf(int index) const {
-    if (index < 1 || index > count()) raise(errors::indexOutOfBounds, "column " + std::to_string(index));
+    if (index < 1 || index > count())
+        raise(errors::indexOutOfBounds, core::fill(core::tr("column %1"), {std::to_string(index)}));
     return static_cast<std::size_t>(index - 1);
 }
 
@@ -131,7 +133,7 @@ void ColumnHeaders::setPosition(int index, int position) {
 }
 
 void ColumnHeaders::setPositions(const std::vector<int>& positions) {
-    if (positions.size() > columns_.size()) raise(errors::indexOutOfBounds, "column position");
+    if (positions.size() > columns_.size()) raise(errors::indexOutOfBounds, core::tr("column position"));
     // A whole arrangement is taken over as it stands: moving column by column could not always
     // reach it, as each move shifts those that were placed before.
     std::vector<bool> seen(columns_.size() + 1, false);

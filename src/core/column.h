@@ -23,7 +23,7 @@ enum class ColumnType {
 enum class Alignment { Left = 0, Right = 1, Centre = 2 };
 
 // What the dialogs call a type; empty for a code that is none of the six.
-std::string_view typeName(ColumnType type);
+std::string_view typeName(ColumnType type); // as files have it; shown by tr()
 
 constexpr float newColumnWidth = 1440; // twips
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -35,10 +36,11 @@ public:
     }
     // Raises overflow beyond the highest Index there is, 32,767.
     Object& load(int index) {
-        if (index > std::numeric_limits<std::int16_t>::max()) raise(errors::overflow, "objects of one kind");
+        if (index > std::numeric_limits<std::int16_t>::max())
+            raise(errors::overflow, core::tr("objects of one kind"));
         const auto spot = position(objects_, index);
         if (index < 1 || (spot != objects_.end() && (*spot)->Index == index))
-            raise(errors::subscriptOutOfRange, "object " + std::to_string(index));
+            raise(errors::subscriptOutOfRange, core::fill(core::tr("object %1"), {std::to_string(index)}));
         auto object = std::make_unique<Object>(template_);
         object->Index = index;
         return **objects_.insert(spot, std::move(object));
@@ -53,7 +55,8 @@ public:
     // Raises subscriptOutOfRange for an object that is not there.
     Object& operator[](int index) {
         Object* object = find(index);
-        if (object == nullptr) raise(errors::subscriptOutOfRange, "object " + std::to_string(index));
+        if (object == nullptr)
+            raise(errors::subscriptOutOfRange, core::fill(core::tr("object %1"), {std::to_string(index)}));
         return *object;
     }
 

@@ -2,6 +2,7 @@
 
 #include "core/number.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <limits>
 
@@ -24,7 +25,7 @@ Currency Currency::parse(std::string_view text) {
         }
     }
     const std::optional<Decimal> read = readDecimal(text);
-    if (!read) raise(errors::typeMismatch, "\"" + std::string(text) + "\" is no amount");
+    if (!read) raise(errors::typeMismatch, core::fill(core::tr("\"%1\" is no amount"), {text}));
     const Decimal number = rounded(*read, currencyPlaces, Rounding::HalfEven);
     if (number.isZero()) return {};
     const int digits = number.point + currencyPlaces;
@@ -53,13 +54,15 @@ std::string Currency::text() const {
 
 Currency Currency::operator+(Currency other) const {
     std::int64_t sum = 0;
-    if (__builtin_add_overflow(value_, other.value_, &sum)) raise(errors::overflow, "sum of amounts");
+    if (__builtin_add_overflow(value_, other.value_, &sum))
+        raise(errors::overflow, core::tr("sum of amounts"));
     return Currency(sum);
 }
 
 Currency Currency::operator-(Currency other) const {
     std::int64_t difference = 0;
-    if (__builtin_sub_overflow(value_, other.value_, &difference)) raise(errors::overflow, "sum of amounts");
+    if (__builtin_sub_overflow(value_, other.value_, &difference))
+        raise(errors::overflow, core::tr("sum of amounts"));
     return Currency(difference);
 }
 

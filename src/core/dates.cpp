@@ -2,6 +2,7 @@
 
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <array>
@@ -236,7 +237,7 @@ bool isDate(std::string_view text, std::chrono::year_month_day today) {
 
 DayValue dateValueOrRaise(std::string_view text, std::chrono::year_month_day today) {
     const std::optional<DayValue> day = dateValue(text, today);
-    if (!day) raise(errors::typeMismatch, "\"" + std::string(text) + "\" is no date");
+    if (!day) raise(errors::typeMismatch, core::fill(core::tr("\"%1\" is no date"), {text}));
     return *day;
 }
 

@@ -1,6 +1,7 @@
 #include "core/document.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <limits>
 
@@ -29,7 +30,8 @@ void Document::clear() {
 }
 
 std::string Document::nextKey() {
-    if (iLastKey == std::numeric_limits<std::int16_t>::max()) raise(errors::overflow, "record keys");
+    if (iLastKey == std::numeric_limits<std::int16_t>::max())
+        raise(errors::overflow, core::tr("record keys"));
     return "i" + std::to_string(++iLastKey);
 }
 

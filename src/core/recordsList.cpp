@@ -2,6 +2,7 @@
 
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <functional>
@@ -10,7 +11,7 @@ namespace core {
 
 std::size_t Item::placeOf(int n) const {
     if (n < 1 || static_cast<std::size_t>(n) > cells.size())
-        raise(errors::indexOutOfBounds, "sub-item " + std::to_string(n));
+        raise(errors::indexOutOfBounds, core::fill(core::tr("sub-item %1"), {std::to_string(n)}));
     return static_cast<std::size_t>(n - 1);
 }
 
@@ -65,7 +66,8 @@ void RecordsList::rearrange(const std::function<void(std::vector<std::unique_ptr
 }
 
 std::size_t RecordsList::placeOf(int index) const {
-    if (index < 1 || index > count()) raise(errors::indexOutOfBounds, "item " + std::to_string(index));
+    if (index < 1 || index > count())
+        raise(errors::indexOutOfBounds, core::fill(core::tr("item %1"), {std::to_string(index)}));
     return static_cast<std::size_t>(index - 1);
 }
 

@@ -1,5 +1,7 @@
 #include "core/runTimeError.h"
 
+#include "core/translate.h"
+
 namespace core {
 
 namespace {
@@ -7,48 +9,48 @@ namespace {
 const char* textOf(int number) {
     switch (number) {
     case errors::overflow:
-        return "Overflow";
+        return core::marked("Overflow");
     case errors::subscriptOutOfRange:
-        return "Subscript out of range";
+        return core::marked("Subscript out of range");
     case errors::divisionByZero:
-        return "Division by zero";
+        return core::marked("Division by zero");
     case errors::typeMismatch:
-        return "Type mismatch";
+        return core::marked("Type mismatch");
     case errors::badFileName:
-        return "Bad file name";
+        return core::marked("Bad file name");
     case errors::fileNotFound:
-        return "File not found";
+        return core::marked("File not found");
     case errors::deviceIO:
-        return "Device I/O error";
+        return core::marked("Device I/O error");
     case errors::diskFull:
-        return "Disk full";
+        return core::marked("Disk full");
     case errors::pathAccess:
-        return "Path/file access error";
+        return core::marked("Path/file access error");
     case errors::diskNotReady:
-        return "Disk not ready";
+        return core::marked("Disk not ready");
     case errors::badFileFormat:
-        return "Invalid file format";
+        return core::marked("Invalid file format");
     case errors::keyInUse:
-        return "This key is already associated with an element of this collection";
+        return core::marked("This key is already associated with an element of this collection");
     case errors::syntax:
-        return "Syntax error";
+        return core::marked("Syntax error");
     case errors::cancelled:
-        return "Cancel was selected";
+        return core::marked("Cancel was selected");
     case errors::indexOutOfBounds:
-        return "Index out of bounds";
+        return core::marked("Index out of bounds");
     case errors::elementNotFound:
-        return "Element not found";
+        return core::marked("Element not found");
     case errors::keyNotUnique:
-        return "Key is not unique in collection";
+        return core::marked("Key is not unique in collection");
     default:
-        return "Application-defined or object-defined error";
+        return core::marked("Application-defined or object-defined error");
     }
 }
 
 } // namespace
 
 void raise(int number, const std::string& detail) {
-    std::string text = textOf(number);
+    std::string text = core::tr(textOf(number));
     if (!detail.empty()) text += ": " + detail;
     throw RunTimeError(number, text);
 }

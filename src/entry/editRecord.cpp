@@ -5,6 +5,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "entry/allOrNone.h"
 #include "entry/invoiceRecords.h"
 #include "entry/shownRecord.h"
@@ -66,7 +67,7 @@ void copyToResult(App& app, const Item& record) {
 
 void requireKeys(const Document& document, int records) {
     if (records > std::numeric_limits<std::int16_t>::max() - document.iLastKey)
-        core::raise(core::errors::overflow, "record keys");
+        core::raise(core::errors::overflow, core::tr("record keys"));
 }
 
 std::string cellText(ColumnType type, std::string_view text) {
@@ -150,8 +151,9 @@ bool deleteRecords(App& app) {
     const Item* focused = records.selectedItem();
     if (focused == nullptr || focused->isTotals()) return false;
     if (app.mainFrm.bConfirmDelete) {
-        const platform::Answer answer = app.platform.msgBox("Are you sure?", platform::Icon::Exclamation,
-                                                            "Confirm Deletion", platform::Buttons::YesNo);
+        const platform::Answer answer =
+            app.platform.msgBox(core::tr("Are you sure?"), platform::Icon::Exclamation,
+                                core::tr("Confirm Deletion"), platform::Buttons::YesNo);
         if (answer != platform::Answer::Yes) return false;
     }
     const std::string key = focused->Key.str();
@@ -194,15 +196,16 @@ void duplicateRecord(App& app, Item& source, int copies) {
 void mnuDuplicate_Click(App& app) {
     Item* source = recordOfRow(app);
     if (source == nullptr || source->isTotals()) {
-        app::inform(app, "You cannot duplicate the totals row.");
+        app::inform(app, core::tr("You cannot duplicate the totals row."));
         return;
     }
-    const std::string answer = app.platform.inputBox("How many copies?", "Duplicate Record", "1");
+    const std::string answer =
+        app.platform.inputBox(core::tr("How many copies?"), core::tr("Duplicate Record"), "1");
     try {
         duplicateRecord(app, *source, core::toInt16(core::val(answer)));
     } catch (const core::RunTimeError& error) {
         if (error.number != core::errors::overflow) throw;
-        app::inform(app, "A database has no room for so many records.");
+        app::inform(app, core::tr("A database has no room for so many records."));
     }
 }
 

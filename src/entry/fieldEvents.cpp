@@ -2,6 +2,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "entry/invoiceRecords.h"
 #include "entry/masks.h"
 #include "entry/retrieveData.h"
@@ -64,7 +65,7 @@ void layoutField_KeyDown(App& app, int KeyCode) {
 
 bool layoutField_KeyPress(App& app, int index, char32_t character) {
     if (character == enterKey) {
-        app::inform(app, "Please allow your text to wrap automatically.");
+        app::inform(app, core::tr("Please allow your text to wrap automatically."));
         return false;
     }
     const Column* column = columnOf(app.document, app.document.layout.layoutField.find(index));

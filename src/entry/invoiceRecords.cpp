@@ -6,6 +6,7 @@
 #include "core/format.h"
 #include "core/text.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "entry/allOrNone.h"
 #include "entry/editRecord.h"
 #include "entry/shownRecord.h"
@@ -153,8 +154,9 @@ bool deleteInvoices(App& app) {
     Document& document = app.document;
     if (document.iLV.empty()) return false;
     if (app.mainFrm.bConfirmDelete) {
-        const platform::Answer answer = app.platform.msgBox("Are you sure?", platform::Icon::Exclamation,
-                                                            "Confirm Deletion", platform::Buttons::YesNo);
+        const platform::Answer answer =
+            app.platform.msgBox(core::tr("Are you sure?"), platform::Icon::Exclamation,
+                                core::tr("Confirm Deletion"), platform::Buttons::YesNo);
         if (answer != platform::Answer::Yes) return false;
     }
     std::set<std::string, std::less<>> gone;

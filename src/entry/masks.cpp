@@ -2,6 +2,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 
@@ -11,7 +12,8 @@ void completeCurrencyText(app::App& app, EntryBox& box) {
     const std::string_view trimmed = core::trim(box.Text);
     if (trimmed.empty()) return;
     if (!core::isNumeric(box.Text)) {
-        app.platform.msgBox("You entered a non numeric value.", platform::Icon::Exclamation, "Verify Data");
+        app.platform.msgBox(core::tr("You entered a non numeric value."), platform::Icon::Exclamation,
+                            core::tr("Verify Data"));
         return;
     }
     if (box.Text.find('.') != std::string::npos) return;

@@ -3,6 +3,7 @@
 
 #include "calc/serialNumbers.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "entry/editRecord.h"
 #include "entry/fieldEvents.h"
 #include "entry/invoiceRecords.h"
@@ -95,9 +96,10 @@ void newRecord(App& app) {
 Item* recordMeant(App& app) {
     Item* record = recordOnSheet(app);
     if (isSheetNew(app) && !app.document.bInvoiceStyle)
-        app::inform(app, "This record is new.  To store it please click on the Add toolbar button.");
+        app::inform(app,
+                    core::tr("This record is new.  To store it please click on the Add toolbar button."));
     else if (record == nullptr)
-        app::inform(app, "There is no record on the page.");
+        app::inform(app, core::tr("There is no record on the page."));
     return record;
 }
 
@@ -119,7 +121,8 @@ std::optional<std::vector<BoxText>> pictureTexts(App& app) {
             texts.push_back({holder.Tag, holder.ToolTipText});
         });
     } catch (const core::RunTimeError& error) {
-        app::warn(app, std::string("The picture could not be added to the database: ") + error.what());
+        app::warn(app,
+                  core::fill(core::tr("The picture could not be added to the database: %1"), {error.what()}));
         return std::nullopt;
     }
     return texts;
@@ -196,14 +199,14 @@ const std::map<std::string_view, std::function<void(App&)>>& routines() {
 
 std::span<const NavButton> navButtons() {
     static constexpr std::array<NavButton, 8> buttons = {{
-        {"New", "Create New Record", "recordNew"},
-        {"Add", "Add Record", "recordAdd"},
-        {"Update", "Update Record", "recordUpdate"},
-        {"Delete", "Delete Record", "recordDelete"},
-        {"First", "Go To First Record", "first"},
-        {"Back", "View Previous Record", "back"},
-        {"Next", "View Next Record", "next"},
-        {"Last", "Go To Last Record", "last"},
+        {"New", core::marked("Create New Record"), "recordNew"},
+        {"Add", core::marked("Add Record"), "recordAdd"},
+        {"Update", core::marked("Update Record"), "recordUpdate"},
+        {"Delete", core::marked("Delete Record"), "recordDelete"},
+        {"First", core::marked("Go To First Record"), "first"},
+        {"Back", core::marked("View Previous Record"), "back"},
+        {"Next", core::marked("View Next Record"), "next"},
+        {"Last", core::marked("Go To Last Record"), "last"},
     }};
     return buttons;
 }

@@ -2,6 +2,7 @@
 
 #include "core/encoding.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +18,7 @@ constexpr std::size_t mostRows = std::numeric_limits<std::int16_t>::max(); // of
 constexpr std::size_t mostCells = 4096;
 
 [[noreturn]] void refuse(std::size_t line, const std::string& what) {
-    throw TableError("line " + std::to_string(line) + ": " + what);
+    throw TableError(core::fill(core::tr("line %1: %2"), {std::to_string(line), what}));
 }
 
 bool isLineEnd(char c) {
@@ -45,7 +46,8 @@ char separatorOf(std::string_view text) {
 
 std::string textOf(std::string bytes) {
     if (core::hasUtf8Mark(bytes)) bytes.erase(0, 3);
-    if (bytes.find('\0') != std::string::npos) throw TableError("it is no text in UTF-8 or Windows-1252");
+    if (bytes.find('\0') != std::string::npos)
+        throw TableError(core::tr("it is no text in UTF-8 or Windows-1252"));
     if (core::isAscii(bytes) || core::sanitizeUtf8(bytes) == bytes) return bytes;
     return core::fromWindows1252(bytes);
 }
@@ -60,9 +62,10 @@ void CsvTable::readHeader() {
     for (std::string_view& name : header_) name = core::trim(name);
     // Spreadsheets hand on columns that nobody has filled in.
     while (!header_.empty() && header_.back().empty()) header_.pop_back();
-    if (header_.empty()) throw TableError("it has no header line");
+    if (header_.empty()) throw TableError(core::tr("it has no header line"));
     for (std::size_t i = 0; i < header_.size(); ++i)
-        if (header_[i].empty()) throw TableError("its column " + std::to_string(i + 1) + " has no name");
+        if (header_[i].empty())
+            throw TableError(core::fill(core::tr("its column %1 has no name"), {std::to_string(i + 1)}));
 }
 
 void CsvTable::readRows() {
@@ -74,9 +77,10 @@ void CsvTable::readRows() {
             isOther && std::ranges::all_of(row, [](const auto& cell) { return core::trim(cell).empty(); });
         if (isBlankLine) continue;
         if (lines_.size() == mostRows)
-            throw TableError("it has more than " + std::to_string(mostRows) + " rows");
+            throw TableError(core::fill(core::tr("it has more than %1 rows"), {std::to_string(mostRows)}));
         for (std::size_t i = header_.size(); i < row.size(); ++i)
-            if (!core::trim(row[i]).empty()) refuse(recordLine_, "more cells than the header has names");
+            if (!core::trim(row[i]).empty())
+                refuse(recordLine_, core::tr("more cells than the header has names"));
         row.resize(header_.size());
         cells_.insert(cells_.end(), row.begin(), row.end());
         lines_.push_back(recordLine_);
@@ -91,7 +95,7 @@ bool CsvTable::nextRecord(std::vector<std::string_view>& cells) {
     recordLine_ = line_;
     for (;;) {
         if (cells.size() == mostCells)
-            refuse(recordLine_, "more than " + std::to_string(mostCells) + " cells");
+            refuse(recordLine_, core::fill(core::tr("more than %1 cells"), {std::to_string(mostCells)}));
         const bool isQuoted = at_ < text_.size() && text_[at_] == '"';
         cells.push_back(isQuoted ? quotedCell() : plainCell());
         if (at_ == text_.size() || atLineEnd()) break;
@@ -114,7 +118,7 @@ std::string_view CsvTable::quotedCell() {
     const std::size_t from = ++at_;
     std::size_t to = from;
     for (;; ++to) {
-        if (at_ == text_.size()) refuse(line, "a quote is opened and never closed");
+        if (at_ == text_.size()) refuse(line, core::tr("a quote is opened and never closed"));
         if (atLineEnd()) {
             skipLineEnd();
             text_[to] = '\n';
@@ -125,7 +129,7 @@ std::string_view CsvTable::quotedCell() {
     }
     while (at_ < text_.size() && text_[at_] == ' ') ++at_;
     if (at_ < text_.size() && text_[at_] != separator_ && !atLineEnd())
-        refuse(line_, "text behind the closing quote of a cell");
+        refuse(line_, core::tr("text behind the closing quote of a cell"));
     return std::string_view(text_).substr(from, to - from);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/encoding.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/csvReader.h"
 
 #include <algorithm>
@@ -35,7 +36,8 @@ public:
         }
         for (;;) {
             if (++cells_ > mostDelimitedCells)
-                throw TableError("it has more than " + std::to_string(mostDelimitedCells) + " cells");
+                throw TableError(
+                    core::fill(core::tr("it has more than %1 cells"), {std::to_string(mostDelimitedCells)}));
             std::string cell = nextCell();
             row.push_back({cell.empty() ? SheetCell::Kind::Empty : SheetCell::Kind::Text, std::move(cell)});
             if (isAtEnd() || atRowEnd()) break;
@@ -79,7 +81,8 @@ private:
             cell.push_back(c);
             ++at_;
         }
-        throw TableError("line " + std::to_string(line) + ": a quote is opened and never closed");
+        throw TableError(
+            core::fill(core::tr("line %1: a quote is opened and never closed"), {std::to_string(line)}));
     }
 
     std::string_view text_;
@@ -158,7 +161,7 @@ std::string decodedText(std::string_view bytes, Encoding encoding) {
         text = core::fromWindows1252(bytes);
     else
         text = core::sanitizeUtf8(core::hasUtf8Mark(bytes) ? bytes.substr(3) : bytes);
-    if (text.find('\0') != std::string::npos) throw TableError("it is no text");
+    if (text.find('\0') != std::string::npos) throw TableError(core::tr("it is no text"));
     return text;
 }
 
@@ -183,7 +186,7 @@ std::vector<SheetRow> readDelimited(std::string_view text, Delimiters delimiters
     DelimitedReader reader(text, delimiters);
     while (!reader.isAtEnd()) {
         if (rows.size() == mostLines)
-            throw TableError("it has more than " + std::to_string(mostLines) + " lines");
+            throw TableError(core::fill(core::tr("it has more than %1 lines"), {std::to_string(mostLines)}));
         if (rows.size() % rowsBetween == 0) tellProgress(progress, reader.at(), text.size());
         rows.push_back(reader.nextRow());
     }

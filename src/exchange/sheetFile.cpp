@@ -1,6 +1,7 @@
 #include "core/encoding.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/csvReader.h"
 #include "exchange/formats/formats.h"
 #include "exchange/outCells.h"
@@ -34,7 +35,7 @@ constexpr std::array<std::pair<std::string_view, Format>, 15> endings = {{
 
 std::string textIn(const std::filesystem::path& file) {
     auto bytes = file::readSmallFile(file, SheetBounds::fileBytes);
-    if (!bytes) refuseSheet("it is larger than 64 MB");
+    if (!bytes) refuseSheet(core::tr("it is larger than 64 MB"));
     return textOf(*std::move(bytes));
 }
 
@@ -100,7 +101,7 @@ std::vector<std::string> sheetNames(const std::filesystem::path& file, Format fo
 }
 
 const std::string& sheetAt(const std::vector<std::string>& names, std::size_t sheet) {
-    if (sheet >= names.size()) refuseSheet("it has no such sheet");
+    if (sheet >= names.size()) refuseSheet(core::tr("it has no such sheet"));
     return names[sheet];
 }
 

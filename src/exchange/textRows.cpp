@@ -1,6 +1,7 @@
 #include "exchange/textRows.h"
 
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <optional>
@@ -75,7 +76,7 @@ private:
 
 void RowCollector::cell(std::string text) {
     if (++cells_ > mostTableCells)
-        throw TableError("it has more than " + std::to_string(mostTableCells) + " cells");
+        throw TableError(core::fill(core::tr("it has more than %1 cells"), {std::to_string(mostTableCells)}));
     row_.cells.push_back(std::move(text));
 }
 

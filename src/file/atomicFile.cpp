@@ -1,6 +1,7 @@
 #include "file/atomicFile.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -109,11 +110,13 @@ void AtomicFile::checkTarget() {
         if (errno != ENOENT) raiseSystemError(errno, target.string());
         return;
     }
-    if (!S_ISREG(status.st_mode)) core::raise(core::errors::pathAccess, target.string() + " is not a file");
+    if (!S_ISREG(status.st_mode))
+        core::raise(core::errors::pathAccess, core::fill(core::tr("%1 is not a file"), {target.string()}));
     // Renaming over a read-only file would work, and the superuser may write to it too; but whoever took
     // the write permission away wants the file to stay as it is.
     const bool writable = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
-    if (!writable) core::raise(core::errors::pathAccess, target.string() + " is read-only");
+    if (!writable)
+        core::raise(core::errors::pathAccess, core::fill(core::tr("%1 is read-only"), {target.string()}));
     if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
         raiseSystemError(errno, target.string());
     replaces = true;

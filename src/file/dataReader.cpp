@@ -5,6 +5,7 @@
 #include "core/runTimeError.h"
 #include "core/sectionMarker.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "file/layoutLines.h"
 #include "file/lineReader.h"
 #include "file/values.h"
@@ -140,7 +141,8 @@ private:
     void readIncrements(std::string_view value) {
         for (const std::string_view element : elementsOf(value)) {
             const std::size_t comma = element.find(',');
-            if (comma == std::string_view::npos) core::raise(core::errors::subscriptOutOfRange, "increment");
+            if (comma == std::string_view::npos)
+                core::raise(core::errors::subscriptOutOfRange, core::tr("increment"));
             const std::string_view name = element.substr(0, comma);
             if (document_.SerialsLV.find(name) != nullptr)
                 core::raise(core::errors::keyNotUnique, std::string(name));
@@ -163,10 +165,11 @@ private:
     }
 
     void buildColumns() {
-        if (names_.size() > mostColumns) core::raise(core::errors::overflow, "columns");
+        if (names_.size() > mostColumns) core::raise(core::errors::overflow, core::tr("columns"));
         for (std::size_t i = 0; i < names_.size(); ++i) {
             if (i >= types_.size() || i >= widths_.size())
-                core::raise(core::errors::subscriptOutOfRange, "column " + std::string(names_[i]));
+                core::raise(core::errors::subscriptOutOfRange,
+                            core::fill(core::tr("column %1"), {names_[i]}));
             const double width = std::clamp(core::val(widths_[i]), -widestColumn, widestColumn);
             document_.LV.columns.add(names_[i], names_[i], static_cast<float>(width))
                 .setTypeFromFile(types_[i]);

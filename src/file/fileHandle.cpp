@@ -1,6 +1,7 @@
 #include "file/fileHandle.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <cerrno>
 #include <csignal>
@@ -65,12 +66,14 @@ void raiseSystemError(int errnoValue, const std::string& detail) {
 FileHandle openRegularFile(const std::filesystem::path& file) {
     struct stat status {};
     if (::stat(file.c_str(), &status) != 0) raiseSystemError(errno, file.string());
-    if (!S_ISREG(status.st_mode)) core::raise(core::errors::pathAccess, file.string() + " is not a file");
+    if (!S_ISREG(status.st_mode))
+        core::raise(core::errors::pathAccess, core::fill(core::tr("%1 is not a file"), {file.string()}));
     // Should a pipe take its place in between, opening it does not block.
     FileHandle handle(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!handle.isOpen()) raiseSystemError(errno, file.string());
     if (::fstat(handle.get(), &status) != 0) raiseSystemError(errno, file.string());
-    if (!S_ISREG(status.st_mode)) core::raise(core::errors::pathAccess, file.string() + " is not a file");
+    if (!S_ISREG(status.st_mode))
+        core::raise(core::errors::pathAccess, core::fill(core::tr("%1 is not a file"), {file.string()}));
     return handle;
 }
 

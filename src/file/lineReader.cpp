@@ -1,6 +1,7 @@
 #include "file/lineReader.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <algorithm>
 
@@ -28,7 +29,8 @@ std::size_t LineReader::startAfter(std::size_t end) const {
 }
 
 std::string_view LineReader::next() {
-    if (position_ >= text_.size()) core::raise(core::errors::badFileFormat, "the text ends too early");
+    if (position_ >= text_.size())
+        core::raise(core::errors::badFileFormat, core::tr("the text ends too early"));
     const std::size_t end = endOfLine(position_);
     const std::string_view line = text_.substr(position_, end - position_);
     position_ = startAfter(end);

@@ -1,4 +1,5 @@
 #include "core/encoding.h"
+#include "core/translate.h"
 #include "file/writerLock.h"
 
 #include <algorithm>
@@ -81,11 +82,12 @@ bool LockOwner::isOfThisMachine() const {
 }
 
 std::string LockOwner::text() const {
-    if (!isKnown()) return "another program";
+    if (!isKnown()) return core::tr("another program");
     std::string time = since;
     if (const std::size_t place = time.find('T'); place != std::string::npos) time[place] = ' ';
     if (time.ends_with('Z')) time.replace(time.size() - 1, 1, " UTC");
-    return user + " on " + machine + " (process " + std::to_string(process) + ") since " + time;
+    return core::fill(core::tr("%1 on %2 (process %3) since %4"),
+                      {user, machine, std::to_string(process), time});
 }
 
 std::string lockLine(const LockOwner& owner) {

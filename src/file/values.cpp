@@ -4,6 +4,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +16,7 @@ namespace {
 
 double numberOf(std::string_view text) {
     const std::optional<double> number = core::toDouble(text);
-    if (!number) core::raise(core::errors::typeMismatch, "\"" + std::string(text) + "\" is no number");
+    if (!number) core::raise(core::errors::typeMismatch, core::fill(core::tr("\"%1\" is no number"), {text}));
     return *number;
 }
 
@@ -24,7 +25,7 @@ double numberOf(std::string_view text) {
 std::vector<std::string_view> splitLine(std::string_view line) {
     constexpr std::ptrdiff_t mostElements = std::numeric_limits<std::int16_t>::max();
     if (std::ranges::count(line, '|') > mostElements)
-        core::raise(core::errors::overflow, "elements of a line");
+        core::raise(core::errors::overflow, core::tr("elements of a line"));
     return core::split(line, '|');
 }
 
@@ -41,14 +42,15 @@ Elements Elements::joined(std::size_t first, std::size_t extra) const {
 
 std::string_view Elements::text(std::size_t number) const {
     if (number >= parts_.size())
-        core::raise(core::errors::subscriptOutOfRange, "field " + std::to_string(number));
+        core::raise(core::errors::subscriptOutOfRange,
+                    core::fill(core::tr("field %1"), {std::to_string(number)}));
     return parts_[number];
 }
 
 float Elements::single(std::size_t number) const {
     const double value = numberOf(text(number));
     if (std::abs(value) > static_cast<double>(std::numeric_limits<float>::max()))
-        core::raise(core::errors::overflow, "field " + std::to_string(number));
+        core::raise(core::errors::overflow, core::fill(core::tr("field %1"), {std::to_string(number)}));
     return static_cast<float>(value);
 }
 

@@ -3,6 +3,7 @@
 #include "gui/frame/mainFrmView.h"
 #include "gui/frame/picture.h"
 #include "gui/machine/endSignals.h"
+#include "gui/machine/language.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
@@ -62,6 +63,7 @@ int main(int argc, char* argv[]) {
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROWICK_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("ferrowick"));
     QApplication::setWindowIcon(gui::programIcon());
+    gui::useLanguageOfUser();
     QApplication::setStyle(new gui::ProgramStyle);
     if (line.dark) gui::useDarkColours();
     return picture ? gui::drawPicture(line) : showWindow(line);

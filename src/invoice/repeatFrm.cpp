@@ -3,6 +3,7 @@
 #include "app/windowState.h"
 #include "core/number.h"
 #include "core/objectRef.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,11 +53,11 @@ void repeatFrm::Command1_Click() {
 void repeatFrm::OKButton_Click() {
     const double rows = core::val(Text1);
     if (rows == 0) {
-        app::inform(app_, "You did not enter the number of rows to create.");
+        app::inform(app_, core::tr("You did not enter the number of rows to create."));
         return;
     }
     if (!hasRoomFor(rows)) {
-        app::inform(app_, "The layout has no room for so many rows.");
+        app::inform(app_, core::tr("The layout has no room for so many rows."));
         return;
     }
     repeatItemRows(app_, core::toInt16(rows), cColumns_);

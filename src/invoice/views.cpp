@@ -5,6 +5,7 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -135,7 +136,7 @@ void BuildItemsView(core::Document& document) {
     const int rows = itemRows(document.LV);
     const long long allRows = static_cast<long long>(rows) * document.LV.count();
     if (allRows > mostRows || allRows * view.columns.count() > mostCells)
-        core::raise(core::errors::overflow, "item rows");
+        core::raise(core::errors::overflow, core::tr("item rows"));
     const std::vector<int> cells = sourceCells(view, document.LV);
     const core::TotalsRowUpdater totals(document, view);
     document.LV.forEach([&](const Item& record) {

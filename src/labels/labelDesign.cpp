@@ -2,6 +2,7 @@
 
 #include "core/objectRef.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "layout/sheet.h"
 
 #include <algorithm>
@@ -257,19 +258,19 @@ namespace {
 
 // Notes the columns of a line, each of which stands once on a label; empty where nothing is wrong.
 std::string faultOfLine(const Document& document, const std::string& line, std::set<const Column*>& used) {
-    if (line.size() > mostText) return "A line of the label is too long.";
+    if (line.size() > mostText) return core::tr("A line of the label is too long.");
     std::size_t at = 0;
     while ((at = line.find('{', at)) != std::string::npos) {
         const std::size_t close = line.find('}', at);
-        if (close == std::string::npos) return "A column is written in braces: {Name}.";
+        if (close == std::string::npos) return core::tr("A column is written in braces: {Name}.");
         const std::string name(core::trim(std::string_view(line).substr(at + 1, close - at - 1)));
         const Column* column = columnOf(document, name);
-        std::string fault = column == nullptr ? "There is no column \"" : "The column \"";
-        fault.append(name).append(column == nullptr ? "\" whose text could be printed."
-                                                    : "\" stands on the label twice.");
-        if (column == nullptr || !used.insert(column).second) return fault;
+        if (column == nullptr)
+            return core::fill(core::tr("There is no column \"%1\" whose text could be printed."), {name});
+        if (!used.insert(column).second)
+            return core::fill(core::tr("The column \"%1\" stands on the label twice."), {name});
         at = close;
-        if (used.size() > mostPieces) return "The label has too many columns.";
+        if (used.size() > mostPieces) return core::tr("The label has too many columns.");
     }
     return {};
 }
@@ -277,16 +278,17 @@ std::string faultOfLine(const Document& document, const std::string& line, std::
 } // namespace
 
 std::string faultOf(const Document& document, const LabelText& text) {
-    if (text.lines.size() > mostLines) return "A label has 50 lines at most.";
+    if (text.lines.size() > mostLines) return core::tr("A label has 50 lines at most.");
     std::set<const Column*> used;
     for (const std::string& line : text.lines)
         if (std::string fault = faultOfLine(document, line, used); !fault.empty()) return fault;
     if (!text.pictureColumn.empty()) {
         const Column* column = document.LV.columns.find(text.pictureColumn);
         if (column == nullptr || !column->isType(core::ColumnType::Picture))
-            return std::string("There is no picture column \"").append(text.pictureColumn).append("\".");
+            return core::fill(core::tr("There is no picture column \"%1\"."), {text.pictureColumn});
     }
-    if (used.empty() && text.pictureColumn.empty()) return "Choose at least one column for the label.";
+    if (used.empty() && text.pictureColumn.empty())
+        return core::tr("Choose at least one column for the label.");
     return {};
 }
 

@@ -4,6 +4,7 @@
 #include "core/number.h"
 #include "core/objectRef.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "drawing/papers.h"
 #include "entry/retrieveData.h"
 #include "layout/images.h"
@@ -41,14 +42,19 @@ LabelStock usualStock() {
     return *labelStockOf("Own size\t1\tLabels\tA4\t3\t8\t63.5\t33.9\t7\t12.9\t66\t33.9\trectangle");
 }
 
+// As the settings have it.
+std::string sizeName(float points) {
+    return core::numberText(points) + " points";
+}
+
 } // namespace
 
 labelFrm::labelFrm(App& app) : app_(app), opening_(app.rooms.of<LabelOpening>()) {
     opening_.bFinished = false;
     preview.measureWith(app.platform.textMetrics());
-    for (const drawing::PaperSize& paper : drawing::papers()) paperCbo.emplace_back(paper.name);
-    pictureCbo.emplace_back("None");
-    copiesCbo.emplace_back("the same number of each record");
+    for (const drawing::PaperSize& paper : drawing::papers()) paperCbo.push_back(core::tr(paper.name));
+    pictureCbo.push_back(core::tr("None"));
+    copiesCbo.push_back(core::tr("the same number of each record"));
     for (const int index : app.document.LV.columns.displayOrder()) {
         const core::Column& column = app.document.LV.columns.at(index);
         if (column.Index == 1) continue;
@@ -56,8 +62,9 @@ labelFrm::labelFrm(App& app) : app_(app), opening_(app.rooms.of<LabelOpening>())
         (isPicture ? pictureCbo : columnList).push_back(column.Key);
         if (column.isNumeric() || column.isType(core::ColumnType::Text)) copiesCbo.push_back(column.Key);
     }
-    sizeCbo.emplace_back("As large as fits");
-    for (const float size : sizes) sizeCbo.push_back(core::numberText(size) + " points");
+    sizeCbo.push_back(core::tr("As large as fits"));
+    for (const float size : sizes)
+        sizeCbo.push_back(core::fill(core::tr("%1 points"), {core::numberText(size)}));
     loadText();
     if (const core::Item* record = entry::currentRecord(app); record != nullptr && !record->isTotals())
         row_ = app.mainFrm.theListView->indexOf(*record);
@@ -74,12 +81,10 @@ labelFrm::labelFrm(App& app) : app_(app), opening_(app.rooms.of<LabelOpening>())
 void labelFrm::loadText() {
     linesTxt = app::fileSetting(app_, linesSetting);
     bCentred = !app::fileSetting(app_, centredSetting).empty();
-    const auto entryOf = [&](const std::vector<std::string>& entries, std::string_view setting) {
-        const auto found = std::ranges::find(entries, app::fileSetting(app_, setting));
-        return found == entries.end() ? 0 : static_cast<int>(found - entries.begin());
-    };
-    pictureIndex = entryOf(pictureCbo, pictureSetting);
-    sizeIndex = entryOf(sizeCbo, sizeSetting);
+    const auto picture = std::ranges::find(pictureCbo, app::fileSetting(app_, pictureSetting));
+    pictureIndex = picture == pictureCbo.end() ? 0 : static_cast<int>(picture - pictureCbo.begin());
+    const auto* size = std::ranges::find(sizes, app::fileSetting(app_, sizeSetting), sizeName);
+    sizeIndex = size == sizes.end() ? 0 : static_cast<int>(size - sizes.begin()) + 1;
     if (faultOf(app_.document, text()).empty()) return;
     linesTxt.clear();
     for (const std::string& line : proposedLabel(app_.document).lines)
@@ -90,11 +95,9 @@ void labelFrm::loadText() {
 void labelFrm::keepText() {
     app::setFileSetting(app_, linesSetting, linesTxt);
     app::setFileSetting(app_, centredSetting, bCentred ? "1" : "");
-    const auto entry = [](const std::vector<std::string>& entries, int index) {
-        return index == 0 ? std::string() : entries.at(static_cast<std::size_t>(index));
-    };
-    app::setFileSetting(app_, pictureSetting, entry(pictureCbo, pictureIndex));
-    app::setFileSetting(app_, sizeSetting, entry(sizeCbo, sizeIndex));
+    const LabelText kept = text();
+    app::setFileSetting(app_, pictureSetting, kept.pictureColumn);
+    app::setFileSetting(app_, sizeSetting, sizeIndex == 0 ? std::string() : sizeName(kept.FontSize));
 }
 
 // The sheet that was used last is the one that is proposed.
@@ -110,8 +113,9 @@ void labelFrm::load(const LabelChoice& kept) {
               millimetreText(sheet.top),
               millimetreText(std::max(sheet.columnPitch - sheet.width, 0.0)),
               millimetreText(std::max(sheet.rowPitch - sheet.height, 0.0))};
-    const auto paper = std::ranges::find(paperCbo, sheet.paper);
-    paperIndex = paper == paperCbo.end() ? 0 : static_cast<int>(paper - paperCbo.begin());
+    const auto papers = drawing::papers();
+    const auto paper = std::ranges::find(papers, sheet.paper, &drawing::PaperSize::name);
+    paperIndex = paper == papers.end() ? 0 : static_cast<int>(paper - papers.begin());
     stock = sheet;
     const auto column = std::ranges::find(copiesCbo, kept.copiesColumn);
     copiesIndex = column == copiesCbo.end() ? 0 : static_cast<int>(column - copiesCbo.begin());
@@ -136,24 +140,23 @@ std::optional<LabelStock> labelFrm::ownStock() {
         const std::string typed = core::replaceAll(ownTxt.at(i), ",", ".");
         const auto number = core::toDouble(typed);
         if (!number || !(*number >= 0)) {
-            fault = "\"";
-            fault.append(core::left(ownTxt.at(i), 30)).append("\" is no length or number.");
+            fault = core::fill(core::tr("\"%1\" is no length or number."), {core::left(ownTxt.at(i), 30)});
             return std::nullopt;
         }
         lengths.at(i) = *number;
     }
     std::string line(ownMaker);
     line.append("\t").append(ownTxt[Width]).append(" x ").append(ownTxt[Height]).append("\tLabels\t");
-    line.append(paperCbo.at(static_cast<std::size_t>(paperIndex)));
+    line.append(drawing::papers()[static_cast<std::size_t>(paperIndex)].name);
     for (const double number :
          {lengths[Columns], lengths[Rows], lengths[Width], lengths[Height], lengths[Left], lengths[Top],
           lengths[Width] + lengths[ColumnGap], lengths[Height] + lengths[RowGap]})
         line.append("\t").append(core::numberText(number));
     std::optional<LabelStock> own = labelStockOf(line.append("\trectangle"));
     if (!own)
-        fault =
+        fault = core::tr(
             "Labels of this size and number do not find room on the paper.  There are 10000 on a sheet at "
-            "most.";
+            "most.");
     return own;
 }
 
@@ -166,7 +169,8 @@ void labelFrm::show() {
             stock = *List1.at(static_cast<std::size_t>(ListIndex));
         else
             stock.reset();
-        if (!stock && fault.empty()) fault = "No sheet of labels is called so, or has labels of that size.";
+        if (!stock && fault.empty())
+            fault = core::tr("No sheet of labels is called so, or has labels of that size.");
         if (stock) choice.start = std::clamp(choice.start, 1, stock->perSheet());
     }
     if (page == TextPage) fault = faultOf(app_.document, text());
@@ -247,9 +251,9 @@ void labelFrm::showLabel() {
     const core::RecordsList& list = *app_.mainFrm.theListView;
     const int records = std::max(list.count() - 1, 0); // without the Totals row
     row_ = std::clamp(row_, 1, std::max(records, 1));
-    recordLbl = records == 0 ? "No records yet" : "Record ";
-    if (records > 0)
-        recordLbl.append(std::to_string(row_)).append(" of ").append(std::to_string(records)).append(".");
+    recordLbl = records == 0 ? core::tr("No records yet")
+                             : core::fill(core::tr("Record %1 of %2."),
+                                          {std::to_string(row_), std::to_string(records)});
     drawing::PageSetup setup;
     setup.PaperSize = drawing::customPaperCode;
     setup.Width = std::lround(stock->width);
@@ -258,9 +262,11 @@ void labelFrm::showLabel() {
     sizeLbl.clear();
     if (!fault.empty()) return;
     design_ = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
-    sizeLbl = "Text of ";
-    sizeLbl.append(core::numberText(design_.FontSize)).append(" points");
-    if (!design_.bFits) sizeLbl += ": the longest texts are printed smaller, or are cut at the edge";
+    sizeLbl = core::fill(
+        design_.bFits
+            ? core::tr("Text of %1 points")
+            : core::tr("Text of %1 points: the longest texts are printed smaller, or are cut at the edge"),
+        {core::numberText(design_.FontSize)});
     LabelDesign shown = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
     if (records > 0) {
         const core::Item& record = list.at(row_);
@@ -316,10 +322,11 @@ void labelFrm::showPrint() {
     design_ = designLabel(app_.document, *stock, text(), app_.platform.textMetrics());
     constexpr double exact = 0.1; // millimetres
     const auto off = deviation(*stock, design_.objects);
-    exactLbl = off && *off <= exact
-                   ? "The database itself keeps where these labels stand."
-                   : "The database cannot keep where these labels stand to a tenth of a millimetre: this "
-                     "computer does, for this file.";
+    exactLbl =
+        off && *off <= exact
+            ? core::tr("The database itself keeps where these labels stand.")
+            : core::tr("The database cannot keep where these labels stand to a tenth of a millimetre: this "
+                       "computer does, for this file.");
 }
 
 void labelFrm::backBtn_Click() {
@@ -339,11 +346,14 @@ void labelFrm::finish() {
     const int objects = app_.document.layout.count();
     int answer = 0;
     if (objects > 0) {
-        std::string question = "The layout has ";
-        question.append(std::to_string(objects)).append(objects == 1 ? " object" : " objects");
-        question.append(".  The new label can take its place, or you keep your design and print it on these "
-                        "labels.");
-        answer = app_.platform.choose(question, "Label Wizard", {"Replace The Layout", "Keep The Layout"});
+        const std::string question = core::tr(
+            "The layout has %n object.  The new label can take its place, or you keep your design and "
+            "print it on these labels.",
+            "The layout has %n objects.  The new label can take its place, or you keep your design and "
+            "print it on these labels.",
+            objects);
+        answer = app_.platform.choose(question, core::tr("Label Wizard"),
+                                      {core::tr("Replace The Layout"), core::tr("Keep The Layout")});
     }
     if (answer < 0) return;
     if (answer == 0)

@@ -3,6 +3,7 @@
 #include "app/longWork.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "entry/retrieveData.h"
 #include "layout/sheet.h"
 #include "print/layoutPrinting.h"
@@ -35,10 +36,6 @@ int copiesIn(const core::Item& record, const core::Column* column, const LabelCh
     if (wanted <= LabelChoice::mostCopies) return static_cast<int>(wanted);
     ++cut;
     return LabelChoice::mostCopies;
-}
-
-void appendCount(std::string& text, long count, std::string_view one, std::string_view many) {
-    text.append(std::to_string(count)).append(" ").append(count == 1 ? one : many);
 }
 
 // One run of printLabels.
@@ -81,18 +78,19 @@ void LabelRun::usePaper() {
 
 bool LabelRun::tellWhetherPossible() {
     if (copies_.labels() == 0) {
-        app::inform(app_, choice_.copiesColumn.empty()
-                              ? "There are no records to print on labels."
-                              : "There is nothing to print: no record has a number of copies above 0 in the "
-                                "column that says how many.");
+        app::inform(
+            app_, choice_.copiesColumn.empty()
+                      ? core::tr("There are no records to print on labels.")
+                      : core::tr("There is nothing to print: no record has a number of copies above 0 in the "
+                                 "column that says how many."));
         return false;
     }
     if (copies_.labels() <= LabelChoice::mostLabels) return true;
-    std::string text = "That would be ";
-    text.append(std::to_string(copies_.labels())).append(" labels.  At most ");
-    text.append(std::to_string(LabelChoice::mostLabels))
-        .append(" are printed at a time.  Select fewer records.");
-    app::inform(app_, text);
+    app::inform(
+        app_,
+        core::fill(
+            core::tr("That would be %1 labels.  At most %2 are printed at a time.  Select fewer records."),
+            {std::to_string(copies_.labels()), std::to_string(LabelChoice::mostLabels)}));
     return false;
 }
 
@@ -146,7 +144,7 @@ bool LabelRun::print() {
     target_.bOneSheet = true;
     const entry::ManyRecordsShown many(app_);
     if (target_.isPrinter()) {
-        app::LongWork work(app_, "Printing labels", static_cast<int>(copies_.labels()));
+        app::LongWork work(app_, core::tr("Printing labels"), static_cast<int>(copies_.labels()));
         const int sheets = labelSheets(choice_, copies_);
         for (int sheet = 1; sheet <= sheets; ++sheet) {
             if (sheet > 1) target_.NewPage();
@@ -198,26 +196,22 @@ int labelSheets(const LabelChoice& choice, const LabelCopies& copies) {
 }
 
 std::string aboutLabels(const LabelChoice& choice, const LabelCopies& copies) {
-    std::string text;
-    appendCount(text, copies.labels(), "label", "labels");
     if (copies.labels() > LabelChoice::mostLabels)
-        return text.append(": too many to print at a time, which are ")
-            .append(std::to_string(LabelChoice::mostLabels))
-            .append(" at most.");
-    text.append(" on ");
-    appendCount(text, labelSheets(choice, copies), "sheet.", "sheets.");
-    if (copies.without > 0) {
-        text.append("  ");
-        appendCount(text, copies.without, "record has", "records have");
-        text.append(" no number above 0 there: no label.");
-    }
-    if (copies.cut > 0) {
-        text.append("  ");
-        appendCount(text, copies.cut, "record asks", "records ask");
-        text.append(" for more than ")
-            .append(std::to_string(LabelChoice::mostCopies))
-            .append(", which is the most.");
-    }
+        return core::fill(core::tr("%1 labels: too many to print at a time, which are %2 at most."),
+                          {std::to_string(copies.labels()), std::to_string(LabelChoice::mostLabels)});
+    const int labels = static_cast<int>(copies.labels()), sheets = labelSheets(choice, copies);
+    // How many labels on how many sheets.
+    std::string text = core::fill(core::tr("%1 on %2."), {core::tr("%n label", "%n labels", labels),
+                                                          core::tr("%n sheet", "%n sheets", sheets)});
+    if (copies.without > 0)
+        text.append("  ").append(core::tr("%n record has no number above 0 there: no label.",
+                                          "%n records have no number above 0 there: no label.",
+                                          copies.without));
+    if (copies.cut > 0)
+        text.append("  ").append(
+            core::fill(core::tr("%n record asks for more than %1, which is the most.",
+                                "%n records ask for more than %1, which is the most.", copies.cut),
+                       {std::to_string(LabelChoice::mostCopies)}));
     return text;
 }
 

@@ -1,5 +1,6 @@
 #include "layout/clipboard.h"
 
+#include "core/translate.h"
 #include "layout/copiedObjects.h"
 #include "layout/images.h"
 #include "layout/layoutPage.h"
@@ -39,12 +40,12 @@ bool takePicture(App& app, const core::ClipPic& clip, CopiedObjects& copied) {
     if (file.empty() || !fs::exists(file, error)) return true;
     const std::uintmax_t size = fs::file_size(file, error);
     if (!error && size > mostPictureBytes) {
-        app::warn(app, "The picture " + clip.Tag + " is too large.");
+        app::warn(app, core::fill(core::tr("The picture %1 is too large."), {clip.Tag}));
         return false;
     }
     std::ostringstream bytes;
     if (error || !(bytes << std::ifstream(file, std::ios::binary).rdbuf()) || bytes.str().size() != size) {
-        app::warn(app, "The picture " + clip.Tag + " cannot be read.");
+        app::warn(app, core::fill(core::tr("The picture %1 cannot be read."), {clip.Tag}));
         return false;
     }
     copied.pictures.push_back({clip.Tag, bytes.str()});
@@ -69,7 +70,7 @@ bool takeSelected(App& app) {
     if (!taken) return false;
     // What would not be read again must not be cut.
     if (!readCopied(linesOf(copied, "\r\n"))) {
-        app::warn(app, "This object has a size or a text that cannot be copied.");
+        app::warn(app, core::tr("This object has a size or a text that cannot be copied."));
         return false;
     }
     app.platform.setClipboard({linesOf(copied, "\n"), {}, wholeTextOf(copied)});
@@ -81,11 +82,11 @@ bool takeSelected(App& app) {
 // Why an object that shows a column cannot be put on this page; empty when it can.
 std::string faultOfColumn(const App& app, const core::LayoutObject& object, bool isPicture, bool isAdded) {
     const core::Column* column = app.document.LV.columns.find(object.Tag);
-    std::string fault = "This database has no ";
-    fault.append(isPicture ? "picture column" : "column").append(" \"").append(object.Tag).append("\".");
     if (column == nullptr || column->Index == 1 || column->isType(core::ColumnType::Picture) != isPicture)
-        return fault;
-    return isAdded ? "Field already added!" : std::string();
+        return core::fill(isPicture ? core::tr("This database has no picture column \"%1\".")
+                                    : core::tr("This database has no column \"%1\"."),
+                          {object.Tag});
+    return isAdded ? core::tr("Field already added!") : std::string();
 }
 
 template <typename Object>
@@ -227,7 +228,7 @@ void copyObjects(App& app) {
 void cutObjects(App& app) {
     if (!canCopyObjects(app)) return;
     if (isLocked(app.document, layoutPage(app).selectedObject)) {
-        app::inform(app, "This object is locked.  Press the Lock button to unlock it.");
+        app::inform(app, core::tr("This object is locked.  Press the Lock button to unlock it."));
         return;
     }
     if (!takeSelected(app)) return;
@@ -240,7 +241,7 @@ void pasteObjects(App& app) {
     const platform::ClipboardData data = app.platform.clipboard();
     std::optional<CopiedObjects> copied = readCopied(data.layout.empty() ? data.text : data.layout);
     if (!copied) {
-        app::inform(app, "There are no objects of a layout on the clipboard.");
+        app::inform(app, core::tr("There are no objects of a layout on the clipboard."));
         return;
     }
     const core::LayoutObjects& own = app.document.layout;

@@ -4,6 +4,7 @@
 #include "app/hourglass.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "file/archive/zip.h"
 #include "layout/keptPictures.h"
 #include "layout/sheet.h"
@@ -23,7 +24,7 @@ using core::LayoutObject;
 
 namespace {
 
-constexpr std::string_view imageFilter = "Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif";
+constexpr std::string_view imageFilter = core::marked("Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif");
 
 // The two directions leave a different rest, and it is wanted so.
 void scaleInto(const LayoutObject& holder, FittedImage& image, double width, double height) {
@@ -47,9 +48,11 @@ void fit(const LayoutObject& holder, FittedImage& image, drawing::Extent natural
     image.Visible = true;
 }
 
-// Why an image cannot be shown.
+// Why an image cannot be shown; one without a name is in the clipboard.
 std::string faultOf(App& app, const fs::path& file, const std::string& name) {
-    if (app.platform.isPictureTooLarge(file)) return "The picture " + name + " is too large.";
+    if (app.platform.isPictureTooLarge(file))
+        return name.empty() ? core::tr("The picture in the clipboard is too large.")
+                            : core::fill(core::tr("The picture %1 is too large."), {name});
     errno = 0;
     std::error_code error;
     std::string reason;
@@ -57,17 +60,22 @@ std::string faultOf(App& app, const fs::path& file, const std::string& name) {
         reason = std::generic_category().message(EISDIR);
     else if (!std::ifstream(file).is_open() && errno != 0)
         reason = std::generic_category().message(errno);
-    return "The picture " + name + " cannot be read" + (reason.empty() ? "." : ": " + reason + ".");
+    if (name.empty())
+        return reason.empty()
+                   ? core::tr("The picture in the clipboard cannot be read.")
+                   : core::fill(core::tr("The picture in the clipboard cannot be read: %1."), {reason});
+    return reason.empty() ? core::fill(core::tr("The picture %1 cannot be read."), {name})
+                          : core::fill(core::tr("The picture %1 cannot be read: %2."), {name, reason});
 }
 
 // The chosen file, or nothing after the message. A cancelled dialog has chosen nothing, which is no
 // image either: it is wanted so.
-std::optional<fs::path> chooseImage(App& app, const char* title) {
+std::optional<fs::path> chooseImage(App& app, const std::string& title) {
     const std::string chosen =
-        app.platform.showOpen({title, "", std::string(imageFilter)}).value_or(std::string());
+        app.platform.showOpen({title, "", core::tr(imageFilter)}).value_or(std::string());
     const std::string ending = core::upper(core::right(chosen, 3));
     if (ending != "GIF" && ending != "JPG")
-        app::inform(app, "You selected a file other than a GIF or JPEG.  Please try again.");
+        app::inform(app, core::tr("You selected a file other than a GIF or JPEG.  Please try again."));
     else if (app.platform.pictureExtent(chosen))
         return fs::path(chosen);
     else
@@ -81,16 +89,19 @@ bool tryToAdd(App& app, const std::function<void()>& add) {
         add();
         return true;
     } catch (const core::RunTimeError& error) {
-        app::warn(app, std::string("The picture could not be added to the database: ") + error.what());
+        app::warn(app,
+                  core::fill(core::tr("The picture could not be added to the database: %1"), {error.what()}));
     } catch (const fs::filesystem_error& error) {
-        app::warn(app, "The picture could not be added to the database: " + error.code().message());
+        app::warn(app, core::fill(core::tr("The picture could not be added to the database: %1"),
+                                  {error.code().message()}));
     }
     return false;
 }
 
 void addToArchive(App& app, const fs::path& file, const std::string& comment) {
     if (app.mainFrm.bReadOnly)
-        core::raise(core::errors::pathAccess, app.document.currentFile + " is open to read only");
+        core::raise(core::errors::pathAccess,
+                    core::fill(core::tr("%1 is open to read only"), {app.document.currentFile}));
     app.changes.announce(app, app::Change::Writing);
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
@@ -149,7 +160,7 @@ bool takeClipboardImage(App& app, const LayoutObject& holder, FittedImage& image
     fitImage(app, holder, fitted, taken);
     std::error_code error;
     if (fitted.path.empty())
-        app::warn(app, faultOf(app, taken, "in the clipboard"));
+        app::warn(app, faultOf(app, taken, {}));
     else
         fs::rename(taken, file, error);
     if (fitted.path.empty() || error) {
@@ -207,7 +218,7 @@ void ImageArchive::extract(const std::string& name) {
 void imgHolder_DblClick(App& app, int index) {
     core::ImgHolder* holder = app.document.layout.imgHolder.find(index);
     if (holder == nullptr || isDesignMode(app)) return;
-    const std::optional<fs::path> file = chooseImage(app, "Select image for picture box.");
+    const std::optional<fs::path> file = chooseImage(app, core::tr("Select image for picture box."));
     if (!file) return;
     if (!tryToAdd(app, [&] { addToArchive(app, *file, ""); })) return;
     fitImage(app, *holder, holder->viewImage, *file);
@@ -221,7 +232,7 @@ void imgHolder_DblClick(App& app, int index) {
 void selectClipArt(App& app, int iIndex) {
     core::ClipPic* clip = app.document.layout.clipPic.find(iIndex);
     if (clip == nullptr || !isDesignMode(app)) return;
-    const std::optional<fs::path> file = chooseImage(app, "Select image for clip art.");
+    const std::optional<fs::path> file = chooseImage(app, core::tr("Select image for clip art."));
     if (!file) return;
     const fs::path copy = app.platform.tempFolder() / file->filename();
     const bool added = tryToAdd(app, [&] {
@@ -237,7 +248,7 @@ void selectClipArt(App& app, int iIndex) {
 
 std::optional<std::string> storeClipArt(App& app, const std::string& name, std::string_view bytes) {
     if (!isImageName(name)) {
-        app::warn(app, "The picture " + name + " cannot be read.");
+        app::warn(app, core::fill(core::tr("The picture %1 cannot be read."), {name}));
         return std::nullopt;
     }
     std::string chosen;

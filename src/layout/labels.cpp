@@ -1,6 +1,7 @@
 #include "layout/labels.h"
 #include "layout/layoutPage.h"
 
+#include "core/translate.h"
 #include "layout/sheet.h"
 
 namespace layout {
@@ -31,9 +32,10 @@ void tLabel_Change(core::Document& document, int index, std::string_view text) {
 
 bool tLabel_KeyPress(App& app, int KeyAscii) {
     if (KeyAscii != enterKey) return true;
-    app::inform(app,
-                "Please use separate labels for multiple lines, or resize your label and allow your text to "
-                "wrap automatically.");
+    app::inform(
+        app,
+        core::tr("Please use separate labels for multiple lines, or resize your label and allow your text to "
+                 "wrap automatically."));
     return false;
 }
 
@@ -42,10 +44,10 @@ void setLabelLink(App& app) {
     if (selected.family != core::Family::tLabel) return;
     core::Label* label = app.document.layout.tLabel.find(selected.Index);
     if (label == nullptr) return;
-    label->Tag =
-        app.platform.inputBox("Enter URL or email address.  URL's should begin with http:// and emails "
-                              "should start with mailto:",
-                              "Insert Link", label->Tag);
+    label->Tag = app.platform.inputBox(
+        core::tr("Enter URL or email address.  URL's should begin with http:// and emails "
+                 "should start with mailto:"),
+        core::tr("Insert Link"), label->Tag);
 }
 
 } // namespace layout

@@ -1,6 +1,7 @@
 #include "layout/links.h"
 
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <array>
@@ -118,7 +119,7 @@ void followLink(App& app, std::string_view target) {
     const std::string_view link = core::trim(target);
     if (link.empty()) return;
     if (!isPlain(link)) {
-        app::warn(app, "The link cannot be opened: it has characters in it that no address has.");
+        app::warn(app, core::tr("The link cannot be opened: it has characters in it that no address has."));
         return;
     }
     if (const std::string address = addressOf(link); !address.empty()) {
@@ -127,11 +128,12 @@ void followLink(App& app, std::string_view target) {
     }
     const std::string other = targetOf(app.document, link);
     if (isProgram(other)) {
-        app::warn(app, shown(other) + " is a program or a script. Links do not start programs.");
+        app::warn(app, core::fill(core::tr("%1 is a program or a script. Links do not start programs."),
+                                  {shown(other)}));
         return;
     }
-    if (app.platform.msgBox("Open " + shown(other) + "?", platform::Icon::Question, app::title,
-                            platform::Buttons::YesNoDefaultNo) == platform::Answer::Yes)
+    if (app.platform.msgBox(core::fill(core::tr("Open %1?"), {shown(other)}), platform::Icon::Question,
+                            app::title, platform::Buttons::YesNoDefaultNo) == platform::Answer::Yes)
         app.platform.openLink(other);
 }
 

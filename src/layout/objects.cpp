@@ -3,6 +3,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "layout/labels.h"
 #include "layout/selection.h"
 #include "layout/sheet.h"
@@ -102,7 +103,7 @@ void closeSelectedLabel(App& app) {
 void addFieldBox(App& app, const std::string& key) {
     core::LayoutObjects& layout = app.document.layout;
     if (hasColumn(layout.layoutField, key)) {
-        app::inform(app, "Field already added!");
+        app::inform(app, core::tr("Field already added!"));
         return;
     }
     core::LayoutField& field = add(app, layout.layoutField);
@@ -117,7 +118,7 @@ void addFieldBox(App& app, const std::string& key) {
 void addPictureField(App& app, const std::string& key) {
     core::LayoutObjects& layout = app.document.layout;
     if (hasColumn(layout.imgHolder, key)) {
-        app::inform(app, "Field already added.");
+        app::inform(app, core::tr("Field already added."));
         return;
     }
     core::ImgHolder& holder = add(app, layout.imgHolder);
@@ -183,8 +184,9 @@ void deleteSelectedObject(App& app) {
 }
 
 void nuke(App& app) {
-    const platform::Answer answer = app.platform.msgBox(
-        "Are you sure?", platform::Icon::None, "Erase Layout Confirmation", platform::Buttons::YesNo);
+    const platform::Answer answer =
+        app.platform.msgBox(core::tr("Are you sure?"), platform::Icon::None,
+                            core::tr("Erase Layout Confirmation"), platform::Buttons::YesNo);
     if (answer == platform::Answer::Yes) eraseLayout(app);
 }
 
@@ -225,8 +227,8 @@ void sendToBack(App& app) {
 void pBox_DblClick(App& app, int index) {
     core::BoxObject* box = app.document.layout.pBox.find(index);
     if (box == nullptr) return;
-    const std::string answer =
-        app.platform.inputBox("Enter value from 1 to 10 for border width.", "Border Width Setting", "1");
+    const std::string answer = app.platform.inputBox(core::tr("Enter value from 1 to 10 for border width."),
+                                                     core::tr("Border Width Setting"), "1");
     const double width = core::roundHalfEven(core::val(answer));
     if (width >= 1 && width <= 10) box->DrawWidth = static_cast<int>(width);
 }

@@ -1,6 +1,7 @@
 #include "layout/selection.h"
 #include "layout/layoutPage.h"
 
+#include "core/translate.h"
 #include "layout/dragging.h"
 #include "layout/images.h"
 #include "layout/labels.h"
@@ -154,8 +155,9 @@ std::string selectionText(App& app) {
         constexpr double twipsPerInch = 1440, decimals = 100;
         return core::numberText(core::roundHalfEven(twips / twipsPerInch * decimals) / decimals);
     };
-    return "At " + inches(object->Left) + ", " + inches(object->Top) + "   Size " + inches(object->Width) +
-           " x " + inches(object->Height) + " in";
+    return core::fill(
+        core::tr("At %1, %2   Size %3 x %4 in"),
+        {inches(object->Left), inches(object->Top), inches(object->Width), inches(object->Height)});
 }
 
 void object_MouseDown(App& app, ObjectRef object, MouseButton button, int X, int Y, long pointerX,

@@ -2,6 +2,7 @@
 #include "layout/layoutPage.h"
 
 #include "core/number.h"
+#include "core/translate.h"
 #include "layout/images.h"
 
 #include <algorithm>
@@ -125,8 +126,8 @@ void InitLayout(App& app, bool bDesign) {
     const drawing::Extent extent = pageExtent(app);
     page.layoutPic2.Width = static_cast<float>(extent.Width);
     page.layoutPic2.Height = static_cast<float>(extent.Height);
-    page.marginLbl =
-        "Paper Size: " + inchesText(page.layoutPic2.Width) + " x " + inchesText(page.layoutPic2.Height);
+    page.marginLbl = core::fill(core::tr("Paper Size: %1 x %2"),
+                                {inchesText(page.layoutPic2.Width), inchesText(page.layoutPic2.Height)});
     app.mainFrm.control("layoutToolbar.Snap").Value = app.mainFrm.bSnapToGrid;
     page.ruler1.Width = std::max(page.viewportWidth, page.layoutPic2.Width);
     page.ruler2.Height = std::max(page.viewportHeight, page.layoutPic2.Height);
@@ -145,8 +146,8 @@ void InitLayout(App& app, bool bDesign) {
     page.layoutPic2.Visible = true;
     if (app.document.bInvoiceStyle && app.document.iLV.count() == 1 && !isDesignMode(app)) {
         page.layoutPic2.Visible = false;
-        app::inform(app, "To create a new invoice record please click on the New toolbar button.  "
-                         "It's the first one on the Layout Tab's toolbar.");
+        app::inform(app, core::tr("To create a new invoice record please click on the New toolbar button.  "
+                                  "It's the first one on the Layout Tab's toolbar."));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "layout/storedPictures.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/archive/zip.h"
 #include "layout/images.h"
 #include "layout/keptPictures.h"
@@ -48,7 +49,8 @@ std::vector<std::string> namesThatGo(const file::Zip& Zip,
 void storePictures(App& app, const std::vector<NewPicture>& pictures,
                    const std::function<bool(std::string_view name)>& goes) {
     if (app.mainFrm.bReadOnly)
-        core::raise(core::errors::pathAccess, app.document.currentFile + " is open to read only");
+        core::raise(core::errors::pathAccess,
+                    core::fill(core::tr("%1 is open to read only"), {app.document.currentFile}));
     file::Zip Zip;
     Zip.OpenArchive(app.document.currentFile);
     std::vector<const NewPicture*> added;

@@ -2,6 +2,7 @@
 #include "layout/layoutPage.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "layout/labels.h"
 #include "layout/objects.h"
 #include "layout/selection.h"
@@ -62,30 +63,30 @@ const std::map<std::string_view, std::function<void(App&)>>& routines() {
 
 std::span<const ToolbarButton> toolbarButtons() {
     static constexpr std::array<ToolbarButton, 24> buttons = {{
-        {"Nuke", "Erase Layout", "nuke"},
-        {"Delete", "Delete Selected Object", "deleteObject"},
-        {"Snap", "Snap To Grid", "snap", true},
+        {"Nuke", core::marked("Erase Layout"), "nuke"},
+        {"Delete", core::marked("Delete Selected Object"), "deleteObject"},
+        {"Snap", core::marked("Snap To Grid"), "snap", true},
         {"-", "", ""},
-        {"Line", "Add Horizontal Line To Layout.", "line"},
-        {"vLine", "Add Vertical Line To Layout.", "vLine"},
-        {"Box", "Add Box To Layout.", "box"},
-        {"ClipArt", "Add a static clip art image to layout.", "clipArt"},
+        {"Line", core::marked("Add Horizontal Line To Layout."), "line"},
+        {"vLine", core::marked("Add Vertical Line To Layout."), "vLine"},
+        {"Box", core::marked("Add Box To Layout."), "box"},
+        {"ClipArt", core::marked("Add a static clip art image to layout."), "clipArt"},
         {"-", "", ""},
-        {"Label", "Add Label", "label", false, true},
-        {"Link", "Create Link From Label.", "link"},
-        {"Lock", "Lock Selected Object.", "lockObject", true},
+        {"Label", core::marked("Add Label"), "label", false, true},
+        {"Link", core::marked("Create Link From Label."), "link"},
+        {"Lock", core::marked("Lock Selected Object."), "lockObject", true},
         {"-", "", ""},
-        {"Field", "Add Entry Box", "field", false, true},
-        {"Rows", "Create Item Rows", "rows"},
-        {"Picture", "Add Picture", "pictureField", false, true},
+        {"Field", core::marked("Add Entry Box"), "field", false, true},
+        {"Rows", core::marked("Create Item Rows"), "rows"},
+        {"Picture", core::marked("Add Picture"), "pictureField", false, true},
         {"-", "", ""},
-        {"Bold", "Bold", "bold"},
-        {"Italic", "Italic", "italic"},
-        {"Underline", "Underline", "underline"},
-        {"Font", "Set Font", "font"},
+        {"Bold", core::marked("Bold"), "bold"},
+        {"Italic", core::marked("Italic"), "italic"},
+        {"Underline", core::marked("Underline"), "underline"},
+        {"Font", core::marked("Set Font"), "font"},
         {"-", "", ""},
-        {"SendFront", "Bring To Front", "sendFront"},
-        {"SendBack", "Send To Back", "sendBack"},
+        {"SendFront", core::marked("Bring To Front"), "sendFront"},
+        {"SendBack", core::marked("Send To Back"), "sendBack"},
     }};
     return buttons;
 }

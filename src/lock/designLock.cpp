@@ -3,6 +3,7 @@
 #include "core/encoding.h"
 #include "core/sectionMarker.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 namespace lock {
 
@@ -12,7 +13,7 @@ using platform::Icon;
 namespace {
 
 constexpr std::string_view key = "wintersedge";
-constexpr const char* lockCaption = "Lock Database";
+constexpr const char* lockCaption = core::marked("Lock Database");
 
 // In the code of one byte that the file is written in. A character beyond it is exclusive-ored by its own
 // code point, unless that led among the characters of one byte, from where there would be no way back.
@@ -39,37 +40,40 @@ bool wouldBeReadBack(std::string_view stored) {
 }
 
 void lockDesign(App& app) {
-    const platform::Answer answer = app.platform.msgBox(
-        "This feature will prevent any changes to be made to either the database properties or the layout.  "
-        "You will need to provide a password to lock or unlock your file.  Are you sure you want to do this?",
-        Icon::None, lockCaption, platform::Buttons::YesNo);
+    const platform::Answer answer =
+        app.platform.msgBox(core::tr("This feature will prevent any changes to be made to either the "
+                                     "database properties or the layout.  "
+                                     "You will need to provide a password to lock or unlock your file.  Are "
+                                     "you sure you want to do this?"),
+                            Icon::None, core::tr(lockCaption), platform::Buttons::YesNo);
     if (answer != platform::Answer::Yes) return;
     if (app.mainFrm.control("Design").Value) {
-        app.platform.msgBox("Please return layout to browse view instead of design.  The design button is "
-                            "currently pressed.",
-                            Icon::None, app::title);
+        app.platform.msgBox(
+            core::tr("Please return layout to browse view instead of design.  The design button is "
+                     "currently pressed."),
+            Icon::None, app::title);
         return;
     }
     std::string& lockPassword = app.document.lockPassword;
-    lockPassword = app.platform.inputBox("Enter password to lock file.", lockCaption, "");
+    lockPassword = app.platform.inputBox(core::tr("Enter password to lock file."), core::tr(lockCaption), "");
     // Blanks stay as they are and lock the design, without a word. It is wanted so.
     if (core::trim(lockPassword).empty()) return;
     scrambleLockPassword(app.document);
     if (!wouldBeReadBack(lockPassword)) {
         lockPassword.clear();
-        app::inform(app, "This password cannot be stored.  Please choose another one.");
+        app::inform(app, core::tr("This password cannot be stored.  Please choose another one."));
         return;
     }
-    app::inform(app, "Database Locked.");
+    app::inform(app, core::tr("Database Locked."));
     app::setDocumentModified(app, true);
 }
 
 void unlockDesign(App& app) {
-    const std::string answer =
-        app.platform.inputBox("Enter password to unlock database.", "Unlock Database", "");
+    const std::string answer = app.platform.inputBox(core::tr("Enter password to unlock database."),
+                                                     core::tr("Unlock Database"), "");
     scrambleLockPassword(app.document);
     if (app.document.lockPassword != answer) {
-        app::inform(app, "Incorrect Password.");
+        app::inform(app, core::tr("Incorrect Password."));
         scrambleLockPassword(app.document);
     } else {
         app.document.lockPassword.clear();
@@ -103,7 +107,9 @@ void mnuDatabaseLock_Click(App& app) {
 
 bool isDesignLocked(App& app) {
     if (app.document.lockPassword.empty()) return false;
-    app::inform(app, "The database structure and layout have been locked.  Use the Options menu to unlock.");
+    app::inform(
+        app,
+        core::tr("The database structure and layout have been locked.  Use the Options menu to unlock."));
     return true;
 }
 

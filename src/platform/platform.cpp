@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "drawing/papers.h"
 
 namespace platform {
@@ -14,17 +15,17 @@ std::optional<drawing::Extent> Platform::paperExtent(int code) {
 std::vector<PaperName> Platform::printerPapers() {
     std::vector<PaperName> names;
     for (const drawing::PaperSize& paper : drawing::papers())
-        names.push_back({std::string(paper.name), paper.code});
-    names.push_back({"Custom", drawing::customPaperCode});
+        names.push_back({core::tr(paper.name), paper.code});
+    names.push_back({core::tr("Custom"), drawing::customPaperCode});
     return names;
 }
 
 std::unique_ptr<drawing::DrawTarget> Platform::openPrinter(const std::string&) {
-    core::raise(core::errors::deviceIO, "there is no printer");
+    core::raise(core::errors::deviceIO, core::tr("there is no printer"));
 }
 
 drawing::TextMetrics& Platform::textMetrics() {
-    core::raise(core::errors::deviceIO, "there is no printer");
+    core::raise(core::errors::deviceIO, core::tr("there is no printer"));
 }
 
 void Platform::convertToJpeg(const std::filesystem::path&, const std::filesystem::path& jpeg, int) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/translate.h"
 #include "drawing/drawTarget.h"
 #include "platform/mailMessage.h"
 
@@ -29,8 +30,8 @@ struct FileDialog {
 // Where the settings stand in their file.
 constexpr std::string_view settingsSection = "StartUp";
 
-// The filter of every dialog that asks for a database.
-constexpr std::string_view databaseFilter = "Database (*.fwk)|*.fwk|All Files (*.*)|*.*";
+// The filter of every dialog that asks for a database; shown by core::tr().
+constexpr std::string_view databaseFilter = core::marked("Database (*.fwk)|*.fwk|All Files (*.*)|*.*");
 
 // A paper of the printer by its own name; the code is what PaperSize takes.
 struct PaperName {

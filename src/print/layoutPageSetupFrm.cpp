@@ -3,6 +3,7 @@
 
 #include "core/number.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "layout/sheet.h"
 #include "print/layoutPrinting.h"
 #include "print/margins.h"
@@ -47,7 +48,7 @@ void layoutPageSetupFrm::loadPaperList() {
     std::set<std::string> names;
     for (const platform::PaperName& paper : allPapers(app_.platform)) {
         if (!names.insert(paper.name).second) core::raise(core::errors::keyNotUnique, paper.name);
-        paperList.ListItems.push_back({paper.name, std::to_string(paper.code), paper.size});
+        paperList.ListItems.push_back({core::tr(paper.name), std::to_string(paper.code), paper.size});
     }
 }
 
@@ -79,7 +80,7 @@ void layoutPageSetupFrm::customOkBtn_Click() {
     const double length = core::val(lengthTxt);
     const double height = core::val(heightTxt);
     if (length <= 0 || height <= 0) {
-        app::inform(app_, "Invalid values specified. Values must be greater than 0.");
+        app::inform(app_, core::tr("Invalid values specified. Values must be greater than 0."));
         return;
     }
     app_.document.layoutOptions.customPaperHeight = static_cast<float>(height);

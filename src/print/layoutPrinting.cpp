@@ -4,6 +4,7 @@
 
 #include "core/number.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "entry/retrieveData.h"
 #include "layout/sheet.h"
 #include "print/margins.h"
@@ -104,10 +105,11 @@ void LayoutGrid::measure() {
 
 bool LayoutGrid::tellWhetherItFits() const {
     if (page_.iLayoutCols > 0 && page_.iLayoutRows > 0) return true;
-    app::inform(app_,
-                "The layout is too large for its paper: with its spacing, not even one fits within the "
-                "margins.  Make it smaller, or change the paper, the margins or the spacing in the page "
-                "setup.");
+    app::inform(
+        app_,
+        core::tr("The layout is too large for its paper: with its spacing, not even one fits within the "
+                 "margins.  Make it smaller, or change the paper, the margins or the spacing in the page "
+                 "setup."));
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "print/paperChoice.h"
 
 #include "core/pageSettings.h"
+#include "core/translate.h"
 #include "drawing/papers.h"
 
 #include <algorithm>
@@ -34,10 +35,11 @@ bool isOption(int code) {
 
 // The report keeps no lengths, so that a custom size can only stay what it is.
 std::string nameOfOther(Platform& platform, int code) {
-    if (const drawing::PaperSize* paper = drawing::findPaper(code)) return std::string(paper->name);
-    std::string name = code == core::customPaper ? "Custom" : "Code " + std::to_string(code);
-    if (!platform.paperExtent(code)) name += " (prints on Letter)";
-    return name;
+    if (const drawing::PaperSize* paper = drawing::findPaper(code)) return core::tr(paper->name);
+    const std::string name = code == core::customPaper
+                                 ? core::tr("Custom")
+                                 : core::fill(core::tr("Code %1"), {std::to_string(code)});
+    return platform.paperExtent(code) ? name : core::fill(core::tr("%1 (prints on Letter)"), {name});
 }
 
 } // namespace
@@ -53,9 +55,9 @@ PaperChoice papersBesideTheOptions(Platform& platform, int present) {
     for (PaperName& paper : platform.printerPapers())
         if (!has(all, paper.code)) all.push_back(std::move(paper));
     PaperChoice choice;
-    for (PaperName& paper : all)
+    for (const PaperName& paper : all)
         if (!isOption(paper.code) && paper.code != core::customPaper)
-            choice.papers.push_back(std::move(paper));
+            choice.papers.push_back({core::tr(paper.name), paper.code, paper.size});
     if (present == 0 || isOption(present)) return choice;
     if (!has(choice.papers, present)) choice.papers.push_back({nameOfOther(platform, present), present});
     const auto chosen = std::ranges::find(choice.papers, present, &PaperName::code);
@@ -71,9 +73,8 @@ std::vector<PaperName> allPapers(Platform& platform) {
 
 std::string paperNotice(Platform& platform, int code) {
     if (code == core::customPaper || platform.paperExtent(code)) return {};
-    std::string text = "The paper of the database, code ";
-    text.append(std::to_string(code)).append(", is not known here: it prints on Letter.");
-    return text;
+    return core::fill(core::tr("The paper of the database, code %1, is not known here: it prints on Letter."),
+                      {std::to_string(code)});
 }
 
 } // namespace print

@@ -16,9 +16,9 @@ struct PaperChoice {
     std::optional<int> code() const;
 };
 
-// The papers of a report beside Letter and Legal: those that everybody can buy, the printer's, and that of
-// the database, which is chosen when it is none of the two. Code 0 is that of a database in which nobody has
-// chosen any.
+// The papers of a report beside Letter and Legal, by their names in the user's language: those that everybody
+// can buy, the printer's, and that of the database, which is chosen when it is none of the two. Code 0 is
+// that of a database in which nobody has chosen any.
 PaperChoice papersBesideTheOptions(platform::Platform& platform, int present);
 
 // The printer's papers in its own order, and behind them those that everybody can buy.

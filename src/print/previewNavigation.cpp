@@ -2,6 +2,7 @@
 #include "print/previewPage.h"
 
 #include "calc/selectedTotals.h"
+#include "core/translate.h"
 #include "print/layoutPrinting.h"
 #include "print/printerCheck.h"
 #include "print/reportPrinting.h"
@@ -115,10 +116,10 @@ void rptPreview2_Resize(App& app, float width, float height, float barThickness)
 }
 
 std::span<const PreviewButton> previewButtons() {
-    static constexpr std::array<PreviewButton, 4> buttons = {{{"First", "First", "first"},
-                                                              {"Back", "Back", "back"},
-                                                              {"Next", "Next", "next"},
-                                                              {"Last", "Last", "last"}}};
+    static constexpr std::array<PreviewButton, 4> buttons = {{{"First", core::marked("First"), "first"},
+                                                              {"Back", core::marked("Back"), "back"},
+                                                              {"Next", core::marked("Next"), "next"},
+                                                              {"Last", core::marked("Last"), "last"}}};
     return buttons;
 }
 
@@ -143,7 +144,7 @@ bool showPreview(App& app) {
     PreviewPage& page = previewPage(app);
     if (app.mainFrm.iPrintMode == app::printReport && app.document.printedCols.empty()) {
         page.Visible = false;
-        app::inform(app, "You have not selected any columns to print in the page setup dialog.");
+        app::inform(app, core::tr("You have not selected any columns to print in the page setup dialog."));
         return false;
     }
     underPrinterTrap(app, [&] {

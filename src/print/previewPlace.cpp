@@ -1,5 +1,6 @@
 #include "print/previewPlace.h"
 
+#include "core/translate.h"
 #include "print/previewNavigation.h"
 
 #include <algorithm>
@@ -68,9 +69,8 @@ void notePage(App& app, int number, int of) {
 std::string previewPlaceText(const App& app) {
     const PreviewPage& page = previewPage(app);
     if (!page.Visible || page.place.number < 1) return {};
-    std::string text = page.place.isRecord ? "Record " : "Page ";
-    text.append(std::to_string(page.place.number)).append(" of ").append(std::to_string(page.place.of));
-    return text;
+    return core::fill(page.place.isRecord ? core::tr("Record %1 of %2") : core::tr("Page %1 of %2"),
+                      {std::to_string(page.place.number), std::to_string(page.place.of)});
 }
 
 bool turnPreview(App& app, bool forward) {

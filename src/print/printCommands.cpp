@@ -2,6 +2,7 @@
 #include "print/previewPage.h"
 
 #include "calc/selectedTotals.h"
+#include "core/translate.h"
 #include "entry/retrieveData.h"
 #include "print/layoutPrinting.h"
 #include "print/previewNavigation.h"
@@ -35,7 +36,8 @@ void printOn(App& app, const std::function<void(DrawTarget& printer)>& draw) {
     draw(*printer);
     if (printer->close()) return;
     const std::string why = printer->failure();
-    app::warn(app, "The print could not be written" + (why.empty() ? "." : ": " + why + "."));
+    app::warn(app, why.empty() ? core::tr("The print could not be written.")
+                               : core::fill(core::tr("The print could not be written: %1."), {why}));
 }
 
 namespace {

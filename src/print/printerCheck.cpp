@@ -1,6 +1,7 @@
 #include "print/printerCheck.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 namespace print {
 
@@ -14,8 +15,8 @@ bool underPrinterTrap(app::App& app, const std::function<void()>& part) {
         return true;
     } catch (const core::RunTimeError& error) {
         if (error.number == core::errors::cancelled) return false; // by the user, who needs no word of it
-        app.platform.msgBox("You need to first install a printer on this system.",
-                            platform::Icon::Information, "Printer Not Installed");
+        app.platform.msgBox(core::tr("You need to first install a printer on this system."),
+                            platform::Icon::Information, core::tr("Printer Not Installed"));
         return false;
     }
 }

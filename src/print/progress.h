@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/hourglass.h"
+#include "core/translate.h"
 
 namespace print {
 
@@ -16,7 +17,8 @@ public:
         constexpr int step = 500; // often enough to be followed, too seldom to cost time
         if (record < next_) return;
         next_ = record + step;
-        panel() = "Printing: " + std::to_string(record) + " of " + std::to_string(total_);
+        panel() =
+            core::fill(core::tr("Printing: %1 of %2"), {std::to_string(record), std::to_string(total_)});
         app_.platform.paintStatus();
     }
 

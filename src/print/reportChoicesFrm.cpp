@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "print/reportFigures.h"
 #include "print/reportPrinting.h"
 
@@ -12,8 +13,9 @@ namespace print {
 
 namespace {
 
-constexpr std::string_view noGroups = "(none)", eachValue = "each value";
-constexpr std::array<std::string_view, 4> dateSteps = {"year", "quarter", "month", "day"};
+// As the settings have them.
+constexpr std::array<const char*, 4> dateSteps = {core::marked("year"), core::marked("quarter"),
+                                                  core::marked("month"), core::marked("day")};
 
 } // namespace
 
@@ -23,7 +25,7 @@ reportChoicesFrm::reportChoicesFrm(app::App& app) : app_(app) {
     pagesChk = choices.pageNumbers;
     dateChk = choices.date;
     totalsChk = choices.sheetTotals;
-    groupList.emplace_back(noGroups);
+    groupList.push_back(core::tr("(none)"));
     const core::ColumnHeaders& columns = reportList(app).columns;
     for (const int index : columns.displayOrder()) {
         if (index == 1) continue;
@@ -38,6 +40,7 @@ reportChoicesFrm::reportChoicesFrm(app::App& app) : app_(app) {
 // Steps of numbers come from the command line; here they can only be kept.
 void reportChoicesFrm::takeSteps(const std::string& chosen) {
     stepList.clear();
+    steps_.clear();
     stepIndex = 0;
     if (groupIndex == 0) return;
     const core::Column* column =
@@ -45,13 +48,15 @@ void reportChoicesFrm::takeSteps(const std::string& chosen) {
     const auto& isStep = reportFigures(app_).isStep;
     if (column == nullptr || !isStep) return;
     for (const std::string_view step : dateSteps)
-        if (isStep(step, column->type())) stepList.emplace_back(step);
-    const bool isKnown = std::ranges::find(stepList, chosen) != stepList.end();
-    if (!chosen.empty() && !isKnown && isStep(chosen, column->type())) stepList.push_back(chosen);
-    if (stepList.empty()) return;
-    stepList.emplace(stepList.begin(), eachValue);
-    const auto found = std::ranges::find(stepList, chosen);
-    if (found != stepList.end()) stepIndex = static_cast<int>(found - stepList.begin());
+        if (isStep(step, column->type())) steps_.emplace_back(step);
+    const bool isKnown = std::ranges::find(steps_, chosen) != steps_.end();
+    if (!chosen.empty() && !isKnown && isStep(chosen, column->type())) steps_.push_back(chosen);
+    if (steps_.empty()) return;
+    steps_.emplace(steps_.begin());
+    for (const std::string& step : steps_)
+        stepList.push_back(step.empty() ? core::tr("each value") : core::tr(step));
+    stepIndex = static_cast<int>(std::ranges::find(steps_, chosen) - steps_.begin());
+    if (stepIndex == static_cast<int>(steps_.size())) stepIndex = 0;
 }
 
 void reportChoicesFrm::takeNote() {
@@ -61,7 +66,8 @@ void reportChoicesFrm::takeNote() {
         return core::isTotaledColumn(document, printed.item) && document.isNumericColumn(printed.item);
     });
     if ((totalsChk || groupIndex > 0) && !isTotaled)
-        noteLbl = "No column of the report is totaled, so there are no sums: see Choose Columns To Total.";
+        noteLbl = core::tr(
+            "No column of the report is totaled, so there are no sums: see Choose Columns To Total.");
 }
 
 void reportChoicesFrm::groupList_Click(int entry) {
@@ -79,7 +85,7 @@ void reportChoicesFrm::OKButton_Click() {
     ReportChoices choices{headsChk, pagesChk, dateChk, totalsChk, {}, {}};
     if (groupIndex > 0) {
         choices.groupColumn = groupList[static_cast<std::size_t>(groupIndex)];
-        if (stepIndex > 0) choices.groupStep = stepList[static_cast<std::size_t>(stepIndex)];
+        if (stepIndex > 0) choices.groupStep = steps_[static_cast<std::size_t>(stepIndex)];
     }
     unloaded = true;
     setReportChoices(app_, choices);

@@ -33,6 +33,7 @@ private:
     void takeNote();
 
     app::App& app_;
+    std::vector<std::string> steps_; // what the settings call those of stepList; the first is empty
 };
 
 } // namespace print

@@ -1,6 +1,7 @@
 #include "print/reportFit.h"
 
 #include "core/number.h"
+#include "core/translate.h"
 #include "print/margins.h"
 #include "print/previewPage.h"
 #include "print/reportColumns.h"
@@ -72,14 +73,13 @@ std::string ReportFit::text() const {
     std::string text;
     std::vector<std::string> names;
     for (const NarrowColumn& each : narrow) {
-        std::string name = each.name;
-        name.append(" (").append(std::to_string(each.shown)).append(" of ");
-        names.push_back(name.append(std::to_string(each.longest)).append(" characters)"));
+        names.push_back(core::fill(core::tr("%1 (%2 of %3 characters)"),
+                                   {each.name, std::to_string(each.shown), std::to_string(each.longest)}));
     }
-    if (!names.empty()) text.append("Too narrow for the longest text: ").append(listed(names)).append(".");
+    if (!names.empty()) text = core::fill(core::tr("Too narrow for the longest text: %1."), {listed(names)});
     if (beyond.empty()) return text;
     if (!text.empty()) text.append(" ");
-    return text.append("Over the edge of the paper: ").append(listed(beyond)).append(".");
+    return text.append(core::fill(core::tr("Over the edge of the paper: %1."), {listed(beyond)}));
 }
 
 ReportFit fitOf(app::App& app, RecordsList& theList) {

@@ -1,6 +1,7 @@
 #include "print/reportPlan.h"
 
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "print/previewPage.h"
 
 #include <algorithm>
@@ -53,9 +54,8 @@ private:
         groups_ = reportFigures(app_).group(app_, list_, *by, choices_.groupStep, rows);
         for (const ReportGroup& group : groups_) {
             ReportPlan::Group planned;
-            planned.heading.append(by->Text).append(": ").append(group.name);
-            planned.subtotal.label = std::to_string(group.rows.size());
-            planned.subtotal.label.append(group.rows.size() == 1 ? " record" : " records");
+            planned.heading = core::fill(core::tr("%1: %2"), {by->Text, group.name});
+            planned.subtotal.label = core::tr("%n record", "%n records", static_cast<int>(group.rows.size()));
             planned.subtotal.ownLine = !fitsAhead(planned.subtotal.label);
             plan_.groups.push_back(std::move(planned));
         }
@@ -163,7 +163,7 @@ float heightOf(const ReportPlan& plan, const SheetMeasures& measures, Entry entr
         return linesOf(plan.groups[static_cast<std::size_t>(entry.number)].subtotal.ownLine);
     case Kind::Brought:
     case Kind::Carried:
-        return linesOf(static_cast<float>(carriedLabel.size()) * measures.character > measures.labelRoom);
+        return linesOf(measures.sumsLabel > measures.labelRoom);
     case Kind::Totals:
         return linesOf(false);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/translate.h"
 #include "print/reportChoices.h"
 #include "print/reportColumns.h"
 #include "print/reportFigures.h"
@@ -51,12 +52,14 @@ struct SheetMeasures {
     float room = 0;      // from the first line to where the last one ends
     float labelRoom = 0; // ahead of the first sum
     float character = 0; // width of one
+    float sumsLabel = 0; // width of the label of the sums of all sheets before, or with this one
 };
 
 // How high an entry is; the blank half line ahead of a heading is there unless it is a sheet's first.
 float heightOf(const ReportPlan& plan, const SheetMeasures& measures, ReportPlan::Entry entry, bool isFirst);
 
-constexpr std::string_view carriedLabel = "Carried forward", broughtLabel = "Brought forward";
+constexpr const char *carriedLabel = core::marked("Carried forward"),
+                     *broughtLabel = core::marked("Brought forward");
 
 ReportPlan planReport(app::App& app, const core::RecordsList& list, const std::vector<ReportColumn>& columns,
                       const ReportChoices& choices, const SheetMeasures& measures);

@@ -3,6 +3,7 @@
 #include "core/dates.h"
 #include "core/number.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "print/margins.h"
 #include "print/previewNavigation.h"
 #include "print/previewPage.h"
@@ -51,9 +52,8 @@ private:
         target_.CurrentY = y;
     }
     // The totals of all sheets up to this one.
-    ReportPlan::Sums soFar(std::string_view label, std::size_t sheet) const {
-        const float width = static_cast<float>(label.size()) * measures_.character;
-        return {std::string(label), width > measures_.labelRoom, plan_.sheets[sheet].carried};
+    ReportPlan::Sums soFar(const char* label, std::size_t sheet) const {
+        return {core::tr(label), measures_.sumsLabel > measures_.labelRoom, plan_.sheets[sheet].carried};
     }
     const core::ReportData& settings() const { return document_.reportData; }
 
@@ -93,6 +93,9 @@ void SheetsOfReport::measure() {
 
 void SheetsOfReport::measureColumns() {
     measures_.character = target_.TextWidth("0");
+    const std::size_t longest =
+        std::max(core::length(core::tr(carriedLabel)), core::length(core::tr(broughtLabel)));
+    measures_.sumsLabel = static_cast<float>(longest) * measures_.character;
     float x = left_;
     measures_.labelRoom = 0;
     bool isBeforeSums = true;
@@ -136,8 +139,8 @@ void SheetsOfReport::drawFoot(std::size_t number) {
                       false);
     }
     if (!choices_.pageNumbers) return;
-    std::string text = std::to_string(number + 1);
-    text.append(" of ").append(std::to_string(plan_.sheets.size()));
+    const std::string text =
+        core::fill(core::tr("%1 of %2"), {std::to_string(number + 1), std::to_string(plan_.sheets.size())});
     target_.CurrentX = std::max(right_ - target_.TextWidth(text), left_);
     target_.CurrentY = foot_;
     target_.Print(text, false);
@@ -145,8 +148,7 @@ void SheetsOfReport::drawFoot(std::size_t number) {
 
 // One that is too long for the sheet is cut, as the texts of columns are.
 void SheetsOfReport::drawHeading(const std::string& heading, bool isContinued, bool isFirst) {
-    std::string text = heading;
-    if (isContinued) text.append(" (continued)");
+    const std::string text = isContinued ? core::fill(core::tr("%1 (continued)"), {heading}) : heading;
     const float most = std::max((target_.Width - left_) / std::max(measures_.character, 1.0F), 0.0F);
     goTo(target_.CurrentY + (isFirst ? 0 : measures_.line / 2));
     target_.FontBold = true;

@@ -1,6 +1,7 @@
 #include "qtprint/paperTarget.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <QPageLayout>
 
@@ -23,12 +24,13 @@ void PaperTarget::choosePaper(const drawing::PageSetup& setup) {
 QPainter& PaperTarget::sheet() {
     constexpr qreal twipsPerInch = 1440;
     if (!painter_.isActive()) {
-        if (!painter_.begin(&device_)) core::raise(core::errors::deviceIO, "the printer does not answer");
+        if (!painter_.begin(&device_))
+            core::raise(core::errors::deviceIO, core::tr("the printer does not answer"));
         painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                                 QPainter::SmoothPixmapTransform);
         painter_.scale(device_.logicalDpiX() / twipsPerInch, device_.logicalDpiY() / twipsPerInch);
     } else if (!onSheet_ && !device_.newPage()) {
-        core::raise(core::errors::deviceIO, "the printer does not answer");
+        core::raise(core::errors::deviceIO, core::tr("the printer does not answer"));
     }
     onSheet_ = hasSheets_ = true;
     return painter_;

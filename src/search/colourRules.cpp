@@ -2,6 +2,7 @@
 
 #include "app/fileSettings.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "search/filter/filter.h"
 #include "search/filter/folding.h"
 
@@ -19,6 +20,9 @@ namespace {
 constexpr char fieldEnd = '\t', ruleEnd = '\n';
 constexpr std::array<std::string_view, colourTests> keptNames = {"empty",   "equal",  "above", "below",
                                                                  "between", "passed", "near"};
+constexpr std::array<const char*, colourCount> colourNames = {core::marked("Red"),    core::marked("Orange"),
+                                                              core::marked("Yellow"), core::marked("Green"),
+                                                              core::marked("Blue"),   core::marked("Violet")};
 constexpr int furthest = 3650; // days
 
 std::optional<int> daysIn(std::string_view text) {
@@ -45,6 +49,11 @@ std::optional<Measure> measured(std::string_view text, ColumnType type, year_mon
     return Measure{*number, *number};
 }
 
+// As the settings have it.
+std::string_view keptColour(int colour) {
+    return colourNames.at(static_cast<std::size_t>(std::clamp(colour, 0, colourCount - 1)));
+}
+
 bool isOfTexts(ColumnType type) {
     return type == ColumnType::Text || type == ColumnType::Picture || type == ColumnType::None;
 }
@@ -64,10 +73,8 @@ bool holdsFor(ColourTest test, const auto& cell, const auto& first, const auto& 
 
 } // namespace
 
-std::string_view colourName(int colour) {
-    constexpr std::array<std::string_view, colourCount> names = {"Red",   "Orange", "Yellow",
-                                                                 "Green", "Blue",   "Violet"};
-    return names.at(static_cast<std::size_t>(std::clamp(colour, 0, colourCount - 1)));
+std::string colourName(int colour) {
+    return core::tr(keptColour(colour));
 }
 
 std::vector<ColourTest> colourTestsOf(ColumnType type) {
@@ -80,12 +87,14 @@ std::vector<ColourTest> colourTestsOf(ColumnType type) {
     return tests;
 }
 
-std::string_view testName(ColourTest test, ColumnType type) {
-    constexpr std::array<std::string_view, colourTests> names = {
-        "is empty", "is equal to", "is above", "is below", "is between", "has passed", "is within days"};
-    if (type == ColumnType::Date && test == ColourTest::Above) return "is after";
-    if (type == ColumnType::Date && test == ColourTest::Below) return "is before";
-    return names.at(static_cast<std::size_t>(test));
+std::string testName(ColourTest test, ColumnType type) {
+    constexpr std::array<const char*, colourTests> names = {
+        core::marked("is empty"),      core::marked("is equal to"), core::marked("is above"),
+        core::marked("is below"),      core::marked("is between"),  core::marked("has passed"),
+        core::marked("is within days")};
+    if (type == ColumnType::Date && test == ColourTest::Above) return core::tr("is after");
+    if (type == ColumnType::Date && test == ColourTest::Below) return core::tr("is before");
+    return core::tr(names.at(static_cast<std::size_t>(test)));
 }
 
 int valuesOf(ColourTest test) {
@@ -94,16 +103,19 @@ int valuesOf(ColourTest test) {
 }
 
 std::string ruleText(const ColourRule& rule, ColumnType type) {
-    std::string text(testName(rule.test, type));
-    if (text.starts_with("is ")) text.erase(0, 3);
-    if (rule.test == ColourTest::DateNear) {
-        text = "within ";
-        text.append(rule.value).append(rule.value == "1" ? " day" : " days");
-    } else if (valuesOf(rule.test) > 0) {
-        text.append(1, ' ').append(rule.value);
-    }
-    if (rule.test == ColourTest::Between) text.append(" and ").append(rule.upTo);
-    return text;
+    constexpr std::array<const char*, colourTests> patterns = {core::marked("empty"),
+                                                               core::marked("equal to %1"),
+                                                               core::marked("above %1"),
+                                                               core::marked("below %1"),
+                                                               core::marked("between %1 and %2"),
+                                                               core::marked("has passed"),
+                                                               ""};
+    std::string pattern = core::tr(patterns.at(static_cast<std::size_t>(rule.test)));
+    if (rule.test == ColourTest::DateNear) // the number stands there as it was typed
+        pattern = core::tr("within %1 day", "within %1 days", daysIn(rule.value).value_or(0));
+    if (type == ColumnType::Date && rule.test == ColourTest::Above) pattern = core::tr("after %1");
+    if (type == ColumnType::Date && rule.test == ColourTest::Below) pattern = core::tr("before %1");
+    return core::fill(pattern, {rule.value, rule.upTo});
 }
 
 std::string ruleError(const ColourRule& rule, ColumnType type, year_month_day today) {
@@ -115,12 +127,11 @@ std::string ruleError(const ColourRule& rule, ColumnType type, year_month_day to
     for (int i = 0; i < valuesOf(rule.test); ++i) {
         const std::string_view value = values.at(static_cast<std::size_t>(i));
         if (!isWrong(value)) continue;
-        if (core::trim(value).empty()) return "A value is missing.";
-        std::string reason(value);
-        reason.append(rule.test == ColourTest::DateNear ? " is no number of days, from 0 to 3650."
-                      : type == ColumnType::Date        ? " is no date."
-                                                        : " is no number.");
-        return reason;
+        if (core::trim(value).empty()) return core::tr("A value is missing.");
+        if (rule.test == ColourTest::DateNear)
+            return core::fill(core::tr("%1 is no number of days, from 0 to 3650."), {value});
+        return core::fill(
+            type == ColumnType::Date ? core::tr("%1 is no date.") : core::tr("%1 is no number."), {value});
     }
     return {};
 }
@@ -151,7 +162,7 @@ std::string colourText(const ColumnColours& rules) {
     for (const ColourRule& rule : rules) {
         text.append(keptNames.at(static_cast<std::size_t>(rule.test))).append(1, fieldEnd);
         text.append(rule.value).append(1, fieldEnd).append(rule.upTo).append(1, fieldEnd);
-        text.append(colourName(rule.colour)).append(1, ruleEnd);
+        text.append(keptColour(rule.colour)).append(1, ruleEnd);
     }
     return text;
 }
@@ -168,7 +179,7 @@ ColumnColours coloursFrom(std::string_view text) {
         rule.value = fields[1];
         rule.upTo = fields[2];
         for (int colour = 0; colour < colourCount; ++colour)
-            if (colourName(colour) == fields[3]) rule.colour = colour;
+            if (keptColour(colour) == fields[3]) rule.colour = colour;
         rules.push_back(std::move(rule));
     }
     return rules;

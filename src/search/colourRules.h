@@ -29,11 +29,11 @@ struct ColourRule {
 };
 using ColumnColours = std::vector<ColourRule>; // the first one that holds decides
 
-// "Red", "Orange" and so on.
-std::string_view colourName(int colour);
+// "Red", "Orange" and so on, in the user's language.
+std::string colourName(int colour);
 // The tests that make sense for a column of that type, and what they are called there ("is after").
 std::vector<ColourTest> colourTestsOf(core::ColumnType type);
-std::string_view testName(ColourTest test, core::ColumnType type);
+std::string testName(ColourTest test, core::ColumnType type);
 // How many values a test takes: 0 to 2.
 int valuesOf(ColourTest test);
 // What a cell is said to be that the rule marks: "above 10".

@@ -1,5 +1,7 @@
 #include "search/coloursFrm.h"
 
+#include "core/translate.h"
+
 #include <algorithm>
 
 namespace search {
@@ -21,7 +23,7 @@ std::vector<std::string> markedColumns(const App& app) {
 
 void showColours(App& app, const std::string& column) {
     if (markedColumns(app).empty()) {
-        app::inform(app, "Your database has no columns that could be coloured.");
+        app::inform(app, core::tr("Your database has no columns that could be coloured."));
         return;
     }
     app.rooms.of<ColoursOpening>().column = column;
@@ -47,8 +49,8 @@ void coloursFrm::load() {
     const auto changed = changed_.find(column);
     const ColumnColours& rules = changed == changed_.end() ? coloursOf(app_, column) : changed->second;
     const std::vector<ColourTest> offered = colourTestsOf(type());
-    tests = {"(no colour)"};
-    for (const ColourTest test : offered) tests.emplace_back(testName(test, type()));
+    tests = {core::tr("(no colour)")};
+    for (const ColourTest test : offered) tests.push_back(testName(test, type()));
     for (std::size_t i = 0; i < rows.size(); ++i) {
         rows.at(i) = Row{};
         rows.at(i).Combo2 = static_cast<int>(i); // rules that are made one after the other differ
@@ -108,7 +110,8 @@ void coloursFrm::OKButton_Click() {
         if (rules != coloursOf(app_, column)) isKept = setColours(app_, column, rules) && isKept;
     unloaded = true;
     if (!isKept)
-        app::inform(app_, "These colours are too long to be kept. They hold until the database is closed.");
+        app::inform(
+            app_, core::tr("These colours are too long to be kept. They hold until the database is closed."));
 }
 
 } // namespace search

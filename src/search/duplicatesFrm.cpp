@@ -1,6 +1,7 @@
 #include "search/duplicatesFrm.h"
 
 #include "app/hourglass.h"
+#include "core/translate.h"
 #include "search/manyRecords.h"
 
 #include <algorithm>
@@ -9,7 +10,7 @@ namespace search {
 
 void mnuDuplicates_Click(app::App& app) {
     if (app.document.LV.columns.count() < 2 || app.document.LV.count() < 3)
-        app::inform(app, "There are no two records to compare.");
+        app::inform(app, core::tr("There are no two records to compare."));
     else
         app.platform.showForm("duplicatesFrm");
 }
@@ -62,14 +63,14 @@ void duplicatesFrm::find() {
     hasSelection = !List2.empty();
     if (hasSelection) List2.front().Selected = true;
     if (compared.empty())
-        Label1 = "Choose the columns to compare.";
+        Label1 = core::tr("Choose the columns to compare.");
     else if (List2.empty())
-        Label1 = "No two records are equal in these columns.";
+        Label1 = core::tr("No two records are equal in these columns.");
     else
-        Label1 = counted(List2.size(), "group", "groups")
+        Label1 = core::tr("%n group", "%n groups", static_cast<int>(List2.size()))
                      .append(", ")
-                     .append(counted(behindFirst, "record", "records"))
-                     .append(" behind the first of each");
+                     .append(core::tr("%n record behind the first of each",
+                                      "%n records behind the first of each", static_cast<int>(behindFirst)));
 }
 
 void duplicatesFrm::List2_Select(const std::vector<std::size_t>& groups) {
@@ -111,10 +112,13 @@ void duplicatesFrm::deleteBtn_Click() {
     std::size_t records = 0;
     for (const EqualRecords& group : chosen) records += group.size() - 1;
     if (app_.mainFrm.bConfirmDelete) {
-        std::string text = "Delete ";
-        text.append(counted(records, "record", "records")).append(" and keep the first of ");
-        text.append(chosen.size() == 1 ? "the group?" : counted(chosen.size(), "group", "groups?"));
-        if (app_.platform.msgBox(text, platform::Icon::Exclamation, "Confirm Deletion",
+        const int count = static_cast<int>(records);
+        const std::string one = core::tr("Delete %n record and keep the first of the group?",
+                                         "Delete %n records and keep the first of the group?", count);
+        const std::string many = core::tr("Delete %n record and keep the first of %1 groups?",
+                                          "Delete %n records and keep the first of %1 groups?", count);
+        const std::string text = chosen.size() == 1 ? one : core::fill(many, {std::to_string(chosen.size())});
+        if (app_.platform.msgBox(text, platform::Icon::Exclamation, core::tr("Confirm Deletion"),
                                  platform::Buttons::YesNo) != platform::Answer::Yes)
             return;
     }

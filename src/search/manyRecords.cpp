@@ -2,6 +2,7 @@
 
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
+#include "core/translate.h"
 
 #include <unordered_set>
 
@@ -71,7 +72,7 @@ std::string nameOf(const Document& document, const Item& record) {
         if (column.Index != 1 && !RecordsList::cell(record, column).empty())
             return RecordsList::cell(record, column).str();
     }
-    return "(empty)";
+    return core::tr("(empty)");
 }
 
 std::string counted(std::size_t number, const char* one, const char* many) {

@@ -29,7 +29,7 @@ void selectRecords(app::App& app, const std::vector<const core::Item*>& records)
 // What a user knows a record by: the first cell, from the left, that is not empty.
 std::string nameOf(const core::Document& document, const core::Item& record);
 
-// "1 record", "7 records".
+// "1 record", "7 records"; not for texts of the window, which are translated.
 std::string counted(std::size_t number, const char* one, const char* many);
 
 } // namespace search

@@ -1,16 +1,19 @@
 #include "search/replaceFrm.h"
 
+#include "core/translate.h"
 #include "search/replaceWords.h"
 
 namespace search {
 
 bool mayReplace(app::App& app) {
     if (app.document.bInvoiceStyle) {
-        app::inform(app, "This feature is only available for normal non-invoice style databases.");
+        app::inform(app, core::tr("This feature is only available for normal non-invoice style databases."));
         return false;
     }
     if (app.mainFrm.theListView->Name == "searchLV") {
-        app::inform(app, "You cannot globally relace items in a search window, please use the normal view.");
+        app::inform(
+            app,
+            core::tr("You cannot globally relace items in a search window, please use the normal view."));
         return false;
     }
     return true;

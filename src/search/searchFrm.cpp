@@ -3,6 +3,7 @@
 #include "calc/selectedTotals.h"
 #include "core/dates.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "search/searchMode.h"
 
 namespace search {
@@ -59,7 +60,7 @@ void searchFrm::List_Click(int group, int entry) {
 
 void searchFrm::Opt_Click(int group, int option) {
     options(group).Value = option;
-    if (list(group).Text().empty()) app::inform(app_, "You must select a field to search by.");
+    if (list(group).Text().empty()) app::inform(app_, core::tr("You must select a field to search by."));
 }
 
 // Nothing here skips the mask, so an automatic slash that is deleted comes straight back. It is wanted
@@ -82,7 +83,7 @@ void searchFrm::SearchText_LostFocus(int index) {
     if (isType(group, ColumnType::Currency)) entry::completeCurrencyText(app_, box);
     if (isType(group, ColumnType::Date) && !core::trim(box.Text).empty() && !isDate(box.Text)) {
         box.Text.clear();
-        app::inform(app_, "You entered an invalid date.");
+        app::inform(app_, core::tr("You entered an invalid date."));
     }
 }
 

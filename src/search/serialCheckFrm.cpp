@@ -1,6 +1,7 @@
 #include "search/serialCheckFrm.h"
 
 #include "app/windowState.h"
+#include "core/translate.h"
 #include "search/manyRecords.h"
 #include "search/searchMode.h"
 
@@ -19,7 +20,9 @@ std::string namesOf(const core::Document& document, const std::vector<const core
         names.append(nameOf(document, *records[i]));
     }
     if (records.size() > mostNames)
-        names.append(" and ").append(std::to_string(records.size() - mostNames)).append(" more");
+        return core::fill(
+            core::tr("%1 and %n more", "%1 and %n more", static_cast<int>(records.size() - mostNames)),
+            {names});
     return names;
 }
 
@@ -27,9 +30,10 @@ std::string namesOf(const core::Document& document, const std::vector<const core
 
 void mnuSerialCheck_Click(app::App& app) {
     if (calc::serialColumns(app.document).empty())
-        app::inform(app,
-                    "No column has serial numbers.  They are an option of Number columns in the database "
-                    "properties.");
+        app::inform(
+            app,
+            core::tr("No column has serial numbers.  They are an option of Number columns in the database "
+                     "properties."));
     else
         app.platform.showForm("serialCheckFrm");
 }
@@ -44,18 +48,19 @@ void serialCheckFrm::List1_Click(int entry) {
     findings_ = calc::checkSerials(document, document.LV.columns[List1.at(static_cast<std::size_t>(entry))]);
     List2.clear();
     for (const auto& repeat : findings_.repeats)
-        List2.push_back(
-            calc::repeatText(repeat).append(": records ").append(namesOf(document, repeat.records)));
+        List2.push_back(core::fill(core::tr("%1: records %2"),
+                                   {calc::repeatText(repeat), namesOf(document, repeat.records)}));
     for (const auto& gap : findings_.gaps) List2.push_back(calc::gapText(gap));
     if (!findings_.unnumbered.empty())
-        List2.push_back("No whole number: records " + namesOf(document, findings_.unnumbered));
+        List2.push_back(
+            core::fill(core::tr("No whole number: records %1"), {namesOf(document, findings_.unnumbered)}));
     selectBtnEnabled = !findings_.repeats.empty();
     if (findings_.isEmpty())
-        Label1 = "Each number is there once.";
+        Label1 = core::tr("Each number is there once.");
     else
-        Label1 = counted(findings_.repeats.size(), "repeat", "repeats")
+        Label1 = core::tr("%n repeat", "%n repeats", static_cast<int>(findings_.repeats.size()))
                      .append(", ")
-                     .append(counted(findings_.gaps.size(), "gap", "gaps"));
+                     .append(core::tr("%n gap", "%n gaps", static_cast<int>(findings_.gaps.size())));
 }
 
 void serialCheckFrm::selectBtn_Click() {

@@ -9,6 +9,7 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "entry/editRecord.h"
 #include "entry/invoiceRecords.h"
 #include "search/searchMode.h"
@@ -28,12 +29,6 @@ namespace {
     throw core::RunTimeError(core::errors::typeMismatch, reason);
 }
 
-std::string inQuotes(std::string_view text) {
-    std::string all = "\"";
-    all.append(text).push_back('"');
-    return all;
-}
-
 bool holdsTexts(const Column& column) {
     return column.isType(ColumnType::Text) || column.isType(ColumnType::Date);
 }
@@ -45,7 +40,7 @@ std::optional<std::string> itemColumnIn(const Document& document, std::string_vi
     for (const std::string_view word : core::split(expression, ' ')) {
         const Column* column = document.LV.columns.find(word);
         if (column != nullptr && items.contains(column->Text))
-            return inQuotes(column->Text).append(" has a value for each item row");
+            return core::fill(core::tr("\"%1\" has a value for each item row"), {column->Text});
     }
     return std::nullopt;
 }
@@ -58,12 +53,14 @@ std::optional<std::string> calculate(App& app, calc::RowCalculator& formulas, It
 } // namespace
 
 std::optional<std::string> whyNotSettable(const Document& document, const Column& column) {
-    const std::string name = inQuotes(column.Text);
-    if (column.isType(ColumnType::Calculation)) return name + " is calculated and takes no value";
+    const std::string& name = column.Text;
+    if (column.isType(ColumnType::Calculation))
+        return core::fill(core::tr("\"%1\" is calculated and takes no value"), {name});
     if (column.isType(ColumnType::Picture))
-        return name + " holds pictures, which are chosen on the layout page";
+        return core::fill(core::tr("\"%1\" holds pictures, which are chosen on the layout page"), {name});
     if (document.bInvoiceStyle && calc::ItemColumns(document).contains(column.Text))
-        return name + " has a value for each item row, which are typed on the layout page";
+        return core::fill(
+            core::tr("\"%1\" has a value for each item row, which are typed on the layout page"), {name});
     return std::nullopt;
 }
 
@@ -88,7 +85,7 @@ void ValueMaker::prepareExpression() {
     const RecordsList& records = app_.document.LV;
     const std::string_view text = core::trim(value_.text);
     if (text.empty()) {
-        fault_ = "There is no expression";
+        fault_ = core::tr("There is no expression");
         return;
     }
     const Column* named = records.columns.find(text);
@@ -96,7 +93,7 @@ void ValueMaker::prepareExpression() {
         copied_ = named;
         fault_ = itemColumnIn(app_.document, text);
     } else if (column_->isType(ColumnType::Date)) {
-        fault_ = "A date is set to a date or to a column of dates, and cannot be worked out";
+        fault_ = core::tr("A date is set to a date or to a column of dates, and cannot be worked out");
     } else if ((fault_ = calc::faultOf(value_.text, records)) == std::nullopt) {
         fault_ = itemColumnIn(app_.document, value_.text);
         if (!fault_) expression_.emplace(value_.text, records);
@@ -108,9 +105,10 @@ std::string ValueMaker::checked(std::string text) const {
     const bool isEmpty = core::trim(text).empty();
     const ColumnType type = column_->type();
     const bool isAmount = type == ColumnType::Currency || type == ColumnType::Number;
-    if (isAmount && !isEmpty && !core::isNumeric(text)) refuse(inQuotes(text).append(" is no number"));
+    if (isAmount && !isEmpty && !core::isNumeric(text))
+        refuse(core::fill(core::tr("\"%1\" is no number"), {text}));
     if (type == ColumnType::Date && !isEmpty && !core::isDate(text, app_.platform.today()))
-        refuse(inQuotes(text).append(" is no date"));
+        refuse(core::fill(core::tr("\"%1\" is no date"), {text}));
     return isEmpty && isAmount ? std::string() : text;
 }
 

@@ -3,6 +3,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 
@@ -25,11 +26,12 @@ std::vector<std::string> settableColumns(const core::Document& document) {
 
 void mnuSetValues_Click(app::App& app) {
     if (settableColumns(app.document).empty())
-        app::inform(app,
-                    "There is no column to set.  Calculation columns are worked out, and pictures and the "
-                    "rows of invoices are entered on the layout page.");
+        app::inform(
+            app,
+            core::tr("There is no column to set.  Calculation columns are worked out, and pictures and the "
+                     "rows of invoices are entered on the layout page."));
     else if (app.document.LV.count() < 2)
-        app::inform(app, "There are no records to set values in.");
+        app::inform(app, core::tr("There are no records to set values in."));
     else
         app.platform.showForm("setValuesFrm");
 }
@@ -99,8 +101,9 @@ void setValuesFrm::show() {
     const std::vector<core::Item*>& records = records_.at(static_cast<std::size_t>(scope));
     if (ListIndex < 0 || records.empty()) return;
     const NewValue wanted = value();
-    Label1 = "Set " + wanted.column;
-    Label1.append(" in ").append(counted(records.size(), "record", "records"));
+    Label1 =
+        core::fill(core::tr("Set %1 in %n record", "Set %1 in %n records", static_cast<int>(records.size())),
+                   {wanted.column});
     ValueMaker maker(app_, wanted);
     // Nobody has to be told that he has typed nothing yet.
     if (maker.fault() && !(bExpression && core::trim(Text1.Text).empty())) Label2 = *maker.fault();
@@ -119,19 +122,17 @@ void setValuesFrm::show() {
 }
 
 void setValuesFrm::tellRefused(const SetOutcome& outcome) {
-    std::string text = "Nothing has been set.  The record \"";
-    text.append(nameOf(app_.document, *outcome.refused)).append("\" would get no value: ");
-    text.append(outcome.reason).append(".");
-    app::warn(app_, text);
+    app::warn(app_, core::fill(core::tr("Nothing has been set.  The record \"%1\" would get no value: %2."),
+                               {nameOf(app_.document, *outcome.refused), outcome.reason}));
 }
 
 // Enter is quickly pressed, before anything has been typed.
 bool setValuesFrm::confirmEmpty(const std::string& column) {
-    std::string question = "Do you want to empty ";
-    question.append(column).append(" in ").append(
-        counted(records_.at(static_cast<std::size_t>(scope)).size(), "record", "records"));
-    question += "?";
-    return app_.platform.msgBox(question, platform::Icon::Question, "Set Values",
+    const std::string question =
+        core::tr("Do you want to empty %1 in %n record?", "Do you want to empty %1 in %n records?",
+                 static_cast<int>(records_.at(static_cast<std::size_t>(scope)).size()));
+    return app_.platform.msgBox(core::fill(question, {column}), platform::Icon::Question,
+                                core::tr("Set Values"),
                                 platform::Buttons::YesNoDefaultNo) == platform::Answer::Yes;
 }
 
@@ -148,12 +149,10 @@ void setValuesFrm::OKButton_Click() {
     }
     unloaded = true;
     if (outcome.uncalculated.empty()) return;
-    std::string text = "The values have been set, but ";
-    text.append(counted(outcome.uncalculated.size(), "record", "records"))
-        .append(" could not be calculated: ")
-        .append(outcome.uncalculated.front().reason)
-        .append(".");
-    app::warn(app_, text);
+    const std::string text = core::tr("The values have been set, but %n record could not be calculated: %1.",
+                                      "The values have been set, but %n records could not be calculated: %1.",
+                                      static_cast<int>(outcome.uncalculated.size()));
+    app::warn(app_, core::fill(text, {outcome.uncalculated.front().reason}));
 }
 
 } // namespace search

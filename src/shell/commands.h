@@ -12,7 +12,7 @@ namespace shell {
 // One command of the main window, for a toolbar button or a menu item.
 struct Command {
     std::string_view key;     // "Save" for a button, "mnuSave" for a menu item
-    std::string_view caption; // menu caption with its mnemonic
+    std::string_view caption; // menu caption with its mnemonic; shown by core::tr(), as the tip is
     std::string_view tip;     // toolbar tip
     std::string_view icon;    // name in the icon family
     bool checkable = false;
@@ -37,7 +37,7 @@ std::span<const std::string_view> buttonMenuKeys(std::string_view buttonKey);
 
 struct Menu {
     std::string_view key;                // "mnuFile"
-    std::string_view caption;            // "&File"
+    std::string_view caption;            // "&File", shown by core::tr()
     std::vector<std::string_view> items; // command keys; "-" is a separator
 };
 std::span<const Menu> menuBar();

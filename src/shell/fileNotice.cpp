@@ -1,6 +1,7 @@
 #include "shell/fileNotice.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
 #include "storage/saveFile.h"
@@ -15,27 +16,33 @@ using app::App;
 namespace {
 
 FileNotice changedNotice(const App& app, const std::string& name) {
-    const std::string text = name + " was changed by somebody else. ";
     if (!storage::hasUnsavedWork(app))
-        return {text + "What is shown here is as it was opened.",
-                {{"Read &Again", storage::readOpenedAgain}, {"Not &Now", storage::acceptForeignState}}};
-    return {text + "It is not what your unsaved work is based on.",
-            {{"Save as Another &File...",
-              [](App& window) { storage::tellReason(window, storage::SaveFile(window, true, false)); }},
-             {"&Overwrite at the Next Save", storage::replaceAtNextSave},
-             {"Read the Other &State", storage::readOpenedAgain}}};
+        return {
+            core::fill(core::tr("%1 was changed by somebody else. What is shown here is as it was opened."),
+                       {name}),
+            {{core::tr("Read &Again"), storage::readOpenedAgain},
+             {core::tr("Not &Now"), storage::acceptForeignState}}};
+    return {
+        core::fill(core::tr("%1 was changed by somebody else. It is not what your unsaved work is based on."),
+                   {name}),
+        {{core::tr("Save as Another &File..."),
+          [](App& window) { storage::tellReason(window, storage::SaveFile(window, true, false)); }},
+         {core::tr("&Overwrite at the Next Save"), storage::replaceAtNextSave},
+         {core::tr("Read the Other &State"), storage::readOpenedAgain}}};
 }
 
 FileNotice goneNotice(const std::string& name) {
-    return {name + " is no longer there. It may have been renamed or deleted.",
-            {{"&Write It Again", storage::writeOpenedAgain}, {"Not &Now", storage::acceptForeignState}}};
+    return {core::fill(core::tr("%1 is no longer there. It may have been renamed or deleted."), {name}),
+            {{core::tr("&Write It Again"), storage::writeOpenedAgain},
+             {core::tr("Not &Now"), storage::acceptForeignState}}};
 }
 
 FileNotice notKeptNotice(const App& app) {
     const bool isFull = storage::unsavedWork(app).keepFailure == core::errors::diskFull;
-    return {std::string("Unsaved work could not be kept for the case of a crash") +
-                (isFull ? ", because the disk is full" : "") + ". Please save soon.",
-            {{"Not &Now", [](App& window) { storage::unsavedWork(window).isFailureTold = true; }}}};
+    return {isFull ? core::tr("Unsaved work could not be kept for the case of a crash, because the disk is "
+                              "full. Please save soon.")
+                   : core::tr("Unsaved work could not be kept for the case of a crash. Please save soon."),
+            {{core::tr("Not &Now"), [](App& window) { storage::unsavedWork(window).isFailureTold = true; }}}};
 }
 
 } // namespace

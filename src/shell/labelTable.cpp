@@ -1,6 +1,7 @@
 #include "shell/labelTable.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/fileHandle.h"
 #include "labels/labelFrm.h"
 #include "lock/designLock.h"
@@ -24,9 +25,10 @@ std::vector<labels::LabelStock> installedLabelStocks() {
 void labelWizard(app::App& app) {
     if (lock::isDesignLocked(app) || !print::hasPrinter(app)) return;
     if (app.document.bInvoiceStyle) {
-        app::inform(app,
-                    "Labels are made of the records of a list.  Invoices print one to a page: use Print on "
-                    "the Layout tab.");
+        app::inform(
+            app,
+            core::tr("Labels are made of the records of a list.  Invoices print one to a page: use Print on "
+                     "the Layout tab."));
         return;
     }
     if (app.mainFrm.SSTab1 != app::reportTab) SSTab1_Click(app, app::reportTab);
@@ -36,7 +38,8 @@ void labelWizard(app::App& app) {
         try {
             opening.stocks = installedLabelStocks();
         } catch (const core::RunTimeError& error) {
-            app::warn(app, std::string("The table of label sheets cannot be read: ") + error.what());
+            app::warn(app,
+                      core::fill(core::tr("The table of label sheets cannot be read: %1"), {error.what()}));
         }
     }
     app.platform.showForm("labelFrm");

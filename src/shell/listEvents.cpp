@@ -1,5 +1,6 @@
 #include "shell/listEvents.h"
 
+#include "core/translate.h"
 #include "shell/mainWindow.h"
 
 #include <algorithm>
@@ -28,7 +29,9 @@ bool canBeTypedIn(const Column& column) {
 void showEntryForm(App& app) {
     const core::ColumnHeaders& columns = app.document.LV.columns;
     if (columns.count() < 2) {
-        app::inform(app, "Your database has no columns, please add some in the database properties dialog.");
+        app::inform(
+            app,
+            core::tr("Your database has no columns, please add some in the database properties dialog."));
         return;
     }
     if (std::ranges::any_of(columns, canBeTypedIn)) app.platform.showForm("entryFrm");

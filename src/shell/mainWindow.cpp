@@ -1,5 +1,6 @@
 #include "shell/mainWindow.h"
 
+#include "core/translate.h"
 #include "invoice/views.h"
 #include "layout/sheet.h"
 #include "print/previewNavigation.h"
@@ -22,10 +23,10 @@ using core::RecordsList;
 namespace {
 
 void showStartTexts(App& app) {
-    app.mainFrm.panels[app::calculationPanel] = "Calculation Status:";
-    app.mainFrm.panels[app::fileSizePanel] = "Filesize:";
-    app.mainFrm.panels[app::documentPanel] = "No Open Document";
-    app.mainFrm.panels[app::stylePanel] = "Database Style:";
+    app.mainFrm.panels[app::calculationPanel] = core::tr("Calculation Status:");
+    app.mainFrm.panels[app::fileSizePanel] = core::tr("Filesize:");
+    app.mainFrm.panels[app::documentPanel] = core::tr("No Open Document");
+    app.mainFrm.panels[app::stylePanel] = core::tr("Database Style:");
     app::showCaption(app);
 }
 
@@ -87,8 +88,9 @@ void Form_QueryUnload(App& app) {
     writeSettings(app);
     bool bGivenUp = app.document.bModified && !app.mainFrm.bSavePrompt; // the user does not want to be asked
     if (app.document.bModified && app.mainFrm.bSavePrompt) {
-        const platform::Answer answer = app.platform.msgBox(
-            "Save current document?", platform::Icon::Question, app::title, platform::Buttons::YesNo);
+        const platform::Answer answer =
+            app.platform.msgBox(core::tr("Save current document?"), platform::Icon::Question, app::title,
+                                platform::Buttons::YesNo);
         bGivenUp = answer == platform::Answer::No;
         if (!bGivenUp) storage::tellReason(app, storage::SaveFile(app, false, false));
     }

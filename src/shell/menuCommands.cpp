@@ -1,6 +1,7 @@
 #include "shell/menuCommands.h"
 
 #include "app/windowState.h"
+#include "core/translate.h"
 #include "layout/layoutPage.h"
 #include "layout/sheet.h"
 #include "lock/designLock.h"
@@ -79,7 +80,7 @@ void openHelpPage(App& app, std::string_view page) {
     if (const auto file = platform::programFile(page))
         app.platform.openLink(file->string());
     else
-        app::inform(app, "The help pages are not installed.");
+        app::inform(app, core::tr("The help pages are not installed."));
 }
 } // namespace
 
@@ -108,10 +109,11 @@ void openHelp(App& app) {
 }
 
 void showAbout(App& app) {
-    const std::string text = std::string(app::title) + "\nVersion " + FERROWICK_VERSION +
-                             "\n\nA small database of your own, without learning one.\n"
-                             "Free software under the MIT licence. It comes with no warranty.";
-    app.platform.msgBox(text, platform::Icon::Information, std::string("About ") + app::title);
+    const std::string text =
+        core::fill(core::tr("%1\nVersion %2\n\nA small database of your own, without learning one.\n"
+                            "Free software under the MIT licence. It comes with no warranty."),
+                   {app::title, FERROWICK_VERSION});
+    app.platform.msgBox(text, platform::Icon::Information, core::fill(core::tr("About %1"), {app::title}));
 }
 
 void visitHomepage(App& app) {

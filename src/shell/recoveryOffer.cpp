@@ -1,6 +1,7 @@
 #include "shell/recoveryOffer.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "entry/entryFrm.h"
 #include "entry/navBar.h"
 #include "file/archive/zip.h"
@@ -52,11 +53,13 @@ std::string timeText(std::int64_t seconds) {
 }
 
 std::string offerText(const RecoveryNote& note) {
-    std::string text = "This work was never saved. It can be restored.\n\nFile: " +
-                       (note.file.empty() ? "(none yet)" : note.file) + "\nTime: " + timeText(note.time) +
-                       "\nRecords: " + std::to_string(note.records);
-    if (isChangedSince(note)) text += "\n\nThe file itself was changed after that work was begun.";
-    return text + "\n\nWhat is restored is not saved until you save it.";
+    std::string text = core::fill(
+        core::tr("This work was never saved. It can be restored.\n\nFile: %1\nTime: %2\nRecords: %3"),
+        {note.file.empty() ? core::tr("(none yet)") : note.file, timeText(note.time),
+         std::to_string(note.records)});
+    if (isChangedSince(note))
+        text.append("\n\n").append(core::tr("The file itself was changed after that work was begun."));
+    return text.append("\n\n").append(core::tr("What is restored is not saved until you save it."));
 }
 
 // A new archive of the records, with the pictures of the file that they belong to.
@@ -82,14 +85,15 @@ bool writeAsFile(App& app, const RecoveryCopy& copy, const std::string& target) 
 
 bool lookAtCopy(App& app, const RecoveryCopy& copy) {
     const std::string stem = fs::path(copy.note.file).stem().string();
-    const std::optional<std::string> target =
-        app.platform.showSave({"Save the Copy As...", (stem.empty() ? "Untitled" : stem) + " (recovered).fwk",
-                               std::string(platform::databaseFilter)});
+    const std::optional<std::string> target = app.platform.showSave(
+        {core::tr("Save the Copy As..."),
+         core::fill(core::tr("%1 (recovered).fwk"), {stem.empty() ? core::tr("Untitled") : stem}),
+         core::tr(platform::databaseFilter)});
     if (!target) return false;
     try {
         if (!writeAsFile(app, copy, *target)) return false;
     } catch (const core::RunTimeError& error) {
-        app::warn(app, *target + " could not be written: " + error.what());
+        app::warn(app, core::fill(core::tr("%1 could not be written: %2"), {*target, error.what()}));
         return false;
     }
     openNamedFile(app, *target);
@@ -139,7 +143,8 @@ bool restore(App& app, RecoveryCopy& copy) {
                                           // is asked for
     }
     if (!isArchive(note.file)) {
-        app::inform(app, "The file itself cannot be opened. Please choose a place for the restored one.");
+        app::inform(
+            app, core::tr("The file itself cannot be opened. Please choose a place for the restored one."));
         return lookAtCopy(app, copy);
     }
     const bool isForeign = isThere && isChangedSince(note);
@@ -155,8 +160,9 @@ bool restore(App& app, RecoveryCopy& copy) {
 // False when no more is to be offered now.
 bool offer(App& app, RecoveryCopy& copy) {
     const fs::path archive = copy.archive;
-    switch (app.platform.choose(offerText(copy.note), "Restore Unsaved Work",
-                                {"&Restore", "&Look at a Copy...", "&Discard"})) {
+    switch (
+        app.platform.choose(offerText(copy.note), core::tr("Restore Unsaved Work"),
+                            {core::tr("&Restore"), core::tr("&Look at a Copy..."), core::tr("&Discard")})) {
     case 0:
         return !restore(app, copy);
     case 1:

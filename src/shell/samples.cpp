@@ -1,6 +1,7 @@
 #include "shell/samples.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/atomicFile.h"
 #include "file/fileHandle.h"
 #include "platform/programFiles.h"
@@ -25,11 +26,13 @@ struct Offer {
 };
 
 constexpr std::array<Offer, 5> offers = {{
-    {"library.fwk", "Library", "Books with their covers", "sampleLibrary"},
-    {"addresses.fwk", "Address book", "Address labels, many to a page", "sampleAddresses"},
-    {"garden.fwk", "Garden", "Plants with photos and costs", "sampleGarden"},
-    {"inventory.fwk", "Inventory", "Calculated values and totals", "sampleInventory"},
-    {"invoices.fwk", "Invoices", "Item rows, tax and sums", "sampleInvoices"},
+    {"library.fwk", core::marked("Library"), core::marked("Books with their covers"), "sampleLibrary"},
+    {"addresses.fwk", core::marked("Address book"), core::marked("Address labels, many to a page"),
+     "sampleAddresses"},
+    {"garden.fwk", core::marked("Garden"), core::marked("Plants with photos and costs"), "sampleGarden"},
+    {"inventory.fwk", core::marked("Inventory"), core::marked("Calculated values and totals"),
+     "sampleInventory"},
+    {"invoices.fwk", core::marked("Invoices"), core::marked("Item rows, tax and sums"), "sampleInvoices"},
 }};
 
 // The new file belongs to the user, whatever the permissions of the installed one.
@@ -59,7 +62,8 @@ std::vector<Sample> samplesIn(const fs::path& folder) {
     std::error_code error;
     for (const Offer& offer : offers)
         if (fs::is_regular_file(folder / offer.file, error))
-            samples.push_back({folder / offer.file, offer.name, offer.shows, offer.picture});
+            samples.push_back(
+                {folder / offer.file, core::tr(offer.name), core::tr(offer.shows), offer.picture});
     return samples;
 }
 
@@ -78,11 +82,12 @@ void openSample(app::App& app, const Sample& sample, const fs::path& documents) 
             copyFile(sample.file, copy);
         }
     } catch (const core::RunTimeError& error) {
-        app::warn(app, "The sample could not be copied to " + folder.string() + ": " + error.what());
+        app::warn(app, core::fill(core::tr("The sample could not be copied to %1: %2"),
+                                  {folder.string(), error.what()}));
         return;
     } catch (const fs::filesystem_error& error) {
-        app::warn(app,
-                  "The sample could not be copied to " + folder.string() + ": " + error.code().message());
+        app::warn(app, core::fill(core::tr("The sample could not be copied to %1: %2"),
+                                  {folder.string(), error.code().message()}));
         return;
     }
     openNamedFile(app, copy.string());

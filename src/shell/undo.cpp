@@ -2,6 +2,7 @@
 
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "entry/navBar.h"
 #include "entry/retrieveData.h"
 #include "entry/shownRecord.h"
@@ -44,18 +45,18 @@ History& historyOf(const App& app) {
 // What changes records is better named after the command than after what came of it.
 std::string_view nameOfCommand(std::string_view key) {
     static constexpr std::array<std::array<std::string_view, 2>, 12> names = {{
-        {"mnuDuplicate", "Duplicate Record"},
-        {"mnuReplace", "Find And Replace"},
-        {"mnuPaste", "Paste"},
-        {"mnuImportTable", "Import"},
-        {"mnuCut", "Cut"},
-        {"mnuSetValues", "Set Values"},
-        {"mnuMakeCode", "Make Code"},
-        {"mnuDuplicates", "Delete Duplicates"},
-        {"mnuVersions", "Restore Version"},
-        {"mnuSerialAdjust", "Adjust Serial Number"},
-        {"mnuCleanDatabase", "Clean Database"},
-        {"mnuLabels", "Label Wizard"},
+        {"mnuDuplicate", core::marked("Duplicate Record")},
+        {"mnuReplace", core::marked("Find And Replace")},
+        {"mnuPaste", core::marked("Paste")},
+        {"mnuImportTable", core::marked("Import")},
+        {"mnuCut", core::marked("Cut")},
+        {"mnuSetValues", core::marked("Set Values")},
+        {"mnuMakeCode", core::marked("Make Code")},
+        {"mnuDuplicates", core::marked("Delete Duplicates")},
+        {"mnuVersions", core::marked("Restore Version")},
+        {"mnuSerialAdjust", core::marked("Adjust Serial Number")},
+        {"mnuCleanDatabase", core::marked("Clean Database")},
+        {"mnuLabels", core::marked("Label Wizard")},
     }};
     const auto* found = std::ranges::find(names, key, [](const auto& name) { return name[0]; });
     return found == names.end() ? std::string_view() : (*found)[1];
@@ -67,16 +68,15 @@ bool isHalfWay(const App& app) {
     return page.drag != layout::LayoutPage::Drag::None || page.bEditingLabel;
 }
 
-void show(App& app, const char* key, const char* verb, const history::Step* step) {
+void show(App& app, const char* key, const char* verb, const char* verbOfStep, const history::Step* step) {
     app::Control& control = app.mainFrm.control(key);
     control.Enabled = step != nullptr;
-    control.Caption = verb;
-    if (step != nullptr) control.Caption.append(" ").append(step->name);
+    control.Caption = step == nullptr ? core::tr(verb) : core::fill(core::tr(verbOfStep), {step->name});
 }
 
 void showSteps(App& app) {
-    show(app, "mnuUndo", "&Undo", historyOf(app).stack.undone());
-    show(app, "mnuRedo", "&Redo", historyOf(app).stack.redone());
+    show(app, "mnuUndo", core::marked("&Undo"), core::marked("&Undo %1"), historyOf(app).stack.undone());
+    show(app, "mnuRedo", core::marked("&Redo"), core::marked("&Redo %1"), historyOf(app).stack.redone());
 }
 
 void settle(App& app) {
@@ -88,7 +88,7 @@ void settle(App& app) {
     history.stack.settle(
         app.document, std::exchange(history.bRecords, false), [&](const history::Step& step) {
             const std::string_view command = nameOfCommand(history.command);
-            return command.empty() ? history::nameOf(step, history.stack) : std::string(command);
+            return command.empty() ? history::nameOf(step, history.stack) : core::tr(command);
         });
 }
 
@@ -218,7 +218,7 @@ void go(App& app, bool bBack) {
         else
             stack.redo(app.document, swap);
     } catch (const core::RunTimeError& error) {
-        app::warn(app, std::string("A picture could not be put back: ") + error.what());
+        app::warn(app, core::fill(core::tr("A picture could not be put back: %1"), {error.what()}));
         return;
     }
     const bool bColumns = stack.designPart() != design;

@@ -1,6 +1,7 @@
 #include "storage/backgroundWriter.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <cerrno>
 #include <csignal>
@@ -36,7 +37,8 @@ void closeInherited() {
     closeInherited();
     for (const int number : {SIGTERM, SIGHUP, SIGINT, SIGALRM, SIGPIPE}) std::signal(number, SIG_DFL);
     ::alarm(longestSeconds);
-    (void)!::nice(10); // the window goes first
+    (void)!::nice(10);      // the window goes first
+    core::setCatalogue({}); // the window's, and of no use here: a failure is told by its number
     int code = EXIT_SUCCESS;
     try {
         work();

@@ -3,6 +3,7 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/archive/zip.h"
 #include "file/workFiles.h"
 #include "invoice/views.h"
@@ -29,14 +30,16 @@ std::optional<std::string> askForName(App& app) {
     app.platform.showForm("databaseTypeFrm");
     if (!app.mainFrm.bDatabaseTypeChosen) return std::nullopt;
     // An open dialog, not a save dialog: the name need not exist.
-    return app.platform.showNew({"Specify Name For New Database", "", std::string(platform::databaseFilter)});
+    return app.platform.showNew(
+        {core::tr("Specify Name For New Database"), "", core::tr(platform::databaseFilter)});
 }
 
 void offerToSave(App& app) {
     const std::string& currentFile = app.document.currentFile;
     if (currentFile.empty() || !app.document.bModified) return;
-    const platform::Answer answer = app.platform.msgBox(
-        "Save current file " + currentFile + "?", platform::Icon::None, app::title, platform::Buttons::YesNo);
+    const platform::Answer answer =
+        app.platform.msgBox(core::fill(core::tr("Save current file %1?"), {currentFile}),
+                            platform::Icon::None, app::title, platform::Buttons::YesNo);
     if (answer != platform::Answer::No)
         tellReason(app, SaveFile(app, false, false));
     else
@@ -62,7 +65,8 @@ void make(App& app, const std::string& path, bool bStartUp) {
     offerToSave(app);
     clearDocument(app);
     if (path.empty()) return;
-    if (file::fileExists(path) && !app::askYesNo(app, "Overwrite Existing File?", platform::Icon::Critical)) {
+    if (file::fileExists(path) &&
+        !app::askYesNo(app, core::tr("Overwrite Existing File?"), platform::Icon::Critical)) {
         // The document is cleared already, and currentFile still names the old file. It is wanted so.
         if (bStartUp) app::enableControls(app, false);
         return;
@@ -102,7 +106,7 @@ void finishNewDatabase(App& app) {
     document.reportData.reportPaperSize = paper;
     document.iLastKey = 0;
     app.mainFrm.panels[app::stylePanel] =
-        document.bInvoiceStyle ? "Database Style: Invoice" : "Database Style: Standard";
+        document.bInvoiceStyle ? core::tr("Database Style: Invoice") : core::tr("Database Style: Standard");
     document.iLV.Visible = document.bInvoiceStyle;
     document.bInvoiceView = false;
     app.mainFrm.viewOpt = 1;

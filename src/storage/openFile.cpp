@@ -3,6 +3,7 @@
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/archive/zip.h"
 #include "file/dataReader.h"
 #include "file/workFiles.h"
@@ -28,7 +29,7 @@ std::optional<std::string> chooseFile(App& app, bool StartUp) {
     std::string path = app.document.currentFile;
     if (!StartUp) {
         const std::optional<std::string> chosen =
-            app.platform.showOpen({"Open Database", "", std::string(platform::databaseFilter)});
+            app.platform.showOpen({core::tr("Open Database"), "", core::tr(platform::databaseFilter)});
         if (!chosen) {
             if (app.document.currentFile.empty()) app::enableControls(app, false);
             return std::nullopt;
@@ -36,7 +37,8 @@ std::optional<std::string> chooseFile(App& app, bool StartUp) {
         path = *chosen;
     }
     if (file::fileExists(path)) return path;
-    app::inform(app, StartUp ? "Previously opened file could not be found." : "File does not exist!");
+    app::inform(app, StartUp ? core::tr("Previously opened file could not be found.")
+                             : core::tr("File does not exist!"));
     app.document.currentFile.clear();
     return std::nullopt;
 }
@@ -85,9 +87,9 @@ void showOpened(App& app, bool StartUp) {
     if (!document.LV.empty() && document.LV.selectedItem() == nullptr)
         document.LV.setSelectedItem(&document.LV.at(1));
     calc::list_Click(app, document.LV);
-    mainFrm.panels[app::documentPanel] = "Document Opened";
+    mainFrm.panels[app::documentPanel] = core::tr("Document Opened");
     mainFrm.panels[app::stylePanel] =
-        document.bInvoiceStyle ? "Database Style: Invoice" : "Database Style: Standard";
+        document.bInvoiceStyle ? core::tr("Database Style: Invoice") : core::tr("Database Style: Standard");
     app::showFileSize(app);
     showInvoiceLists(app);
     alignFields(document);
@@ -198,7 +200,7 @@ void openFrom(App& app, const std::string& path, const std::string& archive, boo
     app.changes.announce(app, app::Change::Begun);
     // Of what was given up nothing is unsaved here any more, though the told flag stays as it was.
     app.changes.announce(app, app::Change::Opened);
-    if (!fault.empty()) app::warn(app, path + " could not be opened:\n" + fault);
+    if (!fault.empty()) app::warn(app, core::fill(core::tr("%1 could not be opened:\n%2"), {path, fault}));
 }
 
 } // namespace

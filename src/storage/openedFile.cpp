@@ -2,6 +2,7 @@
 
 #include "app/windowState.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/archive/zip.h"
 #include "file/dataWriter.h"
 #include "storage/openFile.h"
@@ -36,12 +37,14 @@ bool isFree(const WriterLock::Outcome& outcome) {
 
 std::string whoHolds(const std::string& path, const WriterLock::Outcome& outcome) {
     if (outcome.result == WriterLock::Result::Obstructed)
-        return nameOf(path) + " cannot be locked: " + outcome.path.string() + " is in the way.";
-    std::string text = nameOf(path) + " is open elsewhere";
-    if (outcome.owner.isKnown()) text += ", by " + outcome.owner.text();
-    text += ".";
+        return core::fill(core::tr("%1 cannot be locked: %2 is in the way."),
+                          {nameOf(path), outcome.path.string()});
+    std::string text =
+        outcome.owner.isKnown()
+            ? core::fill(core::tr("%1 is open elsewhere, by %2."), {nameOf(path), outcome.owner.text()})
+            : core::fill(core::tr("%1 is open elsewhere."), {nameOf(path)});
     if (outcome.result == WriterLock::Result::HeldElsewhere)
-        text += "\nWhether it still is cannot be told from this machine.";
+        text.append("\n").append(core::tr("Whether it still is cannot be told from this machine."));
     return text;
 }
 
@@ -57,7 +60,8 @@ std::optional<WriterLock::Outcome> tryLock(const std::string& path,
 
 std::optional<std::string> openCopyOf(App& app, const std::string& path) {
     const std::optional<std::string> target = app.platform.showSave(
-        {"Open a Copy As...", "Copy of " + nameOf(path), std::string(platform::databaseFilter)});
+        {core::tr("Open a Copy As..."), core::fill(core::tr("Copy of %1"), {nameOf(path)}),
+         core::tr(platform::databaseFilter)});
     if (!target || *target == path) return std::nullopt;
     try {
         const bool isWritten = writeNewFile(app, *target, [&] {
@@ -67,7 +71,7 @@ std::optional<std::string> openCopyOf(App& app, const std::string& path) {
         });
         if (!isWritten) return std::nullopt;
     } catch (const core::RunTimeError& error) {
-        app::warn(app, *target + " could not be written: " + error.what());
+        app::warn(app, core::fill(core::tr("%1 could not be written: %2"), {*target, error.what()}));
         return std::nullopt;
     }
     return guardOpening(app, *target);
@@ -127,8 +131,9 @@ std::optional<std::string> guardOpening(App& app, const std::string& path) {
     opened.next->lock = std::move(outcome->lock);
     if (isFree(*outcome)) return path;
     const int answer = app.platform.choose(
-        whoHolds(path, *outcome) + "\n\nWhat is saved here could overwrite what is saved there.", app::title,
-        {"Open to &Read Only", "Open a &Copy...", "Open &Anyway"});
+        whoHolds(path, *outcome) + "\n\n" +
+            core::tr("What is saved here could overwrite what is saved there."),
+        app::title, {core::tr("Open to &Read Only"), core::tr("Open a &Copy..."), core::tr("Open &Anyway")});
     if (answer == 0) {
         opened.next->bReadOnly = true;
         return path;
@@ -164,12 +169,15 @@ SaveWay waySaveOver(App& app) {
         // A file that has gone is told by the save itself.
         const bool isForeign = opened.isForeign || changeOfOpened(app) == FileState::Change::Changed;
         if (opened.mayReplace || !isForeign) return SaveWay::Save;
-        question = nameOf(opened.path) + " was changed by somebody else since it was opened here.";
+        question = core::fill(core::tr("%1 was changed by somebody else since it was opened here."),
+                              {nameOf(opened.path)});
     }
     const int answer = app.platform.choose(
-        question + "\n\nTo overwrite it loses what they have changed. To read their state keeps yours for "
-                   "recovery.",
-        app::title, {"&Save as Another File...", "&Overwrite", "&Read the Other State"});
+        question + "\n\n" +
+            core::tr("To overwrite it loses what they have changed. To read their state keeps yours for "
+                     "recovery."),
+        app::title,
+        {core::tr("&Save as Another File..."), core::tr("&Overwrite"), core::tr("&Read the Other State")});
     if (answer == 1 && opened.lock && !opened.lock->isStillHeld()) opened.lock.reset(); // he knows
     if (answer == 2) readOpenedAgain(app);
     return answer == 0 ? SaveWay::SaveAs : answer == 1 ? SaveWay::Save : SaveWay::None;
@@ -188,7 +196,7 @@ bool guardTarget(App& app, const std::string& target) {
     opened.next->lock = std::move(outcome->lock);
     opened.next->bReadOnly = false;
     if (isFree(*outcome)) return true;
-    if (app.platform.choose(whoHolds(target, *outcome), app::title, {"&Overwrite It Anyway"}) == 0)
+    if (app.platform.choose(whoHolds(target, *outcome), app::title, {core::tr("&Overwrite It Anyway")}) == 0)
         return true;
     opened.next.reset();
     return false;

@@ -1,6 +1,7 @@
 #include "storage/saveFile.h"
 
 #include "app/windowState.h"
+#include "core/translate.h"
 #include "file/archive/checksum.h"
 #include "file/archive/zip.h"
 #include "file/dataWriter.h"
@@ -38,7 +39,7 @@ void packCopy(App& app, const std::string& target, const std::string& bytes) {
 
 void packClone(App& app, const std::string& bytes) {
     const std::optional<std::string> target = app.platform.showSave(
-        {"Clone current file to...", "Clone1.fwk", std::string(platform::databaseFilter)});
+        {core::tr("Clone current file to..."), core::tr("Clone1.fwk"), core::tr(platform::databaseFilter)});
     if (target) (void)writeNewFile(app, *target, [&] { packAlone(app, *target, bytes); });
 }
 
@@ -69,7 +70,8 @@ std::optional<core::RunTimeError> SaveFile(App& app, bool bSaveAs, bool bClone) 
     const SaveWay way = bSaveAs ? SaveWay::SaveAs : bClone ? SaveWay::Save : waySave(app);
     if (way == SaveWay::None) return std::nullopt;
     if (way == SaveWay::SaveAs) {
-        target = app.platform.showSave({"Save As...", "Untitled.fwk", std::string(platform::databaseFilter)});
+        target = app.platform.showSave(
+            {core::tr("Save As..."), core::tr("Untitled.fwk"), core::tr(platform::databaseFilter)});
         if (!target) return std::nullopt;
         if (*target == app.document.currentFile) {
             if (!guardTarget(app, *target) || waySaveOver(app) != SaveWay::Save) return std::nullopt;

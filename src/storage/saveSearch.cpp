@@ -1,6 +1,7 @@
 #include "storage/saveSearch.h"
 
 #include "core/number.h"
+#include "core/translate.h"
 #include "file/dataWriter.h"
 #include "storage/saveSteps.h"
 
@@ -53,14 +54,16 @@ void writeAndPack(App& app, const std::string& target) {
 } // namespace
 
 std::optional<core::RunTimeError> saveSearchResults(App& app) {
-    const std::optional<std::string> target = app.platform.showSave(
-        {"Save As...", "Untitled Search Results.fwk", std::string(platform::databaseFilter)});
+    const std::optional<std::string> target =
+        app.platform.showSave({core::tr("Save As..."), core::tr("Untitled Search Results.fwk"),
+                               core::tr(platform::databaseFilter)});
     if (!target) return std::nullopt;
     std::error_code none; // the file may have another name
     if (*target == app.document.currentFile ||
         std::filesystem::equivalent(*target, app.document.currentFile, none)) {
-        app::inform(app, "You cannot save your search results to a file named the same as the one that is "
-                         "currently open.");
+        app::inform(
+            app, core::tr("You cannot save your search results to a file named the same as the one that is "
+                          "currently open."));
         return std::nullopt;
     }
     try {

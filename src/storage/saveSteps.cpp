@@ -1,5 +1,6 @@
 #include "storage/saveSteps.h"
 
+#include "core/translate.h"
 #include "file/workFiles.h"
 #include "storage/openedFile.h"
 #include "storage/versions.h"
@@ -12,12 +13,12 @@ namespace {
 
 constexpr const char* dataFile = "data.dat";
 constexpr const char* dataComment = "Main Data File";
-constexpr const char* overwriteQuestion = "Overwrite Existing File?";
+constexpr const char* overwriteQuestion = core::marked("Overwrite Existing File?");
 
 } // namespace
 
 bool mayWriteTo(App& app, const std::string& target) {
-    return !file::fileExists(target) || app::askYesNo(app, overwriteQuestion, platform::Icon::None);
+    return !file::fileExists(target) || app::askYesNo(app, core::tr(overwriteQuestion), platform::Icon::None);
 }
 
 bool writeNewFile(App& app, const std::string& target, const std::function<void()>& write) {
@@ -52,20 +53,24 @@ core::RunTimeError tellFailure(App& app, bool bSaveAs, const std::exception& err
     const auto* known = dynamic_cast<const core::RunTimeError*>(&error);
     const int number = known == nullptr ? 0 : known->number;
     if (bSaveAs && number == core::errors::diskNotReady)
-        app::warn(app,
-                  "  Please insert your working source disk or device that you have been saving to up "
-                  "until now.  Ferrowick needs this before it can perform the 'save as' operation to the "
-                  "other location you specified.  Once you have inserted the disk or device you can try "
-                  "'save as' again.");
+        app::warn(
+            app,
+            core::tr("  Please insert your working source disk or device that you have been saving to up "
+                     "until now.  Ferrowick needs this before it can perform the 'save as' operation to the "
+                     "other location you specified.  Once you have inserted the disk or device you can try "
+                     "'save as' again."));
     else
-        app::warn(app,
-                  "There was an error writing to the file.  If saving to removable media, please make sure "
-                  "that the disk is inserted properly, or that the device is plugged in.");
+        app::warn(
+            app,
+            core::tr(
+                "There was an error writing to the file.  If saving to removable media, please make sure "
+                "that the disk is inserted properly, or that the device is plugged in."));
     return {number, error.what()};
 }
 
 void tellReason(App& app, const std::optional<core::RunTimeError>& error) {
-    if (error) app::warn(app, std::string("It could not be written for this reason:\n") + error->what());
+    if (error)
+        app::warn(app, core::fill(core::tr("It could not be written for this reason:\n%1"), {error->what()}));
 }
 
 } // namespace storage

@@ -3,6 +3,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <cstring>
@@ -31,7 +32,7 @@ void note(App& app, std::string text) {
 
 void noteFailure(App& app, const std::string& reason) {
     if (std::exchange(app.rooms.of<VersionState>().isToldAlready, true)) return;
-    note(app, "No version kept: " + reason);
+    note(app, core::fill(core::tr("No version kept: %1"), {reason}));
 }
 
 } // namespace
@@ -83,9 +84,8 @@ void noteRecords(App& app, std::uint32_t textChecksum) {
 
 void noteUnsynced(App& app, const file::Zip& Zip, const std::string& file) {
     if (Zip.folderError() == 0) return;
-    std::string text = "Written, but the folder of ";
-    text.append(file).append(" could not be synced to the disk: ").append(std::strerror(Zip.folderError()));
-    note(app, std::move(text));
+    note(app, core::fill(core::tr("Written, but the folder of %1 could not be synced to the disk: %2"),
+                         {file, std::strerror(Zip.folderError())}));
 }
 
 std::string takeNoted(App& app) {

@@ -5,6 +5,7 @@
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "file/dataReader.h"
 #include "storage/openFile.h"
 #include "storage/recoveryCopies.h"
@@ -53,8 +54,8 @@ versionsFrm::versionsFrm(app::App& app) : app_(app) {
         }
         List1.push_back(std::move(entry));
     }
-    Label1 = versions_.empty() ? "No version of this database has been kept yet."
-                               : "Earlier states of this database:";
+    Label1 = versions_.empty() ? core::tr("No version of this database has been kept yet.")
+                               : core::tr("Earlier states of this database:");
     if (!versions_.empty()) selected = 0;
     enableButtons();
 }
@@ -82,25 +83,26 @@ void versionsFrm::showBtn_Click() {
     try {
         shown = read(versions_[static_cast<std::size_t>(selected)]);
     } catch (const core::RunTimeError& error) {
-        app::warn(app_, std::string("The version cannot be read: ") + error.what());
+        app::warn(app_, core::fill(core::tr("The version cannot be read: %1"), {error.what()}));
     }
 }
 
 void versionsFrm::restoreBtn_Click() {
     if (!restoreBtnEnabled) return;
     if (app_.mainFrm.bReadOnly) {
-        app::inform(app_, "The database is open to read only.  Save a copy of the version instead.");
+        app::inform(app_,
+                    core::tr("The database is open to read only.  Save a copy of the version instead."));
         return;
     }
     if ((app_.document.bModified || hasUnsavedWork(app_)) &&
-        app_.platform.msgBox("What has not been saved yet will be lost.  Restore the version all the same?",
-                             platform::Icon::Question, app::title,
-                             platform::Buttons::YesNoDefaultNo) != platform::Answer::Yes)
+        app_.platform.msgBox(
+            core::tr("What has not been saved yet will be lost.  Restore the version all the same?"),
+            platform::Icon::Question, app::title, platform::Buttons::YesNoDefaultNo) != platform::Answer::Yes)
         return;
     try {
         restore(versions_[static_cast<std::size_t>(selected)]);
     } catch (const core::RunTimeError& error) {
-        app::warn(app_, std::string("The version could not be restored: ") + error.what());
+        app::warn(app_, core::fill(core::tr("The version could not be restored: %1"), {error.what()}));
     }
 }
 
@@ -128,14 +130,15 @@ void versionsFrm::copyBtn_Click() {
     if (!copyBtnEnabled) return;
     const file::Version& version = versions_[static_cast<std::size_t>(selected)];
     const std::string& file = app_.document.currentFile;
-    const std::string proposed = std::filesystem::path(file).stem().string() + " of " +
-                                 timeText(version.saved, "%Y-%m-%d %H.%M.%S") + ".fwk";
+    const std::string proposed =
+        core::fill(core::tr("%1 of %2.fwk"), {std::filesystem::path(file).stem().string(),
+                                              timeText(version.saved, "%Y-%m-%d %H.%M.%S")});
     const auto target =
-        app_.platform.showSave({"Save a Copy...", proposed, std::string(platform::databaseFilter)});
+        app_.platform.showSave({core::tr("Save a Copy..."), proposed, core::tr(platform::databaseFilter)});
     if (!target) return;
     std::error_code error;
     if (*target == file || std::filesystem::equivalent(*target, file, error)) {
-        app::inform(app_, "The copy cannot take the place of the database that is open.");
+        app::inform(app_, core::tr("The copy cannot take the place of the database that is open."));
         return;
     }
     std::vector<std::string> missing;
@@ -149,7 +152,7 @@ void versionsFrm::copyBtn_Click() {
         });
         if (isWritten) tellMissing(missing);
     } catch (const core::RunTimeError& failure) {
-        app::warn(app_, std::string("The copy could not be written: ") + failure.what());
+        app::warn(app_, core::fill(core::tr("The copy could not be written: %1"), {failure.what()}));
     }
 }
 
@@ -159,8 +162,9 @@ void versionsFrm::tellMissing(const std::vector<std::string>& pictures) {
     std::string names;
     for (std::size_t i = 0; i < std::min(pictures.size(), mostNames); ++i) names += "\n" + pictures[i];
     if (pictures.size() > mostNames)
-        names += "\nand " + std::to_string(pictures.size() - mostNames) + " more";
-    app::inform(app_, "These pictures of the version are no longer there:" + names);
+        names.append("\n").append(
+            core::tr("and %n more", "and %n more", static_cast<int>(pictures.size() - mostNames)));
+    app::inform(app_, core::tr("These pictures of the version are no longer there:") + names);
 }
 
 void versionsFrm::Check1_Click(bool checked) {

@@ -19,8 +19,10 @@ struct NamedKind {
     std::string_view name;
     Kind kind;
 };
-constexpr std::array<NamedKind, 4> dateKinds = {
-    {{"year", Kind::Year}, {"quarter", Kind::Quarter}, {"month", Kind::Month}, {"day", Kind::Day}}};
+constexpr std::array<NamedKind, 4> dateKinds = {{{core::marked("year"), Kind::Year},
+                                                 {core::marked("quarter"), Kind::Quarter},
+                                                 {core::marked("month"), Kind::Month},
+                                                 {core::marked("day"), Kind::Day}}};
 
 constexpr int monthsOfYear = 12, monthsOfQuarter = 3;
 
@@ -74,10 +76,11 @@ std::string stepName(const Step& step) {
 }
 
 std::string headingOf(const GroupBy& by) {
+    if (by.step.kind == Kind::Each) return by.column;
+    const std::string step = stepName(by.step);
+    if (by.step.kind == Kind::Width) return core::fill(core::tr("%1 (steps of %2)"), {by.column, step});
     std::string heading = by.column;
-    if (by.step.kind == Kind::Each) return heading;
-    heading.append(by.step.kind == Kind::Width ? " (steps of " : " (");
-    return heading.append(stepName(by.step)).append(")");
+    return heading.append(" (").append(core::tr(step)).append(")");
 }
 
 std::optional<std::chrono::sys_days> dayIn(std::string_view cell, std::chrono::year_month_day today) {
@@ -131,13 +134,13 @@ GroupKey GroupReader::numberKey(std::string_view cell) const {
     Amount high = low;
     high += step_.width;
     const bool bMoney = isMoney(cell, type_);
-    std::string label = bMoney ? low.money() : low.text();
-    label.append(" to below ").append(bMoney ? high.money() : high.text());
+    const std::string label = core::fill(
+        core::tr("%1 to below %2"), {bMoney ? low.money() : low.text(), bMoney ? high.money() : high.text()});
     return {GroupKey::Rank::Value, low, label};
 }
 
 GroupKey GroupReader::keyOf(std::string_view cell) const {
-    if (core::trim(cell).empty()) return {GroupKey::Rank::Empty, {}, std::string(emptyLabel)};
+    if (core::trim(cell).empty()) return {GroupKey::Rank::Empty, {}, core::tr(emptyLabel)};
     switch (type_) {
     case ColumnType::Date:
         return dateKey(cell);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/document.h"
+#include "core/translate.h"
 #include "summary/amount.h"
 
 #include <chrono>
@@ -40,7 +41,7 @@ std::string headingOf(const GroupBy& by);
 // A day in a cell of a date column, counted from 1970; nothing for what is no date.
 std::optional<std::chrono::sys_days> dayIn(std::string_view cell, std::chrono::year_month_day today);
 
-constexpr std::string_view emptyLabel = "(empty)";
+constexpr const char* emptyLabel = core::marked("(empty)");
 
 // One group's value of a column: what it is called, and where it stands among the others. The empty one comes
 // first, then numbers or days by value, then texts as the column sorts them, which is by their capitals.

@@ -1,5 +1,6 @@
 #include "summary/statistics.h"
 
+#include "core/translate.h"
 #include "summary/counter.h"
 #include "summary/itemRows.h"
 
@@ -117,18 +118,18 @@ Statistics statisticsOf(const core::Document& document, std::string_view column,
 
 std::vector<std::pair<std::string, std::string>> namedFigures(const Statistics& statistics) {
     std::vector<std::pair<std::string, std::string>> figures = {
-        {"Records", std::to_string(statistics.records)},
-        {"Values", std::to_string(statistics.values)},
-        {"Empty", std::to_string(statistics.empty)},
-        {"Different values", std::to_string(statistics.different)}};
-    const auto add = [&](const char* name, const Value& value) {
+        {core::tr("Records"), std::to_string(statistics.records)},
+        {core::tr("Values"), std::to_string(statistics.values)},
+        {core::tr("Empty"), std::to_string(statistics.empty)},
+        {core::tr("Different values"), std::to_string(statistics.different)}};
+    const auto add = [&](const std::string& name, const Value& value) {
         if (!value.text.empty()) figures.emplace_back(name, value.text);
     };
-    add("Least", statistics.least);
-    add("Greatest", statistics.greatest);
-    add("Mean", statistics.mean);
-    add("Median", statistics.median);
-    add("Sum", statistics.sum);
+    add(core::tr("Least"), statistics.least);
+    add(core::tr("Greatest"), statistics.greatest);
+    add(core::tr("Mean"), statistics.mean);
+    add(core::tr("Median"), statistics.median);
+    add(core::tr("Sum"), statistics.sum);
     return figures;
 }
 

@@ -1,6 +1,7 @@
 #include "summary/statisticsFrm.h"
 
 #include "app/hourglass.h"
+#include "core/translate.h"
 #include "exchange/csvWriter.h"
 #include "search/manyRecords.h"
 
@@ -18,7 +19,7 @@ struct LastColumn {
 
 void mnuStatistics_Click(app::App& app) {
     if (app.document.LV.columns.count() < 2)
-        app::inform(app, "Your database has no columns.");
+        app::inform(app, core::tr("Your database has no columns."));
     else
         app.platform.showForm("statisticsFrm");
 }

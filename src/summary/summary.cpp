@@ -1,6 +1,7 @@
 #include "summary/summary.h"
 
 #include "core/text.h"
+#include "core/translate.h"
 #include "summary/counter.h"
 #include "summary/itemRows.h"
 
@@ -16,7 +17,11 @@ using core::RecordsList;
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kindNames = {"Sum", "Mean", "Least", "Greatest"};
+constexpr std::array<const char*, 4> kindNames = {core::marked("Sum"), core::marked("Mean"),
+                                                  core::marked("Least"), core::marked("Greatest")};
+constexpr std::array<const char*, 4> kindHeadings = {core::marked("Sum of %1"), core::marked("Mean of %1"),
+                                                     core::marked("Least of %1"),
+                                                     core::marked("Greatest of %1")};
 
 // One run of summarise.
 class GroupRun {
@@ -196,13 +201,12 @@ Summary GroupRun::result() {
 
 } // namespace
 
-std::string_view nameOf(FigureKind kind) {
-    return kindNames.at(static_cast<std::size_t>(kind));
+std::string nameOf(FigureKind kind) {
+    return core::tr(kindNames.at(static_cast<std::size_t>(kind)));
 }
 
 std::string headingOf(const Figure& figure) {
-    std::string heading(nameOf(figure.kind));
-    return heading.append(" of ").append(figure.column);
+    return core::fill(core::tr(kindHeadings.at(static_cast<std::size_t>(figure.kind))), {figure.column});
 }
 
 bool isCounted(FigureKind kind, ColumnType type) {

@@ -19,7 +19,7 @@ struct Figure {
 
     bool operator==(const Figure&) const = default;
 };
-std::string_view nameOf(FigureKind kind);    // "Sum"
+std::string nameOf(FigureKind kind);         // "Sum"
 std::string headingOf(const Figure& figure); // "Sum of Cost"
 bool isCounted(FigureKind kind, core::ColumnType type);
 

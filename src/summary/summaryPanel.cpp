@@ -4,6 +4,7 @@
 #include "app/windowState.h"
 #include "core/runTimeError.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "exchange/csvWriter.h"
 #include "print/printCommands.h"
 #include "search/filter/filterMode.h"
@@ -31,7 +32,18 @@ struct ChangeCount {
     std::uint64_t changes = 1;
 };
 
-constexpr std::string_view eachValue = "Each value", eachDay = "Day";
+constexpr const char* eachValue = core::marked("Each value");
+constexpr const char* eachDay = core::marked("Day");
+constexpr std::array<const char*, 4> dateSteps = {core::marked("Year"), core::marked("Quarter"),
+                                                  core::marked("Month"), eachDay};
+
+// A step that the box offers in the user's language, by its English name; another one as it was typed.
+std::string stepWord(const std::string& shown) {
+    if (shown == core::tr(eachValue)) return eachValue;
+    for (const char* word : dateSteps)
+        if (shown == core::tr(word)) return word;
+    return shown;
+}
 
 // What is proposed before anybody has chosen: the first column of words that several records share.
 int firstGroupColumn(const core::Document& document, const std::vector<std::string>& names) {
@@ -100,7 +112,7 @@ void SummaryPanel::takeGroupColumns(const std::vector<std::string>& names) {
         std::string chosen;
         if (!chooser.columns.empty()) chosen = chooser.columns.at(static_cast<std::size_t>(chooser.column));
         chooser.columns.clear();
-        if (i == 1) chooser.columns.emplace_back("(none)");
+        if (i == 1) chooser.columns.push_back(core::tr("(none)"));
         chooser.columns.insert(chooser.columns.end(), names.begin(), names.end());
         const auto found = std::ranges::find(chooser.columns, chosen);
         if (found != chooser.columns.end())
@@ -140,11 +152,11 @@ void SummaryPanel::takeSteps(std::size_t place) {
     const ColumnType type = column == nullptr ? ColumnType::Text : column->type();
     std::vector<std::string> steps;
     if (type == ColumnType::Date)
-        steps = {"Year", "Quarter", "Month", std::string(eachDay)};
+        for (const char* word : dateSteps) steps.push_back(core::tr(word));
     else if (isCounted(FigureKind::Sum, type))
-        steps = {std::string(eachValue), "1", "10", "100", "1000"};
+        steps = {core::tr(eachValue), "1", "10", "100", "1000"};
     else
-        steps = {std::string(eachValue)};
+        steps = {core::tr(eachValue)};
     if (steps == chooser.steps) return;
     chooser.steps = std::move(steps);
     chooser.step = chooser.steps.front();
@@ -179,11 +191,11 @@ std::optional<Request> SummaryPanel::request() {
         const Column* column = app_.document.LV.columns.find(name);
         if (column == nullptr) return std::nullopt;
         GroupBy grouped{name, {}};
-        if (chooser.step != eachValue && chooser.step != eachDay) {
-            const std::optional<Step> step = stepNamed(chooser.step, column->type());
+        const std::string word = stepWord(chooser.step);
+        if (word != eachValue && word != eachDay) {
+            const std::optional<Step> step = stepNamed(word, column->type());
             if (!step) {
-                note = "\"";
-                note.append(chooser.step).append("\" is no step: type a number above 0.");
+                note = core::fill(core::tr("\"%1\" is no step: type a number above 0."), {chooser.step});
                 return std::nullopt;
             }
             grouped.step = *step;
@@ -226,15 +238,16 @@ void SummaryPanel::recount() {
         summary = summarise(app_.document, *wanted, app_.platform.today());
     }
     sort();
-    barNames.assign(1, std::string(recordsHeading));
+    barNames.assign(1, core::tr(recordsHeading));
     for (const Figure& figure : summary.request.figures) barNames.push_back(headingOf(figure));
     const auto known = std::ranges::find(barNames, barBefore);
     bars = known == barNames.end() ? 0 : static_cast<int>(known - barNames.begin());
     if (wanted) {
-        note = search::counted(summary.groups.size(), "group", "groups");
-        note.append(", ").append(search::counted(summary.total.records, "record", "records"));
+        note = core::tr("%n group", "%n groups", static_cast<int>(summary.groups.size()));
+        note.append(", ").append(
+            core::tr("%n record", "%n records", static_cast<int>(summary.total.records)));
     } else if (note.empty()) {
-        note = "Open a database, or add columns, to see its records in groups.";
+        note = core::tr("Open a database, or add columns, to see its records in groups.");
     }
 }
 
@@ -338,11 +351,14 @@ void SummaryPanel::showAll() {
 std::string SummaryPanel::title() const {
     std::string title = app_.document.reportData.reportTitle;
     if (title.empty()) title = std::filesystem::path(app_.document.currentFile).stem().string();
-    for (std::size_t i = 0; i < summary.request.by.size(); ++i) {
-        title.append(i > 0 ? " and " : title.empty() ? "By " : " by ");
-        title.append(headingOf(summary.request.by[i]));
-    }
-    return title;
+    const std::vector<GroupBy>& grouped = summary.request.by;
+    if (grouped.empty()) return title;
+    const std::string first = headingOf(grouped.front()), second = headingOf(grouped.back());
+    if (grouped.size() == 1)
+        return title.empty() ? core::fill(core::tr("By %1"), {first})
+                             : core::fill(core::tr("%1 by %2"), {title, first});
+    return title.empty() ? core::fill(core::tr("By %1 and %2"), {first, second})
+                         : core::fill(core::tr("%1 by %2 and %3"), {title, first, second});
 }
 
 void SummaryPanel::copy() {
@@ -364,18 +380,18 @@ void SummaryPanel::exportTable() {
     const exchange::OutTable table = tableOf(summary, title());
     if (table.rows.empty()) return;
     auto target = app_.platform.showSave(
-        {"Export Summary", "Summary.xlsx",
-         "Tables (*.xlsx)|*.xlsx;*.ods;*.csv;*.tsv;*.html;*.json;*.sqlite|All Files (*.*)|*.*"});
+        {core::tr("Export Summary"), "Summary.xlsx",
+         core::tr("Tables (*.xlsx)|*.xlsx;*.ods;*.csv;*.tsv;*.html;*.json;*.sqlite|All Files (*.*)|*.*")});
     if (!target) return;
     if (!exchange::formatOf(*target)) target->append(".xlsx");
     const Format format = *exchange::formatOf(*target);
-    if (format == Format::Vcard) return app::warn(app_, "A summary has no place in address cards.");
+    if (format == Format::Vcard) return app::warn(app_, core::tr("A summary has no place in address cards."));
     if (!storage::mayWriteTo(app_, *target)) return;
     const app::Hourglass hourglass(app_);
     try {
         exchange::writeSheet(*target, format, table);
     } catch (const core::RunTimeError& error) {
-        app::warn(app_, std::string("The table could not be written: ").append(error.what()));
+        app::warn(app_, core::fill(core::tr("The table could not be written: %1"), {error.what()}));
     }
 }
 

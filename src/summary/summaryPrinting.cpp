@@ -27,7 +27,7 @@ public:
         : app_(app), target_(target), summary_(summary), table_(tableOf(summary, {}, mostPrinted)),
           scale_(summary, barFigure), byCount_(summary.request.by.size()),
           barName_(barFigure == recordsBar
-                       ? std::string(recordsHeading)
+                       ? core::tr(recordsHeading)
                        : headingOf(summary.request.figures.at(static_cast<std::size_t>(barFigure)))) {}
 
     void draw(std::string_view title) {

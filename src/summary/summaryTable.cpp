@@ -10,7 +10,7 @@ namespace summary {
 std::vector<std::string> headings(const Summary& summary) {
     std::vector<std::string> all;
     for (const GroupBy& by : summary.request.by) all.push_back(headingOf(by));
-    all.emplace_back(recordsHeading);
+    all.push_back(core::tr(recordsHeading));
     for (const Figure& figure : summary.request.figures) all.push_back(headingOf(figure));
     return all;
 }
@@ -40,7 +40,7 @@ exchange::OutTable tableOf(const Summary& summary, std::string title, std::size_
     }
     exchange::OutRow total(summary.request.by.size());
     if (total.empty()) return table;
-    total.front() = totalLabel;
+    total.front() = core::tr(totalLabel);
     addCounted(total, summary.total);
     table.rows.push_back(std::move(total));
     table.bLastIsTotals = true;

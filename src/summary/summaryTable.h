@@ -1,12 +1,13 @@
 #pragma once
 
+#include "core/translate.h"
 #include "exchange/sheet.h"
 #include "summary/summary.h"
 
 namespace summary {
 
-constexpr std::string_view recordsHeading = "Records";
-constexpr std::string_view totalLabel = "Total";
+constexpr const char* recordsHeading = core::marked("Records");
+constexpr const char* totalLabel = core::marked("Total");
 
 // What stands over the columns of that table.
 std::vector<std::string> headings(const Summary& summary);

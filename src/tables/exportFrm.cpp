@@ -3,6 +3,7 @@
 #include "app/hourglass.h"
 #include "calc/formulas.h"
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "search/manyRecords.h"
 #include "storage/saveSteps.h"
 
@@ -19,14 +20,14 @@ struct Kind {
     Format format;
     std::string_view name, ending;
 };
-constexpr std::array<Kind, 8> kinds = {{{Format::Xlsx, "Excel workbook", ".xlsx"},
-                                        {Format::Ods, "OpenDocument spreadsheet", ".ods"},
-                                        {Format::Csv, "Values divided by commas", ".csv"},
-                                        {Format::Tsv, "Values divided by tabs", ".tsv"},
-                                        {Format::Html, "Web page", ".html"},
-                                        {Format::Json, "JSON", ".json"},
-                                        {Format::Sqlite, "SQLite database", ".sqlite"},
-                                        {Format::Vcard, "Address cards", ".vcf"}}};
+constexpr std::array<Kind, 8> kinds = {{{Format::Xlsx, core::marked("Excel workbook"), ".xlsx"},
+                                        {Format::Ods, core::marked("OpenDocument spreadsheet"), ".ods"},
+                                        {Format::Csv, core::marked("Values divided by commas"), ".csv"},
+                                        {Format::Tsv, core::marked("Values divided by tabs"), ".tsv"},
+                                        {Format::Html, core::marked("Web page"), ".html"},
+                                        {Format::Json, core::marked("JSON"), ".json"},
+                                        {Format::Sqlite, core::marked("SQLite database"), ".sqlite"},
+                                        {Format::Vcard, core::marked("Address cards"), ".vcf"}}};
 
 // What the form was left with, for the next time.
 struct LastExport {
@@ -38,7 +39,7 @@ struct LastExport {
 
 void mnuExportTable_Click(app::App& app) {
     if (app.document.LV.columns.count() < 2)
-        app::inform(app, "Your database has no columns to export.");
+        app::inform(app, core::tr("Your database has no columns to export."));
     else
         app.platform.showForm("exportFrm");
 }
@@ -70,7 +71,7 @@ exportFrm::exportFrm(app::App& app) : app_(app) {
         if (index > 1) add(columns.find(shown.at(index).Text), true);
     for (const int index : columns.displayOrder()) add(&columns.at(index), app.document.bInvoiceStyle);
     for (const Kind& kind : kinds)
-        formatCbo.push_back(std::string(kind.name).append(" (").append(kind.ending).append(")"));
+        formatCbo.push_back(core::tr(kind.name).append(" (").append(kind.ending).append(")"));
     const LastExport& last = app.rooms.of<LastExport>();
     ListIndex = last.format;
     Check1 = last.bTotals;
@@ -177,12 +178,15 @@ std::optional<std::string> exportFrm::askForFile() const {
     const Kind& kind = kinds.at(static_cast<std::size_t>(ListIndex));
     std::string name = std::filesystem::path(app_.document.currentFile).stem().string();
     if (name.empty()) name = "Untitled";
-    std::string filter(kind.name);
-    filter.append(" (*").append(kind.ending).append(")|*").append(kind.ending).append("|All Files (*.*)|*.*");
-    auto target = app_.platform.showSave({"Export", name.append(kind.ending), filter});
+    std::string filter = core::tr(kind.name);
+    filter.append(" (*").append(kind.ending).append(")|*").append(kind.ending).append("|");
+    filter.append(core::tr("All Files (*.*)|*.*"));
+    auto target = app_.platform.showSave({core::tr("Export"), name.append(kind.ending), filter});
     if (target && exchange::formatOf(*target) != kind.format) target->append(kind.ending);
     if (target && isOpenFile(*target)) {
-        app::warn(app_, "This is the file of the open database. Please choose another name for the table.");
+        app::warn(
+            app_,
+            core::tr("This is the file of the open database. Please choose another name for the table."));
         return std::nullopt;
     }
     if (target && !storage::mayWriteTo(app_, *target)) target.reset();
@@ -191,18 +195,20 @@ std::optional<std::string> exportFrm::askForFile() const {
 
 void exportFrm::write(const std::string& target, ExportPictures& pictures) {
     constexpr int percents = 100;
-    const auto telling = [&](const char* what) {
+    const auto telling = [&](const std::string& what) {
         return [this, what](int percent) {
             return app_.platform.tellProgress(what, std::min(percent, percents - 1), percents);
         };
     };
-    constexpr const char* writing = "Writing the table";
+    const std::string writing = core::tr("Writing the table");
     struct Told {
-        ~Told() { app.platform.tellProgress(writing, percents, percents); }
+        ~Told() { app.platform.tellProgress(what, percents, percents); }
         app::App& app;
-    } const told{app_};
+        const std::string& what;
+    } const told{app_, writing};
     exchange::OutTable out = table();
-    if (Check3 && Check3Enabled) pictures.unpack(target, format(), out, telling("Unpacking the pictures"));
+    if (Check3 && Check3Enabled)
+        pictures.unpack(target, format(), out, telling(core::tr("Unpacking the pictures")));
     exchange::writeSheet(target, format(), out, telling(writing), app_.document.currentFile);
 }
 
@@ -218,7 +224,7 @@ void exportFrm::OKButton_Click() {
         write(*target, pictures);
     } catch (const core::RunTimeError& error) {
         if (error.number != core::errors::cancelled)
-            app::warn(app_, std::string("The table could not be written: ").append(error.what()));
+            app::warn(app_, core::fill(core::tr("The table could not be written: %1"), {error.what()}));
         return;
     }
     pictures.finish();

@@ -1,5 +1,6 @@
 #include "tables/exportPictures.h"
 
+#include "core/translate.h"
 #include "exchange/pictures.h"
 
 #include <algorithm>
@@ -28,9 +29,9 @@ bool ExportPictures::mayWriteBeside(const fs::path& target) const {
     std::error_code error;
     // What is no folder, or cannot be looked at, is told when the pictures are to go there.
     if (!fs::is_directory(folder, error) || fs::is_empty(folder, error)) return true;
-    std::string question = "The folder \"";
-    question.append(folder.filename().string());
-    question.append("\" is there already. Pictures in it that have the same names are replaced. Continue?");
+    const std::string question = core::fill(core::tr("The folder \"%1\" is there already. Pictures in it "
+                                                     "that have the same names are replaced. Continue?"),
+                                            {folder.filename().string()});
     return app::askYesNo(app_, question, platform::Icon::Question);
 }
 
@@ -51,12 +52,17 @@ void ExportPictures::finish() {
     if (!bInside_) folder_.clear();
     if (missing_.empty()) return;
     constexpr std::size_t mostNamed = 10;
-    std::string text = "The table is written, but the database has no pictures of these names:\n";
+    std::string names;
     for (std::size_t i = 0; i < std::min(missing_.size(), mostNamed); ++i)
-        text.append(i == 0 ? "" : ", ").append(missing_[i]);
+        names.append(i == 0 ? "" : ", ").append(missing_[i]);
+    std::string text =
+        core::tr("The table is written, but the database has no pictures of these names:\n%1.");
     if (missing_.size() > mostNamed)
-        text.append(" and ").append(std::to_string(missing_.size() - mostNamed)).append(" more");
-    app::inform(app_, text.append("."));
+        text = core::tr(
+            "The table is written, but the database has no pictures of these names:\n%1 and %n more.",
+            "The table is written, but the database has no pictures of these names:\n%1 and %n more.",
+            static_cast<int>(missing_.size() - mostNamed));
+    app::inform(app_, core::fill(text, {names}));
 }
 
 } // namespace tables

@@ -4,12 +4,12 @@
 #include "app/windowState.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/columnTypes.h"
 #include "file/fileHandle.h"
 #include "storage/openFile.h"
 #include "storage/saveFile.h"
 #include "storage/saveSteps.h"
-#include "tables/counted.h"
 #include "tables/importSteps.h"
 #include "tables/placeIn.h"
 
@@ -44,7 +44,7 @@ std::optional<exchange::Format> tableFormat(std::string_view fileName) {
 
 // The reason alone: the sentences that it ends tell already that the table cannot be read.
 std::string reasonOf(const std::exception& error) {
-    constexpr std::string_view known = "Invalid file format: ";
+    const std::string known = core::tr("Invalid file format") + ": ";
     const std::string_view text = error.what();
     return std::string(text.starts_with(known) ? text.substr(known.size()) : text);
 }
@@ -68,9 +68,10 @@ void mnuImportTable_Click(app::App& app) {
     std::string& file = app.rooms.of<ImportRequest>().file;
     if (file.empty()) {
         const auto chosen = app.platform.showOpen(
-            {"Import", "",
-             "Tables (*.csv)|*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.json;*.sqlite;*.sqlite3;*.db;*.html;*.vcf|"
-             "All Files (*.*)|*.*"});
+            {core::tr("Import"), "",
+             core::tr(
+                 "Tables (*.csv)|*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.json;*.sqlite;*.sqlite3;*.db;*.html;*.vcf|"
+                 "All Files (*.*)|*.*")});
         if (!chosen) return;
         file = *chosen;
     }
@@ -79,10 +80,10 @@ void mnuImportTable_Click(app::App& app) {
 
 importFrm::importFrm(app::App& app)
     : app_(app), file_(std::exchange(app.rooms.of<ImportRequest>().file, {})) {
-    encodingCbo.entries = {"UTF-8", "UTF-16", "UTF-16 (big endian)", "Windows-1252"};
-    separatorCbo.entries = {"Comma", "Semicolon", "Tab", "Bar"};
-    quoteCbo.entries = {"\"", "'", "None"};
-    styleCbo.entries = {"Standard", "Invoice"};
+    encodingCbo.entries = {"UTF-8", "UTF-16", core::tr("UTF-16 (big endian)"), "Windows-1252"};
+    separatorCbo.entries = {core::tr("Comma"), core::tr("Semicolon"), core::tr("Tab"), core::tr("Bar")};
+    quoteCbo.entries = {"\"", "'", core::tr("None")};
+    styleCbo.entries = {core::tr("Standard"), core::tr("Invoice")};
     const core::Document& document = app.document;
     Opt1Enabled = document.LV.columns.count() > 1 && !document.searchLV.Visible &&
                   !(document.bInvoiceStyle && document.bInvoiceView);
@@ -98,7 +99,7 @@ importFrm::importFrm(app::App& app)
         }
     } catch (const std::exception& error) {
         if (!isCancelled(error))
-            app::warn(app, std::string("The table cannot be imported: ").append(reasonOf(error)));
+            app::warn(app, core::fill(core::tr("The table cannot be imported: %1"), {reasonOf(error)}));
         unloaded = true;
     }
     if (!unloaded) showAll();
@@ -107,13 +108,13 @@ importFrm::importFrm(app::App& app)
 // What does not depend on what is chosen.
 void importFrm::readFile() {
     const auto format = tableFormat(file_);
-    if (!format) throw exchange::TableError("the program knows no table of this kind");
+    if (!format) throw exchange::TableError(core::tr("the program knows no table of this kind"));
     format_ = *format;
     isText_ = isDelimited(format_);
     encodingCbo.Visible = separatorCbo.Visible = quoteCbo.Visible = isText_;
     if (isText_) {
         auto bytes = file::readSmallFile(file_, mostTableBytes);
-        if (!bytes) throw exchange::TableError("it is larger than 256 MB");
+        if (!bytes) throw exchange::TableError(core::tr("it is larger than 256 MB"));
         bytes_ = *std::move(bytes);
         const exchange::Encoding encoding = exchange::recognizedEncoding(bytes_);
         encodingCbo.ListIndex = static_cast<int>(encoding);
@@ -360,30 +361,31 @@ void importFrm::appendToOpen() {
     const app::Hourglass hourglass(app_);
     const std::vector<calc::Uncalculated> failed = records_->store();
     if (failed.empty()) return;
-    std::string text = counted(failed.size(), "of the records cannot be calculated: ",
-                               "of the records cannot be calculated. The first one: ");
-    app::warn(app_, text.append(failed.front().reason));
+    const std::string text = core::tr("%n of the records cannot be calculated: %1",
+                                      "%n of the records cannot be calculated. The first one: %1",
+                                      static_cast<int>(failed.size()));
+    app::warn(app_, core::fill(text, {failed.front().reason}));
 }
 
 // False when the user has thought better of it.
 bool importFrm::makeNew() {
     std::string& open = app_.document.currentFile;
     if (app_.document.bModified && !open.empty()) {
-        const int answer = app_.platform.choose("The open database has changes that are not saved.",
-                                                app::title, {"&Save", "&Do Not Save"});
+        const int answer = app_.platform.choose(core::tr("The open database has changes that are not saved."),
+                                                app::title, {core::tr("&Save"), core::tr("&Do Not Save")});
         if (answer < 0) return false;
         if (answer == 0) {
             storage::tellReason(app_, storage::SaveFile(app_, false, false));
             if (app_.document.bModified) return false;
         }
     }
-    const auto target = app_.platform.showNew({"Specify Name For New Database",
+    const auto target = app_.platform.showNew({core::tr("Specify Name For New Database"),
                                                std::filesystem::path(file_).stem().string() + ".fwk",
-                                               std::string(platform::databaseFilter)});
+                                               core::tr(platform::databaseFilter)});
     if (!target) return false;
     std::error_code none;
     if (*target == open || std::filesystem::equivalent(*target, open, none)) {
-        app::inform(app_, "The new database cannot take the place of the one that is open.");
+        app::inform(app_, core::tr("The new database cannot take the place of the one that is open."));
         return false;
     }
     {

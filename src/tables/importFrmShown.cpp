@@ -1,6 +1,6 @@
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/columnTypes.h"
-#include "tables/counted.h"
 #include "tables/importFrm.h"
 #include "tables/placeIn.h"
 
@@ -18,10 +18,11 @@ constexpr std::size_t previewRows = 20;
 constexpr std::size_t shownRefused = 1000;
 
 std::vector<std::string> waysToRead(const ReadAs& as) {
-    if (as.bToTheLetter) return {"As it is"};
-    if (as.type == ColumnType::Date) return {"Day, month, year", "Month, day, year", "Year, month, day"};
+    if (as.bToTheLetter) return {core::tr("As it is")};
+    if (as.type == ColumnType::Date)
+        return {core::tr("Day, month, year"), core::tr("Month, day, year"), core::tr("Year, month, day")};
     if (as.type == ColumnType::Number || as.type == ColumnType::Currency) return {"1,234.50", "1.234,50"};
-    return {"As it is"};
+    return {core::tr("As it is")};
 }
 
 int wayToRead(const ReadAs& as) {
@@ -39,12 +40,11 @@ int placeOfSign(const CurrencySign& sign) {
 
 std::string noteOf(const Recognized& how) {
     std::string note;
-    if (how.bDatesOpen || how.bDecimalOpen) {
-        note.append("Please check: \"").append(how.example).append("\" can be read in two ways.");
-    }
+    if (how.bDatesOpen || how.bDecimalOpen)
+        note = core::fill(core::tr("Please check: \"%1\" can be read in two ways."), {how.example});
     if (!how.sign.empty()) {
-        note.append(note.empty() ? "" : " ").append("The sign ").append(how.sign);
-        note.append(" is not kept: amounts are shown with $.");
+        note.append(note.empty() ? "" : " ");
+        note.append(core::fill(core::tr("The sign %1 is not kept: amounts are shown with $."), {how.sign}));
     }
     return note;
 }
@@ -59,9 +59,9 @@ bool namesTarget(const ImportTable::Column& column) {
 
 // Nothing can be changed but how the file is read.
 void importFrm::showNoTable() {
-    Label1 = std::filesystem::path(file_).filename().string();
-    Label1.append(isText_ ? " cannot be read like this: " : ": this sheet cannot be imported: ");
-    Label1.append(problem_).append(".");
+    Label1 = core::fill(isText_ ? core::tr("%1 cannot be read like this: %2.")
+                                : core::tr("%1: this sheet cannot be imported: %2."),
+                        {std::filesystem::path(file_).filename().string(), problem_});
     Label2.clear();
     List2.clear();
     Grid1.clear();
@@ -80,8 +80,8 @@ void importFrm::showAll() {
     targetCbo.Visible = isAppending();
     if (!table_) return showNoTable();
     Check1 = table_->hasHeadings();
-    Label1 = std::filesystem::path(file_).filename().string();
-    Label1.append(": ").append(counted(table_->count(), "record", "records")).append(".");
+    Label1 = core::fill(core::tr("%1: %n record.", "%1: %n records.", static_cast<int>(table_->count())),
+                        {std::filesystem::path(file_).filename().string()});
     showColumns();
     showColumn();
     showRows();
@@ -97,11 +97,11 @@ void importFrm::showColumns() {
         shown.Name = column.name;
         if (isAppending()) shown.Name = column.target != nullptr ? column.target->Text : column.heading;
         if (column.bImport) {
-            shown.Type = core::typeName(column.how.as.type);
+            shown.Type = core::tr(core::typeName(column.how.as.type));
             shown.ReadAs = waysToRead(column.how.as).at(static_cast<std::size_t>(wayToRead(column.how.as)));
             if (!column.how.sign.empty()) shown.ReadAs.append(" ").append(column.how.sign);
             if (isAppending() && !column.heading.empty() && !namesTarget(column))
-                shown.Note.append("In the table: \"").append(column.heading).append("\".");
+                shown.Note = core::fill(core::tr("In the table: \"%1\"."), {column.heading});
             const std::string note = noteOf(column.how);
             shown.Note.append(shown.Note.empty() || note.empty() ? "" : " ").append(note);
         } else {
@@ -116,19 +116,20 @@ void importFrm::showColumn() {
     const ReadAs& as = column.how.as;
     Text1 = column.name;
     targetCbo.Enabled = true;
-    targetCbo.entries = {"(leave out)"};
+    targetCbo.entries = {core::tr("(leave out)")};
     for (const core::Column* target : targets_.choices) targetCbo.entries.push_back(target->Text);
     targetCbo.ListIndex = placeIn(targets_.choices, column.target) + 1;
     typeCbo.entries.clear();
     // The last two are for columns that have them already.
     const std::size_t offered = placeIn(types, as.type) > 3 ? types.size() : 4;
-    for (std::size_t i = 0; i < offered; ++i) typeCbo.entries.emplace_back(core::typeName(types.at(i)));
+    for (std::size_t i = 0; i < offered; ++i)
+        typeCbo.entries.push_back(core::tr(core::typeName(types.at(i))));
     typeCbo.ListIndex = placeIn(types, as.type);
     typeCbo.Enabled = column.bImport && !isAppending();
     readAsCbo.entries = waysToRead(as);
     readAsCbo.ListIndex = wayToRead(as);
     readAsCbo.Enabled = column.bImport && readAsCbo.entries.size() > 1;
-    signCbo.entries = {"Recognised", "None"};
+    signCbo.entries = {core::tr("Recognised"), core::tr("None")};
     for (const std::string_view sign : currencySigns()) signCbo.entries.emplace_back(sign);
     signCbo.ListIndex = placeOfSign(as.sign);
     signCbo.Enabled = readAsCbo.Enabled && as.type != ColumnType::Date;
@@ -163,12 +164,14 @@ void importFrm::showRefusals() {
     if (!isAppending())
         why = table_->whyNoDatabase(styleCbo.ListIndex == 1);
     else if (std::ranges::none_of(List2, &Column::Checked))
-        why = "No column is chosen.";
+        why = core::tr("No column is chosen.");
     else if (table_->count() > records_->room())
-        why = "The database has room for " + counted(records_->room(), "more record.", "more records.");
+        why = core::tr("The database has room for %n more record.",
+                       "The database has room for %n more records.", static_cast<int>(records_->room()));
     else if (table_->count() == 0)
-        why = "The table has no records.";
-    if (refused > 0) add(counted(refused, "cell cannot be stored:", "cells cannot be stored:"));
+        why = core::tr("The table has no records.");
+    if (refused > 0)
+        add(core::tr("%n cell cannot be stored:", "%n cells cannot be stored:", static_cast<int>(refused)));
     if (!why.empty()) add(why);
     const bool canBeText =
         std::ranges::any_of(table_->refusals(shownRefused), [&](const ImportTable::Refusal& refusal) {

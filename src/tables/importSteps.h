@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/longWork.h"
+#include "core/translate.h"
 #include "exchange/sheetCollector.h"
 
 #include <utility>
@@ -10,7 +11,7 @@ namespace tables {
 // The steps of one piece of work, each with its share of the one bar that the user sees.
 class ImportSteps {
 public:
-    explicit ImportSteps(app::App& app) : work_(app, "Reading the table", whole) {}
+    explicit ImportSteps(app::App& app) : work_(app, core::tr("Reading the table"), whole) {}
 
     // The next one, as long as this object lives. The bar stays short of its end, which closes it.
     exchange::Progress next(int percents) {

@@ -4,6 +4,7 @@
 #include "calc/columns.h"
 #include "core/text.h"
 #include "core/totalsRow.h"
+#include "core/translate.h"
 #include "exchange/columnTypes.h"
 #include "file/dataWriter.h"
 #include "storage/saveSteps.h"
@@ -41,13 +42,14 @@ ImportTable::ImportTable(exchange::Sheet sheet, const Hints& hints, bool bLenien
         width = std::max(width, cells.size());
         rows.push_back({number, std::move(cells)});
     }
-    if (rows.empty()) throw exchange::TableError("it has no rows");
+    if (rows.empty()) throw exchange::TableError(core::tr("it has no rows"));
     if (rows.size() > mostRecords + 1)
-        throw exchange::TableError(std::string("it has more rows than the ")
-                                       .append(std::to_string(mostRecords))
-                                       .append(" records that a database holds"));
+        throw exchange::TableError(
+            core::fill(core::tr("it has more rows than the %1 records that a database holds"),
+                       {std::to_string(mostRecords)}));
     if (width > mostTableColumns)
-        throw exchange::TableError("it has more than " + std::to_string(mostTableColumns) + " columns");
+        throw exchange::TableError(
+            core::fill(core::tr("it has more than %1 columns"), {std::to_string(mostTableColumns)}));
     rows_ = std::make_shared<std::vector<Row>>(std::move(rows));
     columns_.resize(width);
     setHeadings(firstRowIsHeadings(), progress);
@@ -214,25 +216,22 @@ std::string ImportTable::whyNoDatabase(bool bInvoiceStyle) const {
         if (!column.bImport) continue;
         ++columns;
         if (bInvoiceStyle && column.how.as.type == ColumnType::Picture)
-            return "An invoice database has no Picture columns.";
+            return core::tr("An invoice database has no Picture columns.");
         const std::string name = exchange::columnName(column.name);
         std::string why;
-        if (name.empty()) return "A column has no name.";
+        if (name.empty()) return core::tr("A column has no name.");
         if (name.find('|') != std::string::npos)
-            why = "\" holds a \"|\".";
+            why = core::tr("The column name \"%1\" holds a \"|\".");
         else if (core::equalsNoCase(name, "Index"))
-            why = "\" cannot be used.";
+            why = core::tr("The column name \"%1\" cannot be used.");
         else if (!names.insert(core::upper(name)).second)
-            why = "\" is there twice.";
-        if (!why.empty()) return std::string("The column name \"").append(name).append(why);
+            why = core::tr("The column name \"%1\" is there twice.");
+        if (!why.empty()) return core::fill(why, {name});
     }
-    if (columns == 0) return "No column is chosen.";
+    if (columns == 0) return core::tr("No column is chosen.");
     if (columns <= calc::mostColumns) return {};
-    return std::string("There are ")
-        .append(std::to_string(columns))
-        .append(" columns, a database has at most ")
-        .append(std::to_string(calc::mostColumns))
-        .append(".");
+    return core::fill(core::tr("There are %1 columns, a database has at most %2."),
+                      {std::to_string(columns), std::to_string(calc::mostColumns)});
 }
 
 exchange::TextRow ImportTable::headingRow() const {
@@ -295,7 +294,7 @@ void addRecords(app::App& app, core::Document& document, const ImportTable& tabl
     for (std::size_t i = 0; i < table.columns().size(); ++i)
         if (table.columns()[i].bImport) imported.push_back(i);
     document.LV.reserve(table.count() + 1);
-    app::LongWork work(app, "Making the records", static_cast<int>(table.count()));
+    app::LongWork work(app, core::tr("Making the records"), static_cast<int>(table.count()));
     for (std::size_t record = 0; record < table.count(); ++record) {
         work.reached(static_cast<int>(record));
         core::Item& item = document.LV.add(document.nextKey());

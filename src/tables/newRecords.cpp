@@ -4,6 +4,7 @@
 #include "app/windowState.h"
 #include "calc/serialNumbers.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "entry/editRecord.h"
 #include "entry/invoiceRecords.h"
 #include "exchange/columnTypes.h"
@@ -130,7 +131,8 @@ void NewRecords::setHeadings(bool hasHeadings) {
             targetByPlace(source, i);
         }
         if (source.target != nullptr && !taken.insert(source.target).second) {
-            source.whyLeftOut.assign("the column \"").append(source.target->Text).append("\" is there twice");
+            source.whyLeftOut =
+                core::fill(core::tr("the column \"%1\" is there twice"), {source.target->Text});
             source.target = nullptr;
         }
         check(i);
@@ -140,19 +142,18 @@ void NewRecords::setHeadings(bool hasHeadings) {
 void NewRecords::targetByName(Source& source) const {
     const Column* column = columnNamed(source.name);
     if (column == nullptr)
-        source.whyLeftOut = source.name.empty() ? std::string("a column has no heading")
-                                                : "no column \"" + source.name + "\"";
+        source.whyLeftOut = source.name.empty() ? core::tr("a column has no heading")
+                                                : core::fill(core::tr("no column \"%1\""), {source.name});
     else if (isTypedInto(*column))
         source.target = column;
     else if (isTypedColumn(*column) && !hasFormula(app_.document, *column))
-        source.whyLeftOut.assign("the column \"")
-            .append(column->Text)
-            .append("\" has no field on the layout");
+        source.whyLeftOut =
+            core::fill(core::tr("the column \"%1\" has no field on the layout"), {column->Text});
 }
 
 void NewRecords::targetByPlace(Source& source, std::size_t place) const {
     if (place >= onScreen_.size())
-        source.whyLeftOut.append("there is no column ").append(std::to_string(place + 1));
+        source.whyLeftOut = core::fill(core::tr("there is no column %1"), {std::to_string(place + 1)});
     else if (isTypedInto(*onScreen_[place]))
         source.target = onScreen_[place];
 }
@@ -183,9 +184,8 @@ std::string NewRecords::boxText(const Column& column, std::string_view cell, std
     const int rows = fieldsOf(app_.document, column);
     if (values.size() > static_cast<std::size_t>(rows)) {
         if (reason != nullptr)
-            reason->assign("has more values than the ")
-                .append(std::to_string(rows))
-                .append(" rows of the layout");
+            *reason = core::fill(core::tr("has more values than the %1 rows of the layout"),
+                                 {std::to_string(rows)});
         return text;
     }
     for (const std::string_view value : values) {
@@ -269,7 +269,7 @@ std::vector<calc::Uncalculated> NewRecords::storeRecords() {
     for (const Column* column : targets_)
         if (std::ranges::none_of(filled, [&](const auto& pair) { return pair.second == column; }))
             others.push_back(column);
-    app::LongWork work(app_, "Adding the records", static_cast<int>(count()));
+    app::LongWork work(app_, core::tr("Adding the records"), static_cast<int>(count()));
     return entry::addRecords(
         app_, static_cast<int>(count()), [&](int row, std::vector<entry::BoxText>& boxes) {
             work.reached(row);
@@ -298,7 +298,7 @@ void NewRecords::fillFields(const Column& column, const std::string& text) const
 }
 
 std::vector<calc::Uncalculated> NewRecords::storeInvoices() {
-    app::LongWork work(app_, "Adding the invoices", static_cast<int>(count()));
+    app::LongWork work(app_, core::tr("Adding the invoices"), static_cast<int>(count()));
     return entry::addInvoices(app_, static_cast<int>(count()), [&](int row) {
         work.reached(row);
         for (std::size_t i = 0; i < sources_.size(); ++i)

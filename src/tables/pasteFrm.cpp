@@ -3,7 +3,7 @@
 #include "app/hourglass.h"
 #include "app/windowState.h"
 #include "core/runTimeError.h"
-#include "tables/counted.h"
+#include "core/translate.h"
 
 #include <algorithm>
 
@@ -20,15 +20,18 @@ exchange::TextRows clipboardRows(app::App& app) {
 }
 
 // What is left out without having been chosen so.
-void appendLeftOut(std::string& text, const std::vector<NewRecords::Source>& sources) {
+std::string leftOut(const std::vector<NewRecords::Source>& sources) {
     constexpr std::size_t mostNamed = 5;
     std::size_t count = 0;
+    std::string named;
     for (const NewRecords::Source& source : sources) {
         if (source.whyLeftOut.empty() || ++count > mostNamed) continue;
-        text.append(count == 1 ? "Left out: " : ", ").append(source.whyLeftOut);
+        named.append(count == 1 ? "" : ", ").append(source.whyLeftOut);
     }
-    if (count > mostNamed) text.append(", and ").append(std::to_string(count - mostNamed)).append(" more");
-    if (count > 0) text.append(".");
+    if (count == 0) return {};
+    if (count <= mostNamed) return core::fill(core::tr("Left out: %1."), {named});
+    const int more = static_cast<int>(count - mostNamed);
+    return core::fill(core::tr("Left out: %1, and %n more.", "Left out: %1, and %n more.", more), {named});
 }
 
 } // namespace
@@ -36,12 +39,15 @@ void appendLeftOut(std::string& text, const std::vector<NewRecords::Source>& sou
 void mnuPaste_Click(app::App& app) {
     const core::RecordsList& list = app::visibleList(app.document);
     if (app.document.LV.columns.count() < 2)
-        app::inform(app, "Your database has no columns to paste into.");
+        app::inform(app, core::tr("Your database has no columns to paste into."));
     else if (&list == &app.document.searchLV)
-        app::inform(app, "Records cannot be pasted into search results. Please go back to all records.");
-    else if (app.document.bInvoiceStyle && app.document.bInvoiceView)
         app::inform(app,
-                    "Each row that is pasted becomes an invoice. Please show the invoices, not their items.");
+                    core::tr("Records cannot be pasted into search results. Please go back to all records."));
+    else if (app.document.bInvoiceStyle && app.document.bInvoiceView)
+        app::inform(
+            app,
+            core::tr(
+                "Each row that is pasted becomes an invoice. Please show the invoices, not their items."));
     else
         app.platform.showForm("pasteFrm");
 }
@@ -51,15 +57,16 @@ pasteFrm::pasteFrm(app::App& app) : app_(app) {
     try {
         exchange::TextRows rows = clipboardRows(app);
         if (rows.empty())
-            app::inform(app, "There is no text and no table on the clipboard.");
+            app::inform(app, core::tr("There is no text and no table on the clipboard."));
         else
             records_.emplace(app, std::move(rows), Headings::Guess);
     } catch (const exchange::TableError& error) {
-        app::warn(app, std::string("What is on the clipboard cannot be pasted: ") + error.what() + ".");
+        app::warn(app,
+                  core::fill(core::tr("What is on the clipboard cannot be pasted: %1."), {error.what()}));
     }
     unloaded = !records_;
     if (unloaded) return;
-    columnCbo.emplace_back("(leave out)");
+    columnCbo.push_back(core::tr("(leave out)"));
     for (const core::Column* column : records_->targets()) columnCbo.push_back(column->Text);
     showAll();
 }
@@ -67,11 +74,12 @@ pasteFrm::pasteFrm(app::App& app) : app_(app) {
 void pasteFrm::showAll() {
     Check1 = records_->hasHeadings();
     const bool isInvoice = app_.document.bInvoiceStyle;
-    Label1 = counted(records_->count(), isInvoice ? "new invoice" : "new record",
-                     isInvoice ? "new invoices" : "new records");
-    if (records_->count() > shownRows)
-        Label1.append(". The first ").append(std::to_string(shownRows)).append(" are shown");
-    Label1.append(".");
+    const int count = static_cast<int>(records_->count());
+    Label1 = isInvoice ? core::tr("%n new invoice", "%n new invoices", count)
+                       : core::tr("%n new record", "%n new records", count);
+    Label1 = records_->count() > shownRows
+                 ? core::fill(core::tr("%1. The first %2 are shown."), {Label1, std::to_string(shownRows)})
+                 : Label1 + ".";
     const auto& targets = records_->targets();
     Columns.clear();
     for (const NewRecords::Source& source : records_->sources()) {
@@ -90,22 +98,23 @@ void pasteFrm::showAll() {
 
 void pasteFrm::showRefusals() {
     List1 = toldCells(*records_, shownRefusals);
-    Label2.clear();
-    appendLeftOut(Label2, records_->sources());
+    Label2 = leftOut(records_->sources());
     const std::size_t refused = records_->refusedCount();
     const std::size_t room = records_->room();
     const auto add = [&](const std::string& sentence) {
         Label2.append(Label2.empty() ? "" : "\n") += sentence;
     };
     if (refused > List1.size())
-        add(counted(refused, "", "cells are refused, these among them."));
+        add(core::tr("%n cells are refused, these among them.", "%n cells are refused, these among them.",
+                     static_cast<int>(refused)));
     else if (refused > 0)
-        add(counted(refused, "cell is refused.", "cells are refused."));
+        add(core::tr("%n cell is refused.", "%n cells are refused.", static_cast<int>(refused)));
     if (records_->count() > room)
-        add("The database has room for " + counted(room, "more record.", "more records."));
+        add(core::tr("The database has room for %n more record.",
+                     "The database has room for %n more records.", static_cast<int>(room)));
     const bool isAny =
         std::ranges::any_of(Columns, [](const Column& column) { return column.ListIndex > 0; });
-    if (!isAny) add("No column is chosen.");
+    if (!isAny) add(core::tr("No column is chosen."));
     Check2Visible = refused > 0;
     okEnabled = isAny && records_->count() > 0 && records_->count() <= room && (refused == 0 || Check2);
 }
@@ -142,9 +151,10 @@ void pasteFrm::store() {
     const app::Hourglass hourglass(app_);
     const std::vector<calc::Uncalculated> failed = records_->store();
     if (failed.empty()) return;
-    std::string text = counted(failed.size(), "of the records cannot be calculated: ",
-                               "of the records cannot be calculated. The first one: ");
-    app::warn(app_, text.append(failed.front().reason));
+    const std::string text = core::tr("%n of the records cannot be calculated: %1",
+                                      "%n of the records cannot be calculated. The first one: %1",
+                                      static_cast<int>(failed.size()));
+    app::warn(app_, core::fill(text, {failed.front().reason}));
 }
 
 } // namespace tables

@@ -4,10 +4,12 @@
 #include "core/dates.h"
 #include "core/format.h"
 #include "core/text.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <utility>
 #include <vector>
 
 namespace tables {
@@ -114,24 +116,24 @@ std::string cellDate(const year_month_day& date) {
                             static_cast<unsigned>(date.day()));
 }
 
-CheckedCell unreadable(std::string_view reason) {
-    return {{}, std::string(reason)};
+CheckedCell unreadable(std::string reason) {
+    return {{}, std::move(reason)};
 }
 
 CheckedCell dateCell(const SheetCell& cell, const ReadAs& as) {
-    if (cell.kind == SheetCell::Kind::Number) return unreadable("is no date");
+    if (cell.kind == SheetCell::Kind::Number) return unreadable(core::tr("is no date"));
     const auto date = writtenDate(cell.text, as.dates);
-    if (!date) return unreadable("is no date in this order");
-    if (date->bTime) return unreadable("has a time, which a date has no room for");
+    if (!date) return unreadable(core::tr("is no date in this order"));
+    if (date->bTime) return unreadable(core::tr("has a time, which a date has no room for"));
     return {cellDate(date->day), {}};
 }
 
 CheckedCell numberCell(const SheetCell& cell, const ReadAs& as, year_month_day today) {
     if (cell.kind == SheetCell::Kind::Number) return checkedCell(as.type, cell.text, today);
     const auto number = writtenNumber(cell.text, as.decimal, as.sign);
-    if (!number) return unreadable("is no number in this form");
+    if (!number) return unreadable(core::tr("is no number in this form"));
     if (as.type == ColumnType::Currency && number->places > 2)
-        return unreadable("has more places than an amount of money");
+        return unreadable(core::tr("has more places than an amount of money"));
     return checkedCell(as.type, number->digits, today);
 }
 

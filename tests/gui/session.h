@@ -273,7 +273,7 @@ protected:
         return path(name);
     }
 
-private slots:
+protected slots:
     // Settings that hold nothing but that the disclaimer has been seen.
     void init() {
         for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "HOME"})

@@ -1,3 +1,4 @@
+#include "core/translate.h"
 #include "exchange/columnTypes.h"
 #include "exchange/formats/formats.h"
 #include "exchange/formats/sheetNumbers.h"
@@ -62,14 +63,13 @@ public:
     }
     bool parse_error(std::size_t place, const std::string& /*token*/,
                      const nlohmann::detail::exception& /*error*/) override {
-        std::string reason = "its JSON is damaged at byte ";
-        refuseSheet(reason.append(std::to_string(place)));
+        refuseSheet(core::fill(core::tr("its JSON is damaged at byte %1"), {std::to_string(place)}));
     }
 
     Sheet take() {
         Sheet sheet = collector_.take();
         const std::vector<std::string>& heading = heading_.empty() ? names_ : heading_;
-        if (sheet.rows.empty() && heading.empty()) refuseSheet("it has no rows");
+        if (sheet.rows.empty() && heading.empty()) refuseSheet(core::tr("it has no rows"));
         if (!heading.empty()) {
             SheetRow row;
             for (const std::string& name : heading) row.push_back({SheetCell::Kind::Text, name});
@@ -87,7 +87,7 @@ private:
 
     bool start(char bracket) {
         constexpr std::size_t deepest = 500;
-        if (++depth_ > deepest) refuseSheet("its JSON is nested too deep");
+        if (++depth_ > deepest) refuseSheet(core::tr("its JSON is nested too deep"));
         if (depth_ == 1) {
             bInObject_ = bracket == '{';
             return true;
@@ -157,7 +157,7 @@ private:
             if (key_ == "type") column_.setTypeFromFile(typeTag(text));
             if (key_ == "name") column_.Text = std::move(text);
         } else if (depth_ < rowDepth()) {
-            if (!bInObject_) refuseSheet("it is no list of records");
+            if (!bInObject_) refuseSheet(core::tr("it is no list of records"));
         }
         return true;
     }
@@ -173,12 +173,12 @@ private:
             row_.push_back(std::move(cell));
         } else {
             const auto [place, bNew] = columns_.emplace(key_, columns_.size());
-            if (columns_.size() > SheetBounds::columns) refuseSheet("it has too many columns");
+            if (columns_.size() > SheetBounds::columns) refuseSheet(core::tr("it has too many columns"));
             row_.resize(std::max(row_.size(), place->second + 1));
             row_[place->second] = std::move(cell);
             if (bNew) names_.push_back(key_);
         }
-        if (row_.size() > SheetBounds::columns) refuseSheet("it has too many columns");
+        if (row_.size() > SheetBounds::columns) refuseSheet(core::tr("it has too many columns"));
     }
 
     void keepRow() {
@@ -209,7 +209,7 @@ private:
 
 Sheet readJsonSheet(const std::string& text, const Progress& progress) {
     RowEvents events(progress);
-    if (!json::sax_parse(text, &events)) refuseSheet("its JSON is damaged");
+    if (!json::sax_parse(text, &events)) refuseSheet(core::tr("its JSON is damaged"));
     return events.take();
 }
 

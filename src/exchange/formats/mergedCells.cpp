@@ -1,5 +1,6 @@
 #include "exchange/formats/mergedCells.h"
 
+#include "core/translate.h"
 #include "exchange/sheetCollector.h"
 
 #include <algorithm>
@@ -26,7 +27,7 @@ void MergedCells::add(std::string_view range) {
     if (colon == std::string_view::npos) return;
     const auto first = placeOf(range.substr(0, colon)), last = placeOf(range.substr(colon + 1));
     if (!first || !last || first->column > last->column || first->row > last->row) return;
-    if (ranges_.size() >= SheetBounds::rows) refuseSheet("it has too many merged cells");
+    if (ranges_.size() >= SheetBounds::rows) refuseSheet(core::tr("it has too many merged cells"));
     ranges_.push_back({*first, *last});
 }
 

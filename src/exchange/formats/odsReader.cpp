@@ -1,3 +1,4 @@
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/formats/sheetNumbers.h"
 #include "exchange/formats/xmlPieces.h"
@@ -21,7 +22,7 @@ public:
 
     XmlPieces content() const {
         auto part = zip_.openEntry("content.xml", SheetBounds::fileBytes);
-        if (!part) refuseSheet("it has no content.xml");
+        if (!part) refuseSheet(core::tr("it has no content.xml"));
         return XmlPieces(*std::move(part));
     }
 
@@ -216,11 +217,11 @@ std::vector<std::string> names(const std::filesystem::path& file) {
     XmlPieces pieces = document.content();
     std::vector<std::string> names;
     eachTable(pieces, [&](const std::string& name) {
-        if (names.size() >= SheetBounds::columns) refuseSheet("it has too many sheets");
+        if (names.size() >= SheetBounds::columns) refuseSheet(core::tr("it has too many sheets"));
         names.push_back(name);
         return true;
     });
-    if (names.empty()) refuseSheet("it has no sheets");
+    if (names.empty()) refuseSheet(core::tr("it has no sheets"));
     return names;
 }
 

@@ -1,4 +1,5 @@
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/toldTypes.h"
 #include "file/archive/packedPart.h"
@@ -280,7 +281,7 @@ std::string manifest() {
 } // namespace
 
 void write(const Target& target, const OutTable& table, const Progress& progress) {
-    if (table.columns.empty()) refuseSheet("it has no columns");
+    if (table.columns.empty()) refuseSheet(core::tr("it has no columns"));
     file::Zip zip;
     zip.CreateArchive(target.file, {}, target.like);
     // In front and as it is, so that the type can be told from the first bytes of the file.

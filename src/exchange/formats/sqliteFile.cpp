@@ -1,5 +1,6 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/formats/sheetNumbers.h"
 #include "exchange/formats/sqliteHandles.h"
@@ -27,7 +28,8 @@ void refuseUnfinished(const path& file) {
         std::error_code error;
         const auto size = std::filesystem::file_size(path(file) += ending, error);
         if (!error && size > 0)
-            refuseSheet("another program has changes for it that are not in it yet; close it there first");
+            refuseSheet(
+                core::tr("another program has changes for it that are not in it yet; close it there first"));
     }
 }
 
@@ -74,7 +76,7 @@ public:
         waitingSince_ = Clock::now();
         const int result = sqlite3_step(statement.get());
         if (result == SQLITE_ROW) return true;
-        if (result == SQLITE_INTERRUPT) refuseSheet("it takes too long to work out");
+        if (result == SQLITE_INTERRUPT) refuseSheet(core::tr("it takes too long to work out"));
         if (result != SQLITE_DONE) refuseDatabase(*database_);
         return false;
     }
@@ -84,10 +86,10 @@ public:
         const Statement all = ask("SELECT name FROM sqlite_master WHERE type IN ('table', 'view')"
                                   " AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY type, rowid");
         while (step(all)) {
-            if (names.size() >= SheetBounds::columns) refuseSheet("it has too many tables");
+            if (names.size() >= SheetBounds::columns) refuseSheet(core::tr("it has too many tables"));
             names.push_back(textAt(all, 0));
         }
-        if (names.empty()) refuseSheet("it has no tables");
+        if (names.empty()) refuseSheet(core::tr("it has no tables"));
         return names;
     }
 
@@ -194,7 +196,7 @@ Sheet read(const path& file, std::size_t sheet, const Progress& progress) {
         collector.endRow();
         // How many there are is not known before.
         if (collector.row() % rowsBetween == 0) tellProgress(progress, collector.row(), SheetBounds::rows);
-        if (collector.row() > SheetBounds::rows) refuseSheet("it has too many rows");
+        if (collector.row() > SheetBounds::rows) refuseSheet(core::tr("it has too many rows"));
     }
     Sheet table = collector.take();
     table.name = name;

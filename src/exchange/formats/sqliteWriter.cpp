@@ -1,5 +1,6 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/formats/sqliteHandles.h"
 
@@ -127,7 +128,7 @@ void refuseDatabase(sqlite3& database) {
 }
 
 void write(const Target& target, const OutTable& table, const Progress& progress) {
-    if (table.columns.empty()) refuseSheet("it has no columns");
+    if (table.columns.empty()) refuseSheet(core::tr("it has no columns"));
     sqlite3_hard_heap_limit64(0);
     const Database database = openDatabase(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     makeRoom(*database, table);

@@ -1,5 +1,6 @@
 #include "core/encoding.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/formats/sheetNumbers.h"
 #include "exchange/formats/vcardFields.h"
@@ -92,7 +93,7 @@ public:
         constexpr std::size_t longestHead = 4096;
         const std::string_view front = std::string_view(whole).substr(0, longestHead);
         const auto head = splitUnescaped(front, ':', true).front();
-        if (head.size() == front.size()) refuseSheet("one of its lines is no line of a vCard");
+        if (head.size() == front.size()) refuseSheet(core::tr("one of its lines is no line of a vCard"));
         auto pieces = splitUnescaped(head, ';', true);
         line.name = core::upper(pieces.front().substr(pieces.front().find('.') + 1));
         line.parameters.clear();
@@ -149,7 +150,7 @@ public:
         while (lines.next(line)) {
             const bool bCard = core::equalsNoCase(core::trim(line.value), "VCARD");
             if (line.name == "BEGIN" && bCard) {
-                if (bInCard) refuseSheet("one of its cards has no end");
+                if (bInCard) refuseSheet(core::tr("one of its cards has no end"));
                 bInCard = true;
                 card_.assign(vcardFields.size(), {});
             } else if (line.name == "END" && bCard && bInCard) {
@@ -158,10 +159,10 @@ public:
             } else if (bInCard) {
                 take(line);
             } else {
-                refuseSheet("it is no vCard");
+                refuseSheet(core::tr("it is no vCard"));
             }
         }
-        if (bInCard) refuseSheet("one of its cards has no end");
+        if (bInCard) refuseSheet(core::tr("one of its cards has no end"));
         return sheet();
     }
 
@@ -207,16 +208,16 @@ private:
 
     void keepCard(const Progress& progress) {
         constexpr std::size_t cardsBetween = 500;
-        if (cards_.size() >= mostCards) refuseSheet("it has too many cards");
+        if (cards_.size() >= mostCards) refuseSheet(core::tr("it has too many cards"));
         for (const std::string& value : card_) bytes_ += value.size();
-        if (bytes_ > SheetBounds::textBytes) refuseSheet("its texts are too long");
+        if (bytes_ > SheetBounds::textBytes) refuseSheet(core::tr("its texts are too long"));
         cards_.push_back(std::move(card_));
         if (cards_.size() % cardsBetween == 0) tellProgress(progress, cards_.size(), mostCards);
     }
 
     // The columns that any card has something for.
     Sheet sheet() {
-        if (cards_.empty()) refuseSheet("it has no cards");
+        if (cards_.empty()) refuseSheet(core::tr("it has no cards"));
         SheetCollector collector;
         std::vector<std::size_t> used;
         for (std::size_t i = 0; i < vcardFields.size(); ++i)

@@ -1,4 +1,5 @@
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/formats/sheetNumbers.h"
 #include "exchange/formats/vcardFields.h"
@@ -120,7 +121,7 @@ private:
 
 std::string vcardText(const OutTable& table, const Progress& progress) {
     constexpr std::size_t cardsBetween = 500;
-    if (table.columns.empty()) refuseSheet("it has no columns");
+    if (table.columns.empty()) refuseSheet(core::tr("it has no columns"));
     const CardWriter writer(table);
     std::string out;
     const std::size_t totals = table.bLastIsTotals && !table.rows.empty() ? 1 : 0;

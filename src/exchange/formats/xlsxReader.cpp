@@ -1,4 +1,5 @@
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/formats/mergedCells.h"
 #include "exchange/formats/sheetNumbers.h"
@@ -22,8 +23,7 @@ struct Part {
 };
 
 [[noreturn]] void refuseWithout(const std::string& name) {
-    std::string reason = "it has no ";
-    refuseSheet(reason.append(name));
+    refuseSheet(core::fill(core::tr("it has no %1"), {name}));
 }
 
 std::string partOf(const file::Zip& zip, const std::string& name) {
@@ -98,7 +98,7 @@ public:
             if (part.type == "officeDocument") main = part.target;
             if (part.type == "custom-properties") properties_ = part.target;
         }
-        if (main.empty()) refuseSheet("it has no workbook");
+        if (main.empty()) refuseSheet(core::tr("it has no workbook"));
         const auto relations = relationsOf(zip_, main);
         for (const auto& [id, part] : relations) {
             if (part.type == "sharedStrings") strings_ = part.target;
@@ -115,7 +115,7 @@ public:
             names.emplace_back(attributeOf(node, "name").value());
             targets_.push_back(part->second.target);
         }
-        if (names.empty()) refuseSheet("it has no sheets");
+        if (names.empty()) refuseSheet(core::tr("it has no sheets"));
     }
 
     XmlPieces sheet(std::size_t sheet) const { return piecesOf(zip_, targets_[sheet]); }
@@ -131,7 +131,7 @@ public:
             strings.push_back(textOfRuns(tree.document_element()));
             bytes += strings.back().size();
             if (strings.size() > mostStrings || bytes > SheetBounds::textBytes)
-                refuseSheet("its texts are too long");
+                refuseSheet(core::tr("its texts are too long"));
         }
         return strings;
     }
@@ -238,7 +238,7 @@ private:
 
     void readRow(const pugi::xml_node& node) {
         const std::size_t number = countIn(attributeOf(node, "r"));
-        if (number != 0 && number < nextRow_) refuseSheet("its rows are out of order");
+        if (number != 0 && number < nextRow_) refuseSheet(core::tr("its rows are out of order"));
         if (number != 0) collector_.blankRows(number - nextRow_);
         nextRow_ = (number == 0 ? nextRow_ : number) + 1;
         if (isTrue(attributeOf(node, "hidden"))) return;
@@ -246,7 +246,7 @@ private:
         for (const pugi::xml_node& cell : node) {
             if (localName(cell) != "c") continue;
             const std::size_t column = columnOf(attributeOf(cell, "r").value(), next);
-            if (column < next) refuseSheet("its cells are out of order");
+            if (column < next) refuseSheet(core::tr("its cells are out of order"));
             // Only as far as it can matter, since a hidden one is left out.
             for (; next < column && next < SheetBounds::columns; ++next) skip(next);
             if (column > next) collector_.blanks(column - next);
@@ -290,7 +290,7 @@ private:
         std::size_t place = 0;
         const auto [end, error] = std::from_chars(index.data(), index.data() + index.size(), place);
         if (error != std::errc() || place >= strings_.size())
-            refuseSheet("it names a text that is not there");
+            refuseSheet(core::tr("it names a text that is not there"));
         return strings_[place];
     }
 

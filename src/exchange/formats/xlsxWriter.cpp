@@ -1,5 +1,6 @@
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "exchange/formats/formats.h"
 #include "exchange/imageSize.h"
 #include "exchange/toldTypes.h"
@@ -147,8 +148,8 @@ private:
     }
 
     [[noreturn]] static void refuseLong(std::size_t row) {
-        std::string reason = "record ";
-        refuseSheet(reason.append(std::to_string(row + 1)).append(" has a text too long for a spreadsheet"));
+        refuseSheet(core::fill(core::tr("record %1 has a text too long for a spreadsheet"),
+                               {std::to_string(row + 1)}));
     }
     static void check(lxw_error error) {
         if (error == LXW_NO_ERROR) return;
@@ -187,7 +188,7 @@ private:
 
 void write(const Target& target, const OutTable& table, const Progress& progress) {
     constexpr std::size_t rowsBetween = 500;
-    if (table.columns.empty()) refuseSheet("it has no columns");
+    if (table.columns.empty()) refuseSheet(core::tr("it has no columns"));
     file::AtomicFile result(target.file, target.like);
     // The library opens a file by its name; this one is the hidden file that takes the place of the old one.
     SheetWriter writer("/proc/self/fd/" + std::to_string(result.fd()), table);

@@ -1,5 +1,6 @@
 #include "exchange/formats/xmlPieces.h"
 
+#include "core/translate.h"
 #include "exchange/sheetCollector.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ constexpr std::size_t mostElementBytes = std::size_t{4} << 20U;
 constexpr unsigned treeOptions = pugi::parse_default | pugi::parse_ws_pcdata;
 
 [[noreturn]] void refuseXml() {
-    refuseSheet("its XML is damaged");
+    refuseSheet(core::tr("its XML is damaged"));
 }
 
 std::string_view withoutPrefix(std::string_view name) {
@@ -80,7 +81,7 @@ bool XmlPieces::skipMarkup() {
     if (begins("<!--")) return skipTo("-->");
     if (begins("<![CDATA[")) return skipTo("]]>");
     if (begins("<?")) return skipTo("?>");
-    if (begins("<!")) refuseSheet("it has a document type, which no spreadsheet has");
+    if (begins("<!")) refuseSheet(core::tr("it has a document type, which no spreadsheet has"));
     return false;
 }
 
@@ -126,7 +127,7 @@ void XmlPieces::read(const Element& element, pugi::xml_document& tree) {
     for (int depth = element.isEmpty ? 0 : 1; depth > 0;) {
         const Element inner = find(name, true);
         if (inner.name.empty()) refuseXml();
-        if (at_ - element.begin > mostElementBytes) refuseSheet("one of its rows is too long");
+        if (at_ - element.begin > mostElementBytes) refuseSheet(core::tr("one of its rows is too long"));
         if (inner.isEnd)
             --depth;
         else if (!inner.isEmpty)
@@ -144,9 +145,9 @@ void XmlPieces::readTag(const Element& element, pugi::xml_document& tree) const 
 }
 
 void readXml(std::string_view text, pugi::xml_document& tree) {
-    if (text.size() > mostElementBytes) refuseSheet("its styles are too long");
+    if (text.size() > mostElementBytes) refuseSheet(core::tr("its styles are too long"));
     if (text.find("<!DOCTYPE") != std::string_view::npos)
-        refuseSheet("it has a document type, which no spreadsheet has");
+        refuseSheet(core::tr("it has a document type, which no spreadsheet has"));
     if (!tree.load_buffer(text.data(), text.size(), treeOptions)) refuseXml();
 }
 

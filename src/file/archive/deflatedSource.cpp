@@ -1,6 +1,7 @@
 #include "file/archive/deflatedSource.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 
 #include <algorithm>
 #include <cstring>
@@ -25,7 +26,7 @@ std::string pack(std::string_view bytes, int level) {
     const auto room = std::make_unique_for_overwrite<char[]>(most);
     const std::size_t size =
         libdeflate_deflate_compress(compressor.get(), bytes.data(), bytes.size(), room.get(), most);
-    if (size == 0) core::raise(core::errors::deviceIO, "packing");
+    if (size == 0) core::raise(core::errors::deviceIO, core::tr("packing"));
     return {room.get(), size};
 }
 

@@ -1,5 +1,6 @@
 #include "file/archive/packedArchive.h"
 
+#include "core/translate.h"
 #include "file/archive/zipEntry.h"
 
 #include <algorithm>
@@ -103,7 +104,7 @@ FileHandle openArchive(const fs::path& file) {
     // libzip takes a file without a byte for an archive without entries.
     const off_t size = ::lseek(handle.get(), 0, SEEK_END);
     if (size < 0) raiseSystemError(errno, file.string());
-    if (size == 0) raiseDamaged(file.string() + " is empty");
+    if (size == 0) raiseDamaged(core::fill(core::tr("%1 is empty"), {file.string()}));
     return handle;
 }
 
@@ -150,7 +151,7 @@ void PackedArchive::copy(const PackedEntry& entry, int fd, const fs::path& file)
         place += count;
     }
     if (static_cast<std::uint64_t>(place) != entry.packedSize)
-        raiseDamaged(file_.string() + " ended too early");
+        raiseDamaged(core::fill(core::tr("%1 ended too early"), {file_.string()}));
 }
 
 PackedWriter::PackedWriter()

@@ -1,6 +1,7 @@
 #include "file/archive/zip.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/archive/archiveSource.h"
 #include "file/archive/deflatedSource.h"
 #include "file/archive/zipEntry.h"
@@ -184,7 +185,7 @@ void Zip::OpenArchive(const fs::path& file) {
     // libzip takes a file without a byte for an archive without entries.
     const off_t size = ::lseek(handle.get(), 0, SEEK_END);
     if (size < 0) raiseSystemError(errno, file.string());
-    if (size == 0) raiseDamaged(file.string() + " is empty");
+    if (size == 0) raiseDamaged(core::fill(core::tr("%1 is empty"), {file.string()}));
     archive = std::make_unique<Archive>(file, std::move(handle), 0);
 }
 
@@ -193,7 +194,7 @@ void Zip::CreateArchive(const fs::path& file, std::string_view comment, const fs
     auto fresh = std::make_unique<Archive>(file, FileHandle(), ZIP_CREATE | ZIP_TRUNCATE);
     const auto length = static_cast<zip_uint16_t>(comment.size());
     if (comment.size() > maxCommentBytes || zip_set_archive_comment(fresh->zip, comment.data(), length) != 0)
-        core::raise(core::errors::badFileFormat, file.string() + ": bad comment");
+        core::raise(core::errors::badFileFormat, core::fill(core::tr("%1: bad comment"), {file.string()}));
     fresh->isNew = true;
     fresh->like = like;
     archive = std::move(fresh);
@@ -232,7 +233,7 @@ void Zip::AddFile(const fs::path& file, std::string_view comment) {
     struct stat status {};
     if (::fstat(handle.get(), &status) != 0) raiseSystemError(errno, path.string());
     if (static_cast<std::uint64_t>(status.st_size) > maxFileBytes)
-        raiseDamaged(path.string() + " is too large");
+        raiseDamaged(core::fill(core::tr("%1 is too large"), {path.string()}));
     std::FILE* stream = ::fdopen(handle.get(), "rb");
     if (!stream) raiseSystemError(errno, path.string());
     handle.release();
@@ -364,7 +365,7 @@ std::optional<std::string> Zip::readEntry(const std::string& name, std::uint64_t
 }
 
 Zip::Archive& Zip::open() const {
-    if (!archive) core::raise(core::errors::badFileName, "no archive is open");
+    if (!archive) core::raise(core::errors::badFileName, core::tr("no archive is open"));
     return *archive;
 }
 
@@ -376,7 +377,7 @@ std::unique_ptr<Zip::Archive> Zip::takeOpen() {
 std::uint64_t Zip::entryAt(int index) const {
     const auto& living = open().living;
     if (index < 0 || static_cast<std::size_t>(index) >= living.size())
-        core::raise(core::errors::subscriptOutOfRange, "archive entry");
+        core::raise(core::errors::subscriptOutOfRange, core::tr("archive entry"));
     return living[static_cast<std::size_t>(index)];
 }
 

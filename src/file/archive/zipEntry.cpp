@@ -1,6 +1,7 @@
 #include "file/archive/zipEntry.h"
 
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "file/archive/checksum.h"
 #include "file/fileHandle.h"
 
@@ -31,16 +32,16 @@ void raiseDamaged(const std::string& detail) {
 EntryReader::EntryReader(zip_t* zip, zip_uint64_t index, std::uint64_t archiveSize, std::uint64_t maxBytes) {
     zip_stat_t status;
     zip_stat_init(&status);
-    if (zip_stat_index(zip, index, 0, &status) != 0) raiseZipError(*zip_get_error(zip), "entry");
+    if (zip_stat_index(zip, index, 0, &status) != 0) raiseZipError(*zip_get_error(zip), core::tr("entry"));
     name = status.name ? status.name : "";
     constexpr std::uint64_t highestRatio = 1032; // of deflated bytes
     const bool deflated = status.comp_method == ZIP_CM_DEFLATE;
     const bool known = deflated || status.comp_method == ZIP_CM_STORE;
     if (!known || status.encryption_method != ZIP_EM_NONE)
-        raiseDamaged(name + " is packed in an unknown way");
+        raiseDamaged(core::fill(core::tr("%1 is packed in an unknown way"), {name}));
     if (status.comp_size > archiveSize || status.size / (deflated ? highestRatio : 1) > status.comp_size)
-        raiseDamaged(name + " has a wrong size");
-    if (status.size > maxBytes) raiseDamaged(name + " is too large");
+        raiseDamaged(core::fill(core::tr("%1 has a wrong size"), {name}));
+    if (status.size > maxBytes) raiseDamaged(core::fill(core::tr("%1 is too large"), {name}));
     declared = status.size;
     file = zip_fopen_index(zip, index, 0);
     if (!file) raiseZipError(*zip_get_error(zip), name);
@@ -50,7 +51,8 @@ std::size_t EntryReader::read(char* bytes, std::size_t count) {
     const zip_int64_t got = zip_fread(file, bytes, count);
     if (got < 0) raiseZipError(*zip_file_get_error(file), name);
     produced += static_cast<std::uint64_t>(got);
-    if (produced > declared || (got == 0 && produced < declared)) raiseDamaged(name + " has a wrong size");
+    if (produced > declared || (got == 0 && produced < declared))
+        raiseDamaged(core::fill(core::tr("%1 has a wrong size"), {name}));
     return static_cast<std::size_t>(got);
 }
 
@@ -99,7 +101,7 @@ void copyFile(int from, int to, std::uint64_t size, const std::string& detail) {
         const ssize_t count = ::pread(from, chunk.data(), chunk.size(), place);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) raiseSystemError(errno, detail);
-        if (count == 0) raiseDamaged(detail + " ended too early");
+        if (count == 0) raiseDamaged(core::fill(core::tr("%1 ended too early"), {detail}));
         if (const int failure = writeAt(to, chunk.data(), static_cast<std::size_t>(count), place))
             raiseSystemError(failure, detail);
         place += count;

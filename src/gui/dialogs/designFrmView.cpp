@@ -1,5 +1,6 @@
 #include "gui/dialogs/designFrmView.h"
 
+#include "core/translate.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
@@ -137,7 +138,7 @@ void designFrmView::showRows() {
                                                          &shown.AutoSerial};
         for (std::size_t i = 0; i < texts.size(); ++i) {
             const int section = static_cast<int>(i);
-            item->setText(section, toQt(*texts[i]));
+            item->setText(section, toQt(i == 0 ? *texts[i] : core::tr(*texts[i])));
             // What cannot be set for the column steps back.
             item->setData(section, Qt::ForegroundRole,
                           *texts[i] == "NA" && section >= 2

@@ -1,6 +1,8 @@
 #include "gui/dialogs/disclaimFrmView.h"
 
+#include "core/translate.h"
 #include "gui/dialogs/dialogFit.h"
+#include "gui/widgets/qtText.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -11,7 +13,7 @@ namespace gui {
 
 namespace {
 
-constexpr auto disclaimer =
+constexpr auto disclaimer = core::marked(
     "<h3>Before you begin</h3>"
     "<p>Ferrowick is free software. It is provided <b>as it is, without a warranty of any kind</b>: nobody "
     "promises that it is free of errors or fit for what you want to do with it, and nobody answers for "
@@ -25,7 +27,7 @@ constexpr auto disclaimer =
     "<li>The design lock keeps a design from being changed by mistake. It does not encrypt anything: "
     "whoever has the file can read what is in it.</li>"
     "</ul>"
-    "<p>The licence that comes with the program has the full terms.</p>";
+    "<p>The licence that comes with the program has the full terms.</p>");
 
 } // namespace
 
@@ -35,7 +37,7 @@ disclaimFrmView::disclaimFrmView(QWidget* parent) : QDialog(parent) {
     auto* text = new QTextBrowser;
     text->setObjectName(QStringLiteral("RichTextBox1"));
     text->setAccessibleName(windowTitle());
-    text->setHtml(QString::fromUtf8(disclaimer));
+    text->setHtml(toQt(core::tr(disclaimer)));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
     QPushButton* close = buttons->button(QDialogButtonBox::Ok);
     close->setObjectName(QStringLiteral("Command1"));

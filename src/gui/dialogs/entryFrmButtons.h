@@ -7,7 +7,7 @@
 namespace gui {
 
 struct EntryFrmButton {
-    const char* key; // none: a gap
+    const char* key; // and, translated, what a screen reader calls it; none: a gap
     const char* tip;
     const char* icon;
     QKeySequence keys;

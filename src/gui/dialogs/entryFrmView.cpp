@@ -120,7 +120,7 @@ QToolBar* entryFrmView::makeToolbar() {
             bar->addSeparator();
             continue;
         }
-        QAction* action = bar->addAction(familyIcon(QLatin1String(look.icon)), QLatin1String(look.key));
+        QAction* action = bar->addAction(familyIcon(QLatin1String(look.icon)), tr(look.key));
         action->setObjectName(QLatin1String(look.key));
         action->setShortcut(look.keys);
         action->setToolTip(

@@ -50,7 +50,7 @@ FontDialog::FontDialog(const platform::FontChoice& present, QWidget* parent)
     auto* size = new QLabel(tr("&Size:"));
     size->setBuddy(sizeTxt_);
     auto* paper = new QGroupBox(tr("Sample"));
-    sample_->setText(QStringLiteral("AaBbYyZz 123"));
+    sample_->setText(tr("AaBbYyZz 123"));
     sample_->setAlignment(Qt::AlignCenter);
     sample_->setAutoFillBackground(true);
     sample_->setMinimumSize(1, fontMetrics().height() * 4); // a large font is cut, and moves nothing

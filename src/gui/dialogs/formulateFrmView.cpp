@@ -1,5 +1,7 @@
 #include "gui/dialogs/formulateFrmView.h"
 
+#include "calc/formulas.h"
+#include "core/translate.h"
 #include "gui/dialogs/dialogFit.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
@@ -202,7 +204,8 @@ bool formulateFrmView::eventFilter(QObject* watched, QEvent* event) {
 void formulateFrmView::showMembers() {
     for (std::size_t i = 0; i < form_.colList.size(); ++i) {
         QTreeWidgetItem* item = colList_->topLevelItem(static_cast<int>(i));
-        item->setText(1, toQt(form_.colList[i].Formula));
+        const std::string& formula = form_.colList[i].Formula;
+        item->setText(1, toQt(formula == calc::undefined ? core::tr(formula) : formula));
         item->setToolTip(1, item->text(1));
     }
     colList_->setCurrentItem(colList_->topLevelItem(form_.selectedRow));

@@ -1,5 +1,6 @@
 #include "gui/frame/commandActions.h"
 
+#include "core/translate.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
@@ -85,15 +86,15 @@ CommandActions::CommandActions(app::App& app, EventBoundary& events, QObject* pa
 
 QAction* CommandActions::add(std::string_view key) {
     const shell::Command& command = shell::command(key);
-    auto* action = new QAction(familyIcon(toQt(command.icon)), toQt(command.caption), this);
+    auto* action = new QAction(familyIcon(toQt(command.icon)), toQt(core::tr(command.caption)), this);
     action->setObjectName(toQt(key));
     action->setCheckable(command.checkable);
     // Only the Exit of the menu ends the program; Qt would else guess from the captions.
     action->setMenuRole(QAction::NoRole);
     if (!command.tip.empty()) {
         const QString keys = shortcutOfButton(key).toString(QKeySequence::NativeText);
-        action->setToolTip(keys.isEmpty() ? toQt(command.tip)
-                                          : QStringLiteral("%1 (%2)").arg(toQt(command.tip), keys));
+        const QString tip = toQt(core::tr(command.tip));
+        action->setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
     }
     connect(action, &QAction::triggered, this,
             [this, name = std::string(key)] { events_.run([&] { shell::runCommand(app_, name); }); });
@@ -116,7 +117,7 @@ void CommandActions::fill(QMenu& menu, const std::vector<std::string_view>& keys
 
 void CommandActions::addMenuBar(QMainWindow& window) {
     for (const shell::Menu& menu : shell::menuBar()) {
-        QMenu* shown = window.menuBar()->addMenu(toQt(menu.caption));
+        QMenu* shown = window.menuBar()->addMenu(toQt(core::tr(menu.caption)));
         shown->setObjectName(toQt(menu.key));
         fill(*shown, menu.items);
         menus_.emplace(menu.key, shown);

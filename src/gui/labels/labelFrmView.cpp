@@ -1,5 +1,6 @@
 #include "gui/labels/labelFrmView.h"
 
+#include "core/translate.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
@@ -289,7 +290,7 @@ void labelFrmView::fillStocks() {
         const QString count =
             QString::number(stock->columns) + QStringLiteral(" \u00D7 ") + QString::number(stock->rows);
         rows << new QTreeWidgetItem({toQt(stock->maker + " " + stock->number), toQt(stock->kind),
-                                     sizeOf(*stock), count, toQt(stock->paper)});
+                                     sizeOf(*stock), count, toQt(core::tr(stock->paper))});
     }
     List1_->addTopLevelItems(rows);
     for (int column = 0; column < List1_->columnCount(); ++column) List1_->resizeColumnToContents(column);
@@ -313,13 +314,13 @@ void labelFrmView::showSheetPage() {
     sheetLbl_->clear();
     if (!form_.stock) return;
     const labels::LabelStock& stock = *form_.stock;
-    QString told = (stock.perSheet() == 1 ? tr("One label of %1 mm on %2") : tr("%3 labels of %1 mm on %2"))
-                       .arg(sizeOf(stock), toQt(stock.paper));
-    if (stock.perSheet() > 1) told = told.arg(stock.perSheet());
+    QString told = toQt(core::tr("One label of %1 mm on %2", "%n labels of %1 mm on %2", stock.perSheet()))
+                       .arg(sizeOf(stock), toQt(core::tr(stock.paper)));
     if (stock.columns > 1)
-        told += tr("\nGap across: %1 mm").arg(millimetres(std::max(stock.columnPitch - stock.width, 0.0)));
+        told +=
+            u'\n' + tr("Gap across: %1 mm").arg(millimetres(std::max(stock.columnPitch - stock.width, 0.0)));
     if (stock.rows > 1)
-        told += tr("\nGap down: %1 mm").arg(millimetres(std::max(stock.rowPitch - stock.height, 0.0)));
+        told += u'\n' + tr("Gap down: %1 mm").arg(millimetres(std::max(stock.rowPitch - stock.height, 0.0)));
     sheetLbl_->setText(told);
 }
 

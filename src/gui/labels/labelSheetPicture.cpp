@@ -52,7 +52,7 @@ void LabelSheetPicture::show(const std::optional<labels::LabelStock>& stock, int
     setCursor(start > 0 ? Qt::PointingHandCursor : Qt::ArrowCursor);
     QString told = tr("No sheet");
     if (stock_) told = tr("%1 across, %2 down").arg(stock_->columns).arg(stock_->rows);
-    if (start > 0) told += tr(", first label %1").arg(start);
+    if (start > 0) told = tr("%1, first label %2").arg(told, QString::number(start));
     setAccessibleDescription(told);
     update();
 }

@@ -1,4 +1,5 @@
 #include "gui/layout/layoutPageView.h"
+#include "core/translate.h"
 #include "layout/layoutPage.h"
 
 #include "entry/navBar.h"
@@ -78,7 +79,7 @@ LayoutPageView::LayoutPageView(app::App& app, EventBoundary& events, QWidget* pa
 QWidget* LayoutPageView::makeNavBar() {
     layoutNavBar_ = makeBar(QStringLiteral("layoutNavBar"), tr("Record"));
     for (const entry::NavButton& button : entry::navButtons()) {
-        QAction* action = layoutNavBar_->addAction(familyIcon(toQt(button.icon)), toQt(button.tip));
+        QAction* action = layoutNavBar_->addAction(familyIcon(toQt(button.icon)), toQt(core::tr(button.tip)));
         action->setObjectName(QStringLiteral("layoutNavBar.") + toQt(button.key));
         connect(action, &QAction::triggered, this, [this, key = button.key] {
             events_.run([&] { entry::layoutNavBar_ButtonClick(app_, key); });
@@ -110,7 +111,8 @@ QToolBar* LayoutPageView::makeToolbar() {
             layoutToolbar_->addSeparator();
             continue;
         }
-        QAction* action = layoutToolbar_->addAction(familyIcon(toQt(button.icon)), toQt(button.tip));
+        QAction* action =
+            layoutToolbar_->addAction(familyIcon(toQt(button.icon)), toQt(core::tr(button.tip)));
         action->setObjectName(QStringLiteral("layoutToolbar.") + toQt(button.key));
         action->setCheckable(button.checkable);
         if (button.hasMenu) addMenu(*layoutToolbar_, *action, button.key);

@@ -160,7 +160,7 @@ std::optional<std::string> QtPlatform::showSave(const platform::FileDialog& dial
 }
 
 std::optional<std::string> QtPlatform::showNew(const platform::FileDialog& dialog) {
-    return askForNewName(dialog, QStringLiteral("&Create"));
+    return askForNewName(dialog, QObject::tr("&Create"));
 }
 
 void QtPlatform::showForm(std::string_view name) {

@@ -1,4 +1,5 @@
 #include "core/runTimeError.h"
+#include "core/translate.h"
 #include "gui/machine/qtPlatform.h"
 #include "gui/widgets/modalScope.h"
 #include "gui/widgets/qtText.h"
@@ -33,19 +34,19 @@ std::optional<std::string> QtPlatform::askForPdfFile(const std::string& document
     const QString named = printer_.takeFileName();
     std::optional<std::string> file;
     if (named.isEmpty())
-        file =
-            showSave({"Print to PDF", documentName + ".pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*"});
+        file = showSave({core::tr("Print to PDF"), documentName + ".pdf",
+                         core::tr("PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*")});
     else
         file = fromQt(named);
     std::error_code none;
     if (file && window_.currentFile && std::filesystem::equivalent(*file, window_.currentFile(), none)) {
-        msgBox(*file + " is the open database, and cannot be printed into.", platform::Icon::Exclamation,
-               "Print to PDF", platform::Buttons::Ok);
+        msgBox(core::fill(core::tr("%1 is the open database, and cannot be printed into."), {*file}),
+               platform::Icon::Exclamation, core::tr("Print to PDF"), platform::Buttons::Ok);
         return std::nullopt;
     }
     if (named.isEmpty() && file && QFileInfo::exists(toQt(*file)) &&
-        msgBox("A file with that name exists. Overwrite it?", platform::Icon::Question, "Print to PDF",
-               platform::Buttons::YesNo) == platform::Answer::No)
+        msgBox(core::tr("A file with that name exists. Overwrite it?"), platform::Icon::Question,
+               core::tr("Print to PDF"), platform::Buttons::YesNo) == platform::Answer::No)
         return std::nullopt;
     return file;
 }
@@ -59,8 +60,8 @@ void QtPlatform::openPdfIfWanted(const std::string& file) {
         [this, file] {
             const QString path = QFileInfo(toQt(file)).absoluteFilePath();
             if (QDesktopServices::openUrl(QUrl::fromLocalFile(path))) return;
-            msgBox(file + " was made, but there is no program that opens it.", platform::Icon::Exclamation,
-                   "Print to PDF");
+            msgBox(core::fill(core::tr("%1 was made, but there is no program that opens it."), {file}),
+                   platform::Icon::Exclamation, core::tr("Print to PDF"));
         },
         Qt::QueuedConnection);
 }
@@ -74,8 +75,8 @@ std::unique_ptr<drawing::DrawTarget> QtPlatform::openPrinter(const std::string& 
         return qtprint::openPdfFile(*file, documentName, textMetrics_, database,
                                     [this, name = *file] { openPdfIfWanted(name); });
     } catch (const core::RunTimeError& error) {
-        msgBox(*file + " could not be written.\n" + error.what(), platform::Icon::Exclamation,
-               "Print to PDF");
+        msgBox(core::fill(core::tr("%1 could not be written.\n%2"), {*file, error.what()}),
+               platform::Icon::Exclamation, core::tr("Print to PDF"));
         return nullptr;
     }
 }

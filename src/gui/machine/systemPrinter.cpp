@@ -1,5 +1,6 @@
 #include "gui/machine/systemPrinter.h"
 
+#include "core/translate.h"
 #include "drawing/papers.h"
 #include "gui/dialogs/dialogFit.h"
 #include "gui/widgets/qtText.h"
@@ -86,7 +87,7 @@ bool SystemPrinter::isPdf() {
 }
 
 std::string SystemPrinter::deviceName() {
-    return isPdf() ? "Print to PDF" : fromQt(printer().printerName());
+    return isPdf() ? core::tr("Print to PDF") : fromQt(printer().printerName());
 }
 
 std::vector<platform::PaperName> SystemPrinter::papers() {
@@ -107,8 +108,9 @@ std::vector<platform::PaperName> SystemPrinter::papers() {
                               {std::lround(points.width()), std::lround(points.height())}});
         }
     }
-    if (info.supportsCustomPageSizes() && names.insert(QStringLiteral("Custom")).second)
-        papers.push_back({"Custom", drawing::customPaperCode});
+    const QString custom = QObject::tr("Custom");
+    if (info.supportsCustomPageSizes() && names.insert(custom).second)
+        papers.push_back({fromQt(custom), drawing::customPaperCode});
     return papers;
 }
 
@@ -125,7 +127,7 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     else if (paper != nullptr)
         chosen.setPageSize(QPageSize(
             QSizeF(static_cast<qreal>(paper->Width), static_cast<qreal>(paper->Height)) / twipsPerPoint,
-            QPageSize::Point, toQt(paper->name)));
+            QPageSize::Point, toQt(core::tr(paper->name))));
     const int offered = chosen.pageLayout().pageSize().windowsId();
     chosen.setPageOrientation(present.Orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
     QPrintDialog dialog(&chosen, parent);

@@ -2,20 +2,11 @@
 
 #include "gui/widgets/qtText.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QRadioButton>
 
 namespace gui {
-
-namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("pageSetup", text);
-}
-
-} // namespace
 
 QLineEdit* boundEdit(const char* name, std::string& member) {
     auto* edit = new QLineEdit(toQt(member));
@@ -28,21 +19,22 @@ QLineEdit* boundEdit(const char* name, std::string& member) {
 QGroupBox* makeMarginsFrame(std::string& left, std::string& right, std::string& top, std::string& bottom) {
     struct Box {
         const char* name;
-        const char* caption;
+        QString caption;
         std::string* member;
     };
-    auto* frame = new QGroupBox(tr(" Margins "));
+    auto* frame = new QGroupBox(QObject::tr(" Margins "));
     auto* grid = new QGridLayout(frame);
     int row = 0;
-    for (const Box& box : {Box{"leftTxt", "Left:", &left}, Box{"rightTxt", "Right:", &right},
-                           Box{"TopTxt", "Top:", &top}, Box{"bottomTxt", "Bottom:", &bottom}}) {
-        auto* label = new QLabel(tr(box.caption));
+    for (const Box& box :
+         {Box{"leftTxt", QObject::tr("Left:"), &left}, Box{"rightTxt", QObject::tr("Right:"), &right},
+          Box{"TopTxt", QObject::tr("Top:"), &top}, Box{"bottomTxt", QObject::tr("Bottom:"), &bottom}}) {
+        auto* label = new QLabel(box.caption);
         QLineEdit* edit = boundEdit(box.name, *box.member);
         edit->setMaximumWidth(edit->fontMetrics().averageCharWidth() * 12);
         label->setBuddy(edit);
         grid->addWidget(label, row, 0);
         grid->addWidget(edit, row, 1);
-        grid->addWidget(new QLabel(tr("inches.")), row, 2);
+        grid->addWidget(new QLabel(QObject::tr("inches.")), row, 2);
         ++row;
     }
     grid->setColumnStretch(2, 1);

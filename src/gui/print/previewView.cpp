@@ -1,5 +1,6 @@
 #include "gui/print/previewView.h"
 #include "app/looks.h"
+#include "core/translate.h"
 #include "print/previewPage.h"
 
 #include "gui/widgets/icon.h"
@@ -52,7 +53,7 @@ QToolBar* PreviewView::makeToolbar(CommandActions& actions) {
     bar->setAccessibleName(tr("Preview"));
     bar->setIconSize({pageIconSize, pageIconSize});
     for (const print::PreviewButton& button : print::previewButtons()) {
-        QAction* action = bar->addAction(familyIcon(toQt(button.icon)), toQt(button.tip));
+        QAction* action = bar->addAction(familyIcon(toQt(button.icon)), toQt(core::tr(button.tip)));
         action->setObjectName(QStringLiteral("reportToolbar.") + toQt(button.key));
         connect(action, &QAction::triggered, this, [this, key = button.key] {
             events_.run([&] { print::reportToolbar_ButtonClick(app_, key); });

@@ -2,6 +2,7 @@
 
 #include "app/fileSettings.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "search/codes/codeSource.h"
 #include "search/manyRecords.h"
 
@@ -63,11 +64,11 @@ void noteAll(App& app) {
 }
 
 void tellFaulty(App& app, const std::string& column, const std::vector<FaultyText>& faulty) {
-    std::string text;
-    text.append(counted(faulty.size(), "record has", "records have"));
-    text.append(" no code in ").append(column).append(" now.  ");
-    text.append(nameOf(app.document, *faulty.front().record)).append(": ").append(faulty.front().reason);
-    app::warn(app, text.append("."));
+    const std::string text =
+        core::tr("%n record has no code in %1 now.  %2: %3.", "%n records have no code in %1 now.  %2: %3.",
+                 static_cast<int>(faulty.size()));
+    app::warn(
+        app, core::fill(text, {column, nameOf(app.document, *faulty.front().record), faulty.front().reason}));
 }
 
 void makeAnew(App& app, const std::string& column, const CodeRule& rule, SeenTexts& seen) {
@@ -161,7 +162,7 @@ void followRecordsForCodes(App& app) {
             if (!faultOf(app.document, orderOf(column, rule))) makeAnew(app, column, rule, seen);
         } catch (const core::RunTimeError& error) {
             if (error.number != core::errors::cancelled)
-                app::warn(app, std::string("The codes could not be made anew: ") + error.what());
+                app::warn(app, core::fill(core::tr("The codes could not be made anew: %1"), {error.what()}));
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "entry/retrieveData.h"
 
 #include <utility>
@@ -10,16 +11,14 @@ namespace search {
 
 namespace {
 
-[[noreturn]] void refuseSource(std::string reason) {
+[[noreturn]] void refuseSource(const std::string& reason) {
     throw core::RunTimeError(core::errors::typeMismatch, reason);
 }
 
 const core::Column& namedColumn(const core::Document& document, std::string_view name) {
     const core::Column* column = document.LV.columns.find(name);
     if (column != nullptr && column->Index != 1) return *column;
-    std::string reason = "There is no column \"";
-    reason.append(name).append("\"");
-    refuseSource(std::move(reason));
+    refuseSource(core::fill(core::tr("There is no column \"%1\""), {name}));
 }
 
 } // namespace
@@ -33,8 +32,8 @@ CodeSource::CodeSource(const core::Document& document, std::string_view text) {
         } else if (text[i] == '{') {
             const std::size_t end = text.find('}', i);
             if (end == std::string_view::npos)
-                refuseSource("The brace at place " + std::to_string(core::length(text.substr(0, i)) + 1) +
-                             " is not closed");
+                refuseSource(core::fill(core::tr("The brace at place %1 is not closed"),
+                                        {std::to_string(core::length(text.substr(0, i)) + 1)}));
             const core::Column& column = namedColumn(document, text.substr(i + 1, end - i - 1));
             if (!plain.empty()) pieces_.push_back({std::exchange(plain, {}), nullptr});
             pieces_.push_back({{}, &column});

@@ -1,6 +1,7 @@
 #include "search/codes/makeCodeFrm.h"
 
 #include "core/text.h"
+#include "core/translate.h"
 #include "search/codes/codeRules.h"
 #include "search/codes/codeSource.h"
 
@@ -56,7 +57,7 @@ void makeCodeFor(App& app, const std::string& column) {
 
 makeCodeFrm::makeCodeFrm(App& app)
     : List1(columnNames(app.document, true)), columns(columnNames(app.document, false)), app_(app) {
-    for (const codes::Kind kind : codes::allKinds) List2.emplace_back(codes::kindName(kind));
+    for (const codes::Kind kind : codes::allKinds) List2.push_back(core::tr(codes::kindName(kind)));
     for (const Scope each : {selectedRecords, foundRecords, allRecords}) {
         const auto place = static_cast<std::size_t>(each);
         if (each != foundRecords || app.document.searchLV.Visible) records_.at(place) = recordsIn(app, each);
@@ -140,7 +141,7 @@ void makeCodeFrm::show() {
     const std::vector<core::Item*>& records = records_.at(static_cast<std::size_t>(scope));
     if (ListIndex < 0 || records.empty()) return;
     if (core::trim(Text1).empty()) {
-        Label2 = "There is no text to make codes of";
+        Label2 = core::tr("There is no text to make codes of");
         return;
     }
     if (const auto fault = faultOf(app_.document, order())) {
@@ -150,12 +151,11 @@ void makeCodeFrm::show() {
     OKButtonEnabled = true;
     const core::Item* current = app_.document.LV.selectedItem();
     if (std::ranges::find(records, current) == records.end()) current = records.front();
-    Label1 = "Code of ";
-    Label1.append(nameOf(app_.document, *current));
+    Label1 = core::fill(core::tr("Code of %1"), {nameOf(app_.document, *current)});
     const std::string text = CodeSource(app_.document, Text1).textOf(*current);
     try {
         if (core::trim(text).empty()) {
-            Label2 = "This record has no text, and gets no code";
+            Label2 = core::tr("This record has no text, and gets no code");
             return;
         }
         pictureText = codes::encodedText(order().kind, text);
@@ -170,9 +170,9 @@ void makeCodeFrm::showRefused(const std::vector<FaultyText>& faulty) {
     for (const FaultyText& each : faulty)
         List3.push_back({std::to_string(app_.document.LV.indexOf(*each.record)),
                          nameOf(app_.document, *each.record), each.reason});
-    Label2 = "Nothing has been made.  ";
-    Label2.append(counted(faulty.size(), "record has a text that gives no code",
-                          "records have texts that give no code"));
+    Label2 = core::tr("Nothing has been made.  %n record has a text that gives no code",
+                      "Nothing has been made.  %n records have texts that give no code",
+                      static_cast<int>(faulty.size()));
     OKButtonEnabled = false;
 }
 
@@ -196,7 +196,7 @@ void makeCodeFrm::OKButton_Click() {
             showRefused(made.faulty);
     } catch (const core::RunTimeError& error) {
         if (error.number != core::errors::cancelled)
-            app::warn(app_, std::string("The codes could not be stored: ") + error.what());
+            app::warn(app_, core::fill(core::tr("The codes could not be stored: %1"), {error.what()}));
     }
 }
 

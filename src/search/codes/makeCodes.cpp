@@ -4,6 +4,7 @@
 #include "app/longWork.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "search/codes/codeSource.h"
 #include "search/searchMode.h"
 
@@ -42,10 +43,8 @@ std::set<std::string, std::less<>> usedCodes(const RecordsList& records, const C
 
 std::optional<std::string> faultOf(const core::Document& document, const CodeOrder& order) {
     const Column* column = document.LV.columns.find(order.column);
-    if (column == nullptr || !column->isType(core::ColumnType::Picture)) {
-        std::string reason = "There is no column of pictures \"";
-        return reason.append(order.column).append("\"");
-    }
+    if (column == nullptr || !column->isType(core::ColumnType::Picture))
+        return core::fill(core::tr("There is no column of pictures \"%1\""), {order.column});
     try {
         const CodeSource source(document, order.source);
     } catch (const core::RunTimeError& error) {
@@ -60,7 +59,7 @@ MadeCodes makeCodes(App& app, const CodeOrder& order, const std::vector<Item*>& 
     const Column& column = app.document.LV.columns[order.column];
     MadeCodes made;
     std::unordered_set<std::string> names;
-    app::LongWork work(app, "Making codes", static_cast<int>(records.size()));
+    app::LongWork work(app, core::tr("Making codes"), static_cast<int>(records.size()));
     int done = 0;
     for (Item* record : records) {
         work.reached(++done);

@@ -1,6 +1,7 @@
 #include "search/filter/filter.h"
 
 #include "core/text.h"
+#include "core/translate.h"
 #include "search/filter/folding.h"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ public:
 
     Filter run() {
         if (text_.size() > longestFilter) {
-            fail(longestFilter, text_.size() - longestFilter, "The filter is too long");
+            fail(longestFilter, text_.size() - longestFilter, core::tr("The filter is too long"));
             return std::move(filter_);
         }
         while (at_ < text_.size() && !filter_.error) {
@@ -80,16 +81,13 @@ private:
         if (!filter_.error) filter_.error = {offset, size, std::move(reason), offset + size == text_.size()};
     }
 
-    void fail(const Value& value, std::string_view text, std::string_view what) {
-        std::string reason = "\"";
-        reason.append(text).append("\" is no ").append(what);
-        fail(value.offset, value.size, std::move(reason));
+    void failAs(const Value& value, std::string_view text, bool isDate) {
+        const std::string reason = isDate ? core::tr("\"%1\" is no date") : core::tr("\"%1\" is no number");
+        fail(value.offset, value.size, core::fill(reason, {text}));
     }
 
     static std::string noColumn(std::string_view name) {
-        std::string reason = "There is no column \"";
-        reason.append(name).append("\"");
-        return reason;
+        return core::fill(core::tr("There is no column \"%1\""), {name});
     }
 
     // A misspelt name, unless it is the beginning of an address or of a time.
@@ -268,7 +266,7 @@ private:
             const std::optional<Days> bounds = isDate ? filterDays(side, today_) : numbers(side);
             if (!bounds) {
                 if (!isDate && !isNumeric(term)) return false; // a text with two points in it
-                fail(value, side, isDate ? "date" : "number");
+                failAs(value, side, isDate);
                 return true;
             }
             if (side.data() == from.data()) range.first = bounds->first;
@@ -306,7 +304,7 @@ private:
             if (bounds)
                 setBounds(term, isDate ? Test::Days : Test::Numbers, comparison, *bounds);
             else
-                fail(value, text, isDate ? "date" : "number");
+                failAs(value, text, isDate);
             return bounds.has_value();
         }
         compareTexts(term, comparison, text);

@@ -1,5 +1,6 @@
 #include "app/fileSettings.h"
 #include "core/text.h"
+#include "core/translate.h"
 #include "search/columnNames.h"
 #include "search/filter/filterMode.h"
 
@@ -29,10 +30,11 @@ std::vector<std::string> keptFilters(const App& app) {
 void keepFilter(App& app) {
     const FilterBarState bar = filterBar(app);
     if (app.document.currentFile.empty()) {
-        app::inform(app, "A filter is kept for a file. Please save the database first.");
+        app::inform(app, core::tr("A filter is kept for a file. Please save the database first."));
         return;
     }
-    const std::string typed = app.platform.inputBox("Name of the filter:", "Keep Filter", bar.text);
+    const std::string typed =
+        app.platform.inputBox(core::tr("Name of the filter:"), core::tr("Keep Filter"), bar.text);
     const std::string name(core::trim(core::left(core::trim(typed), longestName)));
     if (name.empty()) return;
     const std::string key = settingOf(name);
@@ -40,10 +42,11 @@ void keepFilter(App& app) {
     text.push_back(scopeSign);
     text.append(bar.scope);
     const std::string before = withNewNames(app, app::fileSetting(app, key));
-    std::string question = "There is a filter \"";
-    question.append(name).append("\" already. Do you want to replace it?");
+    const std::string question =
+        core::fill(core::tr("There is a filter \"%1\" already. Do you want to replace it?"), {name});
     if (!before.empty() && before != text && !app::askYesNo(app, question, platform::Icon::Question)) return;
-    if (!app::setFileSetting(app, key, text)) app::inform(app, "The filter is too long to be kept.");
+    if (!app::setFileSetting(app, key, text))
+        app::inform(app, core::tr("The filter is too long to be kept."));
 }
 
 void useKeptFilter(App& app, std::string_view name) {
