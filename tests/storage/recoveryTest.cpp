@@ -12,6 +12,7 @@
 #include "storage/versionsFrm.h"
 #include "support/table.h"
 
+#include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
