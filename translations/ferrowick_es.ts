@@ -5,153 +5,154 @@
     <name>Ferrowick</name>
     <message>
         <source>  Amount of spacing in inches between layouts in multiple layout printing:</source>
-        <translation type="unfinished"></translation>
+        <translation>  Espacio en pulgadas entre diseños al imprimir varios por página:</translation>
     </message>
     <message>
         <source>  Database Types</source>
-        <translation type="unfinished"></translation>
+        <translation>  Tipos de base de datos</translation>
     </message>
     <message>
         <source>  Please insert your working source disk or device that you have been saving to up until now.  Ferrowick needs this before it can perform the 'save as' operation to the other location you specified.  Once you have inserted the disk or device you can try 'save as' again.</source>
-        <translation type="unfinished"></translation>
+        <translation>  Inserte el disco o dispositivo en el que ha guardado hasta ahora. Ferrowick lo necesita para poder guardar en la otra ubicación que ha indicado. Cuando lo haya insertado, intente de nuevo «Guardar como».</translation>
     </message>
     <message>
         <source>  Searches are word based, not within string based.  So for example, a search for lap would not find lapdog.</source>
-        <translation type="unfinished"></translation>
+        <translation>  Se buscan palabras completas, no partes de palabras. Por ejemplo, al buscar «sol» no se encuentra «solar».</translation>
     </message>
     <message>
         <source>  This dialog allows you to set values of auto increment columns.  You might want to do this for setting initial starting values or to adjust the current count to coincide with deleted records.</source>
-        <translation type="unfinished"></translation>
+        <translation>  Este diálogo permite establecer los valores de las columnas que se incrementan automáticamente, por ejemplo para fijar un valor inicial o para ajustar la cuenta actual tras eliminar registros.</translation>
     </message>
     <message>
         <source>  To set entry options, simply double click on a row in the list to the right.  You can only set options for date and number columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>  Para establecer las opciones de entrada, haga doble clic en una fila de la lista de la derecha. Solo las columnas de fecha y de número tienen opciones.</translation>
     </message>
     <message>
         <source> Available Calculation Columns </source>
-        <translation type="unfinished"></translation>
+        <translation> Columnas de cálculo disponibles </translation>
     </message>
     <message>
         <source> Bold Headers </source>
-        <translation type="unfinished"></translation>
+        <translation> Encabezados en negrita </translation>
     </message>
     <message>
         <source> Columns To Print </source>
-        <translation type="unfinished"></translation>
+        <translation> Columnas que imprimir </translation>
     </message>
     <message>
         <source> Criteria </source>
-        <translation type="unfinished"></translation>
+        <translation> Criterios </translation>
     </message>
     <message>
         <source> Custom Paper Size </source>
-        <translation type="unfinished"></translation>
+        <translation> Tamaño de papel personalizado </translation>
     </message>
     <message>
         <source> Define Expression </source>
-        <translation type="unfinished"></translation>
+        <translation> Definir expresión </translation>
     </message>
     <message>
         <source> Keypad </source>
-        <translation type="unfinished"></translation>
+        <translation> Teclado </translation>
     </message>
     <message>
         <source> Layout Spacing </source>
-        <translation type="unfinished"></translation>
+        <translation> Espacio entre diseños </translation>
     </message>
     <message>
         <source> MB</source>
-        <translation type="unfinished"></translation>
+        <translation> MB</translation>
     </message>
     <message>
         <source> Margins </source>
-        <translation type="unfinished"></translation>
+        <translation> Márgenes </translation>
     </message>
     <message>
         <source> Operators </source>
-        <translation type="unfinished"></translation>
+        <translation> Operadores </translation>
     </message>
     <message>
         <source> Orientation </source>
-        <translation type="unfinished"></translation>
+        <translation> Orientación </translation>
     </message>
     <message>
         <source> Paper Size </source>
-        <translation type="unfinished"></translation>
+        <translation> Tamaño de papel </translation>
     </message>
     <message>
         <source> Paper Sizes </source>
-        <translation type="unfinished"></translation>
+        <translation> Tamaños de papel </translation>
     </message>
     <message>
         <source> Replace Options </source>
-        <translation type="unfinished"></translation>
+        <translation> Opciones de reemplazo </translation>
     </message>
     <message>
         <source> Report Title </source>
-        <translation type="unfinished"></translation>
+        <translation> Título del informe </translation>
     </message>
     <message>
         <source> These columns are using auto incrementing serial numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation> Estas columnas usan números de serie que se incrementan automáticamente.</translation>
     </message>
     <message>
         <source> Type </source>
-        <translation type="unfinished"></translation>
+        <translation> Tipo </translation>
     </message>
     <message>
         <source>"%1" has a value for each item row</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» tiene un valor por cada fila de artículo</translation>
     </message>
     <message>
         <source>"%1" has a value for each item row, which are typed on the layout page</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» tiene un valor por cada fila de artículo, que se escriben en la página de diseño</translation>
     </message>
     <message>
         <source>"%1" holds pictures, which are chosen on the layout page</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» contiene imágenes, que se eligen en la página de diseño</translation>
     </message>
     <message>
         <source>"%1" is calculated and takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se calcula y no admite ningún valor</translation>
     </message>
     <message>
         <source>"%1" is neither a column nor a number (character %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una columna ni un número (carácter %2)</translation>
     </message>
     <message>
         <source>"%1" is no amount</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un importe</translation>
     </message>
     <message>
         <source>"%1" is no date</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una fecha</translation>
     </message>
     <message>
         <source>"%1" is no length or number.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una longitud ni un número.</translation>
     </message>
     <message>
         <source>"%1" is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número</translation>
     </message>
     <message>
         <source>"%1" is no step: type a number above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un intervalo: escriba un número mayor que 0.</translation>
     </message>
     <message>
         <source>"%1" is out of place (character %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está fuera de lugar (carácter %2)</translation>
     </message>
     <message>
         <source>"%1" needs a blank on either side (character %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» necesita un espacio a cada lado (carácter %2)</translation>
     </message>
     <message>
         <source>%1
 %2: %3</source>
         <comment>group, figure and its value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1
+%2: %3</translation>
     </message>
     <message>
         <source>%1
@@ -159,3851 +160,3863 @@ Version %2
 
 A small database of your own, without learning one.
 Free software under the MIT licence. It comes with no warranty.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Versión %2
+
+Una pequeña base de datos propia, sin tener que aprender a usarla.
+Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 (%2 of %3 characters)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 de %3 caracteres)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 (continued)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (continuación)</translation>
     </message>
     <message>
         <source>%1 (prints on Letter)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (se imprime en Letter)</translation>
     </message>
     <message>
         <source>%1 (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (solo lectura)</translation>
     </message>
     <message>
         <source>%1 (recovered).fwk</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (recuperado).fwk</translation>
     </message>
     <message>
         <source>%1 (steps of %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (intervalos de %2)</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 across, %2 down</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en horizontal, %2 en vertical</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <comment>%1 and %n more</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%1 y %n más</numerusform><numerusform>%1 y %n más</numerusform></translation>
     </message>
     <message>
         <source>%1 at place %2 has no bars, but a QR code takes it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en la posición %2 no tiene barras, pero un código QR lo admite</translation>
     </message>
     <message>
         <source>%1 at place %2 is no digit</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en la posición %2 no es una cifra</translation>
     </message>
     <message>
         <source>%1 by %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por %2</translation>
     </message>
     <message>
         <source>%1 by %2 and %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por %2 y %3</translation>
     </message>
     <message>
         <source>%1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bytes.</translation>
     </message>
     <message>
         <source>%1 cannot be locked: %2 is in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede bloquear: %2 lo impide.</translation>
     </message>
     <message>
         <source>%1 cannot be read like this: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede leer así: %2.</translation>
     </message>
     <message>
         <source>%1 could not be opened:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir %1:
+%2</translation>
     </message>
     <message>
         <source>%1 could not be written.
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir %1.
+%2</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir %1: %2</translation>
     </message>
     <message>
         <source>%1 ended too early</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 termina antes de tiempo</translation>
     </message>
     <message>
         <source>%1 goes into</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 va a</translation>
     </message>
     <message>
         <source>%1 has a wrong size</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiene un tamaño incorrecto</translation>
     </message>
     <message>
         <source>%1 has met an error and has to end.
 
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha encontrado un error y debe cerrarse.
+
+%2</translation>
     </message>
     <message>
         <source>%1 is a program or a script. Links do not start programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es un programa o un script. Los enlaces no inician programas.</translation>
     </message>
     <message>
         <source>%1 is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está vacío</translation>
     </message>
     <message>
         <source>%1 is no date.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es una fecha.</translation>
     </message>
     <message>
         <source>%1 is no longer there. It may have been renamed or deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya no existe. Puede que se haya eliminado o que se le haya cambiado el nombre.</translation>
     </message>
     <message>
         <source>%1 is no number of days, from 0 to 3650.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un número de días entre 0 y 3650.</translation>
     </message>
     <message>
         <source>%1 is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un número.</translation>
     </message>
     <message>
         <source>%1 is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un archivo</translation>
     </message>
     <message>
         <source>%1 is open elsewhere, by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está abierto en otro lugar por %2.</translation>
     </message>
     <message>
         <source>%1 is open elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está abierto en otro lugar.</translation>
     </message>
     <message>
         <source>%1 is open to read only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está abierto como solo lectura</translation>
     </message>
     <message>
         <source>%1 is packed in an unknown way</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está comprimido de una forma desconocida</translation>
     </message>
     <message>
         <source>%1 is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es de solo lectura</translation>
     </message>
     <message>
         <source>%1 is the open database, and cannot be printed into.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es la base de datos abierta; no se puede imprimir en ese archivo.</translation>
     </message>
     <message>
         <source>%1 is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es demasiado grande</translation>
     </message>
     <message>
         <source>%1 labels: too many to print at a time, which are %2 at most.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 etiquetas: son demasiadas para imprimirlas de una vez; el máximo es %2.</translation>
     </message>
     <message>
         <source>%1 missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el %1</translation>
     </message>
     <message numerus="yes">
         <source>%1 occurs %n time</source>
         <comment>%1 occurs %n times</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%1 aparece %n vez</numerusform><numerusform>%1 aparece %n veces</numerusform></translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 of %2.fwk</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 del %2.fwk</translation>
     </message>
     <message>
         <source>%1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2: %3</translation>
     </message>
     <message>
         <source>%1 on %2 (process %3) since %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2 (proceso %3) desde %4</translation>
     </message>
     <message>
         <source>%1 on %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2.</translation>
     </message>
     <message>
         <source>%1 points</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 puntos</translation>
     </message>
     <message>
         <source>%1 to %2 missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Faltan del %1 al %2</translation>
     </message>
     <message>
         <source>%1 to below %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a menos de %2</translation>
     </message>
     <message>
         <source>%1 twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dos veces</translation>
     </message>
     <message>
         <source>%1 was changed by somebody else since it was opened here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra persona ha modificado %1 desde que se abrió aquí.</translation>
     </message>
     <message>
         <source>%1 was changed by somebody else. It is not what your unsaved work is based on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra persona ha modificado %1. Ya no es la base de su trabajo sin guardar.</translation>
     </message>
     <message>
         <source>%1 was changed by somebody else. What is shown here is as it was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra persona ha modificado %1. Aquí se muestra tal como se abrió.</translation>
     </message>
     <message>
         <source>%1 was made, but there is no program that opens it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha creado %1, pero no hay ningún programa que lo abra.</translation>
     </message>
     <message>
         <source>%1's value has been set to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor de %1 se ha establecido en %2</translation>
     </message>
     <message>
         <source>%1, %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 de %3</translation>
     </message>
     <message>
         <source>%1, first label %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, primera etiqueta %2</translation>
     </message>
     <message>
         <source>%1. The first %2 are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Se muestran los primeros %2.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n record.</source>
         <comment>%1: %n records.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%1: %n registro.</numerusform><numerusform>%1: %n registros.</numerusform></translation>
     </message>
     <message>
         <source>%1: bad comment</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: comentario incorrecto</translation>
     </message>
     <message>
         <source>%1: records %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: registros %2</translation>
     </message>
     <message>
         <source>%1: there is no text</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no hay texto</translation>
     </message>
     <message>
         <source>%1: this sheet cannot be imported: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: esta hoja no se puede importar: %2.</translation>
     </message>
     <message>
         <source>%L1 of %L2</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 de %L2</translation>
     </message>
     <message numerus="yes">
         <source>%n cell cannot be stored:</source>
         <comment>%n cells cannot be stored:</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n celda no se puede guardar:</numerusform><numerusform>%n celdas no se pueden guardar:</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n cell is refused.</source>
         <comment>%n cells are refused.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Se rechaza %n celda.</numerusform><numerusform>Se rechazan %n celdas.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n cells are refused, these among them.</source>
         <comment>%n cells are refused, these among them.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Se rechaza %n celda, esta.</numerusform><numerusform>Se rechazan %n celdas, entre ellas estas.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n gap</source>
         <comment>%n gaps</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n hueco</numerusform><numerusform>%n huecos</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n group</source>
         <comment>%n groups</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n grupo</numerusform><numerusform>%n grupos</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n label</source>
         <comment>%n labels</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n etiqueta</numerusform><numerusform>%n etiquetas</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n new invoice</source>
         <comment>%n new invoices</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n factura nueva</numerusform><numerusform>%n facturas nuevas</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n new record</source>
         <comment>%n new records</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n registro nuevo</numerusform><numerusform>%n registros nuevos</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n of the records cannot be calculated: %1</source>
         <comment>%n of the records cannot be calculated. The first one: %1</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n de los registros no se puede calcular: %1</numerusform><numerusform>%n de los registros no se pueden calcular. El primero: %1</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record</source>
         <comment>%n records</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n registro</numerusform><numerusform>%n registros</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record asks for more than %1, which is the most.</source>
         <comment>%n records ask for more than %1, which is the most.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n registro pide más de %1, que es el máximo.</numerusform><numerusform>%n registros piden más de %1, que es el máximo.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record behind the first of each</source>
         <comment>%n records behind the first of each</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n registro además del primero de cada grupo</numerusform><numerusform>%n registros además del primero de cada grupo</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record has no code in %1 now.  %2: %3.</source>
         <comment>%n records have no code in %1 now.  %2: %3.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n registro no tiene ahora código en %1. %2: %3.</numerusform><numerusform>%n registros no tienen ahora código en %1. %2: %3.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record has no number above 0 there: no label.</source>
         <comment>%n records have no number above 0 there: no label.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n registro no tiene ahí un número mayor que 0: sin etiqueta.</numerusform><numerusform>%n registros no tienen ahí un número mayor que 0: sin etiqueta.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n records.</source>
         <comment>%n records.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n registro.</numerusform><numerusform>%n registros.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n repeat</source>
         <comment>%n repeats</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n repetido</numerusform><numerusform>%n repetidos</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n sheet</source>
         <comment>%n sheets</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>%n hoja</numerusform><numerusform>%n hojas</numerusform></translation>
     </message>
     <message>
         <source>&amp;About Ferrowick</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acerca de Ferrowick</translation>
     </message>
     <message>
         <source>&amp;Accept</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;nfirmar</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir</translation>
     </message>
     <message>
         <source>&amp;Add Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir &amp;línea</translation>
     </message>
     <message>
         <source>&amp;Adjust Serial Number Increment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajustar incremento del número de serie</translation>
     </message>
     <message>
         <source>&amp;Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otra vez</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todos</translation>
     </message>
     <message>
         <source>&amp;All Records</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todos los registros</translation>
     </message>
     <message>
         <source>&amp;All records</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;odos los registros</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;plicar</translation>
     </message>
     <message>
         <source>&amp;Auto-Load Previously Opened File</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;automáticamente el último archivo</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;trás</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barras:</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Negrita</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>&amp;Change Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar nombre</translation>
     </message>
     <message>
         <source>&amp;Clean Database</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Limpiar base de datos</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>&amp;Colour...</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olor...</translation>
     </message>
     <message>
         <source>&amp;Colours...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colores...</translation>
     </message>
     <message>
         <source>&amp;Column:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Columna:</translation>
     </message>
     <message>
         <source>&amp;Columns to compare:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Columnas que comparar:</translation>
     </message>
     <message>
         <source>&amp;Columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Columnas:</translation>
     </message>
     <message>
         <source>&amp;Confirm Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Confirmar eliminación</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Contenido</translation>
     </message>
     <message>
         <source>&amp;Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;pias:</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Create</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Crear</translation>
     </message>
     <message>
         <source>&amp;Date of the print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fecha de impresión</translation>
     </message>
     <message>
         <source>&amp;Define Columns...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Definir columnas...</translation>
     </message>
     <message>
         <source>&amp;Delete All But First</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eliminar todos menos el primero</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descartar</translation>
     </message>
     <message>
         <source>&amp;Disclaimer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descargo de responsabilidad</translation>
     </message>
     <message>
         <source>&amp;Do Not Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No guardar</translation>
     </message>
     <message>
         <source>&amp;Done</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Listo</translation>
     </message>
     <message>
         <source>&amp;Duplicate Record</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;uplicar registro</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>Codi&amp;ficación:</translation>
     </message>
     <message>
         <source>&amp;Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar...</translation>
     </message>
     <message>
         <source>&amp;Expression Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editor de expresiones</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar</translation>
     </message>
     <message>
         <source>&amp;Find And Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar y ree&amp;mplazar</translation>
     </message>
     <message>
         <source>&amp;Find:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar:</translation>
     </message>
     <message>
         <source>&amp;Findings:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resultados:</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Finalizar</translation>
     </message>
     <message>
         <source>&amp;Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fuente:</translation>
     </message>
     <message>
         <source>&amp;Freeze First Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inmovilizar primera columna</translation>
     </message>
     <message>
         <source>&amp;Gap down:</source>
-        <translation type="unfinished"></translation>
+        <translation>Separació&amp;n vertical:</translation>
     </message>
     <message>
         <source>&amp;Go To Layout Upon Double-Click</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ir a la página de diseño con doble clic</translation>
     </message>
     <message>
         <source>&amp;Goes into:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Va a:</translation>
     </message>
     <message>
         <source>&amp;Group by</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;grupar por</translation>
     </message>
     <message>
         <source>&amp;Group by:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;grupar por:</translation>
     </message>
     <message>
         <source>&amp;Groups of equal records:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grupos de registros iguales:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Al&amp;to:</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>&amp;Highlight Calculation Boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resaltar campos de cálculo</translation>
     </message>
     <message>
         <source>&amp;How many:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cuántas:</translation>
     </message>
     <message>
         <source>&amp;Ignore capitals, and blanks at the ends</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignorar mayúsculas y espacios en los extremos</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar</translation>
     </message>
     <message>
         <source>&amp;Import From Clipbard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar del portapapeles</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;mportar...</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertar</translation>
     </message>
     <message>
         <source>&amp;Insert Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertar columna</translation>
     </message>
     <message>
         <source>&amp;Invoices</source>
-        <translation type="unfinished"></translation>
+        <translation>Fact&amp;uras</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cursiva</translation>
     </message>
     <message>
         <source>&amp;Items</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;rtículos</translation>
     </message>
     <message>
         <source>&amp;Keep Their Columns as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejar sus columnas como texto</translation>
     </message>
     <message>
         <source>&amp;Keep This Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conservar este filtro...</translation>
     </message>
     <message>
         <source>&amp;Keep versions</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onservar versiones</translation>
     </message>
     <message>
         <source>&amp;Kind of file:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tipo de archivo:</translation>
     </message>
     <message>
         <source>&amp;Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ti&amp;po:</translation>
     </message>
     <message>
         <source>&amp;Labels across:</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas en &amp;horizontal:</translation>
     </message>
     <message>
         <source>&amp;Leave out empty lines and gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir líneas &amp;vacías y huecos</translation>
     </message>
     <message>
         <source>&amp;Leave refused cells empty</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejar vacías las celdas rechazadas</translation>
     </message>
     <message>
         <source>&amp;Leave these cells empty</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;jar vacías estas celdas</translation>
     </message>
     <message>
         <source>&amp;Lines of the label, with columns in braces:</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas &amp;de la etiqueta, con columnas entre llaves:</translation>
     </message>
     <message>
         <source>&amp;Lock Or Unlock Database Design</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bloquear o desbloquear el diseño</translation>
     </message>
     <message>
         <source>&amp;Look at a Copy...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver una copia...</translation>
     </message>
     <message>
         <source>&amp;Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Cr&amp;ear</translation>
     </message>
     <message>
         <source>&amp;Make Code...</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear códi&amp;go...</translation>
     </message>
     <message>
         <source>&amp;More...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Más...</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo</translation>
     </message>
     <message>
         <source>&amp;New Record</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo registro</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Siguiente</translation>
     </message>
     <message>
         <source>&amp;Next &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Siguiente &gt;</translation>
     </message>
     <message>
         <source>&amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ninguna</translation>
     </message>
     <message>
         <source>&amp;Normal Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño &amp;normal</translation>
     </message>
     <message>
         <source>&amp;Number of entry rows to create:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Número de filas de entrada que crear:</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>&amp;Open PDFs After Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir los P&amp;DF tras imprimir</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opciones</translation>
     </message>
     <message>
         <source>&amp;Other size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otro tamaño</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sobrescribir</translation>
     </message>
     <message>
         <source>&amp;Overwrite It Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sobrescribir de todos modos</translation>
     </message>
     <message>
         <source>&amp;Overwrite at the Next Save</source>
-        <translation type="unfinished"></translation>
+        <translation>So&amp;brescribir al guardar</translation>
     </message>
     <message>
         <source>&amp;Page numbers, as 3 of 8</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Números de página, como 3 de 8</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Papel:</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar</translation>
     </message>
     <message>
         <source>&amp;Paste...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar...</translation>
     </message>
     <message>
         <source>&amp;Picture:</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;magen:</translation>
     </message>
     <message>
         <source>&amp;Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anterior</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimir</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimir...</translation>
     </message>
     <message>
         <source>&amp;Prompt For Save On Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preguntar si se guarda al salir</translation>
     </message>
     <message>
         <source>&amp;Quotes:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comi&amp;llas:</translation>
     </message>
     <message>
         <source>&amp;Read the Other State</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leer el otro estado</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer %1</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>&amp;Replace across all columns in all rows</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar en todas las columnas y filas</translation>
     </message>
     <message>
         <source>&amp;Replace in all rows for selected columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar en todas las filas de las columnas &amp;seleccionadas.</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurar</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>&amp;Save as Another File...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar como otro archivo...</translation>
     </message>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar</translation>
     </message>
     <message>
         <source>&amp;Search results only</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Solo resultados de la búsqueda</translation>
     </message>
     <message>
         <source>&amp;Select Repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seleccionar repetidos</translation>
     </message>
     <message>
         <source>&amp;Send</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enviar</translation>
     </message>
     <message>
         <source>&amp;Set</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;stablecer</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar</translation>
     </message>
     <message>
         <source>&amp;Show All Records</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar to&amp;dos los registros</translation>
     </message>
     <message>
         <source>&amp;Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta&amp;maño:</translation>
     </message>
     <message>
         <source>&amp;Start at label:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Empezar en la etiqueta:</translation>
     </message>
     <message>
         <source>&amp;Text size:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tamaño del texto:</translation>
     </message>
     <message>
         <source>&amp;Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Texto:</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Herramientas</translation>
     </message>
     <message>
         <source>&amp;Top margin:</source>
-        <translation type="unfinished"></translation>
+        <translation>Margen s&amp;uperior:</translation>
     </message>
     <message>
         <source>&amp;Totals carried and brought forward from sheet to sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasar los &amp;totales de una hoja a la siguiente</translation>
     </message>
     <message>
         <source>&amp;Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tipo:</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Subrayado</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer %1</translation>
     </message>
     <message>
         <source>&amp;Versions...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Versiones...</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Visit FWK Homepage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visitar la página web de FWK</translation>
     </message>
     <message>
         <source>&amp;Widen</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;nsanchar</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;cho:</translation>
     </message>
     <message>
         <source>&amp;Worked out from the columns of each record</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcula&amp;do a partir de las columnas de cada registro</translation>
     </message>
     <message>
         <source>&amp;Write It Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Escri&amp;bir de nuevo</translation>
     </message>
     <message>
         <source>&amp;by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;por</translation>
     </message>
     <message>
         <source>(empty)</source>
-        <translation type="unfinished"></translation>
+        <translation>(vacío)</translation>
     </message>
     <message>
         <source>(leave out)</source>
-        <translation type="unfinished"></translation>
+        <translation>(omitir)</translation>
     </message>
     <message>
         <source>(no colour)</source>
-        <translation type="unfinished"></translation>
+        <translation>(sin color)</translation>
     </message>
     <message>
         <source>(no filter is kept yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aún no hay filtros conservados)</translation>
     </message>
     <message>
         <source>(none yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ninguno aún)</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>-</source>
-        <translation type="unfinished"></translation>
+        <translation>(ninguna)</translation>
     </message>
     <message>
         <source>1 of 3: Which labels?</source>
-        <translation type="unfinished"></translation>
+        <translation>1 de 3: ¿Qué etiquetas?</translation>
     </message>
     <message>
         <source>10 x 11 in</source>
-        <translation type="unfinished"></translation>
+        <translation>10 x 11 pulgadas</translation>
     </message>
     <message>
         <source>10 x 14 in</source>
-        <translation type="unfinished"></translation>
+        <translation>10 x 14 pulgadas</translation>
     </message>
     <message>
         <source>11 x 17 in</source>
-        <translation type="unfinished"></translation>
+        <translation>11 x 17 pulgadas</translation>
     </message>
     <message>
         <source>15 x 11 in</source>
-        <translation type="unfinished"></translation>
+        <translation>15 x 11 pulgadas</translation>
     </message>
     <message>
         <source>2 of 3: What stands on a label?</source>
-        <translation type="unfinished"></translation>
+        <translation>2 de 3: ¿Qué contiene la etiqueta?</translation>
     </message>
     <message>
         <source>3 of 3: How are they printed?</source>
-        <translation type="unfinished"></translation>
+        <translation>3 de 3: ¿Cómo se imprimen?</translation>
     </message>
     <message>
         <source>9 x 11 in</source>
-        <translation type="unfinished"></translation>
+        <translation>9 x 11 pulgadas</translation>
     </message>
     <message>
         <source>&lt; &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Atrás</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Before you begin&lt;/h3&gt;&lt;p&gt;Ferrowick is free software. It is provided &lt;b&gt;as it is, without a warranty of any kind&lt;/b&gt;: nobody promises that it is free of errors or fit for what you want to do with it, and nobody answers for losses that come of its use.&lt;/p&gt;&lt;p&gt;What that means for your work:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Keep copies of your databases, on another disk if you can. A database is one file whose name ends in &lt;i&gt;.fwk&lt;/i&gt;, so a copy is quickly made.&lt;/li&gt;&lt;li&gt;Changes are on the disk only when you have saved them.&lt;/li&gt;&lt;li&gt;Check sums and calculations that money or other people depend on.&lt;/li&gt;&lt;li&gt;The design lock keeps a design from being changed by mistake. It does not encrypt anything: whoever has the file can read what is in it.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;The licence that comes with the program has the full terms.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Antes de empezar&lt;/h3&gt;&lt;p&gt;Ferrowick es software libre. Se ofrece &lt;b&gt;tal cual, sin garantía de ningún tipo&lt;/b&gt;: nadie promete que esté libre de errores ni que sirva para lo que usted quiera hacer con él, y nadie responde de las pérdidas que se deriven de su uso.&lt;/p&gt;&lt;p&gt;Qué significa esto para su trabajo:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Conserve copias de sus bases de datos, en otro disco si es posible. Una base de datos es un solo archivo cuyo nombre termina en &lt;i&gt;.fwk&lt;/i&gt;, así que la copia se hace enseguida.&lt;/li&gt;&lt;li&gt;Los cambios solo están en el disco cuando los ha guardado.&lt;/li&gt;&lt;li&gt;Compruebe las sumas y los cálculos de los que dependan dinero u otras personas.&lt;/li&gt;&lt;li&gt;El bloqueo del diseño evita que un diseño se cambie por error. No cifra nada: quien tenga el archivo puede leer su contenido.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;La licencia que acompaña al programa contiene las condiciones completas.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>A click sorts the groups, and another one the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic ordena los grupos; otro, en sentido contrario</translation>
     </message>
     <message>
         <source>A column has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una columna no tiene nombre.</translation>
     </message>
     <message>
         <source>A column is written in braces: {Name}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una columna se escribe entre llaves: {Nombre}.</translation>
     </message>
     <message>
         <source>A column you intend to delete is either a member of a calculation column expression, or is a calculation column itself.  You will need to redefine expressions for all affected calculation columns that referenced this one. Are you sure you want to do this?</source>
-        <translation type="unfinished"></translation>
+        <translation>Una columna que quiere eliminar forma parte de la expresión de una columna de cálculo o es ella misma una columna de cálculo. Tendrá que volver a definir las expresiones de todas las columnas de cálculo que hacían referencia a ella. ¿Seguro que quiere continuar?</translation>
     </message>
     <message>
         <source>A copy of your database with all changes is kept in
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conserva una copia de su base de datos con todos los cambios en
+%1</translation>
     </message>
     <message>
         <source>A database has no room for so many records.</source>
-        <translation type="unfinished"></translation>
+        <translation>En una base de datos no caben tantos registros.</translation>
     </message>
     <message>
         <source>A date is set to a date or to a column of dates, and cannot be worked out</source>
-        <translation type="unfinished"></translation>
+        <translation>Una fecha solo admite una fecha o una columna de fechas, y no se puede calcular</translation>
     </message>
     <message>
         <source>A file with that name exists. Overwrite it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un archivo con ese nombre. ¿Sobrescribirlo?</translation>
     </message>
     <message>
         <source>A filter is kept for a file. Please save the database first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los filtros se conservan para un archivo. Guarde antes la base de datos.</translation>
     </message>
     <message>
         <source>A label has 50 lines at most.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una etiqueta tiene 50 líneas como máximo.</translation>
     </message>
     <message>
         <source>A line of the label is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una línea de la etiqueta es demasiado larga.</translation>
     </message>
     <message>
         <source>A picture could not be put back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo restablecer una imagen: %1</translation>
     </message>
     <message>
         <source>A summary has no place in address cards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un resumen no se puede guardar en tarjetas de contacto.</translation>
     </message>
     <message>
         <source>A value is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta un valor.</translation>
     </message>
     <message>
         <source>A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>To&amp;das</translation>
     </message>
     <message>
         <source>A&amp;vailable columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas &amp;disponibles:</translation>
     </message>
     <message>
         <source>A3 Extra</source>
-        <translation type="unfinished"></translation>
+        <translation>A3 Extra</translation>
     </message>
     <message>
         <source>A4 Plus</source>
-        <translation type="unfinished"></translation>
+        <translation>A4 Plus</translation>
     </message>
     <message>
         <source>A4 small</source>
-        <translation type="unfinished"></translation>
+        <translation>A4 pequeño</translation>
     </message>
     <message>
         <source>A5 Extra</source>
-        <translation type="unfinished"></translation>
+        <translation>A5 Extra</translation>
     </message>
     <message>
         <source>AaBbYyZz 123</source>
-        <translation type="unfinished"></translation>
+        <translation>AaBbYyZz 123</translation>
     </message>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de %1</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Add Box To Layout.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir recuadro al diseño.</translation>
     </message>
     <message>
         <source>Add Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir columna</translation>
     </message>
     <message>
         <source>Add Entry Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir campo de entrada</translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir línea horizontal al diseño.</translation>
     </message>
     <message>
         <source>Add Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir rótulo</translation>
     </message>
     <message numerus="yes">
         <source>Add Object</source>
         <comment>Add %n Objects</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Añadir objeto</numerusform><numerusform>Añadir %n objetos</numerusform></translation>
     </message>
     <message>
         <source>Add Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir imagen</translation>
     </message>
     <message>
         <source>Add Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir registro</translation>
     </message>
     <message numerus="yes">
         <source>Add Record</source>
         <comment>Add %n Records</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Añadir registro</numerusform><numerusform>Añadir %n registros</numerusform></translation>
     </message>
     <message>
         <source>Add Vertical Line To Layout.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir línea vertical al diseño.</translation>
     </message>
     <message>
         <source>Add a static clip art image to layout.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una imagen prediseñada fija al diseño.</translation>
     </message>
     <message>
         <source>Add column to list</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir columna a la lista</translation>
     </message>
     <message>
         <source>Adding the invoices</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadiendo las facturas</translation>
     </message>
     <message>
         <source>Adding the records</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadiendo los registros</translation>
     </message>
     <message>
         <source>Address book</source>
-        <translation type="unfinished"></translation>
+        <translation>Libreta de direcciones</translation>
     </message>
     <message>
         <source>Address cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjetas de contacto</translation>
     </message>
     <message>
         <source>Address labels, many to a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas de direcciones, varias por página</translation>
     </message>
     <message>
         <source>Adjust Serial Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar número de serie</translation>
     </message>
     <message>
         <source>Adjust Serial Number Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar valores de números de serie</translation>
     </message>
     <message>
         <source>All Files (*.*)|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*.*)|*.*</translation>
     </message>
     <message>
         <source>All columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las columnas</translation>
     </message>
     <message>
         <source>An error has occured during one of your calculations.  It appears that an expression is incorrectly defined.  Please check your syntax.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha producido un error en uno de sus cálculos. Parece que una expresión está mal definida. Compruebe la sintaxis.</translation>
     </message>
     <message>
         <source>An invoice database has no Picture columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una base de datos de facturas no tiene columnas de tipo Imagen.</translation>
     </message>
     <message>
         <source>Application-defined or object-defined error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error definido por la aplicación o por el objeto</translation>
     </message>
     <message>
         <source>Are you absolutely certain you want to do this?  ALL data in the column %1 will be lost!</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que quiere hacerlo? ¡Se perderán TODOS los datos de la columna %1!</translation>
     </message>
     <message>
         <source>Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro?</translation>
     </message>
     <message>
         <source>As it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Tal cual</translation>
     </message>
     <message>
         <source>As large as fits</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo más grande posible</translation>
     </message>
     <message>
         <source>As wide as the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Tan ancho como la ventana</translation>
     </message>
     <message>
         <source>At %1, %2   Size %3 x %4 in</source>
-        <translation type="unfinished"></translation>
+        <translation>En %1, %2   Tamaño %3 x %4 pulg.</translation>
     </message>
     <message>
         <source>Auto Name Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Rótulo con nombre automático</translation>
     </message>
     <message>
         <source>Auto enter today's date when entering data?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Poner automáticamente la fecha de hoy al introducir datos?</translation>
     </message>
     <message>
         <source>Auto increment value when entering data?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Incrementar el valor automáticamente al introducir datos?</translation>
     </message>
     <message>
         <source>Auto-Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Autofecha</translation>
     </message>
     <message>
         <source>Auto-Serial</source>
-        <translation type="unfinished"></translation>
+        <translation>Autonúmero</translation>
     </message>
     <message>
         <source>B4 (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>B4 (ISO)</translation>
     </message>
     <message>
         <source>B4 (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>B4 (JIS)</translation>
     </message>
     <message>
         <source>B5 (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (JIS)</translation>
     </message>
     <message>
         <source>B5 Extra</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 Extra</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Anterior</translation>
     </message>
     <message>
         <source>Bad file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de archivo incorrecto</translation>
     </message>
     <message>
         <source>Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra vertical</translation>
     </message>
     <message>
         <source>Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Barras</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Negrita</translation>
     </message>
     <message>
         <source>Books with their covers</source>
-        <translation type="unfinished"></translation>
+        <translation>Libros con sus portadas</translation>
     </message>
     <message>
         <source>Border Width Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor del borde</translation>
     </message>
     <message>
         <source>Bottom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Inferior:</translation>
     </message>
     <message>
         <source>Bring To Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Traer al frente</translation>
     </message>
     <message>
         <source>Brought forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma anterior</translation>
     </message>
     <message>
         <source>By %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Por %1</translation>
     </message>
     <message>
         <source>By %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Por %1 y %2</translation>
     </message>
     <message>
         <source>C&amp;entred from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Centrado en vertical</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar</translation>
     </message>
     <message>
         <source>C&amp;lone Database To..</source>
-        <translation type="unfinished"></translation>
+        <translation>Clonar &amp;base de datos en..</translation>
     </message>
     <message>
         <source>C&amp;olours...</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olores...</translation>
     </message>
     <message>
         <source>C&amp;olumns:</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olumnas:</translation>
     </message>
     <message>
         <source>Calculated columns as &amp;formulas</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas calculadas como fór&amp;mulas</translation>
     </message>
     <message>
         <source>Calculated values and totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores calculados y totales</translation>
     </message>
     <message>
         <source>Calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo</translation>
     </message>
     <message>
         <source>Calculation Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado del cálculo:</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Cancel was selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha cancelado</translation>
     </message>
     <message>
         <source>Cannot be stored because it</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar porque</translation>
     </message>
     <message>
         <source>Carried forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma y sigue</translation>
     </message>
     <message>
         <source>Cells of the colu&amp;mn</source>
-        <translation type="unfinished"></translation>
+        <translation>Celdas de la colu&amp;mna</translation>
     </message>
     <message>
         <source>Cells that cannot be stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Celdas que no se pueden guardar</translation>
     </message>
     <message>
         <source>Change Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar columna</translation>
     </message>
     <message>
         <source>Change Entry Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar opciones de entrada</translation>
     </message>
     <message>
         <source>Change Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar expresión</translation>
     </message>
     <message>
         <source>Change Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar objeto</translation>
     </message>
     <message numerus="yes">
         <source>Change Record</source>
         <comment>Change %n Records</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Cambiar registro</numerusform><numerusform>Cambiar %n registros</numerusform></translation>
     </message>
     <message>
         <source>Check Previous Entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar entradas anteriores</translation>
     </message>
     <message>
         <source>Check Serial &amp;Numbers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar &amp;números de serie...</translation>
     </message>
     <message>
         <source>Check Serial Numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar números de serie</translation>
     </message>
     <message>
         <source>Choose Columns To Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir columnas que totalizar</translation>
     </message>
     <message>
         <source>Choose Report Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir columnas del informe</translation>
     </message>
     <message>
         <source>Choose at least one column for the label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija al menos una columna para la etiqueta.</translation>
     </message>
     <message>
         <source>Choose in the page setup what is printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija en la configuración de página lo que se imprime.</translation>
     </message>
     <message>
         <source>Choose the columns to compare.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija las columnas que comparar.</translation>
     </message>
     <message>
         <source>Choose your database format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija el formato de la base de datos.</translation>
     </message>
     <message>
         <source>Clean Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar base de datos</translation>
     </message>
     <message>
         <source>Clear &amp;Guides</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar guías</translation>
     </message>
     <message>
         <source>Click to set a guide line; double-click its marker to remove it</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic para poner una guía; doble clic en su marca para quitarla</translation>
     </message>
     <message>
         <source>Clone current file to...</source>
-        <translation type="unfinished"></translation>
+        <translation>Clonar el archivo actual en...</translation>
     </message>
     <message>
         <source>Clone1.fwk</source>
-        <translation type="unfinished"></translation>
+        <translation>Clon1.fwk</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Close the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar el filtro</translation>
     </message>
     <message>
         <source>Co&amp;py</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;piar</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código</translation>
     </message>
     <message>
         <source>Code %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Código %1</translation>
     </message>
     <message>
         <source>Code of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Código de %1</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna %1</translation>
     </message>
     <message>
         <source>Column Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de columna</translation>
     </message>
     <message>
         <source>Column Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de columna:</translation>
     </message>
     <message>
         <source>Column Stat&amp;istics...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;stadísticas de columna...</translation>
     </message>
     <message>
         <source>Column Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estadísticas de columna</translation>
     </message>
     <message>
         <source>Column name must not be a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de columna no puede ser un número.</translation>
     </message>
     <message>
         <source>Column to find and replace in:</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna en la que buscar y reemplazar:</translation>
     </message>
     <message>
         <source>Column to search, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna en la que buscar, %1</translation>
     </message>
     <message>
         <source>Column with that name already exists!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Ya existe una columna con ese nombre!</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas</translation>
     </message>
     <message>
         <source>Columns To Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas que imprimir</translation>
     </message>
     <message>
         <source>Columns To Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas que totalizar</translation>
     </message>
     <message>
         <source>Columns are what a record is made of, as a name, a date or a price.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las columnas son lo que compone un registro, como un nombre, una fecha o un precio.</translation>
     </message>
     <message>
         <source>Columns that words are looked for in</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas en las que se buscan las palabras</translation>
     </message>
     <message>
         <source>Columns to export</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas que exportar</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma</translation>
     </message>
     <message>
         <source>Confirm Deletion</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar eliminación</translation>
     </message>
     <message>
         <source>Copy With &amp;Headings</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar con &amp;encabezados</translation>
     </message>
     <message>
         <source>Copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia de %1</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>Create Item Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear filas de artículos</translation>
     </message>
     <message>
         <source>Create Link From Label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear enlace a partir del rótulo.</translation>
     </message>
     <message>
         <source>Create New Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear registro nuevo</translation>
     </message>
     <message>
         <source>Create a standard database for simple spreadsheets, inventory, collectibles, recipes, etc</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una base de datos estándar para tablas sencillas, inventarios, colecciones, recetas, etc.</translation>
     </message>
     <message>
         <source>Create an invoice style database.  This means you will design a layout where the calculations take place in the layout itself and you will have multiple values stored in a single row and column cell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una base de datos de facturas. Esto significa que diseñará una página en la que se harán los propios cálculos y que una sola celda podrá guardar varios valores.</translation>
     </message>
     <message>
         <source>Criteria</source>
-        <translation type="unfinished"></translation>
+        <translation>Criterios</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor&amp;tar</translation>
     </message>
     <message>
         <source>Currency</source>
-        <translation type="unfinished"></translation>
+        <translation>Importe</translation>
     </message>
     <message>
         <source>Currency &amp;sign:</source>
-        <translation type="unfinished"></translation>
+        <translation>Símb&amp;olo de moneda:</translation>
     </message>
     <message>
         <source>Current Columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas actuales:</translation>
     </message>
     <message>
         <source>Current Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor actual:</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar</translation>
     </message>
     <message>
         <source>Database &amp;Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Propiedades de la base de datos</translation>
     </message>
     <message>
         <source>Database (*.fwk)|*.fwk|All Files (*.*)|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de datos (*.fwk)|*.fwk|Todos los archivos (*.*)|*.*</translation>
     </message>
     <message>
         <source>Database Locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de datos bloqueada.</translation>
     </message>
     <message>
         <source>Database Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de la base de datos</translation>
     </message>
     <message>
         <source>Database Style:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de base de datos:</translation>
     </message>
     <message>
         <source>Database Style: Invoice</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de base de datos: factura</translation>
     </message>
     <message>
         <source>Database Style: Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de base de datos: estándar</translation>
     </message>
     <message>
         <source>Database st&amp;yle:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Estilo de base de datos:</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Día</translation>
     </message>
     <message>
         <source>Day, month, year</source>
-        <translation type="unfinished"></translation>
+        <translation>Día, mes, año</translation>
     </message>
     <message>
         <source>Define Expressions</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir expresiones</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message numerus="yes">
         <source>Delete %n record and keep the first of %1 groups?</source>
         <comment>Delete %n records and keep the first of %1 groups?</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>¿Eliminar %n registro y conservar el primero de %1 grupos?</numerusform><numerusform>¿Eliminar %n registros y conservar el primero de %1 grupos?</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>Delete %n record and keep the first of the group?</source>
         <comment>Delete %n records and keep the first of the group?</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>¿Eliminar %n registro y conservar el primero del grupo?</numerusform><numerusform>¿Eliminar %n registros y conservar el primero del grupo?</numerusform></translation>
     </message>
     <message>
         <source>Delete Duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar duplicados</translation>
     </message>
     <message numerus="yes">
         <source>Delete Object</source>
         <comment>Delete %n Objects</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Eliminar objeto</numerusform><numerusform>Eliminar %n objetos</numerusform></translation>
     </message>
     <message>
         <source>Delete Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar registro</translation>
     </message>
     <message numerus="yes">
         <source>Delete Record</source>
         <comment>Delete %n Records</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Eliminar registro</numerusform><numerusform>Eliminar %n registros</numerusform></translation>
     </message>
     <message>
         <source>Delete Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar fila</translation>
     </message>
     <message>
         <source>Delete Selected Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el objeto seleccionado</translation>
     </message>
     <message>
         <source>Delete Selected Record.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el registro seleccionado.</translation>
     </message>
     <message>
         <source>Delete selected column from list</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar de la lista la columna seleccionada</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseñar</translation>
     </message>
     <message>
         <source>Design The &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseñar la &amp;página</translation>
     </message>
     <message>
         <source>Design it once: it then shows each record, takes what you type, and prints as you have placed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diséñela una vez: mostrará cada registro, recogerá lo que escriba y se imprimirá tal como la haya compuesto.</translation>
     </message>
     <message>
         <source>Device I/O error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de E/S del dispositivo</translation>
     </message>
     <message>
         <source>Different values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores distintos</translation>
     </message>
     <message>
         <source>Disclaimer</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargo de responsabilidad</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco lleno</translation>
     </message>
     <message>
         <source>Disk not ready</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco no está listo</translation>
     </message>
     <message>
         <source>Display Totals For Selected Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los totales de la selección</translation>
     </message>
     <message>
         <source>Division by zero</source>
-        <translation type="unfinished"></translation>
+        <translation>División por cero</translation>
     </message>
     <message numerus="yes">
         <source>Do you want to empty %1 in %n record?</source>
         <comment>Do you want to empty %1 in %n records?</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>¿Quiere vaciar %1 en %n registro?</numerusform><numerusform>¿Quiere vaciar %1 en %n registros?</numerusform></translation>
     </message>
     <message>
         <source>Document Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento modificado</translation>
     </message>
     <message>
         <source>Document Opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento abierto</translation>
     </message>
     <message>
         <source>Document Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento guardado</translation>
     </message>
     <message>
         <source>Done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo.</translation>
     </message>
     <message>
         <source>Double Postcard (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Postal doble (JIS)</translation>
     </message>
     <message>
         <source>Double-click to choose a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Doble clic para elegir una imagen</translation>
     </message>
     <message>
         <source>Double-click to choose clip art</source>
-        <translation type="unfinished"></translation>
+        <translation>Doble clic para elegir una imagen prediseñada</translation>
     </message>
     <message>
         <source>Duplicate Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplicar registro</translation>
     </message>
     <message>
         <source>During a recalculate all rows event your columns were not able to be recalculated due to a syntax error with one of your defined expressions.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron recalcular las columnas de todas las filas por un error de sintaxis en una de las expresiones definidas.</translation>
     </message>
     <message>
         <source>E&amp;xport...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xportar...</translation>
     </message>
     <message>
         <source>Each number is there once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada número aparece una sola vez.</translation>
     </message>
     <message>
         <source>Each row that is pasted becomes an invoice. Please show the invoices, not their items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada fila que se pega se convierte en una factura. Muestre las facturas, no sus artículos.</translation>
     </message>
     <message>
         <source>Each value</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada valor</translation>
     </message>
     <message>
         <source>Earlier states of this database:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estados anteriores de esta base de datos:</translation>
     </message>
     <message>
         <source>Earlier values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores anteriores</translation>
     </message>
     <message>
         <source>Element not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Elemento no encontrado</translation>
     </message>
     <message>
         <source>Email Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección de correo:</translation>
     </message>
     <message>
         <source>Email Currently Opened Database File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar por correo la base de datos abierta</translation>
     </message>
     <message>
         <source>Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Vacíos</translation>
     </message>
     <message>
         <source>Enter URL or email address.  URL's should begin with http:// and emails should start with mailto:</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca una URL o una dirección de correo. Las URL deben empezar por http:// y las direcciones de correo por mailto:</translation>
     </message>
     <message>
         <source>Enter password to lock file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca la contraseña para bloquear el archivo.</translation>
     </message>
     <message>
         <source>Enter password to unlock database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca la contraseña para desbloquear la base de datos.</translation>
     </message>
     <message>
         <source>Enter value from 1 to 10 for border width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca un valor de 1 a 10 para el grosor del borde.</translation>
     </message>
     <message>
         <source>Entry Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Formulario de entrada</translation>
     </message>
     <message>
         <source>Entry Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de entrada</translation>
     </message>
     <message>
         <source>Envelope #10</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre n.º 10</translation>
     </message>
     <message>
         <source>Envelope #11</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre n.º 11</translation>
     </message>
     <message>
         <source>Envelope #12</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre n.º 12</translation>
     </message>
     <message>
         <source>Envelope #14</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre n.º 14</translation>
     </message>
     <message>
         <source>Envelope #9</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre n.º 9</translation>
     </message>
     <message>
         <source>Envelope B4</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre B4</translation>
     </message>
     <message>
         <source>Envelope B5</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre B5</translation>
     </message>
     <message>
         <source>Envelope B6</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre B6</translation>
     </message>
     <message>
         <source>Envelope C3</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre C3</translation>
     </message>
     <message>
         <source>Envelope C4</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre C4</translation>
     </message>
     <message>
         <source>Envelope C5</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre C5</translation>
     </message>
     <message>
         <source>Envelope C6</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre C6</translation>
     </message>
     <message>
         <source>Envelope C65</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre C65</translation>
     </message>
     <message>
         <source>Envelope DL</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre DL</translation>
     </message>
     <message>
         <source>Envelope Invite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre de invitación</translation>
     </message>
     <message>
         <source>Envelope Italian</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre italiano</translation>
     </message>
     <message>
         <source>Envelope Monarch</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre Monarch</translation>
     </message>
     <message>
         <source>Envelope Personal</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre personal</translation>
     </message>
     <message>
         <source>Erase Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar diseño de página</translation>
     </message>
     <message>
         <source>Erase Layout Confirmation</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar borrado del diseño de página</translation>
     </message>
     <message>
         <source>Error %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Error %1: %2</translation>
     </message>
     <message>
         <source>Exact</source>
-        <translation type="unfinished"></translation>
+        <translation>Exacto</translation>
     </message>
     <message>
         <source>Excel workbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de Excel</translation>
     </message>
     <message>
         <source>Executive</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutivo</translation>
     </message>
     <message>
         <source>Expor&amp;t...</source>
-        <translation type="unfinished"></translation>
+        <translation>Expor&amp;tar...</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar</translation>
     </message>
     <message>
         <source>Export Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar resumen</translation>
     </message>
     <message>
         <source>Expression Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de expresiones</translation>
     </message>
     <message>
         <source>Expression for selected column:</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión de la columna seleccionada:</translation>
     </message>
     <message>
         <source>Expressions</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresiones</translation>
     </message>
     <message>
         <source>F&amp;ilter...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtrar...</translation>
     </message>
     <message>
         <source>Fanfold German</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuo alemán</translation>
     </message>
     <message>
         <source>Fanfold German Legal</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuo alemán Legal</translation>
     </message>
     <message>
         <source>Fanfold US</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuo EE. UU.</translation>
     </message>
     <message>
         <source>Fi&amp;lter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fi&amp;ltro:</translation>
     </message>
     <message>
         <source>Field already added!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El campo ya está añadido!</translation>
     </message>
     <message>
         <source>Field already added.</source>
-        <translation type="unfinished"></translation>
+        <translation>El campo ya está añadido.</translation>
     </message>
     <message>
         <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo, en la barra de arriba, coloca un recuadro para una columna; Rótulo coloca un texto junto a él.</translation>
     </message>
     <message>
         <source>Fig&amp;ures</source>
-        <translation type="unfinished"></translation>
+        <translation>Ci&amp;fras</translation>
     </message>
     <message>
         <source>Figure</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra</translation>
     </message>
     <message>
         <source>Figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifras</translation>
     </message>
     <message>
         <source>File does not exist!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El archivo no existe!</translation>
     </message>
     <message>
         <source>File not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo no encontrado</translation>
     </message>
     <message>
         <source>Filesize:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del archivo:</translation>
     </message>
     <message>
         <source>Filesize: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del archivo: %1</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Find And Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar y reemplazar</translation>
     </message>
     <message>
         <source>Find Duplicat&amp;es...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar dup&amp;licados...</translation>
     </message>
     <message>
         <source>Find Duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar duplicados</translation>
     </message>
     <message>
         <source>Find and Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar y reemplazar</translation>
     </message>
     <message>
         <source>Find:</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar:</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero</translation>
     </message>
     <message>
         <source>First &amp;rows, as they will be stored:</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeras filas, tal como se g&amp;uardarán:</translation>
     </message>
     <message>
         <source>First Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer registro</translation>
     </message>
     <message>
         <source>First column</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera columna</translation>
     </message>
     <message>
         <source>Fit &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar a la &amp;página</translation>
     </message>
     <message>
         <source>Fit &amp;Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar al anc&amp;ho</translation>
     </message>
     <message>
         <source>Folio</source>
-        <translation type="unfinished"></translation>
+        <translation>Folio</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente</translation>
     </message>
     <message>
         <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Fórmula</translation>
     </message>
     <message>
         <source>Gap a&amp;cross:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sepa&amp;ración horizontal:</translation>
     </message>
     <message>
         <source>Gap across: %1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Separación horizontal: %1 mm</translation>
     </message>
     <message>
         <source>Gap down: %1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Separación vertical: %1 mm</translation>
     </message>
     <message>
         <source>Garden</source>
-        <translation type="unfinished"></translation>
+        <translation>Jardín</translation>
     </message>
     <message>
         <source>Go To First Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Ir al primer registro</translation>
     </message>
     <message>
         <source>Go To Last Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Ir al último registro</translation>
     </message>
     <message>
         <source>Goes into</source>
-        <translation type="unfinished"></translation>
+        <translation>Va a</translation>
     </message>
     <message>
         <source>Greater than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor o igual que</translation>
     </message>
     <message>
         <source>Greatest</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo</translation>
     </message>
     <message>
         <source>Greatest of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo de %1</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupos</translation>
     </message>
     <message>
         <source>Groups With Subtotals</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupos con subtotales</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alto:</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Horizontal ruler</source>
-        <translation type="unfinished"></translation>
+        <translation>Regla horizontal</translation>
     </message>
     <message>
         <source>How finely values are told apart: dates by year, quarter, month or day, numbers by steps, which can be typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Con qué detalle se distinguen los valores: las fechas por año, trimestre, mes o día; los números por intervalos, que se pueden escribir</translation>
     </message>
     <message>
         <source>How many copies?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuántas copias?</translation>
     </message>
     <message>
         <source>I&amp;mport...</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;mportar...</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>In the table: "%1".</source>
-        <translation type="unfinished"></translation>
+        <translation>En la tabla: «%1».</translation>
     </message>
     <message>
         <source>Incorrect Password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña incorrecta.</translation>
     </message>
     <message>
         <source>Index out of bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice fuera de los límites</translation>
     </message>
     <message>
         <source>Insert Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertar enlace</translation>
     </message>
     <message>
         <source>Into:</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino:</translation>
     </message>
     <message>
         <source>Invalid file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de archivo no válido</translation>
     </message>
     <message>
         <source>Invalid values specified. Values must be greater than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores no válidos. Los valores deben ser mayores que 0.</translation>
     </message>
     <message>
         <source>Inventory</source>
-        <translation type="unfinished"></translation>
+        <translation>Inventario</translation>
     </message>
     <message>
         <source>Invoice</source>
-        <translation type="unfinished"></translation>
+        <translation>Factura</translation>
     </message>
     <message>
         <source>Invoices</source>
-        <translation type="unfinished"></translation>
+        <translation>Facturas</translation>
     </message>
     <message>
         <source>It could not be written for this reason:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir por este motivo:
+%1</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursiva</translation>
     </message>
     <message>
         <source>Item Row Creation Tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Creación de filas de artículos</translation>
     </message>
     <message>
         <source>Item rows, tax and sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Filas de artículos, impuestos y sumas</translation>
     </message>
     <message>
         <source>Items and invoices</source>
-        <translation type="unfinished"></translation>
+        <translation>Artículos y facturas</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Jpeg Images (*.jpg)|*.jpg|GIF Images (*.gif)|*.gif</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes JPEG (*.jpg)|*.jpg|Imágenes GIF (*.gif)|*.gif</translation>
     </message>
     <message>
         <source>Keep Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar filtro</translation>
     </message>
     <message>
         <source>Keep The Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar el diseño</translation>
     </message>
     <message>
         <source>Keeps one record of each selected group</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserva un registro de cada grupo seleccionado</translation>
     </message>
     <message>
         <source>Kept filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtros conservados</translation>
     </message>
     <message>
         <source>Key is not unique in collection</source>
-        <translation type="unfinished"></translation>
+        <translation>La clave no es única en la colección</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>L&amp;eft margin:</source>
-        <translation type="unfinished"></translation>
+        <translation>Margen &amp;izquierdo:</translation>
     </message>
     <message>
         <source>La&amp;bel Wizard...</source>
-        <translation type="unfinished"></translation>
+        <translation>Asistente de &amp;etiquetas...</translation>
     </message>
     <message>
         <source>Label Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Asistente de etiquetas</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source>Labels &amp;down:</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas en &amp;vertical:</translation>
     </message>
     <message>
         <source>Labels are made of the records of a list.  Invoices print one to a page: use Print on the Layout tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las etiquetas se hacen con los registros de una lista. Las facturas se imprimen una por página: use Imprimir en la pestaña Diseño de página.</translation>
     </message>
     <message>
         <source>Labels of this size and number do not find room on the paper.  There are 10000 on a sheet at most.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el papel no caben tantas etiquetas de este tamaño. En una hoja hay 10000 como máximo.</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Último</translation>
     </message>
     <message>
         <source>Last Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Último registro</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseño de página</translation>
     </message>
     <message>
         <source>Layout Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar página de diseño</translation>
     </message>
     <message>
         <source>Layout sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja de diseño</translation>
     </message>
     <message>
         <source>Lea&amp;ve out these records</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;mitir estos registros</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínimo</translation>
     </message>
     <message>
         <source>Least of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínimo de %1</translation>
     </message>
     <message>
         <source>Ledger</source>
-        <translation type="unfinished"></translation>
+        <translation>Ledger</translation>
     </message>
     <message numerus="yes">
         <source>Left out: %1, and %n more.</source>
         <comment>Left out: %1, and %n more.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Omitido: %1 y %n más.</numerusform><numerusform>Omitido: %1 y %n más.</numerusform></translation>
     </message>
     <message>
         <source>Left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitido: %1.</translation>
     </message>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierdo:</translation>
     </message>
     <message>
         <source>Legal</source>
-        <translation type="unfinished"></translation>
+        <translation>Legal</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation type="unfinished"></translation>
+        <translation>Largo:</translation>
     </message>
     <message>
         <source>Less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor o igual que</translation>
     </message>
     <message>
         <source>Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter</translation>
     </message>
     <message>
         <source>Letter Plus</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter Plus</translation>
     </message>
     <message>
         <source>Letter small</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter pequeño</translation>
     </message>
     <message>
         <source>Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Biblioteca</translation>
     </message>
     <message>
         <source>Lines of the label</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas de la etiqueta</translation>
     </message>
     <message>
         <source>Lock Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear base de datos</translation>
     </message>
     <message>
         <source>Lock Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear diseño</translation>
     </message>
     <message>
         <source>Lock Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear objeto</translation>
     </message>
     <message>
         <source>Lock Selected Object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear el objeto seleccionado.</translation>
     </message>
     <message>
         <source>Make Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear código</translation>
     </message>
     <message>
         <source>Make ane&amp;w when the text of a record changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear de nue&amp;vo al cambiar el texto de un registro</translation>
     </message>
     <message>
         <source>Maker, number, words, or a size: 99.1 x 38.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fabricante, número, palabras o un tamaño: 99.1 x 38.1</translation>
     </message>
     <message>
         <source>Makes the columns as wide as what they print</source>
-        <translation type="unfinished"></translation>
+        <translation>Da a las columnas el ancho de lo que imprimen</translation>
     </message>
     <message>
         <source>Making codes</source>
-        <translation type="unfinished"></translation>
+        <translation>Creando códigos</translation>
     </message>
     <message>
         <source>Making the records</source>
-        <translation type="unfinished"></translation>
+        <translation>Creando los registros</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>Mean of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Media de %1</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Megabytes for the versions of all databases</source>
-        <translation type="unfinished"></translation>
+        <translation>Megabytes para las versiones de todas las bases de datos</translation>
     </message>
     <message>
         <source>Message To Sender(500 Characters Max):</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensaje (500 caracteres como máximo):</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes</translation>
     </message>
     <message>
         <source>Month, day, year</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes, día, año</translation>
     </message>
     <message>
         <source>Most frequent</source>
-        <translation type="unfinished"></translation>
+        <translation>Más frecuentes</translation>
     </message>
     <message>
         <source>Most frequent values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores más frecuentes</translation>
     </message>
     <message>
         <source>Move Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover columna</translation>
     </message>
     <message>
         <source>Move Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover objeto</translation>
     </message>
     <message>
         <source>NA</source>
-        <translation type="unfinished"></translation>
+        <translation>N/D</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Name of column to create</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de la columna que se creará</translation>
     </message>
     <message>
         <source>Name of the filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del filtro:</translation>
     </message>
     <message>
         <source>Names</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres</translation>
     </message>
     <message>
         <source>Ne&amp;xt Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro si&amp;guiente</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>New Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenido nuevo</translation>
     </message>
     <message>
         <source>New Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva base de datos</translation>
     </message>
     <message>
         <source>New Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo registro</translation>
     </message>
     <message>
         <source>New record</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo registro</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Siguiente</translation>
     </message>
     <message>
         <source>Next Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro siguiente</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>No Open Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún documento abierto</translation>
     </message>
     <message>
         <source>No code</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin código</translation>
     </message>
     <message>
         <source>No code because of</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin código por</translation>
     </message>
     <message>
         <source>No column has serial numbers.  They are an option of Number columns in the database properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna columna tiene números de serie. Son una opción de las columnas de tipo Número en las propiedades de la base de datos.</translation>
     </message>
     <message>
         <source>No column is chosen for the report</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha elegido ninguna columna para el informe</translation>
     </message>
     <message>
         <source>No column is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha elegido ninguna columna.</translation>
     </message>
     <message>
         <source>No column of the report is totaled, so there are no sums: see Choose Columns To Total.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se totaliza ninguna columna del informe, así que no hay sumas: vea Elegir columnas que totalizar.</translation>
     </message>
     <message>
         <source>No copy of your database could be kept. The file is as you last saved it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo conservar ninguna copia de la base de datos. El archivo está como lo guardó por última vez.</translation>
     </message>
     <message>
         <source>No database is open</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna base de datos abierta</translation>
     </message>
     <message>
         <source>No groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin grupos</translation>
     </message>
     <message>
         <source>No record was found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ningún registro</translation>
     </message>
     <message>
         <source>No records yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay registros</translation>
     </message>
     <message>
         <source>No sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin hoja</translation>
     </message>
     <message>
         <source>No sheet of labels is called so, or has labels of that size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna hoja de etiquetas se llama así ni tiene etiquetas de ese tamaño.</translation>
     </message>
     <message>
         <source>No two records are equal in these columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay dos registros iguales en estas columnas.</translation>
     </message>
     <message>
         <source>No version kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha conservado ninguna versión: %1</translation>
     </message>
     <message>
         <source>No version of this database has been kept yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha conservado ninguna versión de esta base de datos.</translation>
     </message>
     <message>
         <source>No whole number: records %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin número entero: registros %1</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Not &amp;Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora &amp;no</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Nota</translation>
     </message>
     <message numerus="yes">
         <source>Nothing has been made.  %n record has a text that gives no code</source>
         <comment>Nothing has been made.  %n records have texts that give no code</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>No se ha creado nada. %n registro tiene un texto que no da ningún código</numerusform><numerusform>No se ha creado nada. %n registros tienen textos que no dan ningún código</numerusform></translation>
     </message>
     <message>
         <source>Nothing has been set.  The record "%1" would get no value: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha establecido nada. El registro «%1» se quedaría sin valor: %2.</translation>
     </message>
     <message>
         <source>Nothing in the database is what was searched for.</source>
-        <translation type="unfinished"></translation>
+        <translation>En la base de datos no hay nada de lo buscado.</translation>
     </message>
     <message>
         <source>Nothing is placed on the page yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay nada en la página</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Numeric Columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas numéricas:</translation>
     </message>
     <message>
         <source>OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>NO</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>ON</source>
-        <translation type="unfinished"></translation>
+        <translation>SÍ</translation>
     </message>
     <message>
         <source>On Each Sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>En cada hoja</translation>
     </message>
     <message>
         <source>On a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Por hoja</translation>
     </message>
     <message numerus="yes">
         <source>One label of %1 mm on %2</source>
         <comment>%n labels of %1 mm on %2</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Una etiqueta de %1 mm en %2</numerusform><numerusform>%n etiquetas de %1 mm en %2</numerusform></translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Open %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Abrir %1?</translation>
     </message>
     <message>
         <source>Open &amp;Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir de todos modos</translation>
     </message>
     <message>
         <source>Open Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir base de datos</translation>
     </message>
     <message>
         <source>Open In &amp;Entry Form</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir en formulario de entrada</translation>
     </message>
     <message>
         <source>Open a &amp;Copy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una &amp;copia...</translation>
     </message>
     <message>
         <source>Open a Copy As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una copia como...</translation>
     </message>
     <message>
         <source>Open a database, or add columns, to see its records in groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra una base de datos o añada columnas para ver sus registros en grupos.</translation>
     </message>
     <message>
         <source>Open a database, or drop its file on this window.
 A database is one file; its name ends in .fwk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra una base de datos o suelte su archivo en esta ventana.
+Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
     </message>
     <message>
         <source>Open to &amp;Read Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir como solo &amp;lectura</translation>
     </message>
     <message>
         <source>Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir...</translation>
     </message>
     <message>
         <source>OpenDocument spreadsheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja de cálculo OpenDocument</translation>
     </message>
     <message>
         <source>Or click the first free label of a sheet that you have used before.</source>
-        <translation type="unfinished"></translation>
+        <translation>O haga clic en la primera etiqueta libre de una hoja ya empezada.</translation>
     </message>
     <message>
         <source>Or try a sample. You get a copy of your own, so change in it what you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>O pruebe un ejemplo. Recibirá su propia copia, así que cambie en ella lo que quiera.</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Naranja</translation>
     </message>
     <message>
         <source>Ot&amp;her:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otro:</translation>
     </message>
     <message>
         <source>Other paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro papel</translation>
     </message>
     <message>
         <source>Over the edge of the paper: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuera del borde del papel: %1.</translation>
     </message>
     <message>
         <source>Overflow</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbordamiento</translation>
     </message>
     <message>
         <source>Overwrite Existing File?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Sobrescribir el archivo existente?</translation>
     </message>
     <message>
         <source>P&amp;revious Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro ante&amp;rior</translation>
     </message>
     <message>
         <source>PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos PDF (*.pdf)|*.pdf|Todos los archivos (*.*)|*.*</translation>
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Página</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1 de %2</translation>
     </message>
     <message>
         <source>Page &amp;Setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Configurar página...</translation>
     </message>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar página</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papel</translation>
     </message>
     <message>
         <source>Paper Size: %1 x %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de papel: %1 x %2</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
     <message>
         <source>Paste Records</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar registros</translation>
     </message>
     <message>
         <source>Path/file access error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de acceso a la ruta o al archivo</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Plants with photos and costs</source>
-        <translation type="unfinished"></translation>
+        <translation>Plantas con fotos y costes</translation>
     </message>
     <message>
         <source>Please allow your text to wrap automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deje que el texto se ajuste automáticamente.</translation>
     </message>
     <message>
         <source>Please attach the database to the message yourself:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjunte usted mismo la base de datos al mensaje:
+%1</translation>
     </message>
     <message>
         <source>Please check: "%1" can be read in two ways.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compruébelo: «%1» se puede leer de dos maneras.</translation>
     </message>
     <message>
         <source>Please return layout to browse view instead of design.  The design button is currently pressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salga del modo de diseño de la página. El botón Diseñar está pulsado.</translation>
     </message>
     <message>
         <source>Please use separate labels for multiple lines, or resize your label and allow your text to wrap automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Use rótulos separados para varias líneas, o cambie el tamaño del rótulo y deje que el texto se ajuste automáticamente.</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Postcard (JIS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Postal (JIS)</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Preview of all records using multiple layouts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa de todos los registros con varios diseños por página.</translation>
     </message>
     <message>
         <source>Preview of selected records using multiple layouts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa de los registros seleccionados con varios diseños por página.</translation>
     </message>
     <message>
         <source>Previous Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro anterior</translation>
     </message>
     <message>
         <source>Previously opened file could not be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró el último archivo abierto.</translation>
     </message>
     <message>
         <source>Price * 1.1, with a blank beside each name</source>
-        <translation type="unfinished"></translation>
+        <translation>Precio * 1.1, con un espacio a cada lado de los nombres</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Print Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir base de datos</translation>
     </message>
     <message>
         <source>Print Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Print all records as layouts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir todos los registros con el diseño de página.</translation>
     </message>
     <message>
         <source>Print all records as multiple layouts per page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir todos los registros con varios diseños por página.</translation>
     </message>
     <message>
         <source>Print all records as report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir todos los registros como informe.</translation>
     </message>
     <message>
         <source>Print selected items as layouts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir la selección con el diseño de página.</translation>
     </message>
     <message>
         <source>Print selected items as multiple layouts per page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir la selección con varios diseños por página.</translation>
     </message>
     <message>
         <source>Print selected items as report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir la selección como informe.</translation>
     </message>
     <message>
         <source>Print to PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir en PDF</translation>
     </message>
     <message>
         <source>Printer Not Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresora no instalada</translation>
     </message>
     <message>
         <source>Printing labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimiendo etiquetas</translation>
     </message>
     <message>
         <source>Printing: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimiendo: %1 de %2</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Put the column on a line of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone la columna en una línea propia</translation>
     </message>
     <message>
         <source>Put the column where the text cursor is</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone la columna donde está el cursor de texto</translation>
     </message>
     <message>
         <source>Puts all records back in place of those of a group (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve a mostrar todos los registros en lugar de los de un grupo (Esc)</translation>
     </message>
     <message>
         <source>Puts the version in the place of the open document, as work that is not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone la versión en lugar del documento abierto, como trabajo aún sin guardar</translation>
     </message>
     <message>
         <source>Quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Trimestre</translation>
     </message>
     <message>
         <source>Quarto</source>
-        <translation type="unfinished"></translation>
+        <translation>Quarto</translation>
     </message>
     <message>
         <source>Quick Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado rápido</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo</translation>
     </message>
     <message>
         <source>Read &amp;Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer &amp;de nuevo</translation>
     </message>
     <message>
         <source>Read the Other &amp;State</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leer el otro estado</translation>
     </message>
     <message>
         <source>Reading the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo la tabla</translation>
     </message>
     <message>
         <source>Recalculating... %1 percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recalculando... %1 por ciento.</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos recientes</translation>
     </message>
     <message>
         <source>Recognised</source>
-        <translation type="unfinished"></translation>
+        <translation>Reconocido</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>Record %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro %1 de %2</translation>
     </message>
     <message>
         <source>Record %1 of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro %1 de %2.</translation>
     </message>
     <message>
         <source>Record 888 of 888</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro 888 de 888</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros</translation>
     </message>
     <message>
         <source>Records cannot be pasted into search results. Please go back to all records.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden pegar registros en los resultados de la búsqueda. Vuelva a todos los registros.</translation>
     </message>
     <message>
         <source>Records of the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros de la versión</translation>
     </message>
     <message>
         <source>Records of the version saved %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros de la versión guardada el %1:</translation>
     </message>
     <message>
         <source>Records that get no code</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros que se quedan sin código</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo</translation>
     </message>
     <message>
         <source>Refused because it</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechazada porque</translation>
     </message>
     <message>
         <source>Refused cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Celdas rechazadas</translation>
     </message>
     <message>
         <source>Remove Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar columna</translation>
     </message>
     <message>
         <source>Rename Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre de columna</translation>
     </message>
     <message>
         <source>Replace Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar imagen</translation>
     </message>
     <message>
         <source>Replace The Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar el diseño</translation>
     </message>
     <message>
         <source>Replace with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar por:</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe</translation>
     </message>
     <message>
         <source>Report Choices</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones del informe</translation>
     </message>
     <message>
         <source>Report Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar página del informe</translation>
     </message>
     <message>
         <source>Resize Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar ancho de columna</translation>
     </message>
     <message>
         <source>Restore Unsaved Work</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar trabajo no guardado</translation>
     </message>
     <message>
         <source>Restore Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar versión</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecho:</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Rows to paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Filas que pegar</translation>
     </message>
     <message>
         <source>Rule %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Regla %1</translation>
     </message>
     <message>
         <source>Rule %1, colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Regla %1, color</translation>
     </message>
     <message>
         <source>Rule %1, second value</source>
-        <translation type="unfinished"></translation>
+        <translation>Regla %1, segundo valor</translation>
     </message>
     <message>
         <source>Rule %1, value</source>
-        <translation type="unfinished"></translation>
+        <translation>Regla %1, valor</translation>
     </message>
     <message>
         <source>S&amp;heet:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hoja:</translation>
     </message>
     <message>
         <source>S&amp;tatistics...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Estadísticas...</translation>
     </message>
     <message>
         <source>SQLite database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de datos SQLite</translation>
     </message>
     <message>
         <source>Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save &amp;As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;como</translation>
     </message>
     <message>
         <source>Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como...</translation>
     </message>
     <message>
         <source>Save Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar base de datos</translation>
     </message>
     <message>
         <source>Save Search &amp;Results As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;resultados de la búsqueda como...</translation>
     </message>
     <message>
         <source>Save Search Results As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar resultados de la búsqueda como...</translation>
     </message>
     <message>
         <source>Save a &amp;Copy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar una co&amp;pia...</translation>
     </message>
     <message>
         <source>Save a Copy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar una copia...</translation>
     </message>
     <message>
         <source>Save as Another &amp;File...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar como otro archivo...</translation>
     </message>
     <message>
         <source>Save current document?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar el documento actual?</translation>
     </message>
     <message>
         <source>Save current file %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar el archivo actual %1?</translation>
     </message>
     <message>
         <source>Save the Copy As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la copia como...</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardada</translation>
     </message>
     <message>
         <source>Saves the version as a database of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda la versión como una base de datos propia</translation>
     </message>
     <message>
         <source>Se&amp;parator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;parador:</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Search Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar datos</translation>
     </message>
     <message>
         <source>Search Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en la base de datos</translation>
     </message>
     <message>
         <source>Search Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor buscado:</translation>
     </message>
     <message>
         <source>Search results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de la búsqueda</translation>
     </message>
     <message>
         <source>Search within</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar dentro</translation>
     </message>
     <message>
         <source>Select image for clip art.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la imagen prediseñada.</translation>
     </message>
     <message>
         <source>Select image for picture box.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la imagen para el campo de imagen.</translation>
     </message>
     <message>
         <source>Selected &amp;Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Totales de la selección</translation>
     </message>
     <message>
         <source>Selected Columns and Order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas seleccionadas y orden:</translation>
     </message>
     <message>
         <source>Selects the records that share a number in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona en la lista los registros que comparten un número</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto y coma</translation>
     </message>
     <message>
         <source>Send Database File To...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar archivo de base de datos a...</translation>
     </message>
     <message>
         <source>Send File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar archivo</translation>
     </message>
     <message>
         <source>Send To Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar al fondo</translation>
     </message>
     <message numerus="yes">
         <source>Set %1 in %n record</source>
         <comment>Set %1 in %n records</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Establecer %1 en %n registro</numerusform><numerusform>Establecer %1 en %n registros</numerusform></translation>
     </message>
     <message>
         <source>Set &amp;Values...</source>
-        <translation type="unfinished"></translation>
+        <translation>Establecer &amp;valores...</translation>
     </message>
     <message>
         <source>Set &amp;to:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor n&amp;uevo:</translation>
     </message>
     <message>
         <source>Set Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Establecer fuente</translation>
     </message>
     <message>
         <source>Set Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Establecer valores</translation>
     </message>
     <message>
         <source>Sheet of labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja de etiquetas</translation>
     </message>
     <message>
         <source>Sheets of labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Hojas de etiquetas</translation>
     </message>
     <message>
         <source>Show On &amp;Layout Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en página de di&amp;seño</translation>
     </message>
     <message>
         <source>Show all records and close the filter (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todos los registros y cerrar el filtro (Esc)</translation>
     </message>
     <message>
         <source>Show the whole page</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la página entera</translation>
     </message>
     <message>
         <source>Shows the records of the selected groups in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra en la lista los registros de los grupos seleccionados</translation>
     </message>
     <message>
         <source>Shows the records of the version</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra los registros de la versión</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Size To &amp;Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar al &amp;contenido</translation>
     </message>
     <message>
         <source>Size in mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño en mm</translation>
     </message>
     <message>
         <source>Sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaños</translation>
     </message>
     <message>
         <source>Snap To Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar a la cuadrícula</translation>
     </message>
     <message>
         <source>Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar</translation>
     </message>
     <message>
         <source>Sort &amp;Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden &amp;ascendente</translation>
     </message>
     <message>
         <source>Sort &amp;By</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordenar por</translation>
     </message>
     <message>
         <source>Sort &amp;Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden &amp;descendente</translation>
     </message>
     <message>
         <source>Sort By</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar por</translation>
     </message>
     <message>
         <source>Sort by %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar por %1</translation>
     </message>
     <message>
         <source>Sort by %1, Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar por %1, ascendente</translation>
     </message>
     <message>
         <source>Sort by %1, Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar por %1, descendente</translation>
     </message>
     <message>
         <source>Specify Name For New Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique el nombre de la nueva base de datos</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Estándar</translation>
     </message>
     <message>
         <source>Statement</source>
-        <translation type="unfinished"></translation>
+        <translation>Statement</translation>
     </message>
     <message>
         <source>Steps of the groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalos de los grupos</translation>
     </message>
     <message>
         <source>Steps of the groups within</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalos de los grupos interiores</translation>
     </message>
     <message>
         <source>Stri&amp;kethrough</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tachado</translation>
     </message>
     <message>
         <source>Su&amp;mmary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resu&amp;men</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <translation type="unfinished"></translation>
+        <translation>Asunto:</translation>
     </message>
     <message>
         <source>Subscript out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Subíndice fuera del intervalo</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma</translation>
     </message>
     <message>
         <source>Sum of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma de %1</translation>
     </message>
     <message>
         <source>Sum of the selected records</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma de los registros seleccionados</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>Sums of the selected records</source>
-        <translation type="unfinished"></translation>
+        <translation>Sumas de los registros seleccionados</translation>
     </message>
     <message>
         <source>Super A</source>
-        <translation type="unfinished"></translation>
+        <translation>Super A</translation>
     </message>
     <message>
         <source>Super B</source>
-        <translation type="unfinished"></translation>
+        <translation>Super B</translation>
     </message>
     <message>
         <source>Switch Layout To Design Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasar la página al modo de diseño</translation>
     </message>
     <message>
         <source>Syntax error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de sintaxis</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulador</translation>
     </message>
     <message>
         <source>Tables (*.csv)|*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.json;*.sqlite;*.sqlite3;*.db;*.html;*.vcf|All Files (*.*)|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas (*.csv)|*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.json;*.sqlite;*.sqlite3;*.db;*.html;*.vcf|Todos los archivos (*.*)|*.*</translation>
     </message>
     <message>
         <source>Tables (*.xlsx)|*.xlsx;*.ods;*.csv;*.tsv;*.html;*.json;*.sqlite|All Files (*.*)|*.*</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas (*.xlsx)|*.xlsx;*.ods;*.csv;*.tsv;*.html;*.json;*.sqlite|Todos los archivos (*.*)|*.*</translation>
     </message>
     <message>
         <source>Tabloid</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabloide</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Text of %1 points</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto de %1 puntos</translation>
     </message>
     <message>
         <source>Text of %1 points: the longest texts are printed smaller, or are cut at the edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto de %1 puntos: los textos más largos se imprimen más pequeños o se cortan en el borde</translation>
     </message>
     <message>
         <source>That would be %1 labels.  At most %2 are printed at a time.  Select fewer records.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serían %1 etiquetas. Se imprimen como máximo %2 de una vez. Seleccione menos registros.</translation>
     </message>
     <message>
         <source>The &amp;first row has the names of the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>La p&amp;rimera fila contiene los nombres de las columnas</translation>
     </message>
     <message>
         <source>The &amp;selected records</source>
-        <translation type="unfinished"></translation>
+        <translation>Los registros &amp;seleccionados</translation>
     </message>
     <message>
         <source>The brace at place %1 is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>La llave de la posición %1 no se cierra</translation>
     </message>
     <message>
         <source>The codes could not be made anew: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron crear de nuevo los códigos: %1</translation>
     </message>
     <message>
         <source>The codes could not be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron guardar los códigos: %1</translation>
     </message>
     <message>
         <source>The column "%1" stands on the label twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>La columna «%1» aparece dos veces en la etiqueta.</translation>
     </message>
     <message>
         <source>The column name "%1" cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de columna «%1» no se puede usar.</translation>
     </message>
     <message>
         <source>The column name "%1" holds a "|".</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de columna «%1» contiene «|».</translation>
     </message>
     <message>
         <source>The column name "%1" is there twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de columna «%1» aparece dos veces.</translation>
     </message>
     <message>
         <source>The column you selected is an undefined calculation column.  Please define an expression for it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>La columna seleccionada es una columna de cálculo sin definir. Defina primero una expresión para ella.</translation>
     </message>
     <message>
         <source>The copy cannot take the place of the database that is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia no puede ocupar el lugar de la base de datos abierta.</translation>
     </message>
     <message>
         <source>The copy could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir la copia: %1</translation>
     </message>
     <message>
         <source>The database cannot keep where these labels stand to a tenth of a millimetre: this computer does, for this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos no puede conservar la posición de estas etiquetas con precisión de una décima de milímetro: lo hace este equipo, para este archivo.</translation>
     </message>
     <message>
         <source>The database file could not be found:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró el archivo de la base de datos:
+%1</translation>
     </message>
     <message numerus="yes">
         <source>The database has room for %n more record.</source>
         <comment>The database has room for %n more records.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>En la base de datos cabe %n registro más.</numerusform><numerusform>En la base de datos caben %n registros más.</numerusform></translation>
     </message>
     <message>
         <source>The database is open to read only.  Save a copy of the version instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos está abierta como solo lectura. Guarde en su lugar una copia de la versión.</translation>
     </message>
     <message>
         <source>The database itself keeps where these labels stand.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propia base de datos conserva la posición de estas etiquetas.</translation>
     </message>
     <message>
         <source>The database structure and layout have been locked.  Use the Options menu to unlock.</source>
-        <translation type="unfinished"></translation>
+        <translation>La estructura de la base de datos y el diseño de página están bloqueados. Use el menú Opciones para desbloquearlos.</translation>
     </message>
     <message>
         <source>The expression is not complete (character %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>La expresión no está completa (carácter %1)</translation>
     </message>
     <message>
         <source>The file itself cannot be opened. Please choose a place for the restored one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no se puede abrir. Elija un lugar para el restaurado.</translation>
     </message>
     <message>
         <source>The file itself was changed after that work was begun.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo se modificó después de empezar ese trabajo.</translation>
     </message>
     <message>
         <source>The filter is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>El filtro es demasiado largo</translation>
     </message>
     <message>
         <source>The filter is too long to be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>El filtro es demasiado largo para conservarlo.</translation>
     </message>
     <message>
         <source>The first row has the &amp;names of the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera fila contiene los &amp;nombres de las columnas</translation>
     </message>
     <message>
         <source>The first rule that holds decides. A cell that is coloured has a mark as well, and says why when the mouse rests on it. Colours are yours alone: they are not stored in the database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Decide la primera regla que se cumple. Una celda coloreada tiene además una marca y dice el motivo al detener el ratón sobre ella. Los colores son solo suyos: no se guardan en la base de datos.</translation>
     </message>
     <message>
         <source>The folder "%1" is there already. Pictures in it that have the same names are replaced. Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta «%1» ya existe. Las imágenes que contenga con los mismos nombres se reemplazarán. ¿Continuar?</translation>
     </message>
     <message>
         <source>The help pages are not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las páginas de ayuda no están instaladas.</translation>
     </message>
     <message>
         <source>The label</source>
-        <translation type="unfinished"></translation>
+        <translation>La etiqueta</translation>
     </message>
     <message>
         <source>The label has too many columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>La etiqueta tiene demasiadas columnas.</translation>
     </message>
     <message numerus="yes">
         <source>The layout has %n object.  The new label can take its place, or you keep your design and print it on these labels.</source>
         <comment>The layout has %n objects.  The new label can take its place, or you keep your design and print it on these labels.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>El diseño tiene %n objeto. La etiqueta nueva puede ocupar su lugar, o puede conservar su diseño e imprimirlo en estas etiquetas.</numerusform><numerusform>El diseño tiene %n objetos. La etiqueta nueva puede ocupar su lugar, o puede conservar su diseño e imprimirlo en estas etiquetas.</numerusform></translation>
     </message>
     <message>
         <source>The layout has no room for so many rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el diseño no caben tantas filas.</translation>
     </message>
     <message>
         <source>The layout is too large for its paper: with its spacing, not even one fits within the margins.  Make it smaller, or change the paper, the margins or the spacing in the page setup.</source>
-        <translation type="unfinished"></translation>
+        <translation>El diseño es demasiado grande para su papel: con su espacio, ni siquiera cabe uno entre los márgenes. Hágalo más pequeño, o cambie el papel, los márgenes o el espacio en la configuración de página.</translation>
     </message>
     <message>
         <source>The layout page is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La página de diseño está vacía</translation>
     </message>
     <message>
         <source>The link cannot be opened: it has characters in it that no address has.</source>
-        <translation type="unfinished"></translation>
+        <translation>El enlace no se puede abrir: contiene caracteres que no tiene ninguna dirección.</translation>
     </message>
     <message>
         <source>The new database cannot take the place of the one that is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>La nueva base de datos no puede ocupar el lugar de la que está abierta.</translation>
     </message>
     <message>
         <source>The open database has changes that are not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos abierta tiene cambios sin guardar.</translation>
     </message>
     <message>
         <source>The page is filled in for each one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página se rellena para cada uno.</translation>
     </message>
     <message>
         <source>The pages are filled with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las páginas se llenan con ellos.</translation>
     </message>
     <message>
         <source>The paper of the database, code %1, is not known here: it prints on Letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>El papel de la base de datos, código %1, no se conoce aquí: se imprime en Letter.</translation>
     </message>
     <message>
         <source>The picture %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen %1 no se puede leer.</translation>
     </message>
     <message>
         <source>The picture %1 cannot be read: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen %1 no se puede leer: %2.</translation>
     </message>
     <message>
         <source>The picture %1 is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen %1 es demasiado grande.</translation>
     </message>
     <message>
         <source>The picture could not be added to the database: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo añadir la imagen a la base de datos: %1</translation>
     </message>
     <message>
         <source>The picture in the clipboard cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del portapapeles no se puede leer.</translation>
     </message>
     <message>
         <source>The picture in the clipboard cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del portapapeles no se puede leer: %1.</translation>
     </message>
     <message>
         <source>The picture in the clipboard is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del portapapeles es demasiado grande.</translation>
     </message>
     <message>
         <source>The print could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir la impresión.</translation>
     </message>
     <message>
         <source>The print could not be written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir la impresión: %1.</translation>
     </message>
     <message>
         <source>The same &amp;value for all</source>
-        <translation type="unfinished"></translation>
+        <translation>El mismo &amp;valor para todos</translation>
     </message>
     <message>
         <source>The sample could not be copied to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo copiar el ejemplo en %1: %2</translation>
     </message>
     <message>
         <source>The se&amp;lected records</source>
-        <translation type="unfinished"></translation>
+        <translation>Los registros se&amp;leccionados</translation>
     </message>
     <message>
         <source>The search &amp;results</source>
-        <translation type="unfinished"></translation>
+        <translation>Los &amp;resultados de la búsqueda</translation>
     </message>
     <message>
         <source>The sign %1 is not kept: amounts are shown with $.</source>
-        <translation type="unfinished"></translation>
+        <translation>El símbolo %1 no se conserva: los importes se muestran con $.</translation>
     </message>
     <message>
         <source>The size is a number from 1 to 1600.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tamaño es un número de 1 a 1600.</translation>
     </message>
     <message>
         <source>The table cannot be imported: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se puede importar: %1</translation>
     </message>
     <message>
         <source>The table could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir la tabla: %1</translation>
     </message>
     <message>
         <source>The table has no records.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no tiene registros.</translation>
     </message>
     <message numerus="yes">
         <source>The table is written, but the database has no pictures of these names:
 %1 and %n more.</source>
         <comment>The table is written, but the database has no pictures of these names:
 %1 and %n more.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>La tabla se ha escrito, pero la base de datos no tiene imágenes con estos nombres:
+%1 y %n más.</numerusform><numerusform>La tabla se ha escrito, pero la base de datos no tiene imágenes con estos nombres:
+%1 y %n más.</numerusform></translation>
     </message>
     <message>
         <source>The table is written, but the database has no pictures of these names:
 %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla se ha escrito, pero la base de datos no tiene imágenes con estos nombres:
+%1.</translation>
     </message>
     <message>
         <source>The table of label sheets cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla de hojas de etiquetas no se puede leer: %1</translation>
     </message>
     <message numerus="yes">
         <source>The values have been set, but %n record could not be calculated: %1.</source>
         <comment>The values have been set, but %n records could not be calculated: %1.</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>Los valores se han establecido, pero no se pudo calcular %n registro: %1.</numerusform><numerusform>Los valores se han establecido, pero no se pudieron calcular %n registros: %1.</numerusform></translation>
     </message>
     <message>
         <source>The version cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión no se puede leer: %1</translation>
     </message>
     <message>
         <source>The version could not be restored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo restaurar la versión: %1</translation>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Después</translation>
     </message>
     <message>
         <source>There are %1 columns, a database has at most %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay %1 columnas; una base de datos tiene %2 como máximo.</translation>
     </message>
     <message>
         <source>There are no calculation columns in the current database.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay columnas de cálculo en la base de datos actual.</translation>
     </message>
     <message>
         <source>There are no columns yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay columnas</translation>
     </message>
     <message>
         <source>There are no objects of a layout on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay objetos de un diseño en el portapapeles.</translation>
     </message>
     <message>
         <source>There are no records to print on labels.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay registros que imprimir en etiquetas.</translation>
     </message>
     <message>
         <source>There are no records to print yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay registros que imprimir</translation>
     </message>
     <message>
         <source>There are no records to set values in.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay registros en los que establecer valores.</translation>
     </message>
     <message>
         <source>There are no records yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay registros</translation>
     </message>
     <message>
         <source>There are no two records to compare.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay dos registros que comparar.</translation>
     </message>
     <message>
         <source>There is a filter "%1" already. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un filtro «%1». ¿Quiere reemplazarlo?</translation>
     </message>
     <message>
         <source>There is no column "%1"</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna columna «%1»</translation>
     </message>
     <message>
         <source>There is no column "%1" whose text could be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna columna «%1» cuyo texto se pueda imprimir.</translation>
     </message>
     <message>
         <source>There is no column of pictures "%1"</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna columna de imágenes «%1»</translation>
     </message>
     <message>
         <source>There is no column to set.  Calculation columns are worked out, and pictures and the rows of invoices are entered on the layout page.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna columna que establecer. Las columnas de cálculo se calculan, y las imágenes y las filas de las facturas se introducen en la página de diseño.</translation>
     </message>
     <message>
         <source>There is no expression</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna expresión</translation>
     </message>
     <message>
         <source>There is no picture column "%1".</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna columna de imágenes «%1».</translation>
     </message>
     <message>
         <source>There is no record on the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún registro en la página.</translation>
     </message>
     <message>
         <source>There is no text and no table on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay texto ni tabla en el portapapeles.</translation>
     </message>
     <message>
         <source>There is no text to make codes of</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay texto del que crear códigos</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente.</translation>
     </message>
     <message>
         <source>There is nothing to print: no record has a number of copies above 0 in the column that says how many.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que imprimir: ningún registro tiene un número de copias mayor que 0 en la columna que indica cuántas.</translation>
     </message>
     <message>
         <source>There was an error writing to the file.  If saving to removable media, please make sure that the disk is inserted properly, or that the device is plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se produjo un error al escribir en el archivo. Si guarda en un medio extraíble, asegúrese de que el disco esté bien insertado o el dispositivo esté conectado.</translation>
     </message>
     <message>
         <source>These choices are yours alone: they are kept for this file, but not stored in the database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas opciones son solo suyas: se conservan para este archivo, pero no se guardan en la base de datos.</translation>
     </message>
     <message>
         <source>These colours are too long to be kept. They hold until the database is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos colores son demasiado largos para conservarlos. Valen hasta que se cierre la base de datos.</translation>
     </message>
     <message>
         <source>These pictures of the version are no longer there:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas imágenes de la versión ya no existen:</translation>
     </message>
     <message>
         <source>This cell cannot be stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta celda no se puede guardar</translation>
     </message>
     <message>
         <source>This database has no column "%1".</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta base de datos no tiene ninguna columna «%1».</translation>
     </message>
     <message>
         <source>This database has no picture column "%1".</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta base de datos no tiene ninguna columna de imágenes «%1».</translation>
     </message>
     <message>
         <source>This feature is only available for normal non-invoice style databases.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta función solo está disponible en las bases de datos que no son de facturas.</translation>
     </message>
     <message>
         <source>This feature will prevent any changes to be made to either the database properties or the layout.  You will need to provide a password to lock or unlock your file.  Are you sure you want to do this?</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta función impide cambiar tanto las propiedades de la base de datos como el diseño de página. Necesitará una contraseña para bloquear o desbloquear el archivo. ¿Seguro que quiere continuar?</translation>
     </message>
     <message>
         <source>This is the file of the open database. Please choose another name for the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este es el archivo de la base de datos abierta. Elija otro nombre para la tabla.</translation>
     </message>
     <message>
         <source>This key is already associated with an element of this collection</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta clave ya está asociada a un elemento de esta colección</translation>
     </message>
     <message>
         <source>This object has a size or a text that cannot be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este objeto tiene un tamaño o un texto que no se puede copiar.</translation>
     </message>
     <message>
         <source>This object is locked.  Press the Lock button to unlock it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este objeto está bloqueado. Pulse el botón Bloquear para desbloquearlo.</translation>
     </message>
     <message>
         <source>This password cannot be stored.  Please choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta contraseña no se puede guardar. Elija otra.</translation>
     </message>
     <message>
         <source>This record has no text, and gets no code</source>
-        <translation type="unfinished"></translation>
+        <translation>Este registro no tiene texto y se queda sin código</translation>
     </message>
     <message>
         <source>This record is new.  To store it please click on the Add toolbar button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este registro es nuevo. Para guardarlo, haga clic en el botón Añadir de la barra de herramientas.</translation>
     </message>
     <message>
         <source>This work was never saved. It can be restored.
@@ -4011,882 +4024,858 @@ A database is one file; its name ends in .fwk.</source>
 File: %1
 Time: %2
 Records: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Este trabajo no se guardó nunca. Se puede restaurar.
+
+Archivo: %1
+Hora: %2
+Registros: %3</translation>
     </message>
     <message>
         <source>Title and column &amp;headings</source>
-        <translation type="unfinished"></translation>
+        <translation>Título y &amp;encabezados de columna</translation>
     </message>
     <message>
         <source>To create a new invoice record please click on the New toolbar button.  It's the first one on the Layout Tab's toolbar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para crear una factura nueva, haga clic en el botón Nuevo de la barra de herramientas. Es el primero de la barra de la pestaña Diseño de página.</translation>
     </message>
     <message>
         <source>To overwrite it loses what they have changed. To read their state keeps yours for recovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si lo sobrescribe, se pierde lo que ha cambiado la otra persona. Si lee su estado, el de usted se conserva para recuperarlo.</translation>
     </message>
     <message>
         <source>To:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasta:</translation>
     </message>
     <message>
         <source>Too narrow for the longest text: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demasiado estrecho para el texto más largo: %1.</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de herramientas</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>Superior:</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Totales</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Type mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tipos no coinciden</translation>
     </message>
     <message>
         <source>Type the first one, or take over those of a table of another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba el primero, o traiga los de una tabla de otro programa.</translation>
     </message>
     <message>
         <source>Type the first one: it is filled in on the layout page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba el primero: se rellena en la página de diseño.</translation>
     </message>
     <message>
         <source>UTF-16 (big endian)</source>
-        <translation type="unfinished"></translation>
+        <translation>UTF-16 (big endian)</translation>
     </message>
     <message>
         <source>Undefined</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin definir</translation>
     </message>
     <message>
         <source>Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>Subrayado</translation>
     </message>
     <message>
         <source>Unlock Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquear base de datos</translation>
     </message>
     <message>
         <source>Unlock Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquear diseño</translation>
     </message>
     <message>
         <source>Unpacking the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Extrayendo las imágenes</translation>
     </message>
     <message>
         <source>Unsaved work could not be kept for the case of a crash, because the disk is full. Please save soon.</source>
-        <translation type="unfinished"></translation>
+        <translation>El trabajo sin guardar no se pudo conservar para el caso de un fallo porque el disco está lleno. Guarde pronto.</translation>
     </message>
     <message>
         <source>Unsaved work could not be kept for the case of a crash. Please save soon.</source>
-        <translation type="unfinished"></translation>
+        <translation>El trabajo sin guardar no se pudo conservar para el caso de un fallo. Guarde pronto.</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin título</translation>
     </message>
     <message>
         <source>Untitled Search Results.fwk</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de la búsqueda sin título.fwk</translation>
     </message>
     <message>
         <source>Untitled.fwk</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin título.fwk</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar</translation>
     </message>
     <message>
         <source>Update Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar registro</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores</translation>
     </message>
     <message>
         <source>Values divided by commas</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores separados por comas</translation>
     </message>
     <message>
         <source>Values divided by tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores separados por tabuladores</translation>
     </message>
     <message>
         <source>Verify Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar datos</translation>
     </message>
     <message>
         <source>Versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Versiones</translation>
     </message>
     <message>
         <source>Vertical ruler</source>
-        <translation type="unfinished"></translation>
+        <translation>Regla vertical</translation>
     </message>
     <message>
         <source>View Next Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver el registro siguiente</translation>
     </message>
     <message>
         <source>View Previous Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver el registro anterior</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>Violeta</translation>
     </message>
     <message>
         <source>Web page</source>
-        <translation type="unfinished"></translation>
+        <translation>Página web</translation>
     </message>
     <message>
         <source>What has not been saved yet will be lost.  Restore the version all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Se perderá lo que aún no se ha guardado. ¿Restaurar la versión de todos modos?</translation>
     </message>
     <message>
         <source>What is on the clipboard cannot be pasted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El contenido del portapapeles no se puede pegar: %1.</translation>
     </message>
     <message>
         <source>What is restored is not saved until you save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo restaurado no queda guardado hasta que usted lo guarde.</translation>
     </message>
     <message>
         <source>What is saved here could overwrite what is saved there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se guarde aquí podría sobrescribir lo que se guarde allí.</translation>
     </message>
     <message>
         <source>What the first records become</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo quedan los primeros registros</translation>
     </message>
     <message>
         <source>Whether it still is cannot be told from this machine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde este equipo no se puede saber si lo sigue estando.</translation>
     </message>
     <message>
         <source>Which sums, means, least and greatest values are counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué sumas, medias, mínimos y máximos se calculan</translation>
     </message>
     <message>
         <source>With &amp;outlines, for a test on plain paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Con con&amp;tornos, para una prueba en papel normal</translation>
     </message>
     <message>
         <source>With the &amp;Totals row</source>
-        <translation type="unfinished"></translation>
+        <translation>Con la &amp;fila de totales</translation>
     </message>
     <message>
         <source>With the &amp;pictures, in a folder beside the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Con las &amp;imágenes, en una carpeta junto al archivo</translation>
     </message>
     <message>
         <source>With the &amp;pictures, in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Con las &amp;imágenes, en el archivo</translation>
     </message>
     <message>
         <source>Words, "a phrase", -without, Column:text, Column&gt;10</source>
-        <translation type="unfinished"></translation>
+        <translation>Palabras, "una frase", -sin, Columna:texto, Columna&gt;10</translation>
     </message>
     <message>
         <source>Would you like to rename all exact matching labels in your layout to the new name as well?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quiere cambiar también al nombre nuevo todos los rótulos del diseño que coincidan exactamente?</translation>
     </message>
     <message>
         <source>Writing the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribiendo la tabla</translation>
     </message>
     <message>
         <source>Written &amp;as:</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;scrito como:</translation>
     </message>
     <message>
         <source>Written As</source>
-        <translation type="unfinished"></translation>
+        <translation>Escrito como</translation>
     </message>
     <message>
         <source>Written, but the folder of %1 could not be synced to the disk: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Escrito, pero la carpeta de %1 no se pudo sincronizar con el disco: %2</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
     <message>
         <source>Year, month, day</source>
-        <translation type="unfinished"></translation>
+        <translation>Año, mes, día</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Amarillo</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>You can also begin with a table of another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>También puede empezar con una tabla de otro programa.</translation>
     </message>
     <message>
         <source>You cannot duplicate the totals row.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fila de totales no se puede duplicar.</translation>
     </message>
     <message>
         <source>You cannot globally relace items in a search window, please use the normal view.</source>
-        <translation type="unfinished"></translation>
+        <translation>En los resultados de la búsqueda no se puede reemplazar de forma global; use la vista normal.</translation>
     </message>
     <message>
         <source>You cannot save your search results to a file named the same as the one that is currently open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los resultados de la búsqueda no se pueden guardar con el mismo nombre que el archivo abierto.</translation>
     </message>
     <message>
         <source>You did not enter either an address or a subject.</source>
-        <translation type="unfinished"></translation>
+        <translation>No ha introducido la dirección o el asunto.</translation>
     </message>
     <message>
         <source>You did not enter the number of rows to create.</source>
-        <translation type="unfinished"></translation>
+        <translation>No ha introducido el número de filas que crear.</translation>
     </message>
     <message>
         <source>You entered a non numeric value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha introducido un valor no numérico.</translation>
     </message>
     <message>
         <source>You entered an invalid date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha introducido una fecha no válida.</translation>
     </message>
     <message>
         <source>You have added the maximum number of columns to the database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya ha añadido a la base de datos el número máximo de columnas.</translation>
     </message>
     <message>
         <source>You have not selected any columns to print in the page setup dialog.</source>
-        <translation type="unfinished"></translation>
+        <translation>No ha seleccionado ninguna columna que imprimir en la configuración de página.</translation>
     </message>
     <message>
         <source>You must enter a column name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe introducir un nombre de columna.</translation>
     </message>
     <message>
         <source>You must select a field to search by.</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe seleccionar un campo por el que buscar.</translation>
     </message>
     <message>
         <source>You need to first install a printer on this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero debe instalar una impresora en este sistema.</translation>
     </message>
     <message>
         <source>You selected a file other than a GIF or JPEG.  Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha seleccionado un archivo que no es GIF ni JPEG. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Your database has no columns that could be coloured.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos no tiene columnas que se puedan colorear.</translation>
     </message>
     <message>
         <source>Your database has no columns to export.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos no tiene columnas que exportar.</translation>
     </message>
     <message>
         <source>Your database has no columns to paste into.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos no tiene columnas en las que pegar.</translation>
     </message>
     <message>
         <source>Your database has no columns, please add some in the database properties dialog.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos no tiene columnas; añada alguna en las propiedades de la base de datos.</translation>
     </message>
     <message>
         <source>Your database has no columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos no tiene columnas.</translation>
     </message>
     <message>
         <source>Your mail program could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo iniciar el programa de correo.</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acercar</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lejar</translation>
     </message>
     <message>
         <source>a column has no heading</source>
-        <translation type="unfinished"></translation>
+        <translation>una columna no tiene encabezado</translation>
     </message>
     <message>
         <source>a control character</source>
-        <translation type="unfinished"></translation>
+        <translation>un carácter de control</translation>
     </message>
     <message>
         <source>a ne&amp;w database</source>
-        <translation type="unfinished"></translation>
+        <translation>una &amp;base de datos nueva</translation>
     </message>
     <message>
         <source>a quote is opened and never closed</source>
-        <translation type="unfinished"></translation>
+        <translation>unas comillas se abren y no se cierran</translation>
     </message>
     <message>
         <source>a&amp;nd by:</source>
-        <translation type="unfinished"></translation>
+        <translation>y &amp;por:</translation>
     </message>
     <message>
         <source>above %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mayor que %1</translation>
     </message>
     <message>
         <source>after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>posterior a %1</translation>
     </message>
     <message>
         <source>and</source>
-        <translation type="unfinished"></translation>
+        <translation>y</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
         <comment>and %n more</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>y %n más</numerusform><numerusform>y %n más</numerusform></translation>
     </message>
     <message>
         <source>another program</source>
-        <translation type="unfinished"></translation>
+        <translation>otro programa</translation>
     </message>
     <message>
         <source>another program has changes for it that are not in it yet; close it there first</source>
-        <translation type="unfinished"></translation>
+        <translation>otro programa tiene cambios que aún no están en el archivo; ciérrelo antes allí</translation>
     </message>
     <message>
         <source>archive entry</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada del archivo comprimido</translation>
     </message>
     <message>
         <source>before %1</source>
-        <translation type="unfinished"></translation>
+        <translation>anterior a %1</translation>
     </message>
     <message>
         <source>below %1</source>
-        <translation type="unfinished"></translation>
+        <translation>menor que %1</translation>
     </message>
     <message>
         <source>between %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>entre %1 y %2</translation>
     </message>
     <message>
         <source>calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>cálculo</translation>
     </message>
     <message>
         <source>cell text</source>
-        <translation type="unfinished"></translation>
+        <translation>texto de celda</translation>
     </message>
     <message>
         <source>column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>columna %1</translation>
     </message>
     <message>
         <source>column position</source>
-        <translation type="unfinished"></translation>
+        <translation>posición de columna</translation>
     </message>
     <message>
         <source>columns</source>
-        <translation type="unfinished"></translation>
+        <translation>columnas</translation>
     </message>
     <message>
         <source>day</source>
-        <translation type="unfinished"></translation>
+        <translation>día</translation>
     </message>
     <message>
         <source>each value</source>
-        <translation type="unfinished"></translation>
+        <translation>cada valor</translation>
     </message>
     <message>
         <source>elements of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>elementos de una línea</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>vacío</translation>
     </message>
     <message>
         <source>entry</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada</translation>
     </message>
     <message>
         <source>equal to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>igual a %1</translation>
     </message>
     <message>
         <source>field %1</source>
-        <translation type="unfinished"></translation>
+        <translation>campo %1</translation>
     </message>
     <message>
         <source>has a "|", which divides the cells of a database</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene «|», que separa las celdas de una base de datos</translation>
     </message>
     <message>
         <source>has a character that cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene un carácter que no se puede mostrar</translation>
     </message>
     <message>
         <source>has a time, which a date has no room for</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene una hora, que no cabe en una fecha</translation>
     </message>
     <message>
         <source>has more places than an amount of money</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más decimales que un importe</translation>
     </message>
     <message>
         <source>has more values than the %1 rows of the layout</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más valores que las %1 filas del diseño</translation>
     </message>
     <message>
         <source>has passed</source>
-        <translation type="unfinished"></translation>
+        <translation>ya ha pasado</translation>
     </message>
     <message>
         <source>inches.</source>
-        <translation type="unfinished"></translation>
+        <translation>pulgadas.</translation>
     </message>
     <message>
         <source>increment</source>
-        <translation type="unfinished"></translation>
+        <translation>incremento</translation>
     </message>
     <message>
         <source>is above</source>
-        <translation type="unfinished"></translation>
+        <translation>es mayor que</translation>
     </message>
     <message>
         <source>is after</source>
-        <translation type="unfinished"></translation>
+        <translation>es posterior a</translation>
     </message>
     <message>
         <source>is before</source>
-        <translation type="unfinished"></translation>
+        <translation>es anterior a</translation>
     </message>
     <message>
         <source>is below</source>
-        <translation type="unfinished"></translation>
+        <translation>es menor que</translation>
     </message>
     <message>
         <source>is between</source>
-        <translation type="unfinished"></translation>
+        <translation>está entre</translation>
     </message>
     <message>
         <source>is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>está vacío</translation>
     </message>
     <message>
         <source>is equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>es igual a</translation>
     </message>
     <message>
         <source>is no date</source>
-        <translation type="unfinished"></translation>
+        <translation>no es una fecha</translation>
     </message>
     <message>
         <source>is no date in this order</source>
-        <translation type="unfinished"></translation>
+        <translation>no es una fecha en este orden</translation>
     </message>
     <message>
         <source>is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un número</translation>
     </message>
     <message>
         <source>is no number in this form</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un número en este formato</translation>
     </message>
     <message>
         <source>is too large a number</source>
-        <translation type="unfinished"></translation>
+        <translation>es un número demasiado grande</translation>
     </message>
     <message>
         <source>is within days</source>
-        <translation type="unfinished"></translation>
+        <translation>en un plazo de días</translation>
     </message>
     <message>
         <source>it has %1 bytes, which is too long for such a code</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene %1 bytes, demasiados para un código así</translation>
     </message>
     <message>
         <source>it has %1 characters, and at most %2 fit</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene %1 caracteres y caben como máximo %2</translation>
     </message>
     <message numerus="yes">
         <source>it has %n digit, and should have %1, or %2 without the check digit</source>
         <comment>it has %n digits, and should have %1, or %2 without the check digit</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>tiene %n cifra y debería tener %1, o %2 sin el dígito de control</numerusform><numerusform>tiene %n cifras y debería tener %1, o %2 sin el dígito de control</numerusform></translation>
     </message>
     <message>
         <source>it has a document type, which no spreadsheet has</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene un tipo de documento, cosa que no tiene ninguna hoja de cálculo</translation>
     </message>
     <message>
         <source>it has more rows than the %1 records that a database holds</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más filas que los %1 registros que admite una base de datos</translation>
     </message>
     <message>
         <source>it has more than %1 cells</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de %1 celdas</translation>
     </message>
     <message>
         <source>it has more than %1 columns</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de %1 columnas</translation>
     </message>
     <message>
         <source>it has more than %1 lines</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de %1 líneas</translation>
     </message>
     <message>
         <source>it has more than %1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de %1 filas</translation>
     </message>
     <message>
         <source>it has no %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene %1</translation>
     </message>
     <message>
         <source>it has no cards</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene tarjetas</translation>
     </message>
     <message>
         <source>it has no columns</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene columnas</translation>
     </message>
     <message>
         <source>it has no content.xml</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene content.xml</translation>
     </message>
     <message>
         <source>it has no header line</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene línea de encabezado</translation>
     </message>
     <message>
         <source>it has no rows</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene filas</translation>
     </message>
     <message>
         <source>it has no sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene hojas</translation>
     </message>
     <message>
         <source>it has no such sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene esa hoja</translation>
     </message>
     <message>
         <source>it has no tables</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene tablas</translation>
     </message>
     <message>
         <source>it has no workbook</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene libro</translation>
     </message>
     <message>
         <source>it has too many cards</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene demasiadas tarjetas</translation>
     </message>
     <message>
         <source>it has too many columns</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene demasiadas columnas</translation>
     </message>
     <message>
         <source>it has too many merged cells</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene demasiadas celdas combinadas</translation>
     </message>
     <message>
         <source>it has too many rows</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene demasiadas filas</translation>
     </message>
     <message>
         <source>it has too many sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene demasiadas hojas</translation>
     </message>
     <message>
         <source>it has too many tables</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene demasiadas tablas</translation>
     </message>
     <message>
         <source>it holds a character that is none</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene un carácter que no es tal</translation>
     </message>
     <message>
         <source>it holds characters that such a code cannot</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene caracteres que un código así no admite</translation>
     </message>
     <message>
         <source>it is larger than 256 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>ocupa más de 256 MB</translation>
     </message>
     <message>
         <source>it is larger than 64 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>ocupa más de 64 MB</translation>
     </message>
     <message>
         <source>it is no list of records</source>
-        <translation type="unfinished"></translation>
+        <translation>no es una lista de registros</translation>
     </message>
     <message>
         <source>it is no text</source>
-        <translation type="unfinished"></translation>
+        <translation>no es texto</translation>
     </message>
     <message>
         <source>it is no text in UTF-8 or Windows-1252</source>
-        <translation type="unfinished"></translation>
+        <translation>no es texto en UTF-8 ni en Windows-1252</translation>
     </message>
     <message>
         <source>it is no vCard</source>
-        <translation type="unfinished"></translation>
+        <translation>no es una vCard</translation>
     </message>
     <message>
         <source>it names a text that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>nombra un texto que no existe</translation>
     </message>
     <message>
         <source>it takes too long to work out</source>
-        <translation type="unfinished"></translation>
+        <translation>tarda demasiado en calcularse</translation>
     </message>
     <message>
         <source>item %1</source>
-        <translation type="unfinished"></translation>
+        <translation>elemento %1</translation>
     </message>
     <message>
         <source>item rows</source>
-        <translation type="unfinished"></translation>
+        <translation>filas de artículos</translation>
     </message>
     <message>
         <source>its JSON is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>su JSON está dañado</translation>
     </message>
     <message>
         <source>its JSON is damaged at byte %1</source>
-        <translation type="unfinished"></translation>
+        <translation>su JSON está dañado en el byte %1</translation>
     </message>
     <message>
         <source>its JSON is nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>su JSON tiene demasiados niveles</translation>
     </message>
     <message>
         <source>its XML is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>su XML está dañado</translation>
     </message>
     <message>
         <source>its cells are out of order</source>
-        <translation type="unfinished"></translation>
+        <translation>sus celdas están desordenadas</translation>
     </message>
     <message>
         <source>its column %1 has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>su columna %1 no tiene nombre</translation>
     </message>
     <message>
         <source>its rows are out of order</source>
-        <translation type="unfinished"></translation>
+        <translation>sus filas están desordenadas</translation>
     </message>
     <message>
         <source>its styles are too long</source>
-        <translation type="unfinished"></translation>
+        <translation>sus estilos son demasiado largos</translation>
     </message>
     <message>
         <source>its texts are too long</source>
-        <translation type="unfinished"></translation>
+        <translation>sus textos son demasiado largos</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: %2</translation>
     </message>
     <message>
         <source>line %1: a quote is opened and never closed</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: unas comillas se abren y no se cierran</translation>
     </message>
     <message>
         <source>memory for a code</source>
-        <translation type="unfinished"></translation>
+        <translation>memoria para un código</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuDisclaimer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuExpressionEditor</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuRedo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuSavePrompt</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuSelectedTotals</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuZoomNormal</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuZoomOut</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>month</source>
-        <translation type="unfinished"></translation>
+        <translation>mes</translation>
     </message>
     <message>
         <source>more cells than the header has names</source>
-        <translation type="unfinished"></translation>
+        <translation>más celdas que nombres tiene el encabezado</translation>
     </message>
     <message>
         <source>more than %1 cells</source>
-        <translation type="unfinished"></translation>
+        <translation>más de %1 celdas</translation>
     </message>
     <message>
         <source>new records of the &amp;open database</source>
-        <translation type="unfinished"></translation>
+        <translation>registros nuevos de la base de datos &amp;abierta</translation>
     </message>
     <message>
         <source>no archive is open</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún archivo comprimido abierto</translation>
     </message>
     <message>
         <source>no column "%1"</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay columna «%1»</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished"></translation>
+        <translation>número</translation>
     </message>
     <message>
         <source>object %1</source>
-        <translation type="unfinished"></translation>
+        <translation>objeto %1</translation>
     </message>
     <message>
         <source>objects of one kind</source>
-        <translation type="unfinished"></translation>
+        <translation>objetos de un mismo tipo</translation>
     </message>
     <message>
         <source>of all databases, in at &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>de todas las bases de datos, en un má&amp;ximo de</translation>
     </message>
     <message>
         <source>one of its cards has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>una de sus tarjetas no termina</translation>
     </message>
     <message>
         <source>one of its lines is no line of a vCard</source>
-        <translation type="unfinished"></translation>
+        <translation>una de sus líneas no es una línea de vCard</translation>
     </message>
     <message>
         <source>one of its rows is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>una de sus filas es demasiado larga</translation>
     </message>
     <message>
         <source>packing</source>
-        <translation type="unfinished"></translation>
+        <translation>compresión</translation>
     </message>
     <message>
         <source>quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>trimestre</translation>
     </message>
     <message>
         <source>record %1 has a text too long for a spreadsheet</source>
-        <translation type="unfinished"></translation>
+        <translation>el registro %1 tiene un texto demasiado largo para una hoja de cálculo</translation>
     </message>
     <message>
         <source>record keys</source>
-        <translation type="unfinished"></translation>
+        <translation>claves de registro</translation>
     </message>
     <message>
         <source>sub-item %1</source>
-        <translation type="unfinished"></translation>
+        <translation>subelemento %1</translation>
     </message>
     <message>
         <source>sum of amounts</source>
-        <translation type="unfinished"></translation>
+        <translation>suma de importes</translation>
     </message>
     <message>
         <source>text behind the closing quote of a cell</source>
-        <translation type="unfinished"></translation>
+        <translation>texto detrás de las comillas de cierre de una celda</translation>
     </message>
     <message>
         <source>the column "%1" has no field on the layout</source>
-        <translation type="unfinished"></translation>
+        <translation>la columna «%1» no tiene ningún campo en el diseño</translation>
     </message>
     <message>
         <source>the column "%1" is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>la columna «%1» aparece dos veces</translation>
     </message>
     <message>
         <source>the last digit should be %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la última cifra debería ser %1</translation>
     </message>
     <message>
         <source>the printer does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>la impresora no responde</translation>
     </message>
     <message>
         <source>the program knows no table of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>el programa no conoce ninguna tabla de este tipo</translation>
     </message>
     <message>
         <source>the same number of each record</source>
-        <translation type="unfinished"></translation>
+        <translation>el mismo número de cada registro</translation>
     </message>
     <message>
         <source>the text ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto termina antes de tiempo</translation>
     </message>
     <message>
         <source>there is no column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna columna %1</translation>
     </message>
     <message>
         <source>there is no printer</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna impresora</translation>
     </message>
     <message>
         <source>too many parentheses</source>
-        <translation type="unfinished"></translation>
+        <translation>demasiados paréntesis</translation>
     </message>
     <message numerus="yes">
         <source>within %1 day</source>
         <comment>within %1 days</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+        <translation><numerusform>en un plazo de %1 día</numerusform><numerusform>en un plazo de %1 días</numerusform></translation>
     </message>
     <message>
         <source>year</source>
-        <translation type="unfinished"></translation>
+        <translation>año</translation>
     </message>
 </context>
 </TS>

@@ -1130,10 +1130,6 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>-</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>1 of 3: Which labels?</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4725,34 +4721,6 @@ Records: %3</source>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuDisclaimer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuExpressionEditor</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuRedo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuSavePrompt</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuSelectedTotals</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuZoomNormal</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mnuZoomOut</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

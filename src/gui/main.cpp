@@ -4,6 +4,7 @@
 #include "gui/frame/picture.h"
 #include "gui/machine/endSignals.h"
 #include "gui/machine/language.h"
+#include "gui/widgets/accessibleRoles.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
@@ -64,6 +65,7 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName(QStringLiteral("ferrowick"));
     QApplication::setWindowIcon(gui::programIcon());
     gui::useLanguageOfUser();
+    gui::tellRoles();
     QApplication::setStyle(new gui::ProgramStyle);
     if (line.dark) gui::useDarkColours();
     return picture ? gui::drawPicture(line) : showWindow(line);

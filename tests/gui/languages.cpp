@@ -2,6 +2,7 @@
 
 #include "core/translate.h"
 #include "gui/machine/language.h"
+#include "gui/widgets/accessibleRoles.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
 #include "shell/commands.h"
@@ -27,6 +28,7 @@ bool isPseudo(const QString& text) {
 }
 
 struct PseudoLanguage : QTranslator {
+    using QTranslator::QTranslator;
     bool isEmpty() const override { return false; }
     QString translate(const char*, const char* text, const char*, int) const override {
         return pseudo(QString::fromUtf8(text));
@@ -37,7 +39,8 @@ struct PseudoLanguage : QTranslator {
 struct Complaints {
     QString language; // of the catalogue
     QStringList all;
-    std::set<QString> data; // texts of the document, which are in no catalogue
+    std::set<QString> data{u"The Odyssey"_s, u"Title"_s, u"How many?"_s,
+                           u"A title that is longer than its box"_s}; // what is in no catalogue
 
     void expect(bool isFine, const char* fault, const QWidget& w) {
         const QString name = w.objectName() + u" in "_s + w.window()->objectName();
@@ -50,12 +53,17 @@ struct Complaints {
         return all;
     }
 
+    void ownTexts(const app::App& app) {
+        for (const core::Column& column : app.document.LV.columns) data.insert(gui::toQt(column.Text));
+    }
     // Captions that share a letter, but for those where it is wanted.
     void sharedLetters(const QStringList& captions) {
         std::map<QString, QString> letters;
         for (const QString& caption : captions) {
             const QString letter = QKeySequence::mnemonic(caption).toString();
-            if (letter.isEmpty() || caption.startsWith("&Replace "_L1) || caption == "&Invoices"_L1) continue;
+            if (letter.isEmpty() || isPseudo(caption) || caption.startsWith("&Replace "_L1) ||
+                caption == "&Invoices"_L1)
+                continue;
             if (letters.contains(letter)) all << letters[letter] + u" and "_s + caption;
             letters[letter] = caption;
         }
@@ -80,7 +88,7 @@ struct Complaints {
     // What a screen reader says of it: what it is, how it stands and what it holds.
     void unspoken(const QWidget& page) {
         for (QWidget* w : visible(page)) {
-            if (w->focusPolicy() == Qt::NoFocus) continue;
+            if (w->focusPolicy() == Qt::NoFocus || w->inherits("QTabWidget")) continue;
             QAccessibleInterface* told = QAccessible::queryAccessibleInterface(w);
             const QAccessible::Role role = told->role();
             expect(role != QAccessible::NoRole && role != QAccessible::Client, "no role", *w);
@@ -102,28 +110,23 @@ struct Complaints {
                        "no rows", *w);
         }
     }
-    // Texts against what they stand on, as the web's accessibility guidelines count it.
     void faint(const QWidget& page) {
-        const auto light = [](const QColor& colour) {
-            const auto part = [](double c) {
-                return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-            };
-            return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-                   0.0722 * part(colour.blueF()) + 0.05;
-        };
         using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
-        for (const QWidget* w : visible(page))
+        for (const QWidget* w : visible(page)) {
+            if (w->objectName() == "layoutPic2"_L1 || w->parent()->objectName() == "layoutPic2"_L1)
+                continue; // its user's
             for (const auto& [text, ground] :
                  {Pair{w->foregroundRole(), w->backgroundRole()},
                   Pair{QPalette::HighlightedText, QPalette::Highlight}, Pair{QPalette::Text, QPalette::Base},
                   Pair{QPalette::Text, QPalette::AlternateBase},
                   Pair{QPalette::PlaceholderText, QPalette::Base},
                   Pair{QPalette::ToolTipText, QPalette::ToolTipBase}}) {
-                const double a = light(w->palette().color(QPalette::Active, text));
-                const double b = light(w->palette().color(QPalette::Active, ground));
-                expect(std::max(a, b) >= 4.5 * std::min(a, b),
-                       qPrintable(u"faint %1"_s.arg(QVariant::fromValue(text).toString())), *w);
+                const QPalette& colours = w->palette();
+                const double told = gui::contrast(colours.color(text), colours.color(ground));
+                const QString role = u"faint %1"_s.arg(QVariant::fromValue(text).toString());
+                expect(!w->isEnabled() || told >= gui::leastContrast, qPrintable(role), *w);
             }
+        }
     }
     // What does not come from the catalogue of the pseudo-language, nor from the document.
     void untranslated(const QWidget& page) {
@@ -141,15 +144,19 @@ struct Complaints {
             if (const auto* box = qobject_cast<const QComboBox*>(w)) heads(box->model(), true);
             if (const auto* view = qobject_cast<const QTreeView*>(w))
                 heads(view->isHeaderHidden() ? nullptr : view->model(), false);
-            if (const auto* list = qobject_cast<const QListWidget*>(w)) heads(list->model(), true);
+            if (const auto* list = qobject_cast<const QListWidget*>(w);
+                list != nullptr && page.objectName() != "fontDialog"_L1)
+                heads(list->model(), true);
             if (const auto* tabs = qobject_cast<const QTabBar*>(w))
                 for (int i = 0; i < tabs->count(); ++i) texts << tabs->tabText(i);
         }
         for (const QAction* action : page.findChildren<QAction*>())
             texts << action->text() << action->toolTip();
-        static const QRegularExpression letters(u"[A-Za-z]{3}"_s);
+        static const QRegularExpression letters(u"[A-Za-z]{3}"_s),
+            names(u"^([A-Z]{3}|lei|UTF-.*|Windows-.*|Ferrowick.*|.*/.*|.*\\.jpg|mailto:.*|\\d.*)$"_s);
         for (const QString& text : texts)
-            if (isPseudo(text) != (language == "pseudo"_L1) && text.contains(letters) && !data.contains(text))
+            if (isPseudo(text) != (language == "pseudo"_L1) && text.contains(letters) &&
+                !data.contains(text) && !text.contains(names))
                 all << u"not translated: "_s + text + u" in "_s + page.objectName();
     }
     // Over another widget, but for a pixel of rounding, beyond its frame, or cut.
@@ -205,24 +212,31 @@ class Languages : public GuiTest {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QApplication::setStyle(new gui::ProgramStyle); }
-    // What a language does not have falls back to the one before it.
+    void initTestCase() {
+        QApplication::setStyle(new gui::ProgramStyle);
+        gui::tellRoles();
+    }
+    // What a catalogue does not have shows in the pseudo-language.
     void init() {
         GuiTest::init();
         QFETCH_GLOBAL(QString, language);
-        if (language == "pseudo"_L1) {
-            static PseudoLanguage texts;
-            QCoreApplication::installTranslator(&texts);
-            core::setCatalogue([](const std::string& text, const std::string&, int) {
-                return gui::fromQt(pseudo(gui::toQt(text)));
-            });
-        } else if (!language.isEmpty()) {
-            QVERIFY(gui::useLanguage(QStringLiteral(FERROWICK_DATA "/translations"), language));
-        }
         QFETCH_GLOBAL(bool, isFromRight);
         QApplication::setLayoutDirection(isFromRight ? Qt::RightToLeft : Qt::LeftToRight);
+        if (isFromRight) gui::useDarkColours();
+        if (language.isEmpty()) return;
+        QCoreApplication::installTranslator(new PseudoLanguage(qApp));
+        core::setCatalogue([](const std::string& text, const std::string&, int) {
+            return gui::fromQt(pseudo(gui::toQt(text)));
+        });
+        if (language != "pseudo"_L1)
+            QVERIFY(gui::useLanguage(QStringLiteral(FERROWICK_DATA "/translations"), language));
     }
-
+    void cleanup() {
+        qDeleteAll(qApp->findChildren<QTranslator*>());
+        core::setCatalogue({});
+        QApplication::setPalette(QPalette());
+        QApplication::setStyle(new gui::ProgramStyle);
+    }
     void initTestCase_data() {
         QTest::addColumn<QString>("language");
         QTest::addColumn<bool>("isFromRight");
@@ -235,7 +249,8 @@ private slots:
     // Also where the texts are so large that dialogs have to scroll.
     void everyDialog() {
         QFETCH_GLOBAL(QString, language);
-        Complaints complaints{language, {}, {}};
+        Complaints complaints;
+        complaints.language = language;
         int shown = 0;
         const std::function<void(QDialog&)> look = [&](QDialog& dialog) {
             complaints.unnamed(dialog);
@@ -253,6 +268,7 @@ private slots:
         };
         for (const char* file : {"books.fwk", "invoices.fwk"}) {
             Session run(sample(file), *file == 'b' ? 13 : 9);
+            complaints.ownTexts(run.app);
             run.onDialog = look;
             for (const char* form :
                  {"disclaimFrm",      "databaseTypeFrm",    "designFrm",    "entryFrm",
@@ -272,16 +288,20 @@ private slots:
         platform.msgBox("Save?", platform::Icon::Question, "Title", platform::Buttons::YesNo);
         platform.inputBox("How many?", "A title that is longer than its box", "1");
         platform.showFont({"Arial", 8});
-        QCOMPARE(complaints.all.join(u'\n'), QString());
+        complaints.all.removeDuplicates();
+        for (const QString& each : complaints.all) qWarning().noquote() << each;
+        QVERIFY(complaints.all.isEmpty());
         QCOMPARE(shown, 49);
     }
 
     void theMainWindow() {
         QFETCH_GLOBAL(QString, language);
-        Complaints complaints{language, {}, {}};
+        Complaints complaints;
+        complaints.language = language;
         const QPalette before = QApplication::palette();
         for (const char* file : {"books.fwk", "invoices.fwk", ""}) {
             Session run(*file == 0 ? QString() : sample(file));
+            complaints.ownTexts(run.app);
             run.act(u"click mnuSummary"_s);
             for (const char* command : {"Totals", "Design"}) {
                 for (const int tab : {1, 2, 0}) {
@@ -301,7 +321,8 @@ private slots:
             }
             for (const QAction* action : run.window.findChildren<QAction*>()) {
                 const std::string key = gui::fromQt(action->objectName());
-                if (!shell::hasCommand(key) || shell::command(key).icon.empty()) continue;
+                if (!language.isEmpty() || !shell::hasCommand(key) || shell::command(key).icon.empty())
+                    continue;
                 const QImage light = action->icon().pixmap(QSize(24, 24)).toImage();
                 gui::useDarkColours();
                 const QImage dark = action->icon().pixmap(QSize(24, 24)).toImage();
@@ -309,7 +330,9 @@ private slots:
                 QApplication::setPalette(before);
             }
         }
-        QCOMPARE(complaints.all.join(u'\n'), QString());
+        complaints.all.removeDuplicates();
+        for (const QString& each : complaints.all) qWarning().noquote() << each;
+        QVERIFY(complaints.all.isEmpty());
     }
 };
 

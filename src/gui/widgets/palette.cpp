@@ -4,7 +4,25 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <cmath>
+
 namespace gui {
+
+namespace {
+
+double luminance(const QColor& colour) {
+    const auto part = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+}
+
+} // namespace
+
+double contrast(const QColor& text, const QColor& ground) {
+    constexpr double glare = 0.05;
+    const double a = luminance(text) + glare, b = luminance(ground) + glare;
+    return std::max(a, b) / std::min(a, b);
+}
 
 bool isDark(const QPalette& palette) {
     return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
@@ -23,7 +41,7 @@ void useDarkColours() {
         dark.setColor(role, text);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         dark.setColor(QPalette::Disabled, role, grey);
-    dark.setColor(QPalette::PlaceholderText, QColor(0x9a, 0xa0, 0xa6));
+    dark.setColor(QPalette::PlaceholderText, QColor(0xae, 0xb4, 0xba));
     dark.setColor(QPalette::ToolTipBase, QColor(0x3c, 0x3d, 0x41));
     dark.setColor(QPalette::Highlight, QColor(0x1f, 0x5f, 0xbf));
     dark.setColor(QPalette::HighlightedText, Qt::white);

@@ -26,6 +26,20 @@ QColor edgeColor(const QStyleOption& option, int strength) {
 
 } // namespace
 
+void ProgramStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor text = palette.color(group, QPalette::HighlightedText);
+        QColor ground = palette.color(group, QPalette::Highlight);
+        constexpr int steps = 20, percent = 108;
+        for (int i = 0; i < steps; ++i) {
+            if (contrast(text, ground) >= leastContrast) break;
+            ground = text.lightness() > ground.lightness() ? ground.darker(percent) : ground.lighter(percent);
+        }
+        palette.setColor(group, QPalette::Highlight, ground);
+    }
+}
+
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -90,7 +104,7 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_Widget_Animation_Duration) return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 

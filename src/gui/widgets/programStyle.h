@@ -11,8 +11,11 @@ class ProgramStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
+    using QProxyStyle::polish;
     using QProxyStyle::QProxyStyle;
 
+    // A marked text is read as well as any other: 4.5 to 1 at least, which Fusion's blue does not give.
+    void polish(QPalette& palette) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -20,7 +23,7 @@ public:
     // A menu keeps from its button that the mouse has gone elsewhere.
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
-    // The buttons of all dialogs alike are without icons.
+    // The buttons of all dialogs alike are without icons, and nothing moves by itself.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override;
     // The mark of a toolbar that is wider than its window is a black picture.

@@ -1,0 +1,26 @@
+#include "gui/widgets/accessibleRoles.h"
+
+#include <QAccessibleWidget>
+
+namespace gui {
+
+namespace {
+
+QAccessibleInterface* interfaceOf(const QString& className, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (widget == nullptr) return nullptr;
+    if (className == QLatin1String("gui::BarChart")) return new QAccessibleWidget(widget, QAccessible::Chart);
+    if (className == QLatin1String("gui::SheetPaper"))
+        return new QAccessibleWidget(widget, QAccessible::Canvas);
+    if (className == QLatin1String("gui::PreviewPort") || className == QLatin1String("gui::SheetShape"))
+        return new QAccessibleWidget(widget, QAccessible::Graphic);
+    return nullptr;
+}
+
+} // namespace
+
+void tellRoles() {
+    QAccessible::installFactory(interfaceOf);
+}
+
+} // namespace gui
