@@ -8,6 +8,9 @@ file(REAL_PATH ${FROM} FROM)
 
 # What a reader sees of a piece of a page, as the inside of a string in JavaScript.
 function(plainText piece result)
+    string(REGEX REPLACE "<thead>[^\n]*</thead>" "" piece "${piece}")
+    string(REGEX REPLACE "\\.?</td><td>" ": " piece "${piece}")
+    string(REPLACE "</tr>\n<tr>" " · " piece "${piece}")
     string(REGEX REPLACE "</?(a|b|code|i|kbd)( [^>]*)?>" "" piece "${piece}")
     string(REGEX REPLACE "<[^>]*>" " " piece "${piece}")
     string(REPLACE "&nbsp;" " " piece "${piece}")

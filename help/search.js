@@ -148,7 +148,7 @@
         if (parts === null) readIndex();
         const words = wordsOf(box.value);
         const finding = words.length > 0;
-        main.classList.toggle("finding", finding);
+        document.body.classList.toggle("finding", finding);
         results.hidden = !finding;
         const found = finding ? search(words) : [];
         list.replaceChildren(...found.map(part => item(part, words)));
