@@ -122,7 +122,8 @@ void showAbout(App& app) {
 void visitHomepage(App& app) {
     constexpr std::string_view address = FERROWICK_HOMEPAGE;
     if (address.empty())
-        //: Where this page of the help stands in this language, below share/ferrowick. Not a text that is shown.
+        //: Where this page of the help stands in this language, below share/ferrowick. Not a text that is
+        //: shown.
         openHelpPage(app, core::marked("help/about.html"));
     else
         app.platform.openLink(std::string(address));
