@@ -78,7 +78,7 @@ void toggleCalcHighlight(App& app) {
 namespace {
 // A catalogue names the page in its own language; where that is not installed, the English one is shown.
 void openHelpPage(App& app, const char* page) {
-    std::optional<std::filesystem::path> file = platform::programFile(core::tr(page));
+    auto file = platform::programFile(core::tr(page));
     if (!file) file = platform::programFile(page);
     if (file)
         app.platform.openLink(file->string());
