@@ -76,8 +76,11 @@ void toggleCalcHighlight(App& app) {
 }
 
 namespace {
-void openHelpPage(App& app, std::string_view page) {
-    if (const auto file = platform::programFile(page))
+// A catalogue names the page in its own language; where that is not installed, the English one is shown.
+void openHelpPage(App& app, const char* page) {
+    auto file = platform::programFile(core::tr(page));
+    if (!file) file = platform::programFile(page);
+    if (file)
         app.platform.openLink(file->string());
     else
         app::inform(app, core::tr("The help pages are not installed."));
@@ -105,7 +108,8 @@ void makeCodeOfBox(App& app) {
 }
 
 void openHelp(App& app) {
-    openHelpPage(app, "help/index.html");
+    //: Where the help stands in this language, below share/ferrowick. Not a text that is shown.
+    openHelpPage(app, core::marked("help/index.html"));
 }
 
 void showAbout(App& app) {
@@ -119,7 +123,9 @@ void showAbout(App& app) {
 void visitHomepage(App& app) {
     constexpr std::string_view address = FERROWICK_HOMEPAGE;
     if (address.empty())
-        openHelpPage(app, "help/about.html");
+        //: Where this page of the help stands in this language, below share/ferrowick. Not a text that is
+        //: shown.
+        openHelpPage(app, core::marked("help/about.html"));
     else
         app.platform.openLink(std::string(address));
 }

@@ -1,37 +1,34 @@
 #!/usr/bin/env bash
-# Checks the pages of help/: their links, their pictures, and that the menus and commands they name are the program's.
+# Checks the pages of help/ in each language: their links, their pictures, and that the menus and commands they name are
+# the program's; and that the links in the project's documents lead somewhere.
 #     tests/help/checkHelp.sh PROJECT PAGES    PAGES is the folder of the built pages
 set -euo pipefail
 export LC_ALL=C.UTF-8
 project=$(realpath "$1")
-cd "$2"
+pages=$(realpath "$2")
 
 faults=0
 fault() {
-    echo "$*"
+    echo "${PWD##*/}/$*"
     faults=$((faults + 1))
 }
 
 # A page as one line, so that what is divided between lines is found too.
 text() { tr '\n' ' ' <"$1"; }
-values() { text "$1" | grep -oE "[ ]$2=\"[^\"]*\"" | sed -E 's/^[^"]*"//; s/"$//' || true; } # values PAGE ATTRIBUTE
 
 checkLinks() {
     local page=$1 link file
     while read -r link; do
         file=${link%%#*}
-        case $link in
-        *:*) fault "$page: \"$link\" leaves the help" ;;
-        *) [[ -e ${file:-$page} ]] || fault "$page: \"$link\" does not exist" ;;
-        esac
+        reached+="$file "
+        [[ $link != *:* && -e ${file:-$page} ]] || fault "$page: \"$link\" is not in the help"
         [[ $link != *#* ]] || grep -q "id=\"${link#*#}\"" "${file:-$page}" || fault "$page: no place \"$link\""
-    done < <(values "$page" '(href|src)')
+    done < <(text "$page" | grep -oE '[ ](href|src)="[^"]*"' | sed -E 's/^[^"]*"//; s/"$//')
 }
 
 checkForm() {
     local page=$1
-    grep -q '<html lang="' "$page" || fault "$page: no language"
-    grep -qE '<title>[^<]+</title>' "$page" || fault "$page: no title"
+    [[ $(grep -cE "<html lang=\"$2\"|<title>[^<]+</title>" "$page") == 2 ]] || fault "$page: no language, or no title"
     [[ $(grep -c '<h1' "$page") == 1 ]] || fault "$page: not one h1"
     while read -r image; do
         [[ $image =~ \ alt=\"[^\"]+\" ]] || fault "$page: no alt text in $image"
@@ -47,34 +44,38 @@ checkNames() {
         for part in "${path%% &gt; *}" "${path#* &gt; }"; do
             grep -qxF "$part" <<<"$captions" || fault "$page: no menu has \"$part\""
         done
-    done < <(text "$page" | grep -oE '<b>[A-Z][a-z]+ &gt; [^<]*</b>' | sed 's/<[^>]*>//g')
+    done < <(text "$page" | grep -oE '<b>[[:upper:]][[:lower:]]+ &gt; [^<]*</b>' | sed 's/<[^>]*>//g')
     while read -r name; do
         grep -qE "\{\"$name\", " "$project/src/cli/main.cpp" || fault "$page: fwk has no command \"$name\""
     done < <(sed 's/^<pre><code>//' "$page" | grep -oE '^fwk [a-z-]+' | cut -d' ' -f2)
 }
 
-# Whatever can be reached from the first page.
-reached=" index.html style.css "
-visit=(index.html)
-while ((${#visit[@]})); do
-    page=${visit[0]}
-    visit=("${visit[@]:1}")
-    for link in $(values "$page" '(href|src)'); do
-        file=${link%%#*}
-        [[ -e $file && $reached != *" $file "* ]] || continue
-        reached+="$file "
-        [[ $file != *.html ]] || visit+=("$file")
+# checkLanguage LANGUAGE FOLDER. That each page is there in each language is checked when the help is made.
+checkLanguage() {
+    local page reached=" "
+    cd "$pages/$2"
+    for page in *.html; do
+        checkLinks "$page"
+        checkForm "$page" "$1"
+        [[ $1 == de && ! -e $german ]] || checkNames "$page"
+        grep -qF "{page: \"$page\"," search-index.js || fault "$page: the search does not know it"
     done
-done
-for file in *.html images/*; do
-    [[ $reached == *" $file "* ]] || fault "$file: no page leads to it"
-done
+    for page in *.html $(ls images/* 2>/dev/null); do
+        [[ $reached == *" $page "* ]] || fault "$page: no page leads to it"
+    done
+}
 
-pages=(*.html)
-for page in "${pages[@]}"; do
-    checkLinks "$page"
-    checkForm "$page"
-    checkNames "$page"
+checkLanguage en .
+# What the window shows in the other language, where there is a catalogue of it.
+german=$project/translations/ferrowick_de.ts
+[[ ! -e $german ]] || captions=$(sed -nE 's/&amp;//g; s/.*<translation>([^<]+)<.*/\1/p' "$german")
+checkLanguage de de
+
+cd "$project"
+for document in {README,CHANGELOG,CONTRIBUTING,SECURITY}.md {docs,docs/prints,samples}/*.md; do
+    while read -r link; do
+        [[ $link == *:* || -e $(dirname "$document")/${link%%#*} ]] || fault "$document: \"$link\" does not exist"
+    done < <(grep -oE '(\]\(|(src|href)=")[^)"]+' "$document" | sed -E 's/^(\]\(|[a-z]+=")//')
 done
-echo "${#pages[@]} pages, $faults faults"
+echo "$faults faults"
 ((faults == 0))
