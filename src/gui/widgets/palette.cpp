@@ -41,7 +41,7 @@ void useDarkColours() {
         dark.setColor(role, text);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         dark.setColor(QPalette::Disabled, role, grey);
-    dark.setColor(QPalette::PlaceholderText, QColor(0xae, 0xb4, 0xba));
+    dark.setColor(QPalette::PlaceholderText, QColor(0xba, 0xc0, 0xc6));
     dark.setColor(QPalette::ToolTipBase, QColor(0x3c, 0x3d, 0x41));
     dark.setColor(QPalette::Highlight, QColor(0x1f, 0x5f, 0xbf));
     dark.setColor(QPalette::HighlightedText, Qt::white);
