@@ -58,6 +58,7 @@ _fwk() {
     (-o:*|--output:*|--pdf:*)
         case $command in
         (search|restore) _files -g '*.fwk' ;;
+        (thumbnail) _files -g '*.png' ;;
         (export) _files -g '*.(csv|tsv|xlsx|ods|json|sqlite|html|vcf)' ;;
         (*) _files -g '*.pdf' ;;
         esac

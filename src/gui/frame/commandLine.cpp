@@ -14,6 +14,8 @@ void declareOptions(QCommandLineParser& parser) {
     parser.addOptions({
         {{QStringLiteral("h"), QStringLiteral("help")}, QString()},
         {{QStringLiteral("v"), QStringLiteral("version")}, QString()},
+        {QStringLiteral("new"), QString()},
+        {QStringLiteral("last"), QString()},
         {QStringLiteral("picture"), QString(), QStringLiteral("PNG")},
         {QStringLiteral("size"), QString(), QStringLiteral("WxH")},
         {QStringLiteral("scale"), QString(), QStringLiteral("N")},
@@ -59,6 +61,10 @@ CommandLine parseCommandLine(int argc, char* argv[]) {
     line.help = parser.isSet(QStringLiteral("help"));
     line.version = parser.isSet(QStringLiteral("version"));
     line.file = absolutePath(parser.positionalArguments().value(0));
+    line.isNew = parser.isSet(QStringLiteral("new"));
+    line.isLast = parser.isSet(QStringLiteral("last"));
+    if (line.isNew + line.isLast + !line.file.isEmpty() > 1)
+        line.error = QStringLiteral("--new, --last and a file exclude each other");
     line.picture = parser.value(QStringLiteral("picture"));
     line.dark = parser.isSet(QStringLiteral("dark"));
     if (parser.isSet(QStringLiteral("size")))
@@ -80,6 +86,8 @@ QString helpText(const QString& program) {
                "Options:\n"
                "  -h, --help         Shows this text.\n"
                "  -v, --version      Shows the version.\n"
+               "  --new              Begins with a new database, as File > New.\n"
+               "  --last             Opens the database that was used last.\n"
                "  --dark             Uses dark colours.\n"
                "  --picture PNG      Saves a picture of the window with FILE instead of showing it.\n"
                "                     It needs no display and leaves your settings alone.\n"
