@@ -3,12 +3,15 @@
 #include "gui/frame/mainFrmView.h"
 #include "gui/frame/picture.h"
 #include "gui/machine/endSignals.h"
+#include "gui/machine/recentList.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
 #include "gui/widgets/qtText.h"
+#include "shell/commands.h"
 #include "shell/mainWindow.h"
 #include "shell/program.h"
+#include "shell/recentlyUsed.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -30,7 +33,12 @@ int showWindow(const gui::CommandLine& line) {
         window.endAtOnce();
         std::_Exit(128 + number); // dialogs further up would take their end for an answer
     });
-    window.load(shell::commandLineFor(gui::fromQt(line.file)));
+    gui::keepRecentList(app);
+    window.load(shell::commandLineFor(line.isLast ? shell::lastFile(app) : gui::fromQt(line.file)));
+    if (line.isNew)
+        QMetaObject::invokeMethod(
+            &window, [&] { window.events().run([&] { shell::runCommand(app, "mnuNew"); }); },
+            Qt::QueuedConnection);
     return QApplication::exec();
 }
 
@@ -60,7 +68,7 @@ int main(int argc, char* argv[]) {
     // No display name beside it: Qt would add that to captions that begin with the title already.
     QCoreApplication::setApplicationName(QStringLiteral("ferrowick"));
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROWICK_VERSION));
-    QGuiApplication::setDesktopFileName(QStringLiteral("ferrowick"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.ferrowick.ferrowick"));
     QApplication::setWindowIcon(gui::programIcon());
     QApplication::setStyle(new gui::ProgramStyle);
     if (line.dark) gui::useDarkColours();

@@ -72,7 +72,8 @@ public:
         }
         try {
             file::AtomicFile file(path_, database_);
-            const int error = file::writeAt(file.fd(), bytes.data(), static_cast<std::size_t>(bytes.size()), 0);
+            const int error =
+                file::writeAt(file.fd(), bytes.data(), static_cast<std::size_t>(bytes.size()), 0);
             if (error != 0) file::raiseSystemError(error, path_.string());
             file.commit();
         } catch (const core::RunTimeError& error) {

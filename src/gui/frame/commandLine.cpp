@@ -63,14 +63,16 @@ CommandLine parseCommandLine(int argc, char* argv[]) {
     line.file = absolutePath(parser.positionalArguments().value(0));
     line.isNew = parser.isSet(QStringLiteral("new"));
     line.isLast = parser.isSet(QStringLiteral("last"));
-    if (line.isNew + line.isLast + !line.file.isEmpty() > 1)
-        line.error = QStringLiteral("--new, --last and a file exclude each other");
     line.picture = parser.value(QStringLiteral("picture"));
     line.dark = parser.isSet(QStringLiteral("dark"));
     if (parser.isSet(QStringLiteral("size")))
         line.size = sizeOf(parser.value(QStringLiteral("size")), line.error);
     if (parser.isSet(QStringLiteral("scale")))
         line.scale = scaleOf(parser.value(QStringLiteral("scale")), line.error);
+    if ((line.isNew || line.isLast) &&
+        (line.isNew == line.isLast || !line.file.isEmpty() || !line.picture.isEmpty()))
+        line.error =
+            QStringLiteral("--new and --last take no file, and go neither together nor with --picture");
     return line;
 }
 
