@@ -1,4 +1,5 @@
-# The libraries that CMake asks for are the ones that the Debian package and the Flatpak manifest build with.
+# The libraries that CMake asks for are the ones that the Debian package and the Flatpak manifest build with, and the
+# package has the version of the project.
 #   cmake -DSOURCE=... -P librariesTest.cmake
 # What CMake calls it, what Debian does, and what makes it in the sandbox.
 set(known
@@ -9,6 +10,13 @@ set(known
 function(fail)
     message(SEND_ERROR ${ARGN})
 endfunction()
+
+file(STRINGS ${SOURCE}/CMakeLists.txt version REGEX "^project\\(ferrowick VERSION ")
+file(STRINGS ${SOURCE}/debian/changelog newest LIMIT_COUNT 1)
+string(REGEX REPLACE ".*VERSION ([0-9.]+) .*" "\\1" version "${version}")
+if(NOT newest MATCHES "^ferrowick \\(${version}\\) ")
+    fail("debian/changelog begins with ${newest}")
+endif()
 
 set(asked "")
 foreach(folder . gui qtprint)

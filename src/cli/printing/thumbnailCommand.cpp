@@ -25,7 +25,7 @@ struct ThumbnailOptions {
 // Desktops draw thumbnails of whatever has been downloaded, without being asked to: what takes more than this
 // has none. The limits go along to the program that draws.
 void limitWork() {
-    constexpr rlim_t mostSeconds = 5;
+    constexpr rlim_t mostSeconds = 3;
     constexpr rlim_t mostBytes = rlim_t{1} << 30;
     struct Limit {
         decltype(RLIMIT_CPU) of;
@@ -67,7 +67,7 @@ Run setUpThumbnail(CLI::App& command) {
         ->type_name("N")
         ->check(CLI::Range(smallest, largest));
     command.footer("Draws the first record on its page, for file managers. A database whose page is empty, "
-                   "or that takes\nmore than five seconds or a gigabyte to draw, has no thumbnail.");
+                   "or that takes\nmore than three seconds or a gigabyte to draw, has no thumbnail.");
     return [options] { return drawThumbnail(*options); };
 }
 
