@@ -272,14 +272,14 @@ bool takesPicture(App& app, int index) {
     return !isDesignMode(app) && app.document.layout.imgHolder.find(index) != nullptr;
 }
 
-bool takePicture(App& app, int index, const std::string& name, std::string_view bytes) {
-    if (!takesPicture(app, index)) return false;
-    const std::optional<std::string> stored = storePicture(app, name, bytes, "");
-    if (!stored) return false;
+std::optional<std::string> takePicture(App& app, int index, const std::string& name, std::string_view bytes) {
+    std::optional<std::string> stored;
+    if (takesPicture(app, index)) stored = storePicture(app, name, bytes, "");
+    if (!stored) return stored;
     core::ImgHolder* holder = app.document.layout.imgHolder.find(index);
     fitImage(app, *holder, holder->viewImage, app.platform.tempFolder() / *stored);
     holder->ToolTipText = *stored;
-    return true;
+    return stored;
 }
 
 std::string storeClipboardImage(App& app, const FittedImage& image) {

@@ -218,7 +218,7 @@ tool Field Name; press Ctrl+L; tab 0; click mnuLayoutDoubleClick; press Insert -
         QVERIFY(run.platform.told.takeLast().contains("no.gif cannot be read"_L1));
         run.act(u"click Design"_s);
         QVERIFY(!drop(path("art.png"), inFrame) && run.window.isWindowModified());
-        QCOMPARE(run.window.windowTitle(), u"Ferrowick - "_s + path("books.fwk") + u"[*]");
+        QCOMPARE(run.window.windowTitle(), u"Ferrowick - "_s + path("books.fwk") + u"[*]"_s);
         int ended = 0;
         run.window.events().endProgram = [&] { ++ended; };
         run.window.events().run([&] {

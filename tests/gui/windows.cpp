@@ -279,9 +279,10 @@ private slots:
         const QString list = path("recently-used.xbel"), file = u"/home/me/Ünsere Bücher.fwk"_s;
         const QDateTime now(QDate(2026, 3, 4), QTime(5, 6), Qt::UTC);
         const QByteArray others =
-            R"(<bookmark href="file:///a&amp;b" added="2020-01-01T00:00:00Z"><title>A &lt; b</title>
-    <info><metadata owner="x"><bookmark:applications><bookmark:application name="Ferrowick" count="7"/></bookmark:applications>
-    </metadata></info><!-- kept --><desc><![CDATA[<&>]]></desc></bookmark>)";
+            "<bookmark href='file:///a&amp;b' added='2020'><title>A &lt; b</title><info><metadata owner='x'>"
+            "<bookmark:applications><bookmark:application name='Ferrowick' "
+            "count='7'/></bookmark:applications>"
+            "</metadata></info><!-- kept --><desc><![CDATA[<&>]]></desc></bookmark>"_ba.replace('\'', '"');
         const auto write = [&](const QByteArray& bytes) {
             QFile out(list);
             return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();

@@ -30,10 +30,17 @@ bool isPicture(const QMimeData& data) {
     return file.isEmpty() ? data.hasImage() : qtprint::isPictureName(file);
 }
 
-void tellConverted(app::App& app, const qtprint::StorablePicture& picture) {
-    std::string told =
-        core::fill(core::tr("The picture is kept as the JPEG file %1."), {fromQt(picture.name)});
-    if (picture.wasTransparent)
+// What becomes of a picture that was dropped on a box; name is that of its file.
+void takeDropped(app::App& app, int box, const std::optional<qtprint::StorablePicture>& picture,
+                 const std::string& name) {
+    if (!picture) {
+        app::warn(app, core::fill(core::tr("The picture %1 cannot be read, or is too large."), {name}));
+        return;
+    }
+    const auto stored = layout::takePicture(app, box, fromQt(picture->name), picture->bytes.toStdString());
+    if (!stored || !picture->isConverted) return;
+    std::string told = core::fill(core::tr("The picture is kept as the JPEG file %1."), {*stored});
+    if (picture->wasTransparent)
         told.append(" ").append(core::tr("What is transparent in it has become white."));
     app::inform(app, told);
 }
@@ -102,18 +109,7 @@ void Drops::dropPicture(const QMimeData& data, int box) {
                                         : qtprint::storablePicture(file);
     const std::string name = fromQt(QFileInfo(file).fileName());
     QMetaObject::invokeMethod(
-        this,
-        [this, box, picture, name] {
-            events_.run([&] {
-                if (!picture)
-                    app::warn(app_, core::fill(core::tr("The picture %1 cannot be read, or is too large."),
-                                               {name}));
-                else if (layout::takePicture(app_, box, fromQt(picture->name),
-                                             picture->bytes.toStdString()) &&
-                         picture->isConverted)
-                    tellConverted(app_, *picture);
-            });
-        },
+        this, [this, box, picture, name] { events_.run([&] { takeDropped(app_, box, picture, name); }); },
         Qt::QueuedConnection);
 }
 

@@ -178,8 +178,11 @@ QString noteRecentFile(const QString& list, const QString& file, const QDateTime
     const std::string path = fromQt(list);
     try {
         const std::string bytes = fromQt(ListCopy(readList(path), file, now).copy());
+        // A new list takes the permissions of the one before.
+        constexpr mode_t ownersAlone = S_IRUSR | S_IWUSR;
+        if (::chmod(path.c_str(), ownersAlone) != 0 && errno != ENOENT) file::raiseSystemError(errno, path);
         file::AtomicFile replaced(path);
-        if (::fchmod(replaced.fd(), S_IRUSR | S_IWUSR) != 0) file::raiseSystemError(errno, path);
+        if (::fchmod(replaced.fd(), ownersAlone) != 0) file::raiseSystemError(errno, path);
         if (const int error = file::writeAt(replaced.fd(), bytes.data(), bytes.size(), 0); error != 0)
             file::raiseSystemError(error, path);
         replaced.commit();
