@@ -8,6 +8,7 @@
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
 #include "gui/widgets/qtText.h"
+#include "qtprint/hiddenApplication.h"
 #include "shell/commands.h"
 #include "shell/mainWindow.h"
 #include "shell/program.h"
@@ -18,6 +19,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 
 namespace {
 
@@ -57,7 +59,9 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     const bool picture = !line.picture.isEmpty();
+    std::optional<qtprint::RuntimeFolder> runtimeFolder;
     if (picture) {
+        runtimeFolder.emplace();
         // Both are read when the application object is made. What Qt has to say about the missing display
         // would only stand among the lines of a script.
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});

@@ -214,6 +214,7 @@ tool Field Name; press Ctrl+L; tab 0; click mnuLayoutDoubleClick; press Insert -
                     (stored.pixelColor(5, 5).green() > 250) == (colour != Qt::red));
         }
         QVERIFY(drop(sample("books.fwk")));
+        run.act(u"tab 1"_s);
         QVERIFY(QFile::copy(path("books.fwk"), path("no.gif")) && drop(path("no.gif"), inFrame));
         QVERIFY(run.platform.told.takeLast().contains("no.gif cannot be read"_L1));
         run.act(u"click Design"_s);
