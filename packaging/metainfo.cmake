@@ -16,7 +16,7 @@ if(HOMEPAGE)
     string(APPEND FERROWICK_LINKS "  <url type=\"homepage\">${home}</url>\n"
         "  <url type=\"help\">${home}/help/index.html</url>\n  <screenshots>\n")
     set(type " type=\"default\"")
-    foreach(shown "main-window|Records in a list, with totals|Datensätze in einer Liste, mit Summen|Registros en una lista, con totales|Des fiches dans une liste, avec leurs totaux"
+    foreach(shown "main-window|Records in a list|Datensätze in einer Liste|Registros en una lista|Des fiches dans une liste"
             "library|A page that you lay out yourself|Eine selbst gestaltete Seite|Una página diseñada por usted|Une page que vous composez"
             "invoice|An invoice, typed on its page|Eine Rechnung, auf ihrer Seite geschrieben|Una factura, escrita en su página|Une facture, saisie sur sa page"
             "labels|Labels, many to a sheet|Etiketten, viele auf einem Bogen|Etiquetas, muchas por hoja|Des étiquettes, plusieurs par feuille"
