@@ -11,7 +11,7 @@ run=(libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6svg6 qt6-wayland fonts-
 test=(libgtest-dev libgmock-dev libbenchmark-dev zip unzip clang-format-14 poppler-utils zbar-tools)
 tidy=(clang-tidy-14)
 bench=(libbenchmark-dev hyperfine time zip unzip sqlite3)
-package=(dpkg-dev file gzip)
+package=(dpkg-dev debhelper file gzip)
 # Work without these is slower or leaves a step out, but is done.
 optional=(ccache mold clang-14 libclang-rt-14-dev)
 

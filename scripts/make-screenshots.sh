@@ -283,3 +283,9 @@ shot item-rows
 
 "$program" --dark --picture "$scratch/dark.png" --size ${width}x$height library.fwk
 optimise "$scratch/dark.png" "$root/docs/images/dark.png"
+
+# The README's first picture: the list, and before it one of its records on its page.
+convert -size 1270x890 xc:white "$scratch/report.png" -geometry +1+1 -composite \
+    \( "$scratch/layout.png" -bordercolor '#909090' -border 1 \( +clone -background black -shadow 50x8+0+4 \) \
+    +swap -background none -layers merge +repage \) -geometry +240+160 -composite "$scratch/overview.png"
+optimise "$scratch/overview.png" "$root/docs/images/overview.png"

@@ -52,7 +52,7 @@ _fwk() {
     for ((i = 1; i < COMP_CWORD; ++i)); do
         word=${COMP_WORDS[i]}
         case $word in
-        -o | --output | --columns | --by | --group-by | --expression | --column | --title | --records | --from | --kind | --where | --filter | --wait | --dates | --decimal | --encoding | --separator | --quotes | --format | --sheet | --sum | --mean | --min | --max | --top | --paper) option=$word taken=0 ;;
+        -o | --output | --columns | --by | --group-by | --expression | --column | --title | --records | --from | --kind | --where | --filter | --wait | --dates | --decimal | --encoding | --separator | --quotes | --format | --sheet | --sum | --mean | --min | --max | --top | --paper | --size) option=$word taken=0 ;;
         -*) option="" ;;
         *)
             if [[ -n $option ]]; then
@@ -84,6 +84,7 @@ _fwk() {
     -o:* | --output:* | --pdf:*)
         case $command in
         search | restore) _fwk_files '*.fwk' ;;
+        thumbnail) _fwk_files '*.png' ;;
         export) _fwk_files '*.@(csv|tsv|xlsx|ods|json|sqlite|html|vcf)' ;;
         *) _fwk_files '*.pdf' ;;
         esac

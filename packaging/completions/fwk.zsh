@@ -30,7 +30,7 @@ _fwk() {
     for ((i = 2; i < CURRENT; ++i)); do
         word=$words[i]
         case $word in
-        (-o|--output|--columns|--by|--group-by|--expression|--column|--title|--records|--from|--kind|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top|--paper) option=$word taken=0 ;;
+        (-o|--output|--columns|--by|--group-by|--expression|--column|--title|--records|--from|--kind|--where|--filter|--wait|--dates|--decimal|--encoding|--separator|--quotes|--format|--sheet|--sum|--mean|--min|--max|--top|--paper|--size) option=$word taken=0 ;;
         (-*) option= ;;
         (*)
             if [[ -n $option ]]; then
@@ -58,6 +58,7 @@ _fwk() {
     (-o:*|--output:*|--pdf:*)
         case $command in
         (search|restore) _files -g '*.fwk' ;;
+        (thumbnail) _files -g '*.png' ;;
         (export) _files -g '*.(csv|tsv|xlsx|ods|json|sqlite|html|vcf)' ;;
         (*) _files -g '*.pdf' ;;
         esac

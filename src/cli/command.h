@@ -61,6 +61,7 @@ Run setUpRestore(CLI::App& command);
 Run setUpReport(CLI::App& command);
 Run setUpLayouts(CLI::App& command);
 Run setUpLabels(CLI::App& command);
+Run setUpThumbnail(CLI::App& command);
 Run setUpExport(CLI::App& command);
 Run setUpImport(CLI::App& command);
 Run setUpPaste(CLI::App& command);

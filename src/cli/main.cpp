@@ -45,6 +45,7 @@ constexpr Command commands[] = {
     {"report", "Prints the report of all records into a PDF file", setUpReport},
     {"layouts", "Prints the layout of each record into a PDF file", setUpLayouts},
     {"labels", "Lists the label stocks that have these words or this size", setUpLabels},
+    {"thumbnail", "Draws the layout of the first record into a PNG file", setUpThumbnail},
     {"export", "Writes the records with their column types into a table", setUpExport},
     {"import", "Makes a database from a table, or appends the table's rows", setUpImport},
     {"paste", "Makes new records of the rows of a table on standard input", setUpPaste},

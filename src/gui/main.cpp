@@ -4,19 +4,24 @@
 #include "gui/frame/picture.h"
 #include "gui/machine/endSignals.h"
 #include "gui/machine/language.h"
+#include "gui/machine/recentList.h"
 #include "gui/widgets/accessibleRoles.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
 #include "gui/widgets/qtText.h"
+#include "qtprint/hiddenApplication.h"
+#include "shell/commands.h"
 #include "shell/mainWindow.h"
 #include "shell/program.h"
+#include "shell/recentlyUsed.h"
 
 #include <QApplication>
 #include <QFileInfo>
 
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 
 namespace {
 
@@ -32,7 +37,12 @@ int showWindow(const gui::CommandLine& line) {
         window.endAtOnce();
         std::_Exit(128 + number); // dialogs further up would take their end for an answer
     });
-    window.load(shell::commandLineFor(gui::fromQt(line.file)));
+    gui::keepRecentList(app);
+    window.load(shell::commandLineFor(line.isLast ? shell::lastFile(app) : gui::fromQt(line.file)));
+    if (line.isNew)
+        QMetaObject::invokeMethod(
+            &window, [&] { window.events().run([&] { shell::runCommand(app, "mnuNew"); }); },
+            Qt::QueuedConnection);
     return QApplication::exec();
 }
 
@@ -51,7 +61,9 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     const bool picture = !line.picture.isEmpty();
+    std::optional<qtprint::RuntimeFolder> runtimeFolder;
     if (picture) {
+        runtimeFolder.emplace();
         // Both are read when the application object is made. What Qt has to say about the missing display
         // would only stand among the lines of a script.
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
@@ -62,7 +74,7 @@ int main(int argc, char* argv[]) {
     // No display name beside it: Qt would add that to captions that begin with the title already.
     QCoreApplication::setApplicationName(QStringLiteral("ferrowick"));
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROWICK_VERSION));
-    QGuiApplication::setDesktopFileName(QStringLiteral("ferrowick"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.ferrowick.ferrowick"));
     QApplication::setWindowIcon(gui::programIcon());
     gui::useLanguageOfUser();
     gui::tellRoles();

@@ -246,7 +246,10 @@ void selectClipArt(App& app, int iIndex) {
     fitImage(app, *clip, clip->clipImage, copy);
 }
 
-std::optional<std::string> storeClipArt(App& app, const std::string& name, std::string_view bytes) {
+namespace {
+
+std::optional<std::string> storePicture(App& app, const std::string& name, std::string_view bytes,
+                                        const std::string& comment) {
     if (!isImageName(name)) {
         app::warn(app, core::fill(core::tr("The picture %1 cannot be read."), {name}));
         return std::nullopt;
@@ -263,11 +266,31 @@ std::optional<std::string> storeClipArt(App& app, const std::string& name, std::
         writeWorkFile(file, bytes);
         if (isThere) return;
         isShown = app.platform.pictureExtent(file).has_value();
-        if (isShown) return addToArchive(app, file, "Clip Art");
+        if (isShown) return addToArchive(app, file, comment);
         app::warn(app, faultOf(app, file, name));
         fs::remove(file);
     });
     return stored && isShown ? std::optional(chosen) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<std::string> storeClipArt(App& app, const std::string& name, std::string_view bytes) {
+    return storePicture(app, name, bytes, "Clip Art");
+}
+
+bool takesPicture(App& app, int index) {
+    return !isDesignMode(app) && app.document.layout.imgHolder.find(index) != nullptr;
+}
+
+std::optional<std::string> takePicture(App& app, int index, const std::string& name, std::string_view bytes) {
+    std::optional<std::string> stored;
+    if (takesPicture(app, index)) stored = storePicture(app, name, bytes, "");
+    if (!stored) return stored;
+    core::ImgHolder* holder = app.document.layout.imgHolder.find(index);
+    fitImage(app, *holder, holder->viewImage, app.platform.tempFolder() / *stored);
+    holder->ToolTipText = *stored;
+    return stored;
 }
 
 std::string storeClipboardImage(App& app, const FittedImage& image) {

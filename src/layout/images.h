@@ -55,6 +55,14 @@ void selectClipArt(app::App& app, int iIndex);
 // Another picture that has its name keeps it. The name that it has here, or nothing after a message.
 std::optional<std::string> storeClipArt(app::App& app, const std::string& name, std::string_view bytes);
 
+// Whether that picture box takes a picture, as it does for who browses the records.
+bool takesPicture(app::App& app, int index);
+// A picture from another place for the record that is shown: stores it in the archive, where another picture
+// of that name stays as it is, and shows it in the box. The name that it has there, or
+// nothing after a message.
+std::optional<std::string> takePicture(app::App& app, int index, const std::string& name,
+                                       std::string_view bytes);
+
 // The image of the clipboard for the selected picture box or clip art.
 void mnuImportImage_Click(app::App& app);
 

@@ -2,14 +2,11 @@
 
 #include "core/runTimeError.h"
 #include "file/atomicFile.h"
+#include "qtprint/hiddenApplication.h"
 #include "qtprint/paperTarget.h"
 #include "qtprint/pictureFile.h"
 
-#include <QGuiApplication>
 #include <QPdfWriter>
-#include <QTemporaryDir>
-
-#include <optional>
 
 namespace qtprint {
 
@@ -106,27 +103,6 @@ public:
 private:
     std::function<void()> made_;
     std::string failure_;
-};
-
-// Qt measures and draws texts for an application object only; this one shows nothing.
-class HiddenApplication {
-public:
-    HiddenApplication() {
-        if (QCoreApplication::instance() != nullptr) return;
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        // Qt would make one itself otherwise, and leave it behind.
-        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
-            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeFolder_.emplace().path()));
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-        application_ = std::make_unique<QGuiApplication>(argc_, argv_);
-    }
-
-private:
-    char name_[4] = "fwk";
-    char* argv_[2] = {name_, nullptr};
-    int argc_ = 1;
-    std::optional<QTemporaryDir> runtimeFolder_;
-    std::unique_ptr<QGuiApplication> application_;
 };
 
 class PdfPrinter : public drawing::Printer {

@@ -59,6 +59,11 @@ bool isPictureTooLarge(const QString& path) {
     return measure(path).isTooLarge;
 }
 
+bool isTooLarge(const QString& path, QSize size) {
+    const qint64 pixels = static_cast<qint64>(size.width()) * static_cast<qint64>(size.height());
+    return size.isEmpty() || pixels > mostPixels || QFileInfo(path).size() > mostFileBytes;
+}
+
 std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& path) {
     constexpr long twipsPerPixel = 15; // of the 96 dots per inch that pictures are measured by
     const std::optional<QSize> size = pictureSize(toQString(path.string()));

@@ -17,6 +17,8 @@ namespace qtprint {
 std::optional<QSize> pictureSize(const QString& path);
 // Whether it is a picture that takes too much to be shown.
 bool isPictureTooLarge(const QString& path);
+// The same of a size that a file tells.
+bool isTooLarge(const QString& path, QSize size);
 // The size in twips.
 std::optional<drawing::Extent> pictureExtent(const std::filesystem::path& path);
 

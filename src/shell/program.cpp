@@ -15,6 +15,7 @@
 #include "search/filter/filterMode.h"
 #include "search/suggestions.h"
 #include "shell/mainWindow.h"
+#include "shell/recentlyUsed.h"
 #include "shell/recoveryOffer.h"
 #include "shell/undo.h"
 #include "storage/openedFile.h"
@@ -42,6 +43,11 @@ void followUnsaved(app::App& app) {
 
 } // namespace
 
+void noteRecentlyUsed(app::App& app) {
+    const std::string& file = app.document.currentFile;
+    if (const auto& note = recentlyUsed(app).note; note && !file.empty()) note(file);
+}
+
 // Who follows which change, in the order in which they are told.
 Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     using app::Change;
@@ -59,6 +65,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Stored}, storage::followStored);
     changes.follow({Change::Writing}, storage::followWriting);
     changes.follow({Change::Written}, storage::followWritten);
+    changes.follow({Change::Opened, Change::Stored}, noteRecentlyUsed);
     changes.follow({Change::Columns}, [](App& app) {
         // What is designed shows the names of its columns, and a new record has no results yet.
         if (!layout::isDesignMode(app) && !entry::isSheetNew(app)) entry::refreshShownRecord(app);

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "shell/looks.h"
+#include "shell/recentlyUsed.h"
 
 namespace shell {
 
@@ -44,6 +45,11 @@ void readSettings(app::App& app) {
         app.mainFrm.control(std::string("mnuFile") + number).Caption =
             app.platform.getSetting(std::string("File") + number, "");
     readLooks(app);
+}
+
+std::string lastFile(const app::App& app) {
+    const std::string open = app.platform.getSetting("defaultFile", "");
+    return open.empty() ? app.platform.getSetting("File1", "") : open;
 }
 
 void writeSettings(app::App& app) {

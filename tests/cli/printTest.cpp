@@ -61,6 +61,10 @@ $ fwk report a.fwk -o a.pdf; grep -aoE '<00(09|20)>' a.pdf | sort -u -> <0020>
 ! Too narrow for the longest text: Name (9 of 15 characters). Use --widen to print them whole. // @ a.pdf
 $ fwk layouts inv.fwk -o a.pdf; pdftotext -layout -l 1 a.pdf - | xargs | cut -c 1-99
 INVOICE 1 01/15/2004 Ærø Maskiner Item Qty Price Line Bolt M8 2 $1.50 $3.00 Nut M8 3 $2.00 $6.00  // @ a.pdf
+$ fwk thumbnail a.fwk -o a.png --size 64; od -An -tu1 -j16 -N4 a.png | xargs; rm a.png -> 0 0 0 64
+$1 fwk thumbnail none.fwk -o b.png -> ! b.png: could not be written: nothing stands on its layout
+$ head -c 300 books.fwk >b; fwk thumbnail b -o b.png; echo $? b.p*; rm b -> 1 b.p*
+! b: Invalid file format (Not a zip archive)
 $1 fwk report absent.fwk -o a.pdf -> ! File not found && $1 fwk report a.fwk -o a.pdf --columns Prise
 ! no column "Prise" && $1 fwk report inv.fwk -o a.pdf --columns Total,Item
 ! the report does not show the column "Item" && $1 fwk layouts a.fwk -o a.pdf --records i1,i99

@@ -183,17 +183,43 @@ tool Field Name; press Ctrl+L; tab 0; click mnuLayoutDoubleClick; press Insert -
 
     void filesThatAreDroppedAndProgramsThatEnd() {
         Session run;
-        const auto drop = [&](const QString& path) {
+        const auto drop = [&](const QString& path, QPoint at = {50, 50}) {
             QMimeData data;
             data.setUrls({QUrl::fromLocalFile(path)});
-            QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
-            QDropEvent event({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
-            for (QEvent* each : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&event)})
+            QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QDragMoveEvent move(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+            for (QEvent* each :
+                 {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&move), static_cast<QEvent*>(&event)})
                 QApplication::sendEvent(&run.window, each);
-            return enter.isAccepted();
+            QCoreApplication::sendPostedEvents();
+            return move.isAccepted();
         };
         QVERIFY(!drop(path("picture.png")) && run.app.document.currentFile.empty());
         QVERIFY(drop(sample("books.fwk")) && run.app.document.LV.count() == 43);
+        run.act(u"tab 1"_s);
+        const QWidget* frame = run.find<QWidget>(u"imgHolder1"_s);
+        const QPoint inFrame = frame->mapTo(&run.window, frame->rect().center());
+        QImage art(20, 10, QImage::Format_ARGB32);
+        for (const auto& [colour, kept] :
+             {std::pair(Qt::transparent, "art.jpg"), std::pair(Qt::red, "art-2.jpg")}) {
+            art.fill(colour);
+            art.save(path("art.png"));
+            QVERIFY(!drop(path("art.png")) && drop(path("art.png"), inFrame));
+            const core::ImgHolder& holder = run.app.document.layout.imgHolder[1];
+            QCOMPARE(holder.ToolTipText, kept);
+            QVERIFY(run.platform.told.takeLast().contains(QLatin1String(kept)));
+            const QImage stored(gui::toQt(holder.viewImage.path));
+            QVERIFY(stored.size() == art.size() &&
+                    (stored.pixelColor(5, 5).green() > 250) == (colour != Qt::red));
+        }
+        QVERIFY(drop(sample("books.fwk")));
+        run.act(u"tab 1"_s);
+        QVERIFY(QFile::copy(path("books.fwk"), path("no.gif")) && drop(path("no.gif"), inFrame));
+        QVERIFY(run.platform.told.takeLast().contains("no.gif cannot be read"_L1));
+        run.act(u"click Design"_s);
+        QVERIFY(!drop(path("art.png"), inFrame) && run.window.isWindowModified());
+        QCOMPARE(run.window.windowTitle(), u"Ferrowick - "_s + path("books.fwk") + u"[*]"_s);
         int ended = 0;
         run.window.events().endProgram = [&] { ++ended; };
         run.window.events().run([&] {

@@ -146,7 +146,7 @@ private:
                 textOf(current).section(u'|', 0, 1) + u" selected"_s + selected);
     }
     void addWindow(const QWidget& window) {
-        add(window.objectName(), window.windowTitle().section(u'/', -1));
+        add(window.objectName(), window.windowTitle().section(u'/', -1).remove(u"[*]"_s));
         for (QWidget* w = window.nextInFocusChain(); w != &window; w = w->nextInFocusChain()) {
             const auto* tool = qobject_cast<QToolButton*>(w);
             const QAction* action = tool != nullptr ? tool->defaultAction() : nullptr;

@@ -2,6 +2,7 @@
 
 #include "gui/dialogs/fontDialog.h"
 #include "gui/machine/mailProgram.h"
+#include "gui/machine/recentList.h"
 #include "gui/widgets/programStyle.h"
 
 // What the platform shows, and the program as it is called.
@@ -104,6 +105,47 @@ private slots:
         qputenv("PATH", programs);
     }
 
+    // What others keep in the desktop's list stays, in whatever words; a list that is none is left alone.
+    void theDesktopsListOfRecentFiles() {
+        const QString list = path("recently-used.xbel"), file = u"/home/me/Ünsere Bücher.fwk"_s;
+        const QDateTime now(QDate(2026, 3, 4), QTime(5, 6), Qt::UTC);
+        const QByteArray others =
+            "<bookmark href='file:///a&amp;b' added='2020'><title>A &lt; b</title><info><metadata owner='x'>"
+            "<bookmark:applications><bookmark:application name='Ferrowick' "
+            "count='7'/></bookmark:applications>"
+            "</metadata></info><!-- kept --><desc><![CDATA[<&>]]></desc></bookmark>"_ba.replace('\'', '"');
+        const auto write = [&](const QByteArray& bytes) {
+            QFile out(list);
+            return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
+        };
+        const auto read = [&] {
+            QFile in(list);
+            return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+        };
+        for (const QByteArray& before : {QByteArray(), "<xbel version=\"1.0\">" + others + "</xbel>"}) {
+            QVERIFY(write(before));
+            QCOMPARE(gui::noteRecentFile(list, file, now), QString());
+            QCOMPARE(gui::noteRecentFile(list, file, now.addDays(1)), QString());
+            const QByteArray after = read();
+            QVERIFY(before.isEmpty() || after.contains(others));
+            QCOMPARE(after.count("href=\"file:///home/me/%C3%9Cnsere%20B%C3%BCcher.fwk\" "
+                                 "added=\"2026-03-04T05:06:00.000Z\""),
+                     1);
+            QVERIFY(after.contains("visited=\"2026-03-05T05:06:00.000Z\"") &&
+                    after.contains("application/x-ferrowick"));
+            QVERIFY(
+                after.contains("exec=\"'ferrowick %f'\" modified=\"2026-03-05T05:06:00.000Z\" count=\"2\""));
+            QCOMPARE(QFile::permissions(list).toInt() & 0x77, 0); // its owner alone
+        }
+        for (const QByteArray& damaged :
+             {QByteArray("<xbel><bookmark></xbel>"), QByteArray("<html/>"), QByteArray("<xbel>&x;</xbel>"),
+              QByteArray("<xbel>\xff</xbel>"), QByteArray(9'000'000, ' ')}) {
+            QVERIFY(write(damaged) && !gui::noteRecentFile(list, file, now).isEmpty());
+            QVERIFY(read() == damaged);
+        }
+        QVERIFY(!gui::noteRecentFile(path("absent/list"), file, now).isEmpty());
+    }
+
     void theProgramAsItIsCalled() {
         sample("books.fwk");
         const auto codeOf = [&](const char* arguments) {
@@ -116,7 +158,8 @@ private slots:
              {"0 --help", "0 --version", "0 --picture light --size=640x400 --scale=2 a/../books.fwk",
               "0 --picture dark --size=640x400 --dark \"books.fwk\"", "2 --nonsense", "2 a b",
               "2 --picture p --size=100x300 books.fwk", "2 --picture p --size=300by300 books.fwk",
-              "2 --picture p --scale=0 books.fwk", "1 --picture p absent.fwk", "1 --picture no/p books.fwk"})
+              "2 --picture p --scale=0 books.fwk", "2 --new --last", "2 --last books.fwk",
+              "2 --new --picture p", "1 --picture p absent.fwk", "1 --picture no/p books.fwk"})
             QVERIFY2(codeOf(call + 2) == *call - '0', call);
         const QImage light(path("light")), dark(path("dark"));
         QVERIFY(light.size() == QSize(1280, 800) && dark.size() == QSize(640, 400));

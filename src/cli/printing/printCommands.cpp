@@ -40,12 +40,15 @@ struct PrintOptions {
 
 } // namespace
 
-void printInto(Session& session, const std::string& output,
-               const std::function<void(app::App&, DrawTarget&)>& print) {
+void printInto(Session& session, const std::string& output, const Print& print) {
     const std::unique_ptr<drawing::Printer> printer = makePrinter(output, session.file);
+    printInto(session, output, *printer, print);
+}
+
+void printInto(Session& session, const std::string& output, drawing::Printer& printer, const Print& print) {
     session.open();
     session.refuseAsOutput(output);
-    session.platform.setPrinter(printer.get());
+    session.platform.setPrinter(&printer);
     app::App& app = session.app;
     try {
         storage::extractClipArt(app);

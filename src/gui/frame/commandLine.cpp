@@ -14,6 +14,8 @@ void declareOptions(QCommandLineParser& parser) {
     parser.addOptions({
         {{QStringLiteral("h"), QStringLiteral("help")}, QString()},
         {{QStringLiteral("v"), QStringLiteral("version")}, QString()},
+        {QStringLiteral("new"), QString()},
+        {QStringLiteral("last"), QString()},
         {QStringLiteral("picture"), QString(), QStringLiteral("PNG")},
         {QStringLiteral("size"), QString(), QStringLiteral("WxH")},
         {QStringLiteral("scale"), QString(), QStringLiteral("N")},
@@ -59,12 +61,18 @@ CommandLine parseCommandLine(int argc, char* argv[]) {
     line.help = parser.isSet(QStringLiteral("help"));
     line.version = parser.isSet(QStringLiteral("version"));
     line.file = absolutePath(parser.positionalArguments().value(0));
+    line.isNew = parser.isSet(QStringLiteral("new"));
+    line.isLast = parser.isSet(QStringLiteral("last"));
     line.picture = parser.value(QStringLiteral("picture"));
     line.dark = parser.isSet(QStringLiteral("dark"));
     if (parser.isSet(QStringLiteral("size")))
         line.size = sizeOf(parser.value(QStringLiteral("size")), line.error);
     if (parser.isSet(QStringLiteral("scale")))
         line.scale = scaleOf(parser.value(QStringLiteral("scale")), line.error);
+    if ((line.isNew || line.isLast) &&
+        (line.isNew == line.isLast || !line.file.isEmpty() || !line.picture.isEmpty()))
+        line.error =
+            QStringLiteral("--new and --last take no file, and go neither together nor with --picture");
     return line;
 }
 
@@ -80,6 +88,8 @@ QString helpText(const QString& program) {
                "Options:\n"
                "  -h, --help         Shows this text.\n"
                "  -v, --version      Shows the version.\n"
+               "  --new              Begins with a new database, as File > New.\n"
+               "  --last             Opens the database that was used last.\n"
                "  --dark             Uses dark colours.\n"
                "  --picture PNG      Saves a picture of the window with FILE instead of showing it.\n"
                "                     It needs no display and leaves your settings alone.\n"

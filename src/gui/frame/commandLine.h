@@ -13,6 +13,8 @@ struct CommandLine {
     QSize size{1100, 720};
     double scale = 1;
     bool dark = false;
+    bool isNew = false;  // as if File > New were chosen first
+    bool isLast = false; // opens the file that was used last
 
     bool help = false;
     bool version = false;

@@ -2,17 +2,14 @@
 
 #include "gui/dialogs/dialogFit.h"
 #include "gui/dialogs/forms.h"
+#include "gui/frame/drops.h"
 #include "gui/frame/paneKeys.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/qtText.h"
 #include "shell/mainWindow.h"
-#include "shell/menuCommands.h"
-#include "shell/tableCommands.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -25,18 +22,6 @@ namespace {
 
 constexpr QSize firstSize(1100, 720);
 
-bool isDatabase(const QString& path) {
-    return path.endsWith(QLatin1String(".fwk"), Qt::CaseInsensitive);
-}
-
-// A database, or a table of another program; empty for anything else.
-QString droppedFile(const QMimeData* data) {
-    const QList<QUrl> urls = data->urls();
-    if (urls.size() != 1 || !urls.constFirst().isLocalFile()) return {};
-    const QString path = urls.constFirst().toLocalFile();
-    return isDatabase(path) || shell::isTableFile(fromQt(path)) ? path : QString();
-}
-
 } // namespace
 
 MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
@@ -48,7 +33,7 @@ MainFrmView::MainFrmView(app::App& app, QtPlatform& platform, QWidget* parent)
       summary_(new SummaryDock(app, events_, this)) {
     setObjectName(QStringLiteral("MainFrm"));
     setWindowIcon(programIcon());
-    setAcceptDrops(true);
+    new Drops(app, events_, *layout_, *this);
     actions_->addMenuBar(*this);
     actions_->addToolbar(*this);
     makeTabs();
@@ -124,7 +109,7 @@ void MainFrmView::refresh() {
 
 void MainFrmView::showState() {
     const QScopedValueRollback guard(refreshing_, true);
-    setWindowTitle(toQt(app_.mainFrm.Caption));
+    showCaption();
     actions_->refresh();
     tabs_->tabBar()->setEnabled(app_.mainFrm.SSTab1Enabled);
     tabs_->setCurrentIndex(app_.mainFrm.SSTab1);
@@ -138,6 +123,17 @@ void MainFrmView::showState() {
     notice_->refresh();
     unsaved_->refresh();
     if (app_.mainFrm.unloaded) close();
+}
+
+// The caption, with the desktop's own mark of unsaved work behind it. Qt puts that in the place of "[*]".
+void MainFrmView::showCaption() {
+    const bool isModified = app_.document.bModified && !app_.document.currentFile.empty();
+    QString caption = toQt(app_.mainFrm.Caption);
+    if (isModified)
+        caption = caption.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) + QLatin1String("[*]");
+    setWindowFilePath(toQt(app_.document.currentFile));
+    setWindowTitle(caption);
+    setWindowModified(isModified);
 }
 
 // It takes the keys when it comes up, and gives them back to the page.
@@ -176,24 +172,6 @@ void MainFrmView::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     // The date in the status bar may have become another one.
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) status_->refresh();
-}
-
-void MainFrmView::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
-}
-
-void MainFrmView::dropEvent(QDropEvent* event) {
-    const QString path = droppedFile(event->mimeData());
-    if (path.isEmpty()) return;
-    event->acceptProposedAction();
-    if (isDatabase(path)) {
-        events_.run([&] { shell::openNamedFile(app_, fromQt(path)); });
-        return;
-    }
-    // The program that the file comes from waits for the end of the drop, and the form takes its time.
-    QMetaObject::invokeMethod(
-        this, [this, path] { events_.run([&] { shell::importDropped(app_, fromQt(path)); }); },
-        Qt::QueuedConnection);
 }
 
 } // namespace gui

@@ -26,6 +26,9 @@ public:
     // Takes the keys when somebody goes to the page with them.
     QWidget* keyHolder() const { return sheet_->keyHolder(); }
 
+    // The picture box at that place of the screen.
+    std::optional<int> pictureBoxAt(QPoint global) const { return sheet_->pictureBoxAt(global); }
+
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -261,6 +261,13 @@ bool SheetView::gripEvent(QEvent* event) {
     return true;
 }
 
+std::optional<int> SheetView::pictureBoxAt(QPoint global) const {
+    const QWidget* at = childAt(mapFromGlobal(global));
+    while (at != nullptr && at != this && !objects_->objectOf(at).isObject()) at = at->parentWidget();
+    const ObjectRef object = at == nullptr ? ObjectRef() : objects_->objectOf(at);
+    return object.family == Family::imgHolder ? std::optional(object.Index) : std::nullopt;
+}
+
 bool SheetView::isLabelOpen(ObjectRef object) const {
     if (object.family != Family::tLabel) return false;
     const core::Label* label = app_.document.layout.tLabel.find(object.Index);

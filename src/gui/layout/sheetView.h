@@ -31,6 +31,8 @@ public:
     void takeFocus() { paper_->setFocus(Qt::OtherFocusReason); }
     void takeFirstField();
     QWidget* keyHolder() const { return paper_; }
+    // The picture box at that place of the screen, where nothing lies over it.
+    std::optional<int> pictureBoxAt(QPoint global) const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

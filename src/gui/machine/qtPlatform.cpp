@@ -11,6 +11,7 @@
 #include "gui/widgets/qtText.h"
 #include "platform/userFolders.h"
 #include "qtprint/pictureFile.h"
+#include "qtprint/storablePicture.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -23,7 +24,6 @@
 #include <QImage>
 #include <QInputDialog>
 #include <QMimeData>
-#include <QPainter>
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
@@ -44,15 +44,6 @@ void giveRoom(QFileDialog& dialog) {
     details->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     const int em = dialog.fontMetrics().height();
     dialog.resize(QSize(em * 50, em * 30).boundedTo(roomOnScreen(dialog)));
-}
-
-// Neither bitmaps nor JPEGs have transparency; what shines through is the paper.
-QImage onPaper(const QImage& image) {
-    if (!image.hasAlphaChannel()) return image;
-    QImage opaque(image.size(), QImage::Format_RGB32);
-    opaque.fill(Qt::white);
-    QPainter(&opaque).drawImage(0, 0, image);
-    return opaque;
 }
 
 // False when there is no program for it.
@@ -256,13 +247,14 @@ bool QtPlatform::isPictureTooLarge(const std::filesystem::path& path) {
 bool QtPlatform::saveClipboardPicture(const std::filesystem::path& path) {
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
     if (content == nullptr || content->hasText() || content->hasUrls() || !content->hasImage()) return false;
-    const QImage image = onPaper(QGuiApplication::clipboard()->image());
+    // Neither bitmaps nor JPEGs have transparency.
+    const QImage image = qtprint::onPaper(QGuiApplication::clipboard()->image());
     return !image.isNull() && image.save(toQt(path.string()), "BMP");
 }
 
 void QtPlatform::convertToJpeg(const std::filesystem::path& bitmap, const std::filesystem::path& jpeg,
                                int quality) {
-    const QImage image = onPaper(QImage(toQt(bitmap.string())));
+    const QImage image = qtprint::onPaper(QImage(toQt(bitmap.string())));
     if (image.isNull() || !image.save(toQt(jpeg.string()), "JPEG", quality))
         core::raise(core::errors::pathAccess, jpeg.string());
 }

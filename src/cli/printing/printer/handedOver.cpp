@@ -8,13 +8,25 @@
 
 namespace cli {
 
+namespace {
+
 // Beside this program where it is built, in its own folder where it is installed.
-std::unique_ptr<drawing::Printer> makePrinter(const std::string&, const std::string&) {
+[[noreturn]] void handOver() {
     std::error_code error;
     const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
     for (const char* place : {"fwk-print", "../libexec/ferrowick/fwk-print"})
         ::execv((here / place).c_str(), commandLine());
     throw Failure("this fwk cannot print: fwk-print is not installed");
+}
+
+} // namespace
+
+std::unique_ptr<drawing::Printer> makePrinter(const std::string&, const std::string&) {
+    handOver();
+}
+
+std::unique_ptr<drawing::Printer> makePicturePrinter(const std::string&, const std::string&, int) {
+    handOver();
 }
 
 } // namespace cli
