@@ -4,9 +4,9 @@
 #include "gui/frame/picture.h"
 #include "gui/machine/endSignals.h"
 #include "gui/widgets/icon.h"
-#include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/theme.h"
 #include "shell/mainWindow.h"
 #include "shell/program.h"
 
@@ -22,6 +22,7 @@ int showWindow(const gui::CommandLine& line) {
     gui::QtPlatform platform;
     shell::Program app(platform);
     app::keepFileSettings(app, platform::FileSettings::defaultFile());
+    if (line.dark) app::appearance(app).themeOfRun = app::Theme::Dark;
     gui::MainFrmView window(app, platform);
     // Not with the last window: the disclaimer of the first start closes before the window opens.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -63,6 +64,6 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName(QStringLiteral("ferrowick"));
     QApplication::setWindowIcon(gui::programIcon());
     QApplication::setStyle(new gui::ProgramStyle);
-    if (line.dark) gui::useDarkColours();
+    if (line.dark) gui::showTheme(app::Theme::Dark);
     return picture ? gui::drawPicture(line) : showWindow(line);
 }

@@ -32,6 +32,8 @@ std::optional<std::string> askForName(App& app) {
     return app.platform.showNew({"Specify Name For New Database", "", std::string(platform::databaseFilter)});
 }
 
+} // namespace
+
 void offerToSave(App& app) {
     const std::string& currentFile = app.document.currentFile;
     if (currentFile.empty() || !app.document.bModified) return;
@@ -42,6 +44,8 @@ void offerToSave(App& app) {
     else
         endUnsavedWork(app, true);
 }
+
+namespace {
 
 void clearDocument(App& app) {
     endUnsavedWork(app, false);

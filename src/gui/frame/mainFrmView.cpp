@@ -5,6 +5,7 @@
 #include "gui/frame/paneKeys.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/theme.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
 #include "shell/tableCommands.h"
@@ -124,6 +125,7 @@ void MainFrmView::refresh() {
 
 void MainFrmView::showState() {
     const QScopedValueRollback guard(refreshing_, true);
+    showTheme(app::appearance(app_).theme);
     setWindowTitle(toQt(app_.mainFrm.Caption));
     actions_->refresh();
     tabs_->tabBar()->setEnabled(app_.mainFrm.SSTab1Enabled);
