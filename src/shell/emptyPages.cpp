@@ -1,7 +1,9 @@
 #include "shell/emptyPages.h"
 
 #include "app/windowState.h"
+#include "core/translate.h"
 #include "layout/layoutPage.h"
+#include "layout/placeColumns.h"
 #include "shell/commands.h"
 
 namespace shell {
@@ -51,6 +53,16 @@ bool isDesigning(const App& app) {
     return layout::layoutPage(app).layoutToolbarInFront;
 }
 
+// What an invoice repeats is not known before the page is designed.
+Hint orAllColumns(const App& app, Hint hint) {
+    if (app.document.bInvoiceStyle) return hint;
+    hint.buttons.push_back({"placeColumns", core::tr("Place &All Columns"), [](App& shown) {
+                                if (!isDesigning(shown)) runCommand(shown, "Design");
+                                if (isDesigning(shown)) layout::placeAllColumns(shown);
+                            }});
+    return hint;
+}
+
 } // namespace
 
 std::optional<Hint> emptyList(const App& app, const core::RecordsList& list) {
@@ -77,10 +89,11 @@ std::optional<Hint> emptyLayoutPage(const App& app) {
         if (layout::layoutPage(app).layoutPic2.Visible || !app.document.bInvoiceStyle) return {};
         return Hint{"There are no records yet", "The page is filled in for each one.", {newRecordButton()}};
     }
-    if (!isDesigning(app)) return emptySheet();
-    return Hint{"Nothing is placed on the page yet",
-                "Field, in the bar above, places a box for a column; Label places a text beside it.",
-                {}};
+    if (!isDesigning(app)) return orAllColumns(app, emptySheet());
+    return orAllColumns(app,
+                        {"Nothing is placed on the page yet",
+                         "Field, in the bar above, places a box for a column; Label places a text beside it.",
+                         {}});
 }
 
 std::optional<Hint> emptyPreview(const App& app) {

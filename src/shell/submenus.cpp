@@ -5,6 +5,7 @@
 #include "shell/menuCommands.h"
 #include "shell/recentFiles.h"
 #include "shell/templates.h"
+#include "storage/newDatabase.h"
 
 namespace shell {
 
@@ -73,8 +74,10 @@ std::vector<Command> submenuCommands() {
                            if (const auto folder = templateFolder()) newFromTemplate(app, each, *folder);
                        }});
     for (std::size_t place = 0; place < RecentFiles::most; ++place)
-        all.push_back({recentItem(place), "", "", "recent", false,
-                       [key = recentItem(place)](App& app) { openRecentFile(app, key); }});
+        all.push_back({recentItem(place), "", "", "recent", false, [key = recentItem(place)](App& app) {
+                           storage::offerToSave(app);
+                           openRecentFile(app, key);
+                       }});
     return all;
 }
 
