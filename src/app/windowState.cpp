@@ -12,9 +12,9 @@ namespace {
 
 // What follows the document state alone.
 constexpr std::string_view documentControls[] = {
-    "Save",     "Print",        "PageSetup", "Search",           "Totals",      "Formulas",  "Properties",
-    "Design",   "mnuClone",     "mnuEmail",  "mnuCleanDatabase", "mnuSave",     "mnuSaveAs", "mnuEdit",
-    "mnuPrint", "mnuPageSetup", "mnuTools",  "mnuView",          "mnuVersions", "mnuOptions"};
+    "Save",     "Print",        "PageSetup", "Search",           "Totals",    "Formulas",  "Properties",
+    "Design",   "mnuClone",     "mnuEmail",  "mnuCleanDatabase", "mnuSave",   "mnuSaveAs", "mnuEdit",
+    "mnuPrint", "mnuPageSetup", "mnuTools",  "mnuVersions",      "mnuOptions"};
 
 constexpr std::string_view layoutPrints[] = {"All_As_Layouts", "Selected_As_Layouts"};
 constexpr std::string_view multiplePrints[] = {

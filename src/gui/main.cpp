@@ -7,9 +7,9 @@
 #include "gui/machine/recentList.h"
 #include "gui/widgets/accessibleRoles.h"
 #include "gui/widgets/icon.h"
-#include "gui/widgets/palette.h"
 #include "gui/widgets/programStyle.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/theme.h"
 #include "qtprint/hiddenApplication.h"
 #include "shell/commands.h"
 #include "shell/mainWindow.h"
@@ -29,6 +29,7 @@ int showWindow(const gui::CommandLine& line) {
     gui::QtPlatform platform;
     shell::Program app(platform);
     app::keepFileSettings(app, platform::FileSettings::defaultFile());
+    if (line.dark) app::appearance(app).themeOfRun = app::Theme::Dark;
     gui::MainFrmView window(app, platform);
     // Not with the last window: the disclaimer of the first start closes before the window opens.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -79,6 +80,6 @@ int main(int argc, char* argv[]) {
     gui::useLanguageOfUser();
     gui::tellRoles();
     QApplication::setStyle(new gui::ProgramStyle);
-    if (line.dark) gui::useDarkColours();
+    if (line.dark) gui::showTheme(app::Theme::Dark);
     return picture ? gui::drawPicture(line) : showWindow(line);
 }

@@ -21,6 +21,7 @@
 #include "shell/looks.h"
 #include "shell/mainWindow.h"
 #include "shell/menuCommands.h"
+#include "shell/submenus.h"
 #include "shell/tableCommands.h"
 #include "shell/undo.h"
 #include "storage/cleanDatabase.h"
@@ -219,7 +220,8 @@ std::vector<Command> menuCommands() {
 const std::map<std::string_view, Command>& allCommands() {
     static const std::map<std::string_view, Command> commands = [] {
         std::map<std::string_view, Command> all;
-        for (const auto& table : {toolbarCommands(), fileCommands(), menuCommands(), viewCommands()})
+        for (const auto& table :
+             {toolbarCommands(), fileCommands(), menuCommands(), viewCommands(), submenuCommands()})
             for (const Command& entry : table) all.emplace(entry.key, entry);
         return all;
     }();
@@ -294,7 +296,9 @@ std::span<const Menu> menuBar() {
         {"mnuFile",
          marked("&File"),
          {"mnuNew",
+          "mnuTemplates",
           "mnuOpen",
+          "mnuOpenRecent",
           "mnuSave",
           "mnuSaveAs",
           "mnuVersions",
@@ -326,7 +330,7 @@ std::span<const Menu> menuBar() {
         {"mnuView",
          marked("&View"),
          {"mnuZoomIn", "mnuZoomOut", "mnuZoomNormal", "-", "mnuFitPage", "mnuFitWidth", "-",
-          "mnuFreezeColumn", "mnuColours"}},
+          "mnuFreezeColumn", "mnuColours", "-", "mnuTheme", "mnuToolbarTexts"}},
         {"mnuTools",
          marked("&Tools"),
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuSummary", "mnuStatistics", "-",

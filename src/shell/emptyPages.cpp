@@ -3,6 +3,7 @@
 #include "app/windowState.h"
 #include "core/translate.h"
 #include "layout/layoutPage.h"
+#include "layout/placeColumns.h"
 #include "shell/commands.h"
 
 namespace shell {
@@ -52,6 +53,16 @@ bool isDesigning(const App& app) {
     return layout::layoutPage(app).layoutToolbarInFront;
 }
 
+// What an invoice repeats is not known before the page is designed.
+Hint orAllColumns(const App& app, Hint hint) {
+    if (app.document.bInvoiceStyle) return hint;
+    hint.buttons.push_back({"placeColumns", core::tr("Place &All Columns"), [](App& shown) {
+                                if (!isDesigning(shown)) runCommand(shown, "Design");
+                                if (isDesigning(shown)) layout::placeAllColumns(shown);
+                            }});
+    return hint;
+}
+
 } // namespace
 
 std::optional<Hint> emptyList(const App& app, const core::RecordsList& list) {
@@ -80,11 +91,11 @@ std::optional<Hint> emptyLayoutPage(const App& app) {
                     core::tr("The page is filled in for each one."),
                     {newRecordButton()}};
     }
-    if (!isDesigning(app)) return emptySheet();
-    return Hint{
-        core::tr("Nothing is placed on the page yet"),
-        core::tr("Field, in the bar above, places a box for a column; Label places a text beside it."),
-        {}};
+    if (!isDesigning(app)) return orAllColumns(app, emptySheet());
+    return orAllColumns(
+        app, {core::tr("Nothing is placed on the page yet"),
+              core::tr("Field, in the bar above, places a box for a column; Label places a text beside it."),
+              {}});
 }
 
 std::optional<Hint> emptyPreview(const App& app) {

@@ -8,6 +8,7 @@
 #include "search/searchMode.h"
 #include "shell/recoveryOffer.h"
 #include "shell/settings.h"
+#include "shell/templates.h"
 #include "storage/openFile.h"
 #include "storage/openedFile.h"
 #include "storage/recoveryCopies.h"
@@ -58,6 +59,7 @@ void arriveAtLayout(App& app) {
 void Form_Load(App& app, std::string_view Command, const std::function<void()>& show) {
     showStartTexts(app);
     readSettings(app);
+    findTemplates(app, templateFolder());
     if (!app.mainFrm.bDisclaimerSeen) {
         app.platform.showForm("disclaimFrm");
         app.mainFrm.bDisclaimerSeen = true;

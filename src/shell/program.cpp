@@ -15,6 +15,7 @@
 #include "search/filter/filterMode.h"
 #include "search/suggestions.h"
 #include "shell/mainWindow.h"
+#include "shell/recentFiles.h"
 #include "shell/recentlyUsed.h"
 #include "shell/recoveryOffer.h"
 #include "shell/undo.h"
@@ -87,6 +88,7 @@ Program::Program(platform::Platform& platformToUse) : App(platformToUse) {
     changes.follow({Change::Stored}, search::followStoredColours);
     changes.follow({Change::Opened}, search::readCodeRules);
     changes.follow({Change::Stored}, search::followStoredCodeRules);
+    changes.follow({Change::Opened, Change::Stored}, rememberRecentFile);
     changes.follow({Change::Page}, entry::showPage);
     changes.follow({Change::Opened}, [](App& app) {
         if (!app.document.currentFile.empty()) offerRecovery(app, app.document.currentFile);

@@ -1,7 +1,9 @@
 #include "shell/settings.h"
 
 #include "core/text.h"
+#include "shell/appearance.h"
 #include "shell/looks.h"
+#include "shell/recentFiles.h"
 #include "shell/recentlyUsed.h"
 
 namespace shell {
@@ -45,6 +47,8 @@ void readSettings(app::App& app) {
         app.mainFrm.control(std::string("mnuFile") + number).Caption =
             app.platform.getSetting(std::string("File") + number, "");
     readLooks(app);
+    readAppearance(app);
+    readRecentFiles(app);
 }
 
 std::string lastFile(const app::App& app) {
@@ -60,6 +64,8 @@ void writeSettings(app::App& app) {
         app.platform.saveSetting(std::string("File") + number,
                                  app.mainFrm.control(std::string("mnuFile") + number).Caption);
     writeLooks(app);
+    writeAppearance(app);
+    writeRecentFiles(app);
     app.platform.flushSettings();
 }
 

@@ -34,6 +34,8 @@ std::optional<std::string> askForName(App& app) {
         {core::tr("Specify Name For New Database"), "", core::tr(platform::databaseFilter)});
 }
 
+} // namespace
+
 void offerToSave(App& app) {
     const std::string& currentFile = app.document.currentFile;
     if (currentFile.empty() || !app.document.bModified) return;
@@ -45,6 +47,8 @@ void offerToSave(App& app) {
     else
         endUnsavedWork(app, true);
 }
+
+namespace {
 
 void clearDocument(App& app) {
     endUnsavedWork(app, false);

@@ -8,6 +8,9 @@ namespace storage {
 // columns defined. With bStartUp a refused overwriting disables the commands too.
 void newDatabase(app::App& app, bool bStartUp);
 
+// What is open has unsaved changes: asks whether they are saved ahead of giving it up.
+void offerToSave(app::App& app);
+
 // What newDatabase and the command-line tool share: the empty archive under that name, and a
 // document without columns. Raises when the archive cannot be made.
 void createEmptyArchive(app::App& app, const std::string& path);

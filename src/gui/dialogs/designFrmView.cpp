@@ -30,12 +30,20 @@ designFrmView::designFrmView(app::App& app, EventBoundary& events, QWidget* pare
 QGroupBox* designFrmView::makeTypes() {
     const std::array<QString, 6> captions = {tr("Date"),   tr("Currency"), tr("Calculation"),
                                              tr("Number"), tr("Text"),     tr("Picture")};
+    const std::array<QString, 6> meanings = {tr("A day: 12/31/2024"),
+                                             tr("An amount of money: $1,234.50"),
+                                             tr("Worked out from other columns by an expression"),
+                                             tr("A number, or a serial number that counts by itself"),
+                                             tr("Any words, also numbers that begin with 0"),
+                                             tr("A photo or drawing: a .jpg or .gif file")};
     auto* frame = new QGroupBox(tr(" Type "));
     auto* grid = new QGridLayout(frame);
     for (std::size_t i = 0; i < typeOpt_.size(); ++i) {
         const int index = static_cast<int>(i);
         typeOpt_[i] = new QRadioButton(captions[i]);
         typeOpt_[i]->setObjectName(QStringLiteral("typeOpt%1").arg(index));
+        typeOpt_[i]->setToolTip(meanings[i]);
+        typeOpt_[i]->setAccessibleDescription(meanings[i]);
         connect(typeOpt_[i], &QRadioButton::clicked, this,
                 [this, index] { on([&] { form_.typeOpt_Click(index); }); });
         grid->addWidget(typeOpt_[i], index / 2, index % 2);
@@ -47,6 +55,7 @@ QLayout* designFrmView::makeLeftSide() {
     auto* caption = new QLabel(tr("Column Name:"));
     caption->setBuddy(fieldTxt_);
     fieldTxt_->setToolTip(tr("Name of column to create"));
+    fieldTxt_->installEventFilter(this);
     connect(fieldTxt_, &QLineEdit::textEdited, this, [this](const QString& text) {
         on([&] { form_.fieldTxt_Change(fromQt(text)); });
         // After every change the caret stands at the end, wherever the change was. It is wanted so.
@@ -114,8 +123,20 @@ QLayout* designFrmView::makeRightSide() {
     return column;
 }
 
+// The focus goes back to the name with each type that is chosen, so that the keys choose it from there.
+bool designFrmView::chooseType(int key) {
+    if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
+    const int last = static_cast<int>(typeOpt_.size()) - (form_.pictureVisible ? 1 : 2);
+    const int wanted = form_.typeOpt + (key == Qt::Key_Up ? -1 : 1);
+    if (wanted >= 0 && wanted <= last) on([&] { form_.typeOpt_Click(wanted); });
+    return true;
+}
+
 // Enter on a row is the keyboard's double click.
 bool designFrmView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == fieldTxt_ && event->type() == QEvent::KeyPress &&
+        chooseType(static_cast<QKeyEvent*>(event)->key()))
+        return true;
     if (watched == List1_ && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {

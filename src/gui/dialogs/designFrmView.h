@@ -27,6 +27,7 @@ protected:
 
 private:
     QGroupBox* makeTypes();
+    bool chooseType(int key);
     QLayout* makeLeftSide();
     QLayout* makeRightSide();
     void showRows();

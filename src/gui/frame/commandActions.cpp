@@ -1,15 +1,17 @@
 #include "gui/frame/commandActions.h"
 
+#include "app/appearance.h"
 #include "core/translate.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/measures.h"
 #include "gui/widgets/qtText.h"
 #include "shell/commands.h"
 #include "shell/listCommands.h"
+#include "shell/recentFiles.h"
 
+#include <QActionGroup>
 #include <QFontMetrics>
 #include <QMenuBar>
-#include <QToolBar>
 #include <QToolButton>
 
 #include <array>
@@ -64,15 +66,21 @@ constexpr std::array<std::string_view, 3> recentKeys = {"mnuFile1", "mnuFile2", 
 constexpr std::array<std::string_view, 2> namedKeys = {"mnuUndo", "mnuRedo"}; // by what they would do
 constexpr std::string_view separator = "-";
 
+Qt::ToolButtonStyle buttonStyle(app::ToolbarTexts texts) {
+    if (texts == app::ToolbarTexts::Beside) return Qt::ToolButtonTextBesideIcon;
+    return texts == app::ToolbarTexts::Under ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly;
+}
+
 } // namespace
 
 CommandActions::CommandActions(app::App& app, EventBoundary& events, QObject* parent)
     : QObject(parent), app_(app), events_(events) {
     const auto addAll = [this](const auto& keys) {
         for (const std::string_view key : keys)
-            if (key != separator && !actions_.contains(key)) add(key);
+            if (key != separator && !actions_.contains(key) && shell::findSubmenu(key) == nullptr) add(key);
     };
     for (const shell::Menu& menu : shell::menuBar()) addAll(menu.items);
+    for (const shell::Submenu& submenu : shell::submenus()) addAll(submenu.items);
     addAll(shell::toolbarKeys());
     for (const std::string_view button : shell::toolbarKeys()) addAll(shell::buttonMenuKeys(button));
     addAll(shell::contextMenuKeys(app.document.LV, app.document));
@@ -110,9 +118,26 @@ void CommandActions::fill(QMenu& menu, const std::vector<std::string_view>& keys
     for (const std::string_view key : keys) {
         if (key == separator)
             menu.addSeparator();
+        else if (const shell::Submenu* submenu = shell::findSubmenu(key))
+            addSubmenu(menu, *submenu);
         else
             menu.addAction(action(key));
     }
+}
+
+void CommandActions::addSubmenu(QMenu& menu, const shell::Submenu& submenu) {
+    const shell::Command& opening = shell::command(submenu.key);
+    QMenu* shown = menu.addMenu(familyIcon(toQt(opening.icon)), toQt(core::tr(opening.caption)));
+    shown->setObjectName(toQt(submenu.key));
+    fill(*shown, submenu.items);
+    menus_.emplace(submenu.key, shown);
+    if (submenu.isChoice) {
+        auto* group = new QActionGroup(shown);
+        for (QAction* each : shown->actions()) group->addAction(each);
+    }
+    if (submenu.beforeShow != nullptr)
+        connect(shown, &QMenu::aboutToShow, this,
+                [this, before = submenu.beforeShow] { events_.run([&] { before(app_); }); });
 }
 
 void CommandActions::addMenuBar(QMainWindow& window) {
@@ -126,6 +151,7 @@ void CommandActions::addMenuBar(QMainWindow& window) {
 
 void CommandActions::addToolbar(QMainWindow& window) {
     QToolBar* bar = window.addToolBar(tr("Toolbar"));
+    toolbar_ = bar;
     bar->setObjectName(QStringLiteral("Toolbar"));
     bar->setIconSize({toolbarIconSize, toolbarIconSize});
     bar->setMovable(false);
@@ -154,7 +180,8 @@ void CommandActions::showRecentFile(QAction& action, int number, const std::stri
     const QFontMetrics metrics(action.font());
     const QString shown =
         metrics.elidedText(toQt(path), Qt::ElideMiddle, longestPath * metrics.averageCharWidth());
-    action.setText(QStringLiteral("&%1  %2").arg(QString::number(number), withoutMnemonics(shown)));
+    const QString marked = number < 10 ? QStringLiteral("&%1").arg(number) : QStringLiteral("1&0");
+    action.setText(QStringLiteral("%1  %2").arg(marked, withoutMnemonics(shown)));
     action.setToolTip(toQt(path));
     action.setData(toQt(path));
     action.setVisible(!path.empty());
@@ -164,6 +191,10 @@ void CommandActions::refresh() {
     int number = 0;
     for (const std::string_view key : recentKeys)
         showRecentFile(*action(key), ++number, app_.mainFrm.control(key).Caption);
+    for (std::size_t place = 0; place < shell::RecentFiles::most; ++place) {
+        const std::string_view key = shell::recentItem(place);
+        showRecentFile(*action(key), static_cast<int>(place) + 1, app_.mainFrm.control(key).Caption);
+    }
     for (const std::string_view key : namedKeys)
         if (const std::string& caption = app_.mainFrm.control(key).Caption; !caption.empty())
             action(key)->setText(toQt(caption));
@@ -171,6 +202,7 @@ void CommandActions::refresh() {
         action->setEnabled(shell::isCommandEnabled(app_, key));
         if (action->isCheckable()) action->setChecked(app_.mainFrm.control(key).Value);
     }
+    if (toolbar_ != nullptr) toolbar_->setToolButtonStyle(buttonStyle(app::appearance(app_).toolbarTexts));
     for (const auto& [key, menu] : menus_) menu->menuAction()->setEnabled(app_.mainFrm.control(key).Enabled);
 }
 

@@ -2,11 +2,13 @@
 
 #include "app/app.h"
 #include "gui/frame/eventBoundary.h"
+#include "shell/submenus.h"
 
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
 #include <QObject>
+#include <QToolBar>
 
 #include <map>
 #include <string>
@@ -32,12 +34,14 @@ public:
 
 private:
     QAction* add(std::string_view key);
+    void addSubmenu(QMenu& menu, const shell::Submenu& submenu);
     void showRecentFile(QAction& action, int number, const std::string& path);
 
     app::App& app_;
     EventBoundary& events_;
     std::map<std::string, QAction*, std::less<>> actions_;
     std::map<std::string, QMenu*, std::less<>> menus_;
+    QToolBar* toolbar_ = nullptr;
 };
 
 } // namespace gui

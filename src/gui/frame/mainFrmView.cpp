@@ -6,6 +6,7 @@
 #include "gui/frame/paneKeys.h"
 #include "gui/widgets/icon.h"
 #include "gui/widgets/qtText.h"
+#include "gui/widgets/theme.h"
 #include "shell/mainWindow.h"
 
 #include <QApplication>
@@ -109,6 +110,7 @@ void MainFrmView::refresh() {
 
 void MainFrmView::showState() {
     const QScopedValueRollback guard(refreshing_, true);
+    showTheme(app::appearance(app_).theme);
     showCaption();
     actions_->refresh();
     tabs_->tabBar()->setEnabled(app_.mainFrm.SSTab1Enabled);

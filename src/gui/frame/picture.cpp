@@ -1,5 +1,6 @@
 #include "gui/frame/picture.h"
 
+#include "app/appearance.h"
 #include "gui/frame/mainFrmView.h"
 #include "gui/widgets/qtText.h"
 #include "shell/mainWindow.h"
@@ -41,6 +42,7 @@ public:
 int drawPicture(const CommandLine& line) {
     PicturePlatform platform;
     shell::Program app(platform);
+    if (line.dark) app::appearance(app).themeOfRun = app::Theme::Dark;
     MainFrmView window(app, platform);
     window.resize(line.size);
     window.load(shell::commandLineFor(fromQt(line.file)));

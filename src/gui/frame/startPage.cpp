@@ -69,9 +69,11 @@ StartPage::StartPage(app::App& app, EventBoundary& events, CommandActions& actio
 
     new_ = addButton("mnuNew", tr("New"));
     open_ = addButton("mnuOpen", tr("Open..."));
+    template_ = addTemplates();
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(new_);
+    buttons->addWidget(template_);
     buttons->addWidget(open_);
     buttons->addStretch();
 
@@ -154,6 +156,16 @@ QPushButton* StartPage::makeSampleButton(const shell::Sample& sample) {
     return button;
 }
 
+QPushButton* StartPage::addTemplates() {
+    auto* button = new QPushButton(familyIcon(QStringLiteral("sampleLibrary")), tr("From A Template"));
+    button->setObjectName(QStringLiteral("start_mnuTemplates"));
+    auto* menu = new QMenu(button);
+    menu->setObjectName(QStringLiteral("startTemplates"));
+    actions_.fill(*menu, shell::findSubmenu("mnuTemplates")->items);
+    button->setMenu(menu);
+    return button;
+}
+
 QPushButton* StartPage::addButton(const char* key, const QString& text) {
     QAction* action = actions_.action(key);
     auto* button = new QPushButton(action->icon(), text);
@@ -164,6 +176,7 @@ QPushButton* StartPage::addButton(const char* key, const QString& text) {
 
 void StartPage::refresh() {
     new_->setEnabled(actions_.action("mnuNew")->isEnabled());
+    template_->setEnabled(app_.mainFrm.control("mnuTemplates").Enabled);
     open_->setEnabled(actions_.action("mnuOpen")->isEnabled());
     std::set<QString> shown; // the list of recent files may name one twice
     for (std::size_t i = 0; i < recent_.size(); ++i) {

@@ -31,6 +31,7 @@ protected:
 
 private:
     QPushButton* addButton(const char* key, const QString& text);
+    QPushButton* addTemplates();
     QWidget* makeSamples();
     QPushButton* makeSampleButton(const shell::Sample& sample);
     void placeSamples();
@@ -41,6 +42,7 @@ private:
     EventBoundary& events_;
     CommandActions& actions_;
     QPushButton* new_;
+    QPushButton* template_;
     QPushButton* open_;
     QLabel* recentTitle_;
     std::array<QPushButton*, recentKeys.size()> recent_{};

@@ -49,4 +49,22 @@ void useDarkColours() {
     QApplication::setPalette(dark);
 }
 
+void useLightColours() {
+    QApplication::setStyle(new ProgramStyle(QStringLiteral("Fusion")));
+    const QColor text(0x20, 0x21, 0x24);
+    const QColor grey(0x80, 0x86, 0x8b);
+    QPalette light(QColor(0xec, 0xed, 0xef), QColor(0xf1, 0xf2, 0xf4));
+    light.setColor(QPalette::Base, Qt::white);
+    light.setColor(QPalette::AlternateBase, QColor(0xf6, 0xf7, 0xf9));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        light.setColor(role, text);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        light.setColor(QPalette::Disabled, role, grey);
+    light.setColor(QPalette::PlaceholderText, QColor(0x5f, 0x63, 0x68));
+    light.setColor(QPalette::Highlight, QColor(0x1a, 0x62, 0xc7));
+    light.setColor(QPalette::HighlightedText, Qt::white);
+    light.setColor(QPalette::Link, QColor(0x1a, 0x5f, 0xb4));
+    QApplication::setPalette(light);
+}
+
 } // namespace gui

@@ -13,5 +13,6 @@ bool isDark(const QPalette& palette);
 
 // Dark colours for the whole program, whatever the desktop says.
 void useDarkColours();
+void useLightColours();
 
 } // namespace gui

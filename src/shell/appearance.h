@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/appearance.h"
+
+namespace shell {
+
+void chooseTheme(app::App& app, app::Theme theme);
+void chooseToolbarTexts(app::App& app, app::ToolbarTexts texts);
+
+// A setting that somebody else has written counts as none.
+void readAppearance(app::App& app);
+void writeAppearance(app::App& app);
+
+} // namespace shell
