@@ -547,6 +547,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>&amp;Neue Zeile</translation>
     </message>
     <message>
+        <source>&amp;Addresses</source>
+        <translation>&amp;Adressen</translation>
+    </message>
+    <message>
         <source>&amp;Adjust Serial Number Increment</source>
         <translation>&amp;Laufende Nummer anpassen</translation>
     </message>
@@ -571,6 +575,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>&amp;Anwenden</translation>
     </message>
     <message>
+        <source>&amp;As The Desktop</source>
+        <translation>&amp;Wie die Arbeitsumgebung</translation>
+    </message>
+    <message>
         <source>&amp;Auto-Load Previously Opened File</source>
         <translation>&amp;Zuletzt geöffnete Datei laden</translation>
     </message>
@@ -583,8 +591,16 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Balke&amp;n:</translation>
     </message>
     <message>
+        <source>&amp;Beside The Icons</source>
+        <translation>&amp;Neben den Symbolen</translation>
+    </message>
+    <message>
         <source>&amp;Bold</source>
         <translation>&amp;Fett</translation>
+    </message>
+    <message>
+        <source>&amp;Books</source>
+        <translation>&amp;Bücher</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -601,6 +617,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -645,6 +665,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>&amp;Create</source>
         <translation>&amp;Erstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
     </message>
     <message>
         <source>&amp;Date of the print</source>
@@ -843,6 +867,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Diese Zellen &amp;leer lassen</translation>
     </message>
     <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
         <source>&amp;Lines of the label, with columns in braces:</source>
         <translation>Zei&amp;len des Etiketts, Spalten in geschweiften Klammern:</translation>
     </message>
@@ -861,6 +889,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>&amp;Make Code...</source>
         <translation>&amp;Code erzeugen...</translation>
+    </message>
+    <message>
+        <source>&amp;Members</source>
+        <translation>&amp;Mitglieder</translation>
     </message>
     <message>
         <source>&amp;More...</source>
@@ -979,6 +1011,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Anderen Stand ein&amp;lesen</translation>
     </message>
     <message>
+        <source>&amp;Recipes</source>
+        <translation>&amp;Rezepte</translation>
+    </message>
+    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
     </message>
@@ -1055,6 +1091,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>&amp;Text:</translation>
     </message>
     <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Farbschema</translation>
+    </message>
+    <message>
         <source>&amp;Tools</source>
         <translation>&amp;Extras</translation>
     </message>
@@ -1069,6 +1109,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>&amp;Type:</source>
         <translation>T&amp;yp:</translation>
+    </message>
+    <message>
+        <source>&amp;Under The Icons</source>
+        <translation>&amp;Unter den Symbolen</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
@@ -1209,6 +1253,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Ein Datum wird auf ein Datum oder eine Datumsspalte gesetzt und kann nicht berechnet werden</translation>
     </message>
     <message>
+        <source>A day: 12/31/2024</source>
+        <translation>Ein Tag: 12/31/2024</translation>
+    </message>
+    <message>
         <source>A file with that name exists. Overwrite it?</source>
         <translation>Eine Datei mit diesem Namen ist schon vorhanden. Überschreiben?</translation>
     </message>
@@ -1223,6 +1271,14 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>A line of the label is too long.</source>
         <translation>Eine Zeile des Etiketts ist zu lang.</translation>
+    </message>
+    <message>
+        <source>A number, or a serial number that counts by itself</source>
+        <translation>Eine Zahl oder eine laufende Nummer, die selbst weiterzählt</translation>
+    </message>
+    <message>
+        <source>A photo or drawing: a .jpg or .gif file</source>
+        <translation>Ein Foto oder eine Zeichnung: eine .jpg- oder .gif-Datei</translation>
     </message>
     <message>
         <source>A picture could not be put back: %1</source>
@@ -1359,12 +1415,20 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Alle Spalten</translation>
     </message>
     <message>
+        <source>An amount of money: $1,234.50</source>
+        <translation>Ein Geldbetrag: $1,234.50</translation>
+    </message>
+    <message>
         <source>An error has occured during one of your calculations.  It appears that an expression is incorrectly defined.  Please check your syntax.</source>
         <translation>Bei einer Ihrer Berechnungen ist ein Fehler aufgetreten. Offenbar ist ein Ausdruck falsch definiert. Bitte prüfen Sie die Syntax.</translation>
     </message>
     <message>
         <source>An invoice database has no Picture columns.</source>
         <translation>Eine Rechnungsdatenbank hat keine Bildspalten.</translation>
+    </message>
+    <message>
+        <source>Any words, also numbers that begin with 0</source>
+        <translation>Beliebige Wörter, auch Zahlen, die mit 0 beginnen</translation>
     </message>
     <message>
         <source>Application-defined or object-defined error</source>
@@ -2273,6 +2337,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Formel</translation>
     </message>
     <message>
+        <source>From A Template</source>
+        <translation>Aus einer Vorlage</translation>
+    </message>
+    <message>
         <source>Gap a&amp;cross:</source>
         <translation>Abstand waage&amp;recht:</translation>
     </message>
@@ -2355,6 +2423,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>In the table: "%1".</source>
         <translation>In der Tabelle: „%1“.</translation>
+    </message>
+    <message>
+        <source>In&amp;ventory</source>
+        <translation>In&amp;ventar</translation>
     </message>
     <message>
         <source>Incorrect Password.</source>
@@ -2680,6 +2752,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Neue Datenbank</translation>
     </message>
     <message>
+        <source>New From Te&amp;mplate</source>
+        <translation>Neu aus V&amp;orlage</translation>
+    </message>
+    <message>
         <source>New Record</source>
         <translation>Neuer Datensatz</translation>
     </message>
@@ -2858,6 +2934,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Im Eingabef&amp;ormular öffnen</translation>
     </message>
     <message>
+        <source>Open Recent &amp;Files</source>
+        <translation>Zuletzt &amp;geöffnete Dateien</translation>
+    </message>
+    <message>
         <source>Open a &amp;Copy...</source>
         <translation>&amp;Kopie öffnen...</translation>
     </message>
@@ -2970,6 +3050,10 @@ Eine Datenbank ist eine Datei; ihr Name endet auf .fwk.</translation>
     <message>
         <source>Picture</source>
         <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Place &amp;All Columns</source>
+        <translation>&amp;Alle Spalten platzieren</translation>
     </message>
     <message>
         <source>Plants with photos and costs</source>
@@ -3655,6 +3739,12 @@ Eine Datenbank ist eine Datei; ihr Name endet auf .fwk.</translation>
         <translation>Die Datenbank kann die Lage dieser Etiketten nicht auf Zehntelmillimeter genau speichern; das übernimmt dieser Computer für diese Datei.</translation>
     </message>
     <message>
+        <source>The database could not be made:
+%1</source>
+        <translation>Die Datenbank konnte nicht erstellt werden:
+%1</translation>
+    </message>
+    <message>
         <source>The database file could not be found:
 %1</source>
         <translation>Die Datenbankdatei wurde nicht gefunden:
@@ -3763,6 +3853,10 @@ Eine Datenbank ist eine Datei; ihr Name endet auf .fwk.</translation>
         <translation>Das Papier der Datenbank, Code %1, ist hier nicht bekannt: Gedruckt wird auf Letter.</translation>
     </message>
     <message>
+        <source>The picture %1 cannot be read, or is too large.</source>
+        <translation>Das Bild %1 ist nicht lesbar oder zu groß.</translation>
+    </message>
+    <message>
         <source>The picture %1 cannot be read.</source>
         <translation>Das Bild %1 kann nicht gelesen werden.</translation>
     </message>
@@ -3789,6 +3883,10 @@ Eine Datenbank ist eine Datei; ihr Name endet auf .fwk.</translation>
     <message>
         <source>The picture in the clipboard is too large.</source>
         <translation>Das Bild in der Zwischenablage ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The picture is kept as the JPEG file %1.</source>
+        <translation>Das Bild wird als JPEG-Datei %1 aufbewahrt.</translation>
     </message>
     <message>
         <source>The print could not be written.</source>
@@ -4055,6 +4153,10 @@ Datensätze: %3</translation>
         <translation>Symbolleiste</translation>
     </message>
     <message>
+        <source>Toolbar Te&amp;xts</source>
+        <translation>Te&amp;xte der Symbolleiste</translation>
+    </message>
+    <message>
         <source>Top:</source>
         <translation>Oben:</translation>
     </message>
@@ -4195,6 +4297,10 @@ Datensätze: %3</translation>
         <translation>Was hier gespeichert wird, könnte überschreiben, was dort gespeichert wird.</translation>
     </message>
     <message>
+        <source>What is transparent in it has become white.</source>
+        <translation>Was darin durchsichtig war, ist jetzt weiß.</translation>
+    </message>
+    <message>
         <source>What the first records become</source>
         <translation>Was aus den ersten Datensätzen wird</translation>
     </message>
@@ -4225,6 +4331,10 @@ Datensätze: %3</translation>
     <message>
         <source>Words, "a phrase", -without, Column:text, Column&gt;10</source>
         <translation>Wörter, "eine Wortfolge", -ohne, Spalte:Text, Spalte&gt;10</translation>
+    </message>
+    <message>
+        <source>Worked out from other columns by an expression</source>
+        <translation>Durch einen Ausdruck aus anderen Spalten berechnet</translation>
     </message>
     <message>
         <source>Would you like to rename all exact matching labels in your layout to the new name as well?</source>
@@ -4482,6 +4592,14 @@ Datensätze: %3</translation>
     <message>
         <source>has passed</source>
         <translation>ist vergangen</translation>
+    </message>
+    <message>
+        <source>help/about.html</source>
+        <translation>help/de/about.html</translation>
+    </message>
+    <message>
+        <source>help/index.html</source>
+        <translation>help/de/index.html</translation>
     </message>
     <message>
         <source>inches.</source>

@@ -547,6 +547,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Añadir &amp;línea</translation>
     </message>
     <message>
+        <source>&amp;Addresses</source>
+        <translation>&amp;Direcciones</translation>
+    </message>
+    <message>
         <source>&amp;Adjust Serial Number Increment</source>
         <translation>&amp;Ajustar incremento del número de serie</translation>
     </message>
@@ -571,6 +575,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>A&amp;plicar</translation>
     </message>
     <message>
+        <source>&amp;As The Desktop</source>
+        <translation>Como el &amp;escritorio</translation>
+    </message>
+    <message>
         <source>&amp;Auto-Load Previously Opened File</source>
         <translation>Abrir &amp;automáticamente el último archivo</translation>
     </message>
@@ -583,8 +591,16 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>&amp;Barras:</translation>
     </message>
     <message>
+        <source>&amp;Beside The Icons</source>
+        <translation>&amp;Junto a los iconos</translation>
+    </message>
+    <message>
         <source>&amp;Bold</source>
         <translation>&amp;Negrita</translation>
+    </message>
+    <message>
+        <source>&amp;Books</source>
+        <translation>&amp;Libros</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -601,6 +617,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Borrar</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vaciar la lista</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -645,6 +665,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>&amp;Create</source>
         <translation>&amp;Crear</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Oscuro</translation>
     </message>
     <message>
         <source>&amp;Date of the print</source>
@@ -843,6 +867,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>De&amp;jar vacías estas celdas</translation>
     </message>
     <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
         <source>&amp;Lines of the label, with columns in braces:</source>
         <translation>Líneas &amp;de la etiqueta, con columnas entre llaves:</translation>
     </message>
@@ -861,6 +889,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>&amp;Make Code...</source>
         <translation>Crear códi&amp;go...</translation>
+    </message>
+    <message>
+        <source>&amp;Members</source>
+        <translation>&amp;Socios</translation>
     </message>
     <message>
         <source>&amp;More...</source>
@@ -979,6 +1011,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>&amp;Leer el otro estado</translation>
     </message>
     <message>
+        <source>&amp;Recipes</source>
+        <translation>&amp;Recetas</translation>
+    </message>
+    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Rehacer</translation>
     </message>
@@ -1055,6 +1091,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>&amp;Texto:</translation>
     </message>
     <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
         <source>&amp;Tools</source>
         <translation>&amp;Herramientas</translation>
     </message>
@@ -1069,6 +1109,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>&amp;Type:</source>
         <translation>&amp;Tipo:</translation>
+    </message>
+    <message>
+        <source>&amp;Under The Icons</source>
+        <translation>&amp;Debajo de los iconos</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
@@ -1209,6 +1253,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Una fecha solo admite una fecha o una columna de fechas, y no se puede calcular</translation>
     </message>
     <message>
+        <source>A day: 12/31/2024</source>
+        <translation>Un día: 12/31/2024</translation>
+    </message>
+    <message>
         <source>A file with that name exists. Overwrite it?</source>
         <translation>Ya existe un archivo con ese nombre. ¿Sobrescribirlo?</translation>
     </message>
@@ -1223,6 +1271,14 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>A line of the label is too long.</source>
         <translation>Una línea de la etiqueta es demasiado larga.</translation>
+    </message>
+    <message>
+        <source>A number, or a serial number that counts by itself</source>
+        <translation>Un número, o un número de serie que avanza solo</translation>
+    </message>
+    <message>
+        <source>A photo or drawing: a .jpg or .gif file</source>
+        <translation>Una foto o un dibujo: un archivo .jpg o .gif</translation>
     </message>
     <message>
         <source>A picture could not be put back: %1</source>
@@ -1359,12 +1415,20 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Todas las columnas</translation>
     </message>
     <message>
+        <source>An amount of money: $1,234.50</source>
+        <translation>Un importe de dinero: $1,234.50</translation>
+    </message>
+    <message>
         <source>An error has occured during one of your calculations.  It appears that an expression is incorrectly defined.  Please check your syntax.</source>
         <translation>Se ha producido un error en uno de sus cálculos. Parece que una expresión está mal definida. Compruebe la sintaxis.</translation>
     </message>
     <message>
         <source>An invoice database has no Picture columns.</source>
         <translation>Una base de datos de facturas no tiene columnas de tipo Imagen.</translation>
+    </message>
+    <message>
+        <source>Any words, also numbers that begin with 0</source>
+        <translation>Cualquier palabra, también números que empiezan por 0</translation>
     </message>
     <message>
         <source>Application-defined or object-defined error</source>
@@ -2273,6 +2337,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Fórmula</translation>
     </message>
     <message>
+        <source>From A Template</source>
+        <translation>A partir de una plantilla</translation>
+    </message>
+    <message>
         <source>Gap a&amp;cross:</source>
         <translation>Sepa&amp;ración horizontal:</translation>
     </message>
@@ -2355,6 +2423,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>In the table: "%1".</source>
         <translation>En la tabla: «%1».</translation>
+    </message>
+    <message>
+        <source>In&amp;ventory</source>
+        <translation>In&amp;ventario</translation>
     </message>
     <message>
         <source>Incorrect Password.</source>
@@ -2680,6 +2752,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Nueva base de datos</translation>
     </message>
     <message>
+        <source>New From Te&amp;mplate</source>
+        <translation>Nuevo desde plan&amp;tilla</translation>
+    </message>
+    <message>
         <source>New Record</source>
         <translation>Nuevo registro</translation>
     </message>
@@ -2858,6 +2934,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>&amp;Abrir en formulario de entrada</translation>
     </message>
     <message>
+        <source>Open Recent &amp;Files</source>
+        <translation>Archivos &amp;recientes</translation>
+    </message>
+    <message>
         <source>Open a &amp;Copy...</source>
         <translation>Abrir una &amp;copia...</translation>
     </message>
@@ -2970,6 +3050,10 @@ Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
     <message>
         <source>Picture</source>
         <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Place &amp;All Columns</source>
+        <translation>Colocar &amp;todas las columnas</translation>
     </message>
     <message>
         <source>Plants with photos and costs</source>
@@ -3655,6 +3739,12 @@ Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
         <translation>La base de datos no puede conservar la posición de estas etiquetas con precisión de una décima de milímetro: lo hace este equipo, para este archivo.</translation>
     </message>
     <message>
+        <source>The database could not be made:
+%1</source>
+        <translation>No se pudo crear la base de datos:
+%1</translation>
+    </message>
+    <message>
         <source>The database file could not be found:
 %1</source>
         <translation>No se encontró el archivo de la base de datos:
@@ -3763,6 +3853,10 @@ Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
         <translation>El papel de la base de datos, código %1, no se conoce aquí: se imprime en Letter.</translation>
     </message>
     <message>
+        <source>The picture %1 cannot be read, or is too large.</source>
+        <translation>La imagen %1 no se puede leer o es demasiado grande.</translation>
+    </message>
+    <message>
         <source>The picture %1 cannot be read.</source>
         <translation>La imagen %1 no se puede leer.</translation>
     </message>
@@ -3789,6 +3883,10 @@ Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
     <message>
         <source>The picture in the clipboard is too large.</source>
         <translation>La imagen del portapapeles es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The picture is kept as the JPEG file %1.</source>
+        <translation>La imagen se guarda como archivo JPEG %1.</translation>
     </message>
     <message>
         <source>The print could not be written.</source>
@@ -4055,6 +4153,10 @@ Registros: %3</translation>
         <translation>Barra de herramientas</translation>
     </message>
     <message>
+        <source>Toolbar Te&amp;xts</source>
+        <translation>Te&amp;xtos de la barra de herramientas</translation>
+    </message>
+    <message>
         <source>Top:</source>
         <translation>Superior:</translation>
     </message>
@@ -4195,6 +4297,10 @@ Registros: %3</translation>
         <translation>Lo que se guarde aquí podría sobrescribir lo que se guarde allí.</translation>
     </message>
     <message>
+        <source>What is transparent in it has become white.</source>
+        <translation>Lo que era transparente en ella ahora es blanco.</translation>
+    </message>
+    <message>
         <source>What the first records become</source>
         <translation>Cómo quedan los primeros registros</translation>
     </message>
@@ -4225,6 +4331,10 @@ Registros: %3</translation>
     <message>
         <source>Words, "a phrase", -without, Column:text, Column&gt;10</source>
         <translation>Palabras, "una frase", -sin, Columna:texto, Columna&gt;10</translation>
+    </message>
+    <message>
+        <source>Worked out from other columns by an expression</source>
+        <translation>Calculado a partir de otras columnas con una expresión</translation>
     </message>
     <message>
         <source>Would you like to rename all exact matching labels in your layout to the new name as well?</source>
@@ -4482,6 +4592,14 @@ Registros: %3</translation>
     <message>
         <source>has passed</source>
         <translation>ya ha pasado</translation>
+    </message>
+    <message>
+        <source>help/about.html</source>
+        <translation>help/about.html</translation>
+    </message>
+    <message>
+        <source>help/index.html</source>
+        <translation>help/index.html</translation>
     </message>
     <message>
         <source>inches.</source>

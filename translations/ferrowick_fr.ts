@@ -538,6 +538,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Adjust Serial Number Increment</source>
         <translation type="unfinished"></translation>
     </message>
@@ -562,6 +566,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;As The Desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Auto-Load Previously Opened File</source>
         <translation type="unfinished"></translation>
     </message>
@@ -574,7 +582,15 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Beside The Icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Bold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Books</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -591,6 +607,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -635,6 +655,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Create</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -834,6 +858,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Lines of the label, with columns in braces:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -851,6 +879,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Make Code...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Members</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -970,6 +1002,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Recipes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Redo</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1046,6 +1082,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Theme</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Tools</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1059,6 +1099,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Under The Icons</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1199,6 +1243,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>A day: 12/31/2024</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A file with that name exists. Overwrite it?</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1212,6 +1260,14 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>A line of the label is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A number, or a serial number that counts by itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A photo or drawing: a .jpg or .gif file</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1349,11 +1405,19 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>An amount of money: $1,234.50</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>An error has occured during one of your calculations.  It appears that an expression is incorrectly defined.  Please check your syntax.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>An invoice database has no Picture columns.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Any words, also numbers that begin with 0</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2263,6 +2327,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>From A Template</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Gap a&amp;cross:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2344,6 +2412,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>In the table: "%1".</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In&amp;ventory</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2669,6 +2741,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>New From Te&amp;mplate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>New Record</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2847,6 +2923,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Open Recent &amp;Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Open a &amp;Copy...</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2957,6 +3037,10 @@ A database is one file; its name ends in .fwk.</source>
     </message>
     <message>
         <source>Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place &amp;All Columns</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3642,6 +3726,11 @@ A database is one file; its name ends in .fwk.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The database could not be made:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The database file could not be found:
 %1</source>
         <translation type="unfinished"></translation>
@@ -3749,6 +3838,10 @@ A database is one file; its name ends in .fwk.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The picture %1 cannot be read, or is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The picture %1 cannot be read.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3774,6 +3867,10 @@ A database is one file; its name ends in .fwk.</source>
     </message>
     <message>
         <source>The picture in the clipboard is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is kept as the JPEG file %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4034,6 +4131,10 @@ Records: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Toolbar Te&amp;xts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Top:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4174,6 +4275,10 @@ Records: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>What is transparent in it has become white.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>What the first records become</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4203,6 +4308,10 @@ Records: %3</source>
     </message>
     <message>
         <source>Words, "a phrase", -without, Column:text, Column&gt;10</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Worked out from other columns by an expression</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4460,6 +4569,14 @@ Records: %3</source>
     </message>
     <message>
         <source>has passed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>help/about.html</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>help/index.html</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
