@@ -92,7 +92,7 @@ std::optional<Hint> emptyLayoutPage(const App& app) {
     if (!isDesigning(app)) return orAllColumns(app, emptySheet());
     return orAllColumns(app,
                         {"Nothing is placed on the page yet",
-                         "Field, in the bar above, places a box for a column; Label places a text beside it.",
+                         "Add Entry Box, in the bar above, places a box for a column; Add Label a text.",
                          {}});
 }
 
