@@ -11,7 +11,7 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "samples"))
 
-from make import clipart, records  # noqa: E402
+from make import clipart  # noqa: E402
 from make.canvas import Canvas, mix, rgb  # noqa: E402
 from make.gif import gif  # noqa: E402
 
@@ -93,9 +93,9 @@ def add(archive, name, data, comment):
 
 def main():
     for template, (picture, draw) in PICTURES.items():
-        design = records.Design(HERE / f"src/{template}-design.txt")
+        lines = (HERE / f"src/{template}-design.txt").read_text(encoding="utf-8").splitlines()
         with zipfile.ZipFile(HERE / f"{template}.fwk", "w") as archive:
-            add(archive, "data.dat", records.data_file(design, []), "Main Data File")
+            add(archive, "data.dat", "".join(f"{line}\r\n" for line in lines).encode("cp1252"), "Main Data File")
             add(archive, picture, gif(draw()), "Clip Art")
 
 

@@ -94,7 +94,7 @@ std::optional<Hint> emptyLayoutPage(const App& app) {
     if (!isDesigning(app)) return orAllColumns(app, emptySheet());
     return orAllColumns(
         app, {core::tr("Nothing is placed on the page yet"),
-              core::tr("Field, in the bar above, places a box for a column; Label places a text beside it."),
+              core::tr("Add Entry Box, in the bar above, places a box for a column; Add Label a text."),
               {}});
 }
 

@@ -64,19 +64,23 @@ void checkRecentFiles(App& app) {
 }
 
 void readRecentFiles(App& app) {
-    std::vector<std::string>& paths = app.rooms.of<RecentFiles>().paths;
+    RecentFiles& files = app.rooms.of<RecentFiles>();
+    std::vector<std::string>& paths = files.paths;
     paths.clear();
     for (std::size_t place = 0; place < recentItems.size(); ++place) {
         std::string path = app.platform.getSetting(settingAt(place), "");
+        if (!path.empty()) files.kept = place + 1;
         if (!path.empty() && std::ranges::find(paths, path) == paths.end()) paths.push_back(std::move(path));
     }
     show(app);
 }
 
 void writeRecentFiles(App& app) {
-    const std::vector<std::string>& paths = app.rooms.of<RecentFiles>().paths;
-    for (std::size_t place = 0; place < recentItems.size(); ++place)
-        app.platform.saveSetting(settingAt(place), place < paths.size() ? paths[place] : "");
+    RecentFiles& files = app.rooms.of<RecentFiles>();
+    const std::size_t count = files.paths.size();
+    for (std::size_t place = 0; place < std::max(count, files.kept); ++place)
+        app.platform.saveSetting(settingAt(place), place < count ? files.paths[place] : "");
+    files.kept = count;
 }
 
 } // namespace shell

@@ -13,6 +13,7 @@ namespace shell {
 struct RecentFiles {
     static constexpr std::size_t most = 10;
     std::vector<std::string> paths;
+    std::size_t kept = 0; // so many places of the settings hold one
 };
 
 // The item of the menu for each place, from 0: its caption is the path, or nothing.

@@ -2,6 +2,7 @@
 
 #include "app/looks.h"
 #include "gui/records/listLook.h"
+#include "gui/widgets/palette.h"
 #include "search/colourRules.h"
 
 // What is looked at more closely: zoom, frozen columns, colours, suggestions and empty pages.
@@ -61,6 +62,34 @@ private slots:
         next.window.resize(next.window.width() - 100, 400);
         QVERIFY(next.find<QWidget>(u"rptVScroll1"_s)->isVisible());
         QVERIFY(!next.find<QWidget>(u"rptHScroll1"_s)->isVisible() && port.width() > 100);
+    }
+
+    void theThemeAndTheTextsAtOnceAndAtTheNextStart() {
+        const QColor before = QApplication::palette().color(QPalette::Window);
+        const auto style = [](Session& run) { return run.find<QToolBar>(u"Toolbar"_s)->toolButtonStyle(); };
+        {
+            Session run;
+            run.act(u"click mnuThemeDark; click mnuTextsUnder"_s);
+            QVERIFY(gui::isDark(run.window.palette()));
+            QVERIFY(run.find<QAction>(u"mnuThemeDark"_s)->isChecked());
+            QVERIFY(!run.find<QAction>(u"mnuThemeDesktop"_s)->isChecked());
+            QCOMPARE(style(run), Qt::ToolButtonTextUnderIcon);
+            run.act(u"click mnuThemeLight"_s);
+            QVERIFY(!gui::isDark(run.window.palette()));
+            run.act(u"click mnuThemeDark; click mnuExit"_s);
+        }
+        Session next(database("types.fwk", DataFile("A", "1")));
+        QVERIFY(gui::isDark(next.window.palette()));
+        QCOMPARE(style(next), Qt::ToolButtonTextUnderIcon);
+        next.act(u"click mnuThemeDesktop; click mnuTextsNone"_s);
+        QCOMPARE(QApplication::palette().color(QPalette::Window), before);
+        // The focus stays in the name while the keys choose the type.
+        next.onDialog = [&](QDialog& dialog) {
+            next.act(u"press Down 4; type B; press Return"_s);
+            QVERIFY(dialog.findChild<QRadioButton*>(u"typeOpt4"_s)->isChecked());
+        };
+        next.platform.showForm("designFrm");
+        QVERIFY(next.app.document.LV.columns["B"].isType(core::ColumnType::Text));
     }
 
     void theFirstColumnStays() {

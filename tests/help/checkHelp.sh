@@ -36,7 +36,8 @@ checkForm() {
 }
 
 # "File > New" must be an item of a menu, and "fwk add" a command.
-captions=$(text "$project/src/shell/commands.cpp" | grep -oE '\{"(mnu[A-Za-z0-9]*|Design)", *marked\("[^"]+"' |
+captions=$(cat "$project"/src/shell/{commands,submenus}.cpp | tr '\n' ' ' |
+    grep -oE '\{"(mnu[A-Za-z0-9]*|Design)", *(marked\()?"[^"]+"' |
     sed -E 's/.*"([^"]+)"$/\1/' | tr -d '&')
 checkNames() {
     local page=$1 path part name

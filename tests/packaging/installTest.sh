@@ -13,7 +13,7 @@ DESTDIR=$stage "$cmake" --install "$build" --prefix /usr >"$stage/log" 2>&1 || {
 share=$stage/usr/share
 for file in bin/ferrowick bin/fwk libexec/ferrowick/fwk-print \
     share/applications/$id.desktop share/mime/packages/$id.xml share/ferrowick/samples/garden.fwk \
-    share/ferrowick/stocks/labels.tsv \
+    share/ferrowick/stocks/labels.tsv share/ferrowick/templates/invoices.fwk \
     share/icons/hicolor/{scalable/apps/$id,scalable/mimetypes/$id-database,symbolic/apps/$id-symbolic}.svg \
     share/metainfo/$id.metainfo.xml share/thumbnailers/$id.thumbnailer share/man/man1/{ferrowick,fwk}.1.gz \
     share/bash-completion/completions/fwk share/zsh/site-functions/_fwk share/fish/vendor_completions.d/fwk.fish \

@@ -109,11 +109,12 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
     const std::string many = "Print_All_As_Multiple_Layouts Print_Selected_Multiple_Layouts "
                              "Multiple_Layout_Preview_All Multiple_Layout_Preview_Selected ";
     app::enableControls(app, false);
-    EXPECT_EQ(
-        those(std::not_fn(disabled)),
-        "New Open Help SaveSearch All_As_Report Selected_As_Report " + prints + many +
-            "mnuNew mnuOpen mnuSaveSearch mnuImportTable mnuFile1 mnuFile2 mnuFile3 mnuExit mnuContents "
-            "mnuDisclaimer mnuWebpage mnuAbout ");
+    EXPECT_EQ(those(std::not_fn(disabled)), "New Open Help SaveSearch All_As_Report Selected_As_Report " +
+                                                prints + many +
+                                                "mnuNew mnuTemplates mnuOpen mnuOpenRecent mnuSaveSearch "
+                                                "mnuImportTable mnuFile1 mnuFile2 mnuFile3 "
+                                                "mnuExit mnuTheme mnuToolbarTexts mnuContents "
+                                                "mnuDisclaimer mnuWebpage mnuAbout ");
     EXPECT_EQ(shown("Save") + shown("mnuDatabaseProperties"), "");
     EXPECT_FALSE(mainFrm.SSTab1Enabled);
     openCopyOf("books.fwk");

@@ -53,11 +53,14 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
         settings,
         "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= FreezeColumn=False "
         "HighlightCalc=False LayoutDBLClick=False LayoutZoom=100 ListZoom=100 OpenPdf=False PreviewFit= "
-        "PreviewZoom=100 SavePrompt=True SnapToGrid=True defaultFile= ");
+        "PreviewZoom=100 SavePrompt=True SnapToGrid=True Theme=Desktop ToolbarTexts=None defaultFile= ");
     for (const std::string toggle : {"True", "False"}) {
         for (auto& [key, value] : platform.settings)
             value = key.ends_with("Zoom") ? "250"
                     : key == "PreviewFit" ? "Width"
+                    : key == "Theme"      ? "Dark"
+                    : value == "None"     ? "Under"
+                    : value == "Under"    ? "Beside"
                     : value.size() < 4    ? key.substr(0, 5)
                     : key == "Disclaimer" ? "True"
                                           : toggle;
@@ -67,7 +70,7 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
         load(app);
         EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
         const auto isPressed = [](const auto& control) { return control.second.Value; };
-        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 8 : 0);
+        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 10 : 2);
         shell::Form_QueryUnload(app);
         EXPECT_EQ(platform.settings, before);
     }

@@ -9,6 +9,8 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QMainWindow>
+#include <QStatusBar>
 #include <QUrl>
 
 #include <filesystem>
@@ -51,8 +53,20 @@ std::optional<std::string> QtPlatform::askForPdfFile(const std::string& document
     return file;
 }
 
+namespace {
+
+// For a while in the place of the panels: nothing else on the screen tells that there is a file now.
+void tellMade(QWidget* window, const std::string& file) {
+    constexpr int milliseconds = 8000;
+    if (auto* frame = qobject_cast<QMainWindow*>(window))
+        frame->statusBar()->showMessage(toQt(core::fill(core::tr("%1 was made."), {file})), milliseconds);
+}
+
+} // namespace
+
 // After the print has ended, whose hourglass would stay over the message.
 void QtPlatform::openPdfIfWanted(const std::string& file) {
+    tellMade(window_.widget, file);
     if (getSetting("OpenPdf", "False") != "True") return;
     QObject* const owner = window_.widget != nullptr ? static_cast<QObject*>(window_.widget) : qApp;
     QMetaObject::invokeMethod(

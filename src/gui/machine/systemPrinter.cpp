@@ -12,6 +12,7 @@
 #include <QPrinterInfo>
 #include <QTabWidget>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <utility>
@@ -141,6 +142,10 @@ std::optional<platform::PrintChoice> SystemPrinter::showDialog(const platform::P
     const int unfolds = options == nullptr ? 0 : options->minimumSizeHint().height();
     if (dialog.minimumSizeHint().height() + unfolds > roomOnScreen(dialog).height())
         fitDialog(dialog, unfolds);
+    // Qt would cut the names of printer and file.
+    constexpr int letters = 64;
+    const int wide = letters * dialog.fontMetrics().averageCharWidth();
+    dialog.setMinimumWidth(std::max(dialog.minimumWidth(), std::min(wide, roomOnScreen(dialog).width())));
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     if (isPdf()) fileName_ = chosen.outputFileName();
     platform::PrintChoice choice = present;
