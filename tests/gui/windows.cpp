@@ -170,6 +170,7 @@ private slots:
             for (const QAction* action : run.window.findChildren<QAction*>()) {
                 const std::string key = gui::fromQt(action->objectName());
                 if (!shell::hasCommand(key) || shell::command(key).icon.empty()) continue;
+                if (key.starts_with("mnuTemplate")) continue; // in colours of their own
                 const QImage light = action->icon().pixmap(QSize(24, 24)).toImage();
                 gui::useDarkColours();
                 const QImage dark = action->icon().pixmap(QSize(24, 24)).toImage();
