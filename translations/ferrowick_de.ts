@@ -401,6 +401,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>%1 wurde erstellt, aber es gibt kein Programm, das die Datei öffnet.</translation>
     </message>
     <message>
+        <source>%1 was made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1's value has been set to %2</source>
         <translation>Der Wert von %1 wurde auf %2 gesetzt</translation>
     </message>
@@ -1092,7 +1096,7 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation>&amp;Farbschema</translation>
+        <translation>Fa&amp;rbschema</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -1339,6 +1343,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>Add Entry Box</source>
         <translation>Eingabefeld hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>
@@ -2241,10 +2249,6 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Feld bereits hinzugefügt.</translation>
     </message>
     <message>
-        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
-        <translation>In der Leiste oben setzt „Eingabefeld hinzufügen“ ein Feld für eine Spalte und „Beschriftung hinzufügen“ einen Text daneben.</translation>
-    </message>
-    <message>
         <source>Fig&amp;ures</source>
         <translation>Kenn&amp;zahlen</translation>
     </message>
@@ -2753,7 +2757,7 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>New From Te&amp;mplate</source>
-        <translation>Neu aus V&amp;orlage</translation>
+        <translation>Neu aus Vor&amp;lage</translation>
     </message>
     <message>
         <source>New Record</source>

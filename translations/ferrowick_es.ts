@@ -401,6 +401,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Se ha creado %1, pero no hay ningún programa que lo abra.</translation>
     </message>
     <message>
+        <source>%1 was made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1's value has been set to %2</source>
         <translation>El valor de %1 se ha establecido en %2</translation>
     </message>
@@ -1341,6 +1345,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Añadir campo de entrada</translation>
     </message>
     <message>
+        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Add Horizontal Line To Layout.</source>
         <translation>Añadir línea horizontal al diseño.</translation>
     </message>
@@ -2241,10 +2249,6 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>El campo ya está añadido.</translation>
     </message>
     <message>
-        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
-        <translation>Campo, en la barra de arriba, coloca un recuadro para una columna; Rótulo coloca un texto junto a él.</translation>
-    </message>
-    <message>
         <source>Fig&amp;ures</source>
         <translation>Ci&amp;fras</translation>
     </message>
@@ -2753,7 +2757,7 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>New From Te&amp;mplate</source>
-        <translation>Nuevo desde plan&amp;tilla</translation>
+        <translation>Nuevo desde &amp;plantilla</translation>
     </message>
     <message>
         <source>New Record</source>
@@ -2935,7 +2939,7 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>Open Recent &amp;Files</source>
-        <translation>Archivos &amp;recientes</translation>
+        <translation>Arc&amp;hivos recientes</translation>
     </message>
     <message>
         <source>Open a &amp;Copy...</source>

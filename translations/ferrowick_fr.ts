@@ -392,6 +392,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1 was made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1's value has been set to %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1331,6 +1335,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Add Horizontal Line To Layout.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2228,10 +2236,6 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Field already added.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -5,6 +5,7 @@
 #include "file/archive/zip.h"
 #include "file/dataReader.h"
 #include "file/dataWriter.h"
+#include "invoice/views.h"
 #include "storage/newDatabase.h"
 #include "storage/openFile.h"
 #include "storage/saveSteps.h"
@@ -27,6 +28,8 @@ std::string designOf(App& app, const file::Zip& source) {
     core::Document document;
     file::readDataFile(*std::move(text), document);
     if (document.LV.empty()) core::addTotalsRow(document.LV);
+    document.iLV.Visible = document.bInvoiceStyle;
+    invoice::rebuildView(document);
     const auto paper = static_cast<std::int16_t>(app.platform.localePaper());
     document.layoutOptions.layoutPaperSize = paper;
     document.reportData.reportPaperSize = paper;

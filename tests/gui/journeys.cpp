@@ -43,7 +43,7 @@ private slots:
             run.window.resize(700, 400);
             run.play(R"(
 press Tab -> start_mnuOpen=*
-look sample_library; press Tab; look sample_library -> "0" "1" sample_library=*
+look sample_library; press Tab 2; look sample_library -> "0" "1" sample_library=*
 press Tab 4 -> sample_invoices=*
 press Space; click Properties -> MainFrm=invoices.fwk ...
 press Tab; press Down 5 -> typeOpt0 typeOpt4=x*

@@ -70,16 +70,16 @@ private slots:
         {
             Session run;
             run.act(u"click mnuThemeDark; click mnuTextsUnder"_s);
-            QVERIFY(gui::isDark(run.window.palette()));
+            QVERIFY(gui::isDark(QApplication::palette()));
             QVERIFY(run.find<QAction>(u"mnuThemeDark"_s)->isChecked());
             QVERIFY(!run.find<QAction>(u"mnuThemeDesktop"_s)->isChecked());
             QCOMPARE(style(run), Qt::ToolButtonTextUnderIcon);
             run.act(u"click mnuThemeLight"_s);
-            QVERIFY(!gui::isDark(run.window.palette()));
+            QVERIFY(!gui::isDark(QApplication::palette()));
             run.act(u"click mnuThemeDark; click mnuExit"_s);
         }
         Session next(database("types.fwk", DataFile("A", "1")));
-        QVERIFY(gui::isDark(next.window.palette()));
+        QVERIFY(gui::isDark(QApplication::palette()));
         QCOMPARE(style(next), Qt::ToolButtonTextUnderIcon);
         next.act(u"click mnuThemeDesktop; click mnuTextsNone"_s);
         QCOMPARE(QApplication::palette().color(QPalette::Window), before);

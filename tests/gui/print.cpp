@@ -57,7 +57,7 @@ click reportToolbar.First; look rptPreview2 -> "0"
 press PgDown; press Down; press PgUp; press Right; look rptPreview2 -> "3" rptVScroll1=240 rptHScroll1=240
 wheel rptPreview2 -120,-120; look rptPreview2 -> "4" rptVScroll1=960 rptHScroll1=960
 slide rptVScroll1 1000; slide rptHScroll1 100; look rptPreview2 -> "5" rptVScroll1=1000 rptHScroll1=100
-file out.pdf; click mnuPrint ->
+file out.pdf; click mnuPrint -> statusNote=out.pdf was made.
 )");
         QCOMPARE(printed(u"games"_s), u"8 of 612 x 792, 25"_s);
         // The keys go to the end of the page ahead of the next one, and come back to the end of the one
@@ -94,7 +94,7 @@ file out.pdf; click mnuPrint ->
 press Ctrl+Shift+F -> filterText=|
 type section:games data -> -LV Search=x Formulas=- Delete=- filterText=section:games data| searchLV.rows=11 top 0
     at 0 0ad-data|games selected 0 SB1_1=10 records.
-press Down; file out.pdf; click mnuPrint -> searchLV=*
+press Down; file out.pdf; click mnuPrint -> searchLV=* statusNote=out.pdf was made.
 tab 2 -> Totals=- Properties=- page=2 fitText=Too narrow for the longest text: Package (15 of 17 characters),
     Installed_KB (10 of 12 characters). rptPreview2=*
 tab 0; press / -> Totals Properties page filterText=[section:games data] searchLV.rows=11 top 0 at 0
@@ -123,7 +123,7 @@ tab 2; click PageSetup; click LV3 Author; press Space; fill titleTxt Landscape b
     LV3.0=x No LV3.1=x Title LV3.2=>Author LV3.3=x Price LV3.4=Bought LV3.5=Copies LV3.6=x Value LV3.7=Cover
     LV3.8=Notes titleTxt=Landscape books boldYesOpt=x letterOpt=x LandscapeOpt=x leftTxt=1 rightTxt=1 TopTxt=1
     bottomTxt=1 ApplyBtn=*
-press Escape; file out.pdf; click Print -> -reportPageSetup rptPreview2=*
+press Escape; file out.pdf; click Print -> -reportPageSetup rptPreview2=* statusNote=out.pdf was made.
 )");
         QCOMPARE(printed(u"Landscape books|Homer"_s), u"2 of 792 x 612, 1"_s);
         QFile::remove(pdf_);
@@ -161,6 +161,7 @@ focus groupList; type Since; focus stepList; type quarter; click pagesChk; press
     reportPageSetup=Report Page Setup titleTxt=Packages boldYesOpt=x letterOpt=x PortraitOpt=x leftTxt=1 rightTxt=1
     TopTxt=1 bottomTxt=1 moreBtn=*
 focus titleTxt; press Return; file out.pdf; click mnuPrint -> -reportPageSetup rptPreview2=* SB1_5=Document Modified
+    statusNote=out.pdf was made.
 )");
         QCOMPARE(printed(u"Since: .*-Q\\d"_s), u"16 of 612 x 792, 145"_s);
     }

@@ -74,7 +74,7 @@ TEST_F(FirstHour, TemplatesBecomeDatabasesOnThePaperOfTheCountry) {
     shell::newFromTemplate(app, shell::templates()[0], templates);
     EXPECT_EQ(told(), "- Save current file " + open + "?\n- Overwrite Existing File?");
     app::setDocumentModified(app, false);
-    shell::newFromTemplate(app, shell::templates()[0], platform.folder);
+    shell::newFromTemplate(app, shell::templates()[0], platform.folder / "none");
     EXPECT_TRUE(told().starts_with("! The database could not be made:\n"));
     EXPECT_FALSE(fs::exists(path("new.fwk")));
     EXPECT_EQ(app.document.currentFile + ScriptedPlatform::read(open), open + bytes);

@@ -73,8 +73,8 @@ StartPage::StartPage(app::App& app, EventBoundary& events, CommandActions& actio
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(new_);
-    buttons->addWidget(template_);
     buttons->addWidget(open_);
+    buttons->addWidget(template_);
     buttons->addStretch();
 
     recentTitle_ = centred(tr("Recent files"));

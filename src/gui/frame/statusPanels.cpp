@@ -57,13 +57,26 @@ constexpr int placeShare = 24;
 } // namespace
 
 StatusPanels::StatusPanels(app::App& app, QWidget* parent)
-    : QStatusBar(parent), app_(app), place_(new Panel(QStringLiteral("selectionPlace"))) {
+    : QStatusBar(parent), app_(app), place_(new Panel(QStringLiteral("selectionPlace"))),
+      note_(new Panel(QStringLiteral("statusNote"))), noteEnd_(new QTimer(this)) {
     setObjectName(QStringLiteral("SB1"));
     for (std::size_t i = 0; i < panels_.size(); ++i) {
         panels_[i] = new Panel(QStringLiteral("SB1_%1").arg(i + 1));
         addWidget(panels_[i], shares[i]);
     }
     addWidget(place_, placeShare);
+    addWidget(note_);
+    note_->hide();
+    noteEnd_->setSingleShot(true);
+    connect(noteEnd_, &QTimer::timeout, note_, &QWidget::hide);
+}
+
+void StatusPanels::note(const QString& text) {
+    constexpr int milliseconds = 8000;
+    note_->setText(text);
+    note_->setMost(width() / 3);
+    note_->show();
+    noteEnd_->start(milliseconds);
 }
 
 // The window may become narrower than the texts.

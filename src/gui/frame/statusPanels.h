@@ -3,6 +3,7 @@
 #include "app/app.h"
 
 #include <QStatusBar>
+#include <QTimer>
 
 #include <array>
 
@@ -16,6 +17,8 @@ public:
     explicit StatusPanels(app::App& app, QWidget* parent = nullptr);
 
     void refresh();
+    // Behind the panels, for a few seconds.
+    void note(const QString& text);
     QSize minimumSizeHint() const override;
 
 protected:
@@ -28,6 +31,8 @@ private:
     app::App& app_;
     std::array<Panel*, 6> panels_{};
     Panel* place_;
+    Panel* note_;
+    QTimer* noteEnd_;
 };
 
 } // namespace gui

@@ -1,5 +1,6 @@
 #include "core/runTimeError.h"
 #include "core/translate.h"
+#include "gui/frame/statusPanels.h"
 #include "gui/machine/qtPlatform.h"
 #include "gui/widgets/modalScope.h"
 #include "gui/widgets/qtText.h"
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMainWindow>
-#include <QStatusBar>
 #include <QUrl>
 
 #include <filesystem>
@@ -55,11 +55,12 @@ std::optional<std::string> QtPlatform::askForPdfFile(const std::string& document
 
 namespace {
 
-// For a while in the place of the panels: nothing else on the screen tells that there is a file now.
+// Nothing else on the screen tells that there is a file now.
 void tellMade(QWidget* window, const std::string& file) {
-    constexpr int milliseconds = 8000;
-    if (auto* frame = qobject_cast<QMainWindow*>(window))
-        frame->statusBar()->showMessage(toQt(core::fill(core::tr("%1 was made."), {file})), milliseconds);
+    auto* frame = qobject_cast<QMainWindow*>(window);
+    auto* panels = frame == nullptr ? nullptr : qobject_cast<StatusPanels*>(frame->statusBar());
+    const std::string name = std::filesystem::path(file).filename().string();
+    if (panels != nullptr) panels->note(toQt(core::fill(core::tr("%1 was made."), {name})));
 }
 
 } // namespace
