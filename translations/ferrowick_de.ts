@@ -402,7 +402,7 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>%1 was made.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde erstellt.</translation>
     </message>
     <message>
         <source>%1's value has been set to %2</source>
@@ -1346,7 +1346,7 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Eingabefeld hinzufügen“ in der Leiste oben platziert ein Feld für eine Spalte, „Beschriftung hinzufügen“ einen Text.</translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>

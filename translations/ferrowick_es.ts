@@ -402,7 +402,7 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>%1 was made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se creó %1.</translation>
     </message>
     <message>
         <source>%1's value has been set to %2</source>
@@ -1346,7 +1346,7 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>«Añadir campo de entrada», en la barra de arriba, coloca un campo para una columna; «Añadir rótulo», un texto.</translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>

@@ -393,7 +393,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>%1 was made.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été créé.</translation>
     </message>
     <message>
         <source>%1's value has been set to %2</source>
@@ -543,7 +543,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresses</translation>
     </message>
     <message>
         <source>&amp;Adjust Serial Number Increment</source>
@@ -571,7 +571,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;As The Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le &amp;bureau</translation>
     </message>
     <message>
         <source>&amp;Auto-Load Previously Opened File</source>
@@ -587,7 +587,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Beside The Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;côté des icônes</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
@@ -595,7 +595,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Books</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Livres</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -615,7 +615,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vider la liste</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -663,7 +663,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sombre</translation>
     </message>
     <message>
         <source>&amp;Date of the print</source>
@@ -863,7 +863,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Clair</translation>
     </message>
     <message>
         <source>&amp;Lines of the label, with columns in braces:</source>
@@ -887,7 +887,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Members</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Membres</translation>
     </message>
     <message>
         <source>&amp;More...</source>
@@ -1007,7 +1007,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Recipes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recettes</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
@@ -1087,7 +1087,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Thème</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -1107,7 +1107,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Under The Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sous les icônes</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
@@ -1248,7 +1248,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>A day: 12/31/2024</source>
-        <translation type="unfinished"></translation>
+        <translation>Un jour : 12/31/2024</translation>
     </message>
     <message>
         <source>A file with that name exists. Overwrite it?</source>
@@ -1268,11 +1268,11 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>A number, or a serial number that counts by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre, ou un numéro d'ordre qui avance tout seul</translation>
     </message>
     <message>
         <source>A photo or drawing: a .jpg or .gif file</source>
-        <translation type="unfinished"></translation>
+        <translation>Une photo ou un dessin : un fichier .jpg ou .gif</translation>
     </message>
     <message>
         <source>A picture could not be put back: %1</source>
@@ -1336,7 +1336,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>« Ajouter un champ de saisie », dans la barre ci-dessus, place un champ pour une colonne ; « Ajouter un libellé », un texte.</translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>
@@ -1414,7 +1414,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>An amount of money: $1,234.50</source>
-        <translation type="unfinished"></translation>
+        <translation>Un montant : $1,234.50</translation>
     </message>
     <message>
         <source>An error has occured during one of your calculations.  It appears that an expression is incorrectly defined.  Please check your syntax.</source>
@@ -1426,7 +1426,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Any words, also numbers that begin with 0</source>
-        <translation type="unfinished"></translation>
+        <translation>N'importe quels mots, même des nombres commençant par 0</translation>
     </message>
     <message>
         <source>Application-defined or object-defined error</source>
@@ -2332,7 +2332,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>From A Template</source>
-        <translation type="unfinished"></translation>
+        <translation>À partir d'un modèle</translation>
     </message>
     <message>
         <source>Gap a&amp;cross:</source>
@@ -2420,7 +2420,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>In&amp;ventory</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;ventaire</translation>
     </message>
     <message>
         <source>Incorrect Password.</source>
@@ -2746,7 +2746,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>New From Te&amp;mplate</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau à partir d'un &amp;modèle</translation>
     </message>
     <message>
         <source>New Record</source>
@@ -2928,7 +2928,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Open Recent &amp;Files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichiers récents</translation>
     </message>
     <message>
         <source>Open a &amp;Copy...</source>
@@ -3045,7 +3045,7 @@ A database is one file; its name ends in .fwk.</source>
     </message>
     <message>
         <source>Place &amp;All Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer &amp;toutes les colonnes</translation>
     </message>
     <message>
         <source>Plants with photos and costs</source>
@@ -3732,7 +3732,8 @@ A database is one file; its name ends in .fwk.</source>
     <message>
         <source>The database could not be made:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de données n'a pas pu être créée :
+%1</translation>
     </message>
     <message>
         <source>The database file could not be found:
@@ -3843,7 +3844,7 @@ A database is one file; its name ends in .fwk.</source>
     </message>
     <message>
         <source>The picture %1 cannot be read, or is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>L'image %1 est illisible ou trop grande.</translation>
     </message>
     <message>
         <source>The picture %1 cannot be read.</source>
@@ -3875,7 +3876,7 @@ A database is one file; its name ends in .fwk.</source>
     </message>
     <message>
         <source>The picture is kept as the JPEG file %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L'image est conservée dans le fichier JPEG %1.</translation>
     </message>
     <message>
         <source>The print could not be written.</source>
@@ -4136,7 +4137,7 @@ Records: %3</source>
     </message>
     <message>
         <source>Toolbar Te&amp;xts</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;xtes de la barre d'outils</translation>
     </message>
     <message>
         <source>Top:</source>
@@ -4280,7 +4281,7 @@ Records: %3</source>
     </message>
     <message>
         <source>What is transparent in it has become white.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui y était transparent est devenu blanc.</translation>
     </message>
     <message>
         <source>What the first records become</source>
@@ -4316,7 +4317,7 @@ Records: %3</source>
     </message>
     <message>
         <source>Worked out from other columns by an expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculée à partir d'autres colonnes par une expression</translation>
     </message>
     <message>
         <source>Would you like to rename all exact matching labels in your layout to the new name as well?</source>
@@ -4577,11 +4578,11 @@ Records: %3</source>
     </message>
     <message>
         <source>help/about.html</source>
-        <translation type="unfinished"></translation>
+        <translation>help/about.html</translation>
     </message>
     <message>
         <source>help/index.html</source>
-        <translation type="unfinished"></translation>
+        <translation>help/index.html</translation>
     </message>
     <message>
         <source>inches.</source>
