@@ -1,5 +1,6 @@
 #include "exchange/columnTypes.h"
 #include "exchange/csvWriter.h"
+#include "exchange/delimited.h"
 #include "table.h"
 
 #include <gtest/gtest.h>
@@ -48,6 +49,31 @@ TEST(CsvTable, Reads) {
     for (int i = 0; i < 32767; ++i) rows += "1\n";
     EXPECT_TRUE(read(rows).starts_with("a/;1/"));
     EXPECT_EQ(read(rows + "1\n"), "it has more than 32767 rows");
+}
+
+// Without a mark the zeros tell: those of small letters stand in every other place.
+TEST(Delimited, RecognizesItsEncoding) {
+    using exchange::Encoding;
+    using namespace std::string_literals;
+    const auto wide = [](std::string_view text, bool isLittle) {
+        std::string out;
+        for (const char c : text) out += isLittle ? std::string{c, '\0'} : std::string{'\0', c};
+        return out;
+    };
+    const std::pair<std::string, Encoding> cases[] = {
+        {"a;b", Encoding::Utf8},
+        {"\xef\xbb\xbf\xe4", Encoding::Utf8},
+        {"\xc3\xa4", Encoding::Utf8},
+        {"\xe4;b", Encoding::Windows1252},
+        {"\xff\xfe" + wide("a", true), Encoding::Utf16Le},
+        {"\xfe\xff" + wide("a", false), Encoding::Utf16Be},
+        {wide("Name;Price", true), Encoding::Utf16Le},
+        {wide("Name;Price", false), Encoding::Utf16Be},
+        {wide("\x04\x30\x04\x31;12;13;14", true), Encoding::Utf16Le},
+        {"a\0\0b\0\0"s, Encoding::Utf8},
+        {"", Encoding::Utf8}};
+    for (const auto& [bytes, encoding] : cases)
+        EXPECT_EQ(exchange::recognizedEncoding(bytes), encoding) << bytes;
 }
 
 TEST(CsvWriter, IsReadBack) {

@@ -192,6 +192,23 @@ TEST_F(SheetFile, WhatIsWrittenIsReadAgain) {
     const std::string text = *zip.readEntry("content.xml", 1 << 20);
     EXPECT_EQ(text.find("of:="), text.rfind("of:=")) << "only where all operands are numbers";
     EXPECT_NE(text.find("\"of:=[.B2]*2\""), std::string::npos);
+    // What another program shows of a cell is its style: a day, money, places, and no zero in front.
+    const OutTable styled{"",
+                          {{"D", ColumnType::Date, 9, ""},
+                           {"M", ColumnType::Currency, 9, ""},
+                           {"N", ColumnType::Number, 9, ""}},
+                          {{"12/31/2024", "$1.50", "0.25"}, {"", "", ".125"}},
+                          false};
+    exchange::writeSheet(path("f.ods"), Format::Ods, styled);
+    file::Zip again;
+    again.OpenArchive(path("f.ods"));
+    const std::string cells = *again.readEntry("content.xml", 1 << 20);
+    for (const char* style : {"d", "m", "n2", "z3"}) {
+        const std::string used = "table:style-name=\"" + std::string(style) + "\"",
+                          made = "style:name=\"" + std::string(style) + "\"";
+        EXPECT_NE(cells.find(used), std::string::npos) << style;
+        EXPECT_NE(cells.find(made), std::string::npos) << style;
+    }
     const auto never = [](int) { return false; };
     writeBytes(path("keep.ods"), "old");
     for (const char* name : {"keep.ods", "new.xlsx"})
@@ -226,6 +243,11 @@ TEST_F(SheetFile, OfOtherPrograms) {
          "<v>7</v></c><c><v>8</v></c></row></sheetData><mergeCells><mergeCell ref='C3:D3'/><mergeCell "
          "ref='A1:C2'/><mergeCell ref='D1'/></mergeCells>");
     EXPECT_EQ(told(read("m.xlsx")), "A&B: N:1|-:|N:4|/-:|-:|N:6|/-:|N:7|/");
+    xlsx("down.xlsx",
+         "<sheetData><row><c><v>1</v></c><c><v>2</v></c></row><row><c><v>3</v></c><c><v>4</v></c></row>"
+         "<row><c><v>5</v></c></row></sheetData><mergeCells><mergeCell ref='A1:A2'/><mergeCell "
+         "ref='B2:A1'/></mergeCells>");
+    EXPECT_EQ(told(read("down.xlsx")), "A&B: N:1|N:2|/-:|N:4|/N:5|/");
     const std::string odd = "<table:table-row><table:table-cell office:value-type='float' office:value='";
     ods("a.ods",
         "<table:table table:name='One'/><table:table "

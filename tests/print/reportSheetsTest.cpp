@@ -135,6 +135,17 @@ TEST_F(Sheets, WhatStandsWhere) {
     EXPECT_TRUE(drawnOn(sheet(0)).ends_with("0.1@4240,14860; 1 of 2@10200,15280")) << drawnOn(sheet(0));
 }
 
+// A group without a value has no subtotal, and one that has a zero has it.
+TEST_F(Sheets, NothingAddsUpToNothing) {
+    open(DataFile("Name Kind Qty:4 Price:2", "a|x||;b|x|1|;c|y|2|$0.00;d|y|3|$0.00")
+             .section("Printed Cols", "Name|Kind|Qty|Price|")
+             .section("Totaled Cols", "Qty|Price|"));
+    app.document.currentFile = "/nothing.fwk";
+    print({.groupColumn = "Kind"});
+    const std::string words = wordsOf(sheet(0));
+    EXPECT_EQ(words, "");
+}
+
 // The choices are kept for the file; columns that a report does not have choose nothing.
 TEST_F(Sheets, TheFormKeepsTheChoices) {
     openTools(3);

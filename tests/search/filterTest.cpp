@@ -67,6 +67,13 @@ TEST(Filter, TheLanguage) {
     EXPECT_EQ(search::folded("Ǻﬀ ŝ\xFFΌсЁ\xCC\x81\t"), search::folded("aﬀ S\xFFοСе "));
 }
 
+TEST(Filter, NeedsAColumn) {
+    FilterProgram program(DataFile("", ""));
+    EXPECT_FALSE(search::canFilter(program.app));
+    search::mnuFilter_Click(program.app);
+    EXPECT_FALSE(search::filterBar(program.app).isOpen);
+}
+
 TEST(Filter, EachItemOfAnInvoiceCounts) {
     FilterProgram program(DataFile("Item Price:2", "bolt@nut@|$5.00@$12.00@;nail@|$7.00@"));
     for (const auto& each :

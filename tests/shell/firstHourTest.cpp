@@ -144,4 +144,29 @@ TEST_F(FirstHour, AllColumnsArePlacedBesideEachOther) {
     }
 }
 
+// What an empty page says, by what there is: columns, objects, invoices, the mode.
+TEST_F(FirstHour, EmptyPagesSayWhatComesNext) {
+    const auto said = [&] {
+        const auto hint = shell::emptyLayoutPage(app);
+        return hint ? hint->title + "/" + std::to_string(hint->buttons.size()) : "-";
+    };
+    const auto designing = [&](bool isOn) {
+        app.mainFrm.SSTab1 = app::layoutTab;
+        app.mainFrm.control("Design").Value = isOn;
+        return said();
+    };
+    open(DataFile("", ""));
+    EXPECT_EQ(designing(false), "");
+    open(DataFile("Name Qty:4", "a|1"));
+    EXPECT_EQ(designing(false) + designing(true), "");
+    shell::emptyLayoutPage(app)->buttons.back().run(app);
+    EXPECT_EQ(designing(true) + designing(false), "--");
+    layout::layoutPage(app).layoutPic2.Visible = false;
+    EXPECT_EQ(said(), "-") << "only invoices put their sheet away";
+    app.document.bInvoiceStyle = true;
+    EXPECT_EQ(said(), "There are no records yet/1");
+    layout::layoutPage(app).layoutPic2.Visible = true;
+    EXPECT_EQ(said(), "-");
+}
+
 } // namespace
