@@ -90,10 +90,9 @@ std::optional<Hint> emptyLayoutPage(const App& app) {
         return Hint{"There are no records yet", "The page is filled in for each one.", {newRecordButton()}};
     }
     if (!isDesigning(app)) return orAllColumns(app, emptySheet());
-    return orAllColumns(app,
-                        {"Nothing is placed on the page yet",
-                         "Add Entry Box, in the bar above, places a box for a column; Add Label a text.",
-                         {}});
+    return orAllColumns(app, {"Nothing is placed on the page yet",
+                              "Add Entry Box, in the bar above, places a box for a column; Add Label a text.",
+                              {}});
 }
 
 std::optional<Hint> emptyPreview(const App& app) {
