@@ -91,8 +91,10 @@ void placeAllColumns(App& app) {
     const std::size_t rows = (boxes.size() + blocks - 1) / blocks;
     const float step = (room.width + gap) / static_cast<float>(blocks);
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        const auto block = static_cast<float>(i / rows), row = static_cast<float>(i % rows);
-        placeBox(app, *boxes[i], {room.left + block * step, room.top + row * pitch, step - gap, pitch});
+        const std::size_t block = i / rows, row = i % rows;
+        placeBox(app, *boxes[i],
+                 {room.left + static_cast<float>(block) * step, room.top + static_cast<float>(row) * pitch,
+                  step - gap, pitch});
     }
     selectNothing(app);
 }
