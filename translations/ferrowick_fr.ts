@@ -568,15 +568,15 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;All Records</source>
-        <translation>Toutes les &amp;fiches</translation>
+        <translation>Toutes les fic&amp;hes</translation>
     </message>
     <message>
         <source>&amp;All records</source>
-        <translation>Toutes les &amp;fiches</translation>
+        <translation>Toutes les fic&amp;hes</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation>&amp;Appliquer</translation>
+        <translation>App&amp;liquer</translation>
     </message>
     <message>
         <source>&amp;As The Desktop</source>
@@ -584,7 +584,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Auto-Load Previously Opened File</source>
-        <translation>&amp;Ouvrir automatiquement le dernier fichier</translation>
+        <translation>Ouvrir &amp;automatiquement le dernier fichier</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -668,7 +668,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Create</source>
-        <translation>&amp;Créer</translation>
+        <translation>C&amp;réer</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
@@ -684,7 +684,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Delete All But First</source>
-        <translation>&amp;Supprimer toutes sauf la première</translation>
+        <translation>Supprimer to&amp;utes sauf la première</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
@@ -708,11 +708,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>&amp;Modifier</translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Encoding:</source>
-        <translation>&amp;Codage :</translation>
+        <translation>Co&amp;dage :</translation>
     </message>
     <message>
         <source>&amp;Exit</source>
@@ -744,7 +744,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Findings:</source>
-        <translation>&amp;Constats :</translation>
+        <translation>Constat&amp;s :</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -788,7 +788,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>&amp;Aide</translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>&amp;Highlight Calculation Boxes</source>
@@ -812,7 +812,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation>&amp;Importer...</translation>
+        <translation>Im&amp;porter...</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
@@ -852,7 +852,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Kind:</source>
-        <translation>&amp;Type :</translation>
+        <translation>T&amp;ype :</translation>
     </message>
     <message>
         <source>&amp;Labels across:</source>
@@ -888,11 +888,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Make</source>
-        <translation>&amp;Créer</translation>
+        <translation>C&amp;réer</translation>
     </message>
     <message>
         <source>&amp;Make Code...</source>
-        <translation>&amp;Créer un code...</translation>
+        <translation>Créer &amp;un code...</translation>
     </message>
     <message>
         <source>&amp;Members</source>
@@ -960,15 +960,15 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
-        <translation>&amp;Remplacer</translation>
+        <translation>É&amp;craser</translation>
     </message>
     <message>
         <source>&amp;Overwrite It Anyway</source>
-        <translation>&amp;Remplacer quand même</translation>
+        <translation>É&amp;craser quand même</translation>
     </message>
     <message>
         <source>&amp;Overwrite at the Next Save</source>
-        <translation>&amp;Remplacer au prochain enregistrement</translation>
+        <translation>É&amp;craser au prochain enregistrement</translation>
     </message>
     <message>
         <source>&amp;Page numbers, as 3 of 8</source>
@@ -980,11 +980,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation>C&amp;oller</translation>
+        <translation>Co&amp;ller</translation>
     </message>
     <message>
         <source>&amp;Paste...</source>
-        <translation>C&amp;oller...</translation>
+        <translation>Co&amp;ller...</translation>
     </message>
     <message>
         <source>&amp;Picture:</source>
@@ -1008,7 +1008,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Quotes:</source>
-        <translation>&amp;Guillemets :</translation>
+        <translation>G&amp;uillemets :</translation>
     </message>
     <message>
         <source>&amp;Read the Other State</source>
@@ -1036,7 +1036,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Replace in all rows for selected columns.</source>
-        <translation>&amp;Remplacer dans toutes les lignes des colonnes choisies.</translation>
+        <translation>Remplacer dans toutes les &amp;lignes des colonnes choisies.</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
@@ -1060,7 +1060,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Select Repeats</source>
-        <translation>&amp;Sélectionner les répétitions</translation>
+        <translation>Sélectionner les répé&amp;titions</translation>
     </message>
     <message>
         <source>&amp;Send</source>
@@ -1068,7 +1068,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Set</source>
-        <translation>&amp;Fixer</translation>
+        <translation>&amp;Définir</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -1100,7 +1100,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation>&amp;Outils</translation>
+        <translation>Ou&amp;tils</translation>
     </message>
     <message>
         <source>&amp;Top margin:</source>
@@ -1152,7 +1152,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Worked out from the columns of each record</source>
-        <translation>&amp;Calculé à partir des colonnes de chaque fiche</translation>
+        <translation>Calculé à &amp;partir des colonnes de chaque fiche</translation>
     </message>
     <message>
         <source>&amp;Write It Again</source>
@@ -1298,7 +1298,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>A&amp;ll</source>
-        <translation>&amp;Toutes</translation>
+        <translation>Toute&amp;s</translation>
     </message>
     <message>
         <source>A&amp;vailable columns:</source>
@@ -1637,7 +1637,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Check Previous Entries</source>
-        <translation>Consulter les saisies précédentes</translation>
+        <translation>Saisies précédentes</translation>
     </message>
     <message>
         <source>Check Serial &amp;Numbers...</source>
@@ -1661,7 +1661,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Choose in the page setup what is printed.</source>
-        <translation>Choisissez ce qui s'imprime dans la mise en page du papier.</translation>
+        <translation>Choisissez ce qui s'imprime dans la configuration de la page.</translation>
     </message>
     <message>
         <source>Choose the columns to compare.</source>
@@ -2528,7 +2528,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>La&amp;bel Wizard...</source>
-        <translation>Assistant d'éti&amp;quettes...</translation>
+        <translation>Assis&amp;tant d'étiquettes...</translation>
     </message>
     <message>
         <source>Label Wizard</source>
@@ -2568,7 +2568,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Layout Page Setup</source>
-        <translation>Papier de la mise en page</translation>
+        <translation>Page de la mise en page</translation>
     </message>
     <message>
         <source>Layout sheet</source>
@@ -3001,7 +3001,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Overwrite Existing File?</source>
-        <translation>Remplacer le fichier existant ?</translation>
+        <translation>Écraser le fichier existant ?</translation>
     </message>
     <message>
         <source>P&amp;revious Record</source>
@@ -3021,11 +3021,11 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Page &amp;Setup...</source>
-        <translation>&amp;Papier...</translation>
+        <translation>&amp;Configurer la page...</translation>
     </message>
     <message>
         <source>Page Setup</source>
-        <translation>Mise en page du papier</translation>
+        <translation>Configurer la page</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -3279,7 +3279,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Remove Column</source>
-        <translation>Retirer la colonne</translation>
+        <translation>Supprimer la colonne</translation>
     </message>
     <message>
         <source>Rename Column</source>
@@ -3307,7 +3307,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Report Page Setup</source>
-        <translation>Mise en page du rapport</translation>
+        <translation>Page du rapport</translation>
     </message>
     <message>
         <source>Resize Column</source>
@@ -3488,15 +3488,15 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     <message numerus="yes">
         <source>Set %1 in %n record</source>
         <comment>Set %1 in %n records</comment>
-        <translation><numerusform>Fixer %1 dans %n fiche</numerusform><numerusform>Fixer %1 dans %n fiches</numerusform></translation>
+        <translation><numerusform>Définir %1 dans %n fiche</numerusform><numerusform>Définir %1 dans %n fiches</numerusform></translation>
     </message>
     <message>
         <source>Set &amp;Values...</source>
-        <translation>Fi&amp;xer des valeurs...</translation>
+        <translation>Définir des &amp;valeurs...</translation>
     </message>
     <message>
         <source>Set &amp;to:</source>
-        <translation>Fixer &amp;à :</translation>
+        <translation>Définir &amp;à :</translation>
     </message>
     <message>
         <source>Set Font</source>
@@ -3504,7 +3504,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Set Values</source>
-        <translation>Fixer des valeurs</translation>
+        <translation>Définir des valeurs</translation>
     </message>
     <message>
         <source>Sheet of labels</source>
@@ -3692,11 +3692,11 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>The &amp;first row has the names of the columns</source>
-        <translation>La &amp;première ligne contient les noms des colonnes</translation>
+        <translation>La première li&amp;gne contient les noms des colonnes</translation>
     </message>
     <message>
         <source>The &amp;selected records</source>
-        <translation>Les fiches &amp;sélectionnées</translation>
+        <translation>Les fiches sé&amp;lectionnées</translation>
     </message>
     <message>
         <source>The brace at place %1 is not closed</source>
@@ -3910,11 +3910,11 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>The se&amp;lected records</source>
-        <translation>Les fiches &amp;sélectionnées</translation>
+        <translation>Les fiches sé&amp;lectionnées</translation>
     </message>
     <message>
         <source>The search &amp;results</source>
-        <translation>Les &amp;résultats de la recherche</translation>
+        <translation>Les résultats d&amp;e la recherche</translation>
     </message>
     <message>
         <source>The sign %1 is not kept: amounts are shown with $.</source>
@@ -3996,7 +3996,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>There are no records to set values in.</source>
-        <translation>Il n'y a pas de fiches où fixer des valeurs.</translation>
+        <translation>Il n'y a pas de fiches où définir des valeurs.</translation>
     </message>
     <message>
         <source>There are no records yet</source>
@@ -4320,7 +4320,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>With the &amp;Totals row</source>
-        <translation>Avec la ligne des &amp;totaux</translation>
+        <translation>Avec la ligne &amp;des totaux</translation>
     </message>
     <message>
         <source>With the &amp;pictures, in a folder beside the file</source>
@@ -4348,7 +4348,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>Written &amp;as:</source>
-        <translation>Écrit &amp;comme :</translation>
+        <translation>Écrit co&amp;mme :</translation>
     </message>
     <message>
         <source>Written As</source>
@@ -4472,7 +4472,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>a ne&amp;w database</source>
-        <translation>une &amp;nouvelle base de données</translation>
+        <translation>une nouvelle &amp;base de données</translation>
     </message>
     <message>
         <source>a quote is opened and never closed</source>
@@ -4991,7 +4991,7 @@ Fiches : %3</translation>
     <message numerus="yes">
         <source>within %1 day</source>
         <comment>within %1 days</comment>
-        <translation><numerusform>à %1 jour près</numerusform><numerusform>à %1 jours près</numerusform></translation>
+        <translation><numerusform>d'ici %1 jour</numerusform><numerusform>d'ici %1 jours</numerusform></translation>
     </message>
     <message>
         <source>year</source>

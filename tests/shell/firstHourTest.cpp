@@ -156,9 +156,9 @@ TEST_F(FirstHour, EmptyPagesSayWhatComesNext) {
         return said();
     };
     open(DataFile("", ""));
-    EXPECT_EQ(designing(false), "");
+    EXPECT_EQ(designing(false), "There are no columns yet/1");
     open(DataFile("Name Qty:4", "a|1"));
-    EXPECT_EQ(designing(false) + designing(true), "");
+    EXPECT_EQ(designing(false), "The layout page is empty/2");
     shell::emptyLayoutPage(app)->buttons.back().run(app);
     EXPECT_EQ(designing(true) + designing(false), "--");
     layout::layoutPage(app).layoutPic2.Visible = false;
