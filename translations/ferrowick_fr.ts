@@ -213,7 +213,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <comment>%1 and %n more</comment>
-        <translation><numerusform>%1 et encore %n</numerusform><numerusform>%1 et encore %n</numerusform></translation>
+        <translation><numerusform>%1 et %n autre</numerusform><numerusform>%1 et %n autres</numerusform></translation>
     </message>
     <message>
         <source>%1 at place %2 has no bars, but a QR code takes it</source>
@@ -261,11 +261,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>%1 ended too early</source>
-        <translation>%1 s'est terminé trop tôt</translation>
+        <translation>%1 se termine trop tôt</translation>
     </message>
     <message>
         <source>%1 goes into</source>
-        <translation>%1 va dans</translation>
+        <translation>Destination de %1</translation>
     </message>
     <message>
         <source>%1 has a wrong size</source>
@@ -337,11 +337,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>%1 labels: too many to print at a time, which are %2 at most.</source>
-        <translation>%1 étiquettes : trop pour une impression, le maximum est %2.</translation>
+        <translation>%1 étiquettes : trop pour une seule impression (%2 au plus).</translation>
     </message>
     <message>
         <source>%1 missing</source>
-        <translation>%1 manque</translation>
+        <translation>%1 manquant</translation>
     </message>
     <message numerus="yes">
         <source>%1 occurs %n time</source>
@@ -354,7 +354,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>%1 of %2.fwk</source>
-        <translation>%1 sur %2.fwk</translation>
+        <translation>%1 du %2.fwk</translation>
     </message>
     <message>
         <source>%1 of %2: %3</source>
@@ -374,11 +374,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>%1 to %2 missing</source>
-        <translation>%1 à %2 manquent</translation>
+        <translation>%1 à %2 manquants</translation>
     </message>
     <message>
         <source>%1 to below %2</source>
-        <translation>%1 à moins de %2</translation>
+        <translation>de %1 à moins de %2</translation>
     </message>
     <message>
         <source>%1 twice</source>
@@ -390,7 +390,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>%1 was changed by somebody else. It is not what your unsaved work is based on.</source>
-        <translation>%1 a été modifié par quelqu'un d'autre. Ce n'est plus ce sur quoi repose votre travail non enregistré.</translation>
+        <translation>%1 a été modifié par quelqu'un d'autre. Votre travail non enregistré repose sur un autre état.</translation>
     </message>
     <message>
         <source>%1 was changed by somebody else. What is shown here is as it was opened.</source>
@@ -418,7 +418,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>%1. The first %2 are shown.</source>
-        <translation>%1. Les %2 premiers sont affichés.</translation>
+        <translation>%1. Les %2 premières sont affichées.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -502,17 +502,17 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     <message numerus="yes">
         <source>%n record asks for more than %1, which is the most.</source>
         <comment>%n records ask for more than %1, which is the most.</comment>
-        <translation><numerusform>%n fiche demande plus de %1, le maximum.</numerusform><numerusform>%n fiches demandent plus de %1, le maximum.</numerusform></translation>
+        <translation><numerusform>%n fiche demande plus que le maximum de %1.</numerusform><numerusform>%n fiches demandent plus que le maximum de %1.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record behind the first of each</source>
         <comment>%n records behind the first of each</comment>
-        <translation><numerusform>%n fiche derrière la première de chaque</numerusform><numerusform>%n fiches derrière la première de chaque</numerusform></translation>
+        <translation><numerusform>%n fiche après la première de chaque groupe</numerusform><numerusform>%n fiches après la première de chaque groupe</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record has no code in %1 now.  %2: %3.</source>
         <comment>%n records have no code in %1 now.  %2: %3.</comment>
-        <translation><numerusform>%n fiche n'a maintenant pas de code dans %1. %2 : %3.</numerusform><numerusform>%n fiches n'ont maintenant pas de code dans %1. %2 : %3.</numerusform></translation>
+        <translation><numerusform>%n fiche n'a pour l'instant pas de code dans %1. %2 : %3.</numerusform><numerusform>%n fiches n'ont pour l'instant pas de code dans %1. %2 : %3.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record has no number above 0 there: no label.</source>
@@ -588,7 +588,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation>&amp;Précédente</translation>
+        <translation>&amp;Retour</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
@@ -768,7 +768,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Goes into:</source>
-        <translation>&amp;Va dans :</translation>
+        <translation>Destin&amp;ation :</translation>
     </message>
     <message>
         <source>&amp;Group by</source>
@@ -800,7 +800,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Ignore capitals, and blanks at the ends</source>
-        <translation>&amp;Ignorer les majuscules et les espaces aux bords</translation>
+        <translation>&amp;Ignorer la casse et les espaces aux extrémités</translation>
     </message>
     <message>
         <source>&amp;Import</source>
@@ -1168,7 +1168,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>(leave out)</source>
-        <translation>(laisser de côté)</translation>
+        <translation>(ignorer)</translation>
     </message>
     <message>
         <source>(no colour)</source>
@@ -1184,7 +1184,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation>(aucun)</translation>
+        <translation>(aucune)</translation>
     </message>
     <message>
         <source>1 of 3: Which labels?</source>
@@ -1224,7 +1224,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Before you begin&lt;/h3&gt;&lt;p&gt;Ferrowick is free software. It is provided &lt;b&gt;as it is, without a warranty of any kind&lt;/b&gt;: nobody promises that it is free of errors or fit for what you want to do with it, and nobody answers for losses that come of its use.&lt;/p&gt;&lt;p&gt;What that means for your work:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Keep copies of your databases, on another disk if you can. A database is one file whose name ends in &lt;i&gt;.fwk&lt;/i&gt;, so a copy is quickly made.&lt;/li&gt;&lt;li&gt;Changes are on the disk only when you have saved them.&lt;/li&gt;&lt;li&gt;Check sums and calculations that money or other people depend on.&lt;/li&gt;&lt;li&gt;The design lock keeps a design from being changed by mistake. It does not encrypt anything: whoever has the file can read what is in it.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;The licence that comes with the program has the full terms.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Avant de commencer&lt;/h3&gt;&lt;p&gt;Ferrowick est un logiciel libre. Il est fourni &lt;b&gt;tel quel, sans garantie d'aucune sorte&lt;/b&gt; : personne ne promet qu'il est sans erreurs ou qu'il convient à ce que vous voulez en faire, et personne ne répond des pertes dues à son usage.&lt;/p&gt;&lt;p&gt;Ce que cela signifie pour votre travail :&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Gardez des copies de vos bases de données, si possible sur un autre disque. Une base est un seul fichier dont le nom se termine par &lt;i&gt;.fwk&lt;/i&gt; ; une copie est donc vite faite.&lt;/li&gt;&lt;li&gt;Les modifications ne sont sur le disque qu'une fois enregistrées.&lt;/li&gt;&lt;li&gt;Vérifiez les sommes et les calculs dont dépendent de l'argent ou d'autres personnes.&lt;/li&gt;&lt;li&gt;Le verrouillage évite qu'une mise en page soit modifiée par erreur. Il ne chiffre rien : quiconque a le fichier peut en lire le contenu.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;La licence fournie avec le programme contient les conditions complètes.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Avant de commencer&lt;/h3&gt;&lt;p&gt;Ferrowick est un logiciel libre. Il est fourni &lt;b&gt;tel quel, sans garantie d'aucune sorte&lt;/b&gt; : personne ne promet qu'il est exempt d'erreurs ou convient à ce que vous voulez en faire, et personne ne répond des pertes dues à son usage.&lt;/p&gt;&lt;p&gt;Ce que cela signifie pour votre travail :&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Gardez des copies de vos bases de données, si possible sur un autre disque. Une base est un seul fichier dont le nom se termine par &lt;i&gt;.fwk&lt;/i&gt; ; une copie est donc vite faite.&lt;/li&gt;&lt;li&gt;Les modifications ne sont sur le disque qu'une fois enregistrées.&lt;/li&gt;&lt;li&gt;Vérifiez les sommes et les calculs dont dépendent de l'argent ou d'autres personnes.&lt;/li&gt;&lt;li&gt;Le verrouillage évite qu'une mise en page soit modifiée par erreur. Il ne chiffre rien : quiconque a le fichier peut en lire le contenu.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;La licence fournie avec le programme contient les conditions complètes.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>A click sorts the groups, and another one the other way</source>
@@ -1254,7 +1254,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>A date is set to a date or to a column of dates, and cannot be worked out</source>
-        <translation>Une date prend une date ou une colonne de dates, et ne peut pas être calculée</translation>
+        <translation>Une date reçoit une date ou une colonne de dates et ne peut pas être calculée</translation>
     </message>
     <message>
         <source>A day: 12/31/2024</source>
@@ -1286,7 +1286,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>A picture could not be put back: %1</source>
-        <translation>Une image n'a pas pu être remise : %1</translation>
+        <translation>Une image n'a pas pu être remise en place : %1</translation>
     </message>
     <message>
         <source>A summary has no place in address cards.</source>
@@ -1444,7 +1444,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Are you absolutely certain you want to do this?  ALL data in the column %1 will be lost!</source>
-        <translation>Êtes-vous absolument certain de vouloir le faire ? TOUTES les données de la colonne %1 seront perdues !</translation>
+        <translation>Voulez-vous vraiment le faire ? TOUTES les données de la colonne %1 seront perdues !</translation>
     </message>
     <message>
         <source>Are you sure?</source>
@@ -1504,7 +1504,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Précédente</translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Bad file name</source>
@@ -1512,7 +1512,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Bar</source>
-        <translation>Barre</translation>
+        <translation>Barre verticale</translation>
     </message>
     <message>
         <source>Bars</source>
@@ -1600,7 +1600,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Cannot be stored because it</source>
-        <translation>Ne peut pas être stocké car le texte</translation>
+        <translation>Ne peut être stockée, car elle</translation>
     </message>
     <message>
         <source>Carried forward</source>
@@ -1661,7 +1661,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Choose in the page setup what is printed.</source>
-        <translation>Choisissez ce qui s'imprime dans la configuration de la page.</translation>
+        <translation>Choisissez dans la configuration de la page ce qui s'imprime.</translation>
     </message>
     <message>
         <source>Choose the columns to compare.</source>
@@ -1825,7 +1825,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Create an invoice style database.  This means you will design a layout where the calculations take place in the layout itself and you will have multiple values stored in a single row and column cell.</source>
-        <translation>Créer une base de factures. Vous concevrez une mise en page où les calculs se font, et une seule cellule contiendra plusieurs valeurs.</translation>
+        <translation>Créer une base de factures. Vous concevrez une mise en page où se font les calculs, et une même cellule pourra contenir plusieurs valeurs.</translation>
     </message>
     <message>
         <source>Criteria</source>
@@ -1932,7 +1932,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Delete Record</source>
-        <translation>Supprimer une fiche</translation>
+        <translation>Supprimer la fiche</translation>
     </message>
     <message numerus="yes">
         <source>Delete Record</source>
@@ -2042,7 +2042,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Each number is there once.</source>
-        <translation>Chaque numéro existe une fois.</translation>
+        <translation>Chaque numéro n'existe qu'une fois.</translation>
     </message>
     <message>
         <source>Each row that is pasted becomes an invoice. Please show the invoices, not their items.</source>
@@ -2250,15 +2250,15 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Fig&amp;ures</source>
-        <translation>&amp;Valeurs</translation>
+        <translation>&amp;Mesures</translation>
     </message>
     <message>
         <source>Figure</source>
-        <translation>Valeur</translation>
+        <translation>Mesure</translation>
     </message>
     <message>
         <source>Figures</source>
-        <translation>Valeurs</translation>
+        <translation>Mesures</translation>
     </message>
     <message>
         <source>File does not exist!</source>
@@ -2306,7 +2306,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>First</source>
-        <translation>Premier</translation>
+        <translation>Première</translation>
     </message>
     <message>
         <source>First &amp;rows, as they will be stored:</source>
@@ -2322,11 +2322,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Fit &amp;Page</source>
-        <translation>Ajuster à la &amp;page</translation>
+        <translation>&amp;Page entière</translation>
     </message>
     <message>
         <source>Fit &amp;Width</source>
-        <translation>Ajuster à la &amp;largeur</translation>
+        <translation>&amp;Largeur de page</translation>
     </message>
     <message>
         <source>Folio</source>
@@ -2370,7 +2370,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Goes into</source>
-        <translation>Va dans</translation>
+        <translation>Destination</translation>
     </message>
     <message>
         <source>Greater than or equal to</source>
@@ -2378,11 +2378,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Greatest</source>
-        <translation>Le plus grand</translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Greatest of %1</source>
-        <translation>Le plus grand de %1</translation>
+        <translation>Maximum de %1</translation>
     </message>
     <message>
         <source>Green</source>
@@ -2410,7 +2410,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>How finely values are told apart: dates by year, quarter, month or day, numbers by steps, which can be typed</source>
-        <translation>Finesse de distinction des valeurs : les dates par année, trimestre, mois ou jour, les nombres par pas, que l'on peut taper</translation>
+        <translation>Finesse de distinction des valeurs : les dates par année, trimestre, mois ou jour, les nombres par pas, que vous pouvez taper</translation>
     </message>
     <message>
         <source>How many copies?</source>
@@ -2556,7 +2556,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation>Dernier</translation>
+        <translation>Dernière</translation>
     </message>
     <message>
         <source>Last Record</source>
@@ -2580,11 +2580,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation>Le plus petit</translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Least of %1</source>
-        <translation>Le plus petit de %1</translation>
+        <translation>Minimum de %1</translation>
     </message>
     <message>
         <source>Ledger</source>
@@ -2882,7 +2882,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation>Maintenant</translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>Number</source>
@@ -3203,7 +3203,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation>Étendue</translation>
+        <translation>Intervalle</translation>
     </message>
     <message>
         <source>Read &amp;Again</source>
@@ -3447,7 +3447,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Search within</source>
-        <translation>Chercher dans</translation>
+        <translation>Contient</translation>
     </message>
     <message>
         <source>Select image for clip art.</source>
@@ -3941,7 +3941,9 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
 %1 and %n more.</source>
         <comment>The table is written, but the database has no pictures of these names:
 %1 and %n more.</comment>
-        <translation><numerusform>Le tableau est écrit, mais la base n'a pas d'images de ces noms :\n%1 et encore %n.</numerusform><numerusform>Le tableau est écrit, mais la base n'a pas d'images de ces noms :\n%1 et encore %n.</numerusform></translation>
+        <translation><numerusform>Le tableau est écrit, mais la base n'a pas d'images de ces noms :
+%1 et encore %n.</numerusform><numerusform>Le tableau est écrit, mais la base n'a pas d'images de ces noms :
+%1 et encore %n.</numerusform></translation>
     </message>
     <message>
         <source>The table is written, but the database has no pictures of these names:
@@ -3968,7 +3970,7 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     </message>
     <message>
         <source>Then</source>
-        <translation>Puis</translation>
+        <translation>Après</translation>
     </message>
     <message>
         <source>There are %1 columns, a database has at most %2.</source>
@@ -4468,7 +4470,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>a control character</source>
-        <translation>un caractère de commande</translation>
+        <translation>un caractère de contrôle</translation>
     </message>
     <message>
         <source>a ne&amp;w database</source>
@@ -4484,7 +4486,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>above %1</source>
-        <translation>au-dessus de %1</translation>
+        <translation>supérieur à %1</translation>
     </message>
     <message>
         <source>after %1</source>
@@ -4497,7 +4499,7 @@ Fiches : %3</translation>
     <message numerus="yes">
         <source>and %n more</source>
         <comment>and %n more</comment>
-        <translation><numerusform>et encore %n</numerusform><numerusform>et encore %n</numerusform></translation>
+        <translation><numerusform>et %n autre</numerusform><numerusform>et %n autres</numerusform></translation>
     </message>
     <message>
         <source>another program</source>
@@ -4505,7 +4507,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>another program has changes for it that are not in it yet; close it there first</source>
-        <translation>un autre programme a des modifications qui n'y sont pas encore ; fermez-la d'abord là-bas</translation>
+        <translation>un autre programme n'y a pas encore écrit ses modifications ; fermez-y d'abord le fichier</translation>
     </message>
     <message>
         <source>archive entry</source>
@@ -4517,7 +4519,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>below %1</source>
-        <translation>au-dessous de %1</translation>
+        <translation>inférieur à %1</translation>
     </message>
     <message>
         <source>between %1 and %2</source>
@@ -4573,15 +4575,15 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>has a "|", which divides the cells of a database</source>
-        <translation>a un « | », qui sépare les cellules d'une base de données</translation>
+        <translation>contient un « | », qui sépare les cellules d'une base de données</translation>
     </message>
     <message>
         <source>has a character that cannot be shown</source>
-        <translation>a un caractère qui ne peut pas être affiché</translation>
+        <translation>contient un caractère qui ne peut pas être affiché</translation>
     </message>
     <message>
         <source>has a time, which a date has no room for</source>
-        <translation>a une heure, pour laquelle une date n'a pas de place</translation>
+        <translation>comporte une heure, ce qu'une date n'admet pas</translation>
     </message>
     <message>
         <source>has more places than an amount of money</source>
@@ -4589,7 +4591,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>has more values than the %1 rows of the layout</source>
-        <translation>a plus de valeurs que les %1 lignes de la mise en page</translation>
+        <translation>a plus de valeurs que la mise en page n'a de lignes (%1)</translation>
     </message>
     <message>
         <source>has passed</source>
@@ -4661,7 +4663,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>is within days</source>
-        <translation>est dans un délai de jours</translation>
+        <translation>tombe d'ici (jours)</translation>
     </message>
     <message>
         <source>it has %1 bytes, which is too long for such a code</source>
@@ -4669,7 +4671,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>it has %1 characters, and at most %2 fit</source>
-        <translation>il y a %1 caractères, et %2 au plus tiennent</translation>
+        <translation>il y a %1 caractères, pour %2 au plus</translation>
     </message>
     <message numerus="yes">
         <source>it has %n digit, and should have %1, or %2 without the check digit</source>
@@ -4678,7 +4680,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>it has a document type, which no spreadsheet has</source>
-        <translation>il y a un type de document, qu'aucune feuille de calcul n'a</translation>
+        <translation>il y a un type de document, ce qu'aucun classeur n'a</translation>
     </message>
     <message>
         <source>it has more rows than the %1 records that a database holds</source>
@@ -4766,11 +4768,11 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>it holds a character that is none</source>
-        <translation>il contient un caractère qui n'en est pas un</translation>
+        <translation>il contient un caractère non valide</translation>
     </message>
     <message>
         <source>it holds characters that such a code cannot</source>
-        <translation>il contient des caractères impossibles dans un tel code</translation>
+        <translation>il contient des caractères qu'un tel code n'admet pas</translation>
     </message>
     <message>
         <source>it is larger than 256 MB</source>
@@ -4798,7 +4800,7 @@ Fiches : %3</translation>
     </message>
     <message>
         <source>it names a text that is not there</source>
-        <translation>il nomme un texte qui n'y est pas</translation>
+        <translation>il renvoie à un texte absent</translation>
     </message>
     <message>
         <source>it takes too long to work out</source>
