@@ -1,6 +1,7 @@
 #include "gui/frame/paneKeys.h"
 
 #include "gui/frame/noticeBar.h"
+#include "gui/layout/rulerView.h"
 
 #include <QDockWidget>
 #include <QKeyEvent>
@@ -64,6 +65,8 @@ std::vector<PaneKeys::Pane> PaneKeys::panes() const {
     if (tabs_.tabBar()->isEnabled()) all.push_back({tabs_.tabBar(), tabs_.tabBar()});
     QWidget* page = tabs_.currentWidget();
     addBars(*page, Qt::FindChildrenRecursively);
+    for (auto* ruler : page->findChildren<RulerView*>())
+        if (ruler->isVisible()) all.push_back({ruler, ruler});
     all.push_back({page, keyHolder_()});
     for (const auto* dock : window_.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
         if (dock->isVisible()) all.push_back({dock, dock->widget()->focusProxy()});
@@ -76,11 +79,13 @@ void PaneKeys::step(int direction) {
     const auto has = [focus](const Pane& pane) {
         return focus != nullptr && (pane.whole == focus || pane.whole->isAncestorOf(focus));
     };
-    // The bar of a page stands ahead of the page that it is in.
+    // The bar and the rulers of a page stand ahead of the page that they are in.
     const auto here = std::ranges::find_if(all, has);
     const auto count = static_cast<int>(all.size());
     const auto place = here == all.end() ? count - 1 : static_cast<int>(here - all.begin());
-    if (tabs_.currentWidget()->isAncestorOf(focus) && !isBar(focus)) before_ = focus;
+    if (tabs_.currentWidget()->isAncestorOf(focus) && !isBar(focus) &&
+        qobject_cast<RulerView*>(focus) == nullptr)
+        before_ = focus;
     takeKeys(*all[static_cast<std::size_t>((place + direction + count) % count)].entry, Qt::OtherFocusReason);
 }
 

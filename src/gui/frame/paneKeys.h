@@ -11,10 +11,10 @@
 namespace gui {
 
 // The main window by the keyboard alone. F6 goes on to its next part and Shift+F6 back: the toolbar, the
-// notice about the open file, the tabs, the bar of the page, the page, the docks. Ctrl+PageUp and
-// Ctrl+PageDown turn the tabs. In a bar the arrows go from button to button and Down opens a button's menu;
-// Space presses a button, Enter presses it and goes back to where the keys were, and so does Escape without
-// pressing.
+// notice about the open file, the tabs, the bar of the page, its rulers, the page, the docks.
+// Ctrl+PageUp and Ctrl+PageDown turn the tabs. In a bar the arrows go from button to button and Down opens a
+// button's menu; Space presses a button, Enter presses it and goes back to where the keys were, and so does
+// Escape without pressing.
 class PaneKeys : public QObject {
     Q_OBJECT
 

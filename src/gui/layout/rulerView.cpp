@@ -1,6 +1,7 @@
 #include "gui/layout/rulerView.h"
 #include "layout/layoutPage.h"
 
+#include "gui/layout/accessibleRuler.h"
 #include "gui/widgets/measures.h"
 #include "layout/dragging.h"
 #include "layout/rulers.h"
@@ -34,18 +35,16 @@ qreal markLength(int mark) {
 
 RulerView::RulerView(app::App& app, EventBoundary& events, Qt::Orientation orientation, QWidget* parent)
     : QWidget(parent), app_(app), events_(events), orientation_(orientation) {
+    tellRulerRole();
     setObjectName(isHorizontal() ? QStringLiteral("ruler1") : QStringLiteral("ruler2"));
     setToolTip(tr("Click to set a guide line; double-click its marker to remove it"));
     setAccessibleName(isHorizontal() ? tr("Horizontal ruler") : tr("Vertical ruler"));
 }
 
-const core::ControlArray<Guide>& RulerView::guides() const {
-    return isHorizontal() ? layout::layoutPage(app_).rulePic2 : layout::layoutPage(app_).rulePic;
-}
-
 void RulerView::show(qreal pixelsPerTwip, qreal pixelsPerTwipPlain) {
     pixelsPerTwip_ = pixelsPerTwip;
     plain_ = pixelsPerTwipPlain;
+    tellChosen();
     update();
 }
 
@@ -97,6 +96,7 @@ void RulerView::paintEvent(QPaintEvent*) {
         painter.fillRect(markerRect(guide),
                          isHorizontal() ? QColor(0x1e, 0x8e, 0x3e) : QColor(0x1f, 0x5f, 0xbf));
     });
+    if (hasFocus()) paintFocus(painter);
     const LayoutPage& page = layout::layoutPage(app_);
     const std::optional<float> tick = isHorizontal() ? page.ruler1.line : page.ruler2.line;
     if (!tick) return;

@@ -63,8 +63,11 @@ SheetView::SheetView(app::App& app, EventBoundary& events, QWidget* parent)
         widget->installEventFilter(this);
         if (auto* box = qobject_cast<TextBox*>(widget)) box->viewport()->installEventFilter(this);
     });
-    for (RulerView* ruler : {ruler1_, ruler2_})
+    for (RulerView* ruler : {ruler1_, ruler2_}) {
         ruler->sheetTwips = [this](QPoint global) { return sheetTwips(global); };
+        ruler->leave = [this] { takeFocus(); };
+        ruler->showPlace = [this, ruler](QRect place) { showOnRuler(*ruler, place); };
+    }
 }
 
 qreal SheetView::pixelsPerTwip() const {
@@ -162,11 +165,15 @@ void SheetView::takeFirstField() {
 void SheetView::bringIntoView(ObjectRef object) {
     const QWidget* widget = objects_->widgetOf(object);
     if (widget == nullptr) return;
-    constexpr int margin = 8; // pixels of the surroundings
     QRect place = widget->geometry();
     const auto* box = qobject_cast<const TextBox*>(widget);
     if (box != nullptr && box->hasFocus() && place.height() > height())
         place = box->cursorRect().translated(place.topLeft());
+    bringIntoView(place);
+}
+
+void SheetView::bringIntoView(QRect place) {
+    constexpr int margin = 8; // pixels of the surroundings
     place = place.translated(paper_->pos()).adjusted(-margin, -margin, margin, margin);
     QRect room = rect();
     if (corner_->isVisible()) room.setTopLeft(corner_->geometry().bottomRight());
@@ -180,6 +187,14 @@ void SheetView::bringIntoView(ObjectRef object) {
     if (x == 0 && y == 0) return;
     const auto twips = [this](int pixels) { return static_cast<int>(std::lround(pixels / pixelsPerTwip())); };
     emit scrolled(twips(x), twips(y));
+}
+
+// Along the ruler alone, which goes with the sheet.
+void SheetView::showOnRuler(const RulerView& ruler, QRect place) {
+    const QPoint onSheet = place.center() + ruler.pos() - paper_->pos();
+    const QPoint middle = paper_->mapFrom(this, rect().center());
+    bringIntoView(QRect(&ruler == ruler1_ ? QPoint(onSheet.x(), middle.y()) : QPoint(middle.x(), onSheet.y()),
+                        QSize(1, 1)));
 }
 
 void SheetView::resizeEvent(QResizeEvent*) {

@@ -65,6 +65,8 @@ private:
     void placeMark();
     // Scrolls as far as it takes to show the object, or the part of a high box that is typed in.
     void bringIntoView(core::ObjectRef object);
+    void showOnRuler(const RulerView& ruler, QRect place);
+    void bringIntoView(QRect place); // on the sheet's widget
 
     app::App& app_;
     EventBoundary& events_;

@@ -25,6 +25,7 @@ public:
     bool isOver(int section) const { return section == section_ && !rows_->isHidden(); }
     // How many pixels of such a place it hides.
     int hidden(const QRect& cell) const { return rows_->isHidden() ? 0 : rows_->width() - cell.left(); }
+    int width() const { return rows_->isHidden() ? 0 : rows_->width(); }
     QHeaderView* header() const { return header_; }
 
 private:

@@ -28,7 +28,8 @@
 namespace gui {
 
 RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent)
-    : QTreeView(parent), app_(app), list_(list), events_(events), model_(new RecordsModel(list, this)) {
+    : QTreeView(parent), app_(app), list_(list), events_(events), model_(new RecordsModel(list, this)),
+      header_(new RecordsHeader(this)) {
     setObjectName(toQt(list.Name));
     setItemsExpandable(false);
     setEditTriggers(NoEditTriggers);
@@ -39,7 +40,7 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
     };
     setModel(model_);
 
-    auto* columns = new RecordsHeader(this);
+    RecordsHeader* columns = header_;
     setHeader(columns);
     // A tree takes these from the header that it is given.
     columns->setFirstSectionMovable(true);
@@ -53,6 +54,10 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
     for (const QHeaderView* heads : {static_cast<QHeaderView*>(columns), frozen_->header()})
         connect(heads, &QWidget::customContextMenuRequested, this,
                 [this, heads](QPoint place) { showHeaderMenu(*heads, place); });
+    connect(columns, &RecordsHeader::menuWanted, this,
+            [this](QPoint place) { showHeaderMenu(*header_, place); });
+    connect(columns, &RecordsHeader::left, this, [this] { setFocus(Qt::OtherFocusReason); });
+    connect(columns, &RecordsHeader::chosen, this, &RecordsView::showColumn);
     connect(columns, &QHeaderView::sectionMoved, this,
             [this](int section, int, int newVisual) { columnMoved(section, newVisual); });
     constexpr int sizedFor = 300; // milliseconds without another width: it is a step to undo
@@ -185,8 +190,7 @@ void RecordsView::showHeaderMenu(const QHeaderView& heads, QPoint place) {
                 const std::string name = list_.columns.at(RecordsModel::columnIndex(section)).Text;
                 events_.run([&] { summary::showStatisticsOf(app_, name); });
             });
-    connect(menu.addAction(tr("Size To &Content")), &QAction::triggered, this,
-            [this, section] { resizeColumnToContents(section); });
+    addColumnActions(menu, section);
     QAction* freeze = menu.addAction(tr("&Freeze First Column"));
     freeze->setCheckable(true);
     freeze->setChecked(app::looks(app_).bFreezeColumn);
@@ -204,6 +208,8 @@ void RecordsView::addSortMenu(QMenu& menu) {
     QMenu* columns = menu.addMenu(tr("Sort &By"));
     columns->setObjectName(QStringLiteral("sortMenu"));
     columns->setEnabled(list_.count() >= 2);
+    connect(menu.addAction(tr("Column &Headings\tCtrl+Shift+F10")), &QAction::triggered, this,
+            &RecordsView::takeHeaderKeys);
     auto* one = new QActionGroup(columns);
     for (const int section : sectionOrder()) {
         const QString name = model_->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
@@ -314,6 +320,8 @@ void RecordsView::keyPressEvent(QKeyEvent* event) {
     const bool isMenuKey = event->key() == Qt::Key_Menu ||
                            (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
     if (isMenuKey) return wantMenuAtRow();
+    if (event->key() == Qt::Key_F10 && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier))
+        return takeHeaderKeys();
     // By whatever keys the desktop has for them; the list's own copy would take one cell alone.
     if (event->matches(QKeySequence::Copy)) {
         events_.run([&] { shell::runCommand(app_, "mnuCopy"); });

@@ -26,7 +26,7 @@ public:
     RecordsView(app::App& app, core::RecordsList& list, EventBoundary& events, QWidget* parent = nullptr);
 
     void refresh(app::ListScroll scroll);
-    // A submenu with the columns, for whoever has no mouse to click their headers.
+    // For whoever has no mouse to work the headers: a submenu of the columns, and the way to the headers.
     void addSortMenu(QMenu& menu);
     void keyboardSearch(const QString& search) override;
     QModelIndex indexAt(const QPoint& place) const override;
@@ -70,6 +70,9 @@ private:
     void sortBy(int section, shell::Order order);
     void noteSort(int section, std::uint64_t before);
     void showHeaderMenu(const QHeaderView& heads, QPoint place);
+    void addColumnActions(QMenu& menu, int section);
+    void takeHeaderKeys();
+    void showColumn(int section);
     void wantMenu(QPoint place);
     void wantMenuAtRow();
     void clickWithoutCtrl();
@@ -84,6 +87,7 @@ private:
     core::RecordsList& list_;
     EventBoundary& events_;
     RecordsModel* model_;
+    RecordsHeader* header_;
     FrozenColumn* frozen_ = nullptr; // made when the list has its look
     int zoom_ = 100;                 // per cent, that is shown
     bool showing_ = false;           // the view follows the state, not the user

@@ -120,4 +120,44 @@ void RecordsView::showSortArrow() {
                                list_.SortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
+// --- without the mouse ---
+
+// The same signals as of a drag tell what it does.
+void RecordsView::addColumnActions(QMenu& menu, int section) {
+    const auto add = [&](const QString& text, bool isPossible, auto&& act) {
+        QAction* action = menu.addAction(text);
+        action->setEnabled(isPossible);
+        connect(action, &QAction::triggered, this, act);
+    };
+    add(tr("Move &Left\tCtrl+Left"), header_->canMove(section, -1),
+        [this, section] { header_->moveColumn(section, -1); });
+    add(tr("Move &Right\tCtrl+Right"), header_->canMove(section, 1),
+        [this, section] { header_->moveColumn(section, 1); });
+    const QString narrower = tr("&Narrower\tCtrl+Shift+Left"), wider = tr("&Wider\tCtrl+Shift+Right");
+    add(wider, true, [this, section] { header_->sizeColumn(section, 1); });
+    add(narrower, header_->sectionSize(section) > header_->minimumSectionSize(),
+        [this, section] { header_->sizeColumn(section, -1); });
+    add(tr("Size To &Content"), true, [this, section] { resizeColumnToContents(section); });
+}
+
+// What was clicked last, or sorted, is what a user has in mind.
+void RecordsView::takeHeaderKeys() {
+    const std::vector<int> order = sectionOrder();
+    if (order.empty()) return;
+    const bool isClicked = std::ranges::find(order, currentSection_) != order.end() && currentSection_ > 0;
+    header_->takeKeys(isClicked ? currentSection_ : isSorted() ? sort_->section : order.front());
+}
+
+void RecordsView::showColumn(int section) {
+    QScrollBar& bar = *horizontalScrollBar();
+    if (frozen_->isOver(section)) return bar.setValue(0); // its heading covers the one that is chosen
+    const int left = header_->sectionViewportPosition(section), width = header_->sectionSize(section);
+    const int first = frozen_->width();
+    const int last = viewport()->width();
+    if (left < first || width > last - first)
+        bar.setValue(bar.value() + left - first);
+    else if (left + width > last)
+        bar.setValue(bar.value() + left + width - last);
+}
+
 } // namespace gui
