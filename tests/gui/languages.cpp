@@ -258,7 +258,8 @@ private slots:
             complaints.unspoken(dialog);
             complaints.faint(dialog);
             complaints.misplaced(dialog);
-            complaints.unreached(dialog);
+            if (language.size() != 2)
+                complaints.unreached(dialog); // the slowest, and the same in each language
             const int title = dialog.fontMetrics().horizontalAdvance(dialog.windowTitle());
             complaints.expect(title > 0 && dialog.width() > title, "narrower than its title", dialog);
             const int room = dialog.screen()->availableSize().height();

@@ -30,8 +30,12 @@ public:
             if (old != before.end() && old->second == bytes) continue;
             const bool isCopy = old == before.end() && model != before.end() && isArchive(bytes);
             const auto from = isCopy ? model : old;
-            if (old != model || old == before.end()) all += "@ " + name + "\n";
-            all += difference(from == before.end() ? Lines{} : linesOf(from->second), linesOf(bytes));
+            const std::string lines =
+                difference(from == before.end() ? Lines{} : linesOf(from->second), linesOf(bytes));
+            // An archive that says the same may bear another time.
+            const bool isSame = old != before.end() && isArchive(bytes) && lines.empty();
+            if ((old != model || old == before.end()) && !isSame) all += "@ " + name + "\n";
+            all += lines;
         }
         return all;
     }
