@@ -401,6 +401,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>%1 wurde erstellt, aber es gibt kein Programm, das die Datei öffnet.</translation>
     </message>
     <message>
+        <source>%1 was made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1's value has been set to %2</source>
         <translation>Der Wert von %1 wurde auf %2 gesetzt</translation>
     </message>
@@ -489,6 +493,11 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <source>%n of the records cannot be calculated: %1</source>
         <comment>%n of the records cannot be calculated. The first one: %1</comment>
         <translation><numerusform>%n der Datensätze kann nicht berechnet werden: %1</numerusform><numerusform>%n der Datensätze können nicht berechnet werden. Der erste: %1</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixel wide</source>
+        <comment>%n pixels wide</comment>
+        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record</source>
@@ -903,6 +912,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>&amp;Name:</translation>
     </message>
     <message>
+        <source>&amp;Narrower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>&amp;Neu</translation>
     </message>
@@ -1143,6 +1156,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>&amp;Verbreitern</translation>
     </message>
     <message>
+        <source>&amp;Wider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Width:</source>
         <translation>&amp;Breite:</translation>
     </message>
@@ -1339,6 +1356,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>Add Entry Box</source>
         <translation>Eingabefeld hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>
@@ -1722,6 +1743,14 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>Column %1</source>
         <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>Column %1, %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column &amp;Headings</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Column Name</source>
@@ -2241,10 +2270,6 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Feld bereits hinzugefügt.</translation>
     </message>
     <message>
-        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
-        <translation>In der Leiste oben setzt „Eingabefeld hinzufügen“ ein Feld für eine Spalte und „Beschriftung hinzufügen“ einen Text daneben.</translation>
-    </message>
-    <message>
         <source>Fig&amp;ures</source>
         <translation>Kenn&amp;zahlen</translation>
     </message>
@@ -2391,6 +2416,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>Groups With Subtotals</source>
         <translation>Gruppen mit Zwischensummen</translation>
+    </message>
+    <message>
+        <source>Guide at %1 inches</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Height:</source>
@@ -2708,6 +2737,14 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Häufigste Werte</translation>
     </message>
     <message>
+        <source>Move &amp;Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move &amp;Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Move Column</source>
         <translation>Spalte verschieben</translation>
     </message>
@@ -2814,6 +2851,14 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>No groups</source>
         <translation>Keine Gruppen</translation>
+    </message>
+    <message>
+        <source>No guide is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No guides; Insert makes one</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>No record was found</source>

@@ -392,6 +392,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1 was made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1's value has been set to %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -479,6 +483,11 @@ Free software under the MIT licence. It comes with no warranty.</source>
     <message numerus="yes">
         <source>%n of the records cannot be calculated: %1</source>
         <comment>%n of the records cannot be calculated. The first one: %1</comment>
+        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixel wide</source>
+        <comment>%n pixels wide</comment>
         <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
     </message>
     <message numerus="yes">
@@ -894,6 +903,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Narrower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1134,6 +1147,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Wider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Width:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1328,6 +1345,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Add Entry Box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1711,6 +1732,14 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Column %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column %1, %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column &amp;Headings</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2231,10 +2260,6 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Fig&amp;ures</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2380,6 +2405,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Groups With Subtotals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guide at %1 inches</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2697,6 +2726,14 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Move &amp;Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move &amp;Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Move Column</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2802,6 +2839,14 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>No groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No guide is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No guides; Insert makes one</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

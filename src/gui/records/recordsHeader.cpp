@@ -1,5 +1,8 @@
 #include "gui/records/recordsHeader.h"
 
+#include "core/translate.h"
+#include "gui/widgets/qtText.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -84,7 +87,7 @@ void RecordsHeader::tellChosen() {
     if (chosen_ >= count()) return;
     const QString name = model()->headerData(chosen_, Qt::Horizontal, Qt::DisplayRole).toString();
     setAccessibleName(tr("Column %1, %2 of %3").arg(name).arg(visualIndex(chosen_) + 1).arg(count()));
-    setAccessibleDescription(tr("%n pixel(s) wide", nullptr, sectionSize(chosen_)));
+    setAccessibleDescription(toQt(core::tr("%n pixel wide", "%n pixels wide", sectionSize(chosen_))));
 }
 
 bool RecordsHeader::arrowKey(const QKeyEvent& key) {
