@@ -495,6 +495,11 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation><numerusform>%n der Datensätze kann nicht berechnet werden: %1</numerusform><numerusform>%n der Datensätze können nicht berechnet werden. Der erste: %1</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n pixel wide</source>
+        <comment>%n pixels wide</comment>
+        <translation><numerusform>%n Pixel breit</numerusform><numerusform>%n Pixel breit</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n record</source>
         <comment>%n records</comment>
         <translation><numerusform>%n Datensatz</numerusform><numerusform>%n Datensätze</numerusform></translation>
@@ -907,6 +912,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>&amp;Name:</translation>
     </message>
     <message>
+        <source>&amp;Narrower</source>
+        <translation>&amp;Schmaler</translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>&amp;Neu</translation>
     </message>
@@ -1145,6 +1154,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>&amp;Widen</source>
         <translation>&amp;Verbreitern</translation>
+    </message>
+    <message>
+        <source>&amp;Wider</source>
+        <translation>Br&amp;eiter</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
@@ -1730,6 +1743,14 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>Column %1</source>
         <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>Column %1, %2 of %3</source>
+        <translation>Spalte %1, %2 von %3</translation>
+    </message>
+    <message>
+        <source>Column &amp;Headings</source>
+        <translation>Spalten&amp;köpfe</translation>
     </message>
     <message>
         <source>Column Name</source>
@@ -2397,6 +2418,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Gruppen mit Zwischensummen</translation>
     </message>
     <message>
+        <source>Guide at %1 inches</source>
+        <translation>Hilfslinie bei %1 Zoll</translation>
+    </message>
+    <message>
         <source>Height:</source>
         <translation>Höhe:</translation>
     </message>
@@ -2712,6 +2737,14 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Häufigste Werte</translation>
     </message>
     <message>
+        <source>Move &amp;Left</source>
+        <translation>Nach &amp;links verschieben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Right</source>
+        <translation>Nach re&amp;chts verschieben</translation>
+    </message>
+    <message>
         <source>Move Column</source>
         <translation>Spalte verschieben</translation>
     </message>
@@ -2818,6 +2851,14 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>No groups</source>
         <translation>Keine Gruppen</translation>
+    </message>
+    <message>
+        <source>No guide is chosen</source>
+        <translation>Keine Hilfslinie gewählt</translation>
+    </message>
+    <message>
+        <source>No guides; Insert makes one</source>
+        <translation>Keine Hilfslinien; Einfg setzt eine</translation>
     </message>
     <message>
         <source>No record was found</source>

@@ -495,6 +495,11 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation><numerusform>%n de los registros no se puede calcular: %1</numerusform><numerusform>%n de los registros no se pueden calcular. El primero: %1</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n pixel wide</source>
+        <comment>%n pixels wide</comment>
+        <translation><numerusform>%n píxel de ancho</numerusform><numerusform>%n píxeles de ancho</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n record</source>
         <comment>%n records</comment>
         <translation><numerusform>%n registro</numerusform><numerusform>%n registros</numerusform></translation>
@@ -907,6 +912,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>&amp;Nombre:</translation>
     </message>
     <message>
+        <source>&amp;Narrower</source>
+        <translation>Más estrec&amp;ha</translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>&amp;Nuevo</translation>
     </message>
@@ -1145,6 +1154,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>&amp;Widen</source>
         <translation>E&amp;nsanchar</translation>
+    </message>
+    <message>
+        <source>&amp;Wider</source>
+        <translation>Más a&amp;ncha</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
@@ -1730,6 +1743,14 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>Column %1</source>
         <translation>Columna %1</translation>
+    </message>
+    <message>
+        <source>Column %1, %2 of %3</source>
+        <translation>Columna %1, %2 de %3</translation>
+    </message>
+    <message>
+        <source>Column &amp;Headings</source>
+        <translation>&amp;Encabezados de columna</translation>
     </message>
     <message>
         <source>Column Name</source>
@@ -2397,6 +2418,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Grupos con subtotales</translation>
     </message>
     <message>
+        <source>Guide at %1 inches</source>
+        <translation>Guía a %1 pulgadas</translation>
+    </message>
+    <message>
         <source>Height:</source>
         <translation>Alto:</translation>
     </message>
@@ -2712,6 +2737,14 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Valores más frecuentes</translation>
     </message>
     <message>
+        <source>Move &amp;Left</source>
+        <translation>Mover a la i&amp;zquierda</translation>
+    </message>
+    <message>
+        <source>Move &amp;Right</source>
+        <translation>Mover a la de&amp;recha</translation>
+    </message>
+    <message>
         <source>Move Column</source>
         <translation>Mover columna</translation>
     </message>
@@ -2818,6 +2851,14 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>No groups</source>
         <translation>Sin grupos</translation>
+    </message>
+    <message>
+        <source>No guide is chosen</source>
+        <translation>Ninguna guía elegida</translation>
+    </message>
+    <message>
+        <source>No guides; Insert makes one</source>
+        <translation>No hay guías; Insertar coloca una</translation>
     </message>
     <message>
         <source>No record was found</source>

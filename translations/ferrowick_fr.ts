@@ -495,6 +495,11 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation><numerusform>%n des fiches ne peut pas être calculée : %1</numerusform><numerusform>%n des fiches ne peuvent pas être calculées. La première : %1</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n pixel wide</source>
+        <comment>%n pixels wide</comment>
+        <translation><numerusform>%n pixel de large</numerusform><numerusform>%n pixels de large</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n record</source>
         <comment>%n records</comment>
         <translation><numerusform>%n fiche</numerusform><numerusform>%n fiches</numerusform></translation>
@@ -907,6 +912,10 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation>&amp;Nom :</translation>
     </message>
     <message>
+        <source>&amp;Narrower</source>
+        <translation>Plus étr&amp;oite</translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>&amp;Nouveau</translation>
     </message>
@@ -1145,6 +1154,10 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     <message>
         <source>&amp;Widen</source>
         <translation>É&amp;largir</translation>
+    </message>
+    <message>
+        <source>&amp;Wider</source>
+        <translation>Plus &amp;large</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
@@ -1730,6 +1743,14 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     <message>
         <source>Column %1</source>
         <translation>Colonne %1</translation>
+    </message>
+    <message>
+        <source>Column %1, %2 of %3</source>
+        <translation>Colonne %1, %2 sur %3</translation>
+    </message>
+    <message>
+        <source>Column &amp;Headings</source>
+        <translation>En-&amp;têtes des colonnes</translation>
     </message>
     <message>
         <source>Column Name</source>
@@ -2397,6 +2418,10 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation>Groupes avec sous-totaux</translation>
     </message>
     <message>
+        <source>Guide at %1 inches</source>
+        <translation>Repère à %1 pouces</translation>
+    </message>
+    <message>
         <source>Height:</source>
         <translation>Hauteur :</translation>
     </message>
@@ -2712,6 +2737,14 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation>Valeurs les plus fréquentes</translation>
     </message>
     <message>
+        <source>Move &amp;Left</source>
+        <translation>Déplacer à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Move &amp;Right</source>
+        <translation>Déplacer à &amp;droite</translation>
+    </message>
+    <message>
         <source>Move Column</source>
         <translation>Déplacer la colonne</translation>
     </message>
@@ -2818,6 +2851,14 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
     <message>
         <source>No groups</source>
         <translation>Pas de groupes</translation>
+    </message>
+    <message>
+        <source>No guide is chosen</source>
+        <translation>Aucun repère choisi</translation>
+    </message>
+    <message>
+        <source>No guides; Insert makes one</source>
+        <translation>Aucun repère ; Inser en place un</translation>
     </message>
     <message>
         <source>No record was found</source>

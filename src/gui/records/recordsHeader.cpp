@@ -1,5 +1,8 @@
 #include "gui/records/recordsHeader.h"
 
+#include "core/translate.h"
+#include "gui/widgets/qtText.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -84,7 +87,7 @@ void RecordsHeader::tellChosen() {
     if (chosen_ >= count()) return;
     const QString name = model()->headerData(chosen_, Qt::Horizontal, Qt::DisplayRole).toString();
     setAccessibleName(tr("Column %1, %2 of %3").arg(name).arg(visualIndex(chosen_) + 1).arg(count()));
-    setAccessibleDescription(tr("%n pixel(s) wide", nullptr, sectionSize(chosen_)));
+    setAccessibleDescription(toQt(core::tr("%n pixel wide", "%n pixels wide", sectionSize(chosen_))));
 }
 
 bool RecordsHeader::arrowKey(const QKeyEvent& key) {
@@ -93,10 +96,9 @@ bool RecordsHeader::arrowKey(const QKeyEvent& key) {
     const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
     if (modifiers == Qt::NoModifier)
         chooseAt(visualIndex(chosen_) + visualStep(toRight));
-    else if (modifiers == Qt::ControlModifier && moveColumn(chosen_, toRight))
-        choose(chosen_);
-    else if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier) &&
-             sizeColumn(chosen_, visualStep(toRight)))
+    else if (modifiers == Qt::ControlModifier ? moveColumn(chosen_, toRight)
+                                              : modifiers == (Qt::ControlModifier | Qt::ShiftModifier) &&
+                                                    sizeColumn(chosen_, visualStep(toRight)))
         choose(chosen_);
     return true;
 }

@@ -208,8 +208,10 @@ void RecordsView::addSortMenu(QMenu& menu) {
     QMenu* columns = menu.addMenu(tr("Sort &By"));
     columns->setObjectName(QStringLiteral("sortMenu"));
     columns->setEnabled(list_.count() >= 2);
-    connect(menu.addAction(tr("Column &Headings\tCtrl+Shift+F10")), &QAction::triggered, this,
-            &RecordsView::takeHeaderKeys);
+    connect(
+        menu.addAction(tr("Column &Headings") + u'\t' +
+                       QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F10).toString(QKeySequence::NativeText)),
+        &QAction::triggered, this, &RecordsView::takeHeaderKeys);
     auto* one = new QActionGroup(columns);
     for (const int section : sectionOrder()) {
         const QString name = model_->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();

@@ -122,22 +122,25 @@ void RecordsView::showSortArrow() {
 
 // --- without the mouse ---
 
-// The same signals as of a drag tell what it does.
+// The same signals as of a drag tell what it does. The keys are those of the header, which has them.
 void RecordsView::addColumnActions(QMenu& menu, int section) {
-    const auto add = [&](const QString& text, bool isPossible, auto&& act) {
-        QAction* action = menu.addAction(text);
+    const auto add = [&](const QString& text, QKeySequence keys, bool isPossible, auto&& act) {
+        QAction* action = menu.addAction(text + u'\t' + keys.toString(QKeySequence::NativeText));
         action->setEnabled(isPossible);
         connect(action, &QAction::triggered, this, act);
     };
-    add(tr("Move &Left\tCtrl+Left"), header_->canMove(section, -1),
+    const Qt::Key onward = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
+    const Qt::Key back = isRightToLeft() ? Qt::Key_Right : Qt::Key_Left;
+    add(tr("Move &Left"), Qt::CTRL | Qt::Key_Left, header_->canMove(section, -1),
         [this, section] { header_->moveColumn(section, -1); });
-    add(tr("Move &Right\tCtrl+Right"), header_->canMove(section, 1),
+    add(tr("Move &Right"), Qt::CTRL | Qt::Key_Right, header_->canMove(section, 1),
         [this, section] { header_->moveColumn(section, 1); });
-    const QString narrower = tr("&Narrower\tCtrl+Shift+Left"), wider = tr("&Wider\tCtrl+Shift+Right");
-    add(wider, true, [this, section] { header_->sizeColumn(section, 1); });
-    add(narrower, header_->sectionSize(section) > header_->minimumSectionSize(),
+    add(tr("&Wider"), Qt::CTRL | Qt::SHIFT | onward, true,
+        [this, section] { header_->sizeColumn(section, 1); });
+    add(tr("&Narrower"), Qt::CTRL | Qt::SHIFT | back,
+        header_->sectionSize(section) > header_->minimumSectionSize(),
         [this, section] { header_->sizeColumn(section, -1); });
-    add(tr("Size To &Content"), true, [this, section] { resizeColumnToContents(section); });
+    add(tr("Size To &Content"), {}, true, [this, section] { resizeColumnToContents(section); });
 }
 
 // What was clicked last, or sorted, is what a user has in mind.
