@@ -6,6 +6,7 @@
 
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -28,6 +29,18 @@ QLabel* captionOf(const QString& caption, QWidget* buddy) {
     auto* label = new QLabel(caption);
     label->setBuddy(buddy);
     return label;
+}
+
+// A page that has less room than its parts need is scrolled, with large letters or on a small screen.
+QScrollArea* scrolled(QWidget* page) {
+    auto* area = new QScrollArea;
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    page->setAutoFillBackground(false); // nor the viewport: it looks as the rest of the dialog does
+    area->viewport()->setAutoFillBackground(false);
+    return area;
 }
 
 QString millimetres(double twips) {
@@ -57,7 +70,7 @@ labelFrmView::labelFrmView(app::App& app, EventBoundary& events, QWidget* parent
     stepLbl_->setFont(bold);
     for (QWidget* page : {makeSheetPage(), makeTextPage(), makePrintPage()}) {
         page->layout()->setContentsMargins(0, 0, 0, 0);
-        pages_->addWidget(page);
+        pages_->addWidget(scrolled(page));
     }
     auto* column = new QVBoxLayout(this);
     column->addWidget(stepLbl_);
