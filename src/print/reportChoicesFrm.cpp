@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace print {
 
@@ -22,6 +23,10 @@ constexpr std::array<const char*, 4> dateSteps = {core::marked("year"), core::ma
 
 reportChoicesFrm::reportChoicesFrm(app::App& app) : app_(app) {
     const ReportChoices choices = reportChoices(app);
+    if (auto toCome = std::exchange(app.rooms.of<ColumnsToCome>().columns, std::nullopt))
+        printed_ = *std::move(toCome);
+    else
+        for (const auto& printed : app.document.printedCols) printed_.push_back(printed.item);
     headsChk = choices.heads;
     pagesChk = choices.pageNumbers;
     dateChk = choices.date;
@@ -84,8 +89,8 @@ void reportChoicesFrm::takeNote() {
         return;
     }
     const core::Document& document = app_.document;
-    const bool isTotaled = std::ranges::any_of(document.printedCols, [&](const auto& printed) {
-        return core::isTotaledColumn(document, printed.item) && document.isNumericColumn(printed.item);
+    const bool isTotaled = std::ranges::any_of(printed_, [&](const std::string& name) {
+        return core::isTotaledColumn(document, name) && document.isNumericColumn(name);
     });
     if ((totalsChk || groupIndex > 0) && !isTotaled)
         noteLbl = core::tr(

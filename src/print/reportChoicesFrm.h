@@ -9,6 +9,11 @@
 
 namespace print {
 
+// The columns that the page setup on view would print, where it has not been applied yet.
+struct ColumnsToCome {
+    std::optional<std::vector<std::string>> columns;
+};
+
 // "Report Choices": what each sheet of the open file's report has beside its records. Kept for the file in
 // the user's settings; the document is not changed.
 class reportChoicesFrm {
@@ -41,7 +46,8 @@ private:
     const core::Column* groupColumn() const;
 
     app::App& app_;
-    std::vector<std::string> steps_; // what the settings call those of stepList; the first is empty
+    std::vector<std::string> printed_; // columns
+    std::vector<std::string> steps_;   // what the settings call those of stepList; the first is empty
 };
 
 } // namespace print

@@ -138,13 +138,6 @@ void keepOnPaper(Stocks& stocks, const std::string& paper) {
     std::erase_if(stocks, [&](const LabelStock* stock) { return !core::equalsNoCase(stock->paper, paper); });
 }
 
-// For stocks of which none is on the paper.
-std::string notOnPaper(const std::string& paper, const Stocks& stocks) {
-    std::string told = "no such stock on paper of the size ";
-    told.append(paper);
-    return stocks.size() == 1 ? told.append(": it is on ").append(stocks.front()->paper) : told;
-}
-
 // The one stock that is called so.
 LabelStock stockNamed(const std::string& name, const std::string& paper) {
     std::string told = "--stock ";
@@ -152,15 +145,17 @@ LabelStock stockNamed(const std::string& name, const std::string& paper) {
     const std::vector<LabelStock> all = knownStocks();
     Stocks found = labels::findLabelStocks(all, name);
     if (found.empty()) throw Failure(told, "no such stock; fwk labels TEXT lists them");
-    const Stocks onAny = found;
-    keepOnPaper(found, paper);
-    if (found.empty()) throw Failure(told, notOnPaper(paper, onAny));
     Stocks exact;
     for (const LabelStock* stock : found)
         if (labels::isCalled(*stock, name)) exact.push_back(stock);
-    if (exact.size() == 1) return *exact.front();
+    if (!exact.empty()) found = exact;
+    const std::string& itsPaper = found.front()->paper;
+    keepOnPaper(found, paper);
     if (found.size() == 1) return *found.front();
-    std::string several = std::to_string(exact.empty() ? found.size() : exact.size());
+    std::string several = std::to_string(found.size());
+    if (found.empty())
+        throw Failure(told,
+                      several.assign("it is not on ").append(paper).append(", but on ").append(itsPaper));
     throw Failure(told, several.append(" stocks are called so; give maker and number"));
 }
 

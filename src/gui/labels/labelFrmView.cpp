@@ -1,6 +1,7 @@
 #include "gui/labels/labelFrmView.h"
 
 #include "core/translate.h"
+#include "gui/dialogs/dialogFit.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
@@ -68,16 +69,19 @@ labelFrmView::labelFrmView(app::App& app, EventBoundary& events, QWidget* parent
     QFont bold = font();
     bold.setBold(true);
     stepLbl_->setFont(bold);
+    QSize needed;
     for (QWidget* page : {makeSheetPage(), makeTextPage(), makePrintPage()}) {
         page->layout()->setContentsMargins(0, 0, 0, 0);
         pages_->addWidget(scrolled(page));
+        needed = needed.expandedTo(page->minimumSizeHint());
     }
     auto* column = new QVBoxLayout(this);
     column->addWidget(stepLbl_);
     column->addWidget(pages_, 1);
     column->addWidget(faultLbl_);
     column->addLayout(makeButtons());
-    resize(em() * 56, em() * 36);
+    const QSize around(em() * 3, em() * 9); // the pages: margins, heading, fault and buttons
+    resize((needed + around).expandedTo({em() * 56, em() * 36}).boundedTo(roomOnScreen(*this)));
 }
 
 QLayout* labelFrmView::makeButtons() {
