@@ -5,6 +5,7 @@
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QScrollArea>
@@ -41,6 +42,11 @@ QScrollArea* scrolled(QWidget* page) {
     area->setFocusPolicy(Qt::NoFocus);
     page->setAutoFillBackground(false); // nor the viewport: it looks as the rest of the dialog does
     area->viewport()->setAutoFillBackground(false);
+    // The Tab key sees to it by itself; mnemonics do not.
+    QObject::connect(qApp, &QApplication::focusChanged, area, [area, page](QWidget*, QWidget* now) {
+        if (now != nullptr && page->isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton)
+            area->ensureWidgetVisible(now);
+    });
     return area;
 }
 
@@ -146,7 +152,7 @@ QWidget* labelFrmView::makeSheetPage() {
     right->addWidget(sheetLbl_);
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
-    row->addLayout(left, 3);
+    row->addLayout(left, 4);
     row->addLayout(right, 1);
     return page;
 }
