@@ -8,12 +8,14 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace print {
 
 namespace {
 
 // As the settings have them.
+constexpr std::array<const char*, 4> numberSteps = {"1", "10", "100", "1000"};
 constexpr std::array<const char*, 4> dateSteps = {core::marked("year"), core::marked("quarter"),
                                                   core::marked("month"), core::marked("day")};
 
@@ -21,6 +23,10 @@ constexpr std::array<const char*, 4> dateSteps = {core::marked("year"), core::ma
 
 reportChoicesFrm::reportChoicesFrm(app::App& app) : app_(app) {
     const ReportChoices choices = reportChoices(app);
+    if (auto toCome = std::exchange(app.rooms.of<ColumnsToCome>().columns, std::nullopt))
+        printed_ = *std::move(toCome);
+    else
+        for (const auto& printed : app.document.printedCols) printed_.push_back(printed.item);
     headsChk = choices.heads;
     pagesChk = choices.pageNumbers;
     dateChk = choices.date;
@@ -37,33 +43,54 @@ reportChoicesFrm::reportChoicesFrm(app::App& app) : app_(app) {
     takeNote();
 }
 
-// Steps of numbers come from the command line; here they can only be kept.
+const core::Column* reportChoicesFrm::groupColumn() const {
+    if (groupIndex == 0) return nullptr;
+    return app_.document.LV.columns.find(groupList[static_cast<std::size_t>(groupIndex)]);
+}
+
 void reportChoicesFrm::takeSteps(const std::string& chosen) {
     stepList.clear();
     steps_.clear();
+    stepTxt.clear();
     stepIndex = 0;
-    if (groupIndex == 0) return;
-    const core::Column* column =
-        app_.document.LV.columns.find(groupList[static_cast<std::size_t>(groupIndex)]);
+    const core::Column* column = groupColumn();
     const auto& isStep = reportFigures(app_).isStep;
     if (column == nullptr || !isStep) return;
-    for (const std::string_view step : dateSteps)
-        if (isStep(step, column->type())) steps_.emplace_back(step);
-    const bool isKnown = std::ranges::find(steps_, chosen) != steps_.end();
-    if (!chosen.empty() && !isKnown && isStep(chosen, column->type())) steps_.push_back(chosen);
+    for (const auto* usual : {&dateSteps, &numberSteps})
+        for (const std::string_view step : *usual)
+            if (isStep(step, column->type())) steps_.emplace_back(step);
+    bFreeSteps = column->isNumeric() && !steps_.empty();
     if (steps_.empty()) return;
     steps_.emplace(steps_.begin());
     for (const std::string& step : steps_)
         stepList.push_back(step.empty() ? core::tr("each value") : core::tr(step));
-    stepIndex = static_cast<int>(std::ranges::find(steps_, chosen) - steps_.begin());
-    if (stepIndex == static_cast<int>(steps_.size())) stepIndex = 0;
+    stepTxt = stepList.front();
+    const auto found = std::ranges::find(steps_, chosen);
+    if (found != steps_.end())
+        stepList_Click(static_cast<int>(found - steps_.begin()));
+    else if (bFreeSteps && isStep(chosen, column->type()))
+        stepTxt_Change(chosen);
+}
+
+std::optional<std::string> reportChoicesFrm::step() const {
+    if (stepList.empty()) return std::string();
+    if (stepIndex >= 0) return steps_[static_cast<std::size_t>(stepIndex)];
+    const core::Column* column = groupColumn();
+    std::string typed(core::trim(stepTxt));
+    if (column == nullptr || !reportFigures(app_).isStep(typed, column->type())) return std::nullopt;
+    return typed;
 }
 
 void reportChoicesFrm::takeNote() {
     noteLbl.clear();
+    OKButtonEnabled = step().has_value();
+    if (!OKButtonEnabled) {
+        noteLbl = core::fill(core::tr("\"%1\" is no step: type a number above 0."), {stepTxt});
+        return;
+    }
     const core::Document& document = app_.document;
-    const bool isTotaled = std::ranges::any_of(document.printedCols, [&](const auto& printed) {
-        return core::isTotaledColumn(document, printed.item) && document.isNumericColumn(printed.item);
+    const bool isTotaled = std::ranges::any_of(printed_, [&](const std::string& name) {
+        return core::isTotaledColumn(document, name) && document.isNumericColumn(name);
     });
     if ((totalsChk || groupIndex > 0) && !isTotaled)
         noteLbl = core::tr(
@@ -76,16 +103,31 @@ void reportChoicesFrm::groupList_Click(int entry) {
     takeNote();
 }
 
+void reportChoicesFrm::stepList_Click(int entry) {
+    stepIndex = entry;
+    stepTxt = stepList[static_cast<std::size_t>(entry)];
+    takeNote();
+}
+
+void reportChoicesFrm::stepTxt_Change(const std::string& text) {
+    const auto found = std::ranges::find(stepList, std::string(core::trim(text)));
+    stepIndex = found == stepList.end() ? -1 : static_cast<int>(found - stepList.begin());
+    stepTxt = text;
+    takeNote();
+}
+
 void reportChoicesFrm::totalsChk_Click(bool checked) {
     totalsChk = checked;
     takeNote();
 }
 
 void reportChoicesFrm::OKButton_Click() {
+    const std::optional<std::string> chosen = step();
+    if (!chosen) return;
     ReportChoices choices{headsChk, pagesChk, dateChk, totalsChk, {}, {}};
     if (groupIndex > 0) {
         choices.groupColumn = groupList[static_cast<std::size_t>(groupIndex)];
-        if (stepIndex > 0) choices.groupStep = steps_[static_cast<std::size_t>(stepIndex)];
+        choices.groupStep = *chosen;
     }
     unloaded = true;
     setReportChoices(app_, choices);

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "print/previewNavigation.h"
 #include "print/printerCheck.h"
+#include "print/reportChoicesFrm.h"
 #include "print/reportPrinting.h"
 
 #include <algorithm>
@@ -69,6 +70,13 @@ void reportPageSetup::saveReportSettings() {
     settings.bReportBoldHeaders = boldYesOpt;
     app::setDocumentModified(app_, true);
     previewPage(app_).iReportStartRow = 1;
+}
+
+void reportPageSetup::moreBtn_Click() {
+    std::vector<std::string>& columns = app_.rooms.of<ColumnsToCome>().columns.emplace();
+    for (const Row& row : LV3)
+        if (row.Checked) columns.push_back(row.Text);
+    app_.platform.showForm("reportChoicesFrm");
 }
 
 bool reportPageSetup::allChk() const {

@@ -30,6 +30,7 @@ public:
     bool allChk() const; // whether all columns are checked
     void allChk_Click(bool checked);
     void ApplyBtn_Click();
+    void moreBtn_Click(); // Report Choices, above this one
     void Command1_Click();
     void Command2_Click() { unloaded = true; }
 

@@ -1,6 +1,7 @@
 #include "cli/command.h"
 #include "cli/filterOption.h"
 #include "cli/output.h"
+#include "cli/printing/paperOption.h"
 #include "cli/printing/printing.h"
 #include "cli/session.h"
 #include "core/number.h"
@@ -26,6 +27,7 @@ using Stocks = std::vector<const LabelStock*>;
 
 struct LabelsOptions {
     std::vector<std::string> words;
+    std::string paper; // of the stocks that count; empty: any
     bool json = false, csv = false;
     // What prints.
     std::string stock, pdf, columns, picture, copies = "1", records, filter;
@@ -131,19 +133,29 @@ std::vector<LabelStock> knownStocks() {
     return all;
 }
 
+void keepOnPaper(Stocks& stocks, const std::string& paper) {
+    if (paper.empty()) return;
+    std::erase_if(stocks, [&](const LabelStock* stock) { return !core::equalsNoCase(stock->paper, paper); });
+}
+
 // The one stock that is called so.
-LabelStock stockNamed(const std::string& name) {
+LabelStock stockNamed(const std::string& name, const std::string& paper) {
     std::string told = "--stock ";
     told.append(name);
     const std::vector<LabelStock> all = knownStocks();
-    const Stocks found = labels::findLabelStocks(all, name);
+    Stocks found = labels::findLabelStocks(all, name);
     if (found.empty()) throw Failure(told, "no such stock; fwk labels TEXT lists them");
     Stocks exact;
     for (const LabelStock* stock : found)
         if (labels::isCalled(*stock, name)) exact.push_back(stock);
-    if (exact.size() == 1) return *exact.front();
+    if (!exact.empty()) found = exact;
+    const std::string& itsPaper = found.front()->paper;
+    keepOnPaper(found, paper);
     if (found.size() == 1) return *found.front();
-    std::string several = std::to_string(exact.empty() ? found.size() : exact.size());
+    std::string several = std::to_string(found.size());
+    if (found.empty())
+        throw Failure(told,
+                      several.assign("it is not on ").append(paper).append(", but on ").append(itsPaper));
     throw Failure(told, several.append(" stocks are called so; give maker and number"));
 }
 
@@ -169,7 +181,7 @@ labels::LabelText textOf(Session& session, const LabelsOptions& options) {
 
 labels::LabelChoice choiceOf(Session& session, const LabelsOptions& options) {
     labels::LabelChoice choice;
-    choice.stock = stockNamed(options.stock);
+    choice.stock = stockNamed(options.stock, options.paper);
     if (options.start < 1 || options.start > choice.stock.perSheet()) {
         std::string told = "--start: the sheet has labels 1 to ";
         throw Failure(told.append(std::to_string(choice.stock.perSheet())));
@@ -228,7 +240,8 @@ int list(const LabelsOptions& options) {
     const std::vector<LabelStock> all = knownStocks();
     std::string text;
     for (const std::string& word : options.words) text.append(text.empty() ? 0 : 1, ' ').append(word);
-    const Stocks found = labels::findLabelStocks(all, text);
+    Stocks found = labels::findLabelStocks(all, text);
+    keepOnPaper(found, options.paper);
     writeOut(options.json ? asJson(found) : options.csv ? asCsv(found) : asTable(found));
     return done;
 }
@@ -240,6 +253,7 @@ Run setUpLabels(CLI::App& command) {
     command.add_option("TEXT", options->words, "Words, or a size; all stocks when not told; or a database");
     CLI::Option* json = command.add_flag("--json", options->json, "As JSON");
     CLI::Option* csv = command.add_flag("--csv", options->csv, "As CSV")->excludes(json);
+    addPaperOption(command, options->paper, "Only stocks on this paper: A4, Letter ...");
     CLI::Option* stock = command.add_option("--stock", options->stock, "Print on these labels")
                              ->type_name("\"MAKER NUMBER\"")
                              ->excludes(json)

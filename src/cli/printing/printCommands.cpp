@@ -2,6 +2,7 @@
 #include "app/fileSettings.h"
 #include "cli/command.h"
 #include "cli/output.h"
+#include "cli/printing/paperOption.h"
 #include "cli/printing/printer.h"
 #include "cli/printing/printing.h"
 #include "cli/printing/reportOptions.h"
@@ -175,22 +176,8 @@ void addOutputOption(CLI::App& command, std::string& output) {
         ->type_name("OUT.pdf");
 }
 
-void addPaperOption(CLI::App& command, std::string& paper) {
-    const auto whyNot = [](const std::string& name) {
-        std::string reason;
-        if (drawing::findPaper(std::string_view(name)) != nullptr) return reason;
-        reason.append("\"").append(name).append("\" is none of the papers");
-        char separator = ':';
-        for (const drawing::PaperSize& each : drawing::papers()) {
-            reason.append(1, separator).append(1, ' ').append(each.name);
-            separator = ',';
-        }
-        return reason;
-    };
-    command.add_option("--paper", paper, "The paper in place of the database's: A4, A5, Letter, Legal ...")
-        ->check(whyNot)
-        ->type_name("NAME");
-}
+constexpr const char* inPlaceOfTheDatabases =
+    "The paper in place of the database's: A4, A5, Letter, Legal ...";
 
 } // namespace
 
@@ -203,7 +190,7 @@ Run setUpReport(CLI::App& command) {
         command.add_option("--title", options->title, "The title in place of the database's")
             ->type_name("TEXT");
     addReportOptions(command, options->report);
-    addPaperOption(command, options->paper);
+    addPaperOption(command, options->paper, inPlaceOfTheDatabases);
     return [options, title] {
         options->hasTitle = title->count() > 0;
         return printReport(*options);
@@ -217,7 +204,7 @@ Run setUpLayouts(CLI::App& command) {
     command.add_flag("--many", options->many, "As many to a page as fit");
     command.add_option("--records", options->records, "Only the records with these keys")
         ->type_name("KEY,KEY");
-    addPaperOption(command, options->paper);
+    addPaperOption(command, options->paper, inPlaceOfTheDatabases);
     return [options] { return printLayouts(*options); };
 }
 

@@ -88,6 +88,9 @@ CommandActions::CommandActions(app::App& app, EventBoundary& events, QObject* pa
     // The plus of many keyboards is the upper half of a key.
     action("mnuZoomIn")
         ->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    // Desktops differ, and hands know either.
+    action("mnuRedo")->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     // Of the list alone: where a text is typed the key has another meaning.
     action("mnuNewRecord")->setShortcutContext(Qt::WidgetShortcut);
 }

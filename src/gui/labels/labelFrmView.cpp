@@ -1,11 +1,14 @@
 #include "gui/labels/labelFrmView.h"
 
 #include "core/translate.h"
+#include "gui/dialogs/dialogFit.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -28,6 +31,23 @@ QLabel* captionOf(const QString& caption, QWidget* buddy) {
     auto* label = new QLabel(caption);
     label->setBuddy(buddy);
     return label;
+}
+
+// A page that has less room than its parts need is scrolled, with large letters or on a small screen.
+QScrollArea* scrolled(QWidget* page) {
+    auto* area = new QScrollArea;
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    page->setAutoFillBackground(false); // nor the viewport: it looks as the rest of the dialog does
+    area->viewport()->setAutoFillBackground(false);
+    // The Tab key sees to it by itself; mnemonics do not.
+    QObject::connect(qApp, &QApplication::focusChanged, area, [area, page](QWidget*, QWidget* now) {
+        if (now != nullptr && page->isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton)
+            area->ensureWidgetVisible(now);
+    });
+    return area;
 }
 
 QString millimetres(double twips) {
@@ -55,16 +75,19 @@ labelFrmView::labelFrmView(app::App& app, EventBoundary& events, QWidget* parent
     QFont bold = font();
     bold.setBold(true);
     stepLbl_->setFont(bold);
+    QSize needed;
     for (QWidget* page : {makeSheetPage(), makeTextPage(), makePrintPage()}) {
         page->layout()->setContentsMargins(0, 0, 0, 0);
-        pages_->addWidget(page);
+        pages_->addWidget(scrolled(page));
+        needed = needed.expandedTo(page->minimumSizeHint());
     }
     auto* column = new QVBoxLayout(this);
     column->addWidget(stepLbl_);
     column->addWidget(pages_, 1);
     column->addWidget(faultLbl_);
     column->addLayout(makeButtons());
-    resize(em() * 56, em() * 36);
+    const QSize around(em() * 3, em() * 9); // the pages: margins, heading, fault and buttons
+    resize((needed + around).expandedTo({em() * 56, em() * 36}).boundedTo(roomOnScreen(*this)));
 }
 
 QLayout* labelFrmView::makeButtons() {
@@ -129,7 +152,7 @@ QWidget* labelFrmView::makeSheetPage() {
     right->addWidget(sheetLbl_);
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
-    row->addLayout(left, 3);
+    row->addLayout(left, 4);
     row->addLayout(right, 1);
     return page;
 }

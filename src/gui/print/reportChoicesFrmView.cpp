@@ -4,6 +4,8 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace gui {
@@ -22,8 +24,8 @@ reportChoicesFrmView::reportChoicesFrmView(app::App& app, EventBoundary& events,
                                "in the database."));
     told->setWordWrap(true);
     told->setForegroundRole(QPalette::PlaceholderText);
-    auto* okay = makeButton("OKButton", tr("&OK"), [this] { form_.OKButton_Click(); });
-    okay->setDefault(true);
+    OKButton_ = makeButton("OKButton", tr("&OK"), [this] { form_.OKButton_Click(); });
+    OKButton_->setDefault(true);
     auto* cancel = makeButton("CancelButton", tr("&Cancel"), [this] { form_.CancelButton_Click(); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(makeSheetsFrame());
@@ -31,7 +33,7 @@ reportChoicesFrmView::reportChoicesFrmView(app::App& app, EventBoundary& events,
     column->addWidget(noteLbl_);
     column->addWidget(told);
     column->addStretch();
-    column->addLayout(makeBottomRow(okay, cancel));
+    column->addLayout(makeBottomRow(OKButton_, cancel));
     resize(em() * 28, sizeHint().height());
 }
 
@@ -64,8 +66,11 @@ QWidget* reportChoicesFrmView::makeGroupsFrame() {
     groupList_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(groupList_, &QComboBox::activated, this,
             [this](int entry) { on([&] { form_.groupList_Click(entry); }); });
+    stepList_->setInsertPolicy(QComboBox::NoInsert);
     connect(stepList_, &QComboBox::activated, this,
             [this](int entry) { on([&] { form_.stepList_Click(entry); }); });
+    connect(stepList_, &QComboBox::editTextChanged, this,
+            [this](const QString& text) { on([&] { form_.stepTxt_Change(fromQt(text)); }); });
     auto* row = new QHBoxLayout(frame);
     row->addWidget(caption);
     row->addWidget(groupList_, 2);
@@ -74,15 +79,30 @@ QWidget* reportChoicesFrmView::makeGroupsFrame() {
     return frame;
 }
 
+// Only the user's typing is to be told to the form.
+void reportChoicesFrmView::showSteps() {
+    const QSignalBlocker blocker(stepList_);
+    const QStringList steps = toQt(form_.stepList);
+    if (stepsShown_ != steps || stepList_->isEditable() != form_.bFreeSteps) {
+        stepsShown_ = steps;
+        stepList_->clear();
+        stepList_->setEditable(form_.bFreeSteps);
+        stepList_->addItems(steps);
+        constexpr int longest = 20; // letters of a step
+        if (form_.bFreeSteps) stepList_->lineEdit()->setMaxLength(longest);
+    }
+    if (!form_.bFreeSteps) return stepList_->setCurrentIndex(steps.isEmpty() ? -1 : form_.stepIndex);
+    if (stepList_->currentText() != toQt(form_.stepTxt)) stepList_->setEditText(toQt(form_.stepTxt));
+}
+
 void reportChoicesFrmView::showMembers() {
     totalsChk_->setChecked(form_.totalsChk);
     groupList_->setCurrentIndex(form_.groupIndex);
-    stepList_->clear();
-    stepList_->addItems(toQt(form_.stepList));
-    stepList_->setCurrentIndex(form_.stepList.empty() ? -1 : form_.stepIndex);
+    showSteps();
     stepList_->setEnabled(!form_.stepList.empty());
     stepLbl_->setEnabled(stepList_->isEnabled());
     noteLbl_->setText(toQt(form_.noteLbl));
+    OKButton_->setEnabled(form_.OKButtonEnabled);
 }
 
 } // namespace gui

@@ -25,11 +25,14 @@ private:
     QCheckBox* makeCheck(const char* name, const QString& caption, bool& member);
     QWidget* makeSheetsFrame();
     QWidget* makeGroupsFrame();
+    void showSteps();
 
     print::reportChoicesFrm form_;
     QCheckBox* totalsChk_;
     QComboBox *groupList_, *stepList_;
     QLabel *stepLbl_, *noteLbl_;
+    QStringList stepsShown_;
+    QPushButton* OKButton_ = nullptr;
 };
 
 } // namespace gui

@@ -26,7 +26,7 @@ reportPageSetupView::reportPageSetupView(app::App& app, EventBoundary& events, Q
     auto* ok = makeButton("Command1", tr("&Ok"), [this] { form_.Command1_Click(); });
     auto* apply = makeButton("ApplyBtn", tr("&Apply"), [this] { form_.ApplyBtn_Click(); });
     auto* cancel = makeButton("Command2", tr("&Cancel"), [this] { form_.Command2_Click(); });
-    auto* more = makeButton("moreBtn", tr("&More..."), [&app] { app.platform.showForm("reportChoicesFrm"); });
+    auto* more = makeButton("moreBtn", tr("&More..."), [this] { form_.moreBtn_Click(); });
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(ok, QDialogButtonBox::AcceptRole);
     buttons->addButton(apply, QDialogButtonBox::ApplyRole);
