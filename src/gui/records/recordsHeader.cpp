@@ -94,12 +94,13 @@ bool RecordsHeader::arrowKey(const QKeyEvent& key) {
     const int toRight = (key.key() == Qt::Key_Right) - (key.key() == Qt::Key_Left);
     if (toRight == 0) return false;
     const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
-    if (modifiers == Qt::NoModifier)
+    if (modifiers == Qt::NoModifier) {
         chooseAt(visualIndex(chosen_) + visualStep(toRight));
-    else if (modifiers == Qt::ControlModifier ? moveColumn(chosen_, toRight)
-                                              : modifiers == (Qt::ControlModifier | Qt::ShiftModifier) &&
-                                                    sizeColumn(chosen_, visualStep(toRight)))
-        choose(chosen_);
+        return true;
+    }
+    const bool isSized =
+        modifiers == (Qt::ControlModifier | Qt::ShiftModifier) && sizeColumn(chosen_, visualStep(toRight));
+    if (isSized || (modifiers == Qt::ControlModifier && moveColumn(chosen_, toRight))) choose(chosen_);
     return true;
 }
 
