@@ -401,10 +401,6 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>%1 wurde erstellt, aber es gibt kein Programm, das die Datei öffnet.</translation>
     </message>
     <message>
-        <source>%1 was made.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1's value has been set to %2</source>
         <translation>Der Wert von %1 wurde auf %2 gesetzt</translation>
     </message>
@@ -493,11 +489,6 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <source>%n of the records cannot be calculated: %1</source>
         <comment>%n of the records cannot be calculated. The first one: %1</comment>
         <translation><numerusform>%n der Datensätze kann nicht berechnet werden: %1</numerusform><numerusform>%n der Datensätze können nicht berechnet werden. Der erste: %1</numerusform></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n pixel wide</source>
-        <comment>%n pixels wide</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record</source>
@@ -913,7 +904,7 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>&amp;Narrower</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schmaler</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1157,7 +1148,7 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>&amp;Wider</source>
-        <translation type="unfinished"></translation>
+        <translation>Br&amp;eiter</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
@@ -1356,10 +1347,6 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     <message>
         <source>Add Entry Box</source>
         <translation>Eingabefeld hinzufügen</translation>
-    </message>
-    <message>
-        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>
@@ -1745,12 +1732,8 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Spalte %1</translation>
     </message>
     <message>
-        <source>Column %1, %2 of %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Column &amp;Headings</source>
-        <translation type="unfinished"></translation>
+        <source>Column Headin&amp;gs</source>
+        <translation>S&amp;paltenüberschriften</translation>
     </message>
     <message>
         <source>Column Name</source>
@@ -2270,6 +2253,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Feld bereits hinzugefügt.</translation>
     </message>
     <message>
+        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
+        <translation>In der Leiste oben setzt „Eingabefeld hinzufügen“ ein Feld für eine Spalte und „Beschriftung hinzufügen“ einen Text daneben.</translation>
+    </message>
+    <message>
         <source>Fig&amp;ures</source>
         <translation>Kenn&amp;zahlen</translation>
     </message>
@@ -2419,7 +2406,7 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>Guide at %1 inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfslinie bei %1 Zoll</translation>
     </message>
     <message>
         <source>Height:</source>
@@ -2738,11 +2725,11 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>Move &amp;Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;links verschieben</translation>
     </message>
     <message>
         <source>Move &amp;Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach re&amp;chts verschieben</translation>
     </message>
     <message>
         <source>Move Column</source>
@@ -2854,11 +2841,11 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
     </message>
     <message>
         <source>No guide is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Hilfslinie gewählt</translation>
     </message>
     <message>
         <source>No guides; Insert makes one</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Hilfslinien; Einfg setzt eine</translation>
     </message>
     <message>
         <source>No record was found</source>

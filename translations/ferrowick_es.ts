@@ -401,10 +401,6 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Se ha creado %1, pero no hay ningún programa que lo abra.</translation>
     </message>
     <message>
-        <source>%1 was made.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1's value has been set to %2</source>
         <translation>El valor de %1 se ha establecido en %2</translation>
     </message>
@@ -493,11 +489,6 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <source>%n of the records cannot be calculated: %1</source>
         <comment>%n of the records cannot be calculated. The first one: %1</comment>
         <translation><numerusform>%n de los registros no se puede calcular: %1</numerusform><numerusform>%n de los registros no se pueden calcular. El primero: %1</numerusform></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n pixel wide</source>
-        <comment>%n pixels wide</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n record</source>
@@ -913,7 +904,7 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>&amp;Narrower</source>
-        <translation type="unfinished"></translation>
+        <translation>Más estrec&amp;ha</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1157,7 +1148,7 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>&amp;Wider</source>
-        <translation type="unfinished"></translation>
+        <translation>Más a&amp;ncha</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
@@ -1356,10 +1347,6 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     <message>
         <source>Add Entry Box</source>
         <translation>Añadir campo de entrada</translation>
-    </message>
-    <message>
-        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Add Horizontal Line To Layout.</source>
@@ -1745,12 +1732,8 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Columna %1</translation>
     </message>
     <message>
-        <source>Column %1, %2 of %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Column &amp;Headings</source>
-        <translation type="unfinished"></translation>
+        <source>Column Headin&amp;gs</source>
+        <translation>Encabe&amp;zados de columna</translation>
     </message>
     <message>
         <source>Column Name</source>
@@ -2270,6 +2253,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>El campo ya está añadido.</translation>
     </message>
     <message>
+        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
+        <translation>Campo, en la barra de arriba, coloca un recuadro para una columna; Rótulo coloca un texto junto a él.</translation>
+    </message>
+    <message>
         <source>Fig&amp;ures</source>
         <translation>Ci&amp;fras</translation>
     </message>
@@ -2419,7 +2406,7 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>Guide at %1 inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía a %1 pulgadas</translation>
     </message>
     <message>
         <source>Height:</source>
@@ -2738,11 +2725,11 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>Move &amp;Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover a la i&amp;zquierda</translation>
     </message>
     <message>
         <source>Move &amp;Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover a la de&amp;recha</translation>
     </message>
     <message>
         <source>Move Column</source>
@@ -2854,11 +2841,11 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
         <source>No guide is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna guía elegida</translation>
     </message>
     <message>
         <source>No guides; Insert makes one</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay guías; Insertar coloca una</translation>
     </message>
     <message>
         <source>No record was found</source>

@@ -392,10 +392,6 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 was made.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1's value has been set to %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -483,11 +479,6 @@ Free software under the MIT licence. It comes with no warranty.</source>
     <message numerus="yes">
         <source>%n of the records cannot be calculated: %1</source>
         <comment>%n of the records cannot be calculated. The first one: %1</comment>
-        <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n pixel wide</source>
-        <comment>%n pixels wide</comment>
         <translation type="unfinished"><numerusform></numerusform><numerusform></numerusform></translation>
     </message>
     <message numerus="yes">
@@ -904,7 +895,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Narrower</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus étr&amp;oite</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1148,7 +1139,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>&amp;Wider</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;large</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
@@ -1345,10 +1336,6 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Add Entry Box</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Add Entry Box, in the bar above, places a box for a column; Add Label a text.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1735,12 +1722,8 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Column %1, %2 of %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Column &amp;Headings</source>
-        <translation type="unfinished"></translation>
+        <source>Column Headin&amp;gs</source>
+        <translation>En-&amp;têtes des colonnes</translation>
     </message>
     <message>
         <source>Column Name</source>
@@ -2260,6 +2243,10 @@ Free software under the MIT licence. It comes with no warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Field, in the bar above, places a box for a column; Label places a text beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Fig&amp;ures</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2409,7 +2396,7 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Guide at %1 inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère à %1 pouces</translation>
     </message>
     <message>
         <source>Height:</source>
@@ -2727,11 +2714,11 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>Move &amp;Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer à &amp;gauche</translation>
     </message>
     <message>
         <source>Move &amp;Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer à &amp;droite</translation>
     </message>
     <message>
         <source>Move Column</source>
@@ -2843,11 +2830,11 @@ Free software under the MIT licence. It comes with no warranty.</source>
     </message>
     <message>
         <source>No guide is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun repère choisi</translation>
     </message>
     <message>
         <source>No guides; Insert makes one</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun repère ; Inser en place un</translation>
     </message>
     <message>
         <source>No record was found</source>
