@@ -495,11 +495,6 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation><numerusform>%n der Datensätze kann nicht berechnet werden: %1</numerusform><numerusform>%n der Datensätze können nicht berechnet werden. Der erste: %1</numerusform></translation>
     </message>
     <message numerus="yes">
-        <source>%n pixel wide</source>
-        <comment>%n pixels wide</comment>
-        <translation><numerusform>%n Pixel breit</numerusform><numerusform>%n Pixel breit</numerusform></translation>
-    </message>
-    <message numerus="yes">
         <source>%n record</source>
         <comment>%n records</comment>
         <translation><numerusform>%n Datensatz</numerusform><numerusform>%n Datensätze</numerusform></translation>
@@ -1745,12 +1740,8 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Spalte %1</translation>
     </message>
     <message>
-        <source>Column %1, %2 of %3</source>
-        <translation>Spalte %1, %2 von %3</translation>
-    </message>
-    <message>
-        <source>Column &amp;Headings</source>
-        <translation>Spalten&amp;köpfe</translation>
+        <source>Column Headin&amp;gs</source>
+        <translation>S&amp;paltenüberschriften</translation>
     </message>
     <message>
         <source>Column Name</source>

@@ -495,11 +495,6 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation><numerusform>%n de los registros no se puede calcular: %1</numerusform><numerusform>%n de los registros no se pueden calcular. El primero: %1</numerusform></translation>
     </message>
     <message numerus="yes">
-        <source>%n pixel wide</source>
-        <comment>%n pixels wide</comment>
-        <translation><numerusform>%n píxel de ancho</numerusform><numerusform>%n píxeles de ancho</numerusform></translation>
-    </message>
-    <message numerus="yes">
         <source>%n record</source>
         <comment>%n records</comment>
         <translation><numerusform>%n registro</numerusform><numerusform>%n registros</numerusform></translation>
@@ -1745,12 +1740,8 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Columna %1</translation>
     </message>
     <message>
-        <source>Column %1, %2 of %3</source>
-        <translation>Columna %1, %2 de %3</translation>
-    </message>
-    <message>
-        <source>Column &amp;Headings</source>
-        <translation>&amp;Encabezados de columna</translation>
+        <source>Column Headin&amp;gs</source>
+        <translation>Encabe&amp;zados de columna</translation>
     </message>
     <message>
         <source>Column Name</source>

@@ -495,11 +495,6 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation><numerusform>%n des fiches ne peut pas être calculée : %1</numerusform><numerusform>%n des fiches ne peuvent pas être calculées. La première : %1</numerusform></translation>
     </message>
     <message numerus="yes">
-        <source>%n pixel wide</source>
-        <comment>%n pixels wide</comment>
-        <translation><numerusform>%n pixel de large</numerusform><numerusform>%n pixels de large</numerusform></translation>
-    </message>
-    <message numerus="yes">
         <source>%n record</source>
         <comment>%n records</comment>
         <translation><numerusform>%n fiche</numerusform><numerusform>%n fiches</numerusform></translation>
@@ -1745,11 +1740,7 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation>Colonne %1</translation>
     </message>
     <message>
-        <source>Column %1, %2 of %3</source>
-        <translation>Colonne %1, %2 sur %3</translation>
-    </message>
-    <message>
-        <source>Column &amp;Headings</source>
+        <source>Column Headin&amp;gs</source>
         <translation>En-&amp;têtes des colonnes</translation>
     </message>
     <message>

@@ -131,6 +131,19 @@ tool Field Name; press Ctrl+L; tab 0; click mnuLayoutDoubleClick; press Insert -
 )");
     }
 
+    void columnsByTheKeys() {
+        Session run(sample("books.fwk"));
+        run.play(R"(
+press Ctrl+Shift+F10; press Ctrl+Shift+Right 2; press Right; press Ctrl+Left 2; press Down; look LV -> "Title213 No63
+    Author147 Price80 Bought87 Copies60 Value87 Cover93 Notes200" LV.rows=43 top 0 at 0 The Odyssey|1 selected 0
+press Ctrl+Shift+F10; press End; press Ctrl+Right; press Ctrl+Left; press Left; press Ctrl+Shift+Left 20; look LV ->
+    "Title213 No63 Author147 Price80 Bought87 Copies60 Value20 Notes200 Cover93" -has the keys
+press Return; press Menu; press L; press Escape; look LV -> "Title213 No63 Author147 Price80 Bought87 Value20 Copies60
+    Notes200 Cover93" LV.sort=6/1 LV.rows=43 top 0 at 41 Walden|26 selected 41 LV=*
+press Menu; press G; press Home; press Menu; press W; press Escape; look LV -> T
+)");
+    }
+
     // Dropped or not; and an error that nobody caught keeps a copy and ends the program.
     // Groups, and the records of one, by keys and by mouse; the summary follows what is changed.
     void theSummary() {

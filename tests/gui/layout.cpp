@@ -124,6 +124,23 @@ tab 1; click Design -> Design page=1 Slider1=1 recordPosition=Record 1 of 42 she
 )");
     }
 
+    void guidesByTheKeys() {
+        Session run(sample("books.fwk"));
+        run.play(R"(
+press Ctrl+L; press Shift+F6; press Insert; press Shift+Down; press Shift+F6; press Insert 2 -> Totals=- Properties=- Design=x
+    Delete=- page=1 layoutToolbar.Snap=x layoutToolbar.Rows=- sheet=23 at 19,19 |5640 |5760 |4100 SB1_5=Document
+    Modified
+press Right; press PgUp; press Shift+Left; press PgUp; press Ctrl+Right -> sheet=23 at 19,19 |5620
+    |5880 |4100
+)");
+        const QAccessibleInterface* told =
+            QAccessible::queryAccessibleInterface(run.find<QWidget>(u"ruler1"_s));
+        QCOMPARE(told->text(QAccessible::Value), u"Guide at 3.9 inches"_s);
+        run.play(R"(
+press Delete; press Escape -> sheet=23 at 19,19 |5880 |4100 layoutPic2=*(cut)
+)");
+    }
+
     void browsing() {
         Session run(sample("books.fwk"));
         run.window.resize(run.window.minimumSizeHint().expandedTo({700, 400}));

@@ -1,8 +1,6 @@
 #include "gui/records/recordsHeader.h"
 
-#include "core/translate.h"
-#include "gui/widgets/qtText.h"
-
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -26,11 +24,6 @@ RecordsHeader::RecordsHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
     setHighlightSections(false);
     setMinimumSectionSize(narrowestColumn);
     setResizeContentsPrecision(-1); // a double click on a divider counts the rows out of sight too
-    const auto tell = [this] {
-        if (hasFocus()) tellChosen();
-    };
-    connect(this, &QHeaderView::sectionMoved, this, tell);
-    connect(this, &QHeaderView::sectionResized, this, tell);
 }
 
 // The styles that come with Qt clip a name in the middle of a letter, and one at the right edge loses
@@ -83,11 +76,12 @@ void RecordsHeader::chooseAt(int visual) {
     if (count() > 0) choose(logicalIndex(std::clamp(visual, 0, count() - 1)));
 }
 
+// To a screen reader a heading is a part of the list.
 void RecordsHeader::tellChosen() {
-    if (chosen_ >= count()) return;
-    const QString name = model()->headerData(chosen_, Qt::Horizontal, Qt::DisplayRole).toString();
-    setAccessibleName(tr("Column %1, %2 of %3").arg(name).arg(visualIndex(chosen_) + 1).arg(count()));
-    setAccessibleDescription(toQt(core::tr("%n pixel wide", "%n pixels wide", sectionSize(chosen_))));
+    if (!hasFocus() || chosen_ >= count()) return;
+    QAccessibleEvent told(parentWidget(), QAccessible::Focus);
+    told.setChild(chosen_);
+    QAccessible::updateAccessibility(&told);
 }
 
 bool RecordsHeader::arrowKey(const QKeyEvent& key) {
@@ -145,6 +139,7 @@ void RecordsHeader::keyPressEvent(QKeyEvent* event) {
 
 void RecordsHeader::focusInEvent(QFocusEvent* event) {
     QHeaderView::focusInEvent(event);
+    tellChosen();
     viewport()->update();
 }
 

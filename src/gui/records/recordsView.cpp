@@ -209,7 +209,7 @@ void RecordsView::addSortMenu(QMenu& menu) {
     columns->setObjectName(QStringLiteral("sortMenu"));
     columns->setEnabled(list_.count() >= 2);
     connect(
-        menu.addAction(tr("Column &Headings") + u'\t' +
+        menu.addAction(tr("Column Headin&gs") + u'\t' +
                        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F10).toString(QKeySequence::NativeText)),
         &QAction::triggered, this, &RecordsView::takeHeaderKeys);
     auto* one = new QActionGroup(columns);
