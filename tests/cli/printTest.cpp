@@ -84,7 +84,7 @@ $ pdftotext -l 1 a.pdf - | xargs -> No Bolt and washer
 $1 fwk labels a.fwk --stock 'Nobody 1' --pdf a.pdf -> ! --stock Nobody 1: no such stock; fwk labels TEXT lists them
 $1 fwk labels a.fwk --stock avery --pdf a.pdf -> ! --stock avery: 373 stocks are called so; give maker and number
 $1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --paper letter -> ! --stock avery l7163: it is not on letter, but on A4
-$2 fwk labels l7163 --paper B9 -> ! --paper: "B9" is none of the papers: Letter, && fwk labels l7163 --paper Letter
+$ fwk labels l7163 --paper Letter && fwk labels l7163 --paper B9 2>&1 | sed -n '1s/ Letter,.*//p' -> fwk: --paper: "B9" is none of the papers:
 $1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --start 15 -> ! --start: the sheet has labels 1 to 14
 $1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --copies 1e9 -> ! --copies: from 1 to 1000
 $1 fwk labels a.fwk --stock 'avery l7163' --pdf a.pdf --columns Nme -> ! There is no column "Nme" whose text could be printed.

@@ -178,7 +178,7 @@ TEST_F(Sheets, TheFormKeepsTheChoices) {
     again.groupList_Click(2);
     EXPECT_TRUE(again.stepList.empty());
     EXPECT_TRUE(again.noteLbl.starts_with("No column")) << again.noteLbl;
-    app.document.LV.columns.rename(app.document.LV.columns["Bought"].Index, "Got");
+    app.document.LV.columns.rename(app.document.LV.columns["Price"].Index, "Got");
     EXPECT_EQ(print::reportChoices(app, app.document.LV).groupColumn, "");
     app.document.currentFile = "/other.fwk";
     EXPECT_FALSE(print::reportChoices(app).any());
