@@ -168,6 +168,7 @@ QWidget* labelFrmView::makeOwnSize() {
         auto* box = new QLineEdit;
         box->setObjectName(QStringLiteral("ownTxt_%1").arg(i));
         box->setMaxLength(20);
+        box->setMinimumWidth(em() * 4); // "215.875"
         const int index = static_cast<int>(i);
         connect(box, &QLineEdit::textEdited, this, [this, index](const QString& text) {
             on([&] { form_.ownTxt_Change(index, fromQt(text)); });
