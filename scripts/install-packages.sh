@@ -8,7 +8,7 @@ build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl1-mesa-dev
     libcli11-dev nlohmann-json3-dev libpugixml-dev libxlsxwriter-dev libsqlite3-dev libzint-dev qt6-l10n-tools
     qt6-translations-l10n)
 run=(libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6svg6 qt6-wayland fonts-liberation fonts-dejavu-core)
-test=(libgtest-dev libgmock-dev libbenchmark-dev zip unzip clang-format-14 poppler-utils zbar-tools python3)
+test=(libgtest-dev libgmock-dev libbenchmark-dev zip unzip clang-format-14 poppler-utils zbar-tools dmtx-utils python3)
 tidy=(clang-tidy-14)
 bench=(libbenchmark-dev hyperfine time zip unzip sqlite3)
 package=(dpkg-dev debhelper file gzip)

@@ -3,10 +3,7 @@
 namespace file {
 
 KeptEntry keepEntry(const Zip& archive, const std::string& name) {
-    KeptEntry entry{name, {}, archive.readEntry(name, Zip::maxFileBytes)};
-    for (int i = 0; i < archive.FileCount(); ++i)
-        if (archive.FileNameAt(i) == name) entry.comment = archive.commentAt(i);
-    return entry;
+    return {name, archive.commentOf(name), archive.readEntry(name, Zip::maxFileBytes)};
 }
 
 void putBack(Zip& archive, const KeptEntry& entry) {

@@ -334,6 +334,7 @@ LabelDesign designLabel(const Document& document, const LabelStock& stock, const
 
 void placeDesign(app::App& app, LabelDesign& design) {
     layout::unloadObjects(app);
+    app.document.locks.clear(); // or they would hold objects that get the same names
     core::LayoutObjects& own = app.document.layout;
     const auto take = [&](auto& to, auto& from) {
         from.forEach([&](auto& object) {

@@ -2,6 +2,7 @@
 
 #include "app/longWork.h"
 #include "core/number.h"
+#include "core/runTimeError.h"
 #include "core/text.h"
 #include "core/translate.h"
 #include "entry/retrieveData.h"
@@ -16,6 +17,8 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
+#include <vector>
 
 namespace labels {
 
@@ -134,7 +137,41 @@ void LabelRun::drawOutlines(drawing::LineStyle style) {
     target_.DrawStyle = drawing::LineStyle::Solid;
 }
 
+// Each label makes its record the current one; the user finds his records selected as they were.
+class SelectionKept {
+public:
+    SelectionKept(App& app, core::RecordsList& list)
+        : app_(app), list_(list), current_(list.selectedItem()), isMulti_(list.MultiSelect) {
+        list.forEach([&](core::Item& item) {
+            if (item.Selected) selected_.push_back(&item);
+        });
+    }
+    SelectionKept(const SelectionKept&) = delete;
+    SelectionKept& operator=(const SelectionKept&) = delete;
+    ~SelectionKept() {
+        list_.clearSelection();
+        list_.MultiSelect = true;
+        for (core::Item* item : selected_) list_.setSelectedItem(item);
+        list_.setSelectedItem(current_);
+        list_.MultiSelect = isMulti_;
+        try {
+            entry::showRecord(app_);
+        } catch (const core::RunTimeError&) { // the sheet shows the last label then
+            return;
+        }
+    }
+
+private:
+    App& app_;
+    core::RecordsList& list_;
+    core::Item* current_;
+    std::vector<core::Item*> selected_;
+    bool isMulti_;
+};
+
 bool LabelRun::print() {
+    std::optional<SelectionKept> kept;
+    if (target_.isPrinter()) kept.emplace(app_, list_);
     usePaper();
     if (!list_.MultiSelect) list_.clearSelection();
     if (!tellWhetherPossible()) {

@@ -335,6 +335,14 @@ std::uint32_t Zip::checksumOf(const std::string& name) const {
     return zip_stat(open().zip, name.c_str(), 0, &status) == 0 ? status.crc : 0;
 }
 
+std::string Zip::commentOf(const std::string& name) const {
+    const zip_int64_t place = zip_name_locate(open().zip, name.c_str(), 0);
+    if (place < 0) return {};
+    zip_uint32_t length = 0;
+    const char* comment = zip_file_get_comment(open().zip, static_cast<zip_uint64_t>(place), &length, 0);
+    return comment ? std::string(comment, length) : "";
+}
+
 bool Zip::contains(const std::string& name) const {
     return zip_name_locate(open().zip, name.c_str(), 0) >= 0;
 }

@@ -79,6 +79,8 @@ public:
     [[nodiscard]] std::uint64_t sizeAt(int index) const;
     // Of the unpacked bytes, as the archive tells it; 0 for an entry that is not there.
     [[nodiscard]] std::uint32_t checksumOf(const std::string& name) const;
+    // Empty for an entry that is not there.
+    [[nodiscard]] std::string commentOf(const std::string& name) const;
     [[nodiscard]] bool contains(const std::string& name) const;
     // Unpacks an entry into memory; nothing when it is absent. Of two entries of one name the first
     // counts, here as everywhere. More than maxBytes, told or found, is badFileFormat.

@@ -18,6 +18,7 @@ public:
     FitBar(app::App& app, EventBoundary& events, QWidget* parent = nullptr);
 
     void refresh();
+    bool hasButton() const { return !isHidden() && !widen_->isHidden(); }
 
 private:
     app::App& app_;

@@ -10,6 +10,7 @@
 #include "print/previewNavigation.h"
 #include "print/previewPlace.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QScopedValueRollback>
 
@@ -174,7 +175,9 @@ void PreviewView::show(QScrollBar& bar, const print::PreviewPage::ScrollBar& sta
 void PreviewView::refresh() {
     if (refreshing_) return;
     const QScopedValueRollback guard(refreshing_, true);
+    const bool bKeysInBar = fitBar_->isAncestorOf(QApplication::focusWidget());
     fitBar_->refresh();
+    if (bKeysInBar && !fitBar_->hasButton()) port_->setFocus(); // as its button has done its work
     followZoom();
     const print::PreviewPage& page = print::previewPage(app_);
     show(*rptHScroll1_, page.rptHScroll1, page.rptPreview2.Width);

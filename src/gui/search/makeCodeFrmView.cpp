@@ -116,6 +116,8 @@ QWidget* makeCodeFrmView::makePicture() {
     QFont bold = Label1_->font();
     bold.setBold(true);
     Label1_->setFont(bold);
+    Label1_->setMinimumHeight(2 * em()); // the picture stays where it is while one types
+    Label1_->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     picture_->setFixedSize(side, side);
     picture_->setAlignment(Qt::AlignCenter);
     picture_->setFrameShape(QFrame::StyledPanel);
@@ -160,11 +162,18 @@ void makeCodeFrmView::showPicture() {
     pictureText_->setText(text);
 }
 
-// Within the screen.
+// For the whole reasons, within the screen.
 void makeCodeFrmView::makeRoom() {
     const QRect room = screen()->availableGeometry();
-    resize(width(), std::min(height() + refused_->sizeHint().height(), room.height()));
-    move(x(), std::max(room.top(), std::min(y(), room.bottom() - height())));
+    const int before = List3_->columnWidth(0) + List3_->columnWidth(1) + em() * 4; // and a scroll bar
+    constexpr std::size_t looked = 200;                                            // rows
+    int widest = 0;
+    for (std::size_t row = 0; row < std::min(form_.List3.size(), looked); ++row)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(toQt(form_.List3[row].Reason)));
+    resize(std::clamp(before + widest, width(), std::max(width(), em() * 60)),
+           std::min(height() + refused_->sizeHint().height(), room.height()));
+    move(std::max(room.left(), std::min(x(), room.right() - width())),
+         std::max(room.top(), std::min(y(), room.bottom() - height())));
 }
 
 void makeCodeFrmView::showRefused() {
