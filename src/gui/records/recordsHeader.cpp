@@ -105,6 +105,10 @@ bool RecordsHeader::event(QEvent* event) {
         event->accept();
         return true;
     }
+    // The menu key itself comes too.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard)
+        return true;
     return QHeaderView::event(event);
 }
 
