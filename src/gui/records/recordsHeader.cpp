@@ -60,8 +60,8 @@ bool RecordsHeader::sizeColumn(int section, int wider) {
 
 void RecordsHeader::takeKeys(int section) {
     window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    choose(section);
     setFocus(Qt::OtherFocusReason);
+    choose(section);
 }
 
 void RecordsHeader::choose(int section) {
@@ -143,7 +143,6 @@ void RecordsHeader::keyPressEvent(QKeyEvent* event) {
 
 void RecordsHeader::focusInEvent(QFocusEvent* event) {
     QHeaderView::focusInEvent(event);
-    tellChosen();
     viewport()->update();
 }
 
@@ -153,7 +152,9 @@ void RecordsHeader::focusOutEvent(QFocusEvent* event) {
 }
 
 void RecordsHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    painter->save(); // the style leaves a clip that nothing can be drawn in
     QHeaderView::paintSection(painter, rect, logicalIndex);
+    painter->restore();
     if (!hasFocus() || logicalIndex != chosen_) return;
     constexpr int width = 2;
     painter->setPen(QPen(palette().color(QPalette::Highlight), width));
