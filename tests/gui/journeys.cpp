@@ -140,7 +140,8 @@ press Ctrl+Shift+F10; press End; press Ctrl+Right; press Ctrl+Left; press Left; 
     "Title213 No63 Author147 Price80 Bought87 Copies60 Value20 Notes200 Cover93" -has the keys
 press Return; press Menu; press L; press Escape; look LV -> "Title213 No63 Author147 Price80 Bought87 Value20 Copies60
     Notes200 Cover93" LV.sort=6/1 LV.rows=43 top 0 at 41 Walden|26 selected 41 LV=*
-press Menu; press G; press Home; press Menu; press W; press Escape; look LV -> T
+press Menu; press G; press Home; press Menu; press W; press Escape; look LV -> "Title221 No63 Author147 Price80 Bought87
+    Value20 Copies60 Notes200 Cover93" LV.rows=43 top 11 at 41 Walden|26 selected 41
 )");
     }
 

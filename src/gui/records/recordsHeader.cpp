@@ -60,8 +60,8 @@ bool RecordsHeader::sizeColumn(int section, int wider) {
 
 void RecordsHeader::takeKeys(int section) {
     window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    choose(section);
     setFocus(Qt::OtherFocusReason);
+    choose(section);
 }
 
 void RecordsHeader::choose(int section) {
@@ -105,6 +105,10 @@ bool RecordsHeader::event(QEvent* event) {
         event->accept();
         return true;
     }
+    // The menu key itself comes too.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard)
+        return true;
     return QHeaderView::event(event);
 }
 
@@ -139,7 +143,6 @@ void RecordsHeader::keyPressEvent(QKeyEvent* event) {
 
 void RecordsHeader::focusInEvent(QFocusEvent* event) {
     QHeaderView::focusInEvent(event);
-    tellChosen();
     viewport()->update();
 }
 
@@ -149,7 +152,9 @@ void RecordsHeader::focusOutEvent(QFocusEvent* event) {
 }
 
 void RecordsHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    painter->save(); // the style leaves a clip that nothing can be drawn in
     QHeaderView::paintSection(painter, rect, logicalIndex);
+    painter->restore();
     if (!hasFocus() || logicalIndex != chosen_) return;
     constexpr int width = 2;
     painter->setPen(QPen(palette().color(QPalette::Highlight), width));
