@@ -56,12 +56,16 @@ void reportChoicesFrm::takeSteps(const std::string& chosen) {
     const core::Column* column = groupColumn();
     const auto& isStep = reportFigures(app_).isStep;
     if (column == nullptr || !isStep) return;
+    steps_.emplace_back(); // each value
     for (const auto* usual : {&dateSteps, &numberSteps})
         for (const std::string_view step : *usual)
             if (isStep(step, column->type())) steps_.emplace_back(step);
-    bFreeSteps = column->isNumeric() && !steps_.empty();
-    if (steps_.empty()) return;
-    steps_.emplace(steps_.begin());
+    const bool isAny = steps_.size() > 1;
+    bFreeSteps = column->isNumeric() && isAny;
+    if (!isAny) {
+        steps_.clear();
+        return;
+    }
     for (const std::string& step : steps_)
         stepList.push_back(step.empty() ? core::tr("each value") : core::tr(step));
     stepTxt = stepList.front();
