@@ -3,8 +3,8 @@
 #include "core/text.h"
 #include "shell/appearance.h"
 #include "shell/looks.h"
-#include "shell/recentFiles.h"
 #include "shell/recentlyUsed.h"
+#include "shell/start/recentFiles.h"
 
 namespace shell {
 

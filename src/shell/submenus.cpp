@@ -3,8 +3,8 @@
 #include "core/translate.h"
 #include "shell/appearance.h"
 #include "shell/menuCommands.h"
-#include "shell/recentFiles.h"
-#include "shell/templates.h"
+#include "shell/start/recentFiles.h"
+#include "shell/start/templates.h"
 #include "storage/newDatabase.h"
 
 namespace shell {

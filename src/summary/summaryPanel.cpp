@@ -32,8 +32,7 @@ struct ChangeCount {
     std::uint64_t changes = 1;
 };
 
-constexpr const char* eachValue = core::marked("Each value");
-constexpr const char* eachDay = core::marked("Day");
+constexpr const char *eachValue = core::marked("Each value"), *eachDay = core::marked("Day");
 constexpr std::array<const char*, 4> dateSteps = {core::marked("Year"), core::marked("Quarter"),
                                                   core::marked("Month"), eachDay};
 
@@ -229,14 +228,10 @@ void SummaryPanel::recount() {
     const std::string barBefore =
         bars < static_cast<int>(barNames.size()) ? barNames[static_cast<std::size_t>(bars)] : std::string();
     const std::optional<Request> wanted = request();
-    if (!wanted) {
-        summary = {};
-    } else if (onlyFound) {
-        const std::vector<const Item*> records = base();
-        summary = summarise(app_.document, *wanted, app_.platform.today(), &records);
-    } else {
-        summary = summarise(app_.document, *wanted, app_.platform.today());
-    }
+    const bool isOfSome = wanted && onlyFound;
+    const std::vector<const Item*> records = isOfSome ? base() : std::vector<const Item*>();
+    summary = wanted ? summarise(app_.document, *wanted, app_.platform.today(), isOfSome ? &records : nullptr)
+                     : Summary{};
     sort();
     barNames.assign(1, core::tr(recordsHeading));
     for (const Figure& figure : summary.request.figures) barNames.push_back(headingOf(figure));

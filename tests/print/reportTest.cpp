@@ -4,7 +4,7 @@
 #include "print/reportPrinting.h"
 #include "printRecorder.h"
 #include "shell/mainWindow.h"
-#include "shell/samples.h"
+#include "shell/start/samples.h"
 
 namespace {
 

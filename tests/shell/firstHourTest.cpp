@@ -2,11 +2,11 @@
 #include "databases.h"
 #include "drawing/papers.h"
 #include "layout/layoutPage.h"
-#include "shell/emptyPages.h"
 #include "shell/mainWindow.h"
-#include "shell/recentFiles.h"
 #include "shell/settings.h"
-#include "shell/templates.h"
+#include "shell/start/emptyPages.h"
+#include "shell/start/recentFiles.h"
+#include "shell/start/templates.h"
 #include "storage/saveFile.h"
 
 #include <gtest/gtest.h>

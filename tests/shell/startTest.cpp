@@ -2,7 +2,7 @@
 #include "calc/recalculation.h"
 #include "databases.h"
 #include "shell/mainWindow.h"
-#include "shell/samples.h"
+#include "shell/start/samples.h"
 #include "storage/saveFile.h"
 #include "table.h"
 

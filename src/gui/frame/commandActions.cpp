@@ -7,7 +7,7 @@
 #include "gui/widgets/qtText.h"
 #include "shell/commands.h"
 #include "shell/listCommands.h"
-#include "shell/recentFiles.h"
+#include "shell/start/recentFiles.h"
 
 #include <QActionGroup>
 #include <QFontMetrics>

@@ -3,7 +3,7 @@
 #include "app/app.h"
 #include "gui/frame/commandActions.h"
 #include "gui/frame/eventBoundary.h"
-#include "shell/samples.h"
+#include "shell/start/samples.h"
 
 #include <QGridLayout>
 #include <QLabel>

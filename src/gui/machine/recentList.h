@@ -7,9 +7,9 @@
 
 namespace gui {
 
-// The desktop's list of what was used lately, recently-used.xbel, as the Desktop Bookmark Specification of
-// freedesktop.org has it. From here on it is told each file that is opened or stored, once the window has
-// been painted.
+// The desktop's list of what was used lately, recently-used.xbel, in the form of bookmarks that
+// freedesktop.org tells. From here on it is told each file that is opened or stored, once the window has been
+// painted.
 void keepRecentList(app::App& app);
 
 // Puts the file into the list at that path, or notes there that it was used once more. What others keep in

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "gui/frame/eventBoundary.h"
-#include "shell/emptyPages.h"
+#include "shell/start/emptyPages.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -9,8 +9,8 @@
 
 namespace gui {
 
-// In the middle of a page that is empty, what can be done about it (see shell/emptyPages.h). The mouse goes
-// past it where it has no button.
+// In the middle of a page that is empty, what can be done about it (see shell/start/emptyPages.h). The mouse
+// goes past it where it has no button.
 class EmptyHint : public QFrame {
     Q_OBJECT
 

@@ -1,4 +1,4 @@
-#include "shell/samples.h"
+#include "shell/start/samples.h"
 
 #include "core/runTimeError.h"
 #include "core/translate.h"

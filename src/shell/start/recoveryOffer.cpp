@@ -1,4 +1,4 @@
-#include "shell/recoveryOffer.h"
+#include "shell/start/recoveryOffer.h"
 
 #include "core/runTimeError.h"
 #include "core/translate.h"

@@ -1,4 +1,4 @@
-#include "shell/recentFiles.h"
+#include "shell/start/recentFiles.h"
 
 #include "platform/fileCheck.h"
 

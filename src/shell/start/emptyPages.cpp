@@ -1,4 +1,4 @@
-#include "shell/emptyPages.h"
+#include "shell/start/emptyPages.h"
 
 #include "app/windowState.h"
 #include "core/translate.h"

@@ -1,4 +1,4 @@
-#include "shell/templates.h"
+#include "shell/start/templates.h"
 
 #include "core/text.h"
 #include "core/translate.h"
