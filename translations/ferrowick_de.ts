@@ -3905,6 +3905,10 @@ Eine Datenbank ist eine Datei; ihr Name endet auf .fwk.</translation>
         <translation>Das Bild %1 ist zu groß.</translation>
     </message>
     <message>
+        <source>The picture cannot be read, or is too large.</source>
+        <translation>Das Bild ist nicht lesbar oder zu groß.</translation>
+    </message>
+    <message>
         <source>The picture could not be added to the database: %1</source>
         <translation>Das Bild konnte der Datenbank nicht hinzugefügt werden: %1</translation>
     </message>

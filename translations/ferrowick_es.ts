@@ -3905,6 +3905,10 @@ Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
         <translation>La imagen %1 es demasiado grande.</translation>
     </message>
     <message>
+        <source>The picture cannot be read, or is too large.</source>
+        <translation>La imagen no se puede leer o es demasiado grande.</translation>
+    </message>
+    <message>
         <source>The picture could not be added to the database: %1</source>
         <translation>No se pudo añadir la imagen a la base de datos: %1</translation>
     </message>

@@ -3905,6 +3905,10 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
         <translation>L'image %1 est trop grande.</translation>
     </message>
     <message>
+        <source>The picture cannot be read, or is too large.</source>
+        <translation>L'image est illisible ou trop grande.</translation>
+    </message>
+    <message>
         <source>The picture could not be added to the database: %1</source>
         <translation>L'image n'a pas pu être ajoutée à la base : %1</translation>
     </message>

@@ -2,7 +2,6 @@
 
 #include "app/longWork.h"
 #include "core/number.h"
-#include "core/runTimeError.h"
 #include "core/text.h"
 #include "core/translate.h"
 #include "entry/retrieveData.h"
@@ -16,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 #include <numbers>
 #include <optional>
 #include <vector>
@@ -141,7 +141,8 @@ void LabelRun::drawOutlines(drawing::LineStyle style) {
 class SelectionKept {
 public:
     SelectionKept(App& app, core::RecordsList& list)
-        : app_(app), list_(list), current_(list.selectedItem()), isMulti_(list.MultiSelect) {
+        : app_(app), list_(list), current_(list.selectedItem()), isMulti_(list.MultiSelect),
+          isCurrentSelected_(current_ != nullptr && current_->Selected) {
         list.forEach([&](core::Item& item) {
             if (item.Selected) selected_.push_back(&item);
         });
@@ -153,10 +154,11 @@ public:
         list_.MultiSelect = true;
         for (core::Item* item : selected_) list_.setSelectedItem(item);
         list_.setSelectedItem(current_);
+        if (current_ != nullptr) current_->Selected = isCurrentSelected_;
         list_.MultiSelect = isMulti_;
         try {
             entry::showRecord(app_);
-        } catch (const core::RunTimeError&) { // the sheet shows the last label then
+        } catch (const std::exception&) { // the sheet shows the last label then
             return;
         }
     }
@@ -166,7 +168,7 @@ private:
     core::RecordsList& list_;
     core::Item* current_;
     std::vector<core::Item*> selected_;
-    bool isMulti_;
+    bool isMulti_, isCurrentSelected_;
 };
 
 bool LabelRun::print() {

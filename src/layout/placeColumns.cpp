@@ -58,7 +58,7 @@ void placeBox(App& app, const core::Column& column, const Room& place) {
 
 void placePictures(App& app, const std::vector<const core::Column*>& columns, Room room) {
     const float share = (room.height + gap) / static_cast<float>(columns.size());
-    const float height = std::min(room.width * 0.8F, share - gap);
+    const float height = std::max(std::min(room.width * 0.8F, share - gap), gap);
     for (const core::Column* column : columns) {
         addPictureField(app, column->Text);
         if (core::LayoutObject* box = added(app)) {

@@ -35,6 +35,7 @@ bool isPictureName(const QString& file) {
 }
 
 std::optional<StorablePicture> storablePicture(const QString& file) {
+    if (!QFileInfo(file).isFile()) return std::nullopt; // a pipe would be waited for
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
     const QByteArray format = reader.format();

@@ -75,8 +75,11 @@ std::vector<Command> submenuCommands() {
                        }});
     for (std::size_t place = 0; place < RecentFiles::most; ++place)
         all.push_back({recentItem(place), "", "", "recent", false, [key = recentItem(place)](App& app) {
+                           // A save in between puts another file into this place.
+                           const std::string path = app.mainFrm.control(key).Caption;
+                           if (path.empty()) return;
                            storage::offerToSave(app);
-                           openRecentFile(app, key);
+                           openNamedFile(app, path);
                        }});
     return all;
 }

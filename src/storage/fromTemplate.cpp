@@ -54,9 +54,8 @@ void write(App& app, const std::filesystem::path& from, const std::string& targe
 } // namespace
 
 void newFromTemplate(App& app, const std::filesystem::path& from, const std::string& proposed) {
-    const std::optional<std::string> target =
-        app.platform.showNew({core::tr("Specify Name For New Database"), proposed + ".fwk",
-                              std::string(platform::databaseFilter)});
+    const std::optional<std::string> target = app.platform.showNew(
+        {core::tr("Specify Name For New Database"), proposed + ".fwk", core::tr(platform::databaseFilter)});
     if (!target) return;
     offerToSave(app);
     try {

@@ -143,6 +143,10 @@ private slots:
             QVERIFY(write(damaged) && !gui::noteRecentFile(list, file, now).isEmpty());
             QVERIFY(read() == damaged);
         }
+        // Who takes the right to write from the list wants none kept.
+        QVERIFY(write("<xbel/>") && QFile::setPermissions(list, QFile::ReadOwner));
+        QVERIFY(!gui::noteRecentFile(list, file, now).isEmpty() && read() == "<xbel/>");
+        QVERIFY(QFile::setPermissions(list, QFile::ReadOwner | QFile::WriteOwner));
         QVERIFY(!gui::noteRecentFile(path("absent/list"), file, now).isEmpty());
     }
 

@@ -179,6 +179,7 @@ void CommandActions::addToolbar(QMainWindow& window) {
 }
 
 void CommandActions::showRecentFile(QAction& action, int number, const std::string& path) {
+    if (action.data().isValid() && action.data().toString() == toQt(path)) return; // asked after every event
     constexpr int longestPath = 60; // characters of the menu's font
     const QFontMetrics metrics(action.font());
     const QString shown =

@@ -8,6 +8,7 @@
 #include "shell/tableCommands.h"
 
 #include <QFileInfo>
+#include <QImage>
 #include <QMimeData>
 #include <QUrl>
 
@@ -34,7 +35,9 @@ bool isPicture(const QMimeData& data) {
 void takeDropped(app::App& app, int box, const std::optional<qtprint::StorablePicture>& picture,
                  const std::string& name) {
     if (!picture) {
-        app::warn(app, core::fill(core::tr("The picture %1 cannot be read, or is too large."), {name}));
+        app::warn(app, name.empty()
+                           ? core::tr("The picture cannot be read, or is too large.")
+                           : core::fill(core::tr("The picture %1 cannot be read, or is too large."), {name}));
         return;
     }
     const auto stored = layout::takePicture(app, box, fromQt(picture->name), picture->bytes.toStdString());
@@ -104,13 +107,14 @@ void Drops::drop(QDropEvent& event) {
 
 void Drops::dropPicture(const QMimeData& data, int box) {
     const QString file = draggedFile(data);
-    const auto picture = file.isEmpty() ? qtprint::storablePicture(qvariant_cast<QImage>(data.imageData()),
-                                                                   QStringLiteral("picture"))
-                                        : qtprint::storablePicture(file);
-    const std::string name = fromQt(QFileInfo(file).fileName());
+    const QImage image = file.isEmpty() ? qvariant_cast<QImage>(data.imageData()) : QImage();
+    const auto take = [this, box, file, image] {
+        const auto picture = file.isEmpty() ? qtprint::storablePicture(image, QStringLiteral("picture"))
+                                            : qtprint::storablePicture(file);
+        takeDropped(app_, box, picture, fromQt(QFileInfo(file).fileName()));
+    };
     QMetaObject::invokeMethod(
-        this, [this, box, picture, name] { events_.run([&] { takeDropped(app_, box, picture, name); }); },
-        Qt::QueuedConnection);
+        this, [this, take] { events_.run(take); }, Qt::QueuedConnection);
 }
 
 } // namespace gui

@@ -130,9 +130,8 @@ void MainFrmView::showState() {
 // The caption, with the desktop's own mark of unsaved work behind it. Qt puts that in the place of "[*]".
 void MainFrmView::showCaption() {
     const bool isModified = app_.document.bModified && !app_.document.currentFile.empty();
-    QString caption = toQt(app_.mainFrm.Caption);
-    if (isModified)
-        caption = caption.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) + QLatin1String("[*]");
+    QString caption = toQt(app_.mainFrm.Caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    if (isModified) caption += QLatin1String("[*]");
     setWindowFilePath(toQt(app_.document.currentFile));
     setWindowTitle(caption);
     setWindowModified(isModified);

@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 // The keyboard on a ruler.
 
@@ -135,6 +136,7 @@ double RulerView::lastInches() const {
 }
 
 void RulerView::moveChosenTo(double inches) {
+    if (!std::isfinite(inches)) return;
     if (const Guide* guide = chosenGuide())
         moveChosen(static_cast<float>(inches * twipsPerInch) - guide->line);
 }

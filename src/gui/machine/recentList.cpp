@@ -178,6 +178,10 @@ QString noteRecentFile(const QString& list, const QString& file, const QDateTime
     const std::string path = fromQt(list);
     try {
         const std::string bytes = fromQt(ListCopy(readList(path), file, now).copy());
+        // Whoever has taken the right to write from it wants no list.
+        struct stat before {};
+        if (::stat(path.c_str(), &before) == 0 && (before.st_mode & S_IWUSR) == 0)
+            file::raiseSystemError(EACCES, path);
         // A new list takes the permissions of the one before.
         constexpr mode_t ownersAlone = S_IRUSR | S_IWUSR;
         if (::chmod(path.c_str(), ownersAlone) != 0 && errno != ENOENT) file::raiseSystemError(errno, path);
