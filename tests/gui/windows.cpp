@@ -168,6 +168,13 @@ private slots:
         const QImage light(path("light")), dark(path("dark"));
         QVERIFY(light.size() == QSize(1280, 800) && dark.size() == QSize(640, 400));
         QVERIFY(light.pixelColor(2, 796).lightness() > dark.pixelColor(1, 398).lightness() + 100);
+        // In the language of whoever calls it.
+        const QByteArray locale = qgetenv("LC_ALL");
+        qputenv("LC_ALL", "de_DE.UTF-8");
+        QVERIFY(codeOf("--picture german --size=640x400 --dark books.fwk") == 0);
+        qputenv("LC_ALL", locale);
+        const QRect menus(0, 0, 640, 20);
+        QVERIFY(QImage(path("german")).copy(menus) != dark.copy(menus));
         // The user's settings know nothing of it.
         QVERIFY(platform::SettingsFile().GetSetting("StartUp", "File1").empty());
     }
