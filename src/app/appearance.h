@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "core/localeForm.h"
 
 #include <optional>
 
@@ -15,6 +16,8 @@ struct Appearance {
     ToolbarTexts toolbarTexts = ToolbarTexts::None;
     // Of this run alone, in place of the kept one until the user chooses another.
     std::optional<Theme> themeOfRun;
+    bool bLocaleForm = false; // values are shown and taken in the form of the user's country
+    std::optional<core::LocaleForm> localeForm; // handed in by a window; without one there is no choice
 };
 
 inline Appearance& appearance(App& app) {
@@ -22,6 +25,12 @@ inline Appearance& appearance(App& app) {
 }
 inline const Appearance& appearance(const App& app) {
     return app.rooms.of<Appearance>();
+}
+
+// The form that values are shown in; nullptr while that is the program's own.
+inline const core::LocaleForm* formInUse(const App& app) {
+    const Appearance& look = appearance(app);
+    return look.bLocaleForm && look.localeForm ? &*look.localeForm : nullptr;
 }
 
 } // namespace app

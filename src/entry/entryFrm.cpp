@@ -203,7 +203,7 @@ void entryFrm::FieldBox_Change(int Index, std::string_view text) {
         return;
     }
     const Column* column = columnOf(Index);
-    if (column != nullptr && column->isType(ColumnType::Date)) insertDateSlashes(box(Index));
+    if (column != nullptr && column->isType(ColumnType::Date)) insertDateSlashes(app_, box(Index));
 }
 
 void entryFrm::FieldBox_KeyDown(int Index, int KeyCode) {

@@ -88,7 +88,7 @@ int layoutField_Change(App& app, int index, std::string_view text) {
     const Column* column = columnOf(app.document, field);
     if (column == nullptr || !column->isType(ColumnType::Date)) return -1;
     EntryBox box{field->Tag, field->Text, -1};
-    insertDateSlashes(box);
+    insertDateSlashes(app, box);
     field->Text = box.Text;
     return box.SelStart;
 }

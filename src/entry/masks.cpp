@@ -1,5 +1,6 @@
 #include "entry/masks.h"
 
+#include "app/appearance.h"
 #include "core/number.h"
 #include "core/text.h"
 #include "core/translate.h"
@@ -25,7 +26,8 @@ void completeCurrencyText(app::App& app, EntryBox& box) {
         box.Text = std::string(core::left(box.Text, size - 2)) + "." + std::string(core::right(box.Text, 2));
 }
 
-void insertDateSlashes(EntryBox& box) {
+void insertDateSlashes(const app::App& app, EntryBox& box) {
+    if (app::formInUse(app) != nullptr) return;
     for (const std::size_t place : {2U, 5U}) {
         if (core::length(box.Text) != place) continue;
         box.Text += "/";

@@ -19,8 +19,9 @@ struct EntryBox {
 // and stays.
 void completeCurrencyText(app::App& app, EntryBox& box);
 
-// Puts the slashes of a date behind the second and the fifth character. It knows nothing of digits.
-void insertDateSlashes(EntryBox& box);
+// Puts the slashes of a date behind the second and the fifth character. It knows nothing of digits. In
+// another form than the program's own the separators are put in where the user types (ValueBoxes).
+void insertDateSlashes(const app::App& app, EntryBox& box);
 
 // The first row of theListView, from startRow on, in which some cell contains the text, whatever the
 // case. The Totals row takes part. nullptr when there is none.

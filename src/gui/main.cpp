@@ -4,6 +4,7 @@
 #include "gui/frame/picture.h"
 #include "gui/machine/endSignals.h"
 #include "gui/machine/language.h"
+#include "gui/machine/localeForm.h"
 #include "gui/machine/recentList.h"
 #include "gui/widgets/accessibleRoles.h"
 #include "gui/widgets/icon.h"
@@ -29,6 +30,7 @@ int showWindow(const gui::CommandLine& line) {
     gui::QtPlatform platform;
     shell::Program app(platform);
     app::keepFileSettings(app, platform::FileSettings::defaultFile());
+    app::appearance(app).localeForm = gui::formOf(QLocale::system());
     if (line.dark) app::appearance(app).themeOfRun = app::Theme::Dark;
     gui::MainFrmView window(app, platform);
     // Not with the last window: the disclaimer of the first start closes before the window opens.

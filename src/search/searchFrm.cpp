@@ -67,7 +67,7 @@ void searchFrm::Opt_Click(int group, int option) {
 // so.
 void searchFrm::SearchText_Change(int index) {
     if (isType(groupOf(index), ColumnType::Date))
-        entry::insertDateSlashes(SearchText.at(static_cast<std::size_t>(index)));
+        entry::insertDateSlashes(app_, SearchText.at(static_cast<std::size_t>(index)));
 }
 
 void searchFrm::SearchText_KeyDown(int index, int keyCode) {

@@ -74,7 +74,7 @@ void setValuesFrm::Text1_Change(const std::string& text) {
     const bool isErased = text.size() < Text1.Text.size(); // a slash too, which does not come back then
     Text1.Text = text;
     Text1.SelStart = -1;
-    if (!isErased && !bExpression && isColumn(ColumnType::Date)) entry::insertDateSlashes(Text1);
+    if (!isErased && !bExpression && isColumn(ColumnType::Date)) entry::insertDateSlashes(app_, Text1);
     show();
 }
 

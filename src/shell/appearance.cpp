@@ -61,8 +61,26 @@ void chooseToolbarTexts(App& app, ToolbarTexts wanted) {
     mark(app, toolbarChoices, wanted);
 }
 
+namespace {
+
+void useLocaleForm(App& app, bool bUse) {
+    app::appearance(app).bLocaleForm = bUse;
+    app.mainFrm.control("mnuLocaleForm").Value = bUse;
+}
+
+} // namespace
+
+void toggleLocaleForm(App& app) {
+    useLocaleForm(app, !app::appearance(app).bLocaleForm);
+}
+
+bool hasLocaleForm(const App& app) {
+    return app::appearance(app).localeForm.has_value();
+}
+
 void readAppearance(App& app) {
     app::Appearance& appearance = app::appearance(app);
+    useLocaleForm(app, core::equalsNoCase(app.platform.getSetting("LocaleForm", "False"), "True"));
     appearance.theme = appearance.themeOfRun.value_or(read(app, "Theme", themeChoices));
     mark(app, themeChoices, appearance.theme);
     chooseToolbarTexts(app, read(app, "ToolbarTexts", toolbarChoices));
@@ -72,6 +90,7 @@ void writeAppearance(App& app) {
     const app::Appearance& appearance = app::appearance(app);
     if (!appearance.themeOfRun) write(app, "Theme", themeChoices, appearance.theme);
     write(app, "ToolbarTexts", toolbarChoices, appearance.toolbarTexts);
+    app.platform.saveSetting("LocaleForm", appearance.bLocaleForm ? "True" : "False");
 }
 
 } // namespace shell

@@ -137,6 +137,9 @@ std::vector<Command> viewCommands() {
          canFreezeColumn},
         {"mnuColours", marked("&Colours..."), "", "colours", false, search::mnuColours_Click,
          canFreezeColumn},
+        {"mnuLocaleForm", marked("&Dates And Numbers Of My Country"),
+         marked("Show and take dates, numbers and amounts as your country writes them"), "", true,
+         toggleLocaleForm, hasLocaleForm},
     };
 }
 
@@ -330,7 +333,7 @@ std::span<const Menu> menuBar() {
         {"mnuView",
          marked("&View"),
          {"mnuZoomIn", "mnuZoomOut", "mnuZoomNormal", "-", "mnuFitPage", "mnuFitWidth", "-",
-          "mnuFreezeColumn", "mnuColours", "-", "mnuTheme", "mnuToolbarTexts"}},
+          "mnuFreezeColumn", "mnuColours", "-", "mnuTheme", "mnuToolbarTexts", "mnuLocaleForm"}},
         {"mnuTools",
          marked("&Tools"),
          {"mnuSearch", "mnuSelectedTotals", "mnuExpressionEditor", "-", "mnuSummary", "mnuStatistics", "-",

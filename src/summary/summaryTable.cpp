@@ -1,5 +1,6 @@
 #include "summary/summaryTable.h"
 
+#include "app/appearance.h"
 #include "core/text.h"
 
 #include <algorithm>
@@ -45,6 +46,25 @@ exchange::OutTable tableOf(const Summary& summary, std::string title, std::size_
     table.rows.push_back(std::move(total));
     table.bLastIsTotals = true;
     return table;
+}
+
+Summary shownSummary(const app::App& app, Summary summary) {
+    const core::LocaleForm* form = app::formInUse(app);
+    if (form == nullptr) return summary;
+    std::vector<core::ColumnType> keyTypes;
+    for (const GroupBy& by : summary.request.by) {
+        const core::Column* column = app.document.LV.columns.find(by.column);
+        keyTypes.push_back(column == nullptr ? core::ColumnType::Text : column->type());
+    }
+    const auto show = [&](Group& group) {
+        for (std::size_t i = 0; i < std::min(group.keys.size(), keyTypes.size()); ++i)
+            group.keys[i].label = core::shownIn(*form, keyTypes[i], group.keys[i].label);
+        for (std::size_t i = 0; i < group.figures.size(); ++i)
+            group.figures[i].text = core::shownIn(*form, summary.figureTypes[i], group.figures[i].text);
+    };
+    for (Group& group : summary.groups) show(group);
+    show(summary.total);
+    return summary;
 }
 
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/app.h"
 #include "core/translate.h"
 #include "exchange/sheet.h"
 #include "summary/summary.h"
@@ -15,6 +16,9 @@ std::vector<std::string> headings(const Summary& summary);
 // a group is called is cut where only its beginning is wanted.
 exchange::OutTable tableOf(const Summary& summary, std::string title,
                            std::size_t mostLetters = std::string::npos);
+
+// With the names of groups and the figures in the form that the user sees values in.
+Summary shownSummary(const app::App& app, Summary summary);
 
 // What a bar of a group is as long as: the records for -1, else a figure by its place; nothing where there is
 // none.

@@ -1,5 +1,8 @@
 #include "session.h"
 
+#include "app/appearance.h"
+#include "gui/machine/localeForm.h"
+
 #include <fstream>
 
 using platform::Answer;
@@ -198,6 +201,56 @@ type a@b; press Tab; type Books; press Tab; type text; press Tab; press Space ->
     Text2=Books Text3=text OKButton=*
 press Escape -> ...
 )");
+    }
+
+    // The window converts at its edges; the document has the program's own forms all the time.
+    void valuesInTheFormOfTheCountry() {
+        const DataFile data = DataFile("Name Born:1 Price:2 Qty:4", "Ann|12/31/1999|$1,234.50|2.5;Bo|01/02/2000|$.50|3")
+                                  .section("Totaled Cols", "Price|")
+                                  .objects("F|Born|1440|1440|2000|600;F|Price|1440|2400|2000|600;F|Qty|1440|3360|2000|600");
+        const QString file = database("country.fwk", data);
+        {
+            Session run(file);
+            app::appearance(run.app).localeForm = gui::formOf(QLocale(u"de_DE"_s));
+            run.play(R"(
+tab 1; tab 0; click mnuLocaleForm -> LV.0=>Ann|31.12.1999|1.234,50 €|2,5 LV.1=Bo|02.01.2000|0,50 €|3
+click LV Bo; tab 1 -> Totals=- Properties=- Delete=- page=1 Slider1=2 recordPosition=Record 2 of 2 sheet=3
+    at 19,0 layoutPic2=*(cut) f1=02.01.2000? f2=0,50~€? f3=3
+focus f1; press Ctrl+A; type 31122; press Backspace 2; type 1299 -> f1=31.12.1224|?
+press Tab; press Ctrl+A; press Del; type 1.234,5 -> f2=1.234,5|?
+press Tab; press Ctrl+A; press Del; type 1,5 -> f2=1234,5? f3=1,5|?
+nav Update; tab 0 -> Totals Properties Delete page LV.0=Ann|31.12.1999|1.234,50 €|2,5
+    LV.1=>Bo|31.12.1224|1.234,50 €|1,5 LV.2=-|-|1.234,00 €|- LV=* SB1_5=Document Modified
+press Return -> -LV Formulas=- searchLV.0=>Ann|31.12.1999|1.234,50 €|2,5 searchLV.1=-|-|1.234,50 €|- SB1_1=1
+    records.
+type x; press Tab; press Ctrl+A; type 01022 -> FieldBox0=x FieldBox1=01.02.2|
+press Tab; press Ctrl+A; type 12345 -> FieldBox2=12345|
+press Return -> -LV Formulas=- searchLV.0=>Ann|31.12.1999|1.234,50 €|2,5 searchLV.1=-|-|1.234,50 €|- SB1_1=1
+    records.
+press Escape -> -entryFrm LV=*
+click Search -> ...
+click List1 Born; click SearchText_0; type 31.12.99 -> List1.0=Name List1.1=>Born Opt1_4
+    SearchText_0=31.12.99|
+press Return -> -LV Formulas=- searchLV.0=>Ann|31.12.1999|1.234,50 €|2,5 searchLV.1=-|-|1.234,50 €|- SB1_1=1
+    records.
+press Escape; click LV Ann; click mnuSetValues -> -searchFrm setValuesFrm=Set Values List1=* Opt2_0=x
+    Opt1_1=x preview.0=Ann|Ann|
+focus List1; press Down 3; click Text1; type 4,5 -> List1=3 Text1=4,5| preview.0=Ann|2,5|4,5
+press Escape; click mnuStatistics; focus columnCbo; press Down 2 -> -setValuesFrm statisticsFrm=Column
+    Statistics columnCbo=2* Check1=x List1.0=>Records|1 List1.1=Values|1 List1.2=Empty|0 List1.3=Different
+    values|1 List1.4=Least|1.234,50 € List1.5=Greatest|1.234,50 € List1.6=Mean|1.234,50 €
+    List1.7=Median|1.234,50 € List1.8=Sum|1.234,50 € List2.0=>1.234,50 €|1|
+press Escape; click mnuLocaleForm -> -statisticsFrm searchLV.0=>Ann|12/31/1999|$1,234.50|2.5
+    searchLV.1=-|-|$1,234.50|- searchLV=*
+)");
+            const core::Item& bo = run.app.document.LV.at(2);
+            QCOMPARE(bo.cells[1].view(), std::string_view("12/31/1999"));
+            QCOMPARE(bo.cells[2].view(), std::string_view("$1,234.50"));
+            QCOMPARE(bo.cells[3].view(), std::string_view("1.5"));
+            run.act(u"click mnuLocaleForm; click mnuExit"_s);
+        }
+        Session next(file);
+        QVERIFY(app::appearance(next.app).bLocaleForm);
     }
 
     // What has the keys is seen whole; a click beside the handle scrolls.

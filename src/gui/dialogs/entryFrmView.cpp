@@ -70,9 +70,9 @@ Widget* indexed(const char* name, int index, Widget* widget) {
 } // namespace
 
 entryFrmView::entryFrmView(app::App& app, EventBoundary& events, QWidget* parent)
-    : QDialog(parent), form_(app), app_(app), events_(events), suggestions_(new SuggestionList(this)),
-      srchTxt_(new QLineEdit), Picture1_(new QWidget), Picture2_(new QWidget(Picture1_)),
-      VScroll1_(new QScrollBar(Qt::Vertical)) {
+    : QDialog(parent), form_(app), app_(app), events_(events), values_(app),
+      suggestions_(new SuggestionList(this)), srchTxt_(new QLineEdit), Picture1_(new QWidget),
+      Picture2_(new QWidget(Picture1_)), VScroll1_(new QScrollBar(Qt::Vertical)) {
     setObjectName(QStringLiteral("entryFrm"));
     setWindowTitle(tr("Entry Form"));
     if (isDark(palette())) setPalette(raisedBoxes(palette()));
@@ -208,7 +208,7 @@ void entryFrmView::makeRow(int index) {
     box->setAccessibleName(caption);
     box->installEventFilter(this);
     connect(box, &QLineEdit::textEdited, this, [this, index](const QString& text) {
-        on([&] { form_.FieldBox_Change(index, fromQt(text)); });
+        changed(index, text);
         suggestions_->typed(suggestedBox(index));
     });
     FieldBox_.push_back(box);
@@ -259,10 +259,11 @@ void entryFrmView::showRow(std::size_t index) {
     place(*FieldBox_[index], form_.FieldBox[index]);
     prevChk_[index]->setChecked(form_.prevChk[index].Value);
     const entryFrm::TextBox& box = form_.FieldBox[index];
-    const QString text = toQt(box.Text);
+    const int place = static_cast<int>(index);
+    const QString text = toQt(values_.shown(place, form_.editlbl[index].Caption, box.Text));
     if (FieldBox_[index]->text() == text) return;
     FieldBox_[index]->setText(text);
-    FieldBox_[index]->setCursorPosition(box.SelStart);
+    if (!values_.isTyped(place)) FieldBox_[index]->setCursorPosition(box.SelStart);
 }
 
 void entryFrmView::showScrollBar() {
@@ -294,6 +295,11 @@ void entryFrmView::moveFocus() {
 }
 
 // --- events ---
+
+void entryFrmView::changed(int index, const QString& text) {
+    const std::string& column = form_.editlbl[static_cast<std::size_t>(index)].Caption;
+    on([&] { form_.FieldBox_Change(index, values_.typed(index, column, fromQt(text))); });
+}
 
 void entryFrmView::on(const std::function<void()>& handler) {
     if (showing_ || form_.unloaded) return;
@@ -348,8 +354,10 @@ bool entryFrmView::boxEvent(int index, QEvent& event) {
         focusArrives(index, event);
         return false;
     case QEvent::FocusOut:
-        if (staysInForm(static_cast<QFocusEvent&>(event).reason()))
+        if (staysInForm(static_cast<QFocusEvent&>(event).reason())) {
+            values_.left();
             on([&] { form_.FieldBox_LostFocus(index); });
+        }
         return false;
     default:
         return false;
@@ -360,14 +368,18 @@ SuggestedBox entryFrmView::suggestedBox(int index) {
     QLineEdit* box = FieldBox_[static_cast<std::size_t>(index)];
     const std::string column = form_.editlbl[static_cast<std::size_t>(index)].Caption;
     return {box, [box] { return box->text(); },
-            [this, box, column](bool asked) {
-                return toQt(search::suggestions(app_, column, fromQt(box->text()),
-                                                asked ? search::Asked::ForList : search::Asked::Typing));
+            [this, index, column](bool asked) {
+                const entry::entryFrm::TextBox& typed = form_.FieldBox[static_cast<std::size_t>(index)];
+                QStringList all;
+                for (const std::string& value : search::suggestions(
+                         app_, column, typed.Text, asked ? search::Asked::ForList : search::Asked::Typing))
+                    all << toQt(entry::shownValue(app_, column, value));
+                return all;
             },
             [this, box, index](const QString& value) {
                 box->selectAll();
                 box->insert(value);
-                on([&] { form_.FieldBox_Change(index, fromQt(value)); });
+                changed(index, value);
             }};
 }
 

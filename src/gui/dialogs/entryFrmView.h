@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entry/entryFrm.h"
+#include "entry/valueBoxes.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/widgets/suggestionList.h"
 
@@ -46,6 +47,7 @@ private:
 
     int pixels(float twips) const;
     void place(QWidget& control, const entry::entryFrm::Place& at) const;
+    void changed(int index, const QString& text);
     void showRow(std::size_t index);
     void showScrollBar();
     void moveFocus();
@@ -58,6 +60,7 @@ private:
     entry::entryFrm form_;
     app::App& app_;
     EventBoundary& events_;
+    entry::ValueBoxes values_;
     SuggestionList* suggestions_;
     float pixelsPerTwip_ = 0;
     std::vector<QAction*> Toolbar1_;

@@ -20,7 +20,7 @@ using core::Family;
 using core::ObjectRef;
 
 SheetObjects::SheetObjects(app::App& app, EventBoundary& events, SheetPaper& paper)
-    : QObject(&paper), app_(app), events_(events), paper_(paper),
+    : QObject(&paper), app_(app), events_(events), paper_(paper), values_(app),
       suggestions_(new SuggestionList(paper.parentWidget())) {}
 
 ObjectRef SheetObjects::objectOf(const QObject* widget) const {
@@ -114,12 +114,15 @@ TextBox* SheetObjects::makeField(ObjectRef ref) {
     box->keyDown = [this](int code) { entry::layoutField_KeyDown(app_, code); };
     box->keyPress = [this, index](char32_t character) {
         bool passes = true;
-        events_.run([&] { passes = entry::layoutField_KeyPress(app_, index, character); });
+        events_.run([&] { passes = entry::layoutField_KeyPress(app_, index, values_.key(character)); });
         return passes;
     };
     box->changed = [this, box, index](const QString& text) {
         int caret = -1;
-        events_.run([&] { caret = entry::layoutField_Change(app_, index, fromQt(text)); });
+        const qsizetype typed = text.size(); // of the box itself, which shows another text then
+        events_.run([&] { caret = entry::layoutField_Change(app_, index, valueOf(index, fromQt(text))); });
+        const auto shown = static_cast<int>(box->toPlainText().size());
+        if (values_.isInUse() && shown != typed) caret = shown; // behind the separator of a date
         if (caret >= 0) box->setCaret(caret);
         suggestions_->typed(suggestedBox(*box, index));
     };
@@ -127,8 +130,16 @@ TextBox* SheetObjects::makeField(ObjectRef ref) {
         return suggestions_->keyPress(suggestedBox(*box, index), key);
     };
     box->gotFocus = [this, index] { events_.run([&] { entry::layoutField_GotFocus(app_, index); }); };
-    box->lostFocus = [this, index] { events_.run([&] { entry::layoutField_LostFocus(app_, index); }); };
+    box->lostFocus = [this, index] {
+        values_.left();
+        events_.run([&] { entry::layoutField_LostFocus(app_, index); });
+    };
     return box;
+}
+
+std::string SheetObjects::valueOf(int index, const std::string& typed) {
+    const core::LayoutField* field = app_.document.layout.layoutField.find(index);
+    return field == nullptr ? typed : values_.typed(index, field->Tag, typed);
 }
 
 SuggestedBox SheetObjects::suggestedBox(TextBox& box, int index) {
@@ -144,6 +155,7 @@ SuggestedBox SheetObjects::suggestedBox(TextBox& box, int index) {
                 return character == entry::enterKey || !entry::layoutField_KeyPress(app_, index, character);
             });
         });
+        for (QString& value : all) value = toQt(entry::shownValue(app_, field->Tag, fromQt(value)));
         return all;
     };
     return {&box, [&box] { return box.toPlainText(); }, values,
@@ -174,8 +186,8 @@ core::ObjectFont SheetObjects::zoomed(core::ObjectFont font) const {
 void SheetObjects::showObject(QWidget& widget, const core::LayoutField& field) {
     const bool designing = layout::isDesignMode(app_);
     auto& box = static_cast<TextBox&>(widget);
-    box.show(
-        {toQt(field.Text), zoomed(field), field.ForeColor, field.BackColor, field.align, true, field.Locked});
+    box.show({toQt(values_.shown(field.Index, field.Tag, field.Text)), zoomed(field), field.ForeColor,
+              field.BackColor, field.align, true, field.Locked});
     box.setFocusPolicy(designing ? Qt::NoFocus : Qt::StrongFocus);
     box.viewport()->setCursor(designing ? Qt::ArrowCursor : Qt::IBeamCursor);
     box.setTextInteractionFlags(designing ? Qt::NoTextInteraction : Qt::TextEditorInteraction);

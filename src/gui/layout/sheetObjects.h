@@ -2,6 +2,7 @@
 
 #include "app/app.h"
 #include "core/objectRef.h"
+#include "entry/valueBoxes.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/layout/sheetPaper.h"
 #include "gui/widgets/suggestionList.h"
@@ -49,6 +50,7 @@ private:
                     std::vector<Placed>& placed);
     QWidget* make(core::ObjectRef ref);
     TextBox* makeField(core::ObjectRef ref);
+    std::string valueOf(int index, const std::string& typed);
     SuggestedBox suggestedBox(TextBox& box, int index);
     TextBox* makeLabel(core::ObjectRef ref);
     void place(QWidget& widget, const core::LayoutObject& object) const;
@@ -66,6 +68,7 @@ private:
     app::App& app_;
     EventBoundary& events_;
     SheetPaper& paper_;
+    entry::ValueBoxes values_;
     SuggestionList* suggestions_;
     int zoom_ = 100; // per cent; it is in pixelsPerTwip_ already
     qreal pixelsPerTwip_ = 1;

@@ -47,16 +47,27 @@ RecordsModel::RecordsModel(const core::RecordsList& list, QObject* parent)
 std::vector<RecordsModel::Shown> RecordsModel::columnsNow() const {
     std::vector<Shown> shown;
     for (const core::Column& column : list_.columns)
-        if (column.Index > 1) shown.push_back({column.Text, column.Icon, column.align});
+        if (column.Index > 1) shown.push_back({column.Text, column.Icon, column.align, column.type()});
     return shown;
 }
 
 bool RecordsModel::isStale() const {
-    return arrangement_ != list_.arrangement() || rows_ != list_.count() || columns_ != columnsNow();
+    return form_ != formNow() || arrangement_ != list_.arrangement() || rows_ != list_.count() ||
+           columns_ != columnsNow();
+}
+
+std::optional<core::LocaleForm> RecordsModel::formNow() const {
+    const core::LocaleForm* form = formInUse ? formInUse() : nullptr;
+    return form == nullptr ? std::nullopt : std::optional(*form);
+}
+
+QString RecordsModel::shown(std::size_t section, std::string_view cell) const {
+    return toQt(form_ ? core::shownIn(*form_, columns_[section].type, cell) : cell);
 }
 
 void RecordsModel::reload() {
     beginResetModel();
+    form_ = formNow();
     columns_ = columnsNow();
     rows_ = list_.count();
     arrangement_ = list_.arrangement();
@@ -82,7 +93,7 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole: {
         const core::Item* row = item(index.row());
         if (row == nullptr || section >= row->cells.size()) return {};
-        return toQt(row->cells[section].view());
+        return shown(section, row->cells[section].view());
     }
     case Qt::TextAlignmentRole:
         return qtAlignment(columns_[section].align);
@@ -116,10 +127,12 @@ QVariant RecordsModel::markData(const core::Item& row, int section, int role) co
     if (rule == nullptr) return {};
     if (role == Qt::BackgroundRole) return colourGround(rule->colour);
     if (role == markRole) return colourMark(rule->colour);
-    const QString reason = toQt(search::ruleText(*rule, column.type()));
+    search::ColourRule told = *rule;
+    for (std::string* value : {&told.value, &told.upTo}) *value = fromQt(shown(place, *value));
     const bool isTip = role == Qt::ToolTipRole;
-    return QStringLiteral("%1: %2").arg(
-        toQt(isTip ? std::string_view(columns_[place].text) : row.cells[place].view()), reason);
+    return QStringLiteral("%1: %2").arg(isTip ? toQt(columns_[place].text)
+                                              : shown(place, row.cells[place].view()),
+                                        toQt(search::ruleText(told, column.type())));
 }
 
 QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "core/localeForm.h"
 #include "core/recordsList.h"
 #include "search/colourRules.h"
 
 #include <QAbstractTableModel>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace gui {
@@ -26,7 +28,10 @@ public:
     // The rule that marks a cell, if there is one. Asked whenever a cell is drawn.
     std::function<const search::ColourRule*(const core::Column& column, std::string_view cell)> markOf;
 
-    // The rows or columns are other ones than those that Qt knows.
+    // The form that cells are shown in; nullptr for their own.
+    std::function<const core::LocaleForm*()> formInUse;
+
+    // The rows, the columns or the form are other ones than those that Qt knows.
     bool isStale() const;
     void reload();
 
@@ -40,14 +45,18 @@ private:
         std::string text;
         std::string icon;
         core::Alignment align;
+        core::ColumnType type;
         bool operator==(const Shown&) const = default;
     };
     std::vector<Shown> columnsNow() const;
+    std::optional<core::LocaleForm> formNow() const;
+    QString shown(std::size_t section, std::string_view cell) const;
     const core::Item* item(int row) const;
     QVariant markData(const core::Item& row, int section, int role) const;
 
     const core::RecordsList& list_;
     std::vector<Shown> columns_;
+    std::optional<core::LocaleForm> form_;
     int rows_ = 0;
     std::uint64_t arrangement_ = 0;
 };

@@ -1,5 +1,6 @@
 #include "gui/records/recordsView.h"
 
+#include "app/appearance.h"
 #include "app/looks.h"
 #include "gui/records/listLook.h"
 #include "gui/records/recordsHeader.h"
@@ -38,6 +39,7 @@ RecordsView::RecordsView(app::App& app, core::RecordsList& list, EventBoundary& 
     model_->markOf = [this](const core::Column& column, std::string_view cell) {
         return search::markOf(app_, column, cell);
     };
+    model_->formInUse = [this] { return app::formInUse(app_); };
     setModel(model_);
 
     RecordsHeader* columns = header_;

@@ -18,7 +18,7 @@ ReportPage::ReportPage(app::App& app, EventBoundary& events, CommandActions& act
       records_(new QWidget), invoiceFrame_(makeInvoiceFrame(events)), filter_(new FilterBar(app, events)),
       shownList_(new QStackedWidget), listStates_{&app.document.LV, &app.document.iLV,
                                                   &app.document.searchLV},
-      sums_(new SelectedTotalsView(app.document.LV3)) {
+      sums_(new SelectedTotalsView(app)) {
     const std::array<QString, 3> names = {tr("Records"), tr("Items and invoices"), tr("Search results")};
     for (std::size_t i = 0; i < lists_.size(); ++i) {
         lists_[i] = new RecordsView(app, *listStates_[i], events);

@@ -1,5 +1,6 @@
 #include "gui/records/selectedTotalsView.h"
 
+#include "entry/valueBoxes.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 
@@ -7,9 +8,9 @@
 
 namespace gui {
 
-SelectedTotalsView::SelectedTotalsView(const core::RecordsList& list, QWidget* parent)
-    : QTreeWidget(parent), list_(list) {
-    setObjectName(toQt(list.Name));
+SelectedTotalsView::SelectedTotalsView(const app::App& app, QWidget* parent)
+    : QTreeWidget(parent), app_(app), list_(app.document.LV3) {
+    setObjectName(toQt(list_.Name));
     setAccessibleName(tr("Sums of the selected records"));
     setColumnCount(2);
     setHeaderLabels({tr("Column"), tr("Sum of the selected records")});
@@ -29,8 +30,11 @@ void SelectedTotalsView::refresh() {
     int row = 0;
     list_.forEach([&](const core::Item& sum) {
         QTreeWidgetItem* shown = topLevelItem(row++);
-        shown->setText(0, toQt(sum.Text.view()));
-        shown->setText(1, sum.cells.empty() ? QString() : toQt(sum.cells.front().view()));
+        const std::string_view column = sum.Text.view();
+        shown->setText(0, toQt(column));
+        shown->setText(1, sum.cells.empty()
+                              ? QString()
+                              : toQt(entry::shownValue(app_, column, sum.cells.front().view())));
         shown->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/recordsList.h"
+#include "app/app.h"
 
 #include <QTreeWidget>
 
@@ -11,12 +11,13 @@ class SelectedTotalsView : public QTreeWidget {
     Q_OBJECT
 
 public:
-    explicit SelectedTotalsView(const core::RecordsList& list, QWidget* parent = nullptr);
+    explicit SelectedTotalsView(const app::App& app, QWidget* parent = nullptr);
 
     void refresh();
     QSize sizeHint() const override;
 
 private:
+    const app::App& app_;
     const core::RecordsList& list_;
 };
 

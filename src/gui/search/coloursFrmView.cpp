@@ -18,7 +18,7 @@ QStringList entriesOf(const QComboBox& box) {
 } // namespace
 
 coloursFrmView::coloursFrmView(app::App& app, EventBoundary& events, QWidget* parent)
-    : FormView(events, "coloursFrm", tr("Colours"), parent), form_(app),
+    : FormView(events, "coloursFrm", tr("Colours"), parent), values_(app), form_(app),
       List1_(named("List1", new QComboBox)), Label1_(named("Label1", new QLabel)) {
     auto* caption = new QLabel(tr("Cells of the colu&mn"));
     caption->setBuddy(List1_);
@@ -73,10 +73,18 @@ void coloursFrmView::makeRow(QGridLayout& grid, std::size_t index) {
             [this, index](int entry) { on([&] { form_.Combo1_Click(index, entry); }); });
     connect(row.Combo2, &QComboBox::activated, this,
             [this, index](int entry) { on([&] { form_.Combo2_Click(index, entry); }); });
-    connect(row.Text1, &QLineEdit::textEdited, this,
-            [this, index](const QString& text) { on([&] { form_.Text1_Change(index, fromQt(text)); }); });
-    connect(row.Text2, &QLineEdit::textEdited, this,
-            [this, index](const QString& text) { on([&] { form_.Text2_Change(index, fromQt(text)); }); });
+    const int box = 2 * static_cast<int>(index);
+    connect(row.Text1, &QLineEdit::textEdited, this, [this, index, box](const QString& text) {
+        on([&] { form_.Text1_Change(index, values_.typed(box, columnName(), fromQt(text))); });
+    });
+    connect(row.Text2, &QLineEdit::textEdited, this, [this, index, box](const QString& text) {
+        on([&] { form_.Text2_Change(index, values_.typed(box + 1, columnName(), fromQt(text))); });
+    });
+    for (QLineEdit* each : {row.Text1, row.Text2})
+        connect(each, &QLineEdit::editingFinished, this, [this] {
+            values_.left();
+            on([] {});
+        });
     int place = 0;
     for (QWidget* widget : {static_cast<QWidget*>(row.Combo1), static_cast<QWidget*>(row.Text1),
                             static_cast<QWidget*>(row.and_), static_cast<QWidget*>(row.Text2),
@@ -101,8 +109,19 @@ void coloursFrmView::showRow(std::size_t index) {
     row.Text1->setVisible(state.bText1);
     for (QWidget* second : {static_cast<QWidget*>(row.and_), static_cast<QWidget*>(row.Text2)})
         second->setVisible(state.bText2);
-    if (row.Text1->text() != toQt(state.Text1)) row.Text1->setText(toQt(state.Text1));
-    if (row.Text2->text() != toQt(state.Text2)) row.Text2->setText(toQt(state.Text2));
+    const int box = 2 * static_cast<int>(index);
+    showValue(*row.Text1, box, state.Text1);
+    showValue(*row.Text2, box + 1, state.Text2);
+}
+
+std::string coloursFrmView::columnName() const {
+    const auto place = static_cast<std::size_t>(std::max(form_.ListIndex, 0));
+    return place < form_.List1.size() ? form_.List1[place] : std::string();
+}
+
+void coloursFrmView::showValue(QLineEdit& box, int place, const std::string& value) {
+    const QString text = toQt(values_.shown(place, columnName(), value));
+    if (box.text() != text) box.setText(text);
 }
 
 void coloursFrmView::showMembers() {

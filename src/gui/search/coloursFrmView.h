@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entry/valueBoxes.h"
 #include "gui/dialogs/formView.h"
 #include "search/coloursFrm.h"
 
@@ -35,6 +36,10 @@ private:
     void makeRow(QGridLayout& grid, std::size_t index);
     void showRow(std::size_t index);
 
+    std::string columnName() const;
+    void showValue(QLineEdit& box, int place, const std::string& value);
+
+    entry::ValueBoxes values_;
     search::coloursFrm form_;
     QComboBox* List1_;
     std::array<Row, search::mostColourRules> rows_{};

@@ -35,7 +35,7 @@ bool leavesTheBox(const QFocusEvent& event) {
 } // namespace
 
 searchFrmView::searchFrmView(app::App& app, EventBoundary& events, QWidget* parent)
-    : QDialog(parent), events_(events), form_(app) {
+    : QDialog(parent), events_(events), values_(app), form_(app) {
     setObjectName(QStringLiteral("searchFrm"));
     setWindowTitle(tr("Search Data"));
     auto* groups = new QHBoxLayout;
@@ -109,7 +109,7 @@ QLineEdit* searchFrmView::makeBox(int index) {
     connect(box, &QLineEdit::textEdited, this, [this, index, box](const QString& text) {
         run([&] {
             entry::EntryBox& state = form_.SearchText.at(static_cast<std::size_t>(index));
-            state.Text = fromQt(text);
+            state.Text = values_.typed(index, columnOf(index), fromQt(text));
             state.SelStart = box->cursorPosition();
             form_.SearchText_Change(index);
         });
@@ -177,6 +177,7 @@ void searchFrmView::settleLostFocus() {
     if (!lostFocus_) return;
     const int index = *lostFocus_;
     lostFocus_.reset();
+    values_.left();
     events_.run([&] { form_.SearchText_LostFocus(index); });
 }
 
@@ -204,9 +205,11 @@ void searchFrmView::refresh() {
     }
     for (std::size_t index = 0; index < boxes_.size(); ++index) {
         const entry::EntryBox& state = form_.SearchText.at(index);
-        if (fromQt(boxes_.at(index)->text()) == state.Text) continue;
-        boxes_.at(index)->setText(toQt(state.Text));
-        boxes_.at(index)->setCursorPosition(state.SelStart);
+        const int place = static_cast<int>(index);
+        const QString text = toQt(values_.shown(place, columnOf(place), state.Text));
+        if (boxes_.at(index)->text() == text) continue;
+        boxes_.at(index)->setText(text);
+        if (!values_.isTyped(place)) boxes_.at(index)->setCursorPosition(state.SelStart);
     }
 }
 

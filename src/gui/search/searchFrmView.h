@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/app.h"
+#include "entry/valueBoxes.h"
 #include "gui/frame/eventBoundary.h"
 #include "search/searchFrm.h"
 
@@ -37,6 +37,7 @@ private:
     QLineEdit* makeBox(int index);
     QWidget* makeButtons();
     std::optional<int> boxIndex(const QObject* watched) const;
+    std::string columnOf(int index) { return form_.list(index / 2).Text(); }
 
     // Runs a handler, after that of a box that has just lost the focus, and shows what has become of it.
     void run(const std::function<void()>& handler);
@@ -44,6 +45,7 @@ private:
     void refresh();
 
     EventBoundary& events_;
+    entry::ValueBoxes values_;
     search::searchFrm form_;
     std::array<QListWidget*, groupCount> lists_{};
     std::array<std::array<QRadioButton*, optionCount>, groupCount> options_{};

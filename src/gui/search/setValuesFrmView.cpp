@@ -12,7 +12,7 @@
 namespace gui {
 
 setValuesFrmView::setValuesFrmView(app::App& app, EventBoundary& events, QWidget* parent)
-    : FormView(events, "setValuesFrm", tr("Set Values"), parent), form_(app),
+    : FormView(events, "setValuesFrm", tr("Set Values"), parent), app_(app), values_(app), form_(app),
       List1_(named("List1", new QComboBox)), Text1_(named("Text1", new QLineEdit)),
       Label1_(named("Label1", new QLabel)), Label2_(named("Label2", new QLabel)),
       preview_(named("preview", new QTreeWidget)) {
@@ -43,9 +43,13 @@ QWidget* setValuesFrmView::makeValue() {
         connect(button, &QRadioButton::clicked, this,
                 [this, button] { on([&] { form_.Opt2_Click(button == expressionOpt_); }); });
     }
-    connect(Text1_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { on([&] { form_.Text1_Change(fromQt(text)); }); });
-    connect(Text1_, &QLineEdit::editingFinished, this, [this] { on([this] { form_.Text1_LostFocus(); }); });
+    connect(Text1_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        on([&] { form_.Text1_Change(values_.typed(0, columnName(), fromQt(text))); });
+    });
+    connect(Text1_, &QLineEdit::editingFinished, this, [this] {
+        values_.left();
+        on([this] { form_.Text1_LostFocus(); });
+    });
     auto* caption = new QLabel(tr("Set &to:"));
     caption->setBuddy(Text1_);
     auto* typed = new QHBoxLayout;
@@ -83,10 +87,21 @@ QWidget* setValuesFrmView::makePreview() {
     return part;
 }
 
+// Whose values are typed; none where it is an expression, which has no form but its own.
+std::string setValuesFrmView::columnName() const {
+    return form_.bExpression || form_.ListIndex < 0
+               ? std::string()
+               : form_.List1.at(static_cast<std::size_t>(form_.ListIndex));
+}
+
 void setValuesFrmView::showPreview() {
     preview_->clear();
+    const std::string column =
+        form_.ListIndex < 0 ? "" : form_.List1.at(static_cast<std::size_t>(form_.ListIndex));
     for (const search::setValuesFrm::Row& row : form_.preview) {
-        auto* item = new QTreeWidgetItem(preview_, {toQt(row.Record), toQt(row.Before), toQt(row.After)});
+        auto* item = new QTreeWidgetItem(preview_,
+                                         {toQt(row.Record), toQt(entry::shownValue(app_, column, row.Before)),
+                                          toQt(entry::shownValue(app_, column, row.After))});
         for (int place = 0; place < 3; ++place) item->setToolTip(place, item->text(place));
     }
 }
@@ -99,7 +114,7 @@ void setValuesFrmView::showMembers() {
     Opt1_->choose(form_.scope);
     Label1_->setText(toQt(form_.Label1));
     Label2_->setText(toQt(form_.Label2));
-    const QString text = toQt(form_.Text1.Text);
+    const QString text = toQt(values_.shown(0, columnName(), form_.Text1.Text));
     if (Text1_->text() != text) {
         Text1_->setText(text);
         if (form_.Text1.SelStart >= 0) Text1_->setCursorPosition(form_.Text1.SelStart);

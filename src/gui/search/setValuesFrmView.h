@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entry/valueBoxes.h"
 #include "gui/dialogs/formView.h"
 #include "gui/widgets/scopeButtons.h"
 #include "search/setValuesFrm.h"
@@ -28,7 +29,10 @@ private:
     QWidget* makeValue();
     QWidget* makePreview();
     void showPreview();
+    std::string columnName() const;
 
+    app::App& app_;
+    entry::ValueBoxes values_;
     search::setValuesFrm form_;
     QComboBox* List1_;
     QRadioButton *valueOpt_ = nullptr, *expressionOpt_ = nullptr;

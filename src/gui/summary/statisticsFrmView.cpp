@@ -1,5 +1,6 @@
 #include "gui/summary/statisticsFrmView.h"
 
+#include "entry/valueBoxes.h"
 #include "gui/records/listLook.h"
 #include "gui/summary/barDrawing.h"
 #include "gui/widgets/columnLists.h"
@@ -40,7 +41,7 @@ public:
 } // namespace
 
 statisticsFrmView::statisticsFrmView(app::App& app, EventBoundary& events, QWidget* parent)
-    : FormView(events, "statisticsFrm", tr("Column Statistics"), parent), form_(app),
+    : FormView(events, "statisticsFrm", tr("Column Statistics"), parent), app_(app), form_(app),
       columnCbo_(named("columnCbo", new QComboBox)),
       Check1_(named("Check1", new QCheckBox(tr("&Search results only")))),
       List1_(makeList("List1", {tr("Figure"), tr("Value")})),
@@ -85,6 +86,8 @@ void statisticsFrmView::showMembers() {
     Check1_->setChecked(form_.Check1);
     if (shown_ == form_.countings) return;
     shown_ = form_.countings;
+    const std::string ofColumn =
+        form_.columnCbo.empty() ? "" : form_.columnCbo.at(static_cast<std::size_t>(form_.ListIndex));
     const auto add = [](QTreeWidget& list, const std::string& name, const std::string& value) {
         auto* item = new QTreeWidgetItem(&list, {toQt(name), toQt(value)});
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
@@ -93,9 +96,11 @@ void statisticsFrmView::showMembers() {
     };
     List1_->clear();
     List2_->clear();
-    for (const auto& [name, value] : form_.List1) add(*List1_, name, value);
+    for (const auto& [name, value] : form_.List1)
+        add(*List1_, name, entry::shownValue(app_, ofColumn, value));
     for (const summary::FrequentValue& value : form_.List2) {
-        QTreeWidgetItem* item = add(*List2_, value.value, std::to_string(value.count));
+        QTreeWidgetItem* item =
+            add(*List2_, entry::shownValue(app_, ofColumn, value.value), std::to_string(value.count));
         item->setData(2, partRole, static_cast<double>(value.count) / static_cast<double>(form_.mostOfList2));
     }
     const int mostOfName = em() * 12;

@@ -24,6 +24,7 @@ protected:
 private:
     QTreeWidget* makeList(const char* name, const QStringList& headings);
 
+    app::App& app_;
     summary::statisticsFrm form_;
     QComboBox* columnCbo_;
     QCheckBox* Check1_;

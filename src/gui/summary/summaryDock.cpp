@@ -1,5 +1,6 @@
 #include "gui/summary/summaryDock.h"
 
+#include "app/appearance.h"
 #include "gui/records/listLook.h"
 #include "gui/widgets/qtText.h"
 #include "gui/widgets/tickMenu.h"
@@ -202,7 +203,12 @@ void SummaryDock::refresh() {
     if (!isVisible()) return;
     if (panel_.follow()) soon_.start();
     showChoosers();
-    if (shown_ != panel_.countings) showSummary();
+    if (isStale()) showSummary();
+}
+
+bool SummaryDock::isStale() const {
+    const core::LocaleForm* form = app::formInUse(app_);
+    return shown_ != panel_.countings || (form == nullptr ? form_.has_value() : form_ != *form);
 }
 
 void SummaryDock::count() {
@@ -264,10 +270,15 @@ void SummaryDock::fillFigures() {
 
 void SummaryDock::showSummary() {
     const QScopedValueRollback guard(showing_, true);
-    if (shown_ != panel_.countings) {
+    if (isStale()) {
         shown_ = panel_.countings;
+        form_.reset();
+        if (const core::LocaleForm* form = app::formInUse(app_)) {
+            form_ = *form;
+            inForm_ = summary::shownSummary(app_, panel_.summary);
+        }
         const int current = table_->currentIndex().row(), columns = model_->columnCount();
-        model_->show(panel_.summary);
+        model_->show(form_ ? inForm_ : panel_.summary);
         table_->setCurrentIndex(model_->index(std::clamp(current, 0, std::max(0, model_->groups())), 0));
         if (columns != model_->columnCount() || current < 0) fitColumns();
         table_->header()->setSortIndicator(static_cast<int>(panel_.sortColumn),
@@ -278,7 +289,7 @@ void SummaryDock::showSummary() {
         for (QPushButton* button : outputs_) button->setEnabled(!panel_.summary.groups.empty());
     }
     const auto bar = static_cast<std::size_t>(panel_.bars);
-    chart_->showSummary(panel_.summary, panel_.barFigure(),
+    chart_->showSummary(form_ ? inForm_ : panel_.summary, panel_.barFigure(),
                         bar < panel_.barNames.size() ? toQt(panel_.barNames[bar]) : QString());
 }
 

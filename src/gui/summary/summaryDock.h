@@ -47,6 +47,7 @@ private:
     void arrangeChoosers();
     void showChoosers();
     void fillFigures();
+    bool isStale() const;
     void showSummary();
     void fitColumns();
     void sortBy(int column);
@@ -69,7 +70,9 @@ private:
     BarChart* chart_ = nullptr;
     QLabel* note_ = nullptr;
     QTimer soon_;
-    int shown_ = 0; // the counting that is shown
+    int shown_ = 0;                        // the counting that is shown
+    std::optional<core::LocaleForm> form_; // it is shown in
+    summary::Summary inForm_;              // where there is one
     bool showing_ = false;
 };
 
