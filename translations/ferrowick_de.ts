@@ -679,6 +679,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>&amp;Druckdatum</translation>
     </message>
     <message>
+        <source>&amp;Dates And Numbers Of My Country</source>
+        <translation>&amp;Datum und Zahlen wie in meinem Land</translation>
+    </message>
+    <message>
         <source>&amp;Define Columns...</source>
         <translation>Spalten de&amp;finieren...</translation>
     </message>
@@ -3553,6 +3557,10 @@ Eine Datenbank ist eine Datei; ihr Name endet auf .fwk.</translation>
     <message>
         <source>Show all records and close the filter (Esc)</source>
         <translation>Alle Datensätze anzeigen und Filter schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>Show and take dates, numbers and amounts as your country writes them</source>
+        <translation>Daten, Zahlen und Beträge so zeigen und annehmen, wie sie in Ihrem Land geschrieben werden</translation>
     </message>
     <message>
         <source>Show the whole page</source>

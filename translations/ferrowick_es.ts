@@ -679,6 +679,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>&amp;Fecha de impresión</translation>
     </message>
     <message>
+        <source>&amp;Dates And Numbers Of My Country</source>
+        <translation>&amp;Fechas y números de mi país</translation>
+    </message>
+    <message>
         <source>&amp;Define Columns...</source>
         <translation>&amp;Definir columnas...</translation>
     </message>
@@ -3553,6 +3557,10 @@ Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
     <message>
         <source>Show all records and close the filter (Esc)</source>
         <translation>Mostrar todos los registros y cerrar el filtro (Esc)</translation>
+    </message>
+    <message>
+        <source>Show and take dates, numbers and amounts as your country writes them</source>
+        <translation>Mostrar y aceptar fechas, números e importes como se escriben en su país</translation>
     </message>
     <message>
         <source>Show the whole page</source>

@@ -679,6 +679,10 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation>&amp;Date de l'impression</translation>
     </message>
     <message>
+        <source>&amp;Dates And Numbers Of My Country</source>
+        <translation>&amp;Dates et nombres de mon pays</translation>
+    </message>
+    <message>
         <source>&amp;Define Columns...</source>
         <translation>&amp;Définir les colonnes...</translation>
     </message>
@@ -3553,6 +3557,10 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     <message>
         <source>Show all records and close the filter (Esc)</source>
         <translation>Afficher toutes les fiches et fermer le filtre (Échap)</translation>
+    </message>
+    <message>
+        <source>Show and take dates, numbers and amounts as your country writes them</source>
+        <translation>Afficher et accepter les dates, les nombres et les montants comme on les écrit dans votre pays</translation>
     </message>
     <message>
         <source>Show the whole page</source>

@@ -1,7 +1,52 @@
 #include "codes/code.h"
+#include "codes/gif.h"
 #include "table.h"
 
 #include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+// The pixels of a GIF that the codes make, read as any other program reads them.
+std::string pixelsOf(const std::string& gif) {
+    constexpr std::size_t head = 6 + 7 + 6 + 10;
+    const int bits = gif.at(head), clear = 1 << bits;
+    std::string packed, pixels;
+    for (std::size_t at = head + 1; gif.at(at) != 0; at += 1 + static_cast<unsigned char>(gif[at]))
+        packed += gif.substr(at + 1, static_cast<unsigned char>(gif[at]));
+    std::vector<std::string> words;
+    int width = bits + 1, before = clear;
+    for (std::size_t bit = 0;;) {
+        int code = 0;
+        for (int i = 0; i < width; ++i, ++bit) code |= (packed.at(bit / 8) >> (bit % 8) & 1) << i;
+        if (code == clear + 1) return pixels;
+        if (code == clear) {
+            words = {"0", "1", "", "", "", ""};
+            width = bits + 1;
+        } else {
+            const std::string last = before == clear ? "" : words.at(static_cast<std::size_t>(before));
+            const auto place = static_cast<std::size_t>(code);
+            const std::string word = place < words.size() ? words[place] : last + last.at(0);
+            if (!last.empty() && words.size() < 4096) words.push_back(last + word.at(0));
+            pixels += word;
+            if (words.size() == 1U << static_cast<unsigned>(width) && width < 12) ++width;
+        }
+        before = code;
+    }
+}
+
+} // namespace
+
+TEST(Gif, HoldsItsPixels) {
+    std::mt19937 random(5);
+    for (const int size : {1, 2, 7, 60, 300}) {
+        std::string pixels;
+        const bool bNoise = size != 60;
+        for (int i = 0; i < size * size; ++i) pixels += bNoise ? (random() % 2 == 0 ? '1' : '0') : '0';
+        EXPECT_EQ(pixelsOf(codes::blackAndWhiteGif(pixels, size, size)), pixels) << size;
+    }
+}
 
 // What the bars say, or why there are none. Check digits are worked examples of the numbering's own tables.
 TEST(Codes, WhatTheBarsSayOrWhyThereAreNone) {

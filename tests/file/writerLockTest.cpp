@@ -90,6 +90,8 @@ TEST(LockLine, IsOneLineWhateverTheNames) {
     EXPECT_EQ(line, "O'Neil%2C \"A\"%3B%0A%252C,%25b%1B[2J,47,2026-03-14T09:26:53Z;\n");
     EXPECT_EQ(file::readLockLine(line).text(),
               "O'Neil, \"A\"; %2C on %b [2J (process 47) since 2026-03-14 09:26:53 UTC");
+    EXPECT_EQ(file::readLockLine(file::lockLine({"me;", "here%", 1, "2026-03-14T09:26:53Z"})).text(),
+              "me; on here% (process 1) since 2026-03-14 09:26:53 UTC"); // what is escaped ends the name
     for (const char* wrong : {"", "a,b,1;", "a,b,1,d", "a,b,c,d;", "a,b,0,d;", "a,b,1,d,e;", "a,,1,d;"})
         EXPECT_FALSE(file::readLockLine(wrong).isKnown()) << wrong;
 }

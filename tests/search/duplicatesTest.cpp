@@ -78,6 +78,17 @@ TEST(Duplicates, AreShownWalkedAndDeleted) {
     EXPECT_EQ(form.Label1, "Choose the columns to compare.");
 }
 
+// One result is one to show.
+TEST(Duplicates, LeaveTheFirstOnShow) {
+    SearchProgram program(DataFile("Name", "Bolt;Nut;Bolt"));
+    program.app.mainFrm.bConfirmDelete = false;
+    duplicatesFrm form(program.app);
+    form.showBtn_Click();
+    form.deleteBtn_Click();
+    EXPECT_EQ(program.app.mainFrm.theListView, &program.app.document.searchLV);
+    EXPECT_EQ(program.found(), "i1");
+}
+
 // In both views of an invoice database; each row of an invoice that is shown goes with it.
 TEST(Duplicates, OfInvoices) {
     for (const bool bItems : {false, true}) {

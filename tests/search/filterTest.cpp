@@ -1,3 +1,4 @@
+#include "app/appearance.h"
 #include "entry/navBar.h"
 #include "search/filter/filterMode.h"
 #include "search/filter/folding.h"
@@ -65,6 +66,27 @@ TEST(Filter, TheLanguage) {
     EXPECT_EQ(program.filter(search::filterPiece("Name", "=", "Fern \"x\"")), "i4");
     EXPECT_EQ(program.filter(std::string(1001, 'x')), "1000+1 The filter is too long?");
     EXPECT_EQ(search::folded("Ǻﬀ ŝ\xFFΌсЁ\xCC\x81\t"), search::folded("aﬀ S\xFFοСе "));
+}
+
+// What is typed in the form of a country, and the filter that it is.
+TEST(Filter, HasValuesInTheFormOfTheUser) {
+    FilterProgram program(DataFile("Name Price:2 Planted:1", "Oak 1,5|$1,200.50|12/31/2015"));
+    app::appearance(program.app).localeForm = {
+        core::LocaleForm::DateOrder::DayMonthYear, '.', ",", ".", "EUR", true, true};
+    for (const bool bInUse : {false, true}) {
+        app::appearance(program.app).bLocaleForm = bInUse;
+        for (const auto& each :
+             table("Planted>=31.12.2015 oak | Price<1.200,50 -> Planted>=12/31/2015 oak | "
+                   "Price<1200.50; Price:1,5..2.000 \"1,5\" -> Price:1.5..2000 \"1,5\"; Planted:=2015 -> "
+                   "Planted:=2015; -Price=\"1,50 EUR\" -> -Price=\"$1.50\"; Planted=\"01.02.2015\"..  -> "
+                   "Planted=\"02/01/2015\".. ; 1,5 -> 1,5; Price>x Planted=1.2.2015 -> Price>x "
+                   "Planted=1.2.2015")) {
+            EXPECT_EQ(search::filterFromForm(program.app, each[0], ""), bInUse ? each[1] : each[0]);
+            const std::string shown = search::filterInForm(program.app, each[1], "");
+            EXPECT_EQ(search::filterFromForm(program.app, shown, ""), each[1]) << shown;
+        }
+    }
+    EXPECT_EQ(search::filterFromForm(program.app, "1,5", "Price"), "1.5");
 }
 
 TEST(Filter, NeedsAColumn) {

@@ -100,10 +100,11 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
                 << key;
         }
     }
-    EXPECT_EQ(those([](std::string_view key) { return shell::command(key).checkable; }),
-              "Search Totals Design mnuFreezeColumn mnuSummary Design mnuConfirmDelete mnuSavePrompt "
-              "mnuCalcHighlight "
-              "mnuLayoutDoubleClick mnuAutoLoad mnuOpenPdf ");
+    EXPECT_EQ(
+        those([](std::string_view key) { return shell::command(key).checkable; }),
+        "Search Totals Design mnuFreezeColumn mnuLocaleForm mnuSummary Design mnuConfirmDelete mnuSavePrompt "
+        "mnuCalcHighlight "
+        "mnuLayoutDoubleClick mnuAutoLoad mnuOpenPdf ");
     const auto disabled = [&](std::string_view key) { return !shell::isCommandEnabled(app, key); };
     const std::string prints = "All_As_Layouts Selected_As_Layouts ";
     const std::string many = "Print_All_As_Multiple_Layouts Print_Selected_Multiple_Layouts "
@@ -119,7 +120,8 @@ TEST_F(MainWindow, TellsWhatIsOpenAndEnablesItsCommands) {
     EXPECT_FALSE(mainFrm.SSTab1Enabled);
     openCopyOf("books.fwk");
     const std::string onPage = "mnuUndo mnuRedo mnuCut "; // nothing to undo, and no page that is designed
-    const std::string view = "mnuZoomNormal mnuFitPage mnuFitWidth "; // of a normal size, and no preview
+    // Of a normal size, no preview, and no country that the machine knows of.
+    const std::string view = "mnuZoomNormal mnuFitPage mnuFitWidth mnuLocaleForm ";
     EXPECT_EQ(those(disabled) + mainFrm.Caption, onPage + view + "Ferrowick - " + document.currentFile);
     openCopyOf("invoices.fwk");
     EXPECT_EQ(those(disabled), many + onPage + "mnuDuplicate mnuMakeCode " + view);

@@ -52,7 +52,8 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
     EXPECT_EQ(
         settings,
         "AutoLoad=False ConfirmDelete=True Disclaimer=True File1= File2= File3= FreezeColumn=False "
-        "HighlightCalc=False LayoutDBLClick=False LayoutZoom=100 ListZoom=100 OpenPdf=False PreviewFit= "
+        "HighlightCalc=False LayoutDBLClick=False LayoutZoom=100 ListZoom=100 LocaleForm=False OpenPdf=False "
+        "PreviewFit= "
         "PreviewZoom=100 SavePrompt=True SnapToGrid=True Theme=Desktop ToolbarTexts=None defaultFile= ");
     for (const std::string toggle : {"True", "False"}) {
         for (auto& [key, value] : platform.settings)
@@ -70,7 +71,7 @@ TEST_F(Start, SettingsAndTheDisclaimerComeAheadOfTheWindow) {
         load(app);
         EXPECT_EQ(platform.log, "read show read ") << "the disclaimer is shown once";
         const auto isPressed = [](const auto& control) { return control.second.Value; };
-        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 10 : 2);
+        EXPECT_EQ(std::ranges::count_if(app.mainFrm.controls, isPressed), toggle == "True" ? 11 : 2);
         shell::Form_QueryUnload(app);
         EXPECT_EQ(platform.settings, before);
     }

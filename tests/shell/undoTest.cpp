@@ -251,6 +251,20 @@ TEST_F(Undo, RandomCommandsAreUndoneAndRedoneToTheByte) {
     }
 }
 
+TEST_F(Undo, TheCurrentRecordStaysTheCurrentResult) {
+    openRecords(false);
+    core::RecordsList &LV = app.document.LV, &results = app.document.searchLV;
+    find("Qty >= 1");
+    ASSERT_GT(results.count(), 3);
+    event([&] { LV.cell(LV.at(2), LV.columns.at(2)) = "other", app::setDocumentModified(app, true); });
+    for (const int row : {1, 3}) {
+        LV.setSelectedItem(&LV.at(row));
+        undo();
+        EXPECT_EQ(results.selectedItem()->Tag, LV.selectedItem()->Key);
+        redo();
+    }
+}
+
 TEST_F(Undo, AWholeDragIsOneStepAndASaveKeepsTheSteps) {
     openRecords(false);
     event([&] { page(true); });

@@ -124,7 +124,8 @@ bool FilterBar::hasKeys() const {
 void FilterBar::take() {
     typed_.stop();
     const std::string scope = columns_->currentIndex() > 0 ? fromQt(columns_->currentText()) : std::string();
-    events_.run([&] { search::setFilter(app_, fromQt(text_->text()), scope); });
+    events_.run(
+        [&] { search::setFilter(app_, search::filterFromForm(app_, fromQt(text_->text()), scope), scope); });
 }
 
 // What is typed and waits is taken before anything else is done.
@@ -196,8 +197,9 @@ void FilterBar::showColumns() {
 
 void FilterBar::showState() {
     const search::FilterBarState& bar = search::filterBar(app_);
-    const QString text = toQt(bar.text);
-    if (!typed_.isActive() && text_->text() != text) text_->setText(text);
+    // What is typed stays as it is while it means the filter.
+    if (!typed_.isActive() && search::filterFromForm(app_, fromQt(text_->text()), bar.scope) != bar.text)
+        text_->setText(toQt(search::filterInForm(app_, bar.text, bar.scope)));
     const QString count = bar.narrows() ? tr("%L1 of %L2").arg(bar.found).arg(bar.all) : QString();
     // What is being typed is nothing to warn of.
     const bool isWrong = bar.error && !bar.error->isUnfinished;
@@ -212,7 +214,8 @@ void FilterBar::showState() {
     underline(0, 0);
     if (isWrong) {
         const auto characters = [&](std::size_t bytes) {
-            return toQt(std::string_view(bar.text).substr(0, bytes)).size();
+            return toQt(search::filterInForm(app_, std::string_view(bar.text).substr(0, bytes), bar.scope))
+                .size();
         };
         const qsizetype from = characters(bar.error->offset);
         underline(from, characters(bar.error->offset + bar.error->size) - from);

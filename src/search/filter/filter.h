@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <string>
@@ -84,6 +85,7 @@ struct Filter {
     std::vector<std::vector<FilterTerm>> alternatives; // one of which must hold, with all of its terms
     std::optional<FilterError> error;                  // and then there are no alternatives
     std::vector<Name> names;                           // in their order
+    std::string rewritten; // the text with its values converted, as far as it can be read
     std::string doubt; // why nothing may be found: "There is no column "Prise"", where that is read as a word
 
     bool empty() const { return alternatives.empty(); } // every record passes
@@ -91,10 +93,13 @@ struct Filter {
 
 constexpr std::size_t longestFilter = 1000; // bytes
 
+// What a value that is compared with a column is read as, or written as.
+using ConvertedValue = std::function<std::string(core::ColumnType type, std::string_view value)>;
+
 // What stands for itself applies to the scope alone, when it is the place of a column; there ">10" needs no
 // name.
 Filter parseFilter(std::string_view text, const FilterColumns& columns, std::chrono::year_month_day today,
-                   int scope = anyColumn);
+                   int scope = anyColumn, const ConvertedValue& converted = {});
 
 // Whether every record that passes "now" passes "before" as well, as far as it is easily seen.
 bool isNarrower(const Filter& now, const Filter& before);

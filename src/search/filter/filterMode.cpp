@@ -1,5 +1,6 @@
 #include "search/filter/filterMode.h"
 
+#include "app/appearance.h"
 #include "app/windowState.h"
 #include "calc/selectedTotals.h"
 #include "core/totalsRow.h"
@@ -179,6 +180,29 @@ const FilterBarState& filterBar(const App& app) {
         bar.all = records(app.document.bInvoiceStyle ? app.document.iLV : app.document.LV);
     }
     return bar;
+}
+
+namespace {
+
+std::string converted(App& app, std::string_view text, std::string_view scope,
+                      std::string (*convert)(const core::LocaleForm&, core::ColumnType, std::string_view)) {
+    const core::LocaleForm* form = app::formInUse(app);
+    if (form == nullptr) return std::string(text);
+    const FilterColumns columns = filterColumns(app.document, sourceList(app.document));
+    return parseFilter(
+               text, columns, app.platform.today(), scopeIn(columns, scope),
+               [&](core::ColumnType type, std::string_view value) { return convert(*form, type, value); })
+        .rewritten;
+}
+
+} // namespace
+
+std::string filterFromForm(App& app, std::string_view typed, std::string_view scope) {
+    return converted(app, typed, scope, core::cellFrom);
+}
+
+std::string filterInForm(App& app, std::string_view text, std::string_view scope) {
+    return converted(app, text, scope, core::shownIn);
 }
 
 Filter parseFilter(const App& app, const RecordsList& list, std::string_view text, std::string_view scope) {

@@ -26,6 +26,11 @@ struct FilterBarState {
 };
 const FilterBarState& filterBar(const app::App& app);
 
+// The text of the bar has values in the form that the user has chosen; the filter's own text, which is kept
+// and compared, has the program's.
+std::string filterFromForm(app::App& app, std::string_view typed, std::string_view scope);
+std::string filterInForm(app::App& app, std::string_view text, std::string_view scope);
+
 // Shows the records that pass as a search shows what it has found; an empty filter shows all records again.
 // With an error the results stay as they are. The current record stays the current one, if it is among those
 // found. A record that is edited stays, whatever it says now, until the filter is set again.

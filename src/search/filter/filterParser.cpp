@@ -23,6 +23,15 @@ bool endsWord(char c) {
     return isBlank(c) || c == '|';
 }
 
+// Blanks would end a value, and so would a bar.
+std::string filterValue(const std::string& text, bool isQuoted) {
+    if (text.empty() || (!isQuoted && std::ranges::none_of(text, endsWord) && !text.starts_with('"')))
+        return text;
+    std::string quoted = "\"";
+    quoted.append(core::replaceAll(text, "\"", "\"\"")).append("\"");
+    return quoted;
+}
+
 enum class Comparison { Colon, Equal, NotEqual, Less, LessOrEqual, Greater, GreaterOrEqual };
 
 struct Operator {
@@ -50,8 +59,9 @@ struct Value {
 
 class Parser {
 public:
-    Parser(std::string_view text, const FilterColumns& columns, std::chrono::year_month_day today, int scope)
-        : text_(text), columns_(columns), today_(today), scope_(scope) {
+    Parser(std::string_view text, const FilterColumns& columns, std::chrono::year_month_day today, int scope,
+           const ConvertedValue& converted)
+        : text_(text), columns_(columns), today_(today), scope_(scope), converted_(converted) {
         names_.reserve(columns.size());
         for (const FilterColumn& column : columns) names_.push_back(folded(column.name));
     }
@@ -73,6 +83,7 @@ public:
         }
         endAlternative();
         if (filter_.error) filter_.alternatives.clear();
+        filter_.rewritten.append(text_.substr(rewrittenTo_));
         return std::move(filter_);
     }
 
@@ -224,7 +235,33 @@ private:
         if (at_ == from) ++at_; // whatever it is
     }
 
-    void addTerm(int column, Comparison comparison, const Value& value, bool isNegated) {
+    // From and to, where it is a range.
+    void convert(int column, Value& value) {
+        if (!converted_ || value.text.empty()) return;
+        const core::ColumnType type = columns_[static_cast<std::size_t>(column)].type;
+        std::string text, written;
+        std::optional<std::size_t> range;
+        std::size_t from = 0;
+        for (const std::size_t end : {value.range.value_or(std::string::npos), value.text.size()}) {
+            if (end == std::string::npos) continue;
+            const std::string side = converted_(type, std::string_view(value.text).substr(from, end - from));
+            text.append(side);
+            written.append(filterValue(side, value.isQuoted));
+            from = end + rangeSign.size();
+            if (end == value.text.size()) break;
+            range = text.size();
+            text.append(rangeSign);
+            written.append(rangeSign);
+        }
+        if (text == value.text) return;
+        filter_.rewritten.append(text_.substr(rewrittenTo_, value.offset - rewrittenTo_)).append(written);
+        rewrittenTo_ = value.offset + value.size;
+        value.text = std::move(text);
+        value.range = range;
+    }
+
+    void addTerm(int column, Comparison comparison, Value value, bool isNegated) {
+        convert(column, value);
         FilterTerm term;
         term.column = column;
         term.isNegated = isNegated != (comparison == Comparison::NotEqual);
@@ -344,6 +381,8 @@ private:
     const FilterColumns& columns_;
     std::chrono::year_month_day today_;
     int scope_;
+    const ConvertedValue& converted_;
+    std::size_t rewrittenTo_ = 0;
     std::vector<std::string> names_; // folded
     std::size_t at_ = 0;
     std::vector<FilterTerm> terms_;
@@ -363,8 +402,8 @@ FilterColumns filterColumns(const core::Document& document, const core::RecordsL
 }
 
 Filter parseFilter(std::string_view text, const FilterColumns& columns, std::chrono::year_month_day today,
-                   int scope) {
-    return Parser(text, columns, today, scope).run();
+                   int scope, const ConvertedValue& converted) {
+    return Parser(text, columns, today, scope, converted).run();
 }
 
 std::string filterPiece(std::string_view column, std::string_view comparison, std::string_view value) {
