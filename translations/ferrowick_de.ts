@@ -2712,6 +2712,10 @@ Freie Software unter der MIT-Lizenz. Ohne jede Gewährleistung.</translation>
         <translation>Megabyte für die Versionen aller Datenbanken</translation>
     </message>
     <message>
+        <source>Menus</source>
+        <translation>Menüs</translation>
+    </message>
+    <message>
         <source>Message To Sender(500 Characters Max):</source>
         <translation>Nachricht (höchstens 500 Zeichen):</translation>
     </message>
@@ -3883,6 +3887,10 @@ Eine Datenbank ist eine Datei; ihr Name endet auf .fwk.</translation>
     <message>
         <source>The open database has changes that are not saved.</source>
         <translation>Die geöffnete Datenbank hat nicht gespeicherte Änderungen.</translation>
+    </message>
+    <message>
+        <source>The page has room for %1 of %2 columns.</source>
+        <translation>Die Seite hat Platz für %1 von %2 Spalten.</translation>
     </message>
     <message>
         <source>The page is filled in for each one.</source>

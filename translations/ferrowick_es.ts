@@ -2712,6 +2712,10 @@ Software libre con licencia MIT. Se ofrece sin ninguna garantía.</translation>
         <translation>Megabytes para las versiones de todas las bases de datos</translation>
     </message>
     <message>
+        <source>Menus</source>
+        <translation>Menús</translation>
+    </message>
+    <message>
         <source>Message To Sender(500 Characters Max):</source>
         <translation>Mensaje (500 caracteres como máximo):</translation>
     </message>
@@ -3883,6 +3887,10 @@ Una base de datos es un solo archivo; su nombre termina en .fwk.</translation>
     <message>
         <source>The open database has changes that are not saved.</source>
         <translation>La base de datos abierta tiene cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>The page has room for %1 of %2 columns.</source>
+        <translation>La página tiene espacio para %1 de %2 columnas.</translation>
     </message>
     <message>
         <source>The page is filled in for each one.</source>

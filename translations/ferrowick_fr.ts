@@ -2712,6 +2712,10 @@ Logiciel libre sous licence MIT, fourni sans aucune garantie.</translation>
         <translation>Mégaoctets pour les versions de toutes les bases</translation>
     </message>
     <message>
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message>
         <source>Message To Sender(500 Characters Max):</source>
         <translation>Message au destinataire (500 caractères max.) :</translation>
     </message>
@@ -3883,6 +3887,10 @@ Une base est un seul fichier ; son nom se termine par .fwk.</translation>
     <message>
         <source>The open database has changes that are not saved.</source>
         <translation>La base ouverte a des modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>The page has room for %1 of %2 columns.</source>
+        <translation>La page a de la place pour %1 colonnes sur %2.</translation>
     </message>
     <message>
         <source>The page is filled in for each one.</source>

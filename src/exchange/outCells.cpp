@@ -179,10 +179,7 @@ std::string columnLetters(std::size_t column) {
 }
 
 void writeBytes(const Target& target, std::string_view bytes) {
-    file::AtomicFile result(target.file, target.like);
-    if (const int error = file::writeAt(result.fd(), bytes.data(), bytes.size(), 0))
-        file::raiseSystemError(error, target.file.string());
-    result.commit();
+    file::replaceFile(target.file, bytes, target.like);
 }
 
 } // namespace exchange

@@ -187,4 +187,12 @@ int AtomicFile::commit() {
     return errno == EIO || errno == ENOSPC || errno == EDQUOT ? errno : 0;
 }
 
+void replaceFile(const std::filesystem::path& file, std::string_view bytes,
+                 const std::filesystem::path& like) {
+    AtomicFile target(file, like);
+    if (const int error = writeAt(target.fd(), bytes.data(), bytes.size(), 0); error != 0)
+        raiseSystemError(error, file.string());
+    target.commit();
+}
+
 } // namespace file

@@ -3,6 +3,7 @@
 #include "file/fileHandle.h"
 
 #include <filesystem>
+#include <string_view>
 #include <sys/types.h>
 
 namespace file {
@@ -47,5 +48,9 @@ private:
     uid_t owner = 0;
     gid_t group = 0;
 };
+
+// A file of these bytes in the place of the target, as AtomicFile puts it there; raises what that raises.
+void replaceFile(const std::filesystem::path& file, std::string_view bytes,
+                 const std::filesystem::path& like = {});
 
 } // namespace file

@@ -1,5 +1,6 @@
 #include "layout/placeColumns.h"
 
+#include "core/translate.h"
 #include "layout/layoutPage.h"
 #include "layout/objects.h"
 #include "layout/selection.h"
@@ -87,6 +88,8 @@ void placeAllColumns(App& app) {
         placePictures(app, pictures, right);
     }
     const auto fit = static_cast<std::size_t>(std::clamp(room.height / pitch, 1.0F, 1000.0F));
+    const std::size_t all = boxes.size();
+    boxes.resize(std::min(all, fit * mostBlocks));
     const std::size_t blocks = std::clamp((boxes.size() + fit - 1) / fit, std::size_t{1}, mostBlocks);
     const std::size_t rows = (boxes.size() + blocks - 1) / blocks;
     const float step = (room.width + gap) / static_cast<float>(blocks);
@@ -97,6 +100,9 @@ void placeAllColumns(App& app) {
                   step - gap, pitch});
     }
     selectNothing(app);
+    if (boxes.size() < all)
+        app::inform(app, core::fill(core::tr("The page has room for %1 of %2 columns."),
+                                    {std::to_string(boxes.size()), std::to_string(all)}));
 }
 
 } // namespace layout

@@ -115,9 +115,7 @@ std::vector<SettingLine> parseSettings(std::string_view text) {
 bool writeSettings(const std::filesystem::path& file, const std::string& text) {
     if (file.empty() || !makePrivateFolder(file.parent_path())) return false;
     try {
-        file::AtomicFile result(file);
-        if (file::writeAt(result.fd(), text.data(), text.size(), 0) != 0) return false;
-        result.commit();
+        file::replaceFile(file, text);
         return true;
     } catch (const core::RunTimeError&) {
         return false;

@@ -71,11 +71,7 @@ public:
             return false;
         }
         try {
-            file::AtomicFile file(path_, database_);
-            const int error =
-                file::writeAt(file.fd(), bytes.data(), static_cast<std::size_t>(bytes.size()), 0);
-            if (error != 0) file::raiseSystemError(error, path_.string());
-            file.commit();
+            file::replaceFile(path_, {bytes.data(), static_cast<std::size_t>(bytes.size())}, database_);
         } catch (const core::RunTimeError& error) {
             failure_ = error.what();
             return false;

@@ -184,7 +184,7 @@ TEST_F(SheetFile, WhatIsWrittenIsReadAgain) {
                          {"Qty", ColumnType::Number, 9, ""},
                          {"S", ColumnType::Calculation, 9, "Qty * 2"},
                          {"Z", ColumnType::Calculation, 9, "Qty * None"}},
-                        {{"x", "2", "4", "$.50"}, {"x", "-", "0", "$1.00"}},
+                        {{" x  y ", "2", "4", "$.50"}, {"x", "-", "0", "$1.00"}},
                         false};
     exchange::writeSheet(path("f.ods"), Format::Ods, sums);
     file::Zip zip;
@@ -192,6 +192,7 @@ TEST_F(SheetFile, WhatIsWrittenIsReadAgain) {
     const std::string text = *zip.readEntry("content.xml", 1 << 20);
     EXPECT_EQ(text.find("of:="), text.rfind("of:=")) << "only where all operands are numbers";
     EXPECT_NE(text.find("\"of:=[.B2]*2\""), std::string::npos);
+    EXPECT_NE(text.find("<text:p><text:s/>x <text:s/>y<text:s/></text:p>"), std::string::npos);
     // What another program shows of a cell is its style: a day, money, places, and no zero in front.
     const OutTable styled{"",
                           {{"D", ColumnType::Date, 9, ""},

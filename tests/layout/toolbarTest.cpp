@@ -1,5 +1,6 @@
 #include "layout/toolbar.h"
 #include "layout/labels.h"
+#include "layout/placeColumns.h"
 #include "layout/rulers.h"
 #include "sheetFixture.h"
 
@@ -171,6 +172,33 @@ TEST_F(Toolbar, LinksOpenWebAndMailAskAboutTheRestAndStartNoPrograms) {
         EXPECT_EQ(follow(c[0]), c[1]) << c[0];
     EXPECT_EQ(follow(longer), "asks " + longer);
     EXPECT_EQ(follow("notes.txt"), "asks ") << "answered No";
+}
+
+TEST_F(Toolbar, AllColumnsFindRoomBetweenTheMargins) {
+    for (const int columns : {1, 9, 40, 70, 200}) {
+        std::string names = "P1:7 P2:7";
+        for (int i = 0; i < columns; ++i) names += " C" + std::to_string(i) + (i % 3 == 0 ? ":1" : "");
+        openSheet({}, true, DataFile(names));
+        told();
+        layout::placeAllColumns(app);
+        std::vector<const core::LayoutObject*> placed;
+        objects.layoutField.forEach([&](const auto& box) { placed.push_back(&box); });
+        const std::size_t boxes = placed.size();
+        EXPECT_EQ(boxes < std::size_t(columns), !told().empty()) << columns;
+        EXPECT_GE(boxes, std::min<std::size_t>(std::size_t(columns), 70));
+        objects.imgHolder.forEach([&](const auto& box) { placed.push_back(&box); });
+        for (std::size_t a = 0; a < placed.size(); ++a) {
+            const core::LayoutObject& one = *placed[a];
+            EXPECT_TRUE(one.Left >= page.marginLeft && one.Left + one.Width <= page.marginRight + 1 &&
+                        one.Top >= page.marginTop && one.Top + one.Height <= page.marginBottom + 1)
+                << columns << " " << a;
+            for (std::size_t b = 0; b < a; ++b)
+                EXPECT_FALSE(
+                    one.Left < placed[b]->Left + placed[b]->Width && placed[b]->Left < one.Left + one.Width &&
+                    one.Top < placed[b]->Top + placed[b]->Height && placed[b]->Top < one.Top + one.Height)
+                    << columns << " " << a << " " << b;
+        }
+    }
 }
 
 TEST_F(Toolbar, GuidesStandWhereTheRulerWasClicked) {

@@ -7,8 +7,16 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
 #include <memory>
+#include <optional>
+#include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 namespace cli {
@@ -40,7 +48,29 @@ void limitWork() {
     }
 }
 
+// What the limits end cannot clear up behind itself. So the work is done by a child, with a folder of its own
+// for all that it unpacks. Answers how the child ended; nothing in the child.
+std::optional<int> workInChild() {
+    std::string folder = (std::filesystem::temp_directory_path() / "ferrowick-thumbnail-XXXXXX").string();
+    if (::mkdtemp(folder.data()) == nullptr) throw Failure(folder, "could not be made");
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::setenv("TMPDIR", folder.c_str(), 1);
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL); // a file manager that gives up ends us alone
+        return std::nullopt;
+    }
+    int status = 0;
+    while (child > 0 && ::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
+    std::error_code ignored; // of a folder for temporary files
+    std::filesystem::remove_all(folder, ignored);
+    if (child < 0) throw Failure("no process could be started");
+    if (WIFSIGNALED(status)) throw Failure("drawing it took too long");
+    return WEXITSTATUS(status);
+}
+
 int drawThumbnail(const ThumbnailOptions& options) {
+    if (const std::optional<int> ended = workInChild()) return *ended;
     limitWork();
     Session session(options.file);
     const auto printer = makePicturePrinter(options.output, options.file, options.pixels);

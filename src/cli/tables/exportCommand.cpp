@@ -91,10 +91,7 @@ std::string tableAsJson(const core::Document& document, const Columns& columns) 
 
 void write(const std::string& file, std::string_view text, const std::string& database) {
     try {
-        file::AtomicFile target(file, database);
-        if (const int error = file::writeAt(target.fd(), text.data(), text.size(), 0))
-            file::raiseSystemError(error, file);
-        target.commit();
+        file::replaceFile(file, text, database);
     } catch (const core::RunTimeError& error) {
         throw Failure(file, std::string("could not be written: ") + error.what());
     }

@@ -144,6 +144,7 @@ void CommandActions::addSubmenu(QMenu& menu, const shell::Submenu& submenu) {
 }
 
 void CommandActions::addMenuBar(QMainWindow& window) {
+    window.menuBar()->setAccessibleName(tr("Menus"));
     for (const shell::Menu& menu : shell::menuBar()) {
         QMenu* shown = window.menuBar()->addMenu(toQt(core::tr(menu.caption)));
         shown->setObjectName(toQt(menu.key));

@@ -14,6 +14,8 @@ QAccessibleInterface* interfaceOf(const QString& className, QObject* object) {
         return new QAccessibleWidget(widget, QAccessible::Canvas);
     if (className == QLatin1String("gui::PreviewPort") || className == QLatin1String("gui::SheetShape"))
         return new QAccessibleWidget(widget, QAccessible::Graphic);
+    // The corner that the window is sized by has a role in Qt that no screen reader knows.
+    if (className == QLatin1String("QSizeGrip")) return new QAccessibleWidget(widget, QAccessible::Separator);
     return nullptr;
 }
 
