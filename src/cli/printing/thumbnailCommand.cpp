@@ -49,7 +49,8 @@ void limitWork() {
 }
 
 // What the limits end cannot clear up behind itself. So the work is done by a child, with a folder of its own
-// for all that it unpacks. Answers how the child ended; nothing in the child.
+// for all that it unpacks; the program that draws makes one more in it, which is cheaper than to tell it not
+// to. Answers how the child ended; nothing in the child.
 std::optional<int> workInChild() {
     std::string folder = (std::filesystem::temp_directory_path() / "ferrowick-thumbnail-XXXXXX").string();
     if (::mkdtemp(folder.data()) == nullptr) throw Failure(folder, "could not be made");
