@@ -2,13 +2,16 @@
 # Makes the pictures of help/ and docs/images/ from the program itself: it opens copies of the samples on a display
 # of its own, presses keys and buttons, and keeps what the windows show. Run it again after a change of the window.
 #
-#     scripts/make-screenshots.sh [PROGRAM]
+#     scripts/make-screenshots.sh [--language CODE] [PROGRAM]
 #
-# PROGRAM is the built ferrowick; without it the newest of build/*/src/gui/ferrowick. Needs Xvfb, openbox, xdotool and
+# In another language than English the pictures go to help/CODE/images, and docs/images stay as they are. PROGRAM is the
+# built ferrowick, with its catalogues; without it the newest of build/*/src/gui/ferrowick. Needs Xvfb, openbox, xdotool and
 # ImageMagick; optipng makes the pictures smaller where it is there. SCREENSHOT_DISPLAY is the display, :97 if not set.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+language=en
+if [[ ${1-} == --language ]]; then language=$2; shift 2; fi
 program=${1:-$(find build -path '*/src/gui/ferrowick' -type f -printf '%T@ %p\n' | sort -rn | head -1 | cut -d' ' -f2)}
 [[ -x $program ]] || { echo "make-screenshots: build the program first" >&2; exit 1; }
 program=$(realpath "$program")
@@ -17,6 +20,12 @@ scratch=$(mktemp -d)
 pids=()
 opened= # the process of the program
 trap 'kill $opened "${pids[@]}" 2>/dev/null || true; rm -rf "$scratch"' EXIT
+
+images=$root/help/images catalogue= locale=C.UTF-8
+if [[ $language != en ]]; then
+    images=$root/help/$language/images catalogue=$root/translations/ferrowick_$language.ts
+    locale=${language}_${language^^}.UTF-8
+fi
 
 readonly width=1000 height=690
 # Where the buttons of the main toolbar are, in pixels of the window.
@@ -27,7 +36,7 @@ readonly toolbarY=38
 export HOME=$scratch/me XDG_CONFIG_HOME=$scratch/me/.config XDG_DATA_HOME=$scratch/me/.local/share
 export XDG_STATE_HOME=$HOME/.local/state
 export XDG_RUNTIME_DIR=$scratch/run DISPLAY=${SCREENSHOT_DISPLAY:-:97} QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 LANGUAGE=
-mkdir -p "$XDG_CONFIG_HOME/ferrowick" "$XDG_DATA_HOME" "$HOME/Documents" help/images docs/images
+mkdir -p "$XDG_CONFIG_HOME/ferrowick" "$XDG_DATA_HOME" "$HOME/Documents" "$images" docs/images
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 printf '[StartUp]\nDisclaimer=True\n' >"$XDG_CONFIG_HOME/ferrowick/ferrowick.conf"
 cp samples/*.fwk "$HOME/Documents/"
@@ -49,10 +58,31 @@ openbox >/dev/null 2>&1 &
 pids+=($!)
 sleep 0.5
 
+# said TEXT: what the window says for it in its language.
+said() {
+    [[ -n $catalogue ]] || { echo "$1"; return; }
+    python3 - "$catalogue" "$1" <<'END'
+import sys, xml.etree.ElementTree as tree
+for each in tree.parse(sys.argv[1]).iter("message"):
+    if each.findtext("source") == sys.argv[2]: sys.exit(print(each.findtext("translation")))
+sys.exit(sys.argv[2] + " is in no catalogue")
+END
+}
+# mnemonic TEXT: the letter that chooses it.
+mnemonic() {
+    local text
+    text=$(said "$1")
+    [[ $text =~ \&(.) ]] && echo "${BASH_REMATCH[1],,}"
+}
+# choose MENU ITEM: of the menu bar.
+choose() { keys "alt+$(mnemonic "$1")" "$(mnemonic "$2")"; }
+
 # window NAME: waits for the window whose title matches, and has the keys go there. Sets $window.
 window() {
+    local name
+    name=$(sed 's/[^ -~]/.*/g' <<<"$1") # letters beyond ASCII are more than one to the search
     for _ in {1..100}; do
-        window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1) && [[ -n $window ]] && break
+        window=$(xdotool search --onlyvisible --name "$name" 2>/dev/null | tail -1) && [[ -n $window ]] && break
         sleep 0.1
     done
     [[ -n $window ]] || { echo "make-screenshots: no window \"$1\" came up" >&2; exit 1; }
@@ -63,7 +93,7 @@ open() { # open [FILE]
     [[ -z $opened ]] || { kill "$opened"; wait "$opened" 2>/dev/null || true; }
     # What was changed for a picture is kept as unsaved work, and would be offered.
     rm -rf "$XDG_DATA_HOME" "$XDG_STATE_HOME"
-    "$program" "$@" 2>/dev/null &
+    LC_ALL=$locale "$program" "$@" 2>/dev/null &
     opened=$!
     window '^Ferrowick'
     main=$window
@@ -117,15 +147,16 @@ shotWithMenu() { # shotWithMenu NAME SIZE
 }
 
 keep() { # keep NAME [MORE...]
-    optimise "$scratch/$1.png" "$root/help/images/$1.png"
-    for more in "${@:2}"; do cp "$root/help/images/$1.png" "$root/docs/images/$more.png"; done
+    optimise "$scratch/$1.png" "$images/$1.png"
+    [[ $language == en ]] || set -- "$1"
+    for more in "${@:2}"; do cp "$images/$1.png" "$root/docs/images/$more.png"; done
     echo "$1.png"
 }
 
 open
 shot start start-page
 press New
-window 'Choose your database format'
+window "$(said 'Choose your database format.')"
 shot new-type
 keys Escape
 
@@ -143,14 +174,14 @@ press Totals
 shot selected-totals
 press Totals
 click 100 266 2
-window '^Entry Form$'
+window "^$(said 'Entry Form')\$"
 shot entry entry-form
 keys Escape
 back
 keys ctrl+Tab
 shot layout layout
 press PageSetup
-window '^Layout Page Setup$'
+window "^$(said 'Layout Page Setup')\$"
 shot layout-setup
 keys Escape
 back
@@ -160,40 +191,36 @@ shot design design
 
 open garden.fwk
 press Properties
-window '^Database Properties$'
+window "^$(said 'Database Properties')\$"
 shot properties
 keys Escape
 back
 press PageSetup
-window '^Report Page Setup$'
+window "^$(said 'Report Page Setup')\$"
 shot report-setup
 keys Escape
 back
-keys alt+e f
-window '^Find and Replace$'
+choose '&Edit' '&Find And Replace'
+window "^$(said 'Find and Replace')\$"
 shot replace
 keys Escape
 back
-keys alt+e m
-window '^Make Code$'
+choose '&Edit' '&Make Code...'
+window "^$(said 'Make Code')\$"
 keys ctrl+a
 write '{Plant}, {Bed}'
 shot make-code
 keys Escape
 back
-click 180 71
+keys ctrl+shift+Tab
 shot preview print-preview
 
 open garden.fwk # what grows on the terrace and costs up to five dollars
 keys ctrl+f
-window '^Search Data$'
-click 30 66
-click 30 285
-click 100 397
+window "^$(said 'Search Data')\$"
+keys b Tab Down Down Tab # the keys go from part to part, wherever those stand in a language
 write Terrace
-click 230 123
-click 230 259
-click 300 397
+keys Tab Tab Home Down Down Down Down Down Down Down Tab Down Tab
 write 5
 keys Return
 shot search search
@@ -203,13 +230,13 @@ shot results search-results
 
 open inventory.fwk
 press Formulas
-window '^Expression Editor$'
+window "^$(said 'Expression Editor')\$"
 click 60 75
 shot expression expression-editor
 keys Escape
 back
-keys alt+t Up Up Up Return
-window '^Choose Columns To Total$'
+keys "alt+$(mnemonic '&Tools')" Up Up Up Return
+window "^$(said 'Choose Columns To Total')\$"
 shot totals
 
 cat >customers.csv <<'END'
@@ -226,19 +253,19 @@ Rosa Stein;19.1.2023;75,00 €;many;70173
 Uwe Vogt;2.2.2024;320,00 €;4;01067
 END
 open
-keys alt+f i
-window '^Import$'
+choose '&File' '&Import...'
+window "^$(said 'Import')\$"
 write "$PWD/customers.csv"
 keys Return
-window '^Import$'
+window "^$(said 'Import')\$"
 shot import
 keys Escape
 back
 
 open library.fwk
-keys alt+f t
-window '^Export$'
-keys alt+p
+choose '&File' 'Expor&t...'
+window "^$(said 'Export')\$"
+keys "alt+$(mnemonic 'With the &pictures, in a folder beside the file')"
 shot export
 keys Escape
 back
@@ -250,8 +277,8 @@ window '^Ferrowick'
 shot labels labels
 
 open addresses.fwk
-keys alt+f b
-window '^Label Wizard$'
+choose '&File' 'La&bel Wizard...'
+window "^$(said 'Label Wizard')\$"
 xdotool type 'avery l716'
 shot label-wizard
 keys Escape
@@ -276,11 +303,12 @@ shot invoice-items
 keys ctrl+Tab
 press Design
 click 370 101
-window '^Item Row Creation Tool$'
+window "^$(said 'Item Row Creation Tool')\$"
 write 8
 for column in 136 150 165 179; do click 40 $column; done
 shot item-rows
 
+[[ $language == en ]] || exit 0
 "$program" --dark --picture "$scratch/dark.png" --size ${width}x$height library.fwk
 optimise "$scratch/dark.png" "$root/docs/images/dark.png"
 
