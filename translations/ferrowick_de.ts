@@ -4385,6 +4385,10 @@ Datensätze: %3</translation>
         <translation>Mit &amp;Bildern, in der Datei</translation>
     </message>
     <message>
+        <source>Without an expression: %1. Tools &gt; Expression Editor says how a column is worked out.</source>
+        <translation>Ohne Ausdruck: %1. Extras &gt; Ausdruckseditor sagt, wie eine Spalte berechnet wird.</translation>
+    </message>
+    <message>
         <source>Words, "a phrase", -without, Column:text, Column&gt;10</source>
         <translation>Wörter, "eine Wortfolge", -ohne, Spalte:Text, Spalte&gt;10</translation>
     </message>

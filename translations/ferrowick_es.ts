@@ -4385,6 +4385,10 @@ Registros: %3</translation>
         <translation>Con las &amp;imágenes, en el archivo</translation>
     </message>
     <message>
+        <source>Without an expression: %1. Tools &gt; Expression Editor says how a column is worked out.</source>
+        <translation>Sin expresión: %1. Herramientas &gt; Editor de expresiones indica cómo se calcula una columna.</translation>
+    </message>
+    <message>
         <source>Words, "a phrase", -without, Column:text, Column&gt;10</source>
         <translation>Palabras, "una frase", -sin, Columna:texto, Columna&gt;10</translation>
     </message>

@@ -4385,6 +4385,10 @@ Fiches : %3</translation>
         <translation>Avec les &amp;images, dans le fichier</translation>
     </message>
     <message>
+        <source>Without an expression: %1. Tools &gt; Expression Editor says how a column is worked out.</source>
+        <translation>Sans expression : %1. Outils &gt; Éditeur d'expressions indique comment une colonne se calcule.</translation>
+    </message>
+    <message>
         <source>Words, "a phrase", -without, Column:text, Column&gt;10</source>
         <translation>Des mots, "une phrase", -sans, Colonne:texte, Colonne&gt;10</translation>
     </message>

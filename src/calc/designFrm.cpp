@@ -2,6 +2,7 @@
 
 #include "app/windowState.h"
 #include "calc/columns.h"
+#include "calc/formulas.h"
 #include "core/number.h"
 #include "core/runTimeError.h"
 #include "core/text.h"
@@ -46,6 +47,26 @@ designFrm::designFrm(app::App& app) : pictureVisible(!app.document.bInvoiceStyle
         }
         List1.push_back(std::move(row));
     }
+}
+
+std::string designFrm::emptyCalculations() const {
+    std::string names;
+    for (const Column& column : app_.document.LV.columns) {
+        const auto isOfColumn = [&](const auto& entry) {
+            const Formula formula(entry.item);
+            return core::equalsNoCase(formula.name, column.Text) && !formula.isUndefined();
+        };
+        if (!column.isType(ColumnType::Calculation) ||
+            std::ranges::any_of(app_.document.formulas, isOfColumn))
+            continue;
+        if (!names.empty()) names.append(", ");
+        names.append(column.Text);
+    }
+    return names.empty()
+               ? names
+               : core::fill(core::tr("Without an expression: %1. Tools > Expression Editor says how "
+                                     "a column is worked out."),
+                            {names});
 }
 
 void designFrm::typeOpt_Click(int index) {

@@ -28,6 +28,9 @@ public:
     bool fieldTxtHasFocus = true; // the view is to put the focus there
     bool unloaded = false;
 
+    // Says which calculation columns stay empty, since nothing says how to work them out; empty for none.
+    std::string emptyCalculations() const;
+
     void typeOpt_Click(int index);
     // The text of the name box has been changed: each blank becomes "_".
     void fieldTxt_Change(std::string_view text);

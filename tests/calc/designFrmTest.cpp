@@ -1,5 +1,6 @@
 #include "calc/designFrm.h"
 #include "layout/layoutPage.h"
+#include "table.h"
 
 #include "calcProgram.h"
 #include "raised.h"
@@ -176,6 +177,16 @@ TEST_F(DesignFrm, WhatBecomesOfFormulas) {
             << c[1];
         EXPECT_EQ(core::replaceAll(cells(LV.at(1)), "Undefined", "U"), c[3].empty() ? "a|1|b|c|" : c[3])
             << c[1];
+    }
+}
+
+TEST_F(DesignFrm, SaysWhichCalculationsAreEmpty) {
+    for (const auto& each :
+         table("Sum,Qty| -> Without an expression: Total.; Sum,Qty|Total,Undefined| -> Without an "
+               "expression: Total.; Total,Sum|SUM,Qty| -> ;  -> Without an expression: Sum, Total.")) {
+        open(DataFile("Qty:4 Sum:5 Total:5", "1||").section("Formulas", each[0]));
+        const std::string told = designFrm(app).emptyCalculations();
+        EXPECT_EQ(told.substr(0, told.find('.') + 1), each[1]) << each[0];
     }
 }
 

@@ -16,7 +16,8 @@ namespace gui {
 
 designFrmView::designFrmView(app::App& app, EventBoundary& events, QWidget* parent)
     : FormView(events, "designFrm", tr("Database Properties"), parent), form_(app),
-      fieldTxt_(named("fieldTxt", new QLineEdit)), List1_(named("List1", new QTreeWidget)) {
+      fieldTxt_(named("fieldTxt", new QLineEdit)), List1_(named("List1", new QTreeWidget)),
+      note_(new QLabel) {
     auto* sides = new QHBoxLayout;
     sides->addLayout(makeLeftSide());
     sides->addSpacing(em() / 2);
@@ -120,6 +121,9 @@ QLayout* designFrmView::makeRightSide() {
     auto* column = new QVBoxLayout;
     column->addWidget(caption);
     column->addWidget(List1_, 1);
+    note_->setTextFormat(Qt::PlainText);
+    note_->setWordWrap(true);
+    column->addWidget(note_);
     return column;
 }
 
@@ -178,6 +182,8 @@ void designFrmView::showMembers() {
         typeOpt_[i]->setChecked(static_cast<int>(i) == form_.typeOpt);
     typeOpt_.back()->setVisible(form_.pictureVisible);
     showRows();
+    note_->setText(toQt(form_.emptyCalculations()));
+    note_->setVisible(!note_->text().isEmpty());
     if (!form_.fieldTxtHasFocus) return;
     form_.fieldTxtHasFocus = false;
     fieldTxt_->setFocus();

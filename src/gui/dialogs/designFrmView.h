@@ -4,6 +4,7 @@
 #include "gui/dialogs/formView.h"
 
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTreeWidget>
@@ -36,6 +37,7 @@ private:
     QLineEdit* fieldTxt_;
     std::array<QRadioButton*, 6> typeOpt_{};
     QTreeWidget* List1_;
+    QLabel* note_; // under the list
 };
 
 } // namespace gui
