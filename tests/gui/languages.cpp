@@ -160,6 +160,26 @@ struct Complaints {
                 !data.contains(text) && !text.contains(names))
                 all << u"not translated: "_s + text + u" in "_s + page.objectName();
     }
+    // Headings and cells that end in dots. What the document holds may.
+    void cutCells(const QWidget& w) {
+        const auto* tree = qobject_cast<const QTreeWidget*>(&w);
+        if (tree == nullptr || language == "pseudo"_L1) return;
+        const QFontMetrics font = tree->fontMetrics();
+        for (int column = 0; column < tree->columnCount(); ++column) {
+            const QHeaderView* heads = tree->header();
+            if (!tree->isHeaderHidden())
+                expect(heads->sectionSize(column) >= font.horizontalAdvance(tree->headerItem()->text(column)),
+                       "cut heading", w);
+            for (int row = 0; row < std::min(tree->topLevelItemCount(), 20); ++row) {
+                const QString text = tree->topLevelItem(row)->text(column);
+                const int room = tree->visualItemRect(tree->topLevelItem(row)).width();
+                if (data.contains(text) || text.contains(QRegularExpression(u"[0-9.]"_s)) || room <= 0)
+                    continue;
+                expect(tree->wordWrap() || heads->sectionSize(column) > font.horizontalAdvance(text),
+                       "cut cell", w);
+            }
+        }
+    }
     // Over another widget, but for a pixel of rounding, beyond its frame, or cut.
     void misplaced(const QWidget& page) {
         for (const QWidget* w : visible(page)) {
@@ -177,6 +197,7 @@ struct Complaints {
             if (w->minimumWidth() > 0) least.setWidth(w->minimumWidth()); // narrower by intention
             const bool isFree = !isHeader && w->minimumHeight() < w->maximumHeight();
             expect(!isFree || w->size().expandedTo(least) == w->size(), "cut", *w);
+            cutCells(*w);
             const auto* bar = qobject_cast<const QScrollBar*>(w);
             expect(bar == nullptr || bar->objectName().isEmpty() || bar->maximum() > 1, "no use", *w);
             const auto* tree = qobject_cast<const QTreeWidget*>(w);

@@ -99,7 +99,10 @@ QLayout* designFrmView::makeRightSide() {
     header->setStretchLastSection(false);
     header->setSectionResizeMode(0, QHeaderView::Stretch);
     // The headings stand whole, also beside a scroll bar, and so does the longest type.
-    const int longestType = fontMetrics().horizontalAdvance(tr("Calculation")) + em();
+    int longestType = 0; // "Calculation", where it is called so
+    for (const QString& type :
+         {tr("Date"), tr("Currency"), tr("Calculation"), tr("Number"), tr("Text"), tr("Picture")})
+        longestType = std::max(longestType, fontMetrics().horizontalAdvance(type) + em());
     int width = header->sectionSizeHint(0) + List1_->verticalScrollBar()->sizeHint().width() +
                 2 * List1_->frameWidth();
     for (const int section : {1, 2, 3}) {
