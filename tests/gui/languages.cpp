@@ -165,6 +165,7 @@ struct Complaints {
         const auto* tree = qobject_cast<const QTreeWidget*>(&w);
         if (tree == nullptr || language == "pseudo"_L1) return;
         const QFontMetrics font = tree->fontMetrics();
+        const int margins = 2 * (tree->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, tree) + 1);
         for (int column = 0; column < tree->columnCount(); ++column) {
             const QHeaderView* heads = tree->header();
             if (!tree->isHeaderHidden())
@@ -175,7 +176,8 @@ struct Complaints {
                 const int room = tree->visualItemRect(tree->topLevelItem(row)).width();
                 if (data.contains(text) || text.contains(QRegularExpression(u"[0-9.]"_s)) || room <= 0)
                     continue;
-                expect(tree->wordWrap() || heads->sectionSize(column) > font.horizontalAdvance(text),
+                expect(tree->wordWrap() ||
+                           heads->sectionSize(column) >= font.horizontalAdvance(text) + margins,
                        "cut cell", w);
             }
         }
