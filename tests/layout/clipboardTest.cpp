@@ -1,4 +1,3 @@
-#include "layout/labels.h"
 #include "sheetFixture.h"
 
 namespace {
@@ -80,10 +79,6 @@ TEST_F(Clipboard, ClipArtBringsItsPicture) {
     for (const char* name : {"data.dat", "../a.gif", "no.gif", "gif"})
         EXPECT_EQ(hostile(name, "QUJD"), "! The picture " + std::string(name) + " cannot be read.");
     EXPECT_EQ(hostile("art.gif", "Q!") + (fs::exists(platform.tempFolder() / "no.gif") ? "!" : ""), none);
-    after("clipPic,1 select"); // what could not be pasted again is not cut
-    fs::resize_file(platform.tempFolder() / "art.gif", (std::size_t{32} << 20) + 1);
-    run("mnuCut");
-    EXPECT_EQ(told() + std::to_string(objects.clipPic.count()), "! The picture art.gif is too large.3");
     fs::remove(app.document.currentFile);
     EXPECT_TRUE(hostile("art.gif", "QUJD").starts_with("! The picture could not be added to the database: "));
 }
@@ -102,11 +97,6 @@ TEST_F(Clipboard, WhatIsNoObjectIsRefused) {
         EXPECT_EQ(
             pasted("B|0|0|9|9|0|1|\n" + c[0] + (c[0][0] == 'F' ? "|False|False|False|Arial|10|0|" : "")),
             "i This database has no " + c[1] + ".");
-    after("Label");
-    layout::tLabel_Change(app.document, 1, std::string(70'000, 'x'));
-    run("mnuCut");
-    EXPECT_EQ(told(), "! This object has a size or a text that cannot be copied.");
-    after("Delete");
     // A lock keeps what it locks, and nothing is meant that is not seen.
     after("pBox,1 click Lock");
     run("mnuCut");
