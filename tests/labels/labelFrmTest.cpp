@@ -120,7 +120,6 @@ TEST_F(Wizard, MovesALayoutThatIsKept) {
     std::string lines;
     file::writeLayoutLines(lines, app.document.layout, "; ");
     EXPECT_EQ(lines, "LN|538|0|500|75|16777215|; B|0|1665|500|500|0|1|; C|art.gif|738|1405|600|600|; ");
-    EXPECT_EQ(labels::labelFrm(app).linesTxt, "{Name}\n{Qty}\n{Made}"); // the other one is not in use
 }
 
 } // namespace

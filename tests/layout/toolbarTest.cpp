@@ -236,12 +236,13 @@ TEST_F(Toolbar, GuidesStandOnTheGridAndStayOnTheSheet) {
     openSheet({}, true);
     for (const auto side : {layout::RulerSide::Above, layout::RulerSide::Left}) {
         const bool isAbove = side == layout::RulerSide::Above;
-        const std::string
-            end = isAbove ? "12240" : "15840",
-            cases = "put 1000 -> 960; to 961 -> 961; put 1000 -> 960; to 960.5 -> 960.5; put 1021 -> "
-                    "1080; put 950 -> 1200; put -500 -> 0; put 1e6 -> END; put 1e6 -> 120; to -3 -> 0; "
-                    "to 1e6 -> END; - -> END; - -> 1200; - -> 1080; - -> 961; + -> 1080; - -> 961; - -> "
-                    "960.5; - -> 0; - -> none; - -> END; + -> none; + -> 0";
+        const std::string end = isAbove ? "12240" : "15840";
+        const char* const cases =
+            "put 1000 -> 960; to 961 -> 961; put 1000 -> 960; to 960.5 -> 960.5; put 1021 -> 1080; put 950 "
+            "-> "
+            "1200; put -500 -> 0; put 1e6 -> END; put 1e6 -> 120; to -3 -> 0; to 1e6 -> END; - -> END; - -> "
+            "1200; - -> 1080; - -> 961; + -> 1080; - -> 961; - -> 960.5; - -> 0; - -> none; - -> END; + -> "
+            "none; + -> 0";
         int index = 0;
         for (const auto& c : table(core::replaceAll(cases, "END", end))) {
             const float place = c[0].size() == 1 ? 0 : std::stof(c[0].substr(c[0].find(' ')));
