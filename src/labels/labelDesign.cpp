@@ -145,19 +145,23 @@ public:
     LinePlacer(core::LayoutObjects& objects, const drawing::TextFont& font, drawing::TextMetrics& metrics)
         : objects_(objects), font_(font), metrics_(metrics) {}
 
-    // `right` is where the last piece ends.
+    // `right` is where the last piece ends. Where there is no room for all, the columns give way: words keep
+    // theirs, with the blanks beside them, unless they alone would take more than half.
     void place(const MeasuredLine& line, double left, double right, double top, double height) {
-        double x = left, needed = 0;
-        for (std::size_t i = 0; i < line.pieces.size(); ++i) needed += needs(line, i);
-        const double scale = needed > right - left && needed > 0 ? (right - left) / needed : 1;
+        double x = left, words = 0, columns = 0;
+        for (std::size_t i = 0; i < line.pieces.size(); ++i)
+            (line.pieces[i].column == nullptr ? words : columns) += needs(line, i);
+        const double room = right - left, needed = words + columns, kept = words <= room / 2 ? words : 0;
+        const double scale = needed > room && needed > kept ? (room - kept) / (needed - kept) : 1;
         for (std::size_t i = 0; i < line.pieces.size(); ++i) {
             const Piece& piece = line.pieces[i];
             const bool isLast = i + 1 == line.pieces.size();
-            const double width = isLast ? std::max(right - x, 1.0) : needs(line, i) * scale;
+            const double share = piece.column == nullptr && kept > 0 ? 1 : scale;
+            const double width = isLast ? std::max(right - x, 1.0) : needs(line, i) * share;
             if (piece.column != nullptr)
                 place(field(*piece.column), x, top, width, height);
             else if (!core::trim(piece.words).empty() || line.pieces.size() == 1)
-                placeWords(piece.words, x, top, width, height);
+                placeWords(piece.words, x, top, width, height, share);
             x += width; // blanks alone are a gap
         }
     }
@@ -177,16 +181,18 @@ private:
         field.align = column.isNumeric() ? core::Alignment::Right : core::Alignment::Left;
         return field;
     }
-    // The blanks around them become gaps.
-    void placeWords(std::string_view words, double x, double top, double width, double height) {
-        const std::string_view behind = core::ltrim(words);
-        const double gap = metrics_.textWidth(font_, words.substr(0, words.size() - behind.size()));
-        const std::string_view bare = core::rtrim(behind);
+    // The blanks around them become gaps, which are told by their width when the label is printed.
+    void placeWords(std::string_view words, double x, double top, double width, double height, double share) {
+        const std::string_view behind = core::ltrim(words), bare = core::rtrim(behind);
+        const double gap = share * metrics_.textWidth(font_, words.substr(0, words.size() - behind.size()));
+        const double gapBehind = share * metrics_.textWidth(font_, behind.substr(bare.size()));
         core::Label& label = objects_.tLabel.load(objects_.tLabel.lowestFreeIndex());
         label.Text = bare;
         constexpr double slack = 1.05, rounding = 30; // of the screen, which would wrap the last letter
+        constexpr double leastGap = 25;               // that counts as one
         const double own = slack * static_cast<double>(metrics_.textWidth(font_, bare)) + rounding;
-        place(label, x + gap, top, std::max(std::min(width - gap, own), 1.0), height);
+        const double most = width - gap - std::min(gapBehind, leastGap);
+        place(label, x + gap, top, std::max(std::min(most, own), 1.0), height);
     }
     template <typename Object>
     void place(Object& object, double x, double top, double width, double height) {

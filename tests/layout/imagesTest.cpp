@@ -1,4 +1,7 @@
 #include "layout/images.h"
+#include "layout/keptPictures.h"
+#include "layout/storedPictures.h"
+#include "raised.h"
 #include "sheetFixture.h"
 
 namespace {
@@ -124,6 +127,49 @@ TEST_F(Images, TheClipboardFillsThePictureThatIsSelected) {
     const std::string name = objects.clipPic[1].Tag;
     EXPECT_EQ(shown(), "bolt.jpg/- cbHolder/- " + name + "/" + name + " "); // the other one waits
     EXPECT_EQ(entry(name) + told(), "quality 75 of bitmap");                // at once
+}
+
+// A picture that is dropped on a holder is one of the record that is shown, as long as nothing is designed.
+TEST_F(Images, AreDroppedWhereThereIsAPicture) {
+    openImages();
+    for (const char* name : {"new.gif", "new-2.gif", "new-3.gif"}) platform.pictures[name] = {3000, 1500};
+    const auto drop = [&](int index, const char* name, const char* bytes) {
+        const std::string stored = layout::takePicture(app, index, name, bytes).value_or("-") + " ";
+        return stored + shown().substr(18) + told();
+    };
+    EXPECT_EQ(drop(3, "new.gif", "one"), "- /- art.gif/- ");
+    EXPECT_EQ(drop(2, "new.png", "one"), "- /- art.gif/- ! The picture new.png cannot be read.");
+    EXPECT_EQ(drop(2, "new.gif", "one"), "new.gif new.gif/new.gif art.gif/- ");
+    EXPECT_EQ(drop(2, "new.gif", "two"), "new-2.gif new-2.gif/new-2.gif art.gif/- ");
+    EXPECT_EQ(entry("new.gif") + entry("new-2.gif"), "onetwo");
+    app.mainFrm.bReadOnly = true;
+    EXPECT_TRUE(drop(2, "new.gif", "three").ends_with("sheet.fwk is open to read only"));
+    after("design");
+    EXPECT_FALSE(layout::takesPicture(app, 2));
+}
+
+// What is saved keeps its picture, and what went can come back.
+TEST_F(Images, AreStoredTogetherAndLeaveWhenNothingNamesThem) {
+    openImages();
+    std::string log;
+    app.changes.follow({app::Change::Writing, app::Change::Written}, [&](auto&) { log += "write "; });
+    const auto store = [&](const std::vector<layout::NewPicture>& pictures, bool bDrop) {
+        layout::keptPictures(app).isKept = bDrop; // an undo
+        layout::storePictures(app, pictures, [&](std::string_view name) { return bDrop && name != "b.gif"; });
+        std::string all = std::exchange(log, {});
+        for (const char* name : {"a.gif", "b.gif", "olt.jpg", "bolt.jpg"}) all += entry(name) + " ";
+        return all;
+    };
+    const std::string saved = "bytes of bolt.jpg ";
+    EXPECT_EQ(
+        store({{"a.gif", "A"}, {"b.gif", "B"}, {"olt.jpg", "C"}, {"bolt.jpg", "?"}, {"a.gif", "?"}}, false),
+        "write write A B C " + saved);
+    EXPECT_EQ(store({{"a.gif", "?"}}, false), "A B C " + saved);
+    EXPECT_EQ(store({{"d.gif", "D"}}, true), "write write (none) B (none) " + saved);
+    layout::takeBackPictures(app);
+    EXPECT_EQ(store({{"b.gif", "?"}}, false) + entry("d.gif"), "A B C " + saved + "(none)");
+    app.mainFrm.bReadOnly = true;
+    EXPECT_EQ(raisedBy([&] { store({{"d.gif", "D"}}, false); }), core::errors::pathAccess);
 }
 
 } // namespace

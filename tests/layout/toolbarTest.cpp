@@ -52,6 +52,8 @@ TEST_F(Toolbar, EveryButtonAddsItsObjectAtTheCommonPlaceInFront) {
                  (field.BackColor == core::white ? " " : "t ");
     });
     EXPECT_EQ(looks, "Name0 Qty1 Price1 Made0 Sum1t ");
+    for (const layout::ToolbarButton& button : layout::toolbarButtons()) // rows are an invoice's
+        EXPECT_EQ(layout::isButtonEnabled(app, button.key), button.key != "-" && button.key != "Rows");
     EXPECT_TRUE(objects.clipPic[1].BorderStyle == 1 && objects.imgHolder[1].BackColor == 0x808080);
 }
 
@@ -227,6 +229,34 @@ TEST_F(Toolbar, GuidesStandWhereTheRulerWasClicked) {
     expect("100 142.5 115; 2880 142.5 2895; ");
     layout::clearGuides(app);
     expect("");
+}
+
+// By the keyboard: "to" moves the guide that was put there last, "+" and "-" go on from it.
+TEST_F(Toolbar, GuidesStandOnTheGridAndStayOnTheSheet) {
+    openSheet({}, true);
+    for (const auto side : {layout::RulerSide::Above, layout::RulerSide::Left}) {
+        const bool isAbove = side == layout::RulerSide::Above;
+        const std::string end = isAbove ? "12240" : "15840";
+        const char* const cases =
+            "put 1000 -> 960; to 961 -> 961; put 1000 -> 960; to 960.5 -> 960.5; put 1021 -> 1080; put 950 "
+            "-> "
+            "1200; put -500 -> 0; put 1e6 -> END; put 1e6 -> 120; to -3 -> 0; to 1e6 -> END; - -> END; - -> "
+            "1200; - -> 1080; - -> 961; + -> 1080; - -> 961; - -> 960.5; - -> 0; - -> none; - -> END; + -> "
+            "none; + -> 0";
+        int index = 0;
+        for (const auto& c : table(core::replaceAll(cases, "END", end))) {
+            const float place = c[0].size() == 1 ? 0 : std::stof(c[0].substr(c[0].find(' ')));
+            if (c[0][0] == 'p') index = layout::insertGuide(app, side, place);
+            if (c[0][0] == 't') layout::moveGuide(app, side, index, place);
+            if (c[0].size() == 1) index = layout::nextGuide(app, side, index, c[0] == "+" ? 1 : -1);
+            const layout::Guide* guide = layout::guidesOn(app, side).find(index);
+            EXPECT_EQ(guide == nullptr ? "none" : texts({guide->line}), c[1]) << c[0] << isAbove;
+            EXPECT_TRUE(!guide || guide->line == (isAbove ? guide->Left + 15 : guide->Top - 15));
+        }
+        layout::removeGuide(app, side, index);
+        for (index = 0; index < 999 && layout::insertGuide(app, side, 0) != 0;) ++index;
+        EXPECT_EQ(index, (isAbove ? 103 : 133) - 4); // each grid line, but for what stands on four
+    }
 }
 
 } // namespace

@@ -15,8 +15,10 @@ using Page = std::vector<drawing::Drawn>;
 // Texts measured by plain rules: a character is half as wide as the font is high, and a line as high as the
 // font. So every place on a page can be told without a font.
 struct PlainMetrics : drawing::TextMetrics {
+    float blank = 1; // of the width of a letter
     float textWidth(const drawing::TextFont& font, std::string_view text) override {
-        return static_cast<float>(core::length(text)) * font.FontSize * 10;
+        const auto blanks = static_cast<float>(std::ranges::count(text, ' '));
+        return (static_cast<float>(core::length(text)) + (blank - 1) * blanks) * font.FontSize * 10;
     }
     float textHeight(const drawing::TextFont& font) override { return font.FontSize * 20; }
 };
