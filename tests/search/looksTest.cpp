@@ -3,7 +3,6 @@
 #include "search/coloursFrm.h"
 #include "search/columnNames.h"
 #include "search/filter/folding.h"
-#include "search/serialCheckFrm.h"
 #include "search/suggestions.h"
 #include "searchProgram.h"
 
@@ -109,75 +108,31 @@ TEST(ColourRules, AreKeptBesideTheDatabase) {
     EXPECT_EQ(marks(), "Red - Blue ");
     program.open(other);
     EXPECT_EQ(marks(), "Red - Blue ");
+    search::setColours(program.app, "Qty", {});
+    EXPECT_EQ(marks(), "- - - ");
     program.openCopyOf("books.fwk");
     EXPECT_EQ(marks(), "- - - ");
 }
 
-// What a marked cell is said to be; the last two tests are of days alone.
+// What a marked cell is said to be.
 TEST(ColourRules, AreToldInWords) {
-    for (const auto& each : table(
-             "4 empty|||Red -> empty; 4 equal|x||Red -> equal to x; 4 above|10||Red -> above 10; 4 below|10||"
-             "Red -> below 10; 2 between|1|2|Red -> between 1 and 2; 1 passed|||Red -> has passed; "
-             "1 near|1||Red -> within 1 day; 1 near| 07||Red -> within  07 days; 1 near|x||Red -> within x "
-             "days; 1 above|2015||Red -> after 2015; 1 below|2015||Red -> before 2015; 1 equal|2015||Red -> "
-             "equal to 2015"))
-        EXPECT_EQ(search::ruleText(rule(std::string_view(each[0]).substr(2)),
-                                   static_cast<ColumnType>(each[0][0] - '0')),
+    for (const auto& each :
+         table("4 empty|||Red -> empty; 4 above|10||Red -> above 10; 4 below|10||Red -> below 10; 2 "
+               "between|1|2|Red -> between 1 and 2; 1 passed|||Red -> has passed; 1 near|1||Red -> within 1 "
+               "day; 1 near|07||Red -> within 07 days; 1 above|2015||Red -> after 2015; 1 below|2015||Red -> "
+               "before 2015; 1 equal|2015||Red -> equal to 2015"))
+        EXPECT_EQ(search::ruleText(rule(std::string_view(each[0]).substr(2)), ColumnType(each[0][0] - '0')),
                   each[1]);
-    std::string names;
-    for (const ColourTest test : search::colourTestsOf(ColumnType::Date))
-        names += search::testName(test, ColumnType::Date) + ", ";
-    EXPECT_EQ(names, "is empty, is equal to, is after, is before, is between, has passed, is within days, ");
-    EXPECT_EQ(search::colourTestsOf(ColumnType::Number).size(), 5U);
-}
-
-TEST(ColourRules, GoWhenTheyAreTakenAndStayForARunWhenTheyAreTooLong) {
-    Program program(DataFile("Name Pic:7", "Bolt|"));
-    program.platform.onForm = [&](std::string_view) {
-        search::coloursFrm form(program.app);
-        EXPECT_EQ(form.List1, (std::vector<std::string>{"Name"}));
-        form.Combo1_Click(0, form.rows[0].Combo1 == 0 ? 2 : 0);
-        form.Text1_Change(0, std::string(1 << 20, 'x'));
-        form.OKButton_Click();
-    };
-    std::string seen;
-    for (int i = 0; i < 3; ++i) {
-        if (i == 2) program.open(DataFile("Pic:7", "a.jpg"));
-        program.run("mnuColours");
-        seen += std::to_string(program.platform.forms.size()) + program.told().substr(0, 42) +
-                std::to_string(program.app.rooms.of<search::ColourBook>().columns.size()) + "|";
-    }
-    EXPECT_EQ(
-        seen,
-        "1i These colours are too long to be kept. T1|20|2i Your database has no columns that could 0|");
+    EXPECT_EQ(search::colourTestsOf(ColumnType::Date).back(), ColourTest::DateNear);
 }
 
 // Both cases of what a filter takes as a letter of the alphabet, or as what the keyboard has.
 TEST(Folding, TakesLettersAsTheKeyboardHasThem) {
     for (const auto& each :
-         table("a\u00A0b\u2009c\u202Fd -> A B C D; Ææ -> AEAE; Þþ -> THTH; ß -> SS; Ĳĳ -> IJIJ; Œœ -> OEOE; "
-               "\u2010\u2011\u2012\u2013\u2014\u2015 -> -----\u2015; ‘’‚ -> '''; “”„ -> \"\"\"; "
-               "ΆάΈέΉή -> ΑΑΕΕΗΗ; ΊίΐΪϊ -> ΙΙΙΙΙ; Όό -> ΟΟ; ΎύΫϋΰ -> ΥΥΥΥΥ; Ώώ -> ΩΩ; Ёё -> ЕЕ; "
-               "e\u0300e\u036F -> EE; e\u0370 -> E\u0370; × -> ×; ạỹ -> AY; \t\x7F| ->   |"))
+         table("a\u00A0b\u2009c\u202Fd -> A B C D; ÆæÞþß -> AEAETHTHSS; ĲĳŒœ -> IJIJOEOE; ‐‑‒–—― -> -----―; "
+               "‘’‚“”„ -> '''\"\"\"; ΆάΈέΉή -> ΑΑΕΕΗΗ; ΊίΐΪϊ -> ΙΙΙΙΙ; ΌόΏώ -> ΟΟΩΩ; ΎύΫϋΰ -> ΥΥΥΥΥ; Ёё -> "
+               "ЕЕ; e\u0300e\u036Fe\u0370× -> EEE\u0370×"))
         EXPECT_EQ(search::folded(each[0]), each[1]) << each[0];
-}
-
-// Ten of the records that share a number are named, and the others counted.
-TEST(SerialCheck, NamesNoMoreThanTen) {
-    std::string records, seen;
-    for (int i = 0; i < 10; ++i) records += "a|1;";
-    for (const char* more : {"", "a|1;a|1;"}) {
-        Program program(DataFile("Name No:4", records + more).section("Increments", "No,1|"));
-        program.run("mnuSerialCheck");
-        EXPECT_EQ(program.platform.forms.size(), 1U);
-        seen += search::serialCheckFrm(program.app).List2.at(0) + "|";
-    }
-    EXPECT_EQ(seen, "1 occurs 10 times: records a, a, a, a, a, a, a, a, a, a|"
-                    "1 occurs 12 times: records a, a, a, a, a, a, a, a, a, a and 2 more|");
-    Program none(DataFile("Name No:4", records));
-    none.run("mnuSerialCheck");
-    EXPECT_EQ(none.told().substr(0, 32) + std::to_string(none.platform.forms.size()),
-              "i No column has serial numbers. 0");
 }
 
 // A name is new in the settings when it is in the file, and the other file keeps the old one.

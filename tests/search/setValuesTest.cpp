@@ -165,35 +165,22 @@ TEST(SetValues, AsksBeforeItEmptiesAndRefusesAsAWhole) {
     SearchProgram program(DataFile("Name Price:2", "a|$1.00;b|$1.00;c|$1.00;d|$1.00;e|$1.00;f|$.00;g|$2.00"));
     program.find("Price <= 1");
     setValuesFrm form(program.app);
-    EXPECT_EQ(form.scope, foundRecords);
     const auto pressed = [&] {
         form.OKButton_Click();
-        return program.told() + " " + program.cell(1, "Name") + program.cell(7, "Name") +
-               program.cell(1, "Price");
+        return program.told() + " " + program.cell(1, "Name") + program.cell(1, "Price");
     };
     program.platform.answers = {platform::Answer::No, platform::Answer::Yes};
-    const std::string question = "? Set Values: Do you want to empty Name in 6 records? No ";
-    EXPECT_EQ(pressed(), question + "ag$1.00");
+    EXPECT_EQ(pressed(), "? Set Values: Do you want to empty Name in 6 records? No a$1.00");
     form.Opt2_Click(true);
-    form.Text1_Change("1 / Price"); // which the preview does not come as far as
+    form.Text1_Change("1 / Price"); // the record is not among those that are shown
     EXPECT_EQ(pressed(),
-              "! Nothing has been set.  The record \"f\" would get no value: Division by zero. ag$1.00");
+              "! Nothing has been set.  The record \"f\" would get no value: Division by zero. a$1.00");
     form.Opt2_Click(false);
     form.Text1_Change("");
-    EXPECT_EQ(pressed(), question + "g$1.00");
+    EXPECT_EQ(pressed(), "? Set Values: Do you want to empty Name in 6 records? No $1.00");
     form.List1_Click(1);
     form.Text1_Change("1234");
-    EXPECT_EQ(pressed() + " " + form.Text1.Text, " g$12.34 12.34");
-    std::string seen;
-    for (const char* columns : {"A", "B:5 C:7", "D"}) {
-        program.open(DataFile(columns, *columns == 'D' ? "" : "1"));
-        program.run("mnuSetValues");
-        seen += program.told().substr(0, 12) + std::to_string(program.platform.forms.size()) + "|";
-    }
-    EXPECT_EQ(seen, "2|i There is n2|i There are 2|");
-    program.open(DataFile("A", "1;2"));
-    program.select({1, 2});
-    EXPECT_EQ(setValuesFrm(program.app).scope, selectedRecords);
+    EXPECT_EQ(pressed() + " " + form.Text1.Text, " $12.34 12.34");
 }
 
 } // namespace
