@@ -94,7 +94,9 @@ BarScale::BarScale(const Summary& summary, int figure) : figure_(figure) {
         least_ = std::min(least_, value);
         greatest_ = std::max(greatest_, value);
     }
-    if (!(room() > 0) || !std::isfinite(room())) greatest_ = least_ + 1;
+    if (room() > 0 && std::isfinite(room())) return;
+    least_ = 0;
+    greatest_ = 1;
 }
 
 Bar BarScale::barOf(const Group& group) const {

@@ -1,5 +1,6 @@
 #include "core/format.h"
 #include "core/number.h"
+#include "exchange/imageSize.h"
 #include "exchange/sheet.h"
 #include "folderFixture.h"
 
@@ -152,12 +153,13 @@ OutTable randomTable(std::mt19937& random, bool bCards) {
 TEST_F(SheetFile, WhatIsWrittenIsReadAgain) {
     std::mt19937 random(20240229);
     for (int round = 0; round < 60; ++round) {
-        for (const char* name : {"t.xlsx", "t.ods", "t.json", "t.sqlite", "t.vcf", "t.tsv"}) {
+        for (const char* name : {"t.xlsx", "t.ods", "t.json", "t.sqlite", "t.vcf", "t.tsv", "t.csv"}) {
             const Format format = *exchange::formatOf(name);
             const OutTable table = randomTable(random, format == Format::Vcard);
             exchange::writeSheet(path(name), format, table);
             const Sheet sheet = read(name);
-            const bool bTotals = format == Format::Xlsx || format == Format::Ods || format == Format::Tsv;
+            const bool bTotals =
+                format != Format::Json && format != Format::Sqlite && format != Format::Vcard;
             const std::size_t rows = table.rows.size() - (table.bLastIsTotals && !bTotals ? 1 : 0);
             ASSERT_EQ(sheet.rows.size(), rows + 1) << name;
             std::vector<std::size_t> place(table.columns.size(), 99); // cards have an order of their own
@@ -216,7 +218,7 @@ TEST_F(SheetFile, WhatIsWrittenIsReadAgain) {
         EXPECT_EQ(raisedBy([&] { exchange::writeSheet(path(name), *exchange::formatOf(name), sums, never); }),
                   core::errors::cancelled);
     EXPECT_EQ(readBytes(path("keep.ods")), "old");
-    EXPECT_EQ(tree(), "f.ods keep.ods t.json t.ods t.sqlite t.tsv t.vcf t.xlsx ");
+    EXPECT_EQ(tree(), "f.ods keep.ods t.csv t.json t.ods t.sqlite t.tsv t.vcf t.xlsx ");
 }
 
 TEST_F(SheetFile, OfOtherPrograms) {
@@ -229,6 +231,7 @@ TEST_F(SheetFile, OfOtherPrograms) {
         "</x:v></x:c><x:c s='2'><x:v>45657.545138888891</x:v></x:c><x:c/><x:c s='3'><x:v>1</x:v></x:c><x:c "
         "s='4'><x:v>-1.5"
         "</x:v></x:c><x:c s='5'><x:v>1.5</x:v></x:c><x:c t='b'><x:v>1</x:v></x:c><x:c "
+        "t='d'><x:v>2024-02-29</x:v></x:c><x:c "
         "t='e'><x:v>#DIV/0!</x:v></x:c><x:c>"
         "<x:v>1E+20</x:v></x:c><x:c><x:f>1/3</x:f><x:v>0.1000000000000000055</x:v></x:c></x:row><x:row "
         "r='9999999'/>";
@@ -236,7 +239,7 @@ TEST_F(SheetFile, OfOtherPrograms) {
     xlsx("b.xlsx", "<row><c s='1'><v>0</v></c><c s='6'><v>2</v></c></row>", "<workbookPr date1904='1'/>");
     EXPECT_EQ(told(read("a.xlsx")),
               "A&B: / s\n|-:|aA b|/D:1900-02-28|X:2024-12-31 13:05:00|D:1900-01-01|N:-1.50|h:36:00:00|"
-              "B:true|#DIV/0!|N:100000000000000000000|N:0.1|/");
+              "B:true|D:2024-02-29|#DIV/0!|N:100000000000000000000|N:0.1|/");
     EXPECT_EQ(told(read("b.xlsx")), "A&B: D:1904-01-01|$:2.00|/");
     xlsx("m.xlsx",
          "<cols><col min='2' max='2' hidden='1'/></cols><sheetData><row><c><v>1</v></c><c><v>2</v></c><c>"
@@ -269,12 +272,19 @@ TEST_F(SheetFile, OfOtherPrograms) {
             "office:value='1'/></table:table-row><table:table-row "
             "table:number-rows-repeated='2'><table:table-cell office:value-type='time' "
             "office:time-value='PT26H05M00S'/>"
-            "<table:table-cell/><table:table-cell office:value-type='percentage' "
+            "<table:table-cell/><table:table-cell office:value-type='boolean' "
+            "office:boolean-value='true'/><table:table-cell "
+            "office:value-type='boolean' office:boolean-value='false'/><table:table-cell "
+            "office:value-type='percentage' "
             "office:value='0.5'><text:p>50.00%</text:p>"
             "</table:table-cell></table:table-row><table:table-row table:number-rows-repeated='1048000'>"
             "<table:table-cell/></table:table-row></table:table>");
-    EXPECT_EQ(told(read("a.ods", 1)), "Two: N:1234.50|X:2024-12-31 13:05:00|X:2024-12-31 13:05:00|-:|a  b "
-                                      "c\n|/h:26:05:00|N:0.5|/h:26:05:00|N:0.5|/");
+    EXPECT_EQ(told(read("a.ods", 1)),
+              "Two: N:1234.50|X:2024-12-31 13:05:00|X:2024-12-31 13:05:00|-:|a  b "
+              "c\n|/h:26:05:00|B:true|B:false|N:0.5|/h:26:05:00|B:true|B:false|N:0.5|/");
+    EXPECT_EQ(exchange::sheetNames(path("a.ods"), Format::Ods), (std::vector<std::string>{"One", "Two"}));
+    EXPECT_EQ(exchange::sheetNames(path("a.xlsx"), Format::Xlsx), std::vector<std::string>{"A&B"});
+    EXPECT_EQ(told(read("a.ods")), "One: ");
     sqlite("a.db", "CREATE TABLE t(\"a b\", d DATE, x BOOLEAN, y REAL, z); INSERT INTO t "
                    "VALUES('12','2024-12-31',1,0.1,x'00');"
                    "CREATE VIEW v AS SELECT d, 1+1 AS two FROM t;");
@@ -310,6 +320,24 @@ TEST_F(SheetFile, OfOtherPrograms) {
             if (raisedBy([&] { got = told(read(file.first)); }) == core::errors::badFileFormat) got = "!";
             EXPECT_EQ(got, c[1]) << c[0];
         }
+}
+
+// "width x height", or "-" of a picture that is none, is cut or has no sound size.
+TEST_F(SheetFile, PicturesTellTheirSizes) {
+    using namespace std::string_literals;
+    const std::string jpeg = "\xFF\xD8\xFF\xE0\0\4ab\xFF\xC4\0\3c\xFF\xC8\0\2\xFF\xCC\0\2"s, dots(26, '.');
+    const std::string cases =
+        "P__\1\2__\3\4\1\1 -> 258x772; P__\xFF\xFF___\1\1\1 -> 65535x1; P_\1_____\1\1\1 -> -; "
+        "P___\1_\1__\1\1 -> -; P_______\1\1\1 -> -; P___\1____\1\1 -> -; P___\1___\1\1 -> -; "
+        "BM................\2\1__\4\3__ -> 258x772; J\xFF\xC0_\x11\10\3\4\1\2= -> 258x772; "
+        "J\xFF\xCF_\x11\10\3\4\1\2= -> 258x772; J\xFE\xC0_\x11\10\3\4\1\2= -> -; = -> -";
+    const std::string png =
+        core::replaceAll(core::replaceAll(cases, "_", "\0"s), "P", "\x89PNG\r\n\x1A\n\0\0\0\rIHDR"s);
+    for (const auto& each : table(core::replaceAll(core::replaceAll(png, "J", jpeg), "=", dots))) {
+        writeBytes(path("picture"), each[0]);
+        const auto found = exchange::imageSize(path("picture"));
+        EXPECT_EQ(found ? std::to_string(found->width) + "x" + std::to_string(found->height) : "-", each[1]);
+    }
 }
 
 TEST_F(SheetFile, HostileFilesAreRefusedInTime) {
@@ -353,6 +381,8 @@ TEST_F(SheetFile, HostileFilesAreRefusedInTime) {
     writeBytes(path("wide.json"), "[[" + many("0,", 16 << 20) + "0]]");
     writeBytes(path("pieces.vcf"), "BEGIN:VCARD\nA" + std::string(60 << 20, ';'));
     writeBytes(path("large.csv"), std::string(65 << 20, 'x'));
+    writeBytes(path("open.csv"), "a,\"b\nc");
+    zip("parts.xlsx", {{"other", ""}});
     xlsx("merged.xlsx",
          "<sheetData><row>" + cell + "</row></sheetData>" + many("<mergeCell ref='A1:EZZ60000'/>", 70'000));
     for (const auto& each : fs::directory_iterator(folder)) {

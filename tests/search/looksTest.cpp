@@ -108,8 +108,31 @@ TEST(ColourRules, AreKeptBesideTheDatabase) {
     EXPECT_EQ(marks(), "Red - Blue ");
     program.open(other);
     EXPECT_EQ(marks(), "Red - Blue ");
+    search::setColours(program.app, "Qty", {});
+    EXPECT_EQ(marks(), "- - - ");
     program.openCopyOf("books.fwk");
     EXPECT_EQ(marks(), "- - - ");
+}
+
+// What a marked cell is said to be.
+TEST(ColourRules, AreToldInWords) {
+    for (const auto& each :
+         table("4 empty|||Red -> empty; 4 above|10||Red -> above 10; 4 below|10||Red -> below 10; 2 "
+               "between|1|2|Red -> between 1 and 2; 1 passed|||Red -> has passed; 1 near|1||Red -> within 1 "
+               "day; 1 near|07||Red -> within 07 days; 1 above|2015||Red -> after 2015; 1 below|2015||Red -> "
+               "before 2015; 1 equal|2015||Red -> equal to 2015"))
+        EXPECT_EQ(search::ruleText(rule(std::string_view(each[0]).substr(2)), ColumnType(each[0][0] - '0')),
+                  each[1]);
+    EXPECT_EQ(search::colourTestsOf(ColumnType::Date).back(), ColourTest::DateNear);
+}
+
+// Both cases of what a filter takes as a letter of the alphabet, or as what the keyboard has.
+TEST(Folding, TakesLettersAsTheKeyboardHasThem) {
+    for (const auto& each :
+         table("a\u00A0b\u2009c\u202Fd -> A B C D; ÆæÞþß -> AEAETHTHSS; ĲĳŒœ -> IJIJOEOE; ‐‑‒–—― -> -----―; "
+               "‘’‚“”„ -> '''\"\"\"; ΆάΈέΉή -> ΑΑΕΕΗΗ; ΊίΐΪϊ -> ΙΙΙΙΙ; ΌόΏώ -> ΟΟΩΩ; ΎύΫϋΰ -> ΥΥΥΥΥ; Ёё -> "
+               "ЕЕ; e\u0300e\u036Fe\u0370× -> EEE\u0370×"))
+        EXPECT_EQ(search::folded(each[0]), each[1]) << each[0];
 }
 
 // A name is new in the settings when it is in the file, and the other file keeps the old one.

@@ -83,3 +83,49 @@ TEST(MakeCode, AllOrNoneUndoneAndMadeAnew) {
     EXPECT_NE(program.app.document.LV.at(2).subItem(3).str(), before);
     EXPECT_EQ(search::codeRuleOf(program.app, "Pic")->source, "{Name}, {Title}");
 }
+
+// Texts that give no code are left out or lose the one that they had, but no picture of the user's own.
+TEST(MakeCode, TheFormFollowsItsColumnAndLeavesOut) {
+    Program program(
+        DataFile("No:4 Name Pic:7 Photo:7", "1|Bolt||;2|Größe||mine.gif;3|||code-0000000000000001.gif"));
+    const auto use = [&](const char* column, const std::function<void(search::makeCodeFrm&)>& act) {
+        program.platform.onForm = [&](std::string_view) {
+            search::makeCodeFrm form(program.app);
+            form.Opt1_Click(search::allRecords);
+            act(form);
+        };
+        search::makeCodeFor(program.app, column);
+    };
+    const auto shown = [](const search::makeCodeFrm& form) {
+        return std::to_string(form.ListIndex) + std::to_string(form.KindIndex) + form.Text1 +
+               std::to_string(form.SelStart) + (form.bFollow ? "+" : "") + form.Label2 + form.pictureText;
+    };
+    use("Photo", [&](search::makeCodeFrm& form) {
+        form.Text1_Change("Größe {Name}");
+        form.Insert_Click("No", 1, 3);
+        EXPECT_EQ(shown(form), "10G{No}e {Name}5G1e Bolt");
+        form.List2_Click(4); // Code 128, which has no umlauts
+        form.Text1_Change("{Name}");
+        form.Check1_Click(true);
+        for (const bool bLeaveOut : {false, true}) {
+            form.Check2_Click(bLeaveOut);
+            form.OKButton_Click();
+            EXPECT_EQ(form.OKButtonEnabled, bLeaveOut);
+        }
+    });
+    EXPECT_TRUE(codes::isCodeEntryName(program.cell(1, "Photo")));
+    EXPECT_EQ(program.cell(2, "Photo") + program.cell(3, "Photo"), "mine.gif");
+    use("", [&](search::makeCodeFrm& form) {
+        form.Text1_Change("{No}");
+        form.List1_Click(1);
+        EXPECT_EQ(shown(form), "14{Name}6+Bolt");
+    });
+    search::readCodeRules(program.app); // as they are kept
+    program.app.document.LV.at(1).subItem(2) = core::CellText("Bölt");
+    app::setDocumentModified(program.app, true);
+    EXPECT_EQ(program.cell(1, "Photo") + program.told().substr(0, 46),
+              "! 1 record has no code in Photo now.  1: Code ");
+    search::renameInCodeRules(program.app, "Photo", "New");
+    EXPECT_EQ(search::codeRuleOf(program.app, "New")->source, "{Name}");
+    for (const char* text : {"", "1\tqr", "1\tnone\tx", "\tqr"}) EXPECT_FALSE(search::codeRuleFrom(text));
+}

@@ -160,4 +160,27 @@ TEST(SetValues, TheDialogTellsWhatWillHappen) {
     EXPECT_TRUE(form.unloaded && program.app.document.bModified);
 }
 
+// Enter alone empties nothing, and nothing is set where one record would get no value.
+TEST(SetValues, AsksBeforeItEmptiesAndRefusesAsAWhole) {
+    SearchProgram program(DataFile("Name Price:2", "a|$1.00;b|$1.00;c|$1.00;d|$1.00;e|$1.00;f|$.00;g|$2.00"));
+    program.find("Price <= 1");
+    setValuesFrm form(program.app);
+    const auto pressed = [&] {
+        form.OKButton_Click();
+        return program.told() + " " + program.cell(1, "Name") + program.cell(1, "Price");
+    };
+    program.platform.answers = {platform::Answer::No, platform::Answer::Yes};
+    EXPECT_EQ(pressed(), "? Set Values: Do you want to empty Name in 6 records? No a$1.00");
+    form.Opt2_Click(true);
+    form.Text1_Change("1 / Price"); // the record is not among those that are shown
+    EXPECT_EQ(pressed(),
+              "! Nothing has been set.  The record \"f\" would get no value: Division by zero. a$1.00");
+    form.Opt2_Click(false);
+    form.Text1_Change("");
+    EXPECT_EQ(pressed(), "? Set Values: Do you want to empty Name in 6 records? No $1.00");
+    form.List1_Click(1);
+    form.Text1_Change("1234");
+    EXPECT_EQ(pressed() + " " + form.Text1.Text, " $12.34 12.34");
+}
+
 } // namespace

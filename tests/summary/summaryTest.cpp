@@ -1,5 +1,6 @@
 #include "../search/searchProgram.h"
 #include "../support/printRecorder.h"
+#include "app/appearance.h"
 #include "core/dates.h"
 #include "core/format.h"
 #include "invoiceFixture.h"
@@ -306,6 +307,16 @@ TEST(SummaryPanel, SortsByItsHeadings) {
         seen += ' ';
     }
     EXPECT_EQ(seen, "dcbba acdbb bbacd cbbad adbbc abbcd bbacd abbcd abbcd ");
+    // What was chosen stays with its column, wherever that goes.
+    panel.heading_Click(3);
+    for (const int entry : {1, 3, -1}) panel.bars_Click(entry);
+    core::ColumnHeaders& columns = program.app.document.LV.columns;
+    columns.setPosition(columns["Cost"].Index, 2);
+    app::setDocumentModified(program.app, true);
+    panel.follow();
+    panel.recount();
+    EXPECT_EQ(panel.barNames.at(static_cast<std::size_t>(panel.bars)), "Greatest of Day");
+    EXPECT_EQ(panel.summary.groups[0].name() + panel.summary.groups[1].name(), "cb");
 }
 
 // Each sheet has the headings, and a bar is as long as its group has records.
@@ -332,6 +343,62 @@ TEST(SummaryPanel, Prints) {
             bars.push_back(line->x2 - line->x1);
     ASSERT_GT(bars.size(), 40U);
     EXPECT_NEAR(bars[0], 2 * bars[1], 1);
+}
+
+// The form begins with the column that was looked at last, and with the records found.
+TEST(StatisticsForm, TellsOfAllRecordsOrOfThoseFound) {
+    SearchProgram program(DataFile("Name Qty:4", "b|3;\"a\tc|1;b|10"));
+    const auto told = [&](std::initializer_list<int> columns, bool bFound) {
+        statisticsFrm form(program.app);
+        for (const int column : columns) form.columnCbo_Click(column);
+        if (form.Check1 != bFound) form.Check1_Click(bFound);
+        form.copyBtn_Click();
+        return std::to_string(form.mostOfList2) + std::to_string(form.countings) +
+               (form.Check1 ? "found " : " ") + program.platform.onClipboard.text;
+    };
+    EXPECT_EQ(told({-1, 2}, true), "22 Records\t3\nValues\t3\nEmpty\t0\nDifferent "
+                                   "values\t2\nLeast\t\"\"\"a\tc\"\nGreatest\tb\nb\t2\n\"\"\"a\tc\"\t1\n");
+    EXPECT_EQ(told({1}, false),
+              "12 Records\t3\nValues\t3\nEmpty\t0\nDifferent "
+              "values\t3\nLeast\t1\nGreatest\t10\nMean\t4.6667\nMedian\t3\nSum\t14\n1\t1\n3\t1\n10\t1\n");
+    program.find("Qty >= 3");
+    EXPECT_EQ(told({}, true).substr(0, 17), "11found Records\t2");
+    showStatisticsOf(program.app, "Name");
+    EXPECT_EQ(program.platform.forms.back() + told({}, false).substr(0, 12), "statisticsFrm22 Records\t3");
+}
+
+TEST(SummaryTable, ShowsValuesInTheFormOfTheCountry) {
+    Program program(DataFile("Name Day:1 Cost:2", "1.50|04/12/2015|$1,234.50;1.50|soon|$.50"));
+    const Request request{{{"Name", {}}, {"Day", {}}},
+                          {{FigureKind::Sum, "Cost"}, {FigureKind::Greatest, "Day"}}};
+    const Summary summary = summarise(program.app.document, request, today);
+    app::appearance(program.app).localeForm = {
+        core::LocaleForm::DateOrder::DayMonthYear, '.', ",", ".", "EUR", true, false};
+    EXPECT_EQ(tellAll(shownSummary(program.app, summary)), tellAll(summary));
+    app::appearance(program.app).bLocaleForm = true;
+    EXPECT_EQ(
+        tellAll(shownSummary(program.app, summary)),
+        "1.50, 12.04.2015: 1 1.234,50EUR 12.04.2015; 1.50, soon: 1 0,50EUR -; all: 2 1.235,00EUR 12.04.2015");
+}
+
+// What stands behind each bar, and from where to where it goes.
+TEST(SummaryTable, BarsShareTheirRoom) {
+    for (const auto& each :
+         table("a|-2;b|6;c|;b| -> -1 -> 1 0-0.5 2 0-1 1 0-0.5 0; a|-2;b|6;c| -> 0 -> -2 0-0.25 6 0.25-1 "
+               " 0.25-0.25 0.25; a|1 -> 1 ->  0-0 0; a|-2;b|-8 -> 0 -> -2 0.75-1 -8 0-1 1; "
+               "a|1e308;b|-1e308 -> 0 -> 1E+308 0-1 -1E+308 0-0 0")) {
+        Program program(DataFile("Name Qty:4", each[0]));
+        const Summary summary =
+            summarise(program.app.document, {{{"Name", {}}}, {{FigureKind::Sum, "Qty"}}}, today);
+        const int figure = std::stoi(each[1]);
+        const BarScale scale(summary, figure);
+        std::ostringstream all;
+        for (const Group& group : summary.groups)
+            all << barText(group, figure) << " " << scale.barOf(group).from << "-" << scale.barOf(group).to
+                << " ";
+        all << scale.zero();
+        EXPECT_EQ(all.str(), each[2]) << each[0];
+    }
 }
 
 } // namespace

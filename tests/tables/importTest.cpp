@@ -89,6 +89,7 @@ TEST(TextFile, IsRecognised) {
     EXPECT_EQ(read("\xE4\x80\t'x'\n1\t2"), "3\t'/[ä€][x]/[1][2]");
     EXPECT_EQ(read(le), "1;\"/[ä][b]");
     EXPECT_EQ(read(be), "2,\"/[a][b]/[€][]");
+    EXPECT_EQ(read({"\xFF\xFE\x3D\xD8\0\xDE,\0\0\xDE\x3D\xD8", 12}), "1,\"/[😀][\uFFFD\uFFFD]");
     EXPECT_EQ(read("'a|b','c'\n'1','it''s'"), "0,'/[a|b][c]/[1][it's]");
     EXPECT_EQ(read("a|b\n1,2|\"x\ny\"z"), "0|\"/[a][b]/[1,2][x\nyz]");
     EXPECT_THROW(exchange::readDelimited("a,\"b\nc", {}), exchange::TableError);
@@ -117,6 +118,56 @@ struct Importing : testing::Test, Program {
         run("mnuImportTable");
     }
 };
+
+// What the form shows after some choices: the columns, what is wrong, the notes and the cells.
+TEST_F(Importing, ShowsTheTableAsItIsChosen) {
+    const std::array choices = {&importFrm::sheetCbo_Click,     &importFrm::encodingCbo_Click,
+                                &importFrm::separatorCbo_Click, &importFrm::Opt1_Click,
+                                &importFrm::readAsCbo_Click,    &importFrm::styleCbo_Click};
+    // The first number of a choice is its place there; 6 checks columns or leaves them out, 7 is for
+    // headings.
+    const auto after = [&](std::string_view bytes, const std::string& acts, const char* name = "t.csv") {
+        std::string all;
+        const auto act = [&](importFrm& form) {
+            std::istringstream words(acts);
+            std::size_t choice = 0;
+            for (int entry = 0; words >> choice >> entry;)
+                choice == 6   ? form.List2_ItemCheck(entry, entry > 0)
+                : choice == 7 ? form.Check1_Click(entry > 0)
+                              : (form.*choices.at(choice))(entry);
+            all = shown(form);
+            for (const auto& column : form.List2) all += column.Note.empty() ? "" : " {" + column.Note + "}";
+            for (const auto& row : form.Grid1)
+                for (const std::string& cell : row.Cells) all += "|" + cell;
+        };
+        import(name, bytes, act);
+        return all.substr(all.find(". ") + 2);
+    };
+    for (
+        const auto& each : table(
+            "a;b,c\n1;2,3\n -> 2 0 -> new +a;b:Text +c:Number  OK|1;2|3; price,day\n7,1/2/24\n -> 3 0 -> new "
+            "+price:Number +day:Date  OK {Please check: \"1/2/24\" can be read in two ways.}|7|01/02/2024; "
+            "price,day\n7,x\n -> 6 0 6 1 -> open -price: +Name:Text  OK {In the table: \"day\".}||x; "
+            "name,price,day,x\n1,2,,4\n -> 3 1 6 3 -> open +Name:Text +Price:Currency +Day:Date -x:  "
+            "OK|1|$2.00||; A\n03/04/2024\n -> 4 0 -> new +A:Date  OK|04/03/2024; A\n03/04/2024\n -> 4 1 -> "
+            "new +A:Date  OK|03/04/2024; A,B\n3/4/24,13/4/24\n ->  -> new +A:Date +B:Date  OK {Please check: "
+            "\"3/4/24\" can be read in two ways.}|04/03/2024|04/13/2024; P:Picture\nx\n -> 5 1 -> new "
+            "+P:Picture An invoice database has no Picture columns.|x; price\n7\n -> 6 0 -> open -price: No "
+            "column is chosen.|; name\n ->  -> open +Name:Text The table has no records.; a|b;c\n1;2\n ->  "
+            "-> "
+            "new +a|b:Number +c:Number The column name \"a|b\" holds a \"|\".|1|2; "
+            "Index\n1\n ->  -> new +Index:Number The column name \"Index\" cannot be used.|1",
+            3))
+        EXPECT_EQ(after(each[0], each[1]), each[2]) << each[0];
+    const std::string_view unmarked("\x18\x04\x3C\x04\x4F\x04\n\0\x18\x04", 10); // UTF-16
+    EXPECT_EQ(after(unmarked, ""), "new ");
+    EXPECT_EQ(after(unmarked, "1 1"), "new +Имя:Text  OK|И");
+    const std::string ods = readBytes(fs::path(TEST_DATA_DIR) / "tables/lo-orders.ods");
+    EXPECT_EQ(after(ods, "0 1 7 0", "t.ods"),
+              "new +Column_1:Text +Column_2:Text +Column_3:Text  OK|Start|Open|Code|13:05:00|1|00123");
+    app.document.iLastKey = 32766;
+    EXPECT_EQ(after("name\na\nb\n", ""), "open +Name:Text The database has room for 1 more record.|a|b");
+}
 
 const char* const european = "Name;Day;Price;Extra\nB|x;31.12.2024;1.234,50;00123\nC;30.12.2024;oops;1\n";
 

@@ -183,9 +183,9 @@ private:
     SheetCollector collector_;
 };
 
-// Goes through the tables that are shown; `atTable` is told each name, and answers false when it has what it
-// wants.
-void eachTable(XmlPieces& pieces, const std::function<bool(const std::string& name)>& atTable) {
+// Goes through the tables that are shown; `atTable` is told each name, and whether nothing is in it, and
+// answers false when it has what it wants.
+void eachTable(XmlPieces& pieces, const std::function<bool(const std::string& name, bool isEmpty)>& atTable) {
     constexpr std::string_view parts = " style table ";
     int depth = 0;
     pugi::xml_document tree;
@@ -204,7 +204,7 @@ void eachTable(XmlPieces& pieces, const std::function<bool(const std::string& na
             pieces.readTag(each, tree);
             const pugi::xml_node table = tree.document_element();
             const bool bShown = !hidden.contains(std::string_view(attributeOf(table, "style-name").value()));
-            if (bShown && !atTable(attributeOf(table, "name").value())) return;
+            if (bShown && !atTable(attributeOf(table, "name").value(), each.isEmpty)) return;
         }
         if (!each.isEmpty) depth += each.isEnd ? -1 : 1;
     }
@@ -216,7 +216,7 @@ std::vector<std::string> names(const std::filesystem::path& file) {
     const Document document(file);
     XmlPieces pieces = document.content();
     std::vector<std::string> names;
-    eachTable(pieces, [&](const std::string& name) {
+    eachTable(pieces, [&](const std::string& name, bool) {
         if (names.size() >= SheetBounds::columns) refuseSheet(core::tr("it has too many sheets"));
         names.push_back(name);
         return true;
@@ -229,12 +229,15 @@ Sheet read(const std::filesystem::path& file, std::size_t sheet, const Progress&
     const Document document(file);
     XmlPieces pieces = document.content();
     std::vector<std::string> names;
-    eachTable(pieces, [&](const std::string& name) {
+    bool isWithoutRows = false;
+    eachTable(pieces, [&](const std::string& name, bool isEmpty) {
         names.push_back(name);
+        isWithoutRows = isEmpty;
         return names.size() <= sheet;
     });
     std::string name = sheetAt(names, sheet);
-    Sheet table = SheetReader(pieces).read(progress);
+    Sheet table;
+    if (!isWithoutRows) table = SheetReader(pieces).read(progress); // or it would read the next one
     table.name = std::move(name);
     table.bTyped = true;
     restoreTypes(table, document.toldTypes());
