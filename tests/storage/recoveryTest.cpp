@@ -2,7 +2,9 @@
 #include "entry/entryFrm.h"
 #include "entry/fieldEvents.h"
 #include "entry/navBar.h"
+#include "raised.h"
 #include "shell/mainWindow.h"
+#include "shell/start/recoveryOffer.h"
 #include "storage/cleanDatabase.h"
 #include "storage/newDatabase.h"
 #include "storage/openedFile.h"
@@ -95,6 +97,7 @@ TEST_F(Recovery, TriesAgainWhatCouldNotBeKept) {
         // Something lies in its place for a while.
         if (second == 3) fs::remove(work.copy.archive), fs::create_directory(work.copy.archive);
         if (second == 4) storage::markUnsaved(window.app, start + 4s);
+        EXPECT_FALSE(second == 10 && storage::keepUnsavedWork(window.app));
         if (second == 20) fs::remove(work.copy.archive);
         storage::tendUnsavedWork(window.app, start + second * 1s);
         while (storage::unsavedWork(window.app).writer.isRunning()) std::this_thread::sleep_for(1ms);
@@ -136,6 +139,12 @@ TEST_F(Recovery, IsThereAfterEveryEndButACleanOne) {
     const std::vector<End> ends = {
         {"killed", [](Window& w) { storage::keepUnsavedWork(w.app), w.kill(); }, 2},
         {"told to end", [](Window& w) { shell::keepForTheEnd(w.app); }, 2},
+        {"ended at once",
+         [this](Window& w) {
+             shell::endAtOnce(w.app);
+             EXPECT_FALSE(fs::exists(file::WriterLock::pathFor(file)));
+         },
+         2},
         {"closed, not saved",
          [](Window& w) { w.platform.answers = {platform::Answer::No}, shell::Form_QueryUnload(w.app); }, 0},
         {"closed without a question",
@@ -201,11 +210,33 @@ TEST_F(Recovery, IsOfferedAtTheNextOpenOfItsFile) {
     EXPECT_TRUE(copies().empty());
 }
 
+// Its folder has gone, or what is there is no database.
+TEST_F(Recovery, IsRestoredElsewhereWhenItsPlaceIsNone) {
+    for (const bool isGone : {true, false}) {
+        fs::create_directory(home / "in");
+        file = maker.make("in/books.fwk", DataFile("Name", "Bolt").text());
+        crash("Washer");
+        isGone ? fs::rename(home / "in", home / "away") : ScriptedPlatform::write(file, "text");
+        Window window(home);
+        for (const std::string place : {"no/mine.fwk", "mine.fwk"}) {
+            window.platform.choices = {0};
+            window.platform.files = {window.path(place)};
+            shell::offerRecovery(window.app, "");
+            const std::string told = window.told();
+            EXPECT_NE(told.find("\ni The file itself cannot be opened."), std::string::npos);
+            EXPECT_EQ(told.find("mine.fwk could not be written: ") == std::string::npos, place == "mine.fwk");
+            EXPECT_EQ(window.app.document.currentFile == window.path(place), place == "mine.fwk");
+        }
+        EXPECT_EQ(window.cells(), "Bolt|;Washer|;------|;");
+        fs::remove_all(home / "recovery");
+    }
+}
+
 TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
     file = maker.make(
         "books.fwk",
         DataFile("Name Place", "Bolt|1;Nut|2").objects("F|Name|0|0|900|300;F|Place|0|900|900|300").text());
-    const std::string typed = "half\n a \\sent";
+    const std::string typed = "half\r\n a \\sent";
     for (const bool isNew : {false, true}) {
         {
             Window window(home);
@@ -290,6 +321,55 @@ TEST_F(Recovery, ALockEndsWithItsWindowThoughTheWriterRuns) {
     EXPECT_EQ(::flock(next.get(), LOCK_EX | LOCK_NB), 0);
 }
 
+// Of another machine, or something that is no lock.
+TEST_F(Recovery, SaysWhyAFileIsNotFreeAndLetsItBeTaken) {
+    const fs::path lock = file::WriterLock::pathFor(file);
+    Window window(home);
+    const auto open = [&](int choice, const char* name) {
+        window.platform.choices = {choice};
+        window.platform.files = {window.path(name)};
+        window.app.document.currentFile.clear();
+        window.open(file);
+        return window.told();
+    };
+    fs::create_directory(lock);
+    EXPECT_NE(open(-1, "").find("books.fwk cannot be locked: " + lock.string() + " is in the way."),
+              std::string::npos);
+    fs::remove(lock);
+    ScriptedPlatform::write(lock, "ann,else,1,2026-03-14T09:26:53Z;\n");
+    EXPECT_NE(open(-1, "").find("09:26:53 UTC.\nWhether it still is"), std::string::npos);
+    EXPECT_NE(open(1, "no/mine.fwk").find("mine.fwk could not be written: "), std::string::npos);
+    EXPECT_EQ(window.app.document.currentFile, "");
+    open(1, "mine.fwk");
+    EXPECT_EQ(window.app.document.currentFile + window.cells(),
+              window.path("mine.fwk") + "Bolt|;Nut|;------|;");
+    EXPECT_TRUE(fs::exists(file::WriterLock::pathFor(window.path("mine.fwk"))));
+    // Over the other's, in spite of it.
+    window.add("Screw");
+    window.platform.choices = {-1, 0};
+    window.platform.answers = {platform::Answer::Yes, platform::Answer::Yes};
+    for (const bool isTaken : {false, true}) {
+        window.platform.files = {file};
+        storage::SaveFile(window.app, true, false);
+        EXPECT_EQ(window.dataFileOf(file).find("Screw|") != std::string::npos, isTaken);
+    }
+    // A file that is open to read only is not written under its own name either, until it is free.
+    open(0, "");
+    for (const bool isFree : {false, true}) {
+        if (isFree) fs::remove(lock);
+        window.platform.files = {file};
+        storage::SaveFile(window.app, true, false);
+        EXPECT_EQ(window.app.mainFrm.bReadOnly, !isFree);
+        fs::remove(file);
+        storage::writeOpenedAgain(window.app); // is no reason to write more
+        EXPECT_EQ(window.app.mainFrm.bReadOnly, !isFree);
+    }
+    // What cannot be opened takes no lock, and the one before is given back.
+    ScriptedPlatform::write(window.path("text"), "text");
+    window.open(window.path("text"));
+    EXPECT_FALSE(fs::exists(lock));
+}
+
 // Somebody removes the lock file, and then takes the lock: the question is waved away, and answered.
 TEST_F(Recovery, ASaveLooksWhetherItsLockIsStillThere) {
     Window window(home);
@@ -321,6 +401,7 @@ TEST_F(Recovery, TwoWindowsAskEachOther) {
     second.platform.choices = {0}; // read only
     second.platform.files = {second.path("mine.fwk")};
     second.open(file);
+    EXPECT_EQ(raisedBy([&] { storage::cleanDatabase(second.app); }), core::errors::pathAccess);
     EXPECT_EQ(second.cells(), "Bolt|;Nut|;------|;");
     second.add("Mine");
     storage::SaveFile(second.app, false, false); // to another name, whose writer it is
@@ -371,6 +452,11 @@ TEST_F(Recovery, KnowsItsOwnWritesFromThoseOfOthers) {
     storage::newDatabase(window.app, false);
     EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
     window.open(file);
+    window.platform.files = {maker.path("./books.fwk")}; // a clone in the place of the open file
+    window.platform.answers = {platform::Answer::Yes};
+    storage::SaveFile(window.app, false, true);
+    EXPECT_EQ(window.dataFileOf(file).find("Bolt"), std::string::npos);
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
     fs::remove(file);
     EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::Gone);
     storage::writeOpenedAgain(window.app);
