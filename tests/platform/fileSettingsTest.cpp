@@ -25,16 +25,6 @@ TEST_F(FileSettingsTest, KeepsTextsByDatabaseAndForgetsTheOldest) {
     EXPECT_EQ(FileSettings(file).get("/x/a [1].fwk", "m") + FileSettings(file).get("/y/0", "n"), "v");
 }
 
-TEST_F(FileSettingsTest, StandBesideTheUsersSettings) {
-    for (const auto& c : table("/xdg -> /ann -> /xdg/ferrowick/ferrowick-files.conf; xdg -> /ann -> "
-                               "/ann/.config/ferrowick/ferrowick-files.conf;  -> ann -> ",
-                               3)) {
-        ::setenv("XDG_CONFIG_HOME", c[0].c_str(), 1);
-        ::setenv("HOME", c[1].c_str(), 1);
-        EXPECT_EQ(FileSettings::defaultFile(), c[2]);
-    }
-}
-
 TEST_F(FileSettingsTest, ADamagedFileIsEmptyAndAFailedWriteLosesNothing) {
     const auto file = folder / "files.conf";
     for (const std::string& text : {std::string("[/a]\nn=1\0", 10), std::string("\\[=]\n[/a\nn=1\n=2")}) {

@@ -51,6 +51,8 @@ TEST_F(ListCommands, ANewRecordIsTypedInTheFormOrOnThePage) {
     run("mnuNewRecord");
     EXPECT_EQ(boxes, "||7|a|") << "once it begins empty";
     app.mainFrm.bLayoutDblClick = true;
+    run("mnuOpenPage");
+    EXPECT_EQ(app.document.layout.layoutField[1].Text, "a");
     run("mnuNewRecord");
     EXPECT_TRUE(app.mainFrm.SSTab1 == app::layoutTab && entry::isSheetNew(app));
     EXPECT_EQ(app.document.layout.layoutField[1].Text, "");
@@ -58,34 +60,23 @@ TEST_F(ListCommands, ANewRecordIsTypedInTheFormOrOnThePage) {
     EXPECT_FALSE(shell::isCommandEnabled(app, "mnuNewRecord"));
 }
 
-TEST_F(ListCommands, ARecordIsOpenedInTheFormOrOnThePage) {
-    open(DataFile("No:1 Name", "7|a;8|b").objects("F|Name|0|0|900|300"));
-    app.document.LV.setSelectedItem(&app.document.LV.at(2));
-    for (const std::string key : {"mnuOpenForm", "mnuOpenPage"}) {
-        run(key.c_str());
-        EXPECT_EQ(platform.forms.size(), 1U) << key;
-        EXPECT_EQ(app.mainFrm.SSTab1 == app::layoutTab, key == "mnuOpenPage");
-    }
-    EXPECT_EQ(app.document.layout.layoutField[1].Text, "b");
-}
-
 TEST_F(ListCommands, ACodeIsForThePictureBoxThatIsChosen) {
     open(DataFile("Name First:7 Code:7", "a||").objects("F|Name|0|0|900|300;P|Code|0|400|900|900|"));
     shell::SSTab1_Click(app, app::layoutTab);
     std::string columns;
     platform.onForm = [&](std::string_view) {
-        const search::makeCodeFrm form(app);
-        columns += form.List1.at(static_cast<std::size_t>(form.ListIndex)) + " ";
+        columns += search::makeCodeFrm(app).ListIndex == 1 ? "Code " : "First ";
         app.changes.announce(app, app::Change::CurrentRecord); // shows it anew
     };
     entry::layoutField_Change(app, 1, "half");
-    for (int act = 0; act < 5; ++act) {
-        const core::Family family = act == 1 ? core::Family::layoutField : core::Family::imgHolder;
-        layout::layoutPage(app).selectedObject = {family, act == 2 ? 2 : 1};
-        app.mainFrm.bReadOnly = act == 3;
-        act == 0 ? run("mnuMakeCode") : shell::makeCodeOfBox(app);
+    for (const auto& [family, index] : {core::ObjectRef{core::Family::layoutField, 1},
+                                        {core::Family::imgHolder, 2},
+                                        {core::Family::imgHolder, 1}}) {
+        layout::layoutPage(app).selectedObject = {family, index};
+        shell::makeCodeOfBox(app);
     }
-    EXPECT_EQ(columns + app.document.layout.layoutField[1].Text, "First Code half");
+    run("mnuMakeCode");
+    EXPECT_EQ(columns + app.document.layout.layoutField[1].Text, "Code First half");
 }
 
 TEST_F(ListCommands, TypedLettersFindTheBeginningOfARow) {
