@@ -2,6 +2,7 @@
 #include "calc/recalculation.h"
 #include "databases.h"
 #include "shell/mainWindow.h"
+#include "shell/recentlyUsed.h"
 #include "shell/start/samples.h"
 #include "storage/saveFile.h"
 #include "table.h"
@@ -107,6 +108,11 @@ TEST_F(Start, TheFileOfTheStart) {
         EXPECT_EQ(told(), c[3] == "!" ? "i Previously opened file could not be found." : "") << c[1] << c[2];
         shell::Form_QueryUnload(starting);
         EXPECT_EQ(platform.settings["defaultFile"], opened);
+    }
+    // What opens without a name: the last open one, or else the first of the list.
+    for (const auto& c : table("/a -> /b -> /a;  -> /b -> /b;  ->  -> ", 3)) {
+        platform.settings = {{"defaultFile", c[0]}, {"File1", c[1]}};
+        EXPECT_EQ(shell::lastFile(app), c[2]);
     }
     for (const auto& c : table(" -> ; /a b.fwk -> \"/a b.fwk\"; \"/a.fwk\" -> \"/a.fwk\"; \" -> \"\"\"; "
                                "\"\" -> \"\"; \"a -> \"\"a\"; a\" -> \"a\"\""))

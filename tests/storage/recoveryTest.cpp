@@ -4,6 +4,7 @@
 #include "entry/navBar.h"
 #include "raised.h"
 #include "shell/mainWindow.h"
+#include "shell/start/recoveryOffer.h"
 #include "storage/cleanDatabase.h"
 #include "storage/newDatabase.h"
 #include "storage/openedFile.h"
@@ -138,7 +139,12 @@ TEST_F(Recovery, IsThereAfterEveryEndButACleanOne) {
     const std::vector<End> ends = {
         {"killed", [](Window& w) { storage::keepUnsavedWork(w.app), w.kill(); }, 2},
         {"told to end", [](Window& w) { shell::keepForTheEnd(w.app); }, 2},
-        {"ended at once", [](Window& w) { shell::endAtOnce(w.app); }, 2},
+        {"ended at once",
+         [this](Window& w) {
+             shell::endAtOnce(w.app);
+             EXPECT_FALSE(fs::exists(file::WriterLock::pathFor(file)));
+         },
+         2},
         {"closed, not saved",
          [](Window& w) { w.platform.answers = {platform::Answer::No}, shell::Form_QueryUnload(w.app); }, 0},
         {"closed without a question",
@@ -202,6 +208,26 @@ TEST_F(Recovery, IsOfferedAtTheNextOpenOfItsFile) {
     window.open(file);
     EXPECT_EQ(window.cells(), "Bolt|;Nut|;------|;");
     EXPECT_TRUE(copies().empty());
+}
+
+// Its folder has gone, or what is there is no database; and the first place that is chosen is none.
+TEST_F(Recovery, IsRestoredElsewhereWhenItsPlaceIsNone) {
+    for (const bool isGone : {true, false}) {
+        fs::create_directory(home / "in");
+        file = maker.make("in/books.fwk", DataFile("Name", "Bolt").text());
+        crash("Washer");
+        isGone ? fs::rename(home / "in", home / "away") : ScriptedPlatform::write(file, "text");
+        Window window(home);
+        window.platform.choices = {0, 0};
+        window.platform.files = {window.path("no/mine.fwk"), window.path("mine.fwk")};
+        for (int look = 0; look < 2; ++look) shell::offerRecovery(window.app, "");
+        EXPECT_EQ(window.app.document.currentFile + window.cells(),
+                  window.path("mine.fwk") + "Bolt|;Washer|;------|;");
+        const std::string told = window.told();
+        EXPECT_NE(told.find("no/mine.fwk could not be written: "), std::string::npos);
+        EXPECT_LT(told.find("\ni The file itself cannot be opened."), told.find("no/mine.fwk"));
+        fs::remove_all(home / "recovery");
+    }
 }
 
 TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
