@@ -1,4 +1,5 @@
 #include "file/lineReader.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,7 @@ TEST(LineReader, EndsOfLines) {
                                                          {"a\r\nb\r\r\nc", "a/b//c/4"},
                                                          {"\r\n\r\n", "//2"}};
     for (const auto& [text, lines] : cases) EXPECT_EQ(told(text), lines) << testing::PrintToString(text);
+    EXPECT_EQ(raisedBy([] { (void)file::LineReader("").next(); }), core::errors::badFileFormat);
 }
 
 } // namespace

@@ -73,6 +73,17 @@ TEST_F(VersionsTest, EachStateIsKeptOnceAndPrivately) {
     EXPECT_EQ(listed(store, books), "1:one/1 ");
     store.keep(books, known("two", 2), {});
     EXPECT_EQ(listed(store, books), "3:two/2 1:one/1 ");
+
+    // What a killed program has left goes with the next one; what is not the store's is passed over.
+    for (const char* name :
+         {"a-b.fwk", "9-1-1-1-1-x-0-z.fwk", "9-1-1-1-1-z-0-0.fwk", "9-1-1-1-1-1-0.fwk", ".new-1"})
+        writeBytes(store.folderOf(books) / name, "x");
+    for (const char* name : {"x", "0-1-2-z"}) writeBytes(store.folderOf(books) / "pictures" / name, "x");
+    store.keep(write("books.fwk", "zero", {{"a.jpg", image}}), known("zero", 0), {});
+    EXPECT_EQ(listed(store, books), "4:zero/0 3:two/2 1:one/1 ");
+    EXPECT_TRUE(tree().find(".new-1") == std::string::npos && tree().find("0-1-2-z") != std::string::npos);
+    EXPECT_EQ(raisedBy([&] { writeBytes(folder / "text", "text"), store.keep(folder / "text", {}, {}); }),
+              core::errors::badFileFormat);
 }
 
 TEST_F(VersionsTest, WhatIsRestoredIsTheOldArchive) {

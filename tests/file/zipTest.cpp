@@ -92,6 +92,12 @@ struct ZipTest : FolderTest {
     }
 };
 
+TEST_F(ZipTest, WhatCanHaveNoSuchNameIsTold) {
+    EXPECT_EQ(raisedBy([&] { Zip().OpenArchive(folder / std::string(300, 'x')); }),
+              core::errors::badFileName);
+    EXPECT_EQ(act("create a.fwk, put \xFF\xFE text"), "Bad file name");
+}
+
 TEST_F(ZipTest, ReplacingTheDataLeavesAllElseAsItWas) {
     writeBytes(archive, readBytes(TEST_DATA_DIR "/books.fwk"));
     // The entries behind the first as they are packed, and what the directory tells of them.

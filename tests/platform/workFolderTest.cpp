@@ -1,5 +1,6 @@
 #include "platform/workFolder.h"
 #include "folderFixture.h"
+#include "platform/fileSettings.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -78,6 +79,11 @@ TEST(UserFolders, FollowTheDesktopStandard) {
         ::setenv("XDG_DATA_HOME", c[0].c_str(), 1);
         ::setenv("HOME", c[1].c_str(), 1);
         EXPECT_EQ(WorkFolder::defaultDataFolder(), c[2]);
+        ::setenv("XDG_CONFIG_HOME", c[0].c_str(), 1);
+        const fs::path conf = platform::FileSettings::defaultFile();
+        EXPECT_EQ(conf, c[2].empty() ? ""
+                                     : (c[0][0] == '/' ? c[0] : c[1] + "/.config") +
+                                           "/ferrowick/ferrowick-files.conf");
     }
 }
 

@@ -169,4 +169,36 @@ TEST_F(FirstHour, EmptyPagesSayWhatComesNext) {
     EXPECT_EQ(said(), "-");
 }
 
+// What lists and the preview say, by the end of the text and the commands that are offered.
+TEST_F(FirstHour, EmptyListsAndPreviewsSayWhatComesNext) {
+    const auto said = [](const std::optional<shell::Hint>& hint) {
+        std::string all = hint ? hint->text.substr(hint->text.rfind(' ') + 1) : "-";
+        for (const auto& button : hint ? hint->buttons : std::vector<shell::Hint::Button>())
+            all += " " + button.key;
+        return all;
+    };
+    // The list / the preview of a report / that of layouts.
+    const auto openSays = [&](const DataFile& data) {
+        std::string all = said(shell::emptyList((open(data), app), app.document.LV));
+        for (const int mode : {app::printReport, app::printMultipleLayouts})
+            all += "/" + said(shell::emptyPreview((app.mainFrm.iPrintMode = mode, app)));
+        return all;
+    };
+    const std::string columns = "price. mnuDatabaseProperties", fill = "them. mnuNewRecord",
+                      name = "F|Name|0|0|9|3";
+    EXPECT_EQ(openSays(DataFile("", "")),
+              "program. mnuDatabaseProperties mnuImportTable/" + columns + "/" + columns);
+    EXPECT_EQ(openSays(DataFile("Name", "a")), "-/printed. PageSetup/it. Design");
+    EXPECT_EQ(openSays(DataFile("Name", "").objects(name).section("Printed Cols", "Name|")),
+              "program. mnuNewRecord mnuImportTable/" + fill + "/" + fill);
+    EXPECT_EQ(openSays(DataFile("Name", "a").objects(name).section("Printed Cols", "Name|")), "-/-/-");
+    EXPECT_EQ(said(shell::emptyList(app, app.document.searchLV)), "for. Search");
+    EXPECT_TRUE(
+        openSays(DataFile("Name", "").section("DatabaseStyle", "True")).starts_with("page. mnuNewRecord/"));
+    open(DataFile("Name", ""));
+    app.mainFrm.SSTab1 = app::previewTab;
+    shell::emptyList(app, app.document.LV)->buttons[0].run(app);
+    EXPECT_TRUE(app.mainFrm.SSTab1 == app::reportTab && platform.forms.back() == "entryFrm");
+}
+
 } // namespace

@@ -1,9 +1,13 @@
 #include "shell/listCommands.h"
 #include "databases.h"
 #include "entry/entryFrm.h"
+#include "entry/fieldEvents.h"
 #include "entry/navBar.h"
+#include "layout/layoutPage.h"
+#include "search/codes/makeCodeFrm.h"
 #include "shell/listEvents.h"
 #include "shell/mainWindow.h"
+#include "shell/menuCommands.h"
 #include "table.h"
 
 #include <gtest/gtest.h>
@@ -47,11 +51,32 @@ TEST_F(ListCommands, ANewRecordIsTypedInTheFormOrOnThePage) {
     run("mnuNewRecord");
     EXPECT_EQ(boxes, "||7|a|") << "once it begins empty";
     app.mainFrm.bLayoutDblClick = true;
+    run("mnuOpenPage");
+    EXPECT_EQ(app.document.layout.layoutField[1].Text, "a");
     run("mnuNewRecord");
     EXPECT_TRUE(app.mainFrm.SSTab1 == app::layoutTab && entry::isSheetNew(app));
     EXPECT_EQ(app.document.layout.layoutField[1].Text, "");
     run("Design");
     EXPECT_FALSE(shell::isCommandEnabled(app, "mnuNewRecord"));
+}
+
+TEST_F(ListCommands, ACodeIsForThePictureBoxThatIsChosen) {
+    open(DataFile("Name First:7 Code:7", "a||").objects("F|Name|0|0|900|300;P|Code|0|400|900|900|"));
+    shell::SSTab1_Click(app, app::layoutTab);
+    std::string columns;
+    platform.onForm = [&](std::string_view) {
+        columns += search::makeCodeFrm(app).ListIndex == 1 ? "Code " : "First ";
+        app.changes.announce(app, app::Change::CurrentRecord); // shows it anew
+    };
+    entry::layoutField_Change(app, 1, "half");
+    for (const auto& [family, index] : {core::ObjectRef{core::Family::layoutField, 1},
+                                        {core::Family::imgHolder, 2},
+                                        {core::Family::imgHolder, 1}}) {
+        layout::layoutPage(app).selectedObject = {family, index};
+        shell::makeCodeOfBox(app);
+    }
+    run("mnuMakeCode");
+    EXPECT_EQ(columns + app.document.layout.layoutField[1].Text, "Code First half");
 }
 
 TEST_F(ListCommands, TypedLettersFindTheBeginningOfARow) {

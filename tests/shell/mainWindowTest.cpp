@@ -148,7 +148,8 @@ TEST_F(MainWindow, CommandsReachTheRoutineBehindThem) {
                "mnuTotalColumns -> TotalsFrm; mnuSerialAdjust -> serialFrm; Open -> Open Database; "
                "mnuDisclaimer -> disclaimFrm; mnuOpen -> Open Database; mnuSaveAs -> Save As...; "
                "mnuClone -> Clone current file to...; mnuReplace -> replaceFrm; Save -> ; mnuSave -> ; "
-               "mnuSearch -> searchFrm; PageSetup -> reportPageSetup; mnuPageSetup -> reportPageSetup")) {
+               "mnuSearch -> searchFrm; mnuOpenForm -> entryFrm; PageSetup -> reportPageSetup; mnuPageSetup "
+               "-> reportPageSetup")) {
         app::setDocumentModified(app, true);
         EXPECT_EQ(shown(c[0]), c[1]) << c[0];
         EXPECT_EQ(document.bModified, !c[1].empty()) << c[0];

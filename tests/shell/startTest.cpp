@@ -2,6 +2,7 @@
 #include "calc/recalculation.h"
 #include "databases.h"
 #include "shell/mainWindow.h"
+#include "shell/recentlyUsed.h"
 #include "shell/start/samples.h"
 #include "storage/saveFile.h"
 #include "table.h"
@@ -108,6 +109,11 @@ TEST_F(Start, TheFileOfTheStart) {
         shell::Form_QueryUnload(starting);
         EXPECT_EQ(platform.settings["defaultFile"], opened);
     }
+    // What opens without a name: the last open one, or else the first of the list.
+    for (const auto& c : table("/a -> /b -> /a;  -> /b -> /b;  ->  -> ", 3)) {
+        platform.settings = {{"defaultFile", c[0]}, {"File1", c[1]}};
+        EXPECT_EQ(shell::lastFile(app), c[2]);
+    }
     for (const auto& c : table(" -> ; /a b.fwk -> \"/a b.fwk\"; \"/a.fwk\" -> \"/a.fwk\"; \" -> \"\"\"; "
                                "\"\" -> \"\"; \"a -> \"\"a\"; a\" -> \"a\"\""))
         EXPECT_EQ(shell::commandLineFor(c[0]), c[1]) << c[0];
@@ -150,7 +156,7 @@ TEST_F(Start, RecentFilesOpenWithoutAQuestion) {
 // Installed files are read-only for the user. The copy is his to change, and opened as he left it.
 TEST_F(Start, SamplesAreCalculatedAndCopiedOnce) {
     const fs::path samples = SAMPLES_DIR, copies = path("Ferrowick"), installed = path("library.fwk");
-    EXPECT_EQ(shell::samplesIn(samples).size(), 5U);
+    EXPECT_EQ(shell::samplesIn(samples).size() + shell::installedSamples().size(), 10U);
     for (const shell::Sample& sample : shell::samplesIn(samples)) {
         shell::openSample(app, sample, platform.folder);
         EXPECT_EQ(app.document.currentFile, copies / sample.file.filename());

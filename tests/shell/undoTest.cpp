@@ -7,6 +7,7 @@
 #include "entry/fieldEvents.h"
 #include "entry/navBar.h"
 #include "file/dataWriter.h"
+#include "history/undoStack.h"
 #include "invoice/repeatFrm.h"
 #include "layout/images.h"
 #include "layout/sheetFixture.h"
@@ -307,6 +308,39 @@ TEST_F(Undo, LeavesWhatIsTypedAndShowsTheRecordThatCameBack) {
     EXPECT_EQ(search::filterBar(app).found * 10 + search::filterBar(app).all, 24);
     undo();
     EXPECT_EQ(search::filterBar(app).found, 3);
+}
+
+TEST_F(Undo, APictureThatCannotBePutBackIsToldAndTheStepStays) {
+    openSheet("P|Photo|200|200|1000|1000|", false, DataFile("Name Photo:7", "Ann|"));
+    for (const char* bytes : {"first", "second"}) {
+        platform.files = {platform.pictureFile("art.jpg", {1000, 1000}, bytes)};
+        platform.answers = {platform::Answer::Yes};
+        event([&] { choosePicture(); });
+    }
+    const std::string file = app.document.currentFile;
+    const auto taken = shell::stepsTaken(app);
+    for (const bool isThere : {false, true}) {
+        if (!isThere) fs::rename(file, path("away"));
+        undo();
+        EXPECT_EQ(told().starts_with("! A picture could not be put back: "), !isThere);
+        EXPECT_EQ(shell::stepsTaken(app), taken + (isThere ? 1 : 0));
+        if (!isThere) fs::rename(path("away"), file);
+    }
+}
+
+// What was saved among them is known again when it is reached, and never when it is forgotten.
+TEST_F(Undo, TheOldestStepsAreForgotten) {
+    std::string& title = app.document.reportData.reportTitle;
+    for (const std::string saved : {"2", "3"}) {
+        openRecords(false);
+        for (std::size_t i = 1; i <= history::UndoStack::mostSteps + 3; ++i) {
+            event([&] { title = std::to_string(i), app::setDocumentModified(app, true); });
+            if (title == saved) event([&] { run("Save"); });
+        }
+        EXPECT_EQ(undoes(), "&Undo Page Setup");
+        for (; !undoes().empty(); undo()) EXPECT_TRUE(app.document.bModified);
+        EXPECT_EQ(title + (app.document.bModified ? " modified" : ""), saved == "3" ? "3" : "3 modified");
+    }
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 #include "entry/entryFrm.h"
 #include "entry/fieldEvents.h"
 #include "entry/navBar.h"
+#include "raised.h"
 #include "shell/mainWindow.h"
+#include "shell/start/recoveryOffer.h"
 #include "storage/cleanDatabase.h"
 #include "storage/newDatabase.h"
 #include "storage/openedFile.h"
@@ -95,6 +97,7 @@ TEST_F(Recovery, TriesAgainWhatCouldNotBeKept) {
         // Something lies in its place for a while.
         if (second == 3) fs::remove(work.copy.archive), fs::create_directory(work.copy.archive);
         if (second == 4) storage::markUnsaved(window.app, start + 4s);
+        EXPECT_FALSE(second == 10 && storage::keepUnsavedWork(window.app));
         if (second == 20) fs::remove(work.copy.archive);
         storage::tendUnsavedWork(window.app, start + second * 1s);
         while (storage::unsavedWork(window.app).writer.isRunning()) std::this_thread::sleep_for(1ms);
@@ -136,6 +139,12 @@ TEST_F(Recovery, IsThereAfterEveryEndButACleanOne) {
     const std::vector<End> ends = {
         {"killed", [](Window& w) { storage::keepUnsavedWork(w.app), w.kill(); }, 2},
         {"told to end", [](Window& w) { shell::keepForTheEnd(w.app); }, 2},
+        {"ended at once",
+         [this](Window& w) {
+             shell::endAtOnce(w.app);
+             EXPECT_FALSE(fs::exists(file::WriterLock::pathFor(file)));
+         },
+         2},
         {"closed, not saved",
          [](Window& w) { w.platform.answers = {platform::Answer::No}, shell::Form_QueryUnload(w.app); }, 0},
         {"closed without a question",
@@ -201,11 +210,31 @@ TEST_F(Recovery, IsOfferedAtTheNextOpenOfItsFile) {
     EXPECT_TRUE(copies().empty());
 }
 
+// Its folder has gone, or what is there is no database; and the first place that is chosen is none.
+TEST_F(Recovery, IsRestoredElsewhereWhenItsPlaceIsNone) {
+    for (const bool isGone : {true, false}) {
+        fs::create_directory(home / "in");
+        file = maker.make("in/books.fwk", DataFile("Name", "Bolt").text());
+        crash("Washer");
+        isGone ? fs::rename(home / "in", home / "away") : ScriptedPlatform::write(file, "text");
+        Window window(home);
+        window.platform.choices = {0, 0};
+        window.platform.files = {window.path("no/mine.fwk"), window.path("mine.fwk")};
+        for (int look = 0; look < 2; ++look) shell::offerRecovery(window.app, "");
+        EXPECT_EQ(window.app.document.currentFile + window.cells(),
+                  window.path("mine.fwk") + "Bolt|;Washer|;------|;");
+        const std::string told = window.told();
+        EXPECT_NE(told.find("no/mine.fwk could not be written: "), std::string::npos);
+        EXPECT_LT(told.find("\ni The file itself cannot be opened."), told.find("no/mine.fwk"));
+        fs::remove_all(home / "recovery");
+    }
+}
+
 TEST_F(Recovery, ShowsAgainWhatWasTypedOnTheSheet) {
     file = maker.make(
         "books.fwk",
         DataFile("Name Place", "Bolt|1;Nut|2").objects("F|Name|0|0|900|300;F|Place|0|900|900|300").text());
-    const std::string typed = "half\n a \\sent";
+    const std::string typed = "half\r\n a \\sent";
     for (const bool isNew : {false, true}) {
         {
             Window window(home);
@@ -321,6 +350,7 @@ TEST_F(Recovery, TwoWindowsAskEachOther) {
     second.platform.choices = {0}; // read only
     second.platform.files = {second.path("mine.fwk")};
     second.open(file);
+    EXPECT_EQ(raisedBy([&] { storage::cleanDatabase(second.app); }), core::errors::pathAccess);
     EXPECT_EQ(second.cells(), "Bolt|;Nut|;------|;");
     second.add("Mine");
     storage::SaveFile(second.app, false, false); // to another name, whose writer it is
@@ -371,11 +401,19 @@ TEST_F(Recovery, KnowsItsOwnWritesFromThoseOfOthers) {
     storage::newDatabase(window.app, false);
     EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
     window.open(file);
+    window.platform.files = {maker.path("./books.fwk")}; // a clone in the place of the open file
+    window.platform.answers = {platform::Answer::Yes};
+    storage::SaveFile(window.app, false, true);
+    EXPECT_EQ(window.dataFileOf(file).find("Bolt"), std::string::npos);
+    EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
     fs::remove(file);
     EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::Gone);
     storage::writeOpenedAgain(window.app);
     EXPECT_NE(window.dataFileOf(file).find("Bolt"), std::string::npos);
     EXPECT_EQ(storage::changeOfOpened(window.app), file::FileState::Change::None);
+    ScriptedPlatform::write(window.path("text"), "text"); // cannot be opened, and the lock is given back
+    window.open(window.path("text"));
+    EXPECT_FALSE(fs::exists(file::WriterLock::pathFor(file)));
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 #include "storage/versionsFrm.h"
 
 #include <fstream>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -143,6 +143,41 @@ TEST(VersionsFrm, ShowsRestoresAndCopies) {
     program.save();
     EXPECT_EQ(program.listed(), "3 3 3 2 ")
         << "with the pictures, without, with them again, and the first one";
+}
+
+TEST(VersionsFrm, TellsWhatCannotBeReadOrWritten) {
+    KeepingProgram program;
+    program.open(program.make("books.fwk", program.data.text(),
+                              {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l"}));
+    program.addAndSave("Screw", "3");
+    program.make("books.fwk", DataFile("Name Qty:4", "Theirs|1").text());
+    program.addAndSave("Washer", "4");
+    std::vector<fs::path> kept;
+    for (const auto& each : fs::recursive_directory_iterator(program.path("versions")))
+        if (each.is_regular_file()) kept.push_back(each.path());
+    const std::string cells = program.cells();
+    storage::versionsFrm form(program.app);
+    form.List1_Click(1);
+    for (const fs::path& each : kept)
+        if (each.extension() != ".fwk") fs::remove(each);
+    program.platform.files = {program.path("no/copy.fwk"), program.path("copy.fwk")};
+    for (int copy = 0; copy < 2; ++copy) form.copyBtn_Click();
+    for (const fs::path& each : kept)
+        if (each.extension() == ".fwk") writeBytes(each, std::string(fs::file_size(each), 'x'));
+    EXPECT_EQ(program.listed(), "? 2 ") << "those of others are counted, and cannot be";
+    form.showBtn_Click();
+    form.restoreBtn_Click();
+    program.app.mainFrm.bReadOnly = true;
+    form.restoreBtn_Click();
+    EXPECT_THAT(
+        program.told(),
+        testing::MatchesRegex("! The copy could not be written: .*\ni These pictures .*:\na\nb\nc\nd\ne\nf\n"
+                              "g\nh\ni\nj\nand 2 more\n! The version cannot be read: .*\n! The version "
+                              "could not be restored: .*\ni The database is open to read only.*"));
+    EXPECT_EQ(program.cells(), cells);
+    form.Text1 = "70";
+    form.CloseButton_Click();
+    EXPECT_TRUE(form.unloaded && program.platform.settings["VersionsMegabytes"] == "70");
 }
 
 TEST(VersionsFrm, Megabytes) {
