@@ -31,6 +31,7 @@ TEST(TextRows, OfAPage) {
         "<p>x<table border=1><tr><th>a</th><th> b \n c </th></tr><!-- <td>no --><TR "
         "class=x><TD>1<td>2</table>"
         "<table><tr><td>no</table> -> 1:a/b c/;2:1/2/;; "
+        "<table><tr><td>a</td>no<td>b</td>no</table> -> 1:a/b/;; "
         "<table><tr><td>&lt;&amp;&#65;&#x42;&nbsp;&none;&<td>a<br>b<p>c</p><script><td></script></table> -> "
         "1:<&AB &none;&/a\nbc/;; "
         "<table><tr><td colspan=\"2\" rowspan='2'>a<td>b<tr><td>c<tr><td>d</table> -> 1:a//b/;2://c/;3:d/;; "

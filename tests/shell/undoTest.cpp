@@ -282,6 +282,22 @@ TEST_F(Undo, AWholeDragIsOneStepAndASaveKeepsTheSteps) {
     EXPECT_FALSE(app.document.bModified);
 }
 
+TEST_F(Undo, AColumnGoesWithItsBoxesUnderItsOwnName) {
+    openRecords(false);
+    event([&] { page(true); });
+    const int boxes = objects.layoutField.count();
+    platform.answers.assign(6, platform::Answer::Yes);
+    event([&] {
+        goTo(app::reportTab);
+        calc::designFrm form(app);
+        form.selectedRow = 1;
+        form.deleteBtn_Click();
+        form.doneBtn_Click();
+    });
+    EXPECT_LT(objects.layoutField.count(), boxes);
+    EXPECT_EQ(undoes(), "&Undo Remove Column");
+}
+
 TEST_F(Undo, LeavesWhatIsTypedAndShowsTheRecordThatCameBack) {
     openRecords(false);
     const auto field = [&](int index) -> std::string& { return objects.layoutField[index].Text; };

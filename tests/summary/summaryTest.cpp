@@ -401,4 +401,15 @@ TEST(SummaryTable, BarsShareTheirRoom) {
     }
 }
 
+// A calculation with a point is money, as in the list.
+TEST(Summary, FiguresHaveATypeOfTheirOwn) {
+    Program program(DataFile("Name Sum:5 Price:2 Day:1 No:5", "a|$5.00|1|05/01/2015|7"));
+    std::vector<Figure> figures;
+    for (const char* column : {"Sum", "Price", "No"}) figures.push_back({FigureKind::Sum, column});
+    figures.push_back({FigureKind::Least, "Day"});
+    EXPECT_EQ(summarise(program.app.document, {{{"Name", {}}}, figures}, today).figureTypes,
+              (std::vector<core::ColumnType>{core::ColumnType::Currency, core::ColumnType::Currency,
+                                             core::ColumnType::Number, core::ColumnType::Date}));
+}
+
 } // namespace
