@@ -15,6 +15,7 @@
 #include "search/searchMode.h"
 #include "search/serialCheckFrm.h"
 #include "search/setValuesFrm.h"
+#include "shell/appearance.h"
 #include "shell/clipboardCommands.h"
 #include "shell/labelTable.h"
 #include "shell/listCommands.h"
