@@ -1,5 +1,6 @@
 #include "app/appearance.h"
 #include "app/looks.h"
+#include "app/windowState.h"
 #include "labels/labelFrm.h"
 #include "printRecorder.h"
 #include "shell/looks.h"
