@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/localeForm.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/summary/barChart.h"
 #include "gui/summary/summaryModel.h"
@@ -14,6 +15,8 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QTreeView>
+
+#include <optional>
 
 namespace gui {
 

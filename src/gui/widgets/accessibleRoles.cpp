@@ -1,6 +1,7 @@
 #include "gui/widgets/accessibleRoles.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace gui {
 
