@@ -74,6 +74,13 @@ TEST(ColourRules, AreKeptBesideTheDatabase) {
     program.platform.onForm = [&](std::string_view) {
         search::coloursFrm form(program.app);
         EXPECT_EQ(form.List1.at(static_cast<std::size_t>(form.ListIndex)), "Qty");
+        const auto boxes = [&](int entry) {
+            form.Combo1_Click(0, entry);
+            return int(form.rows[0].bText1) * 10 + int(form.rows[0].bText2);
+        };
+        // None, empty, equal, above, below, between.
+        for (const auto& [entry, shown] : std::map<int, int>{{0, 0}, {1, 0}, {2, 10}, {4, 10}, {5, 11}})
+            EXPECT_EQ(boxes(entry), shown) << entry;
         form.Combo1_Click(0, 3); // above
         form.Text1_Change(0, "x");
         form.OKButton_Click();
