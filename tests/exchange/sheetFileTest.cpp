@@ -53,7 +53,7 @@ struct SheetFile : FolderTest {
               "formatCode='[h]:mm'/><numFmt numFmtId='173' formatCode='#,##0.00 "
               "[$\xE2\x82\xAC-407]'/></numFmts><cellXfs><xf numFmtId='0'/><xf numFmtId='14'/><xf "
               "numFmtId='22'/><xf numFmtId='170'/><xf numFmtId='171'/><xf numFmtId='172'/><xf "
-              "numFmtId='173'/></cellXfs></s>"},
+              "numFmtId='173'/><xf numFmtId='47'/><xf numFmtId='48'/></cellXfs></s>"},
              {"xl/t.xml", "<sst>" + strings + "</sst>"},
              {"xl/s.xml", "<?xml version='1.0'?><!-- <row> --><x:worksheet>" + sheet + "</x:worksheet>"}});
     }
@@ -236,11 +236,14 @@ TEST_F(SheetFile, OfOtherPrograms) {
         "<x:v>1E+20</x:v></x:c><x:c><x:f>1/3</x:f><x:v>0.1000000000000000055</x:v></x:c></x:row><x:row "
         "r='9999999'/>";
     xlsx("a.xlsx", cells, "", "<si><t xml:space='preserve'> s\r\n</t><rPh><t>no</t></rPh></si>");
-    xlsx("b.xlsx", "<row><c s='1'><v>0</v></c><c s='6'><v>2</v></c></row>", "<workbookPr date1904='1'/>");
+    xlsx("b.xlsx",
+         "<row><c s='1'><v>0</v></c><c s='6'><v>2</v></c><c s='7'><v>1.5</v></c><c s='8'>"
+         "<v>1.5</v></c></row>",
+         "<workbookPr date1904='1'/>");
     EXPECT_EQ(told(read("a.xlsx")),
               "A&B: / s\n|-:|aA b|/D:1900-02-28|X:2024-12-31 13:05:00|D:1900-01-01|N:-1.50|h:36:00:00|"
               "B:true|D:2024-02-29|#DIV/0!|N:100000000000000000000|N:0.1|/");
-    EXPECT_EQ(told(read("b.xlsx")), "A&B: D:1904-01-01|$:2.00|/");
+    EXPECT_EQ(told(read("b.xlsx")), "A&B: D:1904-01-01|$:2.00|h:36:00:00|N:1.5|/");
     xlsx("m.xlsx",
          "<cols><col min='2' max='2' hidden='1'/></cols><sheetData><row><c><v>1</v></c><c><v>2</v></c><c>"
          "<v>3</v></c><c><v>4</v></c></row><row><c><v>5</v></c><c r='D2'><v>6</v></c></row><row><c r='C3'>"

@@ -205,9 +205,10 @@ press Escape -> ...
 
     // The window converts at its edges; the document has the program's own forms all the time.
     void valuesInTheFormOfTheCountry() {
-        const DataFile data = DataFile("Name Born:1 Price:2 Qty:4", "Ann|12/31/1999|$1,234.50|2.5;Bo|01/02/2000|$.50|3")
-                                  .section("Totaled Cols", "Price|")
-                                  .objects("F|Born|1440|1440|2000|600;F|Price|1440|2400|2000|600;F|Qty|1440|3360|2000|600");
+        const DataFile data =
+            DataFile("Name Born:1 Price:2 Qty:4", "Ann|12/31/1999|$1,234.50|2.5;Bo|01/02/2000|$.50|3")
+                .section("Totaled Cols", "Price|")
+                .objects("F|Born|1440|1440|2000|600;F|Price|1440|2400|2000|600;F|Qty|1440|3360|2000|600");
         const QString file = database("country.fwk", data);
         {
             Session run(file);

@@ -285,6 +285,8 @@ TEST_F(Undo, AWholeDragIsOneStepAndASaveKeepsTheSteps) {
 TEST_F(Undo, AColumnGoesWithItsBoxesUnderItsOwnName) {
     openRecords(false);
     event([&] { page(true); });
+    event([&] { after("Photo"); });
+    EXPECT_EQ(undoes(), "&Undo Add Object");
     const int boxes = objects.layoutField.count();
     platform.answers.assign(6, platform::Answer::Yes);
     event([&] {
