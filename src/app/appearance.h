@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/app.h"
-#include "core/localeForm.h"
+#include "core/locale/localeForm.h"
 
 #include <optional>
 

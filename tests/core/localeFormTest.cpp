@@ -1,4 +1,4 @@
-#include "core/localeForm.h"
+#include "core/locale/localeForm.h"
 #include "core/dates.h"
 #include "core/format.h"
 #include "core/number.h"

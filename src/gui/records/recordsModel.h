@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/localeForm.h"
+#include "core/locale/localeForm.h"
 #include "core/recordsList.h"
 #include "search/colourRules.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/localeForm.h"
+#include "core/locale/localeForm.h"
 #include "gui/frame/eventBoundary.h"
 #include "gui/summary/barChart.h"
 #include "gui/summary/summaryModel.h"

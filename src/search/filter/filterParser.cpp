@@ -391,38 +391,9 @@ private:
 
 } // namespace
 
-FilterColumns filterColumns(const core::Document& document, const core::RecordsList& list) {
-    FilterColumns columns;
-    for (const core::Column& column : list.columns) {
-        if (column.Index == 1) continue;
-        const core::Column* defined = document.LV.columns.find(column.Text);
-        columns.push_back({column.Text, column.Index - 1, (defined == nullptr ? column : *defined).type()});
-    }
-    return columns;
-}
-
 Filter parseFilter(std::string_view text, const FilterColumns& columns, std::chrono::year_month_day today,
                    int scope, const ConvertedValue& converted) {
     return Parser(text, columns, today, scope, converted).run();
-}
-
-std::string filterPiece(std::string_view column, std::string_view comparison, std::string_view value) {
-    const auto quoted = [](std::string_view text) {
-        std::string out = "\"";
-        out.append(core::replaceAll(text, "\"", "\"\"")).append("\"");
-        return out;
-    };
-    const auto isPlain = [](std::string_view text) {
-        return !text.empty() && std::ranges::all_of(text, [](char c) {
-            return core::isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-                   (c & 0x80) != 0;
-        });
-    };
-    std::string piece = isPlain(column) ? std::string(column) : quoted(column);
-    piece.append(comparison);
-    // Two points outside of quotes are a range, which the caller may want.
-    if (!value.empty()) piece.append(isPlain(value) ? std::string(value) : quoted(value));
-    return piece;
 }
 
 } // namespace search

@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "search/filter/folding.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -68,6 +69,35 @@ std::optional<Days> monthIn(std::string_view text) {
 }
 
 } // namespace
+
+FilterColumns filterColumns(const core::Document& document, const core::RecordsList& list) {
+    FilterColumns columns;
+    for (const core::Column& column : list.columns) {
+        if (column.Index == 1) continue;
+        const core::Column* defined = document.LV.columns.find(column.Text);
+        columns.push_back({column.Text, column.Index - 1, (defined == nullptr ? column : *defined).type()});
+    }
+    return columns;
+}
+
+std::string filterPiece(std::string_view column, std::string_view comparison, std::string_view value) {
+    const auto quoted = [](std::string_view text) {
+        std::string out = "\"";
+        out.append(core::replaceAll(text, "\"", "\"\"")).append("\"");
+        return out;
+    };
+    const auto isPlain = [](std::string_view text) {
+        return !text.empty() && std::ranges::all_of(text, [](char c) {
+            return core::isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+                   (c & 0x80) != 0;
+        });
+    };
+    std::string piece = isPlain(column) ? std::string(column) : quoted(column);
+    piece.append(comparison);
+    // Two points outside of quotes are a range, which the caller may want.
+    if (!value.empty()) piece.append(isPlain(value) ? std::string(value) : quoted(value));
+    return piece;
+}
 
 std::optional<std::int64_t> filterNumber(std::string_view text) {
     constexpr std::int64_t most = FilterTerm::highest - 1; // so that there is a next one

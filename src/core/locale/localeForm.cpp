@@ -1,4 +1,4 @@
-#include "core/localeForm.h"
+#include "core/locale/localeForm.h"
 
 #include "core/cellText.h"
 #include "core/dates.h"
