@@ -43,9 +43,22 @@ function(ferrowick_unity)
 endfunction()
 
 # ferrowick_precompile(TARGET HEADER ...)
-# A file must still include what it uses: builds without FERROWICK_PCH, and the fuzz targets, check that.
+# A file must still include what it uses: builds without FERROWICK_PCH, and the fuzz targets, check that. In optimised
+# builds GCC 12 takes precompiled standard headers for the project's own and warns of them.
 function(ferrowick_precompile target)
-    if(FERROWICK_PCH)
+    if(FERROWICK_PCH AND CMAKE_BUILD_TYPE STREQUAL "Debug")
         target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
+# ferrowick_moc(TARGET)
+# Classes with signals: what Qt's moc makes of them.
+function(ferrowick_moc target)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    if(FERROWICK_UNITY)
+        find_package(Qt6 REQUIRED COMPONENTS CoreTools)
+        get_target_property(moc Qt6::moc IMPORTED_LOCATION)
+        configure_file(${PROJECT_SOURCE_DIR}/cmake/moc.sh.in ${PROJECT_BINARY_DIR}/moc.sh @ONLY)
+        set_target_properties(${target} PROPERTIES AUTOMOC_EXECUTABLE ${PROJECT_BINARY_DIR}/moc.sh)
     endif()
 endfunction()

@@ -48,3 +48,5 @@ void databaseTypeFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_databaseTypeFrmView.cpp"

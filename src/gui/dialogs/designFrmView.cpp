@@ -193,3 +193,5 @@ void designFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_designFrmView.cpp"

@@ -54,3 +54,5 @@ disclaimFrmView::disclaimFrmView(QWidget* parent) : QDialog(parent) {
 }
 
 } // namespace gui
+
+#include "moc_disclaimFrmView.cpp"

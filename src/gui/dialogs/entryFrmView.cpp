@@ -390,3 +390,5 @@ void entryFrmView::focusArrives(int index, QEvent& event) {
 }
 
 } // namespace gui
+
+#include "moc_entryFrmView.cpp"

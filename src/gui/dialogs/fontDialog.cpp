@@ -218,3 +218,5 @@ platform::FontChoice FontDialog::choice() const {
 }
 
 } // namespace gui
+
+#include "moc_fontDialog.cpp"

@@ -82,3 +82,5 @@ void FormView::reject() {
 }
 
 } // namespace gui
+
+#include "moc_formView.cpp"

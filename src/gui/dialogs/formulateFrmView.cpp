@@ -218,3 +218,5 @@ void formulateFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_formulateFrmView.cpp"

@@ -70,3 +70,5 @@ void mailFrmView::showMessage() {
 }
 
 } // namespace gui
+
+#include "moc_mailFrmView.cpp"

@@ -64,3 +64,5 @@ void repeatFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_repeatFrmView.cpp"

@@ -70,3 +70,5 @@ void serialFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_serialFrmView.cpp"

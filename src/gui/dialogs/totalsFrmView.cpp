@@ -32,3 +32,5 @@ void TotalsFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_totalsFrmView.cpp"

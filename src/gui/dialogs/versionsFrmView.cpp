@@ -155,3 +155,5 @@ void versionsFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_versionsFrmView.cpp"

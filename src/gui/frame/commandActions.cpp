@@ -212,3 +212,5 @@ void CommandActions::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_commandActions.cpp"

@@ -118,3 +118,5 @@ void Drops::dropPicture(const QMimeData& data, int box) {
 }
 
 } // namespace gui
+
+#include "moc_drops.cpp"

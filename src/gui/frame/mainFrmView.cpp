@@ -176,3 +176,5 @@ void MainFrmView::changeEvent(QEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_mainFrmView.cpp"

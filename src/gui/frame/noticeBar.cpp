@@ -119,3 +119,5 @@ void NoticeBar::changeEvent(QEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_noticeBar.cpp"

@@ -155,3 +155,5 @@ bool PaneKeys::eventFilter(QObject* watched, QEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_paneKeys.cpp"

@@ -196,3 +196,5 @@ void StartPage::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_startPage.cpp"

@@ -124,3 +124,5 @@ void StatusPanels::shareRoom() {
 }
 
 } // namespace gui
+
+#include "moc_statusPanels.cpp"

@@ -27,3 +27,5 @@ void UnsavedTimer::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_unsavedTimer.cpp"

@@ -396,3 +396,5 @@ void labelFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_labelFrmView.cpp"

@@ -51,3 +51,5 @@ void LabelPreview::paintEvent(QPaintEvent*) {
 }
 
 } // namespace gui
+
+#include "moc_labelPreview.cpp"

@@ -132,3 +132,5 @@ void LabelSheetPicture::keyPressEvent(QKeyEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_labelSheetPicture.cpp"

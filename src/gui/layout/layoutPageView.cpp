@@ -244,3 +244,5 @@ void LayoutPageView::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_layoutPageView.cpp"

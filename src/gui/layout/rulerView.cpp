@@ -155,3 +155,5 @@ void RulerView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_rulerView.cpp"

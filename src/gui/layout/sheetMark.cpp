@@ -38,3 +38,5 @@ void SheetMark::paintEvent(QPaintEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_sheetMark.cpp"

@@ -297,3 +297,5 @@ void SheetObjects::stack(std::vector<Placed> placed) {
 }
 
 } // namespace gui
+
+#include "moc_sheetObjects.cpp"

@@ -92,3 +92,5 @@ void SheetPaper::paintGuides(QPainter& painter) const {
 }
 
 } // namespace gui
+
+#include "moc_sheetPaper.cpp"

@@ -86,3 +86,5 @@ void SheetShape::paintPicture(QPainter& painter) {
 }
 
 } // namespace gui
+
+#include "moc_sheetShape.cpp"

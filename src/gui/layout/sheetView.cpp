@@ -394,3 +394,5 @@ void SheetView::showImportMenu(QPoint place) {
 }
 
 } // namespace gui
+
+#include "moc_sheetView.cpp"

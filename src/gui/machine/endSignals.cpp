@@ -51,3 +51,5 @@ EndSignals::~EndSignals() {
 }
 
 } // namespace gui
+
+#include "moc_endSignals.cpp"

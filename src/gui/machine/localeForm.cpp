@@ -14,9 +14,9 @@ void readDateForm(LocaleForm& form, const QString& pattern) {
                  : day < month              ? LocaleForm::DateOrder::DayMonthYear
                                             : LocaleForm::DateOrder::MonthDayYear;
     form.dateSeparator = '/';
-    for (const char separator : {'.', '/', '-'})
-        if (pattern.contains(QLatin1Char(separator))) {
-            form.dateSeparator = separator;
+    for (const char mark : {'.', '/', '-'})
+        if (pattern.contains(QLatin1Char(mark))) {
+            form.dateSeparator = mark;
             break;
         }
 }

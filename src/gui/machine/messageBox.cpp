@@ -101,3 +101,5 @@ void MessageBox::keyPressEvent(QKeyEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_messageBox.cpp"

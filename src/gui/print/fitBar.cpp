@@ -38,3 +38,5 @@ void FitBar::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_fitBar.cpp"

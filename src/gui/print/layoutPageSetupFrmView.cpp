@@ -109,3 +109,5 @@ void layoutPageSetupFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_layoutPageSetupFrmView.cpp"

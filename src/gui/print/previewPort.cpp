@@ -94,3 +94,5 @@ void PreviewPort::keyPressEvent(QKeyEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_previewPort.cpp"

@@ -189,3 +189,5 @@ void PreviewView::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_previewView.cpp"

@@ -106,3 +106,5 @@ void reportChoicesFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_reportChoicesFrmView.cpp"

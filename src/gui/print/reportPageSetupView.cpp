@@ -83,3 +83,5 @@ void reportPageSetupView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_reportPageSetupView.cpp"

@@ -242,3 +242,5 @@ void FilterBar::underline(qsizetype from, qsizetype size) {
 }
 
 } // namespace gui
+
+#include "moc_filterBar.cpp"

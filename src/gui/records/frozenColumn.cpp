@@ -96,3 +96,5 @@ int FrozenColumn::column(QPoint place) const {
 }
 
 } // namespace gui
+
+#include "moc_frozenColumn.cpp"

@@ -163,3 +163,5 @@ void RecordsHeader::paintSection(QPainter* painter, const QRect& rect, int logic
 }
 
 } // namespace gui
+
+#include "moc_recordsHeader.cpp"

@@ -152,3 +152,5 @@ QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 } // namespace gui
+
+#include "moc_recordsModel.cpp"

@@ -364,3 +364,5 @@ void RecordsView::focusOutEvent(QFocusEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_recordsView.cpp"

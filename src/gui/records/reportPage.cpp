@@ -107,3 +107,5 @@ void ReportPage::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_reportPage.cpp"

@@ -44,3 +44,5 @@ QSize SelectedTotalsView::sizeHint() const {
 }
 
 } // namespace gui
+
+#include "moc_selectedTotalsView.cpp"

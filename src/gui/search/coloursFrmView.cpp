@@ -137,3 +137,5 @@ void coloursFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_coloursFrmView.cpp"

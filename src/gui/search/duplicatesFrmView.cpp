@@ -128,3 +128,5 @@ void duplicatesFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_duplicatesFrmView.cpp"

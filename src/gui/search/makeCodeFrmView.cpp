@@ -215,3 +215,5 @@ void makeCodeFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_makeCodeFrmView.cpp"

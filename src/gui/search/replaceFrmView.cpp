@@ -103,3 +103,5 @@ void replaceFrmView::reject() {
 }
 
 } // namespace gui
+
+#include "moc_replaceFrmView.cpp"

@@ -214,3 +214,5 @@ void searchFrmView::refresh() {
 }
 
 } // namespace gui
+
+#include "moc_searchFrmView.cpp"

@@ -46,3 +46,5 @@ void serialCheckFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_serialCheckFrmView.cpp"

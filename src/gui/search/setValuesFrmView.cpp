@@ -124,3 +124,5 @@ void setValuesFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_setValuesFrmView.cpp"

@@ -209,3 +209,5 @@ bool BarChart::viewportEvent(QEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_barChart.cpp"

@@ -113,3 +113,5 @@ void statisticsFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_statisticsFrmView.cpp"

@@ -377,3 +377,5 @@ void SummaryDock::closeEvent(QCloseEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_summaryDock.cpp"

@@ -61,3 +61,5 @@ QVariant SummaryModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 } // namespace gui
+
+#include "moc_summaryModel.cpp"

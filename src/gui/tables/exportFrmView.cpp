@@ -88,3 +88,5 @@ void exportFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_exportFrmView.cpp"

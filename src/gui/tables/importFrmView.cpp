@@ -315,3 +315,5 @@ void importFrmView::sizeColumns() {
 }
 
 } // namespace gui
+
+#include "moc_importFrmView.cpp"

@@ -155,3 +155,5 @@ void pasteFrmView::showMembers() {
 }
 
 } // namespace gui
+
+#include "moc_pasteFrmView.cpp"

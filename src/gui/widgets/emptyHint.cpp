@@ -118,3 +118,5 @@ bool EmptyHint::eventFilter(QObject* watched, QEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_emptyHint.cpp"

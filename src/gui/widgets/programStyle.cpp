@@ -124,3 +124,5 @@ QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* optio
 }
 
 } // namespace gui
+
+#include "moc_programStyle.cpp"

@@ -29,3 +29,5 @@ void ScopeButtons::choose(int scope) {
 }
 
 } // namespace gui
+
+#include "moc_scopeButtons.cpp"

@@ -172,3 +172,5 @@ void SuggestionList::hideEvent(QHideEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_suggestionList.cpp"

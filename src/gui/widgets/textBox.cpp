@@ -229,3 +229,5 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_textBox.cpp"

@@ -22,3 +22,5 @@ void TickMenu::keyPressEvent(QKeyEvent* event) {
 }
 
 } // namespace gui
+
+#include "moc_tickMenu.cpp"

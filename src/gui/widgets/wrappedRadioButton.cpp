@@ -67,3 +67,5 @@ void WrappedRadioButton::paintEvent(QPaintEvent*) {
 }
 
 } // namespace gui
+
+#include "moc_wrappedRadioButton.cpp"
