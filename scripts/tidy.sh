@@ -3,8 +3,7 @@
 #   scripts/tidy.sh [--quick] [BUILD]
 # --quick  what errors of this project have come to light by; the others, and the paths that the analyzer follows, take
 #          three quarters of the time
-# BUILD is a configured and built folder (default build/sanitized), which says how each source is compiled. One that
-# compiles several files as one is read in a sixth of the time.
+# BUILD is a configured and built folder (default build/sanitized), which says how each source is compiled.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
 
@@ -23,15 +22,8 @@ if [[ ! -f $build/compile_commands.json ]]; then
     echo "tidy.sh: $build is not built" >&2
     exit 2
 fi
-# What moc and rcc make is not ours to mend, the build's warning flags may be those of another compiler, and so may be its
-# precompiled headers. Where they are clang's own, those of the window save a third of its time; those of the rooms none.
+scripts/tidy-database.py "$build"
 database=$build/tidy
-mkdir -p "$database"
-sed -E 's/ -Winvalid-pch//
-    /clang\+\+-14 .*ferrowick_gui\.dir/!{
-        s/ -include [^ ]*cmake_pch\.hxx//
-        s/( -Xclang -include(-pch)? -Xclang [^ ]*)+//
-        s/ -fsanitize=[^ ]*//g
-    }' "$build/compile_commands.json" >"$database/compile_commands.json"
+# The build's warning flags may be those of another compiler.
 exec run-clang-tidy-14 -quiet -j "$(nproc)" -p "$database" "${checks[@]}" -extra-arg=-Wno-unknown-warning-option \
-    -extra-arg=-Wno-error "^$PWD/src/" '/src/.*/Unity/unity_'
+    -extra-arg=-Wno-error
