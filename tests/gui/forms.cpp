@@ -270,5 +270,5 @@ press Escape -> ...
     }
 };
 
-QTEST_MAIN(Forms)
+GUI_TEST(Forms)
 #include "forms.moc"

@@ -297,7 +297,7 @@ tab 0; click viewOpt1; look iLV; click iLV #1; click Delete -> "Subtotal96 No96 
     void randomEvents() {
         for (const bool invoices : {false, true}) {
             const QString file = database("events.fwk", numberedRecords(invoices));
-            const std::string wrong = failureOf(500, Open, [&](const SheetEvents& events) {
+            const std::string wrong = failureOf(300, Open, [&](const SheetEvents& events) {
                 Hands run(file);
                 return SheetUser(run).play(events);
             });
@@ -306,5 +306,5 @@ tab 0; click viewOpt1; look iLV; click iLV #1; click Delete -> "Subtotal96 No96 
     }
 };
 
-QTEST_MAIN(Journeys)
+GUI_TEST(Journeys)
 #include "journeys.moc"

@@ -282,8 +282,9 @@ private slots:
             complaints.unspoken(dialog);
             complaints.faint(dialog);
             complaints.misplaced(dialog);
-            if (language.size() != 2)
-                complaints.unreached(dialog); // the slowest, and the same in each language
+            if (language.isEmpty() || QApplication::isRightToLeft())
+                complaints.unreached(
+                    dialog); // the slowest, and the same in each language but for the colours
             const int title = dialog.fontMetrics().horizontalAdvance(dialog.windowTitle());
             complaints.expect(title > 0 && dialog.width() > title, "narrower than its title", dialog);
             const int room = dialog.screen()->availableSize().height();
@@ -291,7 +292,9 @@ private slots:
             ++shown;
             dialog.close();
         };
+        const bool isReal = language.size() == 2; // what stands on dialogs of invoices is seen in the others
         for (const char* file : {"books.fwk", "invoices.fwk"}) {
+            if (isReal && *file == 'i') continue;
             Session run(sample(file), *file == 'b' ? 13 : 9);
             complaints.ownTexts(run.app);
             run.onDialog = look;
@@ -316,7 +319,7 @@ private slots:
         complaints.all.removeDuplicates();
         for (const QString& each : complaints.all) qWarning().noquote() << each;
         QVERIFY(complaints.all.isEmpty());
-        QCOMPARE(shown, 49);
+        QCOMPARE(shown, isReal ? 28 : 49);
     }
 
     void theMainWindow() {
@@ -346,7 +349,8 @@ private slots:
             }
             for (const QAction* action : run.window.findChildren<QAction*>()) {
                 const std::string key = gui::fromQt(action->objectName());
-                if (!language.isEmpty() || !shell::hasCommand(key) || shell::command(key).icon.empty())
+                if (*file != 0 || !language.isEmpty() || !shell::hasCommand(key) ||
+                    shell::command(key).icon.empty())
                     continue;
                 const QImage light = action->icon().pixmap(QSize(24, 24)).toImage();
                 gui::useDarkColours();
@@ -363,5 +367,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(Languages)
+GUI_TEST(Languages)
 #include "languages.moc"

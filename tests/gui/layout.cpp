@@ -210,5 +210,5 @@ tab 0 -> Totals Properties Delete page LV.rows=43 top 0 at 6 7|Pride and Prejudi
     }
 };
 
-QTEST_MAIN(Layout)
+GUI_TEST(Layout)
 #include "layout.moc"

@@ -195,5 +195,5 @@ tab 1; click hint_Design -> Totals=- Properties=- Design=x ...
     }
 };
 
-QTEST_MAIN(Looks)
+GUI_TEST(Looks)
 #include "looks.moc"

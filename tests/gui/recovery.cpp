@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 // What the window does by itself to lose nothing: timers, signals, the bar, and the questions as they are
 // shown.
-class RecoveryTest : public GuiTest {
+class Recovery : public GuiTest {
     Q_OBJECT
 
 private:
@@ -141,5 +141,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RecoveryTest)
+GUI_TEST(Recovery)
 #include "recovery.moc"

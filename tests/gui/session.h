@@ -67,6 +67,9 @@ private:
 //
 // Behind "..." stand changes that do not matter; screen.h says how they are told.
 class Session : public QObject {
+    // Before the window is made, or the first of a process had columns of other widths.
+    const bool isFontSet_;
+
 public:
     ScriptedPlatform platform;
     shell::Program app{platform};
@@ -74,8 +77,7 @@ public:
     std::function<void(QDialog&)> onDialog; // in place of acts; it is closed behind it
 
     // With a font of its own, so that rows are as high everywhere.
-    explicit Session(const QString& file = {}, int points = 9) {
-        QApplication::setFont(QFont(u"Liberation Sans"_s, points));
+    explicit Session(const QString& file = {}, int points = 9) : isFontSet_(setFont(points)) {
         QApplication::setKeyboardInputInterval(60'000); // however slowly a row's beginning is typed
         qApp->installEventFilter(this);
         window.load(shell::commandLineFor(gui::fromQt(file)));
@@ -117,6 +119,10 @@ protected:
     }
 
 private:
+    static bool setFont(int points) {
+        QApplication::setFont(QFont(u"Liberation Sans"_s, points));
+        return true;
+    }
     QWidget& top() {
         QWidget* dialog = QApplication::activeModalWidget();
         return dialog != nullptr ? *dialog : window;
@@ -249,6 +255,18 @@ private:
     Screen screen_{app};
     bool isWrong_ = false;
 };
+
+// The classes of tests by their names in small letters.
+inline std::map<std::string, std::function<std::unique_ptr<QObject>()>>& guiTests() {
+    static std::map<std::string, std::function<std::unique_ptr<QObject>()>> tests;
+    return tests;
+}
+// Behind the class, in a file of the same name.
+#define GUI_TEST(Test)                                                                                       \
+    static const bool is##Test##Known =                                                                      \
+        guiTests()                                                                                           \
+            .emplace(QStringLiteral(#Test).toLower().toStdString(), [] { return std::make_unique<Test>(); }) \
+            .second;
 
 // Tests with folders of their own, for the user's and for copies of the samples.
 class GuiTest : public QObject {

@@ -1,7 +1,7 @@
 #include "session.h"
 
 // The dialog of the versions: what it shows, and when it shows the state anew.
-class VersionsTest : public GuiTest {
+class Versions : public GuiTest {
     Q_OBJECT
 
 private slots:
@@ -29,5 +29,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(VersionsTest)
+GUI_TEST(Versions)
 #include "versions.moc"

@@ -180,5 +180,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(Windows)
+GUI_TEST(Windows)
 #include "windows.moc"
