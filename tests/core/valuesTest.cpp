@@ -124,7 +124,7 @@ TEST(Format, WritesEveryMask) {
 TEST(Format, OfAValueIsThatOfItsText) {
     EXPECT_EQ(format(1.2649999999999999, Mask::Money) + format(434.99999999999994, Mask::Money),
               "$1.27$435.00");
-    for (int i = -3000; i < 3000; ++i)
+    for (int i = -3000; i < 3000; i += 3)
         for (const double scale : {1.0, 1.0 / 3, 1.0 / 200, 1e-7, 1e5 + 0.01, 1e8 + 0.5}) {
             const double value = i * scale;
             for (const double near : {value, std::nextafter(value, 1e300), value + 0.005, value + 1e-13})

@@ -245,7 +245,7 @@ Part filter(Chance& chance) {
 TEST(Filter, FindsWhatALoopFindsWhileItIsTypedAndRecordsChange) {
     Chance chance;
     int some = 0;
-    for (int base = 0; base < 20; ++base) {
+    for (int base = 0; base < 10; ++base) {
         std::vector<Plain> plain;
         std::string rows;
         for (int i = 0; i < 60; ++i) {
@@ -291,7 +291,7 @@ TEST(Filter, FindsWhatALoopFindsWhileItIsTypedAndRecordsChange) {
             app::setDocumentModified(program.app, true);
         }
     }
-    EXPECT_GT(some, 500) << "of 1,000 filters find something";
+    EXPECT_GT(some, 250) << "of 500 filters find something";
 }
 
 } // namespace
