@@ -2,7 +2,7 @@
 # Runs clang-tidy with the project's rules over src/.
 #   scripts/tidy.sh [--quick] [BUILD]
 # --quick  what errors of this project have come to light by; the others, and the paths that the analyzer follows, take
-#          three quarters of the time
+#          half as long again
 # BUILD is a configured and built folder (default build/sanitized), which says how each source is compiled.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."

@@ -31,12 +31,12 @@ public:
     std::vector<const LabelStock*> List1; // the stocks found
     int findings = 0;                     // goes up whenever there are others
     int ListIndex = -1;
-    bool bOwnSize = false;
     // The user's own sheet, in millimetres; as typed.
     enum Own { Width, Height, Columns, Rows, Left, Top, ColumnGap, RowGap, OwnBoxes };
     std::array<std::string, OwnBoxes> ownTxt;
     std::vector<std::string> paperCbo;
     int paperIndex = 0;
+    bool bOwnSize = false;
     std::string fault;               // why there is no going on; empty
     std::optional<LabelStock> stock; // the chosen one
 

@@ -17,8 +17,8 @@ namespace {
 class ColumnRun {
 public:
     ColumnRun(const core::Document& document, std::string_view name, std::chrono::year_month_day today)
-        : column_(document.LV.columns[name]), items_(document), bItems_(items_.isItemColumn(column_)),
-          reader_(column_.type(), {}, today), counter_(column_.type(), today),
+        : column_(document.LV.columns[name]), items_(document), reader_(column_.type(), {}, today),
+          counter_(column_.type(), today), bItems_(items_.isItemColumn(column_)),
           isNumber_(isCounted(FigureKind::Sum, column_.type())),
           isOrdered_(isCounted(FigureKind::Least, column_.type())) {
         statistics_.type = column_.type();
@@ -90,10 +90,9 @@ private:
 
     const core::Column& column_;
     ItemRows items_;
-    bool bItems_;
     GroupReader reader_;
     Counter counter_;
-    bool isNumber_, isOrdered_;
+    bool bItems_, isNumber_, isOrdered_;
     Statistics statistics_;
     std::vector<std::size_t> counts_; // for each of the reader's keys
     std::vector<Amount> amounts_;
