@@ -164,7 +164,8 @@ TEST_F(SheetFile, OfOtherPrograms) {
     const std::string cells =
         "<cols><col min='3' max='3' hidden='1'/></cols><x:sheetData><x:row r='2'><x:c r='A2' "
         "t='s'><x:v>0</x:v></x:c>"
-        "<x:c r='C2'><x:v>9</x:v></x:c><x:c r='D2' t='inlineStr'><x:is><x:r><x:t>a_x0041_</x:t></x:r><x:t> b"
+        "<x:c r='C2'><x:v>9</x:v></x:c><x:c r='D2' "
+        "t='inlineStr'><x:is><x:r><x:t>a_x0041__x20AC_</x:t></x:r><x:t> b"
         "</x:t></x:is></x:c></x:row><x:row r='3' hidden='1'><x:c><x:v>1</x:v></x:c></x:row><x:row><x:c "
         "s='1'><x:v>60.5"
         "</x:v></x:c><x:c s='2'><x:v>45657.545138888891</x:v></x:c><x:c/><x:c s='3'><x:v>1</x:v></x:c><x:c "
@@ -179,9 +180,10 @@ TEST_F(SheetFile, OfOtherPrograms) {
          "<row><c s='1'><v>0</v></c><c s='6'><v>2</v></c><c s='7'><v>1.5</v></c><c s='8'>"
          "<v>1.5</v></c></row>",
          "<workbookPr date1904='1'/>");
-    EXPECT_EQ(told(read("a.xlsx")),
-              "A&B: / s\n|-:|aA b|/D:1900-02-28|X:2024-12-31 13:05:00|D:1900-01-01|N:-1.50|h:36:00:00|"
-              "B:true|D:2024-02-29|#DIV/0!|N:100000000000000000000|N:0.1|/");
+    EXPECT_EQ(
+        told(read("a.xlsx")),
+        "A&B: / s\n|-:|aA\xE2\x82\xAC b|/D:1900-02-28|X:2024-12-31 13:05:00|D:1900-01-01|N:-1.50|h:36:00:00|"
+        "B:true|D:2024-02-29|#DIV/0!|N:100000000000000000000|N:0.1|/");
     EXPECT_EQ(told(read("b.xlsx")), "A&B: D:1904-01-01|$:2.00|h:36:00:00|N:1.5|/");
     xlsx("m.xlsx",
          "<cols><col min='2' max='2' hidden='1'/></cols><sheetData><row><c><v>1</v></c><c><v>2</v></c><c>"

@@ -2,6 +2,7 @@
 #include "databases.h"
 #include "search/codes/codeRules.h"
 #include "search/codes/makeCodeFrm.h"
+#include "search/filter/filterMode.h"
 #include "shell/undo.h"
 
 #include <gtest/gtest.h>
@@ -82,6 +83,17 @@ TEST(MakeCode, AllOrNoneUndoneAndMadeAnew) {
     app::setDocumentModified(program.app, true);
     EXPECT_NE(program.app.document.LV.at(2).subItem(3).str(), before);
     EXPECT_EQ(search::codeRuleOf(program.app, "Pic")->source, "{Name}, {Title}");
+}
+
+TEST(MakeCode, ResultsShowWhatWasMade) {
+    Program program(stock);
+    search::setFilter(program.app, "Nut", {});
+    inForm(program, "QR", "{Name}", [&](search::makeCodeFrm& form) {
+        form.OKButton_Click();
+        const std::string made = program.app.document.LV.at(2).subItem(3).str();
+        EXPECT_EQ(program.app.document.searchLV.at(1).subItem(3).str(), made);
+        EXPECT_FALSE(made.empty());
+    });
 }
 
 // Texts that give no code are left out or lose the one that they had, but no picture of the user's own.
